@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+
+struct Program;
+struct FieldRef;
+
+/// Calls from the document level to rooms above it. The document never knows who answers; one wiring unit
+/// connects them. An empty hook means that nobody answers.
+struct Hooks {
+    using Call = std::function<void(Program&)>;
+    using FieldCall = std::function<void(Program&, const FieldRef&)>;
+
+    FieldCall Change;    ///< a field's text changed
+    FieldCall GotFocus;  ///< a field has taken the focus
+    FieldCall LostFocus; ///< a field is about to lose it
+
+    std::function<void(Program&, int)> UpdatePageButtons; ///< change the page, 0 to 6
+    Call CollectQtyBoxes;                                 ///< bring the stores up to what the row fields show
+    Call DeSelectAllControls;                             ///< end a block selection on all pages
+    Call ShowTaxRateWindow;
+    Call ReadFrequentlyUsedTerms;
+    Call ShowTermsWindow;
+    Call ShowCalculator;
+    Call CloseFootnotes;
+    Call ReadEventDates;
+    /// The assignment language of format and property files.
+    Call OpenFormatFile;
+    Call ParsePropertyFile;
+    Call AssignPropChanges;
+};

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct Program;
+
+enum class Modality { Modeless, Modal };
+
+/// A small window of the program: its controls are records in the derived class, its handlers are members
+/// named
+/// `<control>_<event>`. Opening a window returns at once, also for a modal one: everything that follows from
+/// it happens in its handlers. While a modal window stands, the front end gives input to it alone.
+class Window {
+public:
+    virtual ~Window() = default;
+
+    /// The window's name, as "frmFile"; the front end chooses the view by it.
+    [[nodiscard]] virtual std::string_view Name() const = 0;
+    [[nodiscard]] virtual Modality Mode() const = 0;
+
+    /// Runs once when the window opens, before it shows.
+    virtual void Form_Load(Program&) {}
+    /// Runs once when the window closes by any way.
+    virtual void Form_Unload(Program&) {}
+    /// Escape, or the close box.
+    virtual void Form_Cancel(Program& program);
+
+    std::string Caption;
+    /// Set by the window's own handlers; the window leaves the collection when the event has ended.
+    bool Closing = false;
+};
+
+/// Every open window but the main one, in the order of opening.
+struct WindowCollection {
+    std::vector<std::unique_ptr<Window>> Open;
+};
+
+namespace modWindows {
+
+/// Opens a window: runs Form_Load and puts it last in the collection.
+Window& Show(Program& program, std::unique_ptr<Window> window);
+
+/// Closes a window: runs Form_Unload and marks it; `Sweep` takes it out.
+void Close(Program& program, Window& window);
+
+/// Takes closed windows out of the collection. Called by the front end and the tests when an event has ended,
+/// never while a handler of the window may still be running.
+void Sweep(Program& program);
+
+/// The open window of that name, or null.
+[[nodiscard]] Window* Find(Program& program, std::string_view name);
+
+/// The modal window that takes all input, or null.
+[[nodiscard]] Window* TopModal(Program& program);
+
+/// Closes all windows from the last to the first.
+void UnloadAll(Program& program);
+
+} // namespace modWindows

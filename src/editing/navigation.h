@@ -1,0 +1,20 @@
+#pragma once
+
+#include "document/page_records.h"
+
+struct Program;
+
+/// Where Enter, Tab and the arrows go, from tables.
+namespace modNavigate {
+
+enum class Step { Enter, Up, Down };
+
+/// Moves from a text area as the tables say and applies the scroll test. From a page's last area Enter and
+/// Down change to the following page's first area.
+void Move(Program& program, PageId page, int index, Step step);
+
+/// After a move that left `fieldTop`: scrolls a window's part when the field left stood at the edge.
+enum class Direction { Up, Down };
+void ScrollTest(Program& program, PageId page, float fieldTop, Direction direction);
+
+} // namespace modNavigate

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "document/page_records.h"
+
+struct Program;
+
+namespace keys {
+inline constexpr int kBackspace = 8, kTab = 9, kEnter = 13, kShift = 16, kBlank = 32, kPageUp = 33,
+                     kPageDown = 34;
+inline constexpr int kLeft = 37, kUp = 38, kRight = 39, kDown = 40, kInsert = 45, kDelete = 46, kV = 86;
+inline constexpr int kF5 = 116, kF6 = 117, kF8 = 119;
+inline constexpr int kShiftState = 1, kCtrlState = 2;
+} // namespace keys
+
+/// Whether a handler has used up a key or character.
+enum class Taken { No, Yes };
+
+/// What typing, clicking and leaving do in the text areas of frmP1 to frmP6.
+namespace modText {
+
+/// A text changed, by the person or by program. Quiet while pages are filled, read, printed or formatted,
+/// during a block move, in a block selection that is not refiring, and while a completion stands.
+void txt_Change(Program& program, PageId page, int index);
+[[nodiscard]] Taken txt_KeyDown(Program& program, PageId page, int index, int keyCode, int shift);
+/// `keyAscii` 0 afterwards: the character is cancelled.
+void txt_KeyPress(Program& program, PageId page, int index, int& keyAscii);
+void txt_KeyUp(Program& program, PageId page, int index, int keyCode, int shift);
+void txt_GotFocus(Program& program, PageId page, int index);
+void txt_LostFocus(Program& program, PageId page, int index);
+void txt_MouseDown(Program& program, PageId page, int index, int button, int shift);
+void txt_MouseUp(Program& program, PageId page, int index);
+void txt_DblClick(Program& program, PageId page, int index);
+
+void CheckForPush(Program& program);
+void PushTheText(Program& program, PageId page, int index);
+void RefireTextChanges(Program& program, PageId page);
+/// Red for every area of a page over a limit, grey for the rest; blue areas stay.
+void ResetMyTextBoxColors(Program& program, PageId page);
+/// Whether a text is over its area's width or character limit.
+[[nodiscard]] bool OverLimit(const Program& program, PageId page, const TextArea& area);
+
+} // namespace modText

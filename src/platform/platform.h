@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/printers.h"
+#include "platform/questions.h"
+#include "platform/surroundings.h"
+#include "platform/text_measure.h"
+
+/// All that the model asks of its surroundings. Two programs may stand on two platforms in one process.
+struct Platform {
+    Questions& questions;
+    TextMeasure& measure;
+    Printers& printers;
+    Screen& screen;
+    Clipboard& clipboard;
+    Shell& shell;
+    Clock& clock;
+    SingleInstance& instance;
+    Pictures& pictures;
+    EventLoop& events;
+};

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "platform/drawing_surface.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class Screen {
+public:
+    virtual ~Screen() = default;
+    /// Installed families and the names for which a metric-compatible stand-in exists.
+    [[nodiscard]] virtual std::vector<std::string> Fonts() const = 0;
+    [[nodiscard]] virtual int WidthInPixels() const = 0;
+    [[nodiscard]] virtual float TwipsPerPixel() const = 0;
+};
+
+/// Clipboard text in the program's own characters. `GetText` gives what has a byte; nothing when the
+/// clipboard holds no text.
+class Clipboard {
+public:
+    virtual ~Clipboard() = default;
+    virtual void Clear() = 0;
+    virtual void SetText(std::string_view text) = 0;
+    [[nodiscard]] virtual std::string GetText() const = 0;
+};
+
+/// Opening documents and pages in other programs, and links on the desktop.
+class Shell {
+public:
+    virtual ~Shell() = default;
+    /// The result of the system's own action is not reported.
+    virtual void Open(std::string_view target) = 0;
+    virtual bool CreateLink(std::string_view folder, std::string_view name, std::string_view target) = 0;
+};
+
+class Clock {
+public:
+    virtual ~Clock() = default;
+    /// Local time as a day serial, counted from 30 December 1899.
+    [[nodiscard]] virtual double Now() const = 0;
+};
+
+class SingleInstance {
+public:
+    virtual ~SingleInstance() = default;
+    /// False when another instance for the same user and program folder runs.
+    [[nodiscard]] virtual bool Claim(std::string_view installFolder) = 0;
+};
+
+class Pictures {
+public:
+    virtual ~Pictures() = default;
+    /// Natural size in twips, or nothing when the file is no picture that can be shown.
+    [[nodiscard]] virtual std::optional<PictureSize> Load(std::string_view path) = 0;
+};
+
+/// The event loop, as far as the model needs it.
+class EventLoop {
+public:
+    virtual ~EventLoop() = default;
+    /// Shows the present state of the records and lets pending events run.
+    virtual void LetEventsRun() = 0;
+    /// The program is to end; the main window has closed.
+    virtual void Quit() = 0;
+};

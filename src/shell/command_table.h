@@ -1,0 +1,40 @@
+#pragma once
+
+#include "shell/command_ids.h"
+
+#include <span>
+#include <string_view>
+
+struct Program;
+
+/// The menus as the model owns them; the front end builds its menus from this table.
+namespace commands {
+
+enum class Kind { Menu, Item, Separator };
+/// Pending: the command's room is not built yet; its entry is disabled and its status tip says so.
+enum class Built { Yes, Pending };
+
+struct Entry {
+    CommandId Id;
+    std::string_view Name;
+    std::string_view Caption;
+    std::string_view Shortcut; ///< "Ctrl+N", empty for none
+    CommandId Parent;          ///< CommandId::Count for a top-level menu
+    Kind What = Kind::Item;
+    bool Visible = true;
+    bool Enabled = true;
+    bool Checked = false;
+    bool Checkable = false;
+    Built State = Built::Yes;
+};
+
+[[nodiscard]] std::span<const Entry> Table();
+[[nodiscard]] const Entry& Find(CommandId id);
+
+/// Puts every entry's design state into the main window.
+void LoadDesignState(Program& program);
+
+/// Runs a command as its menu entry does. A disabled or invisible one does nothing.
+void Run(Program& program, CommandId id);
+
+} // namespace commands

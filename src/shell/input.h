@@ -1,0 +1,32 @@
+#pragma once
+
+#include "document/page_records.h"
+#include "editing/text_areas.h"
+
+#include <string_view>
+
+struct Program;
+
+/// What the front end calls for a person's keys and mouse. Order for one key: KeyDown; when it was not taken,
+/// KeyPress with the character; when that was not cancelled, Edited with what the widget made of it; KeyUp.
+namespace modInput {
+
+/// The page's own keys first, then the focused field's. `selStart` and `selLength` are the widget's before
+/// the key.
+[[nodiscard]] Taken KeyDown(Program& program, int keyCode, int shift, int selStart, int selLength);
+/// Returns the character to enter, 0 when it is cancelled.
+[[nodiscard]] int KeyPress(Program& program, int keyAscii);
+/// The widget of a field has applied an edit.
+void Edited(Program& program, const FieldRef& field, std::string_view text, int selStart, int selLength);
+/// The cursor or selection moved without an edit.
+void CursorMoved(Program& program, const FieldRef& field, int selStart, int selLength);
+void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength);
+
+/// A field was clicked (focus first, then MouseDown), or reached by other means than the model's own.
+void FieldMouseDown(Program& program, const FieldRef& field, int button, int shift, int selStart,
+                    int selLength);
+void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int selLength);
+void FieldDblClick(Program& program, const FieldRef& field);
+void NoTaxMarkClick(Program& program, PageId page, int index);
+
+} // namespace modInput

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "document/page_records.h"
+
+struct Program;
+
+namespace modScroll {
+
+/// Brings a page to the front, 0 to 6: the single way to change the page. Reports as "UpdatePageButtons".
+void UpdatePageButtons(Program& program, int pageIndex);
+
+/// Ends a preview on a page. Reports as "ResumeEditing".
+void ResumeEditing(Program& program, PageId page);
+
+/// Fits scroll bar and page to the main window. Reports as "ReAdjustScrollBar".
+void ReAdjustScrollBar(Program& program, PageId page);
+
+/// Page Up (33) and Page Down (34); other keys leave the position alone.
+void PageKey(Program& program, int keyCode);
+
+/// The person or the program moved the scroll bar.
+void SetScroll(Program& program, int value);
+void VScroll1_Change(Program& program);
+
+void MDIForm_Resize(Program& program);
+
+} // namespace modScroll
