@@ -1,0 +1,215 @@
+#pragma once
+
+#include "core/program.h"
+#include "platform/platform.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// Questions answered from a script. A question that was not expected, one with other words, and an answer
+/// that was never asked for all fail the test.
+class ScriptedQuestions : public Questions {
+public:
+    struct Box {
+        std::string Text;
+        Buttons With = Buttons::Ok;
+        std::string Title;
+        bool operator==(const Box&) const = default;
+    };
+
+    ~ScriptedQuestions() override;
+
+    /// The next box must hold these words; it is answered so.
+    void Expect(std::string text, Answer answer = Answer::Ok);
+    /// The next box must be this one to the letter.
+    void ExpectBox(Box box, Answer answer);
+    /// The next input box: its title, and what the person types (empty for Cancel).
+    void ExpectInput(std::string title, std::string reply);
+    /// Fails if an expected box was not shown.
+    void Done();
+
+    Answer MsgBox(std::string_view text, Buttons buttons, std::string_view title) override;
+    std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
+
+    std::vector<Box> Shown;
+    std::vector<std::string> Prompts;  ///< of input boxes
+    std::vector<std::string> Initials; ///< what stood in input boxes at first
+
+private:
+    struct Step {
+        std::optional<Box> Exact;
+        std::string Part;
+        bool IsInput = false;
+        Answer Give = Answer::Ok;
+        std::string Reply;
+    };
+    std::deque<Step> script_;
+};
+
+/// Every character is 100 twips wide in every font, a line is 20 twips a point high.
+class FixedMeasure : public TextMeasure {
+public:
+    [[nodiscard]] float Width(std::string_view text, const TextFont&) const override {
+        return 100.0F * static_cast<float>(text.size());
+    }
+    [[nodiscard]] float Height(const TextFont& font) const override { return 20.0F * font.Size; }
+};
+
+/// One call on a surface, with all that was in force.
+struct DrawCall {
+    enum class What { Cls, Print, Line, PaintPicture, NewPage, EndDoc };
+    What Op = What::Print;
+    std::string Text; ///< printed text, or the picture's path
+    float X = 0;
+    float Y = 0;
+    float X2 = 0;
+    float Y2 = 0;
+    std::string Font;
+    float FontSize = 0;
+    bool Bold = false;
+    bool Italic = false;
+    bool Underline = false;
+    Color ForeColor = 0;
+    float ScaleLeft = 0;
+    float ScaleTop = 0;
+    std::optional<PictureSize> Size;
+};
+
+class RecordingPrinter : public Printer {
+public:
+    explicit RecordingPrinter(const TextMeasure& measure) : measure_(measure) {}
+    std::vector<DrawCall> Calls;
+
+    void Cls() override { Add(DrawCall::What::Cls); }
+    [[nodiscard]] float TextWidth(std::string_view text) const override;
+    [[nodiscard]] float TextHeight() const override;
+    void Print(std::string_view text) override;
+    void Line(float x1, float y1, float x2, float y2) override;
+    void PaintPicture(const PictureRef& picture, float x, float y, std::optional<PictureSize> size) override;
+    void NewPage() override { Add(DrawCall::What::NewPage); }
+    void EndDoc() override;
+
+    /// The calls of every finished document, in the order of sending.
+    std::vector<std::vector<DrawCall>> Documents;
+    /// Runs when a document is finished; a test can throw here to be a failing printer.
+    std::function<void()> OnEndDoc;
+
+private:
+    DrawCall& Add(DrawCall::What what);
+    const TextMeasure& measure_;
+};
+
+class RecordingPrinters : public Printers {
+public:
+    explicit RecordingPrinters(const TextMeasure& measure) : Paper(measure) {}
+    std::vector<std::string> Devices{"Office Laser", "Print to PDF"};
+    std::string CurrentDevice = "Office Laser";
+    RecordingPrinter Paper;
+    bool Refuse = false; ///< the person gives no file
+    std::vector<PrintCommand> Commands;
+    std::vector<std::pair<std::string, int>> Named;
+    int Ended = 0;
+
+    [[nodiscard]] std::vector<std::string> Names() const override { return Devices; }
+    [[nodiscard]] std::string Current() const override { return CurrentDevice; }
+    bool MakeCurrent(std::string_view name) override;
+    [[nodiscard]] Printer& Device() override { return Paper; }
+    [[nodiscard]] bool BeginCommand(const PrintCommand& command) override;
+    void EndCommand() override { ++Ended; }
+    void NameDocument(std::string_view name, int readingOrder) override {
+        Named.emplace_back(std::string(name), readingOrder);
+    }
+};
+
+class FakeScreen : public Screen {
+public:
+    std::vector<std::string> FontNames{"Arial", "Times New Roman"};
+    int Pixels = 1280;
+    [[nodiscard]] std::vector<std::string> Fonts() const override { return FontNames; }
+    [[nodiscard]] int WidthInPixels() const override { return Pixels; }
+    [[nodiscard]] float TwipsPerPixel() const override { return 15; }
+};
+
+class FakeClipboard : public Clipboard {
+public:
+    std::string Text;
+    void Clear() override { Text.clear(); }
+    void SetText(std::string_view text) override { Text = text; }
+    [[nodiscard]] std::string GetText() const override { return Text; }
+};
+
+class RecordingShell : public Shell {
+public:
+    struct Link {
+        std::string Folder;
+        std::string Name;
+        std::string Target;
+    };
+    std::vector<std::string> Opened;
+    std::vector<Link> Links;
+    void Open(std::string_view target) override { Opened.emplace_back(target); }
+    bool CreateLink(std::string_view folder, std::string_view name, std::string_view target) override {
+        Links.push_back({std::string(folder), std::string(name), std::string(target)});
+        return true;
+    }
+};
+
+class FixedClock : public Clock {
+public:
+    double Serial = 39468.75; ///< 21 January 2008, 6:00 PM
+    [[nodiscard]] double Now() const override { return Serial; }
+};
+
+class FakeInstance : public SingleInstance {
+public:
+    bool Free = true;
+    std::vector<std::string> Asked;
+    [[nodiscard]] bool Claim(std::string_view installFolder) override {
+        Asked.emplace_back(installFolder);
+        return Free;
+    }
+};
+
+class FakePictures : public Pictures {
+public:
+    std::map<std::string, PictureSize> Known;
+    [[nodiscard]] std::optional<PictureSize> Load(std::string_view path) override;
+};
+
+class CountingEvents : public EventLoop {
+public:
+    int Yields = 0;
+    bool QuitAsked = false;
+    std::function<void()> OnYield; ///< what happens when events may run
+    void LetEventsRun() override;
+    void Quit() override { QuitAsked = true; }
+};
+
+/// A platform on which everything is recorded and nothing is shown.
+struct RecordingPlatform {
+    ScriptedQuestions questions;
+    FixedMeasure measure;
+    RecordingPrinters printers{measure};
+    FakeScreen screen;
+    FakeClipboard clipboard;
+    RecordingShell shell;
+    FixedClock clock;
+    FakeInstance instance;
+    FakePictures pictures;
+    CountingEvents events;
+    Platform platform{.questions = questions,
+                      .measure = measure,
+                      .printers = printers,
+                      .screen = screen,
+                      .clipboard = clipboard,
+                      .shell = shell,
+                      .clock = clock,
+                      .instance = instance,
+                      .pictures = pictures,
+                      .events = events};
+};

@@ -1,0 +1,167 @@
+#include "support/typist.h"
+
+#include "core/program.h"
+#include "document/fields.h"
+#include "shell/input.h"
+
+#include <algorithm>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Line {
+    FieldRef Field;
+    std::string Text;
+    int SelStart = 0;
+    int SelLength = 0;
+};
+
+bool FocusedLine(Program& program, Line& line) {
+    if (!program.main.Focus) {
+        return false;
+    }
+    line.Field = *program.main.Focus;
+    const TextArea& area = modFields::Area(program, line.Field);
+    line.Text = area.Text;
+    line.SelStart = std::clamp(area.SelStart, 0, static_cast<int>(line.Text.size()));
+    line.SelLength = std::clamp(area.SelLength, 0, static_cast<int>(line.Text.size()) - line.SelStart);
+    return true;
+}
+
+void Replace(Line& line, std::string_view with) {
+    line.Text.replace(static_cast<std::size_t>(line.SelStart), static_cast<std::size_t>(line.SelLength),
+                      with);
+    line.SelStart += static_cast<int>(with.size());
+    line.SelLength = 0;
+}
+
+void ApplyEditingKey(Line& line, int keyCode) {
+    if (line.SelLength > 0) {
+        Replace(line, "");
+    } else if (keyCode == keys::kBackspace && line.SelStart > 0) {
+        --line.SelStart;
+        line.SelLength = 1;
+        Replace(line, "");
+    } else if (keyCode == keys::kDelete && line.SelStart < static_cast<int>(line.Text.size())) {
+        line.SelLength = 1;
+        Replace(line, "");
+    }
+}
+
+int KeyCodeOf(char character) {
+    const unsigned char byte = static_cast<unsigned char>(character);
+    if (byte >= 'a' && byte <= 'z') {
+        return byte - 32;
+    }
+    if ((byte >= 'A' && byte <= 'Z') || (byte >= '0' && byte <= '9') || byte == ' ') {
+        return byte;
+    }
+    switch (byte) {
+    case ',':
+        return 188;
+    case '-':
+        return 189;
+    case '.':
+        return 190;
+    case '/':
+        return 191;
+    default:
+        return 192;
+    }
+}
+
+} // namespace
+
+void Typist::Click(const FieldRef& field) {
+    TextArea& area = modFields::Area(program_, field);
+    const int end = static_cast<int>(area.Text.size());
+    modInput::FieldMouseDown(program_, field, 1, 0, end, 0);
+    modInput::FieldMouseUp(program_, field, end, 0);
+}
+
+void Typist::KeyDownAndCharacter(int keyCode, int keyAscii, int shift) {
+    Line before;
+    if (!FocusedLine(program_, before)) {
+        ADD_FAILURE() << "no field has the focus";
+        return;
+    }
+    if (modInput::KeyDown(program_, keyCode, shift, before.SelStart, before.SelLength) == Taken::Yes) {
+        return;
+    }
+    if (keyAscii != 0) {
+        const int kept = modInput::KeyPress(program_, keyAscii);
+        if (kept == 0) {
+            return;
+        }
+        Line line;
+        if (!FocusedLine(program_, line)) {
+            return;
+        }
+        if (kept == keys::kBackspace) {
+            ApplyEditingKey(line, keys::kBackspace);
+        } else if (kept >= 32) {
+            Replace(line, std::string(1, static_cast<char>(kept)));
+        } else {
+            return;
+        }
+        modInput::Edited(program_, line.Field, line.Text, line.SelStart, line.SelLength);
+        return;
+    }
+    Line line;
+    if (!FocusedLine(program_, line)) {
+        return;
+    }
+    const int length = static_cast<int>(line.Text.size());
+    if (keyCode == keys::kDelete) {
+        ApplyEditingKey(line, keyCode);
+        modInput::Edited(program_, line.Field, line.Text, line.SelStart, line.SelLength);
+    } else if (keyCode == keys::kLeft) {
+        modInput::CursorMoved(program_, line.Field, std::max(0, line.SelStart - 1), 0);
+    } else if (keyCode == keys::kRight) {
+        modInput::CursorMoved(program_, line.Field, std::min(length, line.SelStart + 1), 0);
+    }
+}
+
+void Typist::Hold(int keyCode, int shift) {
+    int keyAscii = 0;
+    if (keyCode == keys::kEnter || keyCode == keys::kTab || keyCode == keys::kBackspace) {
+        keyAscii = keyCode;
+    }
+    KeyDownAndCharacter(keyCode, keyAscii, shift);
+}
+
+void Typist::Press(int keyCode, int shift) {
+    Hold(keyCode, shift);
+    Line line;
+    if (FocusedLine(program_, line)) {
+        modInput::KeyUp(program_, keyCode, shift, line.SelStart, line.SelLength);
+    }
+}
+
+void Typist::Type(std::string_view text) {
+    for (const char character : text) {
+        const int keyCode = KeyCodeOf(character);
+        KeyDownAndCharacter(keyCode, static_cast<unsigned char>(character), 0);
+        Line line;
+        if (FocusedLine(program_, line)) {
+            modInput::KeyUp(program_, keyCode, 0, line.SelStart, line.SelLength);
+        }
+    }
+}
+
+void Typist::PutCursor(int selStart, int selLength) {
+    Line line;
+    if (FocusedLine(program_, line)) {
+        modInput::CursorMoved(program_, line.Field, selStart, selLength);
+    }
+}
+
+void Typist::Insert(std::string_view text) {
+    Line line;
+    if (FocusedLine(program_, line)) {
+        Replace(line, text);
+        modInput::Edited(program_, line.Field, line.Text, line.SelStart, line.SelLength);
+    }
+}

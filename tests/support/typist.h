@@ -1,0 +1,32 @@
+#pragma once
+
+#include "document/page_records.h"
+
+#include <string_view>
+
+struct Program;
+
+/// A person at the keyboard: feeds keys to the model in the order in which the front end does, and applies to
+/// the text what a line of text on screen would.
+class Typist {
+public:
+    explicit Typist(Program& program) : program_(program) {}
+
+    /// Puts the focus into a field, as a click does.
+    void Click(const FieldRef& field);
+    void Click(PageId page, int txtIndex) { Click({page, FieldKind::txt, txtIndex}); }
+    /// Types characters, each with its own key.
+    void Type(std::string_view text);
+    /// A key without a character: keys::kEnter, kTab, arrows, kBackspace, kDelete, F-keys.
+    void Press(int keyCode, int shift = 0);
+    /// Key down only, as when a key is held; no key up.
+    void Hold(int keyCode, int shift = 0);
+    /// Moves the cursor of the focused field by mouse or keyboard without an edit.
+    void PutCursor(int selStart, int selLength = 0);
+    /// An edit without keys: paste by mouse, drop, input method.
+    void Insert(std::string_view text);
+
+private:
+    void KeyDownAndCharacter(int keyCode, int keyAscii, int shift);
+    Program& program_;
+};
