@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/colors.h"
+#include "core/paths.h"
 
 #include <string>
 #include <vector>
@@ -58,6 +59,7 @@ struct Folders {
     std::string InstallFolder;
     std::string ProposalsFolder;
     std::string SharedFolder;
+    paths::DriveRoots Drives; ///< what drive letters stand for; the front end fills it
 };
 
 /// What the settings put in force for the run.

@@ -8,6 +8,9 @@ namespace modMain {
 /// An empty ClientCaption becomes "Proposal for (Client's Name)".
 void UpdateEventNameLabels(Program& program);
 
+/// The lines alone, without the main window's title.
+void UpdateFooters(Program& program);
+
 /// The same lines, and their new place and wording go to the proposal's label table.
 void LayTitles(Program& program);
 
