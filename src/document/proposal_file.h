@@ -1,5 +1,9 @@
 #pragma once
 
+#include "document/proposal_layout.h"
+
+#include <optional>
+#include <string>
 #include <string_view>
 
 struct Program;
@@ -11,8 +15,19 @@ namespace modFile {
 enum class SaveResult { Saved, NotSaved };
 SaveResult SaveEventFile(Program& program);
 
-/// Fills pages and totals from a file of `document.FilePath`. Reports as "OpenEventFile"; a file that cannot
-/// be read leaves the proposal that stands. Without a full read nothing of the file is applied.
+/// The bytes of a proposal file, at most what the layout needs, and the file's whole length.
+struct RawProposal {
+    std::string Bytes;
+    std::uintmax_t Length = 0;
+};
+/// Reads a file of `document.FilePath`. Nothing, after a report as "OpenEventFile", when it cannot be read.
+/// Changes nothing.
+[[nodiscard]] std::optional<RawProposal> LoadProposal(Program& program, std::string_view fileName);
+/// Fills the empty pages and the totals from what was read. Shows the message for a deposit that is no
+/// number.
+void ShowProposal(Program& program, std::string_view fileName, const RawProposal& raw);
+
+/// Both in one. A file that cannot be read leaves the proposal that stands.
 enum class OpenResult { Opened, NotOpened };
 OpenResult OpenEventFile(Program& program, std::string_view fileName);
 
@@ -31,5 +46,8 @@ void ReadFileProperties(Program& program);
 
 /// Whether the client's name differs from its saved text.
 [[nodiscard]] bool ClientNameChanged(const Program& program);
+
+/// The slots' widths as the fields' Tags have them now.
+[[nodiscard]] proposal::Widths SlotWidths(const Program& program);
 
 } // namespace modFile

@@ -1,6 +1,7 @@
 #include "document/titles.h"
 
 #include "core/program.h"
+#include "document/file_names.h"
 #include "document/page_geometry.h"
 #include "document/page_setup.h"
 
@@ -37,11 +38,6 @@ void LayLines(Program& program, Record record) {
     program.main.lblEvent.Visible = true;
 }
 
-/// A bare ".hef" is a name that was erased again.
-bool HasName(const DocumentState& document) {
-    return !document.FileName.empty() && document.FileName != ".hef";
-}
-
 } // namespace
 
 void UpdateFooters(Program& program) {
@@ -57,7 +53,7 @@ void UpdateEventNameLabels(Program& program) {
     if (program.format.FormatOpen) {
         program.main.Caption += ": Format File = " + program.format.FormatName;
     }
-    if (HasName(program.document)) {
+    if (HasName(program)) {
         program.main.Caption += " - File Name = " + program.document.FileName;
     }
 }

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+struct Program;
+
+/// Names of proposals: what they may hold, where they lie, and what happens when one is taken.
+namespace modMain {
+
+/// True, with a message, when the name holds one of / \ : * ? < > |.
+[[nodiscard]] bool IllegalFileName(Program& program, std::string_view name);
+
+/// Asks whether the file of that name in `document.FilePath` may be replaced. Yes deletes it; No says "File
+/// not saved." and sets `document.Cancelled`. Reports as "ShowDuplicateFileOptions".
+void ShowDuplicateFileOptions(Program& program, std::string_view name);
+
+/// The folder of the proposals and shared data, also when the settings could not be read.
+[[nodiscard]] std::string DataFolder(const Program& program);
+[[nodiscard]] std::string BackupFolder(const Program& program);
+
+/// Whether a name stands for a proposal: an erased client leaves ".hef", which is none.
+[[nodiscard]] bool HasName(const Program& program);
+
+/// The side files' names after a new file name.
+void SetBaseName(Program& program, std::string_view baseName);
+
+} // namespace modMain
