@@ -1,0 +1,51 @@
+#include "core/install.h"
+
+#include "core/ansi.h"
+#include "core/files.h"
+#include "core/paths.h"
+
+#include <filesystem>
+
+#include <unistd.h>
+
+namespace install {
+
+namespace {
+
+void CopyTree(const std::string& from, const std::string& to) {
+    for (const std::string& name : files::List(from, "*")) {
+        files::Copy(paths::Join(from, name), paths::Join(to, name));
+    }
+    for (const std::string& name : files::Subfolders(from)) {
+        const std::string target = paths::Join(to, name);
+        files::MakeFolder(target);
+        CopyTree(paths::Join(from, name), target);
+    }
+}
+
+/// Makes a folder and those above it.
+void MakeAll(const std::string& folder) {
+    std::error_code failed;
+    std::filesystem::create_directories(ansi::ToUtf8(folder), failed);
+    if (failed) {
+        throw files::FileError(files::kPathAccess, "Path/File access error: " + folder);
+    }
+}
+
+} // namespace
+
+std::string Locate(const Places& places) {
+    if (modFile::FileIsThere(places.Executable, "UserPreferences.txt") &&
+        ::access(ansi::ToUtf8(places.Executable).c_str(), W_OK) == 0) {
+        return places.Executable;
+    }
+    if (!files::IsFolder(places.UserData)) {
+        MakeAll(places.UserData);
+        if (files::IsFolder(places.Shipped)) {
+            CopyTree(places.Shipped, places.UserData);
+        }
+    }
+    return places.UserData;
+}
+
+} // namespace install

@@ -1,0 +1,120 @@
+#include "core/errors.h"
+#include "core/files.h"
+#include "core/frm_tax.h"
+#include "core/numbers.h"
+#include "core/paths.h"
+#include "core/program.h"
+#include "core/settings.h"
+
+#include <algorithm>
+
+namespace modSettings {
+
+namespace {
+
+constexpr std::string_view kTaxFile = "SalesTax.txt";
+constexpr std::size_t kTaxLength = 5;
+constexpr std::string_view kOffsetsFile = "PrinterOffsets.txt";
+constexpr std::string_view kXKey = "Printer X Offset:";
+constexpr std::string_view kYKey = "Printer Y Offset:";
+constexpr float kTwipsPerInch = 1440;
+
+std::string PathOf(const Program& program, std::string_view name) {
+    return paths::Join(program.folders.ProposalsFolder.empty()
+                           ? paths::Join(program.folders.InstallFolder, "Proposals/")
+                           : program.folders.ProposalsFolder,
+                       name);
+}
+
+bool HasAmounts(const Program& program) {
+    for (const auto& row : program.totals.AmountTable) {
+        if (std::any_of(row.begin(), row.end(), [](float amount) { return amount != 0; })) {
+            return true;
+        }
+    }
+    return false;
+}
+
+float Inches(std::string_view value) {
+    return static_cast<float>(numbers::Val(value));
+}
+
+} // namespace
+
+void GetTaxRate(Program& program) {
+    Guarded(program, "GetTaxRate", [&] {
+        const std::string path = PathOf(program, kTaxFile);
+        if (!files::Exists(path)) {
+            files::WriteWhole(path, "");
+        }
+        std::string five = files::ReadUpTo(path, kTaxLength);
+        five.resize(kTaxLength, ' ');
+        program.totals.TaxRate = static_cast<float>(numbers::Val(five));
+    });
+    if (program.totals.TaxRate == 0 &&
+        program.platform.questions.MsgBox("The current sales tax rate is 0%. Do you want to change it now?",
+                                          Buttons::YesNo, "Sales Tax Rate is 0.0%") == Answer::Yes) {
+        modWindows::Show(program, std::make_unique<frmTax>());
+    }
+}
+
+void SaveTaxRate(Program& program, std::string_view rateText) {
+    Guarded(program, "SaveTaxRate", [&] {
+        std::string five(rateText.substr(0, kTaxLength));
+        five.resize(kTaxLength, ' ');
+        program.totals.TaxRate = static_cast<float>(numbers::Val(five));
+        const std::string path = PathOf(program, kTaxFile);
+        if (files::Exists(path)) {
+            files::Delete(path);
+        }
+        files::WriteWhole(path, five);
+        Questions& questions = program.platform.questions;
+        questions.MsgBox("New Sales Tax Rate is " + numbers::FormatSingle(program.totals.TaxRate, "##.00") +
+                             " %",
+                         Buttons::Ok, "");
+        if (program.totals.TaxRate != 0 && HasAmounts(program)) {
+            program.main.cmdReCalc.BackColor = colors::kOverLimit;
+            questions.MsgBox("Please click Recalculate to update the totals.", Buttons::Ok, "");
+        }
+    });
+}
+
+void ReadPrinterOffsets(Program& program) {
+    program.printing.PrinterOffsetX = 0;
+    program.printing.PrinterOffsetY = 0;
+    const std::string path = PathOf(program, kOffsetsFile);
+    if (!files::Exists(path)) {
+        return;
+    }
+    Guarded(program, "ReadPrinterOffsets", [&] {
+        const std::string bytes = files::ReadAll(path);
+        const std::size_t x = bytes.find(kXKey);
+        const std::size_t y = bytes.find(kYKey);
+        if (x != std::string::npos) {
+            const std::size_t from = x + kXKey.size();
+            const std::size_t to = y == std::string::npos || y < from ? bytes.size() : y;
+            program.printing.PrinterOffsetX =
+                Inches(std::string_view(bytes).substr(from, to - from)) * kTwipsPerInch;
+        }
+        if (y != std::string::npos) {
+            program.printing.PrinterOffsetY =
+                Inches(std::string_view(bytes).substr(y + kYKey.size())) * kTwipsPerInch;
+        }
+    });
+}
+
+void SavePrinterOffsets(Program& program) {
+    Guarded(program, "SavePrinterOffsets", [&] {
+        std::string bytes(kXKey);
+        bytes += numbers::PlainNumber(program.printing.PrinterOffsetX / kTwipsPerInch);
+        bytes += kYKey;
+        bytes += numbers::PlainNumber(program.printing.PrinterOffsetY / kTwipsPerInch);
+        const std::string path = PathOf(program, kOffsetsFile);
+        if (files::Exists(path)) {
+            files::Delete(path);
+        }
+        files::WriteWhole(path, bytes);
+    });
+}
+
+} // namespace modSettings
