@@ -18,7 +18,8 @@ struct Hooks {
     std::function<void(Program&, int)> UpdatePageButtons; ///< change the page, 0 to 6
     Call CollectQtyBoxes;                                 ///< bring the stores up to what the row fields show
     Call DeSelectAllControls;                             ///< end a block selection on all pages
-    Call ShowTaxRateWindow;
+    std::function<void(Program&, int)> PageKey;           ///< a page-up (33) or page-down (34) key
+    Call UpdateTextMenu;                                  ///< the states of the text area's commands
     Call ReadFrequentlyUsedTerms;
     Call ShowTermsWindow;
     Call ShowCalculator;

@@ -31,8 +31,7 @@ void txt_MouseDown(Program& program, PageId page, int index, int button, int shi
 void txt_MouseUp(Program& program, PageId page, int index);
 void txt_DblClick(Program& program, PageId page, int index);
 
-void CheckForPush(Program& program);
-void PushTheText(Program& program, PageId page, int index);
+/// Runs every change handler of a page once with the real text, by way of "Test".
 void RefireTextChanges(Program& program, PageId page);
 /// Red for every area of a page over a limit, grey for the rest; blue areas stay.
 void ResetMyTextBoxColors(Program& program, PageId page);

@@ -1,0 +1,255 @@
+#include "editing/columns.h"
+
+#include "core/errors.h"
+#include "core/guard.h"
+#include "core/numbers.h"
+#include "core/program.h"
+#include "document/fields.h"
+#include "document/page_geometry.h"
+#include "document/page_setup.h"
+#include "document/totals.h"
+#include "editing/navigation.h"
+
+namespace modColumns {
+
+namespace {
+
+constexpr std::string_view kQuantityPlaceholder = "Qty.";
+constexpr std::string_view kPricePlaceholder = "Amt.";
+
+FieldRef Quantity(PageId page, int row) {
+    return {page, FieldKind::txtQty, row};
+}
+FieldRef Price(PageId page, int row) {
+    return {page, FieldKind::txtAmt, row};
+}
+FieldRef Description(PageId page, int row) {
+    return {page, FieldKind::txt, row};
+}
+
+/// The row as the file will have it, and both tables with it. A quantity typed after the description must not
+/// wait for the description's next change to count as unsaved.
+void StoreRow(Program& program, PageId page, int row) {
+    const auto at = static_cast<std::size_t>(IndexOf(page));
+    const auto index = static_cast<std::size_t>(row);
+    const bool on = modPages::ColumnsOn(program, page, row);
+    program.document.CurrentTextBuf[at][index] = modFields::ComposeLine(program, page, row);
+    for (TextChangeTable* table : {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
+        TextChangeRecord& record = (*table)[at][index];
+        record.QtyBox = on;
+        record.QtyValue = program.pages[page].txtQty[index].Text;
+        record.AmtValue = program.pages[page].txtAmt[index].Text;
+    }
+}
+
+bool Silent(const Program& program) {
+    return program.guards.HandlersSilent() || (program.editing.BlockMode && !program.editing.RefireMode);
+}
+
+/// The row's amount becomes quantity times unit price; each is a single, the product a double.
+void TakeProduct(Program& program, PageId page, int row) {
+    if (!geometry::IsDescription(page, row)) {
+        return;
+    }
+    const Page& record = program.pages[page];
+    const auto at = static_cast<std::size_t>(row);
+    const std::string& currency = program.settings.CurrencySymbol;
+    const auto quantity = numbers::ToSingle(record.txtQty[at].Text, currency);
+    const auto price = numbers::ToSingle(record.txtAmt[at].Text, currency);
+    if (!quantity || !price) {
+        return;
+    }
+    const double product = static_cast<double>(*quantity) * static_cast<double>(*price);
+    const ScopedFlag refiring(program.editing.RefireMode);
+    modFields::SetText(program, Description(page, geometry::AmountOf(page, row)),
+                       numbers::Format(product, "###,###.00"));
+}
+
+void BoxChange(Program& program, PageId page, int row) {
+    if (Silent(program)) {
+        return;
+    }
+    TakeProduct(program, page, row);
+    StoreRow(program, page, row);
+}
+
+/// The rows next to one, by arrow; the same box where the row has columns, else its description.
+void MoveToRow(Program& program, const FieldRef& field, int row) {
+    const TextArea& box = modFields::Area(program, field);
+    const float top = box.Top;
+    const bool down = row > field.Index;
+    const FieldRef target = modPages::ColumnsOn(program, field.Page, row)
+                                ? FieldRef{field.Page, field.Kind, row}
+                                : Description(field.Page, row);
+    modFields::GiveFocus(program, target);
+    modNavigate::ScrollTest(program, field.Page, top,
+                            down ? modNavigate::Direction::Down : modNavigate::Direction::Up);
+}
+
+void SetExempt(Program& program, modPages::Mark mark) {
+    const PageId page = program.main.ActivePage;
+    const int area = program.editing.CurrentArea;
+    if (!geometry::IsAmount(page, area)) {
+        return;
+    }
+    const auto at = static_cast<std::size_t>(IndexOf(page));
+    const auto index = static_cast<std::size_t>(area);
+    const bool exempt = mark == modPages::Mark::Shown;
+    program.format.PropTextChanges[at][index].TaxExempt = exempt;
+    program.format.PropTextChanges[at][index].Dirty = true;
+    program.format.FormatTextChanges[at][index].TaxExempt = exempt;
+    modPages::SetNoTaxMark(program, page, area, mark);
+    modFields::GiveFocus(program, Description(page, area));
+}
+
+} // namespace
+
+void ToggleColumns(Program& program) {
+    const PageId page = PageAt(program.main.CurrentPage);
+    const int row = program.editing.CurrentArea;
+    if (!geometry::IsDescription(page, row) || program.editing.BlockMode) {
+        return;
+    }
+    modPages::EnsureRowFields(program, page);
+    const bool on = !modPages::ColumnsOn(program, page, row);
+    if (on) {
+        modPages::PlaceColumns(program, page, row, modPages::Columns::On);
+        modFields::SetText(program, Quantity(page, row), kQuantityPlaceholder);
+        modFields::SetText(program, Price(page, row), kPricePlaceholder);
+        StoreRow(program, page, row);
+        modFields::GiveFocus(program, Quantity(page, row));
+        TextArea& box = modFields::Area(program, Quantity(page, row));
+        modFields::SetCursor(box, static_cast<int>(box.Text.size()));
+        return;
+    }
+    const auto focus = program.main.Focus;
+    const bool inRow = focus && focus->Page == page && focus->Index == row && focus->Kind != FieldKind::txt;
+    modPages::PlaceColumns(program, page, row, modPages::Columns::Off);
+    modFields::SetText(program, Quantity(page, row), "");
+    modFields::SetText(program, Price(page, row), "");
+    StoreRow(program, page, row);
+    if (inRow) {
+        modFields::GiveFocus(program, Description(page, row));
+    }
+}
+
+void txtQty_Change(Program& program, PageId page, int row) {
+    BoxChange(program, page, row);
+}
+
+void txtAmt_Change(Program& program, PageId page, int row) {
+    BoxChange(program, page, row);
+}
+
+Taken Box_KeyDown(Program& program, const FieldRef& field, int keyCode, int shift) {
+    static_cast<void>(shift);
+    if (program.editing.BlockMode || program.guards.HandlersSilent()) {
+        return Taken::No;
+    }
+    const int last = static_cast<int>(program.pages[field.Page].txtQty.size()) - 1;
+    if (keyCode == keys::kEnter || keyCode == keys::kTab) {
+        if (field.Kind == FieldKind::txtQty) {
+            modFields::SetCursor(modFields::Area(program, Description(field.Page, field.Index)), 0);
+            modFields::GiveFocus(program, Description(field.Page, field.Index));
+        } else {
+            modFields::GiveFocus(program,
+                                 Description(field.Page, geometry::AmountOf(field.Page, field.Index)));
+        }
+        return Taken::Yes;
+    }
+    if (keyCode == keys::kUp) {
+        if (field.Index != 0) {
+            MoveToRow(program, field, field.Index - 1);
+        }
+        return Taken::Yes;
+    }
+    if (keyCode == keys::kDown) {
+        if (field.Index != last) {
+            MoveToRow(program, field, field.Index + 1);
+        }
+        return Taken::Yes;
+    }
+    if (keyCode == keys::kF8) {
+        program.editing.CurrentArea = field.Index;
+        ToggleColumns(program);
+        return Taken::Yes;
+    }
+    return Taken::No;
+}
+
+void Box_KeyPress(Program& program, const FieldRef& field, int& keyAscii) {
+    if (program.editing.BlockMode) {
+        keyAscii = 0;
+        return;
+    }
+    if (program.guards.HandlersSilent()) {
+        return;
+    }
+    const std::string_view placeholder =
+        field.Kind == FieldKind::txtQty ? kQuantityPlaceholder : kPricePlaceholder;
+    if (keyAscii > keys::kEnter && modFields::Area(program, field).Text == placeholder) {
+        modFields::SetText(program, field, "");
+    }
+    const bool figure = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.';
+    if (!figure && keyAscii != keys::kBackspace) {
+        keyAscii = 0; // Enter and Tab pass the filter and are cancelled after it
+    }
+}
+
+void Box_GotFocus(Program& program, const FieldRef& field) {
+    if (program.editing.BlockMode || (field.Kind == FieldKind::txtAmt && program.guards.Loading)) {
+        return;
+    }
+    modFields::Area(program, field).BackColor = colors::kFocused;
+    program.main.ActivePage = field.Page;
+    program.main.CurrentPage = IndexOf(field.Page);
+}
+
+void Box_LostFocus(Program& program, const FieldRef& field) {
+    if (program.editing.BlockMode) {
+        return;
+    }
+    TextArea& box = modFields::Area(program, field);
+    box.BackColor = colors::kRestingRowField;
+    if (field.Kind == FieldKind::txtAmt) {
+        if (const auto price = numbers::ToDouble(box.Text, program.settings.CurrencySymbol)) {
+            modFields::SetText(program, field, numbers::Format(*price, "###,##0.00"));
+        }
+    }
+    TakeProduct(program, field.Page, field.Index);
+}
+
+void mnuEditTextTaxExempt_Click(Program& program) {
+    SetExempt(program, modPages::Mark::Shown);
+}
+
+void mnuEditTextTaxable_Click(Program& program) {
+    SetExempt(program, modPages::Mark::Hidden);
+}
+
+void CollectQtyBoxes(Program& program) {
+    Guarded(program, "SaveTextBoxFeatures", [&] {
+        for (const PageId page : kLinePages) {
+            const Page& record = program.pages[page];
+            if (!record.RowFieldsMade) {
+                continue;
+            }
+            const auto at = static_cast<std::size_t>(IndexOf(page));
+            for (int row = geometry::FirstRow(page); row <= geometry::LastRow(page); ++row) {
+                const auto index = static_cast<std::size_t>(row);
+                const bool on = record.txt[index].Width == geometry::kColumnsWidth;
+                for (TextChangeTable* table :
+                     {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
+                    TextChangeRecord& props = (*table)[at][index];
+                    props.QtyChanged = on;
+                    props.QtyBox = on;
+                    props.QtyValue = record.txtQty[index].Text;
+                    props.AmtValue = record.txtAmt[index].Text;
+                }
+                program.document.CurrentTextBuf[at][index] = modFields::ComposeLine(program, page, row);
+            }
+        }
+    });
+}
+
+} // namespace modColumns

@@ -1,0 +1,85 @@
+#include "editing/double_click.h"
+
+#include "core/dates.h"
+#include "core/numbers.h"
+#include "core/program.h"
+#include "core/text.h"
+#include "document/fields.h"
+
+#include <optional>
+
+namespace modText {
+
+namespace {
+
+enum class Conversion { None, LongDate, UpperCase, ProperCase, Telephone };
+
+constexpr Conversion kConversions[] = {Conversion::LongDate,   Conversion::UpperCase,  Conversion::ProperCase,
+                                       Conversion::ProperCase, Conversion::ProperCase, Conversion::Telephone,
+                                       Conversion::Telephone,  Conversion::Telephone,  Conversion::ProperCase,
+                                       Conversion::ProperCase};
+
+int CurrentYear(const Program& program) {
+    return dates::ToCalendar(program.platform.clock.Now()).Year;
+}
+
+std::optional<std::string> Converted(const Program& program, Conversion conversion,
+                                     const std::string& value) {
+    switch (conversion) {
+    case Conversion::LongDate:
+        if (const auto serial = dates::Recognise(value, CurrentYear(program))) {
+            return dates::FormatDate(*serial, "mmmm dd, yyyy");
+        }
+        return std::nullopt;
+    case Conversion::UpperCase:
+        return text::Upper(value);
+    case Conversion::ProperCase:
+        return text::Proper(value);
+    case Conversion::Telephone:
+        if (const auto number = numbers::ToDouble(value, program.settings.CurrencySymbol)) {
+            return numbers::Format(*number, "(###) ###-####");
+        }
+        return std::nullopt;
+    case Conversion::None:
+        break;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+void ConvertOnDoubleClick(Program& program, int index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= std::size(kConversions)) {
+        return;
+    }
+    const FieldRef field{PageId::frmP1, FieldKind::txt, index};
+    TextArea& area = modFields::Area(program, field);
+    if (area.Locked) {
+        return;
+    }
+    const std::optional<std::string> value = Converted(program, kConversions[index], area.Text);
+    if (!value || *value == area.Text) {
+        return;
+    }
+    // A stale key must not move the converted text on into another row.
+    program.editing.LastKeyChar.clear();
+    modFields::SetText(program, field, *value);
+    modFields::SetCursor(area, static_cast<int>(area.Text.size()));
+}
+
+void CheckDate(Program& program, int index) {
+    Page& page = program.pages[PageId::frmP1];
+    const std::string& value = page.txt[0].Text;
+    if (index != 0 || value.empty() || page.DateWarningShown || dates::IsDate(value, CurrentYear(program))) {
+        return;
+    }
+    program.platform.questions.MsgBox(
+        text::Lines({"Text cannot be recognized as a date and will become useless for managing you events.",
+                     "", "Proper date format examples follow:", "January 15, 2008.", "Jan 15, 2008",
+                     "1/15/2008", "1/15/08", "1-15-08",
+                     "Do not include date extentions such as \"1rst\", \"2nd\", etc."}),
+        Buttons::Ok, "Date Format not Recognized");
+    page.DateWarningShown = true;
+}
+
+} // namespace modText

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "document/page_records.h"
+
+struct Program;
+
+/// The flow of an overflowing line into the next area.
+namespace modText {
+
+/// Decides from the current text and the cursor before the key whether text moves on, and where the cursor
+/// ends.
+void CheckForPush(Program& program);
+
+/// Moves the tail of an area's line to the front of the next area; both changes run their handlers, so that
+/// the flow goes on from area to area. A line without a place to split stays as it is, silently.
+void PushTheText(Program& program, PageId page, int index);
+
+} // namespace modText
