@@ -181,6 +181,10 @@ struct Page {
     bool RowFieldsMade = false; ///< the row arrays hold all their elements
     std::vector<LabelBase> LabelBaseState;
     bool DateWarningShown = false;
+
+    /// Preview: the page shows as flat ink. The fields keep what they are; the front end hides them
+    /// meanwhile.
+    bool InkShown = false;
 };
 
 struct PageSet {

@@ -1,27 +1,17 @@
 #pragma once
 
 #include "document/page_records.h"
-#include "platform/drawing_surface.h"
 
 struct Program;
 
 namespace modPrint {
 
-/// Sets `PagesInUse` from the current texts: the highest line page with a text, plus one. Unchanged when no
-/// page has one.
-void CountPagesInUse(Program& program);
-
-/// Writes page numbers and headings into the labels and the proposal's label table, and the main window's
-/// line.
-void SetPageNumbers(Program& program);
-
-enum class SurfaceKind { Printer, PageItself };
-
-/// Draws one page, field by field, at each field's Left and Top. Fields with the Tag "Hide" are left out,
-/// hidden fields without it are drawn. On a printer ends with EndDoc. Reports as "PrintTheForm".
-void PrintTheForm(Program& program, DrawingSurface& surface, SurfaceKind kind, PageId page);
-
+/// Prints all pages in use, last to first, the client's copy before ours. Without a printer: "Printer Error
+/// 482. Printer not found." After a Cancel of an earlier run the next one ends at once, and the one after it
+/// prints.
 void mnuFilePrintAll_Click(Program& program);
+
+/// Prints one page. Without a printer it does nothing and says nothing.
 void mnuFilePrintPage_Click(Program& program, PageId page);
 
 } // namespace modPrint

@@ -34,7 +34,4 @@ struct Entry {
 /// Puts every entry's design state into the main window.
 void LoadDesignState(Program& program);
 
-/// Runs a command as its menu entry does. A disabled or invisible one does nothing.
-void Run(Program& program, CommandId id);
-
 } // namespace commands

@@ -18,6 +18,10 @@ namespace modInput {
 [[nodiscard]] int KeyPress(Program& program, int keyAscii);
 /// The widget of a field has applied an edit.
 void Edited(Program& program, const FieldRef& field, std::string_view text, int selStart, int selLength);
+/// The same for an edit that no key made: a paste by mouse, a drop, an input method, undo. No stale key may
+/// then move text on into another row.
+void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view text, int selStart,
+                      int selLength);
 /// The cursor or selection moved without an edit.
 void CursorMoved(Program& program, const FieldRef& field, int selStart, int selLength);
 void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength);

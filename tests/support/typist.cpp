@@ -162,6 +162,6 @@ void Typist::Insert(std::string_view text) {
     Line line;
     if (FocusedLine(program_, line)) {
         Replace(line, text);
-        modInput::Edited(program_, line.Field, line.Text, line.SelStart, line.SelLength);
+        modInput::EditedWithoutKey(program_, line.Field, line.Text, line.SelStart, line.SelLength);
     }
 }

@@ -1,0 +1,77 @@
+#include "output/page_count.h"
+
+#include "core/numbers.h"
+#include "core/program.h"
+#include "core/text.h"
+#include "document/page_geometry.h"
+#include "document/page_setup.h"
+
+#include <algorithm>
+#include <string>
+
+namespace modPrint {
+
+namespace {
+
+/// What a label looks like goes along with the proposal's properties.
+void Keep(Program& program, PageId page, int index) {
+    if (IndexOf(page) >= kEditedPageCount) {
+        return;
+    }
+    const PageLabel& label = program.pages[page].lbl[static_cast<std::size_t>(index)];
+    LabelChangeRecord& kept =
+        program.format
+            .PropLabelChanges[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)];
+    kept.Changed = true;
+    kept.Left = label.Left;
+    kept.Top = label.Top;
+    kept.Caption = label.Caption;
+    kept.FontName = label.FontName;
+    kept.FontSize = label.FontSize;
+    kept.FontBold = label.FontBold;
+    kept.ForeColor = label.ForeColor;
+    kept.FontItalic = label.FontItalic;
+    kept.FontUnderline = label.FontUnderline;
+}
+
+bool HasLine(const Program& program, int page) {
+    const int last = static_cast<int>(numbers::Val(text::Right(program.pages[PageAt(page)].Tag, 2)));
+    const auto& lines = program.document.CurrentTextBuf[static_cast<std::size_t>(page)];
+    const auto end =
+        lines.begin() + std::min<std::ptrdiff_t>(last + 1, static_cast<std::ptrdiff_t>(lines.size()));
+    return std::any_of(lines.begin(), end, [](const std::string& line) { return !text::Trim(line).empty(); });
+}
+
+} // namespace
+
+void CountPagesInUse(Program& program) {
+    for (int page = kLinePageCount; page >= 1; --page) {
+        if (HasLine(program, page - 1)) {
+            program.document.PagesInUse = page + 1;
+            return;
+        }
+    }
+}
+
+void SetPageNumbers(Program& program) {
+    const int used = program.document.PagesInUse;
+    for (const PageId page : kAllPages) {
+        const bool final = !IsLinePage(page);
+        const int number = final ? used - 1 : IndexOf(page);
+        const int index = geometry::PageNumberLabel(page);
+        program.pages[page].lbl[static_cast<std::size_t>(index)].Caption =
+            std::string(geometry::PageOfText(number)) + std::to_string(used);
+        Keep(program, page, index);
+        if (page == PageId::frmP1) {
+            continue;
+        }
+        PageLabel& heading = program.pages[page].lbl[0];
+        heading.Caption =
+            program.document.PageHeading + "Page " + std::to_string(final ? used : IndexOf(page) + 1);
+        heading.Left = geometry::kPageCenter - modPages::LabelWidth(program, heading) / 2;
+        Keep(program, page, 0);
+    }
+    program.main.lblHighestPage.Caption = "Utilizing " + std::to_string(used) + " of 6 Available Pages";
+}
+
+} // namespace modPrint

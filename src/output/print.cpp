@@ -1,0 +1,84 @@
+#include "output/print.h"
+
+#include "core/errors.h"
+#include "core/guard.h"
+#include "core/paths.h"
+#include "core/program.h"
+#include "document/file_names.h"
+#include "document/page_geometry.h"
+#include "output/frm_dialog.h"
+#include "output/page_count.h"
+#include "output/print_page.h"
+
+#include <string>
+#include <vector>
+
+namespace modPrint {
+
+namespace {
+
+PrintCommand CommandFor(const Program& program) {
+    const DocumentState& document = program.document;
+    const std::string folder = document.FilePath.empty() ? modMain::DataFolder(program) : document.FilePath;
+    const std::string base = document.BaseName.empty() ? "Proposal" : document.BaseName;
+    return {paths::Join(folder, base + ".pdf")};
+}
+
+std::string MessageFor(const Program& program, PageId page) {
+    const std::string used = std::to_string(program.document.PagesInUse);
+    const std::string number = IsLinePage(page) ? std::to_string(IndexOf(page) + 1) : used;
+    return "Printing Page " + number + " of " + used + (page == PageId::frmP6_1 ? " Copy" : "");
+}
+
+void PrintOne(Program& program, PageId page) {
+    CountPagesInUse(program);
+    SetPageNumbers(program);
+    program.printing.PrintFormName = geometry::PageName(page);
+    auto dialog = std::make_unique<frmDialog>();
+    dialog->lblMessage.Caption = MessageFor(program, page);
+    modWindows::Show(program, std::move(dialog));
+    program.platform.printers.NameDocument(geometry::PageName(page), IndexOf(page));
+    PrintTheForm(program, page);
+    if (Window* shown = modWindows::Find(program, "frmDialog")) {
+        modWindows::Close(program, *shown);
+    }
+}
+
+/// One command is one job for a printer that makes a file, however many pages it prints.
+void PrintPages(Program& program, const std::vector<PageId>& pages) {
+    Printers& printers = program.platform.printers;
+    if (!printers.BeginCommand(CommandFor(program))) {
+        return;
+    }
+    for (const PageId page : pages) {
+        PrintOne(program, page);
+    }
+    Guarded(program, "PrintTheForm", [&] { printers.EndCommand(); });
+}
+
+} // namespace
+
+void mnuFilePrintPage_Click(Program& program, PageId page) {
+    if (!program.run.NoPrinter) {
+        PrintPages(program, {page});
+    }
+}
+
+void mnuFilePrintAll_Click(Program& program) {
+    if (program.run.NoPrinter) {
+        program.platform.questions.MsgBox("Printer Error 482. Printer not found.", Buttons::Ok, "");
+        return;
+    }
+    if (program.printing.PrintCancelled) {
+        program.printing.PrintCancelled = false;
+        return;
+    }
+    CountPagesInUse(program);
+    std::vector<PageId> pages{PageId::frmP6_1, PageId::frmP6};
+    for (int page = program.document.PagesInUse - 1; page >= 1; --page) {
+        pages.push_back(PageAt(page - 1));
+    }
+    PrintPages(program, pages);
+}
+
+} // namespace modPrint

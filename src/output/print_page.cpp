@@ -1,0 +1,132 @@
+#include "output/print_page.h"
+
+#include "core/errors.h"
+#include "core/guard.h"
+#include "core/program.h"
+#include "document/page_geometry.h"
+#include "document/totals.h"
+
+namespace modPrint {
+
+namespace {
+
+bool RightAligned(PageId page, int index) {
+    if (page == PageId::frmP1) {
+        return index == 1 || geometry::IsAmount(page, index);
+    }
+    return !IsLinePage(page) || geometry::IsAmount(page, index);
+}
+
+/// Main categories are bold rows of full width.
+constexpr float kCategoryWidth = 8640, kCategoryLeft = 720, kCategoryRight = 11520;
+
+enum class Align { Left, Right };
+
+void DrawArea(const Program& program, DrawingSurface& surface, const TextArea& area, Align align) {
+    if (area.Tag == kHide) {
+        return;
+    }
+    surface.FontBold = area.FontBold;
+    surface.Font = area.FontName;
+    surface.FontSize = area.FontSize;
+    surface.ForeColor = program.run.DefaultFontColor;
+    surface.FontItalic = area.FontItalic;
+    surface.FontUnderline = false;
+    surface.CurrentY = area.Top;
+    surface.CurrentX =
+        align == Align::Right ? area.Left + area.Width - surface.TextWidth(area.Text) : area.Left;
+    surface.Print(area.Text);
+    if (program.printing.UnderlineCategories && area.Width == kCategoryWidth && area.FontBold) {
+        const float y = area.Top + area.Height;
+        surface.Line(kCategoryLeft, y, kCategoryRight, y);
+    }
+}
+
+void DrawLabel(DrawingSurface& surface, const PageLabel& label) {
+    if (label.Tag == kHide) {
+        return;
+    }
+    surface.Font = label.FontName;
+    surface.FontSize = label.FontSize;
+    surface.FontBold = label.FontBold;
+    surface.ForeColor = label.ForeColor;
+    surface.FontItalic = label.FontItalic;
+    surface.FontUnderline = label.FontUnderline;
+    surface.CurrentX = label.Left;
+    surface.CurrentY = label.Top;
+    surface.Print(label.Caption);
+}
+
+void PrintSteps(Program& program, Printer& printer, PageId page) {
+    if (program.main.cmdReCalc.BackColor == colors::kOverLimit) {
+        modTotals::RecalculateAll(program);
+        modTotals::UpdateRunningTotals(program);
+    }
+    const ScopedFlag printing(program.guards.Printing);
+    const Page& first = program.pages[PageId::frmP1];
+    printer.ScaleHeight = first.Height;
+    printer.ScaleWidth = first.Width;
+    printer.CurrentX = 0;
+    printer.CurrentY = 0;
+    if (program.printing.PrinterOffsetX != 0) {
+        printer.ScaleLeft = program.printing.PrinterOffsetX;
+    }
+    if (program.printing.PrinterOffsetY != 0) {
+        printer.ScaleTop = program.printing.PrinterOffsetY;
+    }
+    program.platform.events.LetEventsRun();
+    const std::string font = printer.Font;
+    const float size = printer.FontSize;
+    DrawPage(program, printer, page);
+    printer.Font = font;
+    printer.FontSize = size;
+    printer.EndDoc();
+    printer.Font = first.txt[0].FontName;
+    printer.FontSize = first.txt[0].FontSize;
+    printer.FontBold = false;
+    printer.FontItalic = false;
+    printer.FontUnderline = false;
+}
+
+} // namespace
+
+void DrawPage(const Program& program, DrawingSurface& surface, PageId page) {
+    const Page& record = program.pages[page];
+    for (std::size_t index = 0; index < record.txt.size(); ++index) {
+        const bool right = RightAligned(page, static_cast<int>(index));
+        DrawArea(program, surface, record.txt[index], right ? Align::Right : Align::Left);
+    }
+    for (const PageLabel& label : record.lbl) {
+        DrawLabel(surface, label);
+    }
+    for (const PageImage& image : record.imgNoTax) {
+        if (image.Tag != kHide) {
+            surface.PaintPicture({PictureRef::Source::NoTaxMark, ""}, image.Left, image.Top,
+                                 PictureSize{image.Width, image.Height});
+        }
+    }
+    for (const auto* boxes : {&record.txtQty, &record.txtAmt}) {
+        for (const TextArea& box : *boxes) {
+            DrawArea(program, surface, box, Align::Left);
+        }
+    }
+    for (const auto* labels : {&record.lblAt, &record.lblEach}) {
+        for (const PageLabel& label : *labels) {
+            DrawLabel(surface, label);
+        }
+    }
+    for (const PageLine& line : record.lne) {
+        surface.Line(line.X1, line.Y1, line.X2, line.Y2);
+    }
+    if (record.HasLogo && record.pic.Tag != kHide && record.pic.Picture.From != PictureRef::Source::None) {
+        // The one field that the printer's offset does not move.
+        surface.PaintPicture(record.pic.Picture, record.pic.Left + surface.ScaleLeft,
+                             record.pic.Top + surface.ScaleTop);
+    }
+}
+
+void PrintTheForm(Program& program, PageId page) {
+    Guarded(program, "PrintTheForm", [&] { PrintSteps(program, program.platform.printers.Device(), page); });
+}
+
+} // namespace modPrint

@@ -1,0 +1,98 @@
+#include "shell/command_run.h"
+
+#include "core/frm_tax.h"
+#include "core/program.h"
+#include "core/settings.h"
+#include "document/lifecycle.h"
+#include "document/totals.h"
+#include "editing/columns.h"
+#include "output/preview.h"
+#include "output/print.h"
+#include "shell/frm_main.h"
+
+#include <array>
+
+namespace commands {
+
+namespace {
+
+using Handler = void (*)(Program&);
+
+template <PageId page> void PrintPage(Program& program) {
+    modPrint::mnuFilePrintPage_Click(program, page);
+}
+
+void ShowTaxRate(Program& program) {
+    modWindows::Show(program, std::make_unique<frmTax>());
+}
+
+template <CommandId id> void Toggle(Program& program) {
+    program.main[id].Checked = !program.main[id].Checked;
+}
+
+void ToggleUnderline(Program& program) {
+    Toggle<CommandId::mnuOptUnderline>(program);
+    program.printing.UnderlineCategories = program.main[CommandId::mnuOptUnderline].Checked;
+}
+
+void ToggleOverwrite(Program& program) {
+    constexpr CommandId kId = CommandId::mnuOptEnableOverwriteFmtTextBoxes;
+    Toggle<kId>(program);
+    program.format.OverwriteFormatText = program.main[kId].Checked;
+}
+
+void Exit(Program& program) {
+    frmMain(program).mnuFileExit_Click();
+}
+
+struct Route {
+    CommandId Id;
+    Handler Run;
+};
+
+constexpr std::array kRoutes{
+    Route{CommandId::mnuFileNew, modMain::mnuFileNew_Click},
+    Route{CommandId::mnuFileOpenEvent, modMain::mnuFileOpenEvent_Click},
+    Route{CommandId::mnuFileSaveEvent, modMain::mnuFileSaveEvent_Click},
+    Route{CommandId::mnuFileSaveAs, modMain::mnuFileSaveAs_Click},
+    Route{CommandId::mnuFileRestoreFromBackup, modMain::mnuFileRestoreFromBackup_Click},
+    Route{CommandId::mnuFileDelete, modMain::mnuFileDelete_Click},
+    Route{CommandId::mnuFilePrintPreview, modPrint::TogglePreview},
+    Route{CommandId::mnuFileResume, modPrint::TogglePreview},
+    Route{CommandId::mnuFilePrintAll, modPrint::mnuFilePrintAll_Click},
+    Route{CommandId::mnuFilePrintPage1, PrintPage<PageId::frmP1>},
+    Route{CommandId::mnuFilePrintPage2, PrintPage<PageId::frmP2>},
+    Route{CommandId::mnuFilePrintPage3, PrintPage<PageId::frmP3>},
+    Route{CommandId::mnuFilePrintPage4, PrintPage<PageId::frmP4>},
+    Route{CommandId::mnuFilePrintPage5, PrintPage<PageId::frmP5>},
+    Route{CommandId::mnuFilePrintPage6, PrintPage<PageId::frmP6>},
+    Route{CommandId::mnuFilePrintPage6_1, PrintPage<PageId::frmP6_1>},
+    Route{CommandId::mnuFileExit, Exit},
+    Route{CommandId::mnuEditTextColumns, modColumns::ToggleColumns},
+    Route{CommandId::mnuEditTextTaxExempt, modColumns::mnuEditTextTaxExempt_Click},
+    Route{CommandId::mnuEditTextTaxable, modColumns::mnuEditTextTaxable_Click},
+    Route{CommandId::mnuOptSalesTax, ShowTaxRate},
+    Route{CommandId::mnuOptNetwork, modSettings::RequestNetworkSharePath},
+    Route{CommandId::mnuOptEnableOverwriteFmtTextBoxes, ToggleOverwrite},
+    Route{CommandId::mnuOptHideTotals, modTotals::mnuOptHideTotals_Click},
+    Route{CommandId::mnuOptUnderline, ToggleUnderline},
+    Route{CommandId::mnuToolsRecalculate, modTotals::mnuToolsRecalculate_Click},
+    Route{CommandId::mnuAdminCheckAddition, modTotals::mnuAdminCheckAddition_Click},
+};
+
+} // namespace
+
+void Run(Program& program, CommandId id) {
+    const CommandState& state = program.main[id];
+    if (!state.Enabled || !state.Visible) {
+        return;
+    }
+    for (const Route& route : kRoutes) {
+        if (route.Id == id) {
+            route.Run(program);
+            return;
+        }
+    }
+}
+
+} // namespace commands

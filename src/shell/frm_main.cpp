@@ -1,0 +1,91 @@
+#include "shell/frm_main.h"
+
+#include "core/program.h"
+#include "document/lifecycle.h"
+#include "document/proposal_file.h"
+#include "document/totals.h"
+#include "output/preview.h"
+#include "shell/command_run.h"
+#include "shell/page_switch.h"
+
+void frmMain::cmdClearMem_Click() {
+    commands::Run(program_, CommandId::mnuEditTextDeselect);
+}
+
+void frmMain::cmdPreview_Click() {
+    modPrint::TogglePreview(program_);
+}
+
+void frmMain::cmdReCalc_Click() {
+    modTotals::cmdReCalc_Click(program_);
+}
+
+void frmMain::cmdTaxRate_Click() {
+    commands::Run(program_, CommandId::mnuOptSalesTax);
+}
+
+// Wanted: this button shows its pressed look and starts nothing; a new proposal starts from the menu.
+void frmMain::imgNew_MouseDown() {}
+
+void frmMain::imgOpen_MouseDown() {
+    commands::Run(program_, CommandId::mnuFileOpenEvent);
+}
+
+void frmMain::imgFootNotes_MouseDown() {
+    commands::Run(program_, CommandId::mnuFileOpenFootnotes);
+}
+
+void frmMain::imgPrint_Click() {
+    commands::Run(program_, CommandId::mnuFilePrintAll);
+}
+
+void frmMain::imgSave_Click() {
+    commands::Run(program_, CommandId::mnuFileSaveEvent);
+}
+
+void frmMain::imgSaveAs_Click() {
+    commands::Run(program_, CommandId::mnuFileSaveAs);
+}
+
+void frmMain::imgSearch_Click() {
+    commands::Run(program_, CommandId::mnuEditFind);
+}
+
+void frmMain::imgSpellCheck_Click() {
+    commands::Run(program_, CommandId::mnuEditSpellCheck);
+}
+
+void frmMain::imgPage_Click(int index) {
+    modScroll::UpdatePageButtons(program_, index);
+}
+
+void frmMain::mnuFileExit_Click() {
+    if (MDIForm_QueryUnload()) {
+        MDIForm_Unload();
+    }
+}
+
+bool frmMain::MDIForm_QueryUnload() {
+    if (program_.main.Closing ||
+        (!modMain::SomethingChanged(program_) && !modFile::PropertiesChanged(program_))) {
+        return true;
+    }
+    const Answer answer = program_.platform.questions.MsgBox(
+        "The file has been changed. Do you want to save it?", Buttons::YesNoCancel, "Text has been Changed");
+    if (answer == Answer::Yes) {
+        // Saving keeps the program open; the person closes a second time.
+        modFile::SaveEventFile(program_);
+        return false;
+    }
+    return answer == Answer::No;
+}
+
+void frmMain::MDIForm_Unload() {
+    if (program_.main.Closing) {
+        return;
+    }
+    program_.main.Closing = true;
+    program_.run.ProgramClosing = true;
+    modWindows::UnloadAll(program_);
+    program_.platform.events.Quit();
+}

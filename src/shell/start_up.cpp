@@ -1,0 +1,195 @@
+#include "shell/start_up.h"
+
+#include "core/errors.h"
+#include "core/files.h"
+#include "core/guard.h"
+#include "core/paths.h"
+#include "core/program.h"
+#include "core/settings.h"
+#include "core/text.h"
+#include "document/fields.h"
+#include "document/file_names.h"
+#include "document/page_setup.h"
+#include "document/reset.h"
+#include "document/titles.h"
+#include "shell/command_table.h"
+
+#include <algorithm>
+
+namespace modMain {
+
+namespace {
+
+constexpr std::string_view kNeededFont = "Times New Roman";
+
+/// The first line alone: nothing else is read before the questions are settled.
+bool IsFirstStart(const Program& program) {
+    const std::string path = paths::Join(program.folders.InstallFolder, "UserPreferences.txt");
+    constexpr std::uintmax_t kLine = 64;
+    try {
+        const std::vector<std::string> lines = text::SplitLines(files::ReadUpTo(path, kLine));
+        const std::string_view key = modSettings::KeyText(modSettings::Key::AppFirstInstance);
+        return !lines.empty() &&
+               text::EqualNoCase(text::Trim(text::Mid(lines[0], static_cast<int>(key.size()) + 1)), "True");
+    } catch (const std::exception&) {
+        return false; // a missing file is told of when the settings are read
+    }
+}
+
+bool FontIsThere(const Program& program) {
+    const std::vector<std::string> fonts = program.platform.screen.Fonts();
+    return std::any_of(fonts.begin(), fonts.end(),
+                       [](const std::string& font) { return text::EqualNoCase(font, kNeededFont); });
+}
+
+void DisableAtStart(Program& program) {
+    for (const CommandId id :
+         {CommandId::mnuOptCopyToBusinessAddressBook, CommandId::mnuOptCopyToPersonalAddressBook,
+          CommandId::mnuAdminConvert, CommandId::mnuAdminPrintAll, CommandId::mnuAdminRecalc,
+          CommandId::mnuEditTextDeselect, CommandId::mnuEditTextMoveDown, CommandId::mnuEditTextMoveUp,
+          CommandId::mnuEditTextPaste, CommandId::mnuEditTextUndo, CommandId::mnuFileRestoreFromBackup}) {
+        program.main[id].Enabled = false;
+    }
+}
+
+void OpenSideWindows(Program& program) {
+    constexpr int kWideScreen = 1024;
+    if (program.platform.screen.WidthInPixels() >= kWideScreen) {
+        if (!program.settings.ShowFUT) {
+            program.run.ACEnabled = false;
+        } else if (program.hooks.ShowTermsWindow) {
+            program.hooks.ShowTermsWindow(program);
+        }
+    }
+    if (program.settings.ShowCalc && program.hooks.ShowCalculator) {
+        program.hooks.ShowCalculator(program);
+    }
+}
+
+/// A font of the settings that is not installed gives way to the one the pages are designed in.
+void SettleDefaultFont(Program& program) {
+    if (!program.run.DefaultFontFound) {
+        program.run.DefaultFontName = kNeededFont;
+    }
+}
+
+void LoadSteps(Program& program) {
+    if (!program.settings.PrefsRead) {
+        modSettings::GetUserPreferences(program);
+    }
+    if (!program.run.FontsLoaded) {
+        LoadTheFonts(program);
+    }
+    SettleDefaultFont(program);
+    modSettings::GetTaxRate(program);
+    program.document.FileFilter = "*.hef";
+    program.document.DocumentKind = "Event";
+    program.format.PropTextChanges = {};
+    program.format.PropLabelChanges = {};
+    program.format.FormatTextChanges = {};
+    program.format.FormatLabelChanges = {};
+    program.format.LabelSavedState = {};
+    {
+        const ScopedFlag silent(program.guards.ResetActive);
+        DisableAtStart(program);
+        program.run.ACEnabled = program.settings.AutoCompleteWord;
+        program.run.ACStartLen = program.settings.AutoStartPosition;
+        SetPageHeading(program, "Event Proposal");
+        ConvertOldFiles(program);
+        for (const PageId page : kAllPages) {
+            modPages::SetUpPage(program, page);
+        }
+        modPages::ApplyPageFonts(program);
+        static_cast<void>(StartNewFile(program));
+        modPages::SnapshotLabels(program);
+        if (!program.run.TermsPinned) {
+            program.run.FUTFileName = "Default Terms.fut";
+        }
+        OpenSideWindows(program);
+    }
+    for (CommandButton* button :
+         {&program.main.cmdPreview, &program.main.cmdReCalc, &program.main.cmdTaxRate}) {
+        button->Enabled = true;
+    }
+    program.main.lblDir.Caption = "Current Folder = " + DataFolder(program);
+    for (const PageId page : {PageId::frmP2, PageId::frmP3, PageId::frmP4, PageId::frmP5, PageId::frmP1}) {
+        modPages::EnsureRowFields(program, page);
+    }
+    modPages::ApplyPageFonts(program);
+    modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
+    if (program.hooks.ReadEventDates) {
+        program.hooks.ReadEventDates(program);
+    }
+}
+
+} // namespace
+
+StartResult Main(Program& program) {
+    Questions& questions = program.platform.questions;
+    if (!program.platform.instance.Claim(program.folders.InstallFolder)) {
+        questions.MsgBox("Another instance of this application is already running.", Buttons::Ok, "");
+        return StartResult::Ended;
+    }
+    StartResult result = StartResult::Running;
+    Guarded(program, "Main", [&] {
+        if (IsFirstStart(program)) {
+            questions.MsgBox(
+                text::Lines({"Although the program is easy to use, some of the features which will",
+                             "help you the most can be confusing to understand. For this reason, it", "",
+                             "is HIGHLY RECOMMENDED you explore the Quick Start Tutorial under Help."}),
+                Buttons::Ok, "");
+        }
+        if (!FontIsThere(program) &&
+            questions.MsgBox(text::Lines({"The font \"Times New Roman\" is not installed on this computer.",
+                                          "Some features of this software may not work correctly",
+                                          "without it. Would you like to try the software anyway?", "",
+                                          "Please contact us for instructions to install the font."}),
+                             Buttons::YesNo, "Times New Roman font not found.") != Answer::Yes) {
+            result = StartResult::Ended;
+            return;
+        }
+        MDIForm_Load(program);
+    });
+    return result;
+}
+
+void MDIForm_Load(Program& program) {
+    const ScopedFlag keep(program.guards.KeepPageContent);
+    const ScopedFlag starting(program.guards.StartingUp);
+    commands::LoadDesignState(program);
+    Guarded(program, "MDIForm_Load", [&] { LoadSteps(program); });
+    program.main.Loaded = true;
+}
+
+void LoadTheFonts(Program& program) {
+    Guarded(program, "LoadTheFonts", [&] {
+        RunState& run = program.run;
+        run.FontList.clear();
+        for (const std::string& font : program.platform.screen.Fonts()) {
+            run.FontList.push_back(font);
+            run.DefaultFontFound = run.DefaultFontFound || font == program.settings.SavedFontName;
+        }
+        program.platform.events.LetEventsRun();
+        run.FontsLoaded = true;
+    });
+}
+
+void ConvertOldFiles(Program& program) {
+    Guarded(program, "ConvertOldFiles", [&] {
+        const std::string folder = DataFolder(program);
+        bool taken = false;
+        for (const std::string& name : files::List(folder, "*.hwf")) {
+            const std::string to = std::string(paths::BaseOf(name)) + ".hef";
+            if (files::Exists(paths::Join(folder, to))) {
+                taken = true; // left as it is; the others go on
+                continue;
+            }
+            files::Rename(paths::Join(folder, name), paths::Join(folder, to));
+        }
+        if (taken) {
+            throw files::FileError(files::kAlreadyExists, "File already exists");
+        }
+    });
+}
+
+} // namespace modMain

@@ -1,0 +1,52 @@
+#include "shell/wiring.h"
+
+#include "core/program.h"
+#include "editing/columns.h"
+#include "editing/text_areas.h"
+#include "shell/page_switch.h"
+
+namespace {
+
+void Change(Program& program, const FieldRef& field) {
+    switch (field.Kind) {
+    case FieldKind::txt:
+        modText::txt_Change(program, field.Page, field.Index);
+        break;
+    case FieldKind::txtQty:
+        modColumns::txtQty_Change(program, field.Page, field.Index);
+        break;
+    case FieldKind::txtAmt:
+        modColumns::txtAmt_Change(program, field.Page, field.Index);
+        break;
+    default:
+        break;
+    }
+}
+
+void GotFocus(Program& program, const FieldRef& field) {
+    if (field.Kind == FieldKind::txt) {
+        modText::txt_GotFocus(program, field.Page, field.Index);
+    } else {
+        modColumns::Box_GotFocus(program, field);
+    }
+}
+
+void LostFocus(Program& program, const FieldRef& field) {
+    if (field.Kind == FieldKind::txt) {
+        modText::txt_LostFocus(program, field.Page, field.Index);
+    } else {
+        modColumns::Box_LostFocus(program, field);
+    }
+}
+
+} // namespace
+
+void Wire(Program& program) {
+    Hooks& hooks = program.hooks;
+    hooks.Change = Change;
+    hooks.GotFocus = GotFocus;
+    hooks.LostFocus = LostFocus;
+    hooks.UpdatePageButtons = modScroll::UpdatePageButtons;
+    hooks.PageKey = modScroll::PageKey;
+    hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
+}
