@@ -8,6 +8,7 @@
 #include "editing/columns.h"
 #include "output/preview.h"
 #include "output/print.h"
+#include "shell/command_table.h"
 #include "shell/frm_main.h"
 
 #include <array>
@@ -83,8 +84,7 @@ constexpr std::array kRoutes{
 } // namespace
 
 void Run(Program& program, CommandId id) {
-    const CommandState& state = program.main[id];
-    if (!state.Enabled || !state.Visible) {
+    if (!IsAvailable(program, id) || !program.main[id].Visible) {
         return;
     }
     for (const Route& route : kRoutes) {

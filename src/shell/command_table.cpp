@@ -316,4 +316,8 @@ void LoadDesignState(Program& program) {
     }
 }
 
+bool IsAvailable(const Program& program, CommandId id) {
+    return program.main[id].Enabled && Find(id).State == Built::Yes;
+}
+
 } // namespace commands

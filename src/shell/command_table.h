@@ -34,4 +34,7 @@ struct Entry {
 /// Puts every entry's design state into the main window.
 void LoadDesignState(Program& program);
 
+/// Whether the entry can be chosen now: enabled, and its room is built.
+[[nodiscard]] bool IsAvailable(const Program& program, CommandId id);
+
 } // namespace commands
