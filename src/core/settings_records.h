@@ -80,6 +80,7 @@ struct RunState {
     /// The terms list in use; pinned means that a document's kind does not change it.
     std::string FUTFileName;
     bool TermsPinned = false;
+    bool FUTShown = false;
     bool ACEnabled = false;
     int ACStartLen = 0;
 };

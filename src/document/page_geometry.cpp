@@ -99,6 +99,13 @@ std::string_view PageTitle(int index) {
     return kPageTitle[static_cast<std::size_t>(index)];
 }
 
+bool RightAligned(PageId page, int index) {
+    if (page == PageId::frmP1) {
+        return index == 1 || IsAmount(page, index);
+    }
+    return !IsLinePage(page) || IsAmount(page, index);
+}
+
 std::string_view KindOf(std::string_view tag) {
     return text::Left(tag, 4);
 }

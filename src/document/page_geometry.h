@@ -39,6 +39,8 @@ inline constexpr float kColumnsWidth = 6270;
 [[nodiscard]] std::string_view PageOfText(int index);
 /// "Page 1" to "Page 6".
 [[nodiscard]] std::string_view PageTitle(int index);
+/// Whether an area's text ends at its right edge, on screen as on paper.
+[[nodiscard]] bool RightAligned(PageId page, int index);
 /// First four characters of a Tag, and the number in its last three.
 [[nodiscard]] std::string_view KindOf(std::string_view tag);
 [[nodiscard]] int LimitOf(std::string_view tag);

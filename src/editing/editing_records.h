@@ -24,6 +24,10 @@ struct EditingState {
     bool PushFollowsCursor = false;
     bool RightClickPending = false;
     int RightClickArea = 0;
+    bool BlockCopyHeld = false; ///< areas are in memory, a paste may act
+    bool UndoAvailable = false; ///< a delete or cut can be undone
+    int SavedSelStart = 0;      ///< text selection remembered for the case commands
+    int SavedSelLength = 0;
     /// A suggested completion stands selected in the area; per page frmP1 to frmP5.
     std::array<bool, kLinePageCount> ACActive{};
 };

@@ -10,13 +10,6 @@ namespace modPrint {
 
 namespace {
 
-bool RightAligned(PageId page, int index) {
-    if (page == PageId::frmP1) {
-        return index == 1 || geometry::IsAmount(page, index);
-    }
-    return !IsLinePage(page) || geometry::IsAmount(page, index);
-}
-
 /// Main categories are bold rows of full width.
 constexpr float kCategoryWidth = 8640, kCategoryLeft = 720, kCategoryRight = 11520;
 
@@ -93,7 +86,7 @@ void PrintSteps(Program& program, Printer& printer, PageId page) {
 void DrawPage(const Program& program, DrawingSurface& surface, PageId page) {
     const Page& record = program.pages[page];
     for (std::size_t index = 0; index < record.txt.size(); ++index) {
-        const bool right = RightAligned(page, static_cast<int>(index));
+        const bool right = geometry::RightAligned(page, static_cast<int>(index));
         DrawArea(program, surface, record.txt[index], right ? Align::Right : Align::Left);
     }
     for (const PageLabel& label : record.lbl) {

@@ -1,7 +1,10 @@
 #include "shell/input.h"
 
+#include "core/numbers.h"
 #include "core/program.h"
+#include "core/text.h"
 #include "document/fields.h"
+#include "document/page_geometry.h"
 #include "document/totals.h"
 #include "editing/columns.h"
 #include "shell/page_switch.h"
@@ -9,6 +12,9 @@
 namespace modInput {
 
 namespace {
+
+/// No line of a proposal is longer; what a paste brings beyond it would only slow every key.
+constexpr std::size_t kMostInserted = 4096;
 
 bool IsText(const FieldRef& field) {
     return field.Kind == FieldKind::txt;
@@ -68,6 +74,48 @@ void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view 
     program.editing.CursorPos = modFields::Area(program, field).SelStart;
     program.editing.LastKeyChar.clear();
     modFields::TypeText(program, field, text, selStart, selLength);
+}
+
+void TellRefused(Program& program, int count) {
+    program.main.Notice =
+        count == 1 ? "One character was not taken: it cannot be kept in a proposal."
+                   : std::to_string(count) + " characters were not taken: they cannot be kept in a proposal.";
+}
+
+void Insert(Program& program, const FieldRef& field, std::string_view text, int refused, By by) {
+    TextArea& area = modFields::Area(program, field);
+    if (refused > 0) {
+        TellRefused(program, refused);
+    }
+    if (area.Locked || program.editing.BlockMode || text.empty()) {
+        return;
+    }
+    const bool filtered =
+        !IsText(field) || field.Page == PageId::frmP6 || geometry::IsAmount(field.Page, field.Index);
+    std::string taken(text);
+    if (filtered) {
+        taken = text::Trim(text);
+        if (!numbers::IsNumeric(taken, program.settings.CurrencySymbol)) {
+            return;
+        }
+    } else if (taken.size() > kMostInserted) {
+        program.main.Notice = "The text was too long for one line; its end was not taken.";
+        taken.resize(kMostInserted);
+    }
+    std::string value = area.Text;
+    modFields::SetCursor(area, area.SelStart, area.SelLength);
+    const int start = area.SelStart;
+    value.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(area.SelLength), taken);
+    const int end = start + static_cast<int>(taken.size());
+    if (by == By::Key) {
+        Edited(program, field, value, end, 0);
+    } else {
+        EditedWithoutKey(program, field, value, end, 0);
+    }
+}
+
+void FieldEntered(Program& program, const FieldRef& field) {
+    modFields::GiveFocus(program, field);
 }
 
 void CursorMoved(Program& program, const FieldRef& field, int selStart, int selLength) {

@@ -22,6 +22,15 @@ void Edited(Program& program, const FieldRef& field, std::string_view text, int 
 /// then move text on into another row.
 void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view text, int selStart,
                       int selLength);
+/// A text from outside replaces the selection, by paste or drop. Filtered fields take it whole when it is a
+/// number, and not at all otherwise. `refused` characters that have no byte were left out; the person is
+/// told.
+enum class By { Key, Mouse };
+void Insert(Program& program, const FieldRef& field, std::string_view text, int refused, By by);
+/// Tells the person that a character was not taken.
+void TellRefused(Program& program, int count);
+/// A field was reached by other means than the mouse or the page's own keys.
+void FieldEntered(Program& program, const FieldRef& field);
 /// The cursor or selection moved without an edit.
 void CursorMoved(Program& program, const FieldRef& field, int selStart, int selLength);
 void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength);

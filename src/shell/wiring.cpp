@@ -3,6 +3,7 @@
 #include "core/program.h"
 #include "editing/columns.h"
 #include "editing/text_areas.h"
+#include "editing/text_menu.h"
 #include "shell/page_switch.h"
 
 namespace {
@@ -48,5 +49,6 @@ void Wire(Program& program) {
     hooks.LostFocus = LostFocus;
     hooks.UpdatePageButtons = modScroll::UpdatePageButtons;
     hooks.PageKey = modScroll::PageKey;
+    hooks.UpdateTextMenu = modBlocks::UpdateTextMenu;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
 }

@@ -1,0 +1,521 @@
+#include "desktop/field_views.h"
+
+#include "core/program.h"
+#include "desktop/convert.h"
+#include "desktop/key_codes.h"
+#include "desktop/page_view.h"
+#include "desktop/paper_surface.h"
+#include "desktop/paper_text.h"
+#include "document/fields.h"
+#include "document/page_geometry.h"
+#include "shell/input.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleHints>
+
+#include <cmath>
+
+namespace {
+
+constexpr double kCaretWidth = 22; // twips, 1.1 point
+
+QRect OnScreen(double left, double top, double width, double height, double scale) {
+    const int x = static_cast<int>(std::floor(left * scale));
+    const int y = static_cast<int>(std::floor(top * scale));
+    return {x, y, static_cast<int>(std::ceil((left + width) * scale)) - x,
+            static_cast<int>(std::ceil((top + height) * scale)) - y};
+}
+
+QString FieldName(const FieldRef& field) {
+    const char* array = field.Kind == FieldKind::txtQty   ? "txtQty"
+                        : field.Kind == FieldKind::txtAmt ? "txtAmt"
+                                                          : "txt";
+    return QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(field.Index);
+}
+
+QString SpokenName(const FieldRef& field) {
+    const int page = qMin(IndexOf(field.Page), kEditedPageCount - 1) + 1;
+    const QString what = field.Kind == FieldKind::txtQty   ? QObject::tr("Quantity")
+                         : field.Kind == FieldKind::txtAmt ? QObject::tr("Unit Price")
+                                                           : QObject::tr("Text Area");
+    return QObject::tr("Page %1, %2 %3").arg(page).arg(what).arg(field.Index + 1);
+}
+
+/// A character that a key enters, as against a command.
+bool EntersCharacter(const QKeyEvent& event) {
+    if (event.text().size() != 1 || !event.text().front().isPrint()) {
+        return false;
+    }
+    const Qt::KeyboardModifiers held =
+        event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    // Ctrl and Alt together are the third level of many keyboards.
+    return held == Qt::NoModifier || held == (Qt::ControlModifier | Qt::AltModifier);
+}
+
+} // namespace
+
+TextAreaView::TextAreaView(PageView& page, const FieldRef& field)
+    : QLineEdit(&page), page_(page), field_(field) {
+    setObjectName(FieldName(field));
+    setAccessibleName(SpokenName(field));
+    setFrame(false);
+    setTextMargins(0, 0, 0, 0);
+    setContextMenuPolicy(Qt::DefaultContextMenu);
+    setFocusPolicy(Qt::ClickFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    connect(this, &QLineEdit::textEdited, this, [this] { ReportEdit(); });
+}
+
+TextFont TextAreaView::FontNow() const {
+    return {shown_.FontName, shown_.FontSize, shown_.FontBold, shown_.FontItalic};
+}
+
+std::string TextAreaView::Model() const {
+    return convert::ToModel(text());
+}
+int TextAreaView::Start() const {
+    return hasSelectedText() ? selectionStart() : cursorPosition();
+}
+int TextAreaView::Length() const {
+    return hasSelectedText() ? selectionLength() : 0;
+}
+
+void TextAreaView::Done() {
+    if (page_.AfterEvent) {
+        page_.AfterEvent();
+    }
+}
+
+void TextAreaView::Follow(const TextArea& record) {
+    // The record's cursor is compared with the widget's: it may have moved without the record's knowing.
+    const QString wanted = convert::ToQString(record.Text);
+    if (text() != wanted) {
+        setText(wanted);
+    }
+    if (hasFocus() && (Start() != record.SelStart || Length() != record.SelLength)) {
+        if (record.SelLength > 0) {
+            setSelection(record.SelStart, record.SelLength);
+        } else {
+            deselect();
+            setCursorPosition(record.SelStart);
+        }
+    }
+    if (built_ && record == shown_) {
+        return;
+    }
+    const bool placed =
+        !built_ || record.Left != shown_.Left || record.Top != shown_.Top || record.Width != shown_.Width;
+    const bool tip = !built_ || record.ToolTipText != shown_.ToolTipText;
+    shown_ = record;
+    built_ = true;
+    if (placed) {
+        setGeometry(OnScreen(static_cast<double>(record.Left), static_cast<double>(record.Top),
+                             static_cast<double>(record.Width), static_cast<double>(record.Height),
+                             page_.Scale()));
+        setFont(paper::Face({record.FontName, qMax(1.0F, record.FontSize / 15), false, false}));
+    }
+    if (tip) {
+        setToolTip(convert::ToQString(record.ToolTipText));
+    }
+    if (isReadOnly() != record.Locked) {
+        setReadOnly(record.Locked);
+    }
+    if (isEnabled() != record.Enabled) {
+        setEnabled(record.Enabled);
+    }
+    KeepCaretInView();
+    update();
+}
+
+double TextAreaView::TextWidth() const {
+    return static_cast<double>(page_.Measure().Width(shown_.Text, FontNow()));
+}
+
+double TextAreaView::Origin() const {
+    const bool right = field_.Kind == FieldKind::txt && geometry::RightAligned(field_.Page, field_.Index);
+    const double room = static_cast<double>(shown_.Width) - TextWidth();
+    return right && room > 0 ? room : -scroll_;
+}
+
+double TextAreaView::TextLeft() const {
+    return static_cast<double>(shown_.Left) + Origin();
+}
+
+void TextAreaView::KeepCaretInView() {
+    const double width = static_cast<double>(shown_.Width);
+    if (TextWidth() + kCaretWidth <= width) {
+        scroll_ = 0;
+        return;
+    }
+    const double caret = page_.Measure().XOf(shown_.Text, cursorPosition(), FontNow());
+    if (!hasFocus()) {
+        scroll_ = 0;
+    } else if (caret < scroll_) {
+        scroll_ = caret;
+    } else if (caret + kCaretWidth > scroll_ + width) {
+        scroll_ = caret + kCaretWidth - width;
+    }
+}
+
+int TextAreaView::PositionAt(double x) const {
+    const double left = static_cast<double>(shown_.Left) * page_.Scale() - geometry().x();
+    const double twips = (x - left) / page_.Scale() - Origin();
+    return page_.Measure().PositionAt(shown_.Text, twips, FontNow());
+}
+
+void TextAreaView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), convert::ToQColor(shown_.BackColor));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.save();
+    // The widget stands on whole pixels, the text where the paper has it.
+    painter.translate(static_cast<double>(shown_.Left) * page_.Scale() - geometry().x(),
+                      static_cast<double>(shown_.Top) * page_.Scale() - geometry().y());
+    painter.scale(page_.Scale(), page_.Scale());
+    const TextFont font = FontNow();
+    const QtTextMeasure& measure = page_.Measure();
+    const std::string words = Model();
+    const double origin = Origin();
+    const QColor ink = convert::ToQColor(shown_.ForeColor);
+    painter.setPen(ink);
+    if (preedit_.isEmpty()) {
+        paper::Draw(painter, {origin, 0}, words, font);
+    } else {
+        const QFont face = paper::Face(font);
+        const QString whole = text().left(cursorPosition()) + preedit_ + text().mid(cursorPosition());
+        painter.setFont(face);
+        painter.drawText(QPointF(origin, paper::Ascent(font)), whole);
+    }
+    const double height = static_cast<double>(shown_.Height);
+    if (Length() > 0 && (hasFocus() || !isActiveWindow())) {
+        const double from = origin + measure.XOf(words, Start(), font);
+        const double to = origin + measure.XOf(words, Start() + Length(), font);
+        const QRectF marked(from, 0, to - from, height);
+        painter.fillRect(marked, QColor(0x0B, 0x3D, 0x6E));
+        painter.setClipRect(marked);
+        painter.setPen(Qt::white);
+        paper::Draw(painter, {origin, 0}, words, font);
+        painter.setClipping(false);
+    } else if (hasFocus() && caretOn_ && !isReadOnly()) {
+        const double x = origin + measure.XOf(words, cursorPosition(), font);
+        painter.fillRect(QRectF(x, 8, kCaretWidth, height - 16), ink);
+    }
+    painter.restore();
+    if (hasFocus()) {
+        // Colour alone must not tell where the keyboard is.
+        painter.setPen(QPen(QColor(0x0B, 0x3D, 0x6E), 1.5));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75));
+    }
+}
+
+void TextAreaView::ReportEdit() {
+    const std::string now = Model();
+    if (byKey_) {
+        modInput::Edited(page_.TheProgram(), field_, now, cursorPosition(), 0);
+    } else {
+        modInput::EditedWithoutKey(page_.TheProgram(), field_, now, cursorPosition(), 0);
+    }
+}
+
+bool TextAreaView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        // The menu's shortcuts come before a line edit's own; only plain characters are claimed.
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (EntersCharacter(key) || key.matches(QKeySequence::Copy) || key.matches(QKeySequence::Paste) ||
+            key.matches(QKeySequence::Cut) || key.matches(QKeySequence::SelectAll)) {
+            event->accept();
+        } else {
+            event->ignore();
+        }
+        return event->isAccepted();
+    }
+    return QLineEdit::event(event);
+}
+
+void TextAreaView::PasteFromClipboard() {
+    const convert::Incoming incoming = convert::FromPerson(QGuiApplication::clipboard()->text());
+    modInput::Insert(page_.TheProgram(), field_, incoming.Text, incoming.Refused, modInput::By::Key);
+}
+
+void TextAreaView::Character(QKeyEvent* event, char byte) {
+    Program& program = page_.TheProgram();
+    if (modInput::KeyPress(program, static_cast<unsigned char>(byte)) == 0) {
+        return;
+    }
+    // The filter may have emptied a placeholder.
+    Follow(modFields::Area(program, field_));
+    QLineEdit::keyPressEvent(event);
+}
+
+void TextAreaView::keyPressEvent(QKeyEvent* event) {
+    Program& program = page_.TheProgram();
+    RestartCaret();
+    event->accept();
+    if (program.main.Focus != field_) {
+        modInput::FieldEntered(program, field_);
+    }
+    const bool copies = event->matches(QKeySequence::Copy) || event->matches(QKeySequence::SelectAll);
+    const int code = keycodes::CodeOf(*event);
+    if (modInput::KeyDown(program, code, keycodes::ShiftOf(*event), Start(), Length()) == Taken::Yes) {
+        Done();
+        return;
+    }
+    byKey_ = true;
+    if (copies) {
+        QLineEdit::keyPressEvent(event);
+    } else if (event->matches(QKeySequence::Paste)) {
+        PasteFromClipboard();
+    } else if (EntersCharacter(*event)) {
+        if (const std::optional<char> byte = convert::ToByte(event->text().front())) {
+            Character(event, *byte);
+        } else {
+            modInput::TellRefused(program, 1);
+        }
+    } else if (code == 8 || code == 9 || code == 13) {
+        Character(event, static_cast<char>(code));
+    } else if (code == 46 || event->matches(QKeySequence::Cut) || event->matches(QKeySequence::Undo) ||
+               event->matches(QKeySequence::Redo)) {
+        if (!program.editing.BlockMode && !isReadOnly()) {
+            QLineEdit::keyPressEvent(event);
+        }
+    } else {
+        QLineEdit::keyPressEvent(event);
+        event->accept();
+    }
+    byKey_ = false;
+    if (program.main.Focus == field_) {
+        modInput::CursorMoved(program, field_, Start(), Length());
+    }
+    Done();
+}
+
+void TextAreaView::keyReleaseEvent(QKeyEvent* event) {
+    event->accept();
+    if (event->isAutoRepeat()) {
+        return;
+    }
+    modInput::KeyUp(page_.TheProgram(), keycodes::CodeOf(*event), keycodes::ShiftOf(*event), Start(),
+                    Length());
+    Done();
+}
+
+void TextAreaView::inputMethodEvent(QInputMethodEvent* event) {
+    Program& program = page_.TheProgram();
+    QString taken;
+    int refused = 0;
+    for (const QChar character : event->commitString()) {
+        const std::optional<char> byte = convert::ToByte(character);
+        if (!byte) {
+            refused += character.isLowSurrogate() ? 0 : 1;
+        } else if (modInput::KeyPress(program, static_cast<unsigned char>(*byte)) != 0) {
+            taken += character;
+        }
+    }
+    if (refused > 0) {
+        modInput::TellRefused(program, refused);
+    }
+    Follow(modFields::Area(program, field_));
+    QInputMethodEvent filtered(event->preeditString(), event->attributes());
+    filtered.setCommitString(taken, event->replacementStart(), event->replacementLength());
+    preedit_ = event->preeditString();
+    QLineEdit::inputMethodEvent(&filtered);
+    event->accept();
+    update();
+    Done();
+}
+
+void TextAreaView::mousePressEvent(QMouseEvent* event) {
+    const int position = PositionAt(event->position().x());
+    const bool extend = event->modifiers().testFlag(Qt::ShiftModifier) && hasFocus();
+    const bool right = event->button() == Qt::RightButton;
+    if (!extend) {
+        anchor_ = position;
+    }
+    int start = qMin(anchor_, position);
+    int length = qAbs(position - anchor_);
+    if (right && hasFocus()) {
+        // A marked text stays marked for the menu's commands.
+        start = Start();
+        length = Length();
+    }
+    event->accept();
+    RestartCaret();
+    modInput::FieldMouseDown(page_.TheProgram(), field_, right ? 2 : 1, 0, start, length);
+    Done();
+    if (right && page_.AskForMenu) {
+        page_.AskForMenu(event->globalPosition().toPoint());
+    }
+}
+
+void TextAreaView::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    if (!event->buttons().testFlag(Qt::LeftButton)) {
+        return;
+    }
+    const int position = PositionAt(event->position().x());
+    modInput::CursorMoved(page_.TheProgram(), field_, qMin(anchor_, position), qAbs(position - anchor_));
+    Done();
+}
+
+void TextAreaView::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    modInput::FieldMouseUp(page_.TheProgram(), field_, Start(), Length());
+    Done();
+}
+
+void TextAreaView::SelectWordAt(int position) {
+    const QString all = text();
+    const auto inWord = [&](int at) { return all.at(at).isLetterOrNumber() || all.at(at) == u'\''; };
+    int from = qMin(position, static_cast<int>(all.size()));
+    int to = from;
+    while (from > 0 && inWord(from - 1)) {
+        --from;
+    }
+    while (to < all.size() && inWord(to)) {
+        ++to;
+    }
+    modInput::CursorMoved(page_.TheProgram(), field_, from, to - from);
+}
+
+void TextAreaView::mouseDoubleClickEvent(QMouseEvent* event) {
+    event->accept();
+    Program& program = page_.TheProgram();
+    const QString before = text();
+    const auto focus = program.main.Focus;
+    modInput::FieldDblClick(program, field_);
+    if (program.main.Focus == focus && modFields::Area(program, field_).Text == convert::ToModel(before) &&
+        !geometry::IsDescription(field_.Page, field_.Index)) {
+        SelectWordAt(PositionAt(event->position().x()));
+    }
+    Done();
+}
+
+void TextAreaView::dropEvent(QDropEvent* event) {
+    const convert::Incoming incoming = convert::FromPerson(event->mimeData()->text());
+    const int position = PositionAt(event->position().x());
+    modInput::FieldMouseDown(page_.TheProgram(), field_, 1, 0, position, 0);
+    modInput::Insert(page_.TheProgram(), field_, incoming.Text, incoming.Refused, modInput::By::Mouse);
+    event->acceptProposedAction();
+    Done();
+}
+
+void TextAreaView::focusInEvent(QFocusEvent* event) {
+    const int start = cursorPosition();
+    QLineEdit::focusInEvent(event);
+    RestartCaret();
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+        deselect();
+        setCursorPosition(start);
+        modInput::FieldEntered(page_.TheProgram(), field_);
+        Done();
+    }
+    update();
+}
+
+void TextAreaView::focusOutEvent(QFocusEvent* event) {
+    // Leaving is the model's affair; a window that loses the keyboard leaves no field.
+    QLineEdit::focusOutEvent(event);
+    blink_.stop();
+    caretOn_ = false;
+    KeepCaretInView();
+    update();
+}
+
+void TextAreaView::RestartCaret() {
+    caretOn_ = true;
+    const int flash = QGuiApplication::styleHints()->cursorFlashTime();
+    if (flash > 0) {
+        blink_.start(flash / 2, this);
+    }
+    update();
+}
+
+void TextAreaView::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == blink_.timerId()) {
+        caretOn_ = !caretOn_;
+        update();
+        return;
+    }
+    QLineEdit::timerEvent(event);
+}
+
+void TextAreaView::contextMenuEvent(QContextMenuEvent* event) {
+    event->accept();
+    // By mouse the press has opened it already; this is the keyboard's menu key.
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        modInput::FieldMouseDown(page_.TheProgram(), field_, 2, 0, Start(), Length());
+        Done();
+        if (page_.AskForMenu) {
+            page_.AskForMenu(mapToGlobal(rect().bottomLeft()));
+        }
+    }
+}
+
+LabelView::LabelView(PageView& page, FieldKind kind, int index) : QLabel(&page), page_(page) {
+    const char* array = kind == FieldKind::lblAt ? "lblAt" : kind == FieldKind::lblEach ? "lblEach" : "lbl";
+    setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(index));
+    setTextFormat(Qt::PlainText);
+}
+
+void LabelView::Follow(const PageLabel& record) {
+    if (built_ && record == shown_) {
+        return;
+    }
+    shown_ = record;
+    built_ = true;
+    setText(convert::ToQString(record.Caption));
+    setToolTip(convert::ToQString(record.ToolTipText));
+    const TextFont font{record.FontName, record.FontSize, record.FontBold, record.FontItalic};
+    setGeometry(OnScreen(static_cast<double>(record.Left), static_cast<double>(record.Top),
+                         static_cast<double>(page_.Measure().Width(record.Caption, font)) + 30,
+                         static_cast<double>(page_.Measure().Height(font)), page_.Scale()));
+    update();
+}
+
+void LabelView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (shown_.BackStyle == 1) {
+        painter.fillRect(rect(), convert::ToQColor(shown_.BackColor));
+    }
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.translate(static_cast<double>(shown_.Left) * page_.Scale() - geometry().x(),
+                      static_cast<double>(shown_.Top) * page_.Scale() - geometry().y());
+    painter.scale(page_.Scale(), page_.Scale());
+    painter.setPen(convert::ToQColor(shown_.ForeColor));
+    paper::Draw(painter, {0, 0}, shown_.Caption,
+                {shown_.FontName, shown_.FontSize, shown_.FontBold, shown_.FontItalic}, shown_.FontUnderline);
+}
+
+MarkView::MarkView(PageView& page, int index) : QAbstractButton(&page), page_(page) {
+    setObjectName(QStringLiteral("imgNoTax(%1)").arg(index));
+    setAccessibleName(tr("Tax exempt: %1").arg(SpokenName({page.Id(), FieldKind::txt, index})));
+    setToolTip(tr("This amount is tax exempt. Click to make it taxable."));
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::NoFocus);
+    connect(this, &QAbstractButton::clicked, this, [this, index] {
+        modInput::NoTaxMarkClick(page_.TheProgram(), page_.Id(), index);
+        if (page_.AfterEvent) {
+            page_.AfterEvent();
+        }
+    });
+}
+
+void MarkView::Follow(const PageImage& record) {
+    if (!(record == shown_)) {
+        shown_ = record;
+        setGeometry(OnScreen(static_cast<double>(record.Left), static_cast<double>(record.Top),
+                             static_cast<double>(record.Width), static_cast<double>(record.Height),
+                             page_.Scale()));
+    }
+}
+
+void MarkView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paper::DrawNoTaxMark(painter, {0, 0}, qMin(width(), height()));
+}

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "document/page_records.h"
+#include "platform/text_measure.h"
+
+#include <QAbstractButton>
+#include <QBasicTimer>
+#include <QLabel>
+#include <QLineEdit>
+
+class PageView;
+
+/// A text field of a page. A real line edit, so that input methods, the clipboard and screen readers work;
+/// what it shows is drawn in paper units, so that a line on the screen is as long as on paper.
+class TextAreaView : public QLineEdit {
+    Q_OBJECT
+public:
+    TextAreaView(PageView& page, const FieldRef& field);
+
+    void Follow(const TextArea& record);
+    [[nodiscard]] const FieldRef& Field() const { return field_; }
+    /// Left edge and width of the text as drawn, in twips from the page's corner.
+    [[nodiscard]] double TextLeft() const;
+    [[nodiscard]] double TextWidth() const;
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    bool focusNextPrevChild(bool) override { return false; }
+
+private:
+    [[nodiscard]] TextFont FontNow() const;
+    [[nodiscard]] std::string Model() const;
+    [[nodiscard]] int Start() const;
+    [[nodiscard]] int Length() const;
+    [[nodiscard]] int PositionAt(double x) const;
+    /// Where the text begins, in twips from the field's own left edge.
+    [[nodiscard]] double Origin() const;
+    void KeepCaretInView();
+    void ReportEdit();
+    void Character(QKeyEvent* event, char byte);
+    void PasteFromClipboard();
+    void SelectWordAt(int position);
+    void Done();
+    void RestartCaret();
+
+    PageView& page_;
+    FieldRef field_;
+    TextArea shown_;
+    bool built_ = false;
+    bool byKey_ = false;
+    bool caretOn_ = false;
+    int anchor_ = 0;
+    double scroll_ = 0;
+    QString preedit_;
+    QBasicTimer blink_;
+};
+
+/// A label, drawn in paper units.
+class LabelView : public QLabel {
+    Q_OBJECT
+public:
+    LabelView(PageView& page, FieldKind kind, int index);
+    void Follow(const PageLabel& record);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    PageView& page_;
+    PageLabel shown_;
+    bool built_ = false;
+};
+
+/// The mark of a tax-exempt amount; a click makes the amount taxable again.
+class MarkView : public QAbstractButton {
+    Q_OBJECT
+public:
+    MarkView(PageView& page, int index);
+    void Follow(const PageImage& record);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    PageView& page_;
+    PageImage shown_;
+};

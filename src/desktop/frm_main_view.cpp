@@ -1,0 +1,321 @@
+#include "desktop/frm_main_view.h"
+
+#include "core/guard.h"
+#include "core/program.h"
+#include "desktop/convert.h"
+#include "desktop/icons.h"
+#include "desktop/page_view.h"
+#include "desktop/tool_strip.h"
+#include "desktop/window_views.h"
+#include "shell/command_run.h"
+#include "shell/frm_main.h"
+#include "shell/page_switch.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPainter>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+namespace {
+
+/// Room between a window's edge and a strip's texts.
+constexpr int kStripMargin = 10;
+constexpr double kTwipsPerInch = 1440;
+constexpr QRgb kDeskLight = 0xFFB9C2C9;
+constexpr QRgb kDeskDark = 0xFF33393F;
+
+QWidget* MakeStrip(const QString& name, QWidget* parent) {
+    auto* strip = new QWidget(parent);
+    strip->setObjectName(name);
+    auto* row = new QHBoxLayout(strip);
+    row->setContentsMargins(kStripMargin, 3, kStripMargin, 3);
+    row->setSpacing(24);
+    return strip;
+}
+
+} // namespace
+
+Desk::Desk(QWidget* parent) : QWidget(parent) {
+    setObjectName(QStringLiteral("desk"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void Desk::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    const bool dark = palette().color(QPalette::Window).lightnessF() < 0.5F;
+    painter.fillRect(event->rect(), QColor(dark ? kDeskDark : kDeskLight));
+    constexpr int kShadow = 7;
+    for (int depth = kShadow; depth > 0; --depth) {
+        painter.fillRect(Paper.adjusted(-depth, -depth / 2, depth, depth), QColor(0, 0, 0, dark ? 22 : 9));
+    }
+}
+
+void Desk::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (Resized) {
+        Resized();
+    }
+}
+
+void Desk::wheelEvent(QWheelEvent* event) {
+    if (Wheel) {
+        Wheel(event);
+    }
+}
+
+FrmMainView::FrmMainView(Program& program, const QtTextMeasure& measure)
+    : program_(program), measure_(measure) {
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowIcon(icons::Program());
+    setContextMenuPolicy(Qt::NoContextMenu);
+    menus_ = std::make_unique<Menus>(
+        *menuBar(), *this,
+        [this](CommandId id) {
+            commands::Run(program_, id);
+            AfterEvent();
+        },
+        [this] {
+            if (program_.hooks.UpdateTextMenu) {
+                program_.hooks.UpdateTextMenu(program_);
+            }
+            AfterEvent();
+        });
+    BuildStrips();
+    windows_ = std::make_unique<WindowViews>(program_, *this, [this] { AfterEvent(); });
+    setMinimumSize(880, 480);
+}
+
+FrmMainView::~FrmMainView() = default;
+
+double FrmMainView::PixelsPerTwip() const {
+    return logicalDpiX() / kTwipsPerInch;
+}
+
+void FrmMainView::BuildStrips() {
+    auto* whole = new QWidget(this);
+    auto* column = new QVBoxLayout(whole);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+
+    strip_ = new ToolStrip(
+        program_, [this] { AfterEvent(); }, whole);
+    column->addWidget(strip_);
+
+    const auto add = [this](QWidget* strip, const QString& name, const StripLabel& record, int stretch) {
+        auto* label = new QLabel(strip);
+        label->setObjectName(name);
+        label->setTextFormat(Qt::PlainText);
+        static_cast<QHBoxLayout*>(strip->layout())->addWidget(label, stretch);
+        labels_.push_back({label, &record});
+        return label;
+    };
+
+    QWidget* info = MakeStrip(QStringLiteral("picInfo"), whole);
+    QLabel* folder = add(info, QStringLiteral("lblDir"), program_.main.lblDir, 1);
+    folder->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    add(info, QStringLiteral("lblEvent"), program_.main.lblEvent, 0)->setAlignment(Qt::AlignRight);
+    column->addWidget(info);
+
+    auto* middle = new QWidget(whole);
+    auto* row = new QHBoxLayout(middle);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    desk_ = new Desk(middle);
+    row->addWidget(desk_, 1);
+    scroll_ = new QScrollBar(Qt::Vertical, middle);
+    scroll_->setObjectName(QStringLiteral("VScroll1"));
+    scroll_->setAccessibleName(tr("Scroll the page"));
+    row->addWidget(scroll_);
+    column->addWidget(middle, 1);
+
+    QWidget* bottom = MakeStrip(QStringLiteral("picBottom"), whole);
+    QLabel* total = add(bottom, QStringLiteral("lblTotal"), program_.main.lblTotal, 0);
+    QFont strong = total->font();
+    strong.setBold(true);
+    total->setFont(strong);
+    add(bottom, QStringLiteral("lblHighestPage"), program_.main.lblHighestPage, 0);
+    notice_ = new QLabel(bottom);
+    notice_->setObjectName(QStringLiteral("lblNotice"));
+    notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    static_cast<QHBoxLayout*>(bottom->layout())->addWidget(notice_, 1);
+    add(bottom, QStringLiteral("lblTextNum"), program_.main.lblTextNum, 0);
+    add(bottom, QStringLiteral("lblCurPos"), program_.main.lblCurPos, 0);
+    add(bottom, QStringLiteral("lblTextPos"), program_.main.lblTextPos, 0);
+    column->addWidget(bottom);
+    setCentralWidget(whole);
+
+    desk_->Resized = [this] { Resized(); };
+    desk_->Wheel = [this](QWheelEvent* event) { QCoreApplication::sendEvent(scroll_, event); };
+    // Only what a person does to the bar counts; positions set from the record do not come back.
+    connect(scroll_, &QScrollBar::actionTriggered, this, [this] {
+        modScroll::SetScroll(program_, scroll_->sliderPosition());
+        AfterEvent();
+    });
+}
+
+void FrmMainView::Resized() {
+    const double twips = 1 / PixelsPerTwip();
+    program_.main.ClientWidth = static_cast<float>(desk_->width() * twips);
+    program_.main.ClientHeight = static_cast<float>(desk_->height() * twips);
+    if (program_.main.Loaded) {
+        modScroll::MDIForm_Resize(program_);
+    }
+    Follow();
+}
+
+PageView& FrmMainView::PageOf(PageId page) {
+    PageView*& view = pages_[static_cast<std::size_t>(page)];
+    if (view == nullptr) {
+        view = new PageView(program_, page, measure_, desk_);
+        view->AfterEvent = [this] { AfterEvent(); };
+        view->AskForMenu = [this](QPoint at) {
+            if (QMenu* menu = menus_->Menu(CommandId::mnuEditTextBox)) {
+                menu->popup(at);
+            }
+        };
+    }
+    return *view;
+}
+
+void FrmMainView::ShowFirst() {
+    resize(1024, 740);
+    Resized();
+    if (program_.main.State == WindowState::Maximised) {
+        showMaximized();
+    } else {
+        show();
+    }
+}
+
+void FrmMainView::AfterEvent() {
+    modWindows::Sweep(program_);
+    Follow();
+}
+
+void FrmMainView::Follow() {
+    if (following_) {
+        return;
+    }
+    const ScopedFlag following(following_);
+    const QString title = convert::ToQString(program_.main.Caption);
+    if (windowTitle() != title) {
+        setWindowTitle(title);
+    }
+    menus_->Follow(program_);
+    strip_->Follow();
+    FollowLabels();
+    FollowPages();
+    windows_->Follow();
+}
+
+void FrmMainView::FollowLabels() {
+    for (const Shown& shown : labels_) {
+        const QString caption = convert::ToQString(shown.Record->Caption);
+        if (shown.Widget->text() != caption) {
+            shown.Widget->setText(caption);
+        }
+        const QString tip = convert::ToQString(shown.Record->ToolTipText);
+        if (shown.Widget->toolTip() != tip) {
+            shown.Widget->setToolTip(tip);
+        }
+        if (shown.Widget->isHidden() == shown.Record->Visible) {
+            shown.Widget->setVisible(shown.Record->Visible);
+        }
+        const QVariant before = shown.Widget->property("backColor");
+        if (!before.isValid() || before.toUInt() != shown.Record->BackColor) {
+            shown.Widget->setProperty("backColor", shown.Record->BackColor);
+            const bool standard = shown.Record->BackColor == colors::kButtonFace;
+            shown.Widget->setAutoFillBackground(!standard);
+            QPalette palette;
+            if (!standard) {
+                palette.setColor(QPalette::Window, convert::ToQColor(shown.Record->BackColor));
+                palette.setColor(QPalette::WindowText, Qt::white);
+            }
+            shown.Widget->setPalette(palette);
+        }
+    }
+    const QString notice = convert::ToQString(program_.main.Notice);
+    if (notice_->text() != notice) {
+        notice_->setText(notice);
+    }
+}
+
+void FrmMainView::FollowPages() {
+    const ScrollBarRecord& bar = program_.main.VScroll1;
+    if (scroll_->minimum() != bar.Min || scroll_->maximum() != bar.Max) {
+        scroll_->setRange(bar.Min, bar.Max);
+    }
+    scroll_->setPageStep(bar.LargeChange);
+    scroll_->setSingleStep(bar.SmallChange);
+    if (scroll_->value() != bar.Value) {
+        scroll_->setValue(bar.Value);
+    }
+    if (!program_.main.Loaded) {
+        return;
+    }
+    const PageId front = program_.main.PageInFront;
+    PageView& view = PageOf(front);
+    const Page& page = program_.pages[front];
+    const double scale = PixelsPerTwip();
+    const QSize paper = view.size();
+    const int x = qMax(0, (desk_->width() - paper.width()) / 2) + qRound(page.Left * scale);
+    const int y = qRound(page.Top * scale);
+    if (view.pos() != QPoint(x, y)) {
+        view.move(x, y);
+    }
+    view.Follow();
+    for (PageView* other : pages_) {
+        if (other != nullptr && other != &view && !other->isHidden()) {
+            other->hide();
+        }
+    }
+    if (desk_->Paper != view.geometry()) {
+        desk_->Paper = view.geometry();
+        desk_->update();
+    }
+    if (view.isHidden()) {
+        view.show();
+        view.raise();
+    }
+    if (!windows_->ModalOpen()) {
+        view.FollowFocus();
+    }
+}
+
+void FrmMainView::closeEvent(QCloseEvent* event) {
+    frmMain window(program_);
+    if (window.MDIForm_QueryUnload()) {
+        window.MDIForm_Unload();
+        event->accept();
+    } else {
+        event->ignore();
+    }
+    AfterEvent();
+}
+
+void FrmMainView::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        program_.main.State = isMinimized()   ? WindowState::Minimised
+                              : isMaximized() ? WindowState::Maximised
+                                              : WindowState::Normal;
+        if (program_.main.Loaded) {
+            modScroll::MDIForm_Resize(program_);
+            AfterEvent();
+        }
+    }
+}
+
+void FrmMainView::keyPressEvent(QKeyEvent* event) {
+    // Page keys work also while no field of the page has the keyboard.
+    if (event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown) {
+        modScroll::PageKey(program_, event->key() == Qt::Key_PageUp ? 33 : 34);
+        AfterEvent();
+        return;
+    }
+    QMainWindow::keyPressEvent(event);
+}

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "desktop/menus.h"
+#include "document/page_records.h"
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QScrollBar>
+
+#include <array>
+#include <functional>
+#include <memory>
+
+class PageView;
+class QtTextMeasure;
+class ToolStrip;
+class WindowViews;
+struct Program;
+struct StripLabel;
+
+/// The page area: a calm desk on which the page in front lies, centred, with the scroll bar at its right.
+class Desk : public QWidget {
+    Q_OBJECT
+public:
+    explicit Desk(QWidget* parent);
+
+    /// Where the paper lies; its shadow falls on the desk.
+    QRect Paper;
+    /// Runs when the area's size has changed.
+    std::function<void()> Resized;
+    /// Runs when a wheel turns over the desk or a page.
+    std::function<void(QWheelEvent*)> Wheel;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+};
+
+/// frmMain on screen. It holds no rule: it shows the records after every event and turns events into calls.
+class FrmMainView : public QMainWindow {
+    Q_OBJECT
+public:
+    FrmMainView(Program& program, const QtTextMeasure& measure);
+    ~FrmMainView() override;
+
+    /// Sets everything on show that differs from the records.
+    void Follow();
+    /// Shows the window for the first time.
+    void ShowFirst();
+    /// What ends every event: closed windows leave, then everything on show follows.
+    void AfterEvent();
+
+    /// The view of a page, built when it is first asked for.
+    [[nodiscard]] PageView& PageOf(PageId page);
+    [[nodiscard]] Menus& MenuTree() { return *menus_; }
+    /// Device-independent pixels to the twip.
+    [[nodiscard]] double PixelsPerTwip() const;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void BuildStrips();
+    void Resized();
+    void FollowPages();
+    void FollowLabels();
+
+    Program& program_;
+    const QtTextMeasure& measure_;
+    std::unique_ptr<Menus> menus_;
+    ToolStrip* strip_ = nullptr;
+    Desk* desk_ = nullptr;
+    QScrollBar* scroll_ = nullptr;
+    struct Shown {
+        QLabel* Widget;
+        const StripLabel* Record;
+    };
+    std::vector<Shown> labels_;
+    QLabel* notice_ = nullptr;
+    std::array<PageView*, kPageCount> pages_{};
+    std::unique_ptr<WindowViews> windows_;
+    bool following_ = false;
+};

@@ -1,0 +1,42 @@
+#include "core/errors.h"
+#include "core/program.h"
+#include "desktop/frm_main_view.h"
+#include "desktop/icons.h"
+#include "desktop/qt_platform.h"
+#include "shell/start_up.h"
+#include "shell/wiring.h"
+
+#include <QApplication>
+
+#include <exception>
+
+namespace {
+
+int Run() {
+    QtPlatform surroundings;
+    Program program(surroundings.platform);
+    Wire(program);
+    if (!Guarded(program, "Main", [&] { desktop::SetFolders(program); })) {
+        return 1; // no folder for the program's data: there is nowhere to work
+    }
+    FrmMainView window(program, surroundings.measure);
+    surroundings.questions.Over = &window;
+    surroundings.questions.BeforeAsking = [&] { window.Follow(); };
+    surroundings.events.Follow = [&] { window.Follow(); };
+    if (modMain::Main(program) != modMain::StartResult::Running) {
+        return 0;
+    }
+    window.ShowFirst();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Quillbrook"));
+    QApplication::setApplicationVersion(QStringLiteral(QUILLBROOK_VERSION));
+    QApplication::setWindowIcon(icons::Program());
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    return Run();
+}

@@ -1,0 +1,70 @@
+#pragma once
+
+#include "desktop/paper_surface.h"
+#include "document/page_records.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+class LabelView;
+class MarkView;
+class QtTextMeasure;
+class TextAreaView;
+struct Program;
+
+/// One page of paper with its fields as real widgets. Widgets are made when their field first shows.
+class PageView : public QWidget {
+    Q_OBJECT
+public:
+    PageView(Program& program, PageId page, const QtTextMeasure& measure, QWidget* parent);
+    ~PageView() override;
+
+    /// Sets what differs from the records.
+    void Follow();
+    /// Puts the keyboard where the model has the focus.
+    void FollowFocus();
+
+    [[nodiscard]] Program& TheProgram() { return program_; }
+    [[nodiscard]] const QtTextMeasure& Measure() const { return measure_; }
+    [[nodiscard]] PageId Id() const { return id_; }
+    /// Device-independent pixels to the twip.
+    [[nodiscard]] double Scale() const { return scale_; }
+    [[nodiscard]] TextAreaView* Field(const FieldRef& field) const;
+
+    /// Runs when an event has been dealt with.
+    std::function<void()> AfterEvent;
+    /// A right click on a text area asks for the menu of its commands.
+    std::function<void(QPoint)> AskForMenu;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void FollowAreas(FieldKind kind, std::vector<TextAreaView*>& views, const std::vector<TextArea>& records);
+    void FollowLabels(FieldKind kind, std::vector<LabelView*>& views, const std::vector<PageLabel>& records);
+    void FollowMarks();
+    void FollowPaper();
+    void DrawFixed(QPainter& painter) const;
+
+    Program& program_;
+    PageId id_;
+    const QtTextMeasure& measure_;
+    double scale_;
+    std::vector<TextAreaView*> txt_;
+    std::vector<TextAreaView*> txtQty_;
+    std::vector<TextAreaView*> txtAmt_;
+    std::vector<LabelView*> lbl_;
+    std::vector<LabelView*> lblAt_;
+    std::vector<LabelView*> lblEach_;
+    std::vector<MarkView*> marks_;
+    /// What is painted on the paper itself, as last shown.
+    std::vector<PageLine> lines_;
+    PagePicture picture_;
+    QImage logo_;
+    bool ink_ = false;
+    PaperRecord preview_;
+};

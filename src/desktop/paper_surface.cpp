@@ -1,0 +1,92 @@
+#include "desktop/paper_surface.h"
+
+#include "core/ansi.h"
+#include "desktop/convert.h"
+#include "desktop/paper_text.h"
+
+#include <QImage>
+#include <QPainterPath>
+
+namespace {
+
+constexpr double kRuleWidth = 15; // twips
+constexpr double kTwipsPerPixel = 15;
+
+} // namespace
+
+namespace paper {
+
+void DrawNoTaxMark(QPainter& painter, QPointF corner, double side) {
+    painter.save();
+    painter.translate(corner);
+    painter.scale(side / 24, side / 24);
+    painter.setRenderHint(QPainter::Antialiasing);
+    // A "T" for tax in a ring, struck through.
+    const QColor ink(0xA8, 0x2B, 0x1E);
+    painter.setPen(QPen(ink, 2.2, Qt::SolidLine, Qt::RoundCap));
+    painter.setBrush(Qt::white);
+    painter.drawEllipse(QPointF(12, 12), 10, 10);
+    painter.drawLine(QPointF(7.5, 8), QPointF(16.5, 8));
+    painter.drawLine(QPointF(12, 8), QPointF(12, 17.5));
+    painter.drawLine(QPointF(5.2, 18.8), QPointF(18.8, 5.2));
+    painter.restore();
+}
+
+} // namespace paper
+
+void PaperRecord::Replay(QPainter& painter) const {
+    for (const Text& text : Texts) {
+        painter.setPen(convert::ToQColor(text.Ink));
+        paper::Draw(painter, text.Corner, text.Words, text.Font, text.Underline);
+    }
+    for (const Rule& rule : Rules) {
+        painter.setPen(QPen(convert::ToQColor(rule.Ink), kRuleWidth));
+        painter.drawLine(rule.Line);
+    }
+    for (const Image& image : Images) {
+        if (image.Picture.From == PictureRef::Source::NoTaxMark) {
+            paper::DrawNoTaxMark(painter, image.Corner,
+                                 image.Size ? static_cast<double>(image.Size->Width) : 225);
+            continue;
+        }
+        const QImage picture(QString::fromStdString(ansi::ToUtf8(image.Picture.Path)));
+        if (picture.isNull()) {
+            continue;
+        }
+        const QSizeF size = image.Size ? QSizeF(static_cast<double>(image.Size->Width),
+                                                static_cast<double>(image.Size->Height))
+                                       : QSizeF(picture.size()) * kTwipsPerPixel;
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(QRectF(image.Corner, size), picture);
+    }
+}
+
+QPointF PaperSurface::OnPaper(float x, float y) const {
+    return {static_cast<double>(x - ScaleLeft), static_cast<double>(y - ScaleTop)};
+}
+
+float PaperSurface::TextWidth(std::string_view text) const {
+    return measure_.Width(text, Now());
+}
+
+float PaperSurface::TextHeight() const {
+    return measure_.Height(Now());
+}
+
+void PaperSurface::Print(std::string_view text) {
+    if (!text.empty()) {
+        Record.Texts.push_back(
+            {OnPaper(CurrentX, CurrentY), std::string(text), Now(), FontUnderline, ForeColor});
+    }
+    CurrentX = 0;
+    CurrentY += TextHeight();
+}
+
+void PaperSurface::Line(float x1, float y1, float x2, float y2) {
+    Record.Rules.push_back({QLineF(OnPaper(x1, y1), OnPaper(x2, y2)), ForeColor});
+}
+
+void PaperSurface::PaintPicture(const PictureRef& picture, float x, float y,
+                                std::optional<PictureSize> size) {
+    Record.Images.push_back({picture, OnPaper(x, y), size});
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/drawing_surface.h"
+#include "platform/text_measure.h"
+
+#include <QPainter>
+
+#include <vector>
+
+/// What was drawn on a page, kept so that it can be drawn again: into a file, on a printer or on the screen.
+class PaperRecord {
+public:
+    struct Text {
+        QPointF Corner;
+        std::string Words;
+        TextFont Font;
+        bool Underline = false;
+        Color Ink = 0;
+    };
+    struct Rule {
+        QLineF Line;
+        Color Ink = 0;
+    };
+    struct Image {
+        PictureRef Picture;
+        QPointF Corner;
+        std::optional<PictureSize> Size;
+    };
+    std::vector<Text> Texts;
+    std::vector<Rule> Rules;
+    std::vector<Image> Images;
+
+    [[nodiscard]] bool Empty() const { return Texts.empty() && Rules.empty() && Images.empty(); }
+    /// Draws all of it. The painter's unit is a twip.
+    void Replay(QPainter& painter) const;
+};
+
+/// A surface that keeps what is drawn on it.
+class PaperSurface : public DrawingSurface {
+public:
+    explicit PaperSurface(const TextMeasure& measure) : measure_(measure) {}
+    PaperRecord Record;
+
+    void Cls() override { Record = {}; }
+    [[nodiscard]] float TextWidth(std::string_view text) const override;
+    [[nodiscard]] float TextHeight() const override;
+    void Print(std::string_view text) override;
+    void Line(float x1, float y1, float x2, float y2) override;
+    void PaintPicture(const PictureRef& picture, float x, float y, std::optional<PictureSize> size) override;
+
+private:
+    [[nodiscard]] TextFont Now() const { return {Font, FontSize, FontBold, FontItalic}; }
+    [[nodiscard]] QPointF OnPaper(float x, float y) const;
+    const TextMeasure& measure_;
+};
+
+namespace paper {
+
+/// The mark of a tax-exempt amount, in the square of a side in the painter's units.
+void DrawNoTaxMark(QPainter& painter, QPointF corner, double side);
+
+} // namespace paper

@@ -1,0 +1,94 @@
+#include "desktop/paper_text.h"
+
+#include "core/ansi.h"
+#include "desktop/convert.h"
+
+#include <QFontMetricsF>
+
+namespace paper {
+
+namespace {
+
+constexpr float kTwipsPerPoint = 20;
+constexpr float kSmallest = 1;
+
+} // namespace
+
+QFont Face(const TextFont& font) {
+    QFont face(convert::ToQString(font.Name));
+    face.setPixelSize(qMax(1, qRound(qMax(font.Size, kSmallest) * kTwipsPerPoint)));
+    face.setBold(font.Bold);
+    face.setItalic(font.Italic);
+    face.setKerning(false);
+    face.setHintingPreference(QFont::PreferNoHinting);
+    face.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferNoShaping | QFont::PreferAntialias |
+                                                            QFont::ForceOutline));
+    return face;
+}
+
+double Ascent(const TextFont& font) {
+    return QFontMetricsF(Face(font)).ascent();
+}
+
+void Draw(QPainter& painter, QPointF corner, std::string_view text, const TextFont& font, bool underline) {
+    if (text.empty()) {
+        return;
+    }
+    QFont face = Face(font);
+    face.setUnderline(underline);
+    painter.setFont(face);
+    painter.drawText(QPointF(corner.x(), corner.y() + Ascent(font)), convert::ToQString(text));
+}
+
+} // namespace paper
+
+const QtTextMeasure::Table& QtTextMeasure::TableFor(const TextFont& font) const {
+    if (last_ != nullptr && lastFont_ == font) {
+        return *last_;
+    }
+    auto found = tables_.find(font);
+    if (found == tables_.end()) {
+        Table table;
+        const QFontMetricsF metrics(paper::Face(font));
+        for (int byte = 0; byte < 256; ++byte) {
+            const char32_t value = ansi::ToCodePoint(static_cast<char>(byte));
+            table.Advance[static_cast<std::size_t>(byte)] =
+                static_cast<float>(metrics.horizontalAdvance(QChar(static_cast<char16_t>(value))));
+        }
+        table.Height = static_cast<float>(metrics.height());
+        found = tables_.emplace(font, table).first;
+    }
+    last_ = &found->second;
+    lastFont_ = font;
+    return found->second;
+}
+
+float QtTextMeasure::Width(std::string_view text, const TextFont& font) const {
+    const Table& table = TableFor(font);
+    double width = 0;
+    for (const char byte : text) {
+        width += static_cast<double>(table.Advance[static_cast<unsigned char>(byte)]);
+    }
+    return static_cast<float>(width);
+}
+
+float QtTextMeasure::Height(const TextFont& font) const {
+    return TableFor(font).Height;
+}
+
+double QtTextMeasure::XOf(std::string_view text, int position, const TextFont& font) const {
+    return static_cast<double>(Width(text.substr(0, static_cast<std::size_t>(qMax(0, position))), font));
+}
+
+int QtTextMeasure::PositionAt(std::string_view text, double x, const TextFont& font) const {
+    const Table& table = TableFor(font);
+    double left = 0;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const auto advance = static_cast<double>(table.Advance[static_cast<unsigned char>(text[at])]);
+        if (x < left + advance / 2) {
+            return static_cast<int>(at);
+        }
+        left += advance;
+    }
+    return static_cast<int>(text.size());
+}

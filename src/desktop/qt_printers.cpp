@@ -1,0 +1,207 @@
+#include "desktop/qt_printers.h"
+
+#include "core/ansi.h"
+#include "core/files.h"
+#include "desktop/convert.h"
+
+#include <QBuffer>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPageLayout>
+#include <QPdfWriter>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view kToPdf = "Print to PDF";
+constexpr int kTwipsPerInch = 1440;
+
+QPageLayout Letter() {
+    return QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait, QMarginsF(), QPageLayout::Inch);
+}
+
+} // namespace
+
+QtPrinters::QtPrinters(const TextMeasure& measure) : current_(kToPdf), device_(measure, *this) {
+    AskForFile = [](const QString& suggested) {
+        return QFileDialog::getSaveFileName(nullptr, QObject::tr("Print to PDF"), suggested,
+                                            QObject::tr("PDF (*.pdf)"));
+    };
+    const QString system = QPrinterInfo::defaultPrinterName();
+    if (const auto name = ansi::FromUtf8(system.toStdString()); name && !name->empty()) {
+        current_ = *name;
+    }
+}
+
+std::vector<std::string> QtPrinters::Names() const {
+    std::vector<std::string> names;
+    for (const QString& printer : QPrinterInfo::availablePrinterNames()) {
+        if (auto name = ansi::FromUtf8(printer.toStdString())) {
+            names.push_back(std::move(*name));
+        }
+    }
+    names.emplace_back(kToPdf);
+    return names;
+}
+
+bool QtPrinters::MakeCurrent(std::string_view name) {
+    const std::vector<std::string> names = Names();
+    if (std::find(names.begin(), names.end(), name) == names.end()) {
+        return false;
+    }
+    current_ = name;
+    return true;
+}
+
+bool QtPrinters::BeginCommand(const PrintCommand& command) {
+    gathered_.clear();
+    file_.clear();
+    if (current_ != kToPdf) {
+        return true;
+    }
+    file_ = AskForFile(QString::fromStdString(ansi::ToUtf8(command.SuggestedFile)));
+    if (!file_.isEmpty() && !file_.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) {
+        file_ += QLatin1String(".pdf");
+    }
+    return !file_.isEmpty();
+}
+
+void QtPrinters::NameDocument(std::string_view name, int readingOrder) {
+    documentName_ = name;
+    order_ = readingOrder;
+}
+
+void QtPrinters::Finish(std::vector<PaperRecord> pages) {
+    if (current_ != kToPdf) {
+        SendToPrinter(pages);
+        return;
+    }
+    gathered_.push_back({order_, std::move(pages)});
+}
+
+void QtPrinters::SendToPrinter(const std::vector<PaperRecord>& pages) const {
+    const QPrinterInfo info = QPrinterInfo::printerInfo(QString::fromStdString(ansi::ToUtf8(current_)));
+    QPrinter printer(info, QPrinter::HighResolution);
+    printer.setDocName(QStringLiteral("Quillbrook ") + convert::ToQString(documentName_));
+    printer.setPageLayout(Letter());
+    printer.setFullPage(true);
+    QPainter painter;
+    if (info.isNull() || !painter.begin(&printer)) {
+        throw files::FileError(files::kDeviceError, "Printer error: " + current_);
+    }
+    bool first = true;
+    for (const PaperRecord& page : pages) {
+        if (!first) {
+            printer.newPage();
+        }
+        first = false;
+        painter.save();
+        const double scale = static_cast<double>(printer.resolution()) / kTwipsPerInch;
+        painter.scale(scale, scale);
+        page.Replay(painter);
+        painter.restore();
+    }
+    if (!painter.end()) {
+        throw files::FileError(files::kDeviceError, "Printer error: " + current_);
+    }
+}
+
+QByteArray QtPrinters::MakePdf(const std::vector<const PaperRecord*>& pages, const QString& title) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setResolution(kTwipsPerInch);
+    writer.setPageLayout(Letter());
+    writer.setTitle(title);
+    writer.setCreator(QStringLiteral("Quillbrook"));
+    QPainter painter(&writer);
+    bool first = true;
+    for (const PaperRecord* page : pages) {
+        if (!first) {
+            writer.newPage();
+        }
+        first = false;
+        page->Replay(painter);
+    }
+    painter.end();
+    return bytes;
+}
+
+void QtPrinters::EndCommand() {
+    if (gathered_.empty() || file_.isEmpty()) {
+        return;
+    }
+    std::stable_sort(gathered_.begin(), gathered_.end(),
+                     [](const Document& one, const Document& other) { return one.Order < other.Order; });
+    std::vector<const PaperRecord*> pages;
+    for (const Document& document : gathered_) {
+        for (const PaperRecord& page : document.Pages) {
+            pages.push_back(&page);
+        }
+    }
+    const QByteArray bytes = MakePdf(pages, QFileInfo(file_).completeBaseName());
+    gathered_.clear();
+    const auto path = ansi::FromUtf8(file_.toStdString());
+    if (!path) {
+        throw files::FileError(files::kBadName, "Bad file name or number");
+    }
+    files::WriteWhole(*path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+}
+
+/// The surface works with the printer's own settings as they stand at each call.
+void QtPrinters::Paper::Lend() const {
+    static_cast<DrawingSurface&>(surface_) = static_cast<const DrawingSurface&>(*this);
+}
+
+float QtPrinters::Paper::TextWidth(std::string_view text) const {
+    Lend();
+    return surface_.TextWidth(text);
+}
+
+float QtPrinters::Paper::TextHeight() const {
+    Lend();
+    return surface_.TextHeight();
+}
+
+void QtPrinters::Paper::Print(std::string_view text) {
+    Lend();
+    surface_.Print(text);
+    CurrentX = surface_.CurrentX;
+    CurrentY = surface_.CurrentY;
+}
+
+void QtPrinters::Paper::Line(float x1, float y1, float x2, float y2) {
+    Lend();
+    surface_.Line(x1, y1, x2, y2);
+}
+
+void QtPrinters::Paper::PaintPicture(const PictureRef& picture, float x, float y,
+                                     std::optional<PictureSize> size) {
+    Lend();
+    surface_.PaintPicture(picture, x, y, size);
+}
+
+void QtPrinters::Paper::NewPage() {
+    finished_.push_back(std::move(surface_.Record));
+    surface_.Record = {};
+    CurrentX = 0;
+    CurrentY = 0;
+}
+
+void QtPrinters::Paper::EndDoc() {
+    if (!surface_.Record.Empty()) {
+        NewPage();
+    }
+    if (!finished_.empty()) {
+        std::vector<PaperRecord> pages = std::move(finished_);
+        finished_.clear();
+        owner_.Finish(std::move(pages));
+    }
+    // A new document begins with the paper's own corner.
+    ScaleLeft = 0;
+    ScaleTop = 0;
+}

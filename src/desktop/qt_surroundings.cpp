@@ -1,0 +1,218 @@
+#include "desktop/qt_surroundings.h"
+
+#include "core/ansi.h"
+#include "core/dates.h"
+#include "desktop/convert.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCryptographicHash>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QImageReader>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace {
+
+constexpr double kTwipsPerInch = 1440;
+
+QString Native(std::string_view path) {
+    return QString::fromStdString(ansi::ToUtf8(path));
+}
+
+QString TitleOf(std::string_view title) {
+    return title.empty() ? QStringLiteral("Quillbrook") : convert::ToQString(title);
+}
+
+QString ShownText(std::string_view text) {
+    QString shown = convert::ToQString(text);
+    shown.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    return shown.trimmed();
+}
+
+QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
+    switch (buttons) {
+    case Buttons::OkCancel:
+        return QMessageBox::Ok | QMessageBox::Cancel;
+    case Buttons::YesNo:
+        return QMessageBox::Yes | QMessageBox::No;
+    case Buttons::YesNoCancel:
+        return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case Buttons::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+/// Names for which a face of the same metrics stands in.
+constexpr std::string_view kStandIns[] = {"Arial", "Courier New", "Times New Roman"};
+constexpr const char* kFaces[] = {"Liberation Sans", "Liberation Mono", "Liberation Serif"};
+
+} // namespace
+
+Answer QtQuestions::MsgBox(std::string_view text, Buttons buttons, std::string_view title) {
+    if (BeforeAsking) {
+        BeforeAsking();
+    }
+    QMessageBox box(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question, TitleOf(title),
+                    ShownText(text), ButtonsOf(buttons), Over);
+    box.setObjectName(QStringLiteral("MsgBox"));
+    box.setTextFormat(Qt::PlainText);
+    if (title == "Program Error") {
+        box.setIcon(QMessageBox::Warning);
+    }
+    if (buttons == Buttons::YesNo) {
+        box.setEscapeButton(QMessageBox::No); // closing the box must not be a Yes
+    }
+    switch (box.exec()) {
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    case QMessageBox::Ok:
+        return Answer::Ok;
+    default:
+        return buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
+    }
+}
+
+std::string QtQuestions::InputBox(std::string_view prompt, std::string_view title, std::string_view initial) {
+    if (BeforeAsking) {
+        BeforeAsking();
+    }
+    QInputDialog dialog(Over);
+    dialog.setObjectName(QStringLiteral("InputBox"));
+    dialog.setWindowTitle(TitleOf(title));
+    dialog.setLabelText(ShownText(prompt));
+    dialog.setTextValue(convert::ToQString(initial));
+    dialog.resize(420, dialog.sizeHint().height());
+    return dialog.exec() == QDialog::Accepted ? convert::ToModel(dialog.textValue()) : std::string();
+}
+
+std::vector<std::string> QtScreen::Fonts() const {
+    std::vector<std::string> fonts;
+    for (const QString& family : QFontDatabase::families()) {
+        if (std::optional<std::string> name = ansi::FromUtf8(family.toStdString())) {
+            fonts.push_back(std::move(*name));
+        }
+    }
+    for (std::size_t index = 0; index < std::size(kStandIns); ++index) {
+        const std::string name(kStandIns[index]);
+        if (std::find(fonts.begin(), fonts.end(), name) == fonts.end() &&
+            QFontInfo(QFont(convert::ToQString(name))).family() == QLatin1String(kFaces[index])) {
+            fonts.push_back(name);
+        }
+    }
+    std::sort(fonts.begin(), fonts.end());
+    return fonts;
+}
+
+int QtScreen::WidthInPixels() const {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen == nullptr ? 0 : qRound(screen->size().width() * screen->devicePixelRatio());
+}
+
+float QtScreen::TwipsPerPixel() const {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen == nullptr ? 15 : static_cast<float>(kTwipsPerInch / screen->logicalDotsPerInchX());
+}
+
+void QtClipboard::Clear() {
+    QGuiApplication::clipboard()->clear();
+}
+
+void QtClipboard::SetText(std::string_view text) {
+    QGuiApplication::clipboard()->setText(convert::ToQString(text));
+}
+
+std::string QtClipboard::GetText() const {
+    // Line ends stay: what to make of them is the caller's.
+    std::string result;
+    for (const QChar character : QGuiApplication::clipboard()->text()) {
+        if (const auto byte = convert::ToByte(character)) {
+            result += *byte;
+        }
+    }
+    return result;
+}
+
+void QtShell::Open(std::string_view target) {
+    const QString path = Native(target);
+    static_cast<void>(
+        QDesktopServices::openUrl(QFile::exists(path) ? QUrl::fromLocalFile(path) : QUrl(path)));
+}
+
+bool QtShell::CreateLink(std::string_view folder, std::string_view name, std::string_view target) {
+    QFile link(QDir(Native(folder)).filePath(convert::ToQString(name) + QStringLiteral(".desktop")));
+    if (!link.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        return false;
+    }
+    const QString entry =
+        QStringLiteral("[Desktop Entry]\nType=Application\nName=%1\nExec=\"%2\"\nTerminal=false\n")
+            .arg(convert::ToQString(name), Native(target));
+    const QByteArray bytes = entry.toUtf8();
+    const bool written = link.write(bytes) == bytes.size() && link.flush();
+    link.close();
+    link.setPermissions(link.permissions() | QFileDevice::ExeOwner);
+    return written;
+}
+
+double QtClock::Now() const {
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDate date = now.date();
+    const QTime time = now.time();
+    return dates::ToSerial({date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()})
+        .value_or(0);
+}
+
+bool QtSingleInstance::Claim(std::string_view installFolder) {
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (folder.isEmpty()) {
+        folder = QDir::tempPath();
+    }
+    const QByteArray key = QCryptographicHash::hash(QByteArray::fromStdString(std::string(installFolder)),
+                                                    QCryptographicHash::Sha1)
+                               .toHex()
+                               .left(16);
+    lock_ = std::make_unique<QLockFile>(
+        QDir(folder).filePath(QStringLiteral("quillbrook-%1.lock").arg(QLatin1String(key))));
+    lock_->setStaleLockTime(0); // only a process that is no more makes a lock stale
+    if (lock_->tryLock(0)) {
+        return true;
+    }
+    // Where no lock can be made at all, a person must still be able to work.
+    return lock_->error() != QLockFile::LockFailedError;
+}
+
+std::optional<PictureSize> QtPictures::Load(std::string_view path) {
+    const QImageReader reader(Native(path));
+    const QSize size = reader.size();
+    if (!reader.canRead() || size.isEmpty()) {
+        return std::nullopt;
+    }
+    constexpr float kTwipsPerPixel = 15; // pictures count as drawn at 96 dots to the inch
+    return PictureSize{static_cast<float>(size.width()) * kTwipsPerPixel,
+                       static_cast<float>(size.height()) * kTwipsPerPixel};
+}
+
+void QtEventLoop::LetEventsRun() {
+    if (Follow) {
+        Follow();
+    }
+    QCoreApplication::processEvents();
+}
+
+void QtEventLoop::Quit() {
+    QCoreApplication::quit();
+}

@@ -1,0 +1,251 @@
+#include "desktop/tool_strip.h"
+
+#include "core/program.h"
+#include "desktop/convert.h"
+#include "desktop/icons.h"
+#include "shell/frm_main.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
+
+namespace {
+
+QColor Mixed(const QColor& one, const QColor& other, float share) {
+    return QColor::fromRgbF(one.redF() * (1 - share) + other.redF() * share,
+                            one.greenF() * (1 - share) + other.greenF() * share,
+                            one.blueF() * (1 - share) + other.blueF() * share);
+}
+
+/// The frame of a tool button: raised under the pointer or with the keyboard on it, sunken while pressed.
+void PaintFrame(QPainter& painter, const QAbstractButton& button) {
+    const QPalette& palette = button.palette();
+    const QRectF frame = QRectF(button.rect()).adjusted(1.5, 1.5, -1.5, -1.5);
+    const QColor base = palette.color(QPalette::Window);
+    const QColor ink = palette.color(QPalette::WindowText);
+    if (button.isEnabled() && (button.isDown() || button.underMouse())) {
+        painter.setPen(QPen(Mixed(base, ink, button.isDown() ? 0.45F : 0.28F), 1));
+        painter.setBrush(Mixed(base, ink, button.isDown() ? 0.16F : 0.06F));
+        painter.drawRoundedRect(frame, 4, 4);
+    }
+    if (button.hasFocus()) {
+        painter.setPen(QPen(palette.color(QPalette::Highlight), 1.6));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(frame, 4, 4);
+    }
+}
+
+bool ChangesLook(QEvent::Type type) {
+    return type == QEvent::Enter || type == QEvent::Leave;
+}
+
+} // namespace
+
+ToolImage::ToolImage(std::string_view controlName, const QString& accessibleName, QWidget* parent)
+    : QAbstractButton(parent), name_(controlName) {
+    setObjectName(QString::fromLatin1(controlName.data(), static_cast<qsizetype>(controlName.size())));
+    setAccessibleName(accessibleName);
+    setFocusPolicy(Qt::TabFocus);
+    setFixedSize(34, 34);
+    MakeIcons();
+}
+
+void ToolImage::MakeIcons() {
+    const QColor ink = Mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.15F);
+    const QColor faded =
+        Mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.68F);
+    icons_[0] = icons::ToolIcon(name_, ink, faded);
+    const QIcon second = icons::ToolIcon(std::string(name_) + ".1", ink, faded);
+    icons_[1] = second.isNull() ? icons_[0] : second;
+}
+
+void ToolImage::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) {
+        MakeIcons();
+        update();
+    }
+    QAbstractButton::changeEvent(event);
+}
+
+bool ToolImage::event(QEvent* event) {
+    if (ChangesLook(event->type())) {
+        update();
+    }
+    return QAbstractButton::event(event);
+}
+
+void ToolImage::Follow(const ImageButton& record) {
+    if (toolTip().isEmpty() || record != shown_) {
+        shown_ = record;
+        setToolTip(convert::ToQString(record.ToolTipText));
+        setEnabled(record.Enabled);
+        setVisible(record.Visible);
+        update();
+    }
+}
+
+void ToolImage::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintFrame(painter, *this);
+    QRect place(0, 0, 22, 22);
+    place.moveCenter(rect().center());
+    if (isDown()) {
+        place.translate(1, 1);
+    }
+    icons_[shown_.Picture == 1 ? 1 : 0].paint(&painter, place, Qt::AlignCenter,
+                                              isEnabled() ? QIcon::Normal : QIcon::Disabled);
+}
+
+PageSwitchButton::PageSwitchButton(int pageIndex, QWidget* parent) : QAbstractButton(parent), pageIndex_(pageIndex) {
+    setObjectName(QStringLiteral("imgPage(%1)").arg(pageIndex));
+    const QString what = pageIndex == 6 ? tr("Page 6, client's copy") : tr("Page %1").arg(pageIndex + 1);
+    setAccessibleName(what);
+    setToolTip(what);
+    setFocusPolicy(Qt::TabFocus);
+    setFixedSize(32, 34);
+}
+
+void PageSwitchButton::Follow(const ImageButton& record) {
+    if (record != shown_) {
+        shown_ = record;
+        setEnabled(record.Enabled);
+        update();
+    }
+}
+
+bool PageSwitchButton::event(QEvent* event) {
+    if (ChangesLook(event->type())) {
+        update();
+    }
+    return QAbstractButton::event(event);
+}
+
+void PageSwitchButton::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    PaintFrame(painter, *this);
+    const auto look = shown_.Picture == 1 ? icons::PageLook::Selected : icons::PageLook::Normal;
+    const QColor ink = Mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.35F);
+    const QPixmap picture =
+        icons::PageButton(pageIndex_, look, ink, QColor(0x1B, 0x6F, 0xA8), devicePixelRatioF());
+    painter.drawPixmap(QPointF((width() - 26) / 2.0, (height() - 26) / 2.0 + (isDown() ? 1 : 0)), picture);
+}
+
+ToolStrip::ToolStrip(Program& program, std::function<void()> afterEvent, QWidget* parent)
+    : QWidget(parent), program_(program), afterEvent_(std::move(afterEvent)) {
+    setObjectName(QStringLiteral("picTop"));
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(6, 3, 6, 3);
+    row->setSpacing(1);
+    const MainWindow& main = program_.main;
+    AddImage("imgNew", tr("Create New File"), main.imgNew, [this] { frmMain(program_).imgNew_MouseDown(); });
+    AddImage("imgOpen", tr("Open existing file"), main.imgOpen,
+             [this] { frmMain(program_).imgOpen_MouseDown(); });
+    AddImage("imgSave", tr("Save Current File"), main.imgSave, [this] { frmMain(program_).imgSave_Click(); });
+    AddImage("imgSaveAs", tr("Save File as"), main.imgSaveAs,
+             [this] { frmMain(program_).imgSaveAs_Click(); });
+    AddImage("imgPrint", tr("Print All Pages"), main.imgPrint,
+             [this] { frmMain(program_).imgPrint_Click(); });
+    row->addSpacing(8);
+    AddImage("imgSearch", tr("Search for"), main.imgSearch, [this] { frmMain(program_).imgSearch_Click(); });
+    AddImage("imgSpellCheck", tr("Check Spelling"), main.imgSpellCheck,
+             [this] { frmMain(program_).imgSpellCheck_Click(); });
+    AddImage("imgFootNotes", tr("Show Footnotes"), main.imgFootNotes,
+             [this] { frmMain(program_).imgFootNotes_MouseDown(); });
+    row->addSpacing(10);
+    AddCommand(QStringLiteral("cmdPreview"), main.cmdPreview,
+               [this] { frmMain(program_).cmdPreview_Click(); });
+    AddCommand(QStringLiteral("cmdReCalc"), main.cmdReCalc, [this] { frmMain(program_).cmdReCalc_Click(); });
+    AddCommand(QStringLiteral("cmdTaxRate"), main.cmdTaxRate,
+               [this] { frmMain(program_).cmdTaxRate_Click(); });
+    AddCommand(QStringLiteral("cmdClearMem"), main.cmdClearMem,
+               [this] { frmMain(program_).cmdClearMem_Click(); });
+    row->addStretch(1);
+    lblPage_ = new QLabel(convert::ToQString(main.lblPage.Caption), this);
+    lblPage_->setObjectName(QStringLiteral("lblPage"));
+    row->addWidget(lblPage_);
+    row->addSpacing(4);
+    for (int index = 0; index < kPageCount; ++index) {
+        auto* button = new PageSwitchButton(index, this);
+        connect(button, &QAbstractButton::clicked, this, [this, index] {
+            frmMain(program_).imgPage_Click(index);
+            afterEvent_();
+        });
+        row->addWidget(button);
+        pages_[static_cast<std::size_t>(index)] = button;
+    }
+    Follow();
+}
+
+void ToolStrip::AddImage(std::string_view name, const QString& accessibleName, const ImageButton& record,
+                         std::function<void()> chosen) {
+    auto* button = new ToolImage(name, accessibleName, this);
+    connect(button, &QAbstractButton::clicked, this, [this, chosen = std::move(chosen)] {
+        chosen();
+        afterEvent_();
+    });
+    layout()->addWidget(button);
+    images_.emplace_back(button, &record);
+}
+
+QPushButton* ToolStrip::AddCommand(const QString& name, const CommandButton& record,
+                                   std::function<void()> chosen) {
+    auto* button = new QPushButton(convert::ToQString(record.Caption), this);
+    button->setObjectName(name);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, [this, chosen = std::move(chosen)] {
+        chosen();
+        afterEvent_();
+    });
+    layout()->addWidget(button);
+    commands_.emplace_back(button, &record);
+    return button;
+}
+
+void ToolStrip::FollowCommand(QPushButton& button, const CommandButton& record) {
+    const QString caption = convert::ToQString(record.Caption);
+    if (button.text() != caption) {
+        button.setText(caption);
+    }
+    const QString tip = convert::ToQString(record.ToolTipText);
+    if (button.toolTip() != tip) {
+        button.setToolTip(tip);
+    }
+    if (button.isEnabled() != record.Enabled) {
+        button.setEnabled(record.Enabled);
+    }
+    if (button.isHidden() == record.Visible) {
+        button.setVisible(record.Visible);
+    }
+    // The colour is a fact of the record; kept beside it so that an unchanged one costs no new palette.
+    const QVariant shown = button.property("backColor");
+    if (!shown.isValid() || shown.toUInt() != record.BackColor) {
+        button.setProperty("backColor", record.BackColor);
+        if (record.BackColor == colors::kButtonFace) {
+            button.setPalette(QPalette());
+        } else {
+            QPalette palette = button.palette();
+            const QColor color = convert::ToQColor(record.BackColor);
+            palette.setColor(QPalette::Button, color);
+            palette.setColor(QPalette::ButtonText, Qt::white);
+            button.setPalette(palette);
+        }
+    }
+}
+
+void ToolStrip::Follow() {
+    for (const auto& [widget, record] : images_) {
+        widget->Follow(*record);
+    }
+    for (const auto& [widget, record] : commands_) {
+        FollowCommand(*widget, *record);
+    }
+    for (int index = 0; index < kPageCount; ++index) {
+        pages_[static_cast<std::size_t>(index)]->Follow(
+            program_.main.imgPage[static_cast<std::size_t>(index)]);
+    }
+}

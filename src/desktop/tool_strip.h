@@ -1,0 +1,79 @@
+#pragma once
+
+#include "core/controls.h"
+#include "document/page_records.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QPushButton>
+#include <QWidget>
+
+#include <array>
+#include <functional>
+#include <string_view>
+#include <vector>
+
+struct Program;
+
+/// An image button of the tool strip: a drawn icon, a frame that rises under the pointer and sinks when
+/// pressed.
+class ToolImage : public QAbstractButton {
+    Q_OBJECT
+public:
+    ToolImage(std::string_view controlName, const QString& accessibleName, QWidget* parent);
+    void Follow(const ImageButton& record);
+    [[nodiscard]] QSize sizeHint() const override { return {34, 34}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    void MakeIcons();
+    std::string_view name_;
+    ImageButton shown_;
+    std::array<QIcon, 2> icons_;
+};
+
+/// One of the seven page buttons.
+class PageSwitchButton : public QAbstractButton {
+    Q_OBJECT
+public:
+    PageSwitchButton(int pageIndex, QWidget* parent);
+    void Follow(const ImageButton& record);
+    [[nodiscard]] QSize sizeHint() const override { return {32, 34}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    int pageIndex_;
+    ImageButton shown_;
+};
+
+/// picTop: image buttons, command buttons and page buttons.
+class ToolStrip : public QWidget {
+    Q_OBJECT
+public:
+    ToolStrip(Program& program, std::function<void()> afterEvent, QWidget* parent);
+    void Follow();
+
+private:
+    struct Image {
+        ToolImage* Widget;
+        ImageButton MainWindowRecord;
+    };
+    void AddImage(std::string_view name, const QString& accessibleName, const ImageButton& record,
+                  std::function<void()> chosen);
+    QPushButton* AddCommand(const QString& name, const CommandButton& record, std::function<void()> chosen);
+    void FollowCommand(QPushButton& button, const CommandButton& record);
+
+    Program& program_;
+    std::function<void()> afterEvent_;
+    std::vector<std::pair<ToolImage*, const ImageButton*>> images_;
+    std::vector<std::pair<QPushButton*, const CommandButton*>> commands_;
+    std::array<PageSwitchButton*, kPageCount> pages_{};
+    QLabel* lblPage_ = nullptr;
+};

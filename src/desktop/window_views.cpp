@@ -1,0 +1,65 @@
+#include "desktop/window_views.h"
+
+#include "core/program.h"
+#include "desktop/convert.h"
+
+#include <algorithm>
+
+WindowView::WindowView(Program& program, Window& window, QWidget* over, std::function<void()> afterEvent)
+    : QDialog(over), program_(program), window_(window), afterEvent_(std::move(afterEvent)) {
+    setObjectName(QString::fromLatin1(window.Name().data(), static_cast<qsizetype>(window.Name().size())));
+    setModal(window.Mode() == Modality::Modal);
+}
+
+void WindowView::Follow() {
+    const QString caption = convert::ToQString(window_.Caption);
+    if (windowTitle() != caption) {
+        setWindowTitle(caption);
+    }
+}
+
+void WindowView::reject() {
+    Do([this] { window_.Form_Cancel(program_); });
+}
+
+WindowViews::WindowViews(Program& program, QWidget& over, std::function<void()> afterEvent)
+    : program_(program), over_(over), afterEvent_(std::move(afterEvent)) {}
+
+WindowViews::~WindowViews() = default;
+
+bool WindowViews::ModalOpen() const {
+    return std::any_of(views_.begin(), views_.end(),
+                       [](const auto& entry) { return entry.second->isModal(); });
+}
+
+void WindowViews::Follow() {
+    const auto& open = program_.windows.Open;
+    for (auto at = views_.begin(); at != views_.end();) {
+        const bool stands = std::any_of(open.begin(), open.end(), [&](const std::unique_ptr<Window>& window) {
+            return window.get() == at->first && !window->Closing;
+        });
+        if (stands) {
+            ++at;
+            continue;
+        }
+        // Its own button may still be on the stack.
+        WindowView* view = at->second.release();
+        view->hide();
+        view->deleteLater();
+        at = views_.erase(at);
+    }
+    for (const std::unique_ptr<Window>& window : open) {
+        if (window->Closing) {
+            continue;
+        }
+        auto& view = views_[window.get()];
+        const bool fresh = view == nullptr;
+        if (fresh) {
+            view = MakeWindowView(program_, *window, &over_, afterEvent_);
+        }
+        view->Follow();
+        if (fresh) {
+            view->show();
+        }
+    }
+}

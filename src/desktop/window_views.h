@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QDialog>
+
+#include <functional>
+#include <map>
+#include <memory>
+
+class Window;
+struct Program;
+
+/// A small window on screen. Made when its model opens, gone when that closes.
+class WindowView : public QDialog {
+    Q_OBJECT
+public:
+    WindowView(Program& program, Window& window, QWidget* over, std::function<void()> afterEvent);
+    /// Sets what differs from the records.
+    virtual void Follow();
+
+protected:
+    /// Runs an event: the call, then what ends every event.
+    template <typename Call> void Do(Call call) {
+        const std::function<void()> after = afterEvent_;
+        call();
+        after();
+    }
+    void reject() override;
+    Program& program_;
+    Window& window_;
+
+private:
+    std::function<void()> afterEvent_;
+};
+
+/// Keeps one view for each open window.
+class WindowViews {
+public:
+    WindowViews(Program& program, QWidget& over, std::function<void()> afterEvent);
+    ~WindowViews();
+    void Follow();
+    [[nodiscard]] bool ModalOpen() const;
+
+private:
+    Program& program_;
+    QWidget& over_;
+    std::function<void()> afterEvent_;
+    std::map<Window*, std::unique_ptr<WindowView>> views_;
+};
+
+/// The view for a window, chosen by its name.
+[[nodiscard]] std::unique_ptr<WindowView> MakeWindowView(Program& program, Window& window, QWidget* over,
+                                                         std::function<void()> afterEvent);
