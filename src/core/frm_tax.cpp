@@ -3,6 +3,7 @@
 #include "core/numbers.h"
 #include "core/program.h"
 #include "core/settings.h"
+#include "core/windows.h"
 
 void frmTax::Form_Load(Program& program) {
     Caption = "Sales Tax Rate";
@@ -24,5 +25,9 @@ void frmTax::cmdOK_Click(Program& program) {
 }
 
 void frmTax::cmdCancel_Click(Program& program) {
+    modWindows::Close(program, *this);
+}
+
+void frmTax::Form_Cancel(Program& program) {
     modWindows::Close(program, *this);
 }

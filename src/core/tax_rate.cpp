@@ -5,6 +5,7 @@
 #include "core/paths.h"
 #include "core/program.h"
 #include "core/settings.h"
+#include "core/windows.h"
 
 #include <algorithm>
 

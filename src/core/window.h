@@ -26,7 +26,7 @@ public:
     /// Runs once when the window closes by any way.
     virtual void Form_Unload(Program&) {}
     /// Escape, or the close box.
-    virtual void Form_Cancel(Program& program);
+    virtual void Form_Cancel(Program& program) = 0;
 
     std::string Caption;
     /// Set by the window's own handlers; the window leaves the collection when the event has ended.
@@ -37,26 +37,3 @@ public:
 struct WindowCollection {
     std::vector<std::unique_ptr<Window>> Open;
 };
-
-namespace modWindows {
-
-/// Opens a window: runs Form_Load and puts it last in the collection.
-Window& Show(Program& program, std::unique_ptr<Window> window);
-
-/// Closes a window: runs Form_Unload and marks it; `Sweep` takes it out.
-void Close(Program& program, Window& window);
-
-/// Takes closed windows out of the collection. Called by the front end and the tests when an event has ended,
-/// never while a handler of the window may still be running.
-void Sweep(Program& program);
-
-/// The open window of that name, or null.
-[[nodiscard]] Window* Find(Program& program, std::string_view name);
-
-/// The modal window that takes all input, or null.
-[[nodiscard]] Window* TopModal(Program& program);
-
-/// Closes all windows from the last to the first.
-void UnloadAll(Program& program);
-
-} // namespace modWindows

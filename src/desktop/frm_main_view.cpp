@@ -2,13 +2,14 @@
 
 #include "core/guard.h"
 #include "core/program.h"
+#include "core/windows.h"
 #include "desktop/convert.h"
 #include "desktop/icons.h"
 #include "desktop/page_view.h"
 #include "desktop/tool_strip.h"
 #include "desktop/window_views.h"
+#include "shell/closing.h"
 #include "shell/command_run.h"
-#include "shell/frm_main.h"
 #include "shell/page_switch.h"
 
 #include <QCloseEvent>
@@ -287,9 +288,8 @@ void FrmMainView::FollowPages() {
 }
 
 void FrmMainView::closeEvent(QCloseEvent* event) {
-    frmMain window(program_);
-    if (window.MDIForm_QueryUnload()) {
-        window.MDIForm_Unload();
+    if (modMain::MDIForm_QueryUnload(program_)) {
+        modMain::MDIForm_Unload(program_);
         event->accept();
     } else {
         event->ignore();

@@ -99,7 +99,8 @@ void ToolImage::paintEvent(QPaintEvent*) {
                                               isEnabled() ? QIcon::Normal : QIcon::Disabled);
 }
 
-PageSwitchButton::PageSwitchButton(int pageIndex, QWidget* parent) : QAbstractButton(parent), pageIndex_(pageIndex) {
+PageSwitchButton::PageSwitchButton(int pageIndex, QWidget* parent)
+    : QAbstractButton(parent), pageIndex_(pageIndex) {
     setObjectName(QStringLiteral("imgPage(%1)").arg(pageIndex));
     const QString what = pageIndex == 6 ? tr("Page 6, client's copy") : tr("Page %1").arg(pageIndex + 1);
     setAccessibleName(what);

@@ -6,6 +6,7 @@
 #include "core/paths.h"
 #include "core/program.h"
 #include "core/text.h"
+#include "core/windows.h"
 #include "document/fields.h"
 #include "document/file_names.h"
 #include "document/frm_file.h"

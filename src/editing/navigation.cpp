@@ -4,7 +4,7 @@
 #include "document/fields.h"
 #include "document/page_geometry.h"
 #include "document/page_setup.h"
-#include "editing/text_areas.h"
+#include "editing/keys.h"
 
 #include <optional>
 #include <span>

@@ -2,6 +2,7 @@
 
 #include "core/errors.h"
 #include "core/program.h"
+#include "core/windows.h"
 
 void frmDialog::Form_Load(Program&) {
     Caption = "Printing";
@@ -11,4 +12,8 @@ void frmDialog::cmdCancelPrint_Click(Program& program) {
     program.printing.PrintCancelled = true;
     Guarded(program, "PrintTheForm", [&] { program.platform.printers.Device().EndDoc(); });
     modWindows::Close(program, *this);
+}
+
+void frmDialog::Form_Cancel(Program& program) {
+    cmdCancelPrint_Click(program);
 }

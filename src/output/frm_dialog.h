@@ -12,6 +12,7 @@ public:
     [[nodiscard]] std::string_view Name() const override { return "frmDialog"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }
     void Form_Load(Program& program) override;
+    void Form_Cancel(Program& program) override;
 
     /// What was drawn is sent, not thrown away.
     void cmdCancelPrint_Click(Program& program);

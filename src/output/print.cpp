@@ -4,6 +4,7 @@
 #include "core/guard.h"
 #include "core/paths.h"
 #include "core/program.h"
+#include "core/windows.h"
 #include "document/file_names.h"
 #include "document/page_geometry.h"
 #include "output/frm_dialog.h"

@@ -3,13 +3,14 @@
 #include "core/frm_tax.h"
 #include "core/program.h"
 #include "core/settings.h"
+#include "core/windows.h"
 #include "document/lifecycle.h"
 #include "document/totals.h"
 #include "editing/columns.h"
 #include "output/preview.h"
 #include "output/print.h"
+#include "shell/closing.h"
 #include "shell/command_table.h"
-#include "shell/frm_main.h"
 
 #include <array>
 
@@ -68,7 +69,7 @@ constexpr std::array kRoutes{
     Route{CommandId::mnuFilePrintPage5, PrintPage<PageId::frmP5>},
     Route{CommandId::mnuFilePrintPage6, PrintPage<PageId::frmP6>},
     Route{CommandId::mnuFilePrintPage6_1, PrintPage<PageId::frmP6_1>},
-    Route{CommandId::mnuFileExit, Exit},
+    Route{CommandId::mnuFileExit, modMain::mnuFileExit_Click},
     Route{CommandId::mnuEditTextColumns, modColumns::ToggleColumns},
     Route{CommandId::mnuEditTextTaxExempt, modColumns::mnuEditTextTaxExempt_Click},
     Route{CommandId::mnuEditTextTaxable, modColumns::mnuEditTextTaxable_Click},

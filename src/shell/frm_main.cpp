@@ -1,8 +1,6 @@
 #include "shell/frm_main.h"
 
 #include "core/program.h"
-#include "document/lifecycle.h"
-#include "document/proposal_file.h"
 #include "document/totals.h"
 #include "output/preview.h"
 #include "shell/command_run.h"
@@ -57,35 +55,4 @@ void frmMain::imgSpellCheck_Click() {
 
 void frmMain::imgPage_Click(int index) {
     modScroll::UpdatePageButtons(program_, index);
-}
-
-void frmMain::mnuFileExit_Click() {
-    if (MDIForm_QueryUnload()) {
-        MDIForm_Unload();
-    }
-}
-
-bool frmMain::MDIForm_QueryUnload() {
-    if (program_.main.Closing ||
-        (!modMain::SomethingChanged(program_) && !modFile::PropertiesChanged(program_))) {
-        return true;
-    }
-    const Answer answer = program_.platform.questions.MsgBox(
-        "The file has been changed. Do you want to save it?", Buttons::YesNoCancel, "Text has been Changed");
-    if (answer == Answer::Yes) {
-        // Saving keeps the program open; the person closes a second time.
-        modFile::SaveEventFile(program_);
-        return false;
-    }
-    return answer == Answer::No;
-}
-
-void frmMain::MDIForm_Unload() {
-    if (program_.main.Closing) {
-        return;
-    }
-    program_.main.Closing = true;
-    program_.run.ProgramClosing = true;
-    modWindows::UnloadAll(program_);
-    program_.platform.events.Quit();
 }

@@ -20,12 +20,6 @@ public:
     void imgSearch_Click();
     void imgSpellCheck_Click();
     void imgPage_Click(int index);
-    /// Starts the closing of the window, with its question.
-    void mnuFileExit_Click();
-
-    /// The close box or Exit: asks about unsaved changes. True when the window may close.
-    [[nodiscard]] bool MDIForm_QueryUnload();
-    void MDIForm_Unload();
 
 private:
     Program& program_;

@@ -7,6 +7,7 @@
 #include "document/page_geometry.h"
 #include "document/totals.h"
 #include "editing/columns.h"
+#include "editing/text_areas.h"
 #include "shell/page_switch.h"
 
 namespace modInput {

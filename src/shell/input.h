@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/page_records.h"
-#include "editing/text_areas.h"
+#include "editing/keys.h"
 
 #include <string_view>
 

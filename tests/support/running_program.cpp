@@ -1,6 +1,6 @@
 #include "support/running_program.h"
 
-#include "editing/text_areas.h"
+#include "editing/keys.h"
 #include "shell/command_run.h"
 #include "shell/frm_main.h"
 #include "shell/start_up.h"

@@ -1,4 +1,4 @@
-#include "core/window.h"
+#include "core/windows.h"
 
 #include "core/program.h"
 

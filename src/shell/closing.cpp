@@ -1,0 +1,40 @@
+#include "shell/closing.h"
+
+#include "core/program.h"
+#include "core/windows.h"
+#include "document/lifecycle.h"
+#include "document/proposal_file.h"
+
+namespace modMain {
+
+void mnuFileExit_Click(Program& program) {
+    if (MDIForm_QueryUnload(program)) {
+        MDIForm_Unload(program);
+    }
+}
+
+bool MDIForm_QueryUnload(Program& program) {
+    if (program.main.Closing || (!SomethingChanged(program) && !modFile::PropertiesChanged(program))) {
+        return true;
+    }
+    const Answer answer = program.platform.questions.MsgBox(
+        "The file has been changed. Do you want to save it?", Buttons::YesNoCancel, "Text has been Changed");
+    if (answer == Answer::Yes) {
+        // Saving keeps the program open; the person closes a second time.
+        modFile::SaveEventFile(program);
+        return false;
+    }
+    return answer == Answer::No;
+}
+
+void MDIForm_Unload(Program& program) {
+    if (program.main.Closing) {
+        return;
+    }
+    program.main.Closing = true;
+    program.run.ProgramClosing = true;
+    modWindows::UnloadAll(program);
+    program.platform.events.Quit();
+}
+
+} // namespace modMain
