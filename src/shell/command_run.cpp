@@ -43,10 +43,6 @@ void ToggleOverwrite(Program& program) {
     program.format.OverwriteFormatText = program.main[kId].Checked;
 }
 
-void Exit(Program& program) {
-    frmMain(program).mnuFileExit_Click();
-}
-
 struct Route {
     CommandId Id;
     Handler Run;
