@@ -249,10 +249,7 @@ private:
         found.Day = Ahead()->Value;
         ++at_;
         const bool mark = Skip(",") || Skip("-");
-        if (!TakeYear(found) && mark && Ahead() == nullptr) {
-            return false;
-        }
-        return true;
+        return TakeYear(found) || !mark || Ahead() != nullptr;
     }
 
     bool TakeDayFirst(dates::Calendar& found) {

@@ -200,7 +200,7 @@ std::string ChooseFolder(Program& program) {
     }
     folders.SharedFolder =
         paths::WithSeparator(paths::ResolveDrive(program.settings.SharedDirectory, folders.Drives));
-    const std::string shared = paths::WithSeparator(paths::Join(folders.SharedFolder, kProposals));
+    std::string shared = paths::WithSeparator(paths::Join(folders.SharedFolder, kProposals));
     if (modFile::FolderExists(folders.SharedFolder, kProposals)) {
         return shared;
     }

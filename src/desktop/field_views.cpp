@@ -3,7 +3,7 @@
 #include "core/program.h"
 #include "desktop/convert.h"
 #include "desktop/key_codes.h"
-#include "desktop/page_view.h"
+#include "desktop/page_context.h"
 #include "desktop/paper_surface.h"
 #include "desktop/paper_text.h"
 #include "document/fields.h"
@@ -58,8 +58,8 @@ bool EntersCharacter(const QKeyEvent& event) {
 
 } // namespace
 
-TextAreaView::TextAreaView(PageView& page, const FieldRef& field)
-    : QLineEdit(&page), page_(page), field_(field) {
+TextAreaView::TextAreaView(PageContext& page, QWidget& paper, const FieldRef& field)
+    : QLineEdit(&paper), page_(page), field_(field) {
     setObjectName(FieldName(field));
     setAccessibleName(SpokenName(field));
     setFrame(false);
@@ -115,7 +115,7 @@ void TextAreaView::Follow(const TextArea& record) {
     if (placed) {
         setGeometry(OnScreen(static_cast<double>(record.Left), static_cast<double>(record.Top),
                              static_cast<double>(record.Width), static_cast<double>(record.Height),
-                             page_.Scale()));
+                             page_.Scale));
         setFont(paper::Face({record.FontName, qMax(1.0F, record.FontSize / 15), false, false}));
     }
     if (tip) {
@@ -132,7 +132,7 @@ void TextAreaView::Follow(const TextArea& record) {
 }
 
 double TextAreaView::TextWidth() const {
-    return static_cast<double>(page_.Measure().Width(shown_.Text, FontNow()));
+    return static_cast<double>(page_.measure.Width(shown_.Text, FontNow()));
 }
 
 double TextAreaView::Origin() const {
@@ -151,7 +151,7 @@ void TextAreaView::KeepCaretInView() {
         scroll_ = 0;
         return;
     }
-    const double caret = page_.Measure().XOf(shown_.Text, cursorPosition(), FontNow());
+    const double caret = page_.measure.XOf(shown_.Text, cursorPosition(), FontNow());
     if (!hasFocus()) {
         scroll_ = 0;
     } else if (caret < scroll_) {
@@ -162,9 +162,9 @@ void TextAreaView::KeepCaretInView() {
 }
 
 int TextAreaView::PositionAt(double x) const {
-    const double left = static_cast<double>(shown_.Left) * page_.Scale() - geometry().x();
-    const double twips = (x - left) / page_.Scale() - Origin();
-    return page_.Measure().PositionAt(shown_.Text, twips, FontNow());
+    const double left = static_cast<double>(shown_.Left) * page_.Scale - geometry().x();
+    const double twips = (x - left) / page_.Scale - Origin();
+    return page_.measure.PositionAt(shown_.Text, twips, FontNow());
 }
 
 void TextAreaView::paintEvent(QPaintEvent*) {
@@ -174,11 +174,11 @@ void TextAreaView::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::TextAntialiasing);
     painter.save();
     // The widget stands on whole pixels, the text where the paper has it.
-    painter.translate(static_cast<double>(shown_.Left) * page_.Scale() - geometry().x(),
-                      static_cast<double>(shown_.Top) * page_.Scale() - geometry().y());
-    painter.scale(page_.Scale(), page_.Scale());
+    painter.translate(static_cast<double>(shown_.Left) * page_.Scale - geometry().x(),
+                      static_cast<double>(shown_.Top) * page_.Scale - geometry().y());
+    painter.scale(page_.Scale, page_.Scale);
     const TextFont font = FontNow();
-    const QtTextMeasure& measure = page_.Measure();
+    const QtTextMeasure& measure = page_.measure;
     const std::string words = Model();
     const double origin = Origin();
     const QColor ink = convert::ToQColor(shown_.ForeColor);
@@ -217,9 +217,9 @@ void TextAreaView::paintEvent(QPaintEvent*) {
 void TextAreaView::ReportEdit() {
     const std::string now = Model();
     if (byKey_) {
-        modInput::Edited(page_.TheProgram(), field_, now, cursorPosition(), 0);
+        modInput::Edited(page_.program, field_, now, cursorPosition(), 0);
     } else {
-        modInput::EditedWithoutKey(page_.TheProgram(), field_, now, cursorPosition(), 0);
+        modInput::EditedWithoutKey(page_.program, field_, now, cursorPosition(), 0);
     }
 }
 
@@ -240,11 +240,11 @@ bool TextAreaView::event(QEvent* event) {
 
 void TextAreaView::PasteFromClipboard() {
     const convert::Incoming incoming = convert::FromPerson(QGuiApplication::clipboard()->text());
-    modInput::Insert(page_.TheProgram(), field_, incoming.Text, incoming.Refused, modInput::By::Key);
+    modInput::Insert(page_.program, field_, incoming.Text, incoming.Refused, modInput::By::Key);
 }
 
 void TextAreaView::Character(QKeyEvent* event, char byte) {
-    Program& program = page_.TheProgram();
+    Program& program = page_.program;
     if (modInput::KeyPress(program, static_cast<unsigned char>(byte)) == 0) {
         return;
     }
@@ -254,7 +254,7 @@ void TextAreaView::Character(QKeyEvent* event, char byte) {
 }
 
 void TextAreaView::keyPressEvent(QKeyEvent* event) {
-    Program& program = page_.TheProgram();
+    Program& program = page_.program;
     RestartCaret();
     event->accept();
     if (program.main.Focus != field_) {
@@ -300,13 +300,12 @@ void TextAreaView::keyReleaseEvent(QKeyEvent* event) {
     if (event->isAutoRepeat()) {
         return;
     }
-    modInput::KeyUp(page_.TheProgram(), keycodes::CodeOf(*event), keycodes::ShiftOf(*event), Start(),
-                    Length());
+    modInput::KeyUp(page_.program, keycodes::CodeOf(*event), keycodes::ShiftOf(*event), Start(), Length());
     Done();
 }
 
 void TextAreaView::inputMethodEvent(QInputMethodEvent* event) {
-    Program& program = page_.TheProgram();
+    Program& program = page_.program;
     QString taken;
     int refused = 0;
     for (const QChar character : event->commitString()) {
@@ -346,7 +345,7 @@ void TextAreaView::mousePressEvent(QMouseEvent* event) {
     }
     event->accept();
     RestartCaret();
-    modInput::FieldMouseDown(page_.TheProgram(), field_, right ? 2 : 1, 0, start, length);
+    modInput::FieldMouseDown(page_.program, field_, right ? 2 : 1, 0, start, length);
     Done();
     if (right && page_.AskForMenu) {
         page_.AskForMenu(event->globalPosition().toPoint());
@@ -359,13 +358,13 @@ void TextAreaView::mouseMoveEvent(QMouseEvent* event) {
         return;
     }
     const int position = PositionAt(event->position().x());
-    modInput::CursorMoved(page_.TheProgram(), field_, qMin(anchor_, position), qAbs(position - anchor_));
+    modInput::CursorMoved(page_.program, field_, qMin(anchor_, position), qAbs(position - anchor_));
     Done();
 }
 
 void TextAreaView::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
-    modInput::FieldMouseUp(page_.TheProgram(), field_, Start(), Length());
+    modInput::FieldMouseUp(page_.program, field_, Start(), Length());
     Done();
 }
 
@@ -380,12 +379,12 @@ void TextAreaView::SelectWordAt(int position) {
     while (to < all.size() && inWord(to)) {
         ++to;
     }
-    modInput::CursorMoved(page_.TheProgram(), field_, from, to - from);
+    modInput::CursorMoved(page_.program, field_, from, to - from);
 }
 
 void TextAreaView::mouseDoubleClickEvent(QMouseEvent* event) {
     event->accept();
-    Program& program = page_.TheProgram();
+    Program& program = page_.program;
     const QString before = text();
     const auto focus = program.main.Focus;
     modInput::FieldDblClick(program, field_);
@@ -399,8 +398,8 @@ void TextAreaView::mouseDoubleClickEvent(QMouseEvent* event) {
 void TextAreaView::dropEvent(QDropEvent* event) {
     const convert::Incoming incoming = convert::FromPerson(event->mimeData()->text());
     const int position = PositionAt(event->position().x());
-    modInput::FieldMouseDown(page_.TheProgram(), field_, 1, 0, position, 0);
-    modInput::Insert(page_.TheProgram(), field_, incoming.Text, incoming.Refused, modInput::By::Mouse);
+    modInput::FieldMouseDown(page_.program, field_, 1, 0, position, 0);
+    modInput::Insert(page_.program, field_, incoming.Text, incoming.Refused, modInput::By::Mouse);
     event->acceptProposedAction();
     Done();
 }
@@ -412,7 +411,7 @@ void TextAreaView::focusInEvent(QFocusEvent* event) {
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
         deselect();
         setCursorPosition(start);
-        modInput::FieldEntered(page_.TheProgram(), field_);
+        modInput::FieldEntered(page_.program, field_);
         Done();
     }
     update();
@@ -449,7 +448,7 @@ void TextAreaView::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
     // By mouse the press has opened it already; this is the keyboard's menu key.
     if (event->reason() == QContextMenuEvent::Keyboard) {
-        modInput::FieldMouseDown(page_.TheProgram(), field_, 2, 0, Start(), Length());
+        modInput::FieldMouseDown(page_.program, field_, 2, 0, Start(), Length());
         Done();
         if (page_.AskForMenu) {
             page_.AskForMenu(mapToGlobal(rect().bottomLeft()));
@@ -457,7 +456,8 @@ void TextAreaView::contextMenuEvent(QContextMenuEvent* event) {
     }
 }
 
-LabelView::LabelView(PageView& page, FieldKind kind, int index) : QLabel(&page), page_(page) {
+LabelView::LabelView(PageContext& page, QWidget& paper, FieldKind kind, int index)
+    : QLabel(&paper), page_(page) {
     const char* array = kind == FieldKind::lblAt ? "lblAt" : kind == FieldKind::lblEach ? "lblEach" : "lbl";
     setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(index));
     setTextFormat(Qt::PlainText);
@@ -473,8 +473,8 @@ void LabelView::Follow(const PageLabel& record) {
     setToolTip(convert::ToQString(record.ToolTipText));
     const TextFont font{record.FontName, record.FontSize, record.FontBold, record.FontItalic};
     setGeometry(OnScreen(static_cast<double>(record.Left), static_cast<double>(record.Top),
-                         static_cast<double>(page_.Measure().Width(record.Caption, font)) + 30,
-                         static_cast<double>(page_.Measure().Height(font)), page_.Scale()));
+                         static_cast<double>(page_.measure.Width(record.Caption, font)) + 30,
+                         static_cast<double>(page_.measure.Height(font)), page_.Scale));
     update();
 }
 
@@ -484,22 +484,22 @@ void LabelView::paintEvent(QPaintEvent*) {
         painter.fillRect(rect(), convert::ToQColor(shown_.BackColor));
     }
     painter.setRenderHint(QPainter::TextAntialiasing);
-    painter.translate(static_cast<double>(shown_.Left) * page_.Scale() - geometry().x(),
-                      static_cast<double>(shown_.Top) * page_.Scale() - geometry().y());
-    painter.scale(page_.Scale(), page_.Scale());
+    painter.translate(static_cast<double>(shown_.Left) * page_.Scale - geometry().x(),
+                      static_cast<double>(shown_.Top) * page_.Scale - geometry().y());
+    painter.scale(page_.Scale, page_.Scale);
     painter.setPen(convert::ToQColor(shown_.ForeColor));
     paper::Draw(painter, {0, 0}, shown_.Caption,
                 {shown_.FontName, shown_.FontSize, shown_.FontBold, shown_.FontItalic}, shown_.FontUnderline);
 }
 
-MarkView::MarkView(PageView& page, int index) : QAbstractButton(&page), page_(page) {
+MarkView::MarkView(PageContext& page, QWidget& paper, int index) : QAbstractButton(&paper), page_(page) {
     setObjectName(QStringLiteral("imgNoTax(%1)").arg(index));
-    setAccessibleName(tr("Tax exempt: %1").arg(SpokenName({page.Id(), FieldKind::txt, index})));
+    setAccessibleName(tr("Tax exempt: %1").arg(SpokenName({page.Id, FieldKind::txt, index})));
     setToolTip(tr("This amount is tax exempt. Click to make it taxable."));
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::NoFocus);
     connect(this, &QAbstractButton::clicked, this, [this, index] {
-        modInput::NoTaxMarkClick(page_.TheProgram(), page_.Id(), index);
+        modInput::NoTaxMarkClick(page_.program, page_.Id, index);
         if (page_.AfterEvent) {
             page_.AfterEvent();
         }
@@ -511,7 +511,7 @@ void MarkView::Follow(const PageImage& record) {
         shown_ = record;
         setGeometry(OnScreen(static_cast<double>(record.Left), static_cast<double>(record.Top),
                              static_cast<double>(record.Width), static_cast<double>(record.Height),
-                             page_.Scale()));
+                             page_.Scale));
     }
 }
 

@@ -8,14 +8,14 @@
 #include <QLabel>
 #include <QLineEdit>
 
-class PageView;
+struct PageContext;
 
 /// A text field of a page. A real line edit, so that input methods, the clipboard and screen readers work;
 /// what it shows is drawn in paper units, so that a line on the screen is as long as on paper.
 class TextAreaView : public QLineEdit {
     Q_OBJECT
 public:
-    TextAreaView(PageView& page, const FieldRef& field);
+    TextAreaView(PageContext& page, QWidget& paper, const FieldRef& field);
 
     void Follow(const TextArea& record);
     [[nodiscard]] const FieldRef& Field() const { return field_; }
@@ -56,7 +56,7 @@ private:
     void Done();
     void RestartCaret();
 
-    PageView& page_;
+    PageContext& page_;
     FieldRef field_;
     TextArea shown_;
     bool built_ = false;
@@ -72,14 +72,14 @@ private:
 class LabelView : public QLabel {
     Q_OBJECT
 public:
-    LabelView(PageView& page, FieldKind kind, int index);
+    LabelView(PageContext& page, QWidget& paper, FieldKind kind, int index);
     void Follow(const PageLabel& record);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    PageView& page_;
+    PageContext& page_;
     PageLabel shown_;
     bool built_ = false;
 };
@@ -88,13 +88,13 @@ private:
 class MarkView : public QAbstractButton {
     Q_OBJECT
 public:
-    MarkView(PageView& page, int index);
+    MarkView(PageContext& page, QWidget& paper, int index);
     void Follow(const PageImage& record);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    PageView& page_;
+    PageContext& page_;
     PageImage shown_;
 };

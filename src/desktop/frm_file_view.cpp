@@ -22,7 +22,7 @@ FrmFileView::FrmFileView(Program& program, frmFile& window, QWidget* over, std::
     : WindowView(program, window, over, std::move(afterEvent)), file_(window) {
     Build();
     Connect();
-    Follow();
+    FrmFileView::Follow();
     files_->setFocus();
 }
 

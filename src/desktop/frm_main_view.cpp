@@ -172,8 +172,8 @@ PageView& FrmMainView::PageOf(PageId page) {
     PageView*& view = pages_[static_cast<std::size_t>(page)];
     if (view == nullptr) {
         view = new PageView(program_, page, measure_, desk_);
-        view->AfterEvent = [this] { AfterEvent(); };
-        view->AskForMenu = [this](QPoint at) {
+        view->Context().AfterEvent = [this] { AfterEvent(); };
+        view->Context().AskForMenu = [this](QPoint at) {
             if (QMenu* menu = menus_->Menu(CommandId::mnuEditTextBox)) {
                 menu->popup(at);
             }

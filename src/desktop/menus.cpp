@@ -16,8 +16,8 @@ QString MenuText(const QString& caption, const commands::Entry& entry) {
 
 } // namespace
 
-Menus::Menus(QMenuBar& bar, QWidget& window, std::function<void(CommandId)> run,
-             std::function<void()> opening) {
+Menus::Menus(QMenuBar& bar, QWidget& window, const std::function<void(CommandId)>& run,
+             const std::function<void()>& opening) {
     for (const commands::Entry& entry : commands::Table()) {
         const auto at = static_cast<std::size_t>(entry.Id);
         QMenu* parent =

@@ -14,7 +14,8 @@ struct Program;
 class Menus {
 public:
     /// `run` is called with the command a person chose; `opening` before a menu shows.
-    Menus(QMenuBar& bar, QWidget& window, std::function<void(CommandId)> run, std::function<void()> opening);
+    Menus(QMenuBar& bar, QWidget& window, const std::function<void(CommandId)>& run,
+          const std::function<void()>& opening);
 
     /// Sets what differs from the records: captions, states, check marks.
     void Follow(const Program& program);

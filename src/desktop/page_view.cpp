@@ -25,8 +25,8 @@ template <typename View> void ShowAs(View& view, bool visible) {
 } // namespace
 
 PageView::PageView(Program& program, PageId page, const QtTextMeasure& measure, QWidget* parent)
-    : QWidget(parent), program_(program), id_(page), measure_(measure),
-      scale_(parent->logicalDpiX() / kTwipsPerInch) {
+    : QWidget(parent), context_{program, measure, page, parent->logicalDpiX() / kTwipsPerInch, {}, {}},
+      program_(program), id_(page) {
     setObjectName(QString::fromLatin1(geometry::PageName(page).data(),
                                       static_cast<qsizetype>(geometry::PageName(page).size())));
     setAccessibleName(QString::fromLatin1(geometry::PageCaption(page).data(),
@@ -38,8 +38,8 @@ PageView::PageView(Program& program, PageId page, const QtTextMeasure& measure, 
     setPalette(paper);
     setAttribute(Qt::WA_OpaquePaintEvent);
     const Page& record = program.pages[page];
-    setFixedSize(qRound(static_cast<double>(record.Width) * scale_),
-                 qRound(static_cast<double>(record.Height) * scale_));
+    setFixedSize(qRound(static_cast<double>(record.Width) * context_.Scale),
+                 qRound(static_cast<double>(record.Height) * context_.Scale));
     hide();
 }
 
@@ -63,7 +63,7 @@ void PageView::FollowAreas(FieldKind kind, std::vector<TextAreaView*>& views,
             if (!visible) {
                 continue;
             }
-            view = new TextAreaView(*this, {id_, kind, static_cast<int>(index)});
+            view = new TextAreaView(context_, *this, {id_, kind, static_cast<int>(index)});
         }
         view->Follow(records[index]);
         ShowAs(*view, visible);
@@ -80,7 +80,7 @@ void PageView::FollowLabels(FieldKind kind, std::vector<LabelView*>& views,
             if (!visible) {
                 continue;
             }
-            view = new LabelView(*this, kind, static_cast<int>(index));
+            view = new LabelView(context_, *this, kind, static_cast<int>(index));
             view->lower();
         }
         view->Follow(records[index]);
@@ -98,7 +98,7 @@ void PageView::FollowMarks() {
             if (!visible) {
                 continue;
             }
-            view = new MarkView(*this, static_cast<int>(index));
+            view = new MarkView(context_, *this, static_cast<int>(index));
         }
         view->Follow(records[index]);
         ShowAs(*view, visible);
@@ -126,7 +126,7 @@ void PageView::Follow() {
         ink_ = record.InkShown;
         preview_ = {};
         if (ink_) {
-            PaperSurface surface(measure_);
+            PaperSurface surface(context_.measure);
             modPrint::DrawPage(program_, surface, id_);
             preview_ = std::move(surface.Record);
         }
@@ -179,7 +179,7 @@ void PageView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), Qt::white);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(scale_, scale_);
+    painter.scale(context_.Scale, context_.Scale);
     if (ink_) {
         preview_.Replay(painter);
     } else {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/page_context.h"
 #include "desktop/paper_surface.h"
 #include "document/page_records.h"
 
@@ -28,17 +29,8 @@ public:
     /// Puts the keyboard where the model has the focus.
     void FollowFocus();
 
-    [[nodiscard]] Program& TheProgram() { return program_; }
-    [[nodiscard]] const QtTextMeasure& Measure() const { return measure_; }
-    [[nodiscard]] PageId Id() const { return id_; }
-    /// Device-independent pixels to the twip.
-    [[nodiscard]] double Scale() const { return scale_; }
+    [[nodiscard]] PageContext& Context() { return context_; }
     [[nodiscard]] TextAreaView* Field(const FieldRef& field) const;
-
-    /// Runs when an event has been dealt with.
-    std::function<void()> AfterEvent;
-    /// A right click on a text area asks for the menu of its commands.
-    std::function<void(QPoint)> AskForMenu;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -50,10 +42,9 @@ private:
     void FollowPaper();
     void DrawFixed(QPainter& painter) const;
 
+    PageContext context_;
     Program& program_;
     PageId id_;
-    const QtTextMeasure& measure_;
-    double scale_;
     std::vector<TextAreaView*> txt_;
     std::vector<TextAreaView*> txtQty_;
     std::vector<TextAreaView*> txtAmt_;

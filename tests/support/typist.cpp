@@ -3,6 +3,7 @@
 #include "core/program.h"
 #include "document/fields.h"
 #include "shell/input.h"
+#include "shell/page_switch.h"
 
 #include <algorithm>
 #include <string>
@@ -75,6 +76,9 @@ int KeyCodeOf(char character) {
 } // namespace
 
 void Typist::Click(const FieldRef& field) {
+    if (program_.main.PageInFront != field.Page) {
+        modScroll::UpdatePageButtons(program_, IndexOf(field.Page)); // only what is in front can be clicked
+    }
     TextArea& area = modFields::Area(program_, field);
     const int end = static_cast<int>(area.Text.size());
     modInput::FieldMouseDown(program_, field, 1, 0, end, 0);

@@ -12,7 +12,7 @@ class Typist {
 public:
     explicit Typist(Program& program) : program_(program) {}
 
-    /// Puts the focus into a field, as a click does.
+    /// Puts the focus into a field, as a click does; its page comes to the front first.
     void Click(const FieldRef& field);
     void Click(PageId page, int txtIndex) { Click({page, FieldKind::txt, txtIndex}); }
     /// Types characters, each with its own key.

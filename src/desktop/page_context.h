@@ -1,0 +1,23 @@
+#pragma once
+
+#include "document/page_records.h"
+
+#include <QPoint>
+
+#include <functional>
+
+class QtTextMeasure;
+struct Program;
+
+/// What the fields of a page share with it.
+struct PageContext {
+    Program& program;
+    const QtTextMeasure& measure;
+    PageId Id = PageId::frmP1;
+    double Scale = 1; ///< device-independent pixels to the twip
+
+    /// Runs when an event has been dealt with.
+    std::function<void()> AfterEvent;
+    /// A right click on a text area asks for the menu of its commands.
+    std::function<void(QPoint)> AskForMenu;
+};
