@@ -23,6 +23,10 @@ void frmMain::cmdTaxRate_Click() {
     commands::Run(program_, CommandId::mnuOptSalesTax);
 }
 
+void frmMain::lblDir_MouseMove() {
+    program_.main.lblDir.ToolTipText = program_.main.lblDir.Caption;
+}
+
 // Wanted: this button shows its pressed look and starts nothing; a new proposal starts from the menu.
 void frmMain::imgNew_MouseDown() {
     modMain::PressToolButton(program_, program_.main.imgNew);
@@ -61,8 +65,4 @@ void frmMain::imgSpellCheck_Click() {
 
 void frmMain::imgPage_Click(int index) {
     modScroll::UpdatePageButtons(program_, index);
-}
-
-void frmMain::lblDir_MouseMove() {
-    program_.main.lblDir.ToolTipText = program_.main.lblDir.Caption;
 }
