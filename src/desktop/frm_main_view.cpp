@@ -42,6 +42,7 @@ QWidget* MakeStrip(const QString& name, QWidget* parent) {
 
 Desk::Desk(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("desk"));
+    setFocusPolicy(Qt::ClickFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -271,6 +272,9 @@ void FrmMainView::FollowPages() {
     view.Follow();
     for (PageView* other : pages_) {
         if (other != nullptr && other != &view && !other->isHidden()) {
+            if (other->isAncestorOf(focusWidget())) {
+                desk_->setFocus(); // or the keyboard would fall to the nearest button
+            }
             other->hide();
         }
     }
@@ -284,6 +288,11 @@ void FrmMainView::FollowPages() {
     }
     if (!windows_->ModalOpen()) {
         view.FollowFocus();
+        const QWidget* keyboard = focusWidget();
+        if ((!program_.main.Focus || program_.main.Focus->Page != front) &&
+            (keyboard == nullptr || !keyboard->isVisible())) {
+            desk_->setFocus(); // page keys still scroll
+        }
     }
 }
 

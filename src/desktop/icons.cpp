@@ -174,8 +174,7 @@ void Prepare(QPainter& painter, const QRectF& into, const QColor& ink) {
 /// Paints itself at whatever size and pixel ratio is asked for.
 class DrawnIcon : public QIconEngine {
 public:
-    DrawnIcon(Draw how, const QColor& ink, const QColor& faded)
-        : how_(how), ink_(ink), faded_(faded) {}
+    DrawnIcon(Draw how, const QColor& ink, const QColor& faded) : how_(how), ink_(ink), faded_(faded) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
         painter->save();

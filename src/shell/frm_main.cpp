@@ -1,6 +1,7 @@
 #include "shell/frm_main.h"
 
 #include "core/program.h"
+#include "document/fields.h"
 #include "document/totals.h"
 #include "output/preview.h"
 #include "shell/command_run.h"
@@ -65,4 +66,15 @@ void frmMain::imgSpellCheck_Click() {
 
 void frmMain::imgPage_Click(int index) {
     modScroll::UpdatePageButtons(program_, index);
+    if (index < 0 || index >= kPageCount) {
+        return;
+    }
+    // The keyboard goes along to the page that was chosen: its first area, on the final page the deposit.
+    const PageId page = PageAt(index);
+    constexpr int kDeposit = 4;
+    if (page == PageId::frmP6_1) {
+        modFields::DropFocus(program_);
+    } else {
+        modFields::GiveFocus(program_, {page, FieldKind::txt, page == PageId::frmP6 ? kDeposit : 0});
+    }
 }

@@ -1,0 +1,177 @@
+#include "core/program.h"
+#include "desktop/frm_main_view.h"
+#include "desktop/page_view.h"
+#include "desktop/qt_platform.h"
+#include "output/print_page.h"
+#include "shell/start_up.h"
+#include "shell/wiring.h"
+#include "support/recording_platform.h"
+#include "support/scratch_folder.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QTest>
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <memory>
+#include <vector>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+double Milliseconds(Clock::duration span) {
+    return std::chrono::duration<double, std::milli>(span).count();
+}
+
+class Agreeing : public Questions {
+public:
+    Answer MsgBox(std::string_view, Buttons buttons, std::string_view) override {
+        return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
+    }
+    std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
+};
+
+/// The program in its window, in a folder of its own.
+struct Desktop {
+    ScratchFolder folder;
+    Agreeing agreeing;
+    QtPlatform qt;
+    Platform platform{.questions = agreeing,
+                      .measure = qt.measure,
+                      .printers = qt.printers,
+                      .screen = qt.screen,
+                      .clipboard = qt.clipboard,
+                      .shell = qt.shell,
+                      .clock = qt.clock,
+                      .instance = qt.instance,
+                      .pictures = qt.pictures,
+                      .events = qt.events};
+    Program program{platform};
+    std::unique_ptr<FrmMainView> window;
+
+    Desktop() {
+        folder.Write("UserPreferences.txt", Shipped("UserPreferences.txt"));
+        folder.Write("Proposals/SalesTax.txt", Shipped("Proposals/SalesTax.txt"));
+        program.folders.InstallFolder = folder.Path();
+        Wire(program);
+        window = std::make_unique<FrmMainView>(program, qt.measure);
+        qt.events.Follow = [this] { window->Follow(); };
+        modMain::Main(program);
+        program.main.State = WindowState::Normal;
+        window->ShowFirst();
+        static_cast<void>(QTest::qWaitForWindowExposed(window.get()));
+        window->AfterEvent();
+    }
+
+    static std::string Shipped(const char* name) {
+        QFile file(QStringLiteral(QUILLBROOK_SHIPPED_DATA "/") + QLatin1String(name));
+        file.open(QIODevice::ReadOnly);
+        return file.readAll().toStdString();
+    }
+};
+
+void BareWindowToFirstPaint(benchmark::State& state) {
+    for (auto _ : state) {
+        QWidget window;
+        window.resize(1024, 740);
+        window.show();
+        static_cast<void>(QTest::qWaitForWindowExposed(&window));
+        window.grab();
+    }
+}
+BENCHMARK(BareWindowToFirstPaint)->Unit(benchmark::kMillisecond);
+
+void ProgramToFirstPaint(benchmark::State& state) {
+    for (auto _ : state) {
+        const Desktop desktop;
+        desktop.window->grab();
+    }
+}
+BENCHMARK(ProgramToFirstPaint)->Unit(benchmark::kMillisecond);
+
+/// From the key to a frame in which everything that it changes stands, totals included.
+void KeyToPaintedFrame(benchmark::State& state) {
+    Desktop desktop;
+    QWidget* keyboard = QApplication::focusWidget();
+    desktop.program.main.Focus = FieldRef{PageId::frmP1, FieldKind::txt, 20};
+    desktop.window->AfterEvent();
+    keyboard = desktop.window->PageOf(PageId::frmP1).findChild<QWidget*>(QStringLiteral("txt(20)"));
+    std::vector<double> spans;
+    int count = 0;
+    for (auto _ : state) {
+        desktop.program.editing.KeyCounter = 0;
+        const auto start = Clock::now();
+        if (++count % 8 == 0) {
+            QTest::keyClick(keyboard, Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClick(keyboard, Qt::Key_Delete);
+        } else {
+            QTest::keyClick(keyboard, Qt::Key_7);
+        }
+        desktop.window->repaint();
+        QCoreApplication::processEvents();
+        spans.push_back(Milliseconds(Clock::now() - start));
+    }
+    std::sort(spans.begin(), spans.end());
+    state.counters["p50_ms"] = spans[spans.size() / 2];
+    state.counters["p99_ms"] = spans[spans.size() * 99 / 100];
+}
+BENCHMARK(KeyToPaintedFrame)->Unit(benchmark::kMillisecond);
+
+void OnePageToPdf(benchmark::State& state) {
+    Desktop desktop;
+    for (auto _ : state) {
+        PaperSurface surface(desktop.qt.measure);
+        modPrint::DrawPage(desktop.program, surface, PageId::frmP6);
+        benchmark::DoNotOptimize(QtPrinters::MakePdf({&surface.Record}, QStringLiteral("Page")));
+    }
+}
+BENCHMARK(OnePageToPdf)->Unit(benchmark::kMillisecond);
+
+void SevenPagesToPdf(benchmark::State& state) {
+    Desktop desktop;
+    for (auto _ : state) {
+        std::vector<PaperRecord> records;
+        std::vector<const PaperRecord*> pages;
+        for (const PageId page : kAllPages) {
+            PaperSurface surface(desktop.qt.measure);
+            modPrint::DrawPage(desktop.program, surface, page);
+            records.push_back(std::move(surface.Record));
+        }
+        for (const PaperRecord& record : records) {
+            pages.push_back(&record);
+        }
+        benchmark::DoNotOptimize(QtPrinters::MakePdf(pages, QStringLiteral("Proposal")));
+    }
+}
+BENCHMARK(SevenPagesToPdf)->Unit(benchmark::kMillisecond);
+
+void MemoryOfTheIdleProgram(benchmark::State& state) {
+    const Desktop desktop;
+    double megabytes = 0;
+    for (auto _ : state) {
+        QFile status(QStringLiteral("/proc/self/status"));
+        status.open(QIODevice::ReadOnly);
+        for (const QByteArray& line : status.readAll().split('\n')) {
+            if (line.startsWith("VmRSS:")) {
+                megabytes = line.mid(6).trimmed().split(' ').first().toDouble() / 1024;
+            }
+        }
+    }
+    state.counters["RSS_MiB"] = megabytes;
+}
+BENCHMARK(MemoryOfTheIdleProgram)->Iterations(1);
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
