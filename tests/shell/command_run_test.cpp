@@ -1,6 +1,7 @@
 #include "shell/command_run.h"
 
 #include "core/program.h"
+#include "core/version.h"
 #include "core/windows.h"
 #include "document/frm_file.h"
 #include "shell/command_table.h"
@@ -148,6 +149,11 @@ TEST(VersionFile, ThatCannotBeWrittenIsReported) {
     run.surroundings.questions.Expect("Version: 1.0.0");
     run.surroundings.questions.Expect("mnuHelpVersion");
     Choose(run, CommandId::mnuHelpVersion);
+}
+
+TEST(Version, IsTheOneThatIsBuilt) {
+    const std::string expected = "project(Quillbrook VERSION " + std::string(version::kNumber) + " ";
+    EXPECT_NE(ReadTestData("../../CMakeLists.txt").find(expected), std::string::npos);
 }
 
 TEST(Support, TellsHowToReachIt) {
