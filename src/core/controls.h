@@ -32,6 +32,11 @@ struct ImageButton {
     int Picture = 0;
     bool Enabled = true;
     bool Visible = true;
+    /// Place in its strip, twips; the front end keeps it true.
+    float Left = 0;
+    float Top = 0;
+    float Width = 0;
+    float Height = 0;
     bool operator==(const ImageButton&) const = default;
 };
 

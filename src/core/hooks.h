@@ -20,6 +20,8 @@ struct Hooks {
     Call DeSelectAllControls;                             ///< end a block selection on all pages
     std::function<void(Program&, int)> PageKey;           ///< a page-up (33) or page-down (34) key
     Call UpdateTextMenu;                                  ///< the states of the text area's commands
+    std::function<void(Program&, int)> MoveBlock; ///< an up (38) or down (40) key while areas are selected
+    std::function<void(Program&, int)> TermsKey;  ///< F5 (116) or F6 (117) on a line page
     Call ReadFrequentlyUsedTerms;
     Call ShowTermsWindow;
     Call ShowCalculator;

@@ -31,6 +31,8 @@ public:
     std::string Caption;
     /// Set by the window's own handlers; the window leaves the collection when the event has ended.
     bool Closing = false;
+    /// A floating window that has stepped aside.
+    bool Minimised = false;
 };
 
 /// Every open window but the main one, in the order of opening.

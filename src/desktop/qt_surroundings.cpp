@@ -2,6 +2,7 @@
 
 #include "core/ansi.h"
 #include "core/dates.h"
+#include "core/paths.h"
 #include "desktop/convert.h"
 
 #include <QApplication>
@@ -17,6 +18,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QSaveFile>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QUrl>
@@ -29,6 +31,17 @@ constexpr double kTwipsPerInch = 1440;
 
 QString Native(std::string_view path) {
     return QString::fromStdString(ansi::ToUtf8(path));
+}
+
+QString LinkEntry(const QString& name, QString file) {
+    // Characters that mean something between the quotes of an entry's command.
+    for (const char* special : {"\\", "\"", "`", "$"}) {
+        file.replace(QLatin1String(special), QLatin1Char('\\') + QLatin1String(special));
+    }
+    file.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+    file.replace(QLatin1Char('%'), QLatin1String("%%"));
+    return QStringLiteral("[Desktop Entry]\nType=Application\nName=") + name + QStringLiteral("\nExec=\"") +
+           file + QStringLiteral("\"\nTerminal=false\n");
 }
 
 QString TitleOf(std::string_view title) {
@@ -154,18 +167,23 @@ void QtShell::Open(std::string_view target) {
 }
 
 bool QtShell::CreateLink(std::string_view folder, std::string_view name, std::string_view target) {
-    QFile link(QDir(Native(folder)).filePath(convert::ToQString(name) + QStringLiteral(".desktop")));
-    if (!link.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+    const auto place =
+        folder.empty() ? QStandardPaths::ApplicationsLocation : QStandardPaths::DesktopLocation;
+    const QDir links(QStandardPaths::writableLocation(place));
+    if (!links.mkpath(QStringLiteral("."))) {
         return false;
     }
-    const QString entry =
-        QStringLiteral("[Desktop Entry]\nType=Application\nName=%1\nExec=\"%2\"\nTerminal=false\n")
-            .arg(convert::ToQString(name), Native(target));
-    const QByteArray bytes = entry.toUtf8();
-    const bool written = link.write(bytes) == bytes.size() && link.flush();
-    link.close();
-    link.setPermissions(link.permissions() | QFileDevice::ExeOwner);
-    return written;
+    // The program's own file has another name and place here than the model gives it.
+    const QString file =
+        paths::Name(target) == "Quillbrook.exe" ? QCoreApplication::applicationFilePath() : Native(target);
+    QSaveFile link(links.filePath(convert::ToQString(name) + QStringLiteral(".desktop")));
+    const QByteArray entry = LinkEntry(convert::ToQString(name), file).toUtf8();
+    if (!link.open(QIODevice::WriteOnly) || link.write(entry) != entry.size()) {
+        return false;
+    }
+    link.setPermissions(link.permissions() | QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                        QFileDevice::ExeOwner);
+    return link.commit();
 }
 
 double QtClock::Now() const {

@@ -4,6 +4,7 @@
 #include "desktop/convert.h"
 #include "desktop/icons.h"
 #include "shell/frm_main.h"
+#include "shell/tool_buttons.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -72,6 +73,9 @@ void ToolImage::changeEvent(QEvent* event) {
 bool ToolImage::event(QEvent* event) {
     if (ChangesLook(event->type())) {
         update();
+        if (Hovered) {
+            Hovered(event->type() == QEvent::Enter);
+        }
     }
     return QAbstractButton::event(event);
 }
@@ -141,7 +145,7 @@ ToolStrip::ToolStrip(Program& program, std::function<void()> afterEvent, QWidget
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(6, 3, 6, 3);
     row->setSpacing(1);
-    const MainWindow& main = program_.main;
+    MainWindow& main = program_.main;
     AddImage("imgNew", tr("Create New File"), main.imgNew, [this] { frmMain(program_).imgNew_MouseDown(); });
     AddImage("imgOpen", tr("Open existing file"), main.imgOpen,
              [this] { frmMain(program_).imgOpen_MouseDown(); });
@@ -181,11 +185,19 @@ ToolStrip::ToolStrip(Program& program, std::function<void()> afterEvent, QWidget
     Follow();
 }
 
-void ToolStrip::AddImage(std::string_view name, const QString& accessibleName, const ImageButton& record,
+void ToolStrip::AddImage(std::string_view name, const QString& accessibleName, ImageButton& record,
                          std::function<void()> chosen) {
     auto* button = new ToolImage(name, accessibleName, this);
+    button->Hovered = [this, &record](bool over) {
+        over ? modMain::HoverToolButton(program_, record) : modMain::LeaveToolButton(program_);
+    };
+    connect(button, &QAbstractButton::pressed, this,
+            [this, &record] { modMain::PressToolButton(program_, record); });
+    connect(button, &QAbstractButton::released, this, [this] { modMain::ReleaseToolButton(program_); });
+    // A button works when it is let go over it, as everywhere on the desktop; its frame goes with that.
     connect(button, &QAbstractButton::clicked, this, [this, chosen = std::move(chosen)] {
         chosen();
+        modMain::ReleaseToolButton(program_);
         afterEvent_();
     });
     layout()->addWidget(button);
@@ -238,8 +250,17 @@ void ToolStrip::FollowCommand(QPushButton& button, const CommandButton& record) 
     }
 }
 
+void ToolStrip::KeepPlace(const QWidget& widget, ImageButton& record) const {
+    const float twips = 1440.0F / static_cast<float>(logicalDpiX());
+    record.Left = static_cast<float>(widget.x()) * twips;
+    record.Top = static_cast<float>(widget.y()) * twips;
+    record.Width = static_cast<float>(widget.width()) * twips;
+    record.Height = static_cast<float>(widget.height()) * twips;
+}
+
 void ToolStrip::Follow() {
     for (const auto& [widget, record] : images_) {
+        KeepPlace(*widget, *record);
         widget->Follow(*record);
     }
     for (const auto& [widget, record] : commands_) {

@@ -23,6 +23,8 @@ public:
     ToolImage(std::string_view controlName, const QString& accessibleName, QWidget* parent);
     void Follow(const ImageButton& record);
     [[nodiscard]] QSize sizeHint() const override { return {34, 34}; }
+    /// The pointer came or went.
+    std::function<void(bool)> Hovered;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -61,18 +63,15 @@ public:
     void Follow();
 
 private:
-    struct Image {
-        ToolImage* Widget;
-        ImageButton MainWindowRecord;
-    };
-    void AddImage(std::string_view name, const QString& accessibleName, const ImageButton& record,
+    void AddImage(std::string_view name, const QString& accessibleName, ImageButton& record,
                   std::function<void()> chosen);
+    void KeepPlace(const QWidget& widget, ImageButton& record) const;
     QPushButton* AddCommand(const QString& name, const CommandButton& record, std::function<void()> chosen);
     void FollowCommand(QPushButton& button, const CommandButton& record);
 
     Program& program_;
     std::function<void()> afterEvent_;
-    std::vector<std::pair<ToolImage*, const ImageButton*>> images_;
+    std::vector<std::pair<ToolImage*, ImageButton*>> images_;
     std::vector<std::pair<QPushButton*, const CommandButton*>> commands_;
     std::array<PageSwitchButton*, kPageCount> pages_{};
     QLabel* lblPage_ = nullptr;

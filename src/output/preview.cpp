@@ -1,10 +1,21 @@
 #include "output/preview.h"
 
+#include "core/errors.h"
 #include "core/program.h"
 #include "document/page_geometry.h"
 #include "document/totals.h"
 
 namespace modPrint {
+
+namespace {
+
+template <typename Fields> void ShowAll(Fields& fields) {
+    for (auto& field : fields) {
+        field.Visible = field.Tag != kHide;
+    }
+}
+
+} // namespace
 
 void TogglePreview(Program& program) {
     MainWindow& main = program.main;
@@ -12,15 +23,35 @@ void TogglePreview(Program& program) {
     main.cmdPreview.Caption = start ? "Resume Editing" : "Print Preview";
     main[CommandId::mnuFilePrintPreview].Enabled = !start;
     main[CommandId::mnuFileResume].Enabled = start;
-    Page& page = program.pages[main.ActivePage];
-    if (start) {
-        program.printing.PrintFormName = geometry::PageName(main.ActivePage);
-        if (main.cmdReCalc.BackColor == colors::kOverLimit) {
-            modTotals::RecalculateAll(program);
-            modTotals::UpdateRunningTotals(program);
-        }
+    if (!start) {
+        ResumeEditing(program, main.ActivePage);
+        return;
     }
-    page.InkShown = start;
+    program.printing.PrintFormName = geometry::PageName(main.ActivePage);
+    if (main.cmdReCalc.BackColor == colors::kOverLimit) {
+        modTotals::RecalculateAll(program);
+        modTotals::UpdateRunningTotals(program);
+    }
+    program.pages[main.ActivePage].InkShown = true;
+}
+
+void ResumeEditing(Program& program, PageId page) {
+    Guarded(program, "ResumeEditing", [&] {
+        Page& record = program.pages[page];
+        record.InkShown = false;
+        ShowAll(record.txt);
+        ShowAll(record.lbl);
+        ShowAll(record.imgNoTax);
+        ShowAll(record.txtQty);
+        ShowAll(record.txtAmt);
+        ShowAll(record.lblAt);
+        ShowAll(record.lblEach);
+        for (PageLine& line : record.lne) {
+            line.Visible = true;
+        }
+        record.pic.Visible =
+            record.HasLogo && record.pic.Tag != kHide && record.pic.Picture.From != PictureRef::Source::None;
+    });
 }
 
 } // namespace modPrint

@@ -1,11 +1,17 @@
 #pragma once
 
+#include "document/page_records.h"
+
 struct Program;
 
 namespace modPrint {
 
-/// Starts or ends the preview of the active page. Nothing of the proposal changes: the fields of the page
-/// keep what they are, the page shows as ink. Runs the totals first when `cmdReCalc` is red.
+/// Starts or ends the preview of the active page. The page shows as ink; its fields keep what they are, so
+/// that totals and files do not notice. Runs the totals first when `cmdReCalc` is red.
 void TogglePreview(Program& program);
+
+/// Ends a preview on a page: the ink goes, every field whose Tag is not "Hide" shows. Reports as
+/// "ResumeEditing".
+void ResumeEditing(Program& program, PageId page);
 
 } // namespace modPrint

@@ -6,7 +6,8 @@
 #include <string_view>
 #include <vector>
 
-/// The current printer's surface. Drawing begins a document if none is under way.
+/// The current printer's surface. Drawing begins a document if none is under way. A new document begins with
+/// ScaleLeft and ScaleTop 0.
 class Printer : public DrawingSurface {
 public:
     virtual void NewPage() = 0;

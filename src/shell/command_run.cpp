@@ -9,9 +9,12 @@
 #include "editing/columns.h"
 #include "output/preview.h"
 #include "output/print.h"
+#include "shell/admin_commands.h"
 #include "shell/closing.h"
 #include "shell/command_table.h"
+#include "shell/small_commands.h"
 
+#include <algorithm>
 #include <array>
 
 namespace commands {
@@ -67,6 +70,7 @@ constexpr std::array kRoutes{
     Route{CommandId::mnuFilePrintPage6_1, PrintPage<PageId::frmP6_1>},
     Route{CommandId::mnuFileExit, modMain::mnuFileExit_Click},
     Route{CommandId::mnuEditTextColumns, modColumns::ToggleColumns},
+    Route{CommandId::mnuEditTextCenter, modMain::mnuEditTextCenter_Click},
     Route{CommandId::mnuEditTextTaxExempt, modColumns::mnuEditTextTaxExempt_Click},
     Route{CommandId::mnuEditTextTaxable, modColumns::mnuEditTextTaxable_Click},
     Route{CommandId::mnuOptSalesTax, ShowTaxRate},
@@ -76,19 +80,62 @@ constexpr std::array kRoutes{
     Route{CommandId::mnuOptUnderline, ToggleUnderline},
     Route{CommandId::mnuToolsRecalculate, modTotals::mnuToolsRecalculate_Click},
     Route{CommandId::mnuAdminCheckAddition, modTotals::mnuAdminCheckAddition_Click},
+    Route{CommandId::mnuOptCurrencySymbol, modMain::mnuOptCurrencySymbol_Click},
+    Route{CommandId::mnuOptSetDefaultFonts, modMain::mnuOptSetDefaultFonts_Click},
+    Route{CommandId::mnuOptEmptyBackup, modMain::mnuOptEmptyBackup_Click},
+    Route{CommandId::mnuToolsCreateShorcut, modMain::mnuToolsCreateShorcut_Click},
+    Route{CommandId::mnuToolsCreateShortcutUM, modMain::mnuToolsCreateShortcutUM_Click},
+    Route{CommandId::mnuAdminDelete, modMain::mnuAdminDelete_Click},
+    Route{CommandId::mnuAdminDebug, modMain::mnuAdminDebug_Click},
+    Route{CommandId::mnuAdminLogon, modMain::mnuAdminLogon_Click},
+    Route{CommandId::mnuToolsAdminShowAllLabels, modMain::mnuToolsAdminShowAllLabels_Click},
+    Route{CommandId::mnuAdminConvert, modMain::mnuAdminConvert_Click},
+    Route{CommandId::mnuSupportUpdates, modMain::mnuSupportUpdates_Click},
+    Route{CommandId::mnuSupportUpgrade, modMain::mnuSupportUpgrade_Click},
+    Route{CommandId::mnuSupportFree, modMain::mnuSupportFree_Click},
+    Route{CommandId::mnuFeedbackReportBug, modMain::mnuFeedbackReportBug_Click},
+    Route{CommandId::mnuFeedbackSuggestions, modMain::mnuFeedbackSuggestions_Click},
+    Route{CommandId::mnuHelpAbout, modMain::mnuHelpAbout_Click},
+    Route{CommandId::mnuHelpTutorial, modMain::mnuHelpTutorial_Click},
+    Route{CommandId::mnuHelpContents, modMain::mnuHelpContents_Click},
+    Route{CommandId::mnuHelpFAQ, modMain::mnuHelpFAQ_Click},
+    Route{CommandId::mnuHelpVersion, modMain::mnuHelpVersion_Click},
 };
+
+constexpr std::array kEditingMenus{CommandId::mnuEditTextBox, CommandId::mnuEditLabel,
+                                   CommandId::mnuEditLogo};
+constexpr std::array kEditingCommands{CommandId::mnuEditAllTextFonts, CommandId::mnuEditTitles,
+                                      CommandId::mnuEditCompInfo, CommandId::mnuEditSpellCheck,
+                                      CommandId::mnuManageEditor};
+
+template <typename List> bool Holds(const List& list, CommandId id) {
+    return std::find(list.begin(), list.end(), id) != list.end();
+}
+
+/// Commands that change what stands on a page wait until the preview has ended.
+bool RefusedInPreview(const Program& program, CommandId id) {
+    return program.main.cmdPreview.Caption == "Resume Editing" &&
+           (Holds(kEditingMenus, Find(id).Parent) || Holds(kEditingCommands, id));
+}
 
 } // namespace
 
 void Run(Program& program, CommandId id) {
+    // A shortcut must not act on the state of a field that has been left meanwhile.
+    if (Find(id).Parent == CommandId::mnuEditTextBox && program.hooks.UpdateTextMenu) {
+        program.hooks.UpdateTextMenu(program);
+    }
     if (!IsAvailable(program, id) || !program.main[id].Visible) {
         return;
     }
-    for (const Route& route : kRoutes) {
-        if (route.Id == id) {
-            route.Run(program);
-            return;
-        }
+    if (RefusedInPreview(program, id)) {
+        program.platform.questions.MsgBox("Please click \"Resume Editing\" first.", Buttons::Ok, "");
+        return;
+    }
+    const auto* const route =
+        std::find_if(kRoutes.begin(), kRoutes.end(), [id](const Route& one) { return one.Id == id; });
+    if (route != kRoutes.end()) {
+        route->Run(program);
     }
 }
 

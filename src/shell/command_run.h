@@ -6,7 +6,8 @@ struct Program;
 
 namespace commands {
 
-/// Runs a command as its menu entry does. A disabled or invisible one does nothing.
+/// Runs a command as its menu entry does. A disabled or invisible one does nothing, nor does one whose room
+/// is not built. While a preview is up, commands that edit the page refuse with a message.
 void Run(Program& program, CommandId id);
 
 } // namespace commands

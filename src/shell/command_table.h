@@ -11,7 +11,8 @@ struct Program;
 namespace commands {
 
 enum class Kind { Menu, Item, Separator };
-/// Pending: the command's room is not built yet; its entry is disabled and its status tip says so.
+/// Pending: the command's room is not built yet. Its state is kept like any other's, but it is never
+/// available, and its status tip says so.
 enum class Built { Yes, Pending };
 
 struct Entry {

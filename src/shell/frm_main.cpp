@@ -6,6 +6,7 @@
 #include "output/preview.h"
 #include "shell/command_run.h"
 #include "shell/page_switch.h"
+#include "shell/tool_buttons.h"
 
 void frmMain::cmdClearMem_Click() {
     commands::Run(program_, CommandId::mnuEditTextDeselect);
@@ -23,18 +24,27 @@ void frmMain::cmdTaxRate_Click() {
     commands::Run(program_, CommandId::mnuOptSalesTax);
 }
 
+void frmMain::lblDir_MouseMove() {
+    program_.main.lblDir.ToolTipText = program_.main.lblDir.Caption;
+}
+
 // Wanted: this button shows its pressed look and starts nothing; a new proposal starts from the menu.
-void frmMain::imgNew_MouseDown() {}
+void frmMain::imgNew_MouseDown() {
+    modMain::PressToolButton(program_, program_.main.imgNew);
+}
 
 void frmMain::imgOpen_MouseDown() {
+    modMain::PressToolButton(program_, program_.main.imgOpen);
     commands::Run(program_, CommandId::mnuFileOpenEvent);
 }
 
 void frmMain::imgFootNotes_MouseDown() {
+    modMain::PressToolButton(program_, program_.main.imgFootNotes);
     commands::Run(program_, CommandId::mnuFileOpenFootnotes);
 }
 
 void frmMain::imgPrint_Click() {
+    modMain::PressToolButton(program_, program_.main.imgPrint);
     commands::Run(program_, CommandId::mnuFilePrintAll);
 }
 

@@ -20,6 +20,8 @@ public:
     void imgSearch_Click();
     void imgSpellCheck_Click();
     void imgPage_Click(int index);
+    /// A long folder stays readable in the tip.
+    void lblDir_MouseMove();
 
 private:
     Program& program_;

@@ -10,6 +10,9 @@
 #include "editing/text_areas.h"
 #include "shell/page_switch.h"
 
+#include <functional>
+#include <optional>
+
 namespace modInput {
 
 namespace {
@@ -21,11 +24,35 @@ bool IsText(const FieldRef& field) {
     return field.Kind == FieldKind::txt;
 }
 
+/// The field that takes keys; none while its page is only shown as ink.
+std::optional<FieldRef> TypingField(const Program& program) {
+    const std::optional<FieldRef>& focus = program.main.Focus;
+    return focus && program.pages[focus->Page].InkShown ? std::nullopt : focus;
+}
+
+void Call(const std::function<void(Program&, int)>& hook, Program& program, int keyCode) {
+    if (hook) {
+        hook(program, keyCode);
+    }
+}
+
 /// The page's own keys come before the field's.
 Taken Form_KeyDown(Program& program, int keyCode) {
     if (keyCode == keys::kPageUp || keyCode == keys::kPageDown) {
         modScroll::PageKey(program, keyCode);
         return Taken::Yes;
+    }
+    const std::optional<FieldRef> field = TypingField(program);
+    if (!field || !IsLinePage(field->Page)) {
+        return Taken::No;
+    }
+    if (program.editing.BlockMode && (keyCode == keys::kUp || keyCode == keys::kDown)) {
+        // The block moves; the focus stays where it is.
+        Call(program.hooks.MoveBlock, program, keyCode);
+        return Taken::Yes;
+    }
+    if (keyCode == keys::kF5 || keyCode == keys::kF6) {
+        Call(program.hooks.TermsKey, program, keyCode);
     }
     return Taken::No;
 }
@@ -44,19 +71,21 @@ Taken KeyDown(Program& program, int keyCode, int shift, int selStart, int selLen
     if (Form_KeyDown(program, keyCode) == Taken::Yes) {
         return Taken::Yes;
     }
-    if (!program.main.Focus) {
+    const std::optional<FieldRef> focus = TypingField(program);
+    if (!focus) {
         return Taken::No;
     }
-    const FieldRef field = *program.main.Focus;
+    const FieldRef field = *focus;
     return IsText(field) ? modText::txt_KeyDown(program, field.Page, field.Index, keyCode, shift)
                          : modColumns::Box_KeyDown(program, field, keyCode, shift);
 }
 
 int KeyPress(Program& program, int keyAscii) {
-    if (!program.main.Focus) {
+    const std::optional<FieldRef> focus = TypingField(program);
+    if (!focus) {
         return 0;
     }
-    const FieldRef field = *program.main.Focus;
+    const FieldRef field = *focus;
     int kept = keyAscii;
     if (IsText(field)) {
         modText::txt_KeyPress(program, field.Page, field.Index, kept);
@@ -124,10 +153,11 @@ void CursorMoved(Program& program, const FieldRef& field, int selStart, int selL
 }
 
 void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength) {
-    if (!program.main.Focus) {
+    const std::optional<FieldRef> focus = TypingField(program);
+    if (!focus) {
         return;
     }
-    const FieldRef field = *program.main.Focus;
+    const FieldRef field = *focus;
     PutCursor(program, field, selStart, selLength);
     if (IsText(field)) {
         modText::txt_KeyUp(program, field.Page, field.Index, keyCode, shift);

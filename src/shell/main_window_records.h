@@ -63,7 +63,8 @@ struct MainWindow {
     bool ToolButtonPressed = false;
     float WindowHeightRatio = 0;
     int ScrollClientHeight = 0;
-    std::string AdminPassword; ///< nothing assigns it
+    std::string AdminPassword;    ///< nothing assigns it
+    bool ConversionAsked = false; ///< of the final page's texts; nothing reads it
 
     /// The field that has the keyboard; none when it is elsewhere in the main window.
     std::optional<FieldRef> Focus;

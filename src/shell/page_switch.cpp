@@ -2,11 +2,13 @@
 
 #include "core/errors.h"
 #include "core/program.h"
+#include "core/windows.h"
 #include "document/page_geometry.h"
 #include "document/page_setup.h"
+#include "output/preview.h"
 
 #include <algorithm>
-#include <cmath>
+#include <string_view>
 
 namespace modScroll {
 
@@ -15,13 +17,21 @@ namespace {
 constexpr int kPageHeight = 15840;
 constexpr int kPageUp = 33;
 constexpr int kPageDown = 34;
+constexpr int kWideScreen = 1024;
 
-void RefreshButtons(Program& program, int pageIndex) {
-    MainWindow& main = program.main;
-    for (ImageButton& button : main.imgPage) {
-        button.Picture = 0;
+/// The floating windows go with the main window, and come back with a large one.
+void FollowMainWindow(Program& program) {
+    for (const std::string_view name : {"frmFUT", "frmCalc"}) {
+        Window* window = modWindows::Find(program, name);
+        if (window == nullptr) {
+            continue;
+        }
+        if (program.main.State == WindowState::Minimised) {
+            window->Minimised = true;
+        } else if (program.main.State == WindowState::Maximised) {
+            window->Minimised = false;
+        }
     }
-    main.imgPage[static_cast<std::size_t>(pageIndex)].Picture = 1;
 }
 
 void TakePage(Program& program, PageId page) {
@@ -31,7 +41,8 @@ void TakePage(Program& program, PageId page) {
         main.ActivePage = page;
         main.CurrentPage = IndexOf(page);
     }
-    modPages::ShowPage(program, page);
+    // A page that fails to refresh still comes to the front.
+    Guarded(program, "UpdatePageButtons", [&] { modPages::ShowPage(program, page); });
     main.ActivePageName = geometry::PageName(page);
     main.LastTextIndex = geometry::LastText(page);
     main.LastLabelIndex = geometry::LastLabel(page);
@@ -43,7 +54,7 @@ void UpdatePageButtons(Program& program, int pageIndex) {
     MainWindow& main = program.main;
     if (!program.guards.StartingUp && main.cmdPreview.Caption == "Resume Editing") {
         main.cmdPreview.Caption = "Print Preview";
-        ResumeEditing(program, main.ActivePage);
+        modPrint::ResumeEditing(program, main.ActivePage);
     }
     for (ImageButton& button : main.imgPage) {
         button.Picture = 0;
@@ -59,25 +70,15 @@ void UpdatePageButtons(Program& program, int pageIndex) {
         return;
     }
     const PageId page = PageAt(pageIndex);
-    // A page that fails to refresh still comes to the front.
-    Guarded(program, "UpdatePageButtons", [&] {
-        RefreshButtons(program, pageIndex);
-        ReAdjustScrollBar(program, page);
-        TakePage(program, page);
-        for (const CommandId id : {CommandId::mnuEditLabelProps, CommandId::mnuEditLabelSelectAll,
-                                   CommandId::mnuEditLabelDeselectAll}) {
-            main[id].Enabled = false; // their room is not built yet
-        }
-    });
+    main.imgPage[static_cast<std::size_t>(pageIndex)].Picture = 1;
+    ReAdjustScrollBar(program, page);
+    TakePage(program, page);
+    for (const CommandId id : {CommandId::mnuEditLabelProps, CommandId::mnuEditLabelSelectAll,
+                               CommandId::mnuEditLabelDeselectAll}) {
+        main[id].Enabled = page != PageId::frmP6_1;
+    }
     program.pages[page].Visible = true;
     main.PageInFront = page;
-}
-
-void ResumeEditing(Program& program, PageId page) {
-    Guarded(program, "ResumeEditing", [&] {
-        program.pages[page].InkShown = false;
-        modPages::ShowPage(program, page);
-    });
 }
 
 void ReAdjustScrollBar(Program& program, PageId page) {
@@ -99,7 +100,6 @@ void ReAdjustScrollBar(Program& program, PageId page) {
         bar.LargeChange = std::max(1, main.ScrollClientHeight);
         bar.SmallChange = std::max(1, main.ScrollClientHeight / 2);
         bar.Value = std::clamp(bar.Value, bar.Min, bar.Max);
-        record.Top = -static_cast<float>(bar.Value);
     });
 }
 
@@ -137,15 +137,17 @@ void PageKey(Program& program, int keyCode) {
 
 void MDIForm_Resize(Program& program) {
     MainWindow& main = program.main;
-    if (main.State == WindowState::Minimised) {
-        return;
+    if (main.State != WindowState::Minimised) {
+        main.WindowHeightRatio = main.ClientHeight / static_cast<float>(kPageHeight);
+        Page& fitted = program.pages[PageId::frmP1];
+        const bool preview = fitted.InkShown;
+        ReAdjustScrollBar(program, PageId::frmP1);
+        fitted.InkShown = preview;
+        program.pages[main.PageInFront].Top = -static_cast<float>(main.VScroll1.Value);
     }
-    main.WindowHeightRatio = main.ClientHeight / static_cast<float>(kPageHeight);
-    const int before = main.VScroll1.Value;
-    ReAdjustScrollBar(program, PageId::frmP1);
-    // The bar was fitted for the first page; the page in front stays where the person had it.
-    main.VScroll1.Value = std::clamp(before, main.VScroll1.Min, main.VScroll1.Max);
-    program.pages[main.PageInFront].Top = -static_cast<float>(main.VScroll1.Value);
+    if (program.platform.screen.WidthInPixels() >= kWideScreen) {
+        FollowMainWindow(program);
+    }
 }
 
 } // namespace modScroll

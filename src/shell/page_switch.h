@@ -9,10 +9,8 @@ namespace modScroll {
 /// Brings a page to the front, 0 to 6: the single way to change the page. Reports as "UpdatePageButtons".
 void UpdatePageButtons(Program& program, int pageIndex);
 
-/// Ends a preview on a page. Reports as "ResumeEditing".
-void ResumeEditing(Program& program, PageId page);
-
-/// Fits scroll bar and page to the main window. Reports as "ReAdjustScrollBar".
+/// Fits scroll bar and page to the main window: the page at its top, without preview. Reports as
+/// "ReAdjustScrollBar".
 void ReAdjustScrollBar(Program& program, PageId page);
 
 /// Page Up (33) and Page Down (34); other keys leave the position alone.
@@ -22,6 +20,9 @@ void PageKey(Program& program, int keyCode);
 void SetScroll(Program& program, int value);
 void VScroll1_Change(Program& program);
 
+/// The main window has a new size or state. Fits frmP1, whichever page is in front; that one stays where the
+/// person had it, preview and all. The floating windows are minimised with the main window and come back
+/// when it is maximised.
 void MDIForm_Resize(Program& program);
 
 } // namespace modScroll

@@ -121,6 +121,8 @@ void RecordingPrinter::PaintPicture(const PictureRef& picture, float x, float y,
 
 void RecordingPrinter::EndDoc() {
     Add(DrawCall::What::EndDoc);
+    ScaleLeft = 0;
+    ScaleTop = 0;
     if (OnEndDoc) {
         OnEndDoc();
     }

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "core/controls.h"
+
+struct Program;
+
+/// The frames of the tool strip's image buttons: raised under the pointer, sunken while pressed. The button's
+/// record tells its place in the strip.
+namespace modMain {
+
+/// The pointer is over a button. Nothing while one is pressed.
+void HoverToolButton(Program& program, const ImageButton& button);
+void PressToolButton(Program& program, const ImageButton& button);
+/// The button was let go: both frames are hidden.
+void ReleaseToolButton(Program& program);
+/// The pointer is over the strip itself: the raised frame is hidden.
+void LeaveToolButton(Program& program);
+/// Hides both frames.
+void ClearButtonBorders(Program& program);
+
+} // namespace modMain

@@ -1,0 +1,111 @@
+#include "output/page_count.h"
+
+#include "core/program.h"
+#include "support/running_program.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+void SetLine(RunningProgram& run, PageId page, int index, std::string text) {
+    run.program.document
+        .CurrentTextBuf[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)] =
+        std::move(text);
+}
+
+TEST(PagesInUse, IsTheHighestPageWithALineAndTheFinalPage) {
+    for (int page = 0; page < kLinePageCount; ++page) {
+        RunningProgram run;
+        SetLine(run, PageAt(page), 3, "Tent");
+        modPrint::CountPagesInUse(run.program);
+        EXPECT_EQ(run.program.document.PagesInUse, page + 2);
+    }
+}
+
+TEST(PagesInUse, CountsAnEmptyPageBetweenUsedOnes) {
+    RunningProgram run;
+    SetLine(run, PageId::frmP1, 2, "Jane");
+    SetLine(run, PageId::frmP3, 65, "5.00");
+    modPrint::CountPagesInUse(run.program);
+    EXPECT_EQ(run.program.document.PagesInUse, 4);
+}
+
+TEST(PagesInUse, StaysWhenNoPageHasALine) {
+    RunningProgram run;
+    run.program.document.PagesInUse = 4;
+    modPrint::CountPagesInUse(run.program);
+    EXPECT_EQ(run.program.document.PagesInUse, 4);
+}
+
+TEST(PagesInUse, TakesBlanksForNoLine) {
+    RunningProgram run;
+    run.program.document.PagesInUse = 6;
+    SetLine(run, PageId::frmP1, 0, "x");
+    SetLine(run, PageId::frmP5, 0, "   ");
+    modPrint::CountPagesInUse(run.program);
+    EXPECT_EQ(run.program.document.PagesInUse, 2);
+}
+
+TEST(PagesInUse, GoesByTheTextsOnThePagesAndNotByThoseLastSaved) {
+    RunningProgram run;
+    run.program.document.SavedTextBuf[4][0] = "saved long ago";
+    SetLine(run, PageId::frmP2, 0, "now");
+    modPrint::CountPagesInUse(run.program);
+    EXPECT_EQ(run.program.document.PagesInUse, 3);
+}
+
+class PageNumbers : public testing::TestWithParam<int> {};
+
+TEST_P(PageNumbers, StandOnEveryPage) {
+    const int used = GetParam();
+    const std::string of = " of " + std::to_string(used);
+    RunningProgram run;
+    run.program.document.PagesInUse = used;
+    run.program.document.PageHeading = "Acme - ";
+    const std::string continued = run.Label(PageId::frmP2, 35).Caption;
+    modPrint::SetPageNumbers(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1" + of);
+    EXPECT_EQ(run.Label(PageId::frmP2, 34).Caption, "Page 2" + of);
+    EXPECT_EQ(run.Label(PageId::frmP3, 34).Caption, "Page 3" + of);
+    EXPECT_EQ(run.Label(PageId::frmP4, 34).Caption, "Page 4" + of);
+    EXPECT_EQ(run.Label(PageId::frmP5, 34).Caption, "Page 5" + of) << "also beyond the last page in use";
+    const std::string last = "Page " + std::to_string(used);
+    for (const PageId page : {PageId::frmP6, PageId::frmP6_1}) {
+        EXPECT_EQ(run.Label(page, 63).Caption, last + of);
+        EXPECT_EQ(run.Label(page, 0).Caption, "Acme - " + last);
+    }
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Acme - Page 2");
+    EXPECT_EQ(run.Label(PageId::frmP5, 0).Caption, "Acme - Page 5");
+    EXPECT_EQ(run.Label(PageId::frmP2, 35).Caption, continued);
+    EXPECT_EQ(run.program.main.lblHighestPage.Caption,
+              "Utilizing " + std::to_string(used) + " of 6 Available Pages");
+}
+
+INSTANTIATE_TEST_SUITE_P(TwoToSix, PageNumbers, testing::Values(2, 3, 4, 5, 6));
+
+/// "Acme - Page 2" has 13 characters of 100 twips: 6120 - 650.
+TEST(Headings, AreCentredAndKeptWithTheProposal) {
+    RunningProgram run;
+    run.program.document.PageHeading = "Acme - ";
+    modPrint::SetPageNumbers(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Left, 5470);
+    const LabelChangeRecord& kept = run.program.format.PropLabelChanges[1][0];
+    EXPECT_TRUE(kept.Changed);
+    EXPECT_EQ(kept.Caption, "Acme - Page 2");
+    EXPECT_EQ(kept.Left, 5470);
+    EXPECT_EQ(kept.Top, run.Label(PageId::frmP2, 0).Top);
+    EXPECT_EQ(kept.FontName, run.Label(PageId::frmP2, 0).FontName);
+}
+
+TEST(Footers, SayOfSixUntilAPrintCommandHasRun) {
+    RunningProgram run;
+    SetLine(run, PageId::frmP1, 2, "Jane");
+    modPrint::CountPagesInUse(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 6");
+    EXPECT_EQ(run.Label(PageId::frmP6, 63).Caption, "Page 6 of 6");
+    modPrint::SetPageNumbers(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 2");
+    EXPECT_EQ(run.Label(PageId::frmP6, 63).Caption, "Page 2 of 2");
+}
+
+} // namespace

@@ -1,0 +1,131 @@
+#include "output/preview.h"
+
+#include "core/program.h"
+#include "shell/command_run.h"
+#include "shell/frm_main.h"
+#include "shell/page_switch.h"
+#include "support/running_program.h"
+#include "support/typist.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(Preview, FlipsTheCaptionAndTheTwoEntriesAreOpposite) {
+    RunningProgram run;
+    MainWindow& main = run.program.main;
+    EXPECT_TRUE(main[CommandId::mnuFilePrintPreview].Enabled);
+    EXPECT_FALSE(main[CommandId::mnuFileResume].Enabled);
+    commands::Run(run.program, CommandId::mnuFilePrintPreview);
+    EXPECT_EQ(main.cmdPreview.Caption, "Resume Editing");
+    EXPECT_FALSE(main[CommandId::mnuFilePrintPreview].Enabled);
+    EXPECT_TRUE(main[CommandId::mnuFileResume].Enabled);
+    EXPECT_TRUE(run.program.pages[PageId::frmP1].InkShown);
+    EXPECT_EQ(run.program.printing.PrintFormName, "frmP1");
+    commands::Run(run.program, CommandId::mnuFileResume);
+    EXPECT_EQ(main.cmdPreview.Caption, "Print Preview");
+    EXPECT_TRUE(main[CommandId::mnuFilePrintPreview].Enabled);
+    EXPECT_FALSE(main[CommandId::mnuFileResume].Enabled);
+    EXPECT_FALSE(run.program.pages[PageId::frmP1].InkShown);
+}
+
+TEST(Preview, ChangesNothingOfTheProposal) {
+    RunningProgram run;
+    TypeJaneRoe(run);
+    modScroll::UpdatePageButtons(run.program, 1);
+    const Page before = run.program.pages[PageId::frmP2];
+    const float total = run.program.totals.Total;
+    frmMain(run.program).cmdPreview_Click();
+    frmMain(run.program).cmdPreview_Click();
+    const Page& after = run.program.pages[PageId::frmP2];
+    EXPECT_EQ(after.txt, before.txt);
+    EXPECT_EQ(after.lbl, before.lbl);
+    EXPECT_EQ(after.imgNoTax, before.imgNoTax);
+    EXPECT_EQ(after.txtQty, before.txtQty);
+    EXPECT_EQ(after.txtAmt, before.txtAmt);
+    EXPECT_EQ(after.lblAt, before.lblAt);
+    EXPECT_EQ(after.lblEach, before.lblEach);
+    EXPECT_EQ(after.lne, before.lne);
+    EXPECT_EQ(after.pic, before.pic);
+    EXPECT_EQ(run.program.totals.Total, total);
+}
+
+TEST(Preview, ResumingShowsWhatIsNotTaggedHide) {
+    RunningProgram run;
+    run.Label(PageId::frmP1, 9).Visible = false;
+    run.Label(PageId::frmP1, 10).Visible = true;
+    run.Label(PageId::frmP1, 10).Tag = kHide;
+    modPrint::TogglePreview(run.program);
+    modPrint::TogglePreview(run.program);
+    EXPECT_TRUE(run.Label(PageId::frmP1, 9).Visible);
+    EXPECT_FALSE(run.Label(PageId::frmP1, 10).Visible);
+}
+
+TEST(Preview, EndsWhenAPageIsChosen) {
+    RunningProgram run;
+    modPrint::TogglePreview(run.program);
+    modScroll::UpdatePageButtons(run.program, 3);
+    EXPECT_EQ(run.program.main.cmdPreview.Caption, "Print Preview");
+    EXPECT_FALSE(run.program.pages[PageId::frmP1].InkShown);
+    EXPECT_FALSE(run.program.pages[PageId::frmP4].InkShown);
+    EXPECT_FALSE(run.program.main[CommandId::mnuFileResume].Enabled);
+}
+
+TEST(Preview, OfTheClientsCopyDrawsThePageShownBeforeIt) {
+    RunningProgram run;
+    modScroll::UpdatePageButtons(run.program, 2);
+    modScroll::UpdatePageButtons(run.program, 6);
+    modPrint::TogglePreview(run.program);
+    EXPECT_TRUE(run.program.pages[PageId::frmP3].InkShown);
+    EXPECT_FALSE(run.program.pages[PageId::frmP6_1].InkShown);
+}
+
+TEST(Preview, StaysWhenTheWindowChangesItsSize) {
+    RunningProgram run;
+    modPrint::TogglePreview(run.program);
+    run.program.main.ClientHeight = 7000;
+    modScroll::MDIForm_Resize(run.program);
+    EXPECT_TRUE(run.program.pages[PageId::frmP1].InkShown);
+}
+
+TEST(Preview, TakesNoCharacters) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    modPrint::TogglePreview(run.program);
+    typist.Type("Jane");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "");
+    modPrint::TogglePreview(run.program);
+    typist.Type("Jane");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane");
+}
+
+TEST(Preview, RefusesTheCommandsThatEditThePage) {
+    RunningProgram run;
+    Typist typist(run.program);
+    modScroll::UpdatePageButtons(run.program, 1);
+    typist.Click(PageId::frmP2, 0);
+    modPrint::TogglePreview(run.program);
+    run.surroundings.questions.ExpectBox({"Please click \"Resume Editing\" first.", Buttons::Ok, ""},
+                                         Answer::Ok);
+    commands::Run(run.program, CommandId::mnuEditTextColumns);
+    run.surroundings.questions.Done();
+    EXPECT_EQ(run.Area(PageId::frmP2, 0).Width, 8640);
+    commands::Run(run.program, CommandId::mnuFilePrintPage2);
+    EXPECT_EQ(run.surroundings.printers.Named.size(), 1U) << "printing goes on";
+}
+
+TEST(Preview, BringsTheTotalsUpToDateWhenTheButtonIsRed) {
+    RunningProgram run;
+    Typist typist(run.program);
+    modScroll::UpdatePageButtons(run.program, 1);
+    typist.Click(PageId::frmP2, 33);
+    typist.Type("20");
+    typist.Click(PageId::frmP2, 0);
+    run.Area(PageId::frmP6, 0).Text = "stale";
+    run.program.main.cmdReCalc.BackColor = colors::kOverLimit;
+    modPrint::TogglePreview(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "20.00");
+}
+
+} // namespace

@@ -1,0 +1,135 @@
+#include "shell/input.h"
+
+#include "core/program.h"
+#include "document/fields.h"
+#include "editing/keys.h"
+#include "shell/page_switch.h"
+#include "support/running_program.h"
+#include "support/typist.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using modInput::KeyDown;
+
+TEST(Keys, PutTheCursorIntoTheRecordFirst) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Jane");
+    EXPECT_EQ(KeyDown(run.program, keys::kShift, keys::kShiftState, 1, 2), Taken::No);
+    EXPECT_EQ(run.Area(PageId::frmP1, 2).SelStart, 1);
+    EXPECT_EQ(run.Area(PageId::frmP1, 2).SelLength, 2);
+}
+
+TEST(Keys, PageKeysScrollEveryPageAndDoNotReachTheField) {
+    for (int index = 0; index < kEditedPageCount; ++index) {
+        RunningProgram run;
+        modScroll::UpdatePageButtons(run.program, index);
+        modFields::GiveFocus(run.program, {PageAt(index), FieldKind::txt, 0});
+        const int before = run.program.editing.KeyCounter;
+        EXPECT_EQ(KeyDown(run.program, keys::kPageDown, 0, 0, 0), Taken::Yes);
+        EXPECT_GT(run.program.main.VScroll1.Value, 0);
+        EXPECT_EQ(run.program.editing.KeyCounter, before);
+    }
+}
+
+TEST(Keys, PageKeysWorkWithoutAFocus) {
+    RunningProgram run;
+    modFields::DropFocus(run.program);
+    EXPECT_EQ(KeyDown(run.program, keys::kPageDown, 0, 0, 0), Taken::Yes);
+    EXPECT_EQ(run.program.main.VScroll1.Value, 6870) << "2 x 9000 reaches 15870";
+    EXPECT_EQ(KeyDown(run.program, keys::kEnter, 0, 0, 0), Taken::No);
+    EXPECT_EQ(modInput::KeyPress(run.program, 'x'), 0);
+}
+
+TEST(Keys, UpAndDownMoveTheBlockWhileAreasAreSelected) {
+    RunningProgram run;
+    Typist typist(run.program);
+    modScroll::UpdatePageButtons(run.program, 1);
+    typist.Click(PageId::frmP2, 5);
+    std::vector<int> moved;
+    run.program.hooks.MoveBlock = [&](Program&, int key) { moved.push_back(key); };
+    run.program.editing.BlockMode = true;
+    EXPECT_EQ(KeyDown(run.program, keys::kDown, 0, 0, 0), Taken::Yes);
+    EXPECT_EQ(KeyDown(run.program, keys::kUp, 0, 0, 0), Taken::Yes);
+    EXPECT_EQ(moved, (std::vector<int>{40, 38}));
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP2, FieldKind::txt, 5}));
+}
+
+TEST(Keys, UpAndDownMoveTheFocusOtherwise) {
+    RunningProgram run;
+    Typist typist(run.program);
+    modScroll::UpdatePageButtons(run.program, 1);
+    typist.Click(PageId::frmP2, 5);
+    bool moved = false;
+    run.program.hooks.MoveBlock = [&](Program&, int) { moved = true; };
+    EXPECT_EQ(KeyDown(run.program, keys::kDown, 0, 0, 0), Taken::Yes);
+    EXPECT_FALSE(moved);
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP2, FieldKind::txt, 6}));
+}
+
+TEST(Keys, TermsKeysAreHeardOnLinePagesOnlyAndReachTheFieldToo) {
+    RunningProgram run;
+    std::vector<int> heard;
+    run.program.hooks.TermsKey = [&](Program&, int key) { heard.push_back(key); };
+    modScroll::UpdatePageButtons(run.program, 1);
+    modFields::GiveFocus(run.program, {PageId::frmP2, FieldKind::txt, 0});
+    const int before = run.program.editing.KeyCounter;
+    static_cast<void>(KeyDown(run.program, keys::kF5, 0, 0, 0));
+    static_cast<void>(KeyDown(run.program, keys::kF6, 0, 0, 0));
+    EXPECT_EQ(heard, (std::vector<int>{116, 117}));
+    EXPECT_EQ(run.program.editing.KeyCounter, before + 2);
+    modScroll::UpdatePageButtons(run.program, 5);
+    modFields::GiveFocus(run.program, {PageId::frmP6, FieldKind::txt, 0});
+    static_cast<void>(KeyDown(run.program, keys::kF5, 0, 0, 0));
+    EXPECT_EQ(heard.size(), 2U);
+}
+
+TEST(Keys, ACharacterGoesToTheFieldThatHasTheFocusAfterTheKey) {
+    RunningProgram run;
+    Typist typist(run.program);
+    modScroll::UpdatePageButtons(run.program, 1);
+    typist.Click(PageId::frmP2, 33);
+    EXPECT_EQ(modInput::KeyPress(run.program, 'x'), 0) << "amounts take no letters";
+    EXPECT_EQ(modInput::KeyPress(run.program, '7'), '7');
+    typist.Click(PageId::frmP2, 0);
+    EXPECT_EQ(modInput::KeyPress(run.program, 'x'), 'x');
+}
+
+TEST(Mouse, AClickFocusesAndKeepsTheCursorOfTheWidget) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Jane Roe");
+    typist.Click(PageId::frmP1, 3);
+    modInput::FieldMouseDown(run.program, {PageId::frmP1, FieldKind::txt, 2}, 1, 0, 4, 0);
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 2}));
+    EXPECT_EQ(run.Area(PageId::frmP1, 2).SelStart, 4);
+}
+
+TEST(Mouse, TextFromOutsideReplacesTheSelection) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Jane Roe");
+    typist.PutCursor(5, 3);
+    modInput::Insert(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Doe", 1, modInput::By::Mouse);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Doe");
+    EXPECT_EQ(run.program.main.Notice, "One character was not taken: it cannot be kept in a proposal.");
+}
+
+TEST(Mouse, AnAmountTakesANumberFromOutsideWholeOrNotAtAll) {
+    RunningProgram run;
+    Typist typist(run.program);
+    modScroll::UpdatePageButtons(run.program, 1);
+    const FieldRef amount{PageId::frmP2, FieldKind::txt, 33};
+    typist.Click(amount);
+    modInput::Insert(run.program, amount, "12 chairs", 0, modInput::By::Mouse);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "");
+    modInput::Insert(run.program, amount, " 12.50 ", 0, modInput::By::Mouse);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "12.50");
+}
+
+} // namespace

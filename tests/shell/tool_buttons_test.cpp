@@ -1,0 +1,77 @@
+#include "shell/tool_buttons.h"
+
+#include "core/program.h"
+#include "shell/frm_main.h"
+#include "support/running_program.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Strip : RunningProgram {
+    Strip() {
+        ImageButton& button = program.main.imgNew;
+        button.Left = 1000;
+        button.Top = 100;
+        button.Width = 510;
+        button.Height = 480;
+    }
+    MainWindow& Main() { return program.main; }
+};
+
+void ExpectFrame(const MainWindow& main, std::size_t frame, bool visible) {
+    for (const auto* lines : {&main.lneLeft, &main.lneRight, &main.lneTop, &main.lneBottom}) {
+        EXPECT_EQ((*lines)[frame].Visible, visible);
+    }
+}
+
+TEST(ToolButtons, AHoveredOneHasARaisedFrameThirtyOutside) {
+    Strip run;
+    modMain::HoverToolButton(run.program, run.Main().imgNew);
+    EXPECT_EQ(run.Main().lneLeft[0], (FrameLine{970, 70, 970, 610, true}));
+    EXPECT_EQ(run.Main().lneRight[0], (FrameLine{1540, 70, 1540, 610, true}));
+    EXPECT_EQ(run.Main().lneTop[0], (FrameLine{970, 70, 1270, 70, true})) << "300 long, whatever the width";
+    EXPECT_EQ(run.Main().lneBottom[0], (FrameLine{970, 610, 1270, 610, true}));
+    ExpectFrame(run.Main(), 1, false);
+}
+
+TEST(ToolButtons, APressedOneHasASunkenFrameUntilItIsLetGo) {
+    Strip run;
+    modMain::HoverToolButton(run.program, run.Main().imgNew);
+    modMain::PressToolButton(run.program, run.Main().imgNew);
+    ExpectFrame(run.Main(), 0, false);
+    ExpectFrame(run.Main(), 1, true);
+    EXPECT_EQ(run.Main().lneTop[1], (FrameLine{970, 70, 1270, 70, true}));
+    modMain::HoverToolButton(run.program, run.Main().imgOpen);
+    ExpectFrame(run.Main(), 0, false);
+    ExpectFrame(run.Main(), 1, true);
+    modMain::ReleaseToolButton(run.program);
+    ExpectFrame(run.Main(), 1, false);
+    EXPECT_FALSE(run.Main().ToolButtonPressed);
+}
+
+TEST(ToolButtons, TheRaisedFrameGoesWithThePointer) {
+    Strip run;
+    modMain::HoverToolButton(run.program, run.Main().imgNew);
+    modMain::LeaveToolButton(run.program);
+    ExpectFrame(run.Main(), 0, false);
+}
+
+TEST(ToolButtons, NewShowsItsPressedLookAndStartsNothing) {
+    Strip run;
+    run.Area(PageId::frmP1, 2).Text = "Jane Roe";
+    frmMain(run.program).imgNew_MouseDown();
+    EXPECT_TRUE(run.Main().ToolButtonPressed);
+    ExpectFrame(run.Main(), 1, true);
+    EXPECT_TRUE(run.surroundings.questions.Shown.empty());
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
+}
+
+TEST(FolderLine, ShowsItselfInItsTip) {
+    Strip run;
+    run.Main().lblDir.Caption = "Current Folder = /home/acme/";
+    frmMain(run.program).lblDir_MouseMove();
+    EXPECT_EQ(run.Main().lblDir.ToolTipText, "Current Folder = /home/acme/");
+}
+
+} // namespace
