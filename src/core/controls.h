@@ -67,6 +67,7 @@ struct OptionButton {
 struct ListBox {
     std::vector<std::string> Items;
     int ListIndex = -1;
+    std::string Placeholder; ///< what a combo box shows while nothing is selected
     bool Enabled = true;
     bool Visible = true;
     bool operator==(const ListBox&) const = default;

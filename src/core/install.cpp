@@ -32,6 +32,27 @@ void MakeAll(const std::string& folder) {
     }
 }
 
+/// The folder is filled under another name first: a copy that broke off must not pass for an installation at
+/// the next start.
+void Fill(const Places& places) {
+    std::string folder = places.UserData;
+    while (folder.size() > 1 && paths::IsSeparator(folder.back())) {
+        folder.pop_back();
+    }
+    const std::string unfinished = folder + ".unfinished";
+    std::error_code ignored;
+    std::filesystem::remove_all(ansi::ToUtf8(unfinished), ignored);
+    MakeAll(unfinished);
+    if (files::IsFolder(places.Shipped)) {
+        CopyTree(places.Shipped, unfinished);
+    }
+    std::error_code failed;
+    std::filesystem::rename(ansi::ToUtf8(unfinished), ansi::ToUtf8(folder), failed);
+    if (failed) {
+        throw files::FileError(files::kPathAccess, "Path/File access error: " + folder);
+    }
+}
+
 } // namespace
 
 std::string Locate(const Places& places) {
@@ -40,10 +61,7 @@ std::string Locate(const Places& places) {
         return places.Executable;
     }
     if (!files::IsFolder(places.UserData)) {
-        MakeAll(places.UserData);
-        if (files::IsFolder(places.Shipped)) {
-            CopyTree(places.Shipped, places.UserData);
-        }
+        Fill(places);
     }
     return places.UserData;
 }

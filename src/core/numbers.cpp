@@ -411,6 +411,13 @@ double Val(std::string_view text) {
     return result.ec == std::errc() ? value : 0;
 }
 
+float ValSingle(std::string_view text) {
+    const double value = Val(text);
+    return std::fabs(value) <= static_cast<double>(std::numeric_limits<float>::max())
+               ? static_cast<float>(value)
+               : 0;
+}
+
 std::string Format(double value, std::string_view pattern) {
     return Show(Shortest(value), pattern);
 }

@@ -17,6 +17,8 @@ namespace numbers {
 
 /// The leading number of a text, 0 when it has none. Blanks are passed over; commas end it.
 [[nodiscard]] double Val(std::string_view text);
+/// The same as a single; 0 for a number that a single cannot hold.
+[[nodiscard]] float ValSingle(std::string_view text);
 
 /// A number under a pattern of #, 0, comma, point and literal characters. Rounds half away from zero on the
 /// shortest decimal text that gives the number back. A value that shows as zero carries no minus sign.

@@ -10,7 +10,6 @@
 
 #include <array>
 #include <cmath>
-#include <limits>
 
 namespace modSettings {
 
@@ -73,13 +72,6 @@ bool ToBoolean(std::string_view value) {
     return text::EqualNoCase(text::Trim(value), "True");
 }
 
-float ToNumber(std::string_view value) {
-    const double number = numbers::Val(value);
-    return std::fabs(number) <= static_cast<double>(std::numeric_limits<float>::max())
-               ? static_cast<float>(number)
-               : 0;
-}
-
 int ToInteger(std::string_view value) {
     constexpr double kMost = 1e9;
     const double number = numbers::Val(value);
@@ -92,7 +84,7 @@ float PartOf(std::string_view value, std::string_view label) {
         return 0;
     }
     const std::size_t from = at + label.size();
-    return ToNumber(value.substr(from, value.find(':', from) - from));
+    return numbers::ValSingle(value.substr(from, value.find(':', from) - from));
 }
 
 void Distribute(Program& program) {
@@ -100,7 +92,7 @@ void Distribute(Program& program) {
     bool shorter = false;
     const auto textOf = [&](Key key) { return ValueOf(settings, key, shorter); };
     const auto flag = [&](Key key) { return ToBoolean(textOf(key)); };
-    const auto number = [&](Key key) { return ToNumber(textOf(key)); };
+    const auto number = [&](Key key) { return numbers::ValSingle(textOf(key)); };
     settings.AppFirstInstance = flag(Key::AppFirstInstance);
     settings.SharedDirectory = textOf(Key::SharedDirectory);
     settings.CompanyName = textOf(Key::CompanyName);
@@ -146,7 +138,9 @@ void Distribute(Program& program) {
 void PutInForce(Program& program) {
     const SettingsRecords& settings = program.settings;
     RunState& run = program.run;
-    run.DefaultFontName = settings.SavedFontName;
+    // Reading the settings again must not bring back a font that the start has found missing.
+    run.DefaultFontName =
+        run.FontsLoaded && !run.DefaultFontFound ? "Times New Roman" : settings.SavedFontName;
     run.DefaultFontSize = settings.SavedFontSize;
     run.DefaultFontColor = settings.SavedFontColor;
     run.DefaultFontItalic = settings.SavedFontItalic;
@@ -231,21 +225,22 @@ void SettleFolders(Program& program) {
     if (noDocument || program.document.FilePath.empty()) {
         program.document.FilePath = folders.ProposalsFolder;
     }
-    if (!files::IsFolder(folders.ProposalsFolder)) {
-        files::MakeFolder(folders.ProposalsFolder);
-    }
 }
 
-void EnsureBackup(Program& program) {
+/// The folder of the proposals and the one of their backups. Without them the program goes on with what it
+/// has, so that the person can name another folder.
+void EnsureFolders(Program& program) {
     const std::string& folder = program.folders.ProposalsFolder;
-    if (!modFile::FolderExists(folder, kBackup)) {
-        try {
-            files::MakeFolder(paths::Join(folder, kBackup));
-        } catch (const std::exception& error) {
-            program.platform.questions.MsgBox("Error encountered during Events Folder check.", Buttons::Ok,
-                                              "");
-            ReportError(program, "GetUserPreferences", error);
+    try {
+        if (!files::IsFolder(folder)) {
+            files::MakeFolder(folder);
         }
+        if (!modFile::FolderExists(folder, kBackup)) {
+            files::MakeFolder(paths::Join(folder, kBackup));
+        }
+    } catch (const std::exception& error) {
+        program.platform.questions.MsgBox("Error encountered during Events Folder check.", Buttons::Ok, "");
+        ReportError(program, "GetUserPreferences", error);
     }
 }
 
@@ -270,15 +265,15 @@ void GetUserPreferences(Program& program) {
         if (settings.AppFirstInstance) {
             SaveUserPreferences(program);
         }
-        EnsureBackup(program);
+        EnsureFolders(program);
         ReadPrinterOffsets(program);
         settings.PrefsRead = true;
     });
 }
 
-void SaveUserPreferences(Program& program) {
+bool SaveUserPreferences(Program& program) {
     // The log has always had this routine under the other's name.
-    Guarded(program, "RequestNetworkSharePath", [&] {
+    return Guarded(program, "RequestNetworkSharePath", [&] {
         const std::string path = paths::Join(program.folders.InstallFolder, kFileName);
         std::string bytes;
         for (const std::string& line : program.settings.Lines) {

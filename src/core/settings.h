@@ -53,8 +53,9 @@ enum class Key : int {
 /// Reads, distributes, sets folders and printer. Reports as "GetUserPreferences".
 void GetUserPreferences(Program& program);
 
-/// Rewrites the file from the lines. Reports as "RequestNetworkSharePath", as the log has always had it.
-void SaveUserPreferences(Program& program);
+/// Rewrites the file from the lines; false when it could not be written. Reports as
+/// "RequestNetworkSharePath", as the log has always had it.
+bool SaveUserPreferences(Program& program);
 
 /// Replaces one line in memory, growing the lines when the file was short.
 void SetLine(Program& program, Key key, std::string_view value);
@@ -67,6 +68,11 @@ void GetTaxRate(Program& program);
 
 /// Writes the five characters and tells the new rate. Reports as "SaveTaxRate".
 void SaveTaxRate(Program& program, std::string_view rateText);
+
+inline constexpr float kTwipsPerInch = 1440;
+/// An offset as typed or read, in inches, and back as plain text. What is no number counts as 0.
+[[nodiscard]] float TwipsOf(std::string_view inches);
+[[nodiscard]] std::string InchesOf(float twips);
 
 /// A missing file means offsets of 0.
 void ReadPrinterOffsets(Program& program);

@@ -8,6 +8,7 @@
 #include "core/windows.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace modSettings {
 
@@ -18,7 +19,6 @@ constexpr std::size_t kTaxLength = 5;
 constexpr std::string_view kOffsetsFile = "PrinterOffsets.txt";
 constexpr std::string_view kXKey = "Printer X Offset:";
 constexpr std::string_view kYKey = "Printer Y Offset:";
-constexpr float kTwipsPerInch = 1440;
 
 std::string PathOf(const Program& program, std::string_view name) {
     return paths::Join(program.folders.ProposalsFolder.empty()
@@ -36,10 +36,6 @@ bool HasAmounts(const Program& program) {
     return false;
 }
 
-float Inches(std::string_view value) {
-    return static_cast<float>(numbers::Val(value));
-}
-
 } // namespace
 
 void GetTaxRate(Program& program) {
@@ -50,7 +46,7 @@ void GetTaxRate(Program& program) {
         }
         std::string five = files::ReadUpTo(path, kTaxLength);
         five.resize(kTaxLength, ' ');
-        program.totals.TaxRate = static_cast<float>(numbers::Val(five));
+        program.totals.TaxRate = numbers::ValSingle(five);
     });
     if (program.totals.TaxRate == 0 &&
         program.platform.questions.MsgBox("The current sales tax rate is 0%. Do you want to change it now?",
@@ -63,7 +59,7 @@ void SaveTaxRate(Program& program, std::string_view rateText) {
     Guarded(program, "SaveTaxRate", [&] {
         std::string five(rateText.substr(0, kTaxLength));
         five.resize(kTaxLength, ' ');
-        program.totals.TaxRate = static_cast<float>(numbers::Val(five));
+        program.totals.TaxRate = numbers::ValSingle(five);
         const std::string path = PathOf(program, kTaxFile);
         if (files::Exists(path)) {
             files::Delete(path);
@@ -80,6 +76,15 @@ void SaveTaxRate(Program& program, std::string_view rateText) {
     });
 }
 
+float TwipsOf(std::string_view inches) {
+    const float twips = numbers::ValSingle(inches) * kTwipsPerInch;
+    return std::isfinite(twips) ? twips : 0;
+}
+
+std::string InchesOf(float twips) {
+    return numbers::PlainNumber(twips / kTwipsPerInch);
+}
+
 void ReadPrinterOffsets(Program& program) {
     program.printing.PrinterOffsetX = 0;
     program.printing.PrinterOffsetY = 0;
@@ -94,12 +99,10 @@ void ReadPrinterOffsets(Program& program) {
         if (x != std::string::npos) {
             const std::size_t from = x + kXKey.size();
             const std::size_t to = y == std::string::npos || y < from ? bytes.size() : y;
-            program.printing.PrinterOffsetX =
-                Inches(std::string_view(bytes).substr(from, to - from)) * kTwipsPerInch;
+            program.printing.PrinterOffsetX = TwipsOf(std::string_view(bytes).substr(from, to - from));
         }
         if (y != std::string::npos) {
-            program.printing.PrinterOffsetY =
-                Inches(std::string_view(bytes).substr(y + kYKey.size())) * kTwipsPerInch;
+            program.printing.PrinterOffsetY = TwipsOf(std::string_view(bytes).substr(y + kYKey.size()));
         }
     });
 }
@@ -107,9 +110,9 @@ void ReadPrinterOffsets(Program& program) {
 void SavePrinterOffsets(Program& program) {
     Guarded(program, "SavePrinterOffsets", [&] {
         std::string bytes(kXKey);
-        bytes += numbers::PlainNumber(program.printing.PrinterOffsetX / kTwipsPerInch);
+        bytes += InchesOf(program.printing.PrinterOffsetX);
         bytes += kYKey;
-        bytes += numbers::PlainNumber(program.printing.PrinterOffsetY / kTwipsPerInch);
+        bytes += InchesOf(program.printing.PrinterOffsetY);
         const std::string path = PathOf(program, kOffsetsFile);
         if (files::Exists(path)) {
             files::Delete(path);

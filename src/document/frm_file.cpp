@@ -187,7 +187,7 @@ void frmFile::DeleteSelected(Program& program) {
         return;
     }
     try {
-        modMain::DeleteProposalFiles(Folder, paths::BaseOf(selected_));
+        modMain::DeleteProposalFiles(Folder, selected_);
     } catch (const std::exception& error) {
         questions.MsgBox("An Error occurred trying to delete the file.", Buttons::Ok, "");
         ReportError(program, "frmFile", error);

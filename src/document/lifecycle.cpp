@@ -42,6 +42,15 @@ void CopySideFile(Program& program, std::string_view from, std::string_view to) 
     files::Copy(paths::Join(folder, from), paths::Join(folder, to));
 }
 
+/// An empty proposal is none from the backups, and must not be saved among them.
+void LeaveBackup(Program& program) {
+    program.document.FromBackup = false;
+    program.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
+    if (paths::SameFolder(program.document.FilePath, BackupFolder(program))) {
+        program.document.FilePath = DataFolder(program);
+    }
+}
+
 void SaveAsSteps(Program& program) {
     DocumentState& document = program.document;
     if (HasAmounts(program)) {
@@ -151,11 +160,7 @@ void mnuFileNew_Click(Program& program) {
     if (StartNewFile(program) == ResetResult::Refused) {
         return;
     }
-    document.FromBackup = false;
-    program.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
-    if (paths::SameFolder(document.FilePath, BackupFolder(program))) {
-        document.FilePath = DataFolder(program);
-    }
+    LeaveBackup(program);
     if (!format) {
         SetPageHeading(program, "Contract Proposal");
         Page& page = program.pages[PageId::frmP1];
@@ -205,13 +210,15 @@ void mnuFileDelete_Click(Program& program) {
         return;
     }
     try {
-        DeleteProposalFiles(document.FilePath, document.BaseName);
+        DeleteProposalFiles(document.FilePath, document.FileName);
     } catch (const std::exception& error) {
         questions.MsgBox("An Error occurred trying to delete the file.", Buttons::Ok, "");
         ReportError(program, "mnuFileDelete_Click", error);
         return;
     }
-    static_cast<void>(StartNewFile(program));
+    if (StartNewFile(program) == ResetResult::Done) {
+        LeaveBackup(program);
+    }
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }
 

@@ -12,7 +12,7 @@ enum class ResetResult { Done, Refused };
 /// "StartNewFile".
 ResetResult StartNewFile(Program& program);
 
-/// Deletes a proposal and the files of its name beside it. Throws files::FileError.
-void DeleteProposalFiles(std::string_view folder, std::string_view baseName);
+/// Deletes a proposal and the files of its base name beside it. Throws files::FileError.
+void DeleteProposalFiles(std::string_view folder, std::string_view fileName);
 
 } // namespace modMain

@@ -15,6 +15,7 @@
 #include "shell/command_table.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace modMain {
 
@@ -177,17 +178,24 @@ void LoadTheFonts(Program& program) {
 void ConvertOldFiles(Program& program) {
     Guarded(program, "ConvertOldFiles", [&] {
         const std::string folder = DataFolder(program);
-        bool taken = false;
-        for (const std::string& name : files::List(folder, "*.hwf")) {
-            const std::string to = std::string(paths::BaseOf(name)) + ".hef";
-            if (files::Exists(paths::Join(folder, to))) {
-                taken = true; // left as it is; the others go on
-                continue;
-            }
-            files::Rename(paths::Join(folder, name), paths::Join(folder, to));
+        if (!files::IsFolder(folder)) {
+            return;
         }
-        if (taken) {
-            throw files::FileError(files::kAlreadyExists, "File already exists");
+        // One that stays as it is does not keep the others; the first failure is told at the end.
+        std::optional<files::FileError> failure;
+        for (const std::string& name : files::List(folder, "*.hwf")) {
+            const std::string to = paths::Join(folder, std::string(paths::BaseOf(name)) + ".hef");
+            try {
+                if (files::Exists(to)) {
+                    throw files::FileError(files::kAlreadyExists, "File already exists: " + to);
+                }
+                files::Rename(paths::Join(folder, name), to);
+            } catch (const files::FileError& error) {
+                failure = failure.value_or(error);
+            }
+        }
+        if (failure) {
+            throw files::FileError(*failure);
         }
     });
 }
