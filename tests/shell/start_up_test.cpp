@@ -106,8 +106,8 @@ TEST_P(HostileSettings, NeverStopTheProgram) {
 
 // Every one of these has a line too short for its key, which is told once.
 INSTANTIATE_TEST_SUITE_P(Table, HostileSettings,
-                         testing::Values(std::string("x"), std::string(1000, '\0'),
-                                         std::string(1 << 20, 'x') + "\r\ny", std::string("\r\n\r\n\r\n"),
+                         testing::Values(std::string("x"), std::string(1 << 20, 'x') + "\r\ny",
+                                         std::string("\r\n\r\n\r\n"),
                                          std::string("App First Instance:False\r\nShared"),
                                          std::string("\xFF\xFE\x00 garbage\r\n", 12)));
 
