@@ -65,7 +65,9 @@ TextAreaView::TextAreaView(PageContext& page, QWidget& paper, const FieldRef& fi
     setFrame(false);
     setTextMargins(0, 0, 0, 0);
     setContextMenuPolicy(Qt::DefaultContextMenu);
-    setFocusPolicy(Qt::ClickFocus);
+    const bool copy = field.Page == PageId::frmP6_1;
+    setFocusPolicy(copy ? Qt::NoFocus : Qt::ClickFocus);
+    setAttribute(Qt::WA_TransparentForMouseEvents, copy);
     setAttribute(Qt::WA_OpaquePaintEvent);
     connect(this, &QLineEdit::textEdited, this, [this] { ReportEdit(); });
 }

@@ -25,7 +25,8 @@ std::vector<TextArea>& ArrayOf(Program& program, const FieldRef& field) {
 }
 
 bool TakesFocus(Program& program, const FieldRef& field) {
-    if (!Exists(program, field)) {
+    // The client's copy is there to be printed; nobody types on it.
+    if (!Exists(program, field) || field.Page == PageId::frmP6_1) {
         return false;
     }
     const TextArea& area = Area(program, field);

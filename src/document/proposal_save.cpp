@@ -25,6 +25,13 @@ void GoToClientName(Program& program) {
 }
 
 void CompareTotals(Program& program) {
+    if (program.document.BackingUp) {
+        // A backup comes in the middle of typing: an amount that is not left yet is no discrepancy to tell
+        // of.
+        for (const PageId page : kLinePages) {
+            modTotals::CalculateMyTotals(program, page);
+        }
+    }
     modTotals::RecalculateAll(program);
     modTotals::UpdateRunningTotals(program);
     if (modTotals::TotalsDiffer(program)) {

@@ -166,6 +166,9 @@ void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength
 
 void FieldMouseDown(Program& program, const FieldRef& field, int button, int shift, int selStart,
                     int selLength) {
+    if (field.Page == PageId::frmP6_1) {
+        return;
+    }
     PutCursor(program, field, selStart, selLength);
     modFields::GiveFocus(program, field);
     PutCursor(program, field, selStart, selLength);

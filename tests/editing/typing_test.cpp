@@ -461,6 +461,27 @@ TEST(Focus, OfTheFinalPageHasNoCyan) {
     EXPECT_EQ(run.Area(PageId::frmP6, 4).BackColor, colors::kResting) << "also when the program writes it";
 }
 
+TEST(Focus, IsNeverTakenByTheClientsCopy) {
+    RunningProgram run;
+    modScroll::UpdatePageButtons(run.program, 6);
+    const auto before = run.program.main.Focus;
+    modInput::FieldMouseDown(run.program, {PageId::frmP6_1, FieldKind::txt, 1}, 1, 0, 0, 0);
+    EXPECT_EQ(run.program.main.Focus, before);
+    EXPECT_EQ(run.program.main.CurrentPage, 0);
+}
+
+TEST(AutomaticBackup, InTheMiddleOfAnAmountSaysNothing) {
+    RunningProgram run;
+    run.program.document.FileName = "Ann.hef";
+    run.program.document.BaseName = "Ann";
+    Typist typist(run.program);
+    typist.Click(kSecond, 33);
+    run.program.editing.KeyCounter = 17;
+    typist.Type("123456");
+    EXPECT_TRUE(run.folder.Has("Proposals/Backup/Ann.hef"));
+    EXPECT_EQ(run.TextOf(kSecond, 33), "123456");
+}
+
 TEST(Focus, IsNotTakenByAFieldThatIsHidden) {
     RunningProgram run;
     modFields::GiveFocus(run.program, {kSecond, FieldKind::txtQty, 3});
