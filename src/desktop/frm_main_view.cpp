@@ -18,6 +18,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
+#include <QStatusTipEvent>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -327,4 +328,14 @@ void FrmMainView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QMainWindow::keyPressEvent(event);
+}
+
+bool FrmMainView::event(QEvent* event) {
+    if (event->type() == QEvent::StatusTip) {
+        // What a menu entry has to say stands where the program's own notices stand.
+        const QString tip = static_cast<QStatusTipEvent*>(event)->tip();
+        notice_->setText(tip.isEmpty() ? convert::ToQString(program_.main.Notice) : tip);
+        return true;
+    }
+    return QMainWindow::event(event);
 }

@@ -74,12 +74,16 @@ constexpr const char* kFaces[] = {"Liberation Sans", "Liberation Mono", "Liberat
 
 } // namespace
 
+QWidget* QtQuestions::Below() const {
+    return Over != nullptr && Over->isVisible() ? Over : nullptr;
+}
+
 Answer QtQuestions::MsgBox(std::string_view text, Buttons buttons, std::string_view title) {
     if (BeforeAsking) {
         BeforeAsking();
     }
     QMessageBox box(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question, TitleOf(title),
-                    ShownText(text), ButtonsOf(buttons), Over);
+                    ShownText(text), ButtonsOf(buttons), Below());
     box.setObjectName(QStringLiteral("MsgBox"));
     box.setTextFormat(Qt::PlainText);
     if (title == "Program Error") {
@@ -104,7 +108,7 @@ std::string QtQuestions::InputBox(std::string_view prompt, std::string_view titl
     if (BeforeAsking) {
         BeforeAsking();
     }
-    QInputDialog dialog(Over);
+    QInputDialog dialog(Below());
     dialog.setObjectName(QStringLiteral("InputBox"));
     dialog.setWindowTitle(TitleOf(title));
     dialog.setLabelText(ShownText(prompt));

@@ -22,6 +22,10 @@ public:
     QWidget* Over = nullptr;
     /// Runs before a box opens: what is on show then is what the records say.
     std::function<void()> BeforeAsking;
+
+private:
+    /// Before the window shows there is nothing to stand over: boxes are centred on the screen.
+    [[nodiscard]] QWidget* Below() const;
 };
 
 class QtScreen : public Screen {

@@ -244,7 +244,8 @@ void ToolStrip::FollowCommand(QPushButton& button, const CommandButton& record) 
             QPalette palette = button.palette();
             const QColor color = convert::ToQColor(record.BackColor);
             palette.setColor(QPalette::Button, color);
-            palette.setColor(QPalette::ButtonText, Qt::white);
+            palette.setColor(QPalette::ButtonText,
+                             Qt::black); // the style lightens the face; white would fade
             button.setPalette(palette);
         }
     }

@@ -1,9 +1,9 @@
 #include "document/page_geometry.h"
 
-#include "core/numbers.h"
 #include "core/text.h"
 
 #include <array>
+#include <charconv>
 
 namespace {
 
@@ -111,7 +111,10 @@ std::string_view KindOf(std::string_view tag) {
 }
 
 int LimitOf(std::string_view tag) {
-    return static_cast<int>(numbers::Val(text::Right(tag, 3)));
+    const std::string_view width = text::Right(tag, 3);
+    int limit = 0;
+    const auto result = std::from_chars(width.data(), width.data() + width.size(), limit);
+    return result.ec == std::errc() ? limit : 0;
 }
 
 } // namespace geometry

@@ -281,8 +281,8 @@ void txt_Change(Program& program, PageId page, int index) {
     }
     if (IsFinal(page)) {
         modTotals::FinalPageChange(program, index);
-        if (!program.guards.HandlersSilent() && OverLimit(program, page, Area(program, page, index))) {
-            Area(program, page, index).BackColor = colors::kOverLimit;
+        if (!program.guards.HandlersSilent()) {
+            ColourArea(program, page, Area(program, page, index));
         }
         return;
     }
@@ -337,7 +337,6 @@ void txt_KeyUp(Program& program, PageId page, int index, int keyCode, int shift)
     if (IsFinal(page)) {
         editing.CursorPos = area.SelStart;
         ShowCursor(program);
-        ColourArea(program, page, area);
         return;
     }
     if (editing.BlockMode) {

@@ -200,6 +200,8 @@ TEST(New, LaysTheContractsHeadingAndTheTwoLabels) {
     run.Label(PageId::frmP1, 9).Caption = "other";
     modMain::mnuFileNew_Click(run.program);
     EXPECT_EQ(run.program.document.PageHeading, "Acme Events - Contract Proposal - ");
+    // The labels were laid before; they follow when the page numbers are set.
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Acme Events - Event Proposal - Page 2");
     EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Event Date");
     EXPECT_EQ(run.Label(PageId::frmP1, 10).Caption, "Event Time");
     EXPECT_EQ(run.Label(PageId::frmP1, 10).Left, 10080.0F);
@@ -212,6 +214,7 @@ TEST(New, TheSettingForPageTitlesStandsBeforeAnyHeading) {
     run.Setting("Page Titles:", "Our own: ");
     run.Start();
     EXPECT_EQ(run.program.document.PageHeading, "Our own: ");
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Our own: Page 2");
     modMain::mnuFileNew_Click(run.program);
     EXPECT_EQ(run.program.document.PageHeading, "Our own: ");
 }

@@ -457,6 +457,8 @@ TEST(Focus, OfTheFinalPageHasNoCyan) {
     typist.Type("1234567890123");
     EXPECT_EQ(run.Area(PageId::frmP6, 4).BackColor, colors::kOverLimit);
     EXPECT_EQ(run.program.main.lblTextNum.Caption, "Page 6, Text Area 5");
+    modFields::SetText(run.program, {PageId::frmP6, FieldKind::txt, 4}, "1");
+    EXPECT_EQ(run.Area(PageId::frmP6, 4).BackColor, colors::kResting) << "also when the program writes it";
 }
 
 TEST(Focus, IsNotTakenByAFieldThatIsHidden) {

@@ -93,6 +93,8 @@ TEST(StartUp, EndsInAnEmptyProposalWithTheMainButtonsOn) {
     EXPECT_EQ(main.lblDir.Caption, "Current Folder = " + run.folder.Path() + "Proposals/");
     EXPECT_EQ(main.State, WindowState::Maximised);
     EXPECT_EQ(main.PageInFront, PageId::frmP1);
+    EXPECT_EQ(main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 0}));
+    EXPECT_EQ(run.program.totals.TaxRate, 8.25F);
     EXPECT_EQ(run.program.document.PagesInUse, 6);
     EXPECT_EQ(run.program.document.FileFilter, "*.hef");
     EXPECT_EQ(run.program.document.DocumentKind, "Event");
@@ -218,6 +220,20 @@ TEST(StartUp, WithoutSettingsItTellsAndStandsBeforeAnEmptyProposal) {
     typist.Click(PageId::frmP1, 2);
     typist.Type("Jane");
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane");
+}
+
+TEST(StartUp, SettingsOfGarbageAreToldOnceAndNeverStopIt) {
+    // Every one of these has a line too short for its key.
+    for (const std::string& bytes :
+         {std::string("x"), std::string(1U << 20U, 'x') + "\r\ny", std::string("\r\n\r\n\r\n"),
+          std::string("App First Instance:False\r\nShared"), std::string("\xFF\xFE\x00 garbage\r\n", 13)}) {
+        Starting run;
+        run.folder.Write("UserPreferences.txt", bytes);
+        run.surroundings.questions.Expect("An error occurred in GetUserPreferences.");
+        EXPECT_EQ(run.Main(), modMain::StartResult::Running);
+        EXPECT_TRUE(run.program.main.Loaded);
+        EXPECT_EQ(run.program.folders.ProposalsFolder, run.folder / "Proposals/");
+    }
 }
 
 TEST(StartUp, ARateOfZeroIsAskedForAtEveryStart) {
