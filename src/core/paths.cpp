@@ -71,7 +71,7 @@ std::string ResolveDrive(std::string_view path, const DriveRoots& roots) {
     if (letter == 'c') {
         return Join(roots.Home, rest);
     }
-    std::string place;
+    std::string place = std::string("/media/") + letter; // never the process's own folder
     for (const std::string& mount : roots.MountPlaces) {
         place = Join(mount, std::string(1, letter));
         std::error_code ignored;
