@@ -58,8 +58,6 @@ struct FullProposal {
     }
 
     void Fill() {
-        program.document.FileName = "Full.hef";
-        program.document.BaseName = "Full";
         for (const PageId page : kLinePages) {
             for (std::size_t index = 0; index < program.pages[page].txt.size(); ++index) {
                 const bool amount = program.pages[page].txt[index].Tag == "Amount.020";
@@ -69,6 +67,9 @@ struct FullProposal {
             modTotals::CalculateMyTotals(program, page);
         }
         modTotals::UpdateRunningTotals(program);
+        // Filling the client's area has named the proposal already.
+        program.document.FileName = "Full.hef";
+        program.document.BaseName = "Full";
     }
 };
 
@@ -111,7 +112,9 @@ void SaveAFullProposal(benchmark::State& state) {
     FullProposal full;
     modFile::SaveEventFile(full.program);
     for (auto _ : state) {
-        modFile::SaveEventFile(full.program);
+        if (modFile::SaveEventFile(full.program) != modFile::SaveResult::Saved) {
+            state.SkipWithError("the proposal was not saved");
+        }
     }
 }
 BENCHMARK(SaveAFullProposal)->Unit(benchmark::kMicrosecond);
@@ -133,7 +136,9 @@ void OpenAFullProposal(benchmark::State& state) {
     FullProposal full;
     modFile::SaveEventFile(full.program);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(modFile::OpenEventFile(full.program, "Full.hef"));
+        if (modFile::OpenEventFile(full.program, "Full.hef") != modFile::OpenResult::Opened) {
+            state.SkipWithError("the proposal was not opened");
+        }
     }
 }
 BENCHMARK(OpenAFullProposal)->Unit(benchmark::kMicrosecond);

@@ -53,8 +53,8 @@ void Require(bool holds) {
 proposal::Fields FieldsOf(const proposal::Decoded& decoded) {
     proposal::Fields fields;
     for (std::size_t page = 0; page < decoded.Slots.size(); ++page) {
-        for (const std::string& slot : decoded.Slots[page]) {
-            fields[page].push_back({slot, false});
+        for (const std::string_view slot : decoded.Slots[page]) {
+            fields[page].push_back({std::string(slot), false});
         }
     }
     return fields;

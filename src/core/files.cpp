@@ -105,6 +105,15 @@ std::optional<std::string> Locate(std::string_view path) {
     }
     std::string native = wanted.front() == '/' ? "/" : "";
     std::size_t at = 0;
+    // Mostly the folder stands as it is named, and only the last name may differ.
+    const std::string folder(paths::Folder(wanted));
+    if (folder.size() < wanted.size() && folder.size() > 1) {
+        const std::string nativeFolder = ansi::ToUtf8(folder);
+        if (Stat(nativeFolder)) {
+            native = nativeFolder;
+            at = folder.size();
+        }
+    }
     while (at < wanted.size()) {
         const std::size_t end = std::min(wanted.find('/', at), wanted.size());
         const std::string part = wanted.substr(at, end - at);
@@ -211,10 +220,16 @@ std::uintmax_t Length(std::string_view path) {
     return about ? static_cast<std::uintmax_t>(about->st_size) : 0;
 }
 
-std::string ReadUpTo(std::string_view path, std::uintmax_t most) {
+Head ReadHead(std::string_view path, std::uintmax_t most) {
     const int file = Open(MustLocate(path), O_RDONLY, path);
     const OnLeaving close([file] { ::close(file); });
-    std::string bytes;
+    struct stat about {};
+    if (::fstat(file, &about) != 0) {
+        Fail(errno, path);
+    }
+    Head head;
+    head.Length = static_cast<std::uintmax_t>(about.st_size);
+    std::string& bytes = head.Bytes;
     constexpr std::size_t kPiece = 1U << 16U;
     while (bytes.size() < most) {
         const std::size_t before = bytes.size();
@@ -232,7 +247,11 @@ std::string ReadUpTo(std::string_view path, std::uintmax_t most) {
             break;
         }
     }
-    return bytes;
+    return head;
+}
+
+std::string ReadUpTo(std::string_view path, std::uintmax_t most) {
+    return ReadHead(path, most).Bytes;
 }
 
 std::string ReadAll(std::string_view path, std::uintmax_t limit) {

@@ -33,6 +33,12 @@ inline constexpr std::uintmax_t kTextLimit = 64U << 20U;
 [[nodiscard]] std::uintmax_t Length(std::string_view path);
 /// The first bytes of a file, at most so many. Only regular files; never waits.
 [[nodiscard]] std::string ReadUpTo(std::string_view path, std::uintmax_t most);
+/// The same, and the whole length of the file that was read.
+struct Head {
+    std::string Bytes;
+    std::uintmax_t Length = 0;
+};
+[[nodiscard]] Head ReadHead(std::string_view path, std::uintmax_t most);
 /// A whole file; one above the limit is refused.
 [[nodiscard]] std::string ReadAll(std::string_view path, std::uintmax_t limit = kTextLimit);
 /// Makes or overwrites a file. Every write, the flush to the device and the close are checked.

@@ -12,6 +12,11 @@ std::string_view LTrim(std::string_view value) {
 }
 
 std::string_view RTrim(std::string_view value) {
+    // Slots of a proposal are mostly blanks: eight at a time.
+    constexpr std::string_view kBlanks = "        ";
+    while (value.ends_with(kBlanks)) {
+        value.remove_suffix(kBlanks.size());
+    }
     return value.substr(0, value.find_last_not_of(' ') + 1);
 }
 

@@ -3,7 +3,6 @@
 #include "core/text.h"
 
 #include <array>
-#include <charconv>
 
 namespace {
 
@@ -111,10 +110,14 @@ std::string_view KindOf(std::string_view tag) {
 }
 
 int LimitOf(std::string_view tag) {
-    const std::string_view width = text::Right(tag, 3);
     int limit = 0;
-    const auto result = std::from_chars(width.data(), width.data() + width.size(), limit);
-    return result.ec == std::errc() ? limit : 0;
+    for (const char character : text::Right(tag, 3)) {
+        if (character < '0' || character > '9') {
+            break;
+        }
+        limit = limit * 10 + (character - '0');
+    }
+    return limit;
 }
 
 } // namespace geometry

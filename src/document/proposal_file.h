@@ -31,11 +31,14 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
 enum class OpenResult { Opened, NotOpened };
 OpenResult OpenEventFile(Program& program, std::string_view fileName);
 
-/// Saves a copy into Backup/. Does nothing for a proposal without a name. Reports as "BackupThisFile".
+/// Saves a copy into Backup/, by the steps of SaveEventFile and with its questions, but without the message
+/// of success. Does nothing for a proposal without a name. When the steps stop, the backup that stood stays.
+/// Reports as "BackupThisFile", the steps themselves as "SaveEventFile".
 void BackupThisFile(Program& program);
 
-/// Writes the property lines beside the proposal. Reports as "SavePropertyFile".
-void SavePropertyFile(Program& program);
+/// Writes the property lines beside the proposal; for one that was opened from the backups, into the data
+/// folder. Then no label counts as changed. Reports as "SavePropertyFile".
+SaveResult SavePropertyFile(Program& program);
 
 /// Reads the property lines and hands them to the language of formats. Reports as "ReadFileProperties".
 void ReadFileProperties(Program& program);

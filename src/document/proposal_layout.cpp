@@ -18,14 +18,34 @@ struct LegacyLength {
 
 constexpr std::array<LegacyLength, 3> kLegacy{{{17880, {10, 120}}, {17770, {20, 100}}, {17170, {10, 100}}}};
 
-/// One slot's bytes. Beyond the end of the file there are blanks; a slot of NULs alone is blank.
-std::string Slot(std::string_view bytes, std::size_t at, std::size_t width) {
-    std::string slot(at < bytes.size() ? bytes.substr(at, width) : std::string_view());
-    if (slot.find_first_not_of('\0') == std::string::npos) {
-        slot.assign(slot.size(), ' ');
+/// Makes a slot of NULs alone blank; what is filled up with blanks beyond the end of the file is no part of
+/// it.
+void BlankNuls(std::vector<char>& bytes, std::size_t at, std::size_t width, std::size_t end) {
+    if (at >= end || bytes[at] != '\0') {
+        return;
     }
-    slot.resize(width, ' ');
-    return slot;
+    const auto first = bytes.begin() + static_cast<std::ptrdiff_t>(at);
+    const auto last = bytes.begin() + static_cast<std::ptrdiff_t>(std::min(at + width, end));
+    if (std::all_of(first, last, [](char byte) { return byte == '\0'; })) {
+        std::fill(first, last, ' ');
+    }
+}
+
+std::size_t WidthIn(const LegacyWidths& file, int width) {
+    const int read = width == kAmountWidth        ? file.Amount
+                     : width == kDescriptionWidth ? file.Description
+                                                  : width;
+    return static_cast<std::size_t>(std::max(read, 0));
+}
+
+std::size_t TotalWidth(const LegacyWidths& file, const Widths& widths) {
+    std::size_t total = 0;
+    for (const auto& page : widths) {
+        for (const int width : page) {
+            total += WidthIn(file, width);
+        }
+    }
+    return total;
 }
 
 } // namespace
@@ -67,22 +87,24 @@ std::string Encode(const Fields& fields, const Widths& widths) {
 }
 
 Decoded Decode(std::string_view bytes, std::uintmax_t length, const Widths& widths) {
-    const LegacyWidths legacy = WidthsForLength(length);
+    const LegacyWidths file = WidthsForLength(length);
     Decoded decoded;
+    decoded.Wedding = kKindOffset < bytes.size() && bytes[kKindOffset] == '1';
+    const std::size_t total = TotalWidth(file, widths);
+    const std::size_t end = std::min(bytes.size(), total);
+    decoded.Bytes.reserve(total);
+    decoded.Bytes.assign(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(end));
+    decoded.Bytes.resize(total, ' ');
     std::size_t position = 0;
     for (std::size_t page = 0; page < widths.size(); ++page) {
-        for (int width : widths[page]) {
-            if (width == kAmountWidth) {
-                width = legacy.Amount;
-            } else if (width == kDescriptionWidth) {
-                width = legacy.Description;
-            }
-            const auto size = static_cast<std::size_t>(std::max(width, 0));
-            decoded.Slots[page].push_back(Slot(bytes, position, size));
+        decoded.Slots[page].reserve(widths[page].size());
+        for (const int width : widths[page]) {
+            const std::size_t size = WidthIn(file, width);
+            BlankNuls(decoded.Bytes, position, size, end);
+            decoded.Slots[page].emplace_back(decoded.Bytes.data() + position, size);
             position += size;
         }
     }
-    decoded.Wedding = kKindOffset < bytes.size() && bytes[kKindOffset] == '1';
     return decoded;
 }
 

@@ -42,7 +42,13 @@ struct LegacyWidths {
 /// bytes are all NUL is blank. Nothing is trimmed. `length` is the whole file's, `bytes` at least what the
 /// layout needs.
 struct Decoded {
-    std::array<std::vector<std::string>, kEditedPageCount> Slots;
+    Decoded() = default;
+    Decoded(const Decoded&) = delete;
+    Decoded(Decoded&&) = default;
+    Decoded& operator=(const Decoded&) = delete;
+    Decoded& operator=(Decoded&&) = default;
+    std::vector<char> Bytes; ///< what the slots look into, also after a move
+    std::array<std::vector<std::string_view>, kEditedPageCount> Slots;
     bool Wedding = false;
 };
 [[nodiscard]] Decoded Decode(std::string_view bytes, std::uintmax_t length, const Widths& widths);

@@ -50,7 +50,7 @@ void TakeText(Program& program, PageId page, int index, std::string_view slot) {
     if (program.format.FormatTextChanges[pageAt][at].FormatText) {
         return;
     }
-    const std::string value(text::RTrim(slot));
+    const std::string_view value = text::RTrim(slot);
     program.document.SavedTextBuf[pageAt][at] = value;
     program.document.CurrentTextBuf[pageAt][at] = value;
     const proposal::QuantityRow row = proposal::SplitQuantityRow(value);
@@ -72,7 +72,7 @@ void TakeAmount(Program& program, PageId page, int index) {
     if (marked) {
         current.erase(0, 1);
     }
-    const std::string trimmed(text::Trim(current));
+    const std::string_view trimmed = text::Trim(current);
     const std::optional<float> value = numbers::ToSingle(trimmed, program.settings.CurrencySymbol);
     if (!value) {
         return;
@@ -100,7 +100,7 @@ void TakeFields(Program& program, const proposal::Decoded& decoded) {
     }
     constexpr auto kFinal = static_cast<std::size_t>(kEditedPageCount - 1);
     for (std::size_t index = 0; index < decoded.Slots[kFinal].size(); ++index) {
-        const std::string value(text::Trim(decoded.Slots[kFinal][index]));
+        const std::string_view value = text::Trim(decoded.Slots[kFinal][index]);
         program.document.CurrentTextBuf[kFinal][index] = value;
         program.document.SavedTextBuf[kFinal][index] = value;
     }
@@ -138,8 +138,9 @@ std::optional<RawProposal> LoadProposal(Program& program, std::string_view fileN
     RawProposal raw;
     const bool done = Guarded(program, "OpenEventFile", [&] {
         const std::string path = paths::Join(program.document.FilePath, fileName);
-        raw.Bytes = files::ReadUpTo(path, BytesNeeded(SlotWidths(program)));
-        raw.Length = files::Length(path);
+        files::Head head = files::ReadHead(path, BytesNeeded(SlotWidths(program)));
+        raw.Bytes = std::move(head.Bytes);
+        raw.Length = head.Length;
     });
     return done ? std::optional(std::move(raw)) : std::nullopt;
 }

@@ -69,14 +69,22 @@ bool NameIsSettled(Program& program) {
     return true;
 }
 
-void SaveProperties(Program& program) {
+void ClearLabelMarks(Program& program) {
+    for (auto& page : program.format.LabelSavedState) {
+        for (LabelChangeRecord& label : page) {
+            label.Changed = false;
+        }
+    }
+}
+
+/// The properties, when one has changed.
+SaveResult SaveProperties(Program& program) {
     if (!PropertiesChanged(program)) {
-        return;
+        return SaveResult::Saved;
     }
     if (program.hooks.AssignPropChanges) {
         program.hooks.AssignPropChanges(program);
-        SavePropertyFile(program);
-        return;
+        return SavePropertyFile(program);
     }
     // Nobody writes new lines: what was read goes back as it came.
     for (std::size_t page = 0; page < kLinePageCount; ++page) {
@@ -85,8 +93,10 @@ void SaveProperties(Program& program) {
         }
     }
     if (!program.format.PropertyLines.empty()) {
-        SavePropertyFile(program);
+        return SavePropertyFile(program);
     }
+    ClearLabelMarks(program);
+    return SaveResult::Saved;
 }
 
 std::string MakeBytes(const Program& program) {
@@ -109,10 +119,7 @@ void WriteFile(Program& program) {
     const std::string folder = document.BackingUp ? modMain::BackupFolder(program) : document.FilePath;
     const std::string path = paths::Join(folder, document.FileName);
     if (files::Exists(path)) {
-        files::ClearAttributes(path);
-        if (!document.BackingUp) {
-            files::Delete(path);
-        }
+        files::Delete(path);
     }
     files::WriteWhole(path, bytes);
 }
@@ -126,16 +133,16 @@ void SavingSteps(Program& program, SaveResult& result) {
     if (program.hooks.CollectQtyBoxes) {
         program.hooks.CollectQtyBoxes(program);
     }
-    // Should the write fail, the properties still count as unsaved.
+    // Should a write fail, the properties still count as unsaved.
     const bool properties = PropertiesChanged(program);
-    SaveProperties(program);
+    const bool propertiesLost = SaveProperties(program) == SaveResult::NotSaved;
     document.SavedStateStale = properties;
     document.TextFileName = std::string(paths::BaseOf(document.FileName)) + ".txt";
     program.format.EditingFormat = false;
     WriteFile(program);
     document.SavedTextBuf = document.CurrentTextBuf;
     document.FileExists = true;
-    document.SavedStateStale = false;
+    document.SavedStateStale = propertiesLost;
     result = SaveResult::Saved;
     program.main[CommandId::mnuFileDelete].Enabled = true;
     modMain::UpdateEventNameLabels(program);
@@ -158,6 +165,7 @@ proposal::Widths SlotWidths(const Program& program) {
     proposal::Widths widths;
     for (const PageId page : kEditedPages) {
         auto& list = widths[static_cast<std::size_t>(IndexOf(page))];
+        list.reserve(program.pages[page].txt.size());
         for (const TextArea& area : program.pages[page].txt) {
             list.push_back(geometry::LimitOf(area.Tag));
         }
@@ -177,33 +185,32 @@ void BackupThisFile(Program& program) {
         return;
     }
     Guarded(program, "BackupThisFile", [&] {
+        // The backup that stands is deleted only where the new one is written: a save that stops at a
+        // question must not cost it.
         const std::string path = paths::Join(modMain::BackupFolder(program), program.document.FileName);
         if (files::Exists(path)) {
-            files::Delete(path);
+            files::ClearAttributes(path);
         }
         program.document.BackingUp = true;
         SaveEventFile(program);
     });
 }
 
-void SavePropertyFile(Program& program) {
-    Guarded(program, "SavePropertyFile", [&] {
-        const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
-        if (files::Exists(path)) {
-            files::Delete(path);
-        }
+SaveResult SavePropertyFile(Program& program) {
+    const bool done = Guarded(program, "SavePropertyFile", [&] {
         std::string bytes;
         for (const std::string& line : program.format.PropertyLines) {
             bytes += line;
             bytes += text::kCrLf;
         }
-        files::WriteWhole(path, bytes);
-        for (auto& page : program.format.LabelSavedState) {
-            for (LabelChangeRecord& label : page) {
-                label.Changed = false;
-            }
+        const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
+        if (files::Exists(path)) {
+            files::Delete(path);
         }
+        files::WriteWhole(path, bytes);
+        ClearLabelMarks(program);
     });
+    return done ? SaveResult::Saved : SaveResult::NotSaved;
 }
 
 void ReadFileProperties(Program& program) {

@@ -9,7 +9,9 @@
 #include "document/page_geometry.h"
 #include "document/page_setup.h"
 
+#include <algorithm>
 #include <array>
+#include <limits>
 
 namespace modTotals {
 
@@ -38,17 +40,28 @@ void MirrorFigures(Program& program) {
     }
 }
 
-void ShowRunningLabel(Program& program) {
+void ShowRunningLabel(Program& program, float subTotal) {
     program.main.lblTotal.Caption =
-        "Running Sub-Total = " + program.settings.CurrencySymbol + " " + Shown(program.totals.SubTotal);
+        "Running Sub-Total = " + program.settings.CurrencySymbol + " " + Shown(subTotal);
 }
 
 void ShowSettled(Program& program) {
     program.main.cmdReCalc.BackColor = colors::kButtonFace;
 }
 
+/// What is too large for a single stays at the largest: a figure is always a number that can be shown.
+float Single(double value) {
+    constexpr double kMost = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(value, -kMost, kMost));
+}
+
+/// The sum of two singles as a single; going over a double rounds no differently.
+float Sum(float one, float other) {
+    return Single(static_cast<double>(one) + static_cast<double>(other));
+}
+
 float TaxOn(float taxable, float rate) {
-    return static_cast<float>(static_cast<double>(taxable) * (static_cast<double>(rate) * 0.01));
+    return Single(static_cast<double>(taxable) * (static_cast<double>(rate) * 0.01));
 }
 
 bool MarkVisible(const Page& page, std::size_t index) {
@@ -74,16 +87,16 @@ void AddAllFields(Program& program) {
             if (!value) {
                 continue;
             }
-            subTotal += *value;
+            subTotal = Sum(subTotal, *value);
             if (!MarkVisible(record, index)) {
-                taxable += *value;
+                taxable = Sum(taxable, *value);
             }
         }
     }
     totals.FullSubTotal = subTotal;
     totals.FullTaxableTotal = taxable;
     totals.SalesTax = TaxOn(taxable, totals.TaxRate);
-    totals.Total = subTotal + totals.SalesTax;
+    totals.Total = Sum(subTotal, totals.SalesTax);
     totals.FullTotal = totals.Total;
 }
 
@@ -104,7 +117,7 @@ void WriteFullFigures(Program& program) {
     WriteFigure(program, kTax, Shown(totals.SalesTax));
     // No pattern here: after a recalculation the total stands bare until the next running update.
     WriteFigure(program, kTotal, numbers::PlainNumber(totals.Total));
-    totals.Balance = totals.Total - totals.Deposit;
+    totals.Balance = Sum(totals.Total, -totals.Deposit);
     WriteFigure(program, kDeposit, Shown(totals.Deposit));
     WriteFigure(program, kBalance, Shown(totals.Balance));
 }
@@ -113,16 +126,25 @@ void ComputeRunning(TotalsRecords& totals) {
     totals.SubTotal = 0;
     totals.TaxableTotal = 0;
     for (std::size_t page = 0; page < kLinePageCount; ++page) {
-        totals.SubTotal += totals.PageSum[page];
-        totals.TaxableTotal += totals.PageTaxable[page];
+        totals.SubTotal = Sum(totals.SubTotal, totals.PageSum[page]);
+        totals.TaxableTotal = Sum(totals.TaxableTotal, totals.PageTaxable[page]);
     }
 }
 
 void TakeRunning(TotalsRecords& totals) {
     totals.SalesTax = TaxOn(totals.TaxableTotal, totals.TaxRate);
-    totals.Total = totals.SubTotal + totals.SalesTax;
+    totals.Total = Sum(totals.SubTotal, totals.SalesTax);
     totals.RunningTotal = totals.Total;
-    totals.Balance = totals.Total - totals.Deposit;
+    totals.Balance = Sum(totals.Total, -totals.Deposit);
+}
+
+/// The person is typing the deposit, and what stands there is the figure already.
+bool DepositIsBeingTyped(const Program& program) {
+    if (program.main.Focus != FieldRef{PageId::frmP6, FieldKind::txt, kDeposit}) {
+        return false;
+    }
+    const std::string_view value = text::Trim(program.pages[PageId::frmP6].txt[kDeposit].Text);
+    return value.empty() ? program.totals.Deposit == 0 : Numeric(program, value) == program.totals.Deposit;
 }
 
 } // namespace
@@ -135,9 +157,9 @@ void CalculateMyTotals(Program& program, PageId page) {
     float taxable = 0;
     for (std::size_t row = 0; row < record.txt.size(); ++row) {
         const float amount = totals.AmountTable[row][at];
-        sum += amount;
+        sum = Sum(sum, amount);
         if (!MarkVisible(record, row)) {
-            taxable += amount;
+            taxable = Sum(taxable, amount);
         }
     }
     totals.PageSum[at] = sum;
@@ -148,7 +170,10 @@ void UpdateRunningTotals(Program& program) {
     TotalsRecords& totals = program.totals;
     const ScopedFlag writing(totals.InRunningUpdate);
     if (totals.TotalsHidden) {
-        WriteFigure(program, kDeposit, Shown(totals.Deposit));
+        // Written over after each digit, a deposit could not be typed at all; leaving the field writes it.
+        if (!DepositIsBeingTyped(program)) {
+            WriteFigure(program, kDeposit, Shown(totals.Deposit));
+        }
         program.pages[PageId::frmP6_1].txt[kDeposit].Text = program.pages[PageId::frmP6].txt[kDeposit].Text;
         return;
     }
@@ -159,7 +184,7 @@ void UpdateRunningTotals(Program& program) {
     WriteFigure(program, kTax, Shown(totals.SalesTax));
     WriteFigure(program, kTotal, Shown(totals.Total));
     WriteFigure(program, kBalance, Shown(totals.Balance));
-    ShowRunningLabel(program);
+    ShowRunningLabel(program, totals.SubTotal);
     ShowSettled(program);
     MirrorFigures(program);
     totals.TotalsStale = false;
@@ -169,14 +194,18 @@ void RecalculateAll(Program& program) {
     if (program.totals.TotalsHidden) {
         return;
     }
-    const ScopedFlag recalculating(program.totals.InRecalculation);
-    AddAllFields(program);
-    WriteFullFigures(program);
-    MirrorFigures(program);
-    program.totals.TotalsStale = false;
-    ShowSettled(program);
-    program.main.lblTotal.Caption =
-        "Running Sub-Total = " + program.settings.CurrencySymbol + " " + Shown(program.totals.FullSubTotal);
+    const bool done = Guarded(program, "RecalculateAll", [&] {
+        const ScopedFlag recalculating(program.totals.InRecalculation);
+        AddAllFields(program);
+        WriteFullFigures(program);
+        MirrorFigures(program);
+        program.totals.TotalsStale = false;
+        ShowSettled(program);
+        ShowRunningLabel(program, program.totals.FullSubTotal);
+    });
+    if (!done) {
+        program.platform.questions.MsgBox("Error encountered while recalculating totals.", Buttons::Ok, "");
+    }
 }
 
 std::string RecalculationMessage(const Program& program) {
@@ -277,7 +306,7 @@ void mnuAdminCheckAddition_Click(Program& program) {
     for (int index = kFirst; index <= kLast; ++index) {
         modFields::SetText(program, field(index), value);
         const auto at = static_cast<std::size_t>(index - kFirst);
-        sums[at + 1] = sums[at] + number;
+        sums[at + 1] = Sum(sums[at], number);
     }
     program.platform.questions.MsgBox(numbers::PlainNumber(sums.back()), Buttons::Ok, "");
 }
@@ -330,8 +359,8 @@ void TotalsAfterReading(Program& program) {
         totals.PageSum[page] = 0;
         totals.PageTaxable[page] = 0;
         for (std::size_t row = 0; row < kRowCount; ++row) {
-            totals.PageSum[page] += totals.AmountTable[row][page];
-            totals.PageTaxable[page] += totals.TaxableTable[row][page];
+            totals.PageSum[page] = Sum(totals.PageSum[page], totals.AmountTable[row][page]);
+            totals.PageTaxable[page] = Sum(totals.PageTaxable[page], totals.TaxableTable[row][page]);
         }
     }
     ComputeRunning(totals);
@@ -359,7 +388,7 @@ void TotalsAfterReading(Program& program) {
         WriteFigure(program, kTax, Shown(totals.SalesTax));
         WriteFigure(program, kTotal, Shown(totals.Total));
         WriteFigure(program, kBalance, Shown(totals.Balance));
-        ShowRunningLabel(program);
+        ShowRunningLabel(program, totals.SubTotal);
         ShowSettled(program);
     }
     WriteFigure(program, kDeposit, Shown(totals.Deposit));

@@ -6,18 +6,20 @@
 
 struct Program;
 
-/// The six figures of the final page, by two computations that are compared when a proposal is saved.
+/// The six figures of the final page, by two computations that are compared when a proposal is saved. A
+/// figure that is too large for a single stays at the largest one.
 namespace modTotals {
 
 /// Sums one line page's amounts, and those without an exempt mark, from the tables.
 void CalculateMyTotals(Program& program, PageId page);
 
 /// The running computation: from the page sums to the six figures on frmP6 and frmP6_1, `lblTotal`, and
-/// `cmdReCalc` in its standard colour. With hidden totals only the deposit is written.
+/// `cmdReCalc` in its standard colour. With hidden totals only the deposit is written, and not over the hands
+/// of the person who is typing it.
 void UpdateRunningTotals(Program& program);
 
 /// The full computation: every amount field again. Writes the total as plain number text. Does nothing with
-/// hidden totals. Reports as "RecalculateAll".
+/// hidden totals. Reports as "RecalculateAll", with a message of its own.
 void RecalculateAll(Program& program);
 
 /// The message of a recalculation: seven lines, the figures of the pass just made.

@@ -1,13 +1,16 @@
 #include "core/files.h"
 #include "document/fields.h"
+#include "document/lifecycle.h"
 #include "document/page_setup.h"
 #include "document/proposal_file.h"
 #include "document/proposal_layout.h"
 #include "document/reset.h"
+#include "document/totals.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <string>
@@ -380,6 +383,153 @@ TEST(Properties, AreKeptAndWrittenBackUnchangedWhileNobodyReadsThem) {
     modFile::SaveEventFile(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/A.hpf"), lines);
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+}
+
+/// Slots cut from a file by hand: what the layout must give for any length of it.
+TEST(ProposalLayout, AFileCutAtAnyLengthIsBlankBeyondItsEnd) {
+    RunningProgram run;
+    const proposal::Widths widths = modFile::SlotWidths(run.program);
+    std::string whole(20630, 'x');
+    for (std::size_t length = 0; length <= whole.size(); length += 7) {
+        const proposal::Decoded decoded =
+            proposal::Decode(std::string_view(whole).substr(0, length), length, widths);
+        std::size_t position = 0;
+        for (const auto& page : decoded.Slots) {
+            for (const std::string_view slot : page) {
+                const std::size_t there =
+                    std::min(slot.size(), length > position ? length - position : std::size_t{0});
+                ASSERT_EQ(slot, std::string(there, 'x') + std::string(slot.size() - there, ' ')) << length;
+                position += slot.size();
+            }
+        }
+        ASSERT_EQ(position, 20530U);
+    }
+}
+
+TEST(ProposalLayout, TheKindByteIsAOneAndNothingElse) {
+    RunningProgram run;
+    const proposal::Widths widths = modFile::SlotWidths(run.program);
+    for (int byte = 0; byte < 256; ++byte) {
+        std::string bytes(20630, ' ');
+        bytes[20628] = static_cast<char>(byte);
+        EXPECT_EQ(proposal::Decode(bytes, bytes.size(), widths).Wedding, byte == '1') << byte;
+    }
+    EXPECT_FALSE(proposal::Decode(std::string(20628, '1'), 20628, widths).Wedding);
+}
+
+TEST(ProposalLayout, ASlotOfNulsThatTheFilesEndCutsIsBlank) {
+    RunningProgram run;
+    const proposal::Widths widths = modFile::SlotWidths(run.program);
+    const proposal::Decoded decoded = proposal::Decode(std::string(60, '\0'), 60, widths);
+    EXPECT_EQ(decoded.Slots[0][0], std::string(25, ' '));
+    EXPECT_EQ(decoded.Slots[0][2], std::string(60, ' '));
+}
+
+TEST(ProposalLayout, AnOldSizeReadAsTwentyRunsThroughTheFileAtOtherOffsets) {
+    RunningProgram run;
+    // 17770 bytes: amounts at 20, descriptions at 100. The final page then begins at 17570.
+    ASSERT_EQ(Open(run, FileWith({{530 + 100, "Second row"}, {1530, "12"}, {17570 + 80, "7"}}, 17770)),
+              modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 11), "Second row");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 20), "12");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "7.00");
+}
+
+TEST(ProposalLayout, TheFinalPageOfTheSmallestOldSizeIsTenBytesAFigure) {
+    RunningProgram run;
+    // 17170 bytes, 10 and 100: frmP1 takes 1630, the four pages 3630 each; the deposit is the fifth figure.
+    ASSERT_EQ(Open(run, FileWith({{1630 + 4 * 3630 + 40, "25"}}, 17170)), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "25.00");
+}
+
+TEST(OpeningAProposal, BlanksBeforeATextStayAndThoseOfTheFinalPageGo) {
+    RunningProgram run;
+    ASSERT_EQ(Open(run, FileWith({{50, "  Ann"}, {1730, "   5"}, {20490, "  30 "}})),
+              modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "  Ann");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 20), "   5");
+    EXPECT_EQ(run.program.totals.AmountTable[20][0], 5);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "30.00");
+}
+
+TEST(OpeningAProposal, AMarkBehindABlankIsNoMark) {
+    RunningProgram run;
+    ASSERT_EQ(Open(run, FileWith({{1730, " \xD8"
+                                         "5"}})),
+              modFile::OpenResult::Opened);
+    EXPECT_FALSE(run.program.pages[PageId::frmP1].imgNoTax[20].Visible);
+    EXPECT_EQ(run.program.totals.AmountTable[20][0], 0);
+}
+
+TEST(OpeningAProposal, AMarkedAmountLosesTheBlanksAroundItAndIsNotTaxed) {
+    RunningProgram run;
+    ASSERT_EQ(Open(run, FileWith({{5890, "\xD8  50"}, {5910, "100"}})), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "50");
+    EXPECT_EQ(Current(run, 1, 33), "  50");
+    EXPECT_EQ(Saved(run, 1, 33), "  50");
+    EXPECT_TRUE(run.program.pages[PageId::frmP2].imgNoTax[33].Visible);
+    EXPECT_EQ(run.program.pages[PageId::frmP2].imgNoTax[33].Tag, "");
+    EXPECT_EQ(run.Label(PageId::frmP2, 1).Tag, "");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "150.00");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
+}
+
+TEST(OpeningAProposal, AFormatsTextStaysAndItsAmountCounts) {
+    RunningProgram run;
+    run.program.format.FormatTextChanges[0][10].FormatText = true;
+    run.Area(PageId::frmP1, 10).Text = "Every event includes";
+    ASSERT_EQ(Open(run, FileWith({{530, "Something else"}, {650, "A row"}})), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "Every event includes");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 11), "A row");
+}
+
+TEST(OpeningAProposal, AQuantityRowCutByItsSlotIsPlainText) {
+    RunningProgram run;
+    // The composed line was longer than 120 and has lost its price with the mark.
+    const std::string cut = "\xA5"
+                            "3\xA5" +
+                            std::string(117, 'd');
+    ASSERT_EQ(Open(run, FileWith({{1930, cut}})), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 0), cut);
+    EXPECT_FALSE(modPages::ColumnsOn(run.program, PageId::frmP2, 0));
+}
+
+TEST(OpeningAProposal, OtherProposalsShowTheLogoAsTheSettingSays) {
+    RunningProgram run;
+    run.program.settings.LogoVisible = true;
+    run.program.pages[PageId::frmP1].pic.Tag = "Hide";
+    ASSERT_EQ(Open(run, FileWith({}), "Jane Doe.hef"), modFile::OpenResult::Opened);
+    EXPECT_TRUE(run.program.settings.LogoVisible);
+    EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Tag, "");
+}
+
+TEST(OpeningAProposal, WithHiddenTotalsWritesTheDepositAloneAndIsUnchanged) {
+    RunningProgram run;
+    modTotals::mnuOptHideTotals_Click(run.program);
+    ASSERT_EQ(Open(run, FileWith({{1730, "100"}, {20410, "999"}, {20490, "30"}})),
+              modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "30.00");
+    EXPECT_EQ(run.TextOf(PageId::frmP6_1, 4), "30.00");
+    EXPECT_FALSE(modTotals::TotalsDiffer(run.program));
+    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+}
+
+TEST(OpeningAProposal, FiresNoHandlerOfAPageAndPutsItsFlagDown) {
+    RunningProgram run;
+    run.program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
+    const auto answer = run.program.hooks.Change;
+    int loud = 0;
+    run.program.hooks.Change = [&](Program& program, const FieldRef& field) {
+        loud += program.guards.Loading ? 0 : 1;
+        answer(program, field);
+    };
+    ASSERT_EQ(Open(run, FileWith({{50, "Ann"}, {1730, "100"}})), modFile::OpenResult::Opened);
+    EXPECT_EQ(loud, 0);
+    EXPECT_FALSE(run.program.guards.Loading);
+    EXPECT_EQ(run.program.document.FileName, "A.hef") << "the client read from a file names no file";
+    EXPECT_TRUE(run.program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled);
+    EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + run.program.document.FilePath);
 }
 
 } // namespace

@@ -8,6 +8,11 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
 namespace {
 
 void Amount(RunningProgram& run, PageId page, int index, std::string_view text) {
@@ -242,6 +247,187 @@ TEST(CheckOfAddition, PutsTheValueInEveryRowAndTellsTheSum) {
     EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "10");
     EXPECT_EQ(run.TextOf(PageId::frmP2, 65), "10");
     EXPECT_EQ(run.surroundings.questions.Prompts.back(), "Please enter value");
+}
+
+/// Amounts put on the pages and into the tables; `Times` rows from `First` on.
+struct Rows {
+    PageId Page;
+    int First;
+    int Times;
+    const char* Text;
+    bool Exempt;
+};
+
+/// A proposal and what must stand on its final page. Worked out apart from this program: every sum and
+/// product carried out exactly and rounded to 24 binary digits, shown on the shortest decimal that leads back
+/// to it.
+struct WorkedOut {
+    const char* Name;
+    float Rate;
+    float Deposit;
+    std::vector<Rows> Amounts;
+    Texts Running;
+    Texts Full;
+    bool Differ;
+};
+
+void PrintTo(const WorkedOut& example, std::ostream* out) {
+    *out << example.Name;
+}
+
+class WorkedOutTotals : public testing::TestWithParam<WorkedOut> {};
+
+TEST_P(WorkedOutTotals, AgreeToTheCent) {
+    const WorkedOut& example = GetParam();
+    RunningProgram run;
+    run.program.totals.TaxRate = example.Rate;
+    for (const Rows& rows : example.Amounts) {
+        for (int index = rows.First; index < rows.First + rows.Times; ++index) {
+            run.Area(rows.Page, index).Text = rows.Text;
+            modPages::SetNoTaxMark(run.program, rows.Page, index,
+                                   rows.Exempt ? modPages::Mark::Shown : modPages::Mark::Hidden);
+            EXPECT_TRUE(modTotals::StoreAmount(run.program, rows.Page, index));
+        }
+        modTotals::CalculateMyTotals(run.program, rows.Page);
+    }
+    run.program.totals.Deposit = example.Deposit;
+    modTotals::RecalculateAll(run.program);
+    EXPECT_EQ(Figures(run), example.Full);
+    EXPECT_EQ(Figures(run, PageId::frmP6_1), example.Full);
+    modTotals::UpdateRunningTotals(run.program);
+    Texts running = Figures(run);
+    EXPECT_EQ(running, example.Running);
+    EXPECT_EQ(Figures(run, PageId::frmP6_1), running);
+    EXPECT_EQ(modTotals::TotalsDiffer(run.program), example.Differ);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, WorkedOutTotals,
+    testing::Values(
+        // 262144.01 is no single: the nearest is 262144.
+        WorkedOut{"a quarter of a million",
+                  8.25F,
+                  0,
+                  {{PageId::frmP1, 20, 1, "262144.01", false}},
+                  {"262,144.00", "262,144.00", "21,626.88", "283,770.88", "0.00", "283,770.88"},
+                  {"262,144.00", "262,144.00", "21,626.88", "283770.9", "0.00", "283,770.88"},
+                  false},
+        // Ten tenths make 1.0000001 in singles.
+        WorkedOut{"ten tenths",
+                  8.25F,
+                  0,
+                  {{PageId::frmP2, 33, 10, "0.1", false}},
+                  {"1.00", "1.00", "0.08", "1.08", "0.00", "1.08"},
+                  {"1.00", "1.00", "0.08", "1.0825", "0.00", "1.08"},
+                  false},
+        WorkedOut{"four full pages",
+                  8.25F,
+                  0,
+                  {{PageId::frmP2, 33, 33, "19.99", false},
+                   {PageId::frmP3, 33, 33, "19.99", false},
+                   {PageId::frmP4, 33, 33, "19.99", false},
+                   {PageId::frmP5, 33, 33, "19.99", false}},
+                  {"2,638.68", "2,638.68", "217.69", "2,856.37", "0.00", "2,856.37"},
+                  {"2,638.68", "2,638.68", "217.69", "2856.37", "0.00", "2,856.37"},
+                  false},
+        WorkedOut{"small, exempt and negative",
+                  7.125F,
+                  0.5F,
+                  {{PageId::frmP1, 20, 1, "1.005", false},
+                   {PageId::frmP2, 33, 1, "2.675", true},
+                   {PageId::frmP3, 33, 1, "0.825", false},
+                   {PageId::frmP5, 33, 1, "-0.825", false},
+                   {PageId::frmP5, 34, 1, "-3", true}},
+                  {"0.68", "1.00", "0.07", "0.75", "0.50", "0.25"},
+                  {"0.68", "1.00", "0.07", "0.7516058", "0.50", "0.25"},
+                  false},
+        // Fifty amounts by page and by field: 1784999.5 against 1785000.25.
+        WorkedOut{"thirds by the fifty",
+                  8.875F,
+                  12345.67F,
+                  {{PageId::frmP1, 20, 10, "33333.33", false},
+                   {PageId::frmP2, 33, 10, "33333.33", false},
+                   {PageId::frmP3, 33, 10, "33333.33", true},
+                   {PageId::frmP4, 33, 10, "33333.33", false},
+                   {PageId::frmP5, 33, 10, "33333.33", false}},
+                  {"1,666,666.20", "1,333,333.00", "118,333.31", "1,784,999.50", "12,345.67", "1,772,653.90"},
+                  {"1,666,666.90", "1,333,333.10", "118,333.31", "1785000", "12,345.67", "1,772,654.60"},
+                  true},
+        WorkedOut{"no tax at all",
+                  0,
+                  0,
+                  {{PageId::frmP4, 65, 1, "103.125", false}},
+                  {"103.13", "103.13", "0.00", "103.13", "0.00", "103.13"},
+                  {"103.13", "103.13", "0.00", "103.125", "0.00", "103.13"},
+                  false},
+        WorkedOut{"beyond a single's whole numbers",
+                  8.25F,
+                  0,
+                  {{PageId::frmP1, 20, 1, "16777216", true}, {PageId::frmP2, 33, 2, "1", true}},
+                  {"16,777,218.00", "0.00", "0.00", "16,777,218.00", "0.00", "16,777,218.00"},
+                  {"16,777,216.00", "0.00", "0.00", "1.677722E+07", "0.00", "16,777,216.00"},
+                  true}));
+
+TEST(RunningTotals, StayNumbersWhenASumIsTooLargeForASingle) {
+    RunningProgram run;
+    for (const int index : {33, 34}) {
+        run.Area(PageId::frmP2, index).Text = "3e38";
+        EXPECT_TRUE(modTotals::StoreAmount(run.program, PageId::frmP2, index));
+    }
+    run.program.totals.Deposit = -3e38F;
+    modTotals::CalculateMyTotals(run.program, PageId::frmP2);
+    modTotals::RecalculateAll(run.program);
+    modTotals::UpdateRunningTotals(run.program);
+    // The largest single is 34028235 and 31 more places.
+    const std::string largest = "340,282,350,000,000,000,000,000,000,000,000,000,000.00";
+    EXPECT_EQ(Figures(run)[0], largest);
+    EXPECT_EQ(Figures(run)[3], largest);
+    EXPECT_EQ(Figures(run)[5], largest);
+    EXPECT_FALSE(modTotals::TotalsDiffer(run.program));
+}
+
+TEST(RunningTotals, AnAmountThatNoSingleHoldsIsNone) {
+    RunningProgram run;
+    run.Area(PageId::frmP2, 33).Text = "1e39";
+    EXPECT_FALSE(modTotals::StoreAmount(run.program, PageId::frmP2, 33));
+    EXPECT_EQ(run.program.totals.AmountTable[33][1], 0);
+    EXPECT_FALSE(run.Label(PageId::frmP2, 1).Visible);
+}
+
+TEST(FullRecalculation, ThatFailsIsReportedAndLeavesItsFlagDown) {
+    RunningProgram run;
+    run.Area(PageId::frmP1, 20).Text = "5";
+    run.program.hooks.Change = [](Program&, const FieldRef&) { throw std::runtime_error("out of order"); };
+    run.surroundings.questions.Expect(
+        "An error occurred in RecalculateAll.\r\nError Number: 51\r\nError Description: out of order");
+    run.surroundings.questions.ExpectBox({"Error encountered while recalculating totals.", Buttons::Ok, ""},
+                                         Answer::Ok);
+    modTotals::RecalculateAll(run.program);
+    EXPECT_FALSE(run.program.totals.InRecalculation);
+}
+
+TEST(HiddenTotals, ADepositCanBeTypedWhileTheyAreHidden) {
+    RunningProgram run;
+    Amount(run, PageId::frmP1, 20, "100");
+    modTotals::mnuOptHideTotals_Click(run.program);
+    Typist typist(run.program);
+    typist.Click(PageId::frmP6, 4);
+    typist.Type("1500.5");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "1500.5");
+    EXPECT_EQ(run.TextOf(PageId::frmP6_1, 4), "1500.5");
+    EXPECT_EQ(run.program.totals.Deposit, 1500.5F);
+    typist.Click(PageId::frmP6, 1);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "1,500.50");
+    EXPECT_EQ(run.TextOf(PageId::frmP6_1, 4), "1,500.50");
+}
+
+TEST(FinalPage, WhileAFileIsReadItsAreasAreMirroredAndTakenForNothing) {
+    RunningProgram run;
+    run.program.guards.Loading = true;
+    modFields::SetText(run.program, {PageId::frmP6, FieldKind::txt, 4}, "75");
+    EXPECT_EQ(run.TextOf(PageId::frmP6_1, 4), "75");
+    EXPECT_EQ(run.program.totals.Deposit, 0);
+    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
 }
 
 } // namespace
