@@ -3,7 +3,7 @@
 #include "desktop/page_view.h"
 #include "desktop/qt_platform.h"
 #include "output/print_page.h"
-#include "shell/start_up.h"
+#include "shell/main_load.h"
 #include "shell/wiring.h"
 #include "support/recording_platform.h"
 #include "support/scratch_folder.h"
@@ -62,7 +62,7 @@ struct Desktop {
         Wire(program);
         window = std::make_unique<FrmMainView>(program, qt.measure);
         qt.events.Follow = [this] { window->Follow(); };
-        modMain::Main(program);
+        modMain::MDIForm_Load(program); // without the splash, which waits for a person
         program.main.State = WindowState::Normal;
         window->ShowFirst();
         static_cast<void>(QTest::qWaitForWindowExposed(window.get()));

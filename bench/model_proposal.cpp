@@ -6,7 +6,7 @@
 #include "document/totals.h"
 #include "editing/text_areas.h"
 #include "shell/input.h"
-#include "shell/start_up.h"
+#include "shell/main_load.h"
 #include "shell/wiring.h"
 #include "support/recording_platform.h"
 #include "support/scratch_folder.h"

@@ -33,6 +33,9 @@ public:
     bool Closing = false;
     /// A floating window that has stepped aside.
     bool Minimised = false;
+    /// Place on the screen, twips; the front end keeps it true.
+    float Left = 0;
+    float Top = 0;
 };
 
 /// Every open window but the main one, in the order of opening.

@@ -185,6 +185,7 @@ PageView& FrmMainView::PageOf(PageId page) {
 }
 
 void FrmMainView::ShowFirst() {
+    shown_ = true;
     resize(1024, 740);
     Resized();
     if (program_.main.State == WindowState::Maximised) {
@@ -208,10 +209,15 @@ void FrmMainView::Follow() {
     if (windowTitle() != title) {
         setWindowTitle(title);
     }
-    menus_->Follow(program_);
-    strip_->Follow();
-    FollowLabels();
-    FollowPages();
+    if (program_.main.Loaded) {
+        menus_->Follow(program_);
+        strip_->Follow();
+        FollowLabels();
+        FollowPages();
+        if (!shown_) {
+            ShowFirst();
+        }
+    }
     windows_->Follow();
 }
 
@@ -256,9 +262,6 @@ void FrmMainView::FollowPages() {
     scroll_->setSingleStep(bar.SmallChange);
     if (scroll_->value() != bar.Value) {
         scroll_->setValue(bar.Value);
-    }
-    if (!program_.main.Loaded) {
-        return;
     }
     const PageId front = program_.main.PageInFront;
     PageView& view = PageOf(front);

@@ -46,7 +46,7 @@ public:
 
     /// Sets everything on show that differs from the records.
     void Follow();
-    /// Shows the window for the first time.
+    /// Shows the window for the first time; runs by itself when the model has loaded.
     void ShowFirst();
     /// What ends every event: closed windows leave, then everything on show follows.
     void AfterEvent();
@@ -84,4 +84,5 @@ private:
     std::array<PageView*, kPageCount> pages_{};
     std::unique_ptr<WindowViews> windows_;
     bool following_ = false;
+    bool shown_ = false;
 };

@@ -26,7 +26,7 @@ int Run() {
     if (modMain::Main(program) != modMain::StartResult::Running) {
         return 0;
     }
-    window.ShowFirst();
+    window.AfterEvent(); // a click may have come while the splash was still busy
     return QApplication::exec();
 }
 
@@ -37,6 +37,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("Quillbrook"));
     QApplication::setApplicationVersion(QStringLiteral(QUILLBROOK_VERSION));
     QApplication::setWindowIcon(icons::Program());
+    QApplication::setQuitOnLastWindowClosed(false); // the model says when the run ends
     QApplication::setStyle(QStringLiteral("Fusion"));
     return Run();
 }

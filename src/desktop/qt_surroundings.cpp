@@ -11,6 +11,7 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QFontDatabase>
 #include <QFontInfo>
@@ -21,6 +22,7 @@
 #include <QSaveFile>
 #include <QScreen>
 #include <QStandardPaths>
+#include <QTimer>
 #include <QUrl>
 
 #include <algorithm>
@@ -75,7 +77,7 @@ constexpr const char* kFaces[] = {"Liberation Sans", "Liberation Mono", "Liberat
 } // namespace
 
 QWidget* QtQuestions::Below() const {
-    return Over != nullptr && Over->isVisible() ? Over : nullptr;
+    return Over != nullptr && Over->isVisible() ? Over : QApplication::activeWindow();
 }
 
 Answer QtQuestions::MsgBox(std::string_view text, Buttons buttons, std::string_view title) {
@@ -198,23 +200,28 @@ double QtClock::Now() const {
         .value_or(0);
 }
 
-bool QtSingleInstance::Claim(std::string_view installFolder) {
-    QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (folder.isEmpty()) {
-        folder = QDir::tempPath();
-    }
+SingleInstance::Result QtSingleInstance::Claim(std::string_view installFolder) {
     const QByteArray key = QCryptographicHash::hash(QByteArray::fromStdString(std::string(installFolder)),
                                                     QCryptographicHash::Sha1)
                                .toHex()
                                .left(16);
-    lock_ = std::make_unique<QLockFile>(
-        QDir(folder).filePath(QStringLiteral("quillbrook-%1.lock").arg(QLatin1String(key))));
-    lock_->setStaleLockTime(0); // only a process that is no more makes a lock stale
-    if (lock_->tryLock(0)) {
-        return true;
+    // The folder for temporary files is shared by all users of the machine; the lock there carries the name.
+    const QString user = QString::fromLocal8Bit(qgetenv("USER"));
+    const QStringList places{QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
+                                 QStringLiteral("/quillbrook-%1.lock"),
+                             QDir::tempPath() + QStringLiteral("/quillbrook-") + user +
+                                 QStringLiteral("-%1.lock")};
+    for (const QString& place : places) {
+        lock_ = std::make_unique<QLockFile>(place.arg(QLatin1String(key)));
+        lock_->setStaleLockTime(0); // only a process that is no more makes a lock stale
+        if (lock_->tryLock(0)) {
+            return Result::Claimed;
+        }
+        if (lock_->error() == QLockFile::LockFailedError) {
+            return Result::Taken;
+        }
     }
-    // Where no lock can be made at all, a person must still be able to work.
-    return lock_->error() != QLockFile::LockFailedError;
+    return Result::CannotTell;
 }
 
 std::optional<PictureSize> QtPictures::Load(std::string_view path) {
@@ -233,6 +240,13 @@ void QtEventLoop::LetEventsRun() {
         Follow();
     }
     QCoreApplication::processEvents();
+}
+
+void QtEventLoop::LetEventsRunFor(int milliseconds) {
+    LetEventsRun();
+    QEventLoop pause;
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &pause, &QEventLoop::quit);
+    pause.exec();
 }
 
 void QtEventLoop::Quit() {

@@ -24,7 +24,7 @@ public:
     std::function<void()> BeforeAsking;
 
 private:
-    /// Before the window shows there is nothing to stand over: boxes are centred on the screen.
+    /// Before the main window shows, a box stands over whatever window does, or in the middle of the screen.
     [[nodiscard]] QWidget* Below() const;
 };
 
@@ -57,7 +57,7 @@ public:
 /// broken.
 class QtSingleInstance : public SingleInstance {
 public:
-    [[nodiscard]] bool Claim(std::string_view installFolder) override;
+    [[nodiscard]] Result Claim(std::string_view installFolder) override;
 
 private:
     std::unique_ptr<QLockFile> lock_;
@@ -71,6 +71,7 @@ public:
 class QtEventLoop : public EventLoop {
 public:
     void LetEventsRun() override;
+    void LetEventsRunFor(int milliseconds) override;
     void Quit() override;
     /// Shows the present state of the records.
     std::function<void()> Follow;

@@ -3,6 +3,8 @@
 #include "core/program.h"
 #include "desktop/convert.h"
 
+#include <QEvent>
+
 #include <algorithm>
 
 WindowView::WindowView(Program& program, Window& window, QWidget* over, std::function<void()> afterEvent)
@@ -15,6 +17,24 @@ void WindowView::Follow() {
     const QString caption = convert::ToQString(window_.Caption);
     if (windowTitle() != caption) {
         setWindowTitle(caption);
+    }
+    if (isVisible() && isMinimized() != window_.Minimised) {
+        window_.Minimised ? showMinimized() : showNormal();
+    }
+}
+
+void WindowView::moveEvent(QMoveEvent* event) {
+    QDialog::moveEvent(event);
+    constexpr float kTwipsPerInch = 1440;
+    const float twips = kTwipsPerInch / static_cast<float>(logicalDpiX());
+    window_.Left = static_cast<float>(x()) * twips;
+    window_.Top = static_cast<float>(y()) * twips;
+}
+
+void WindowView::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) {
+        window_.Minimised = isMinimized(); // a person may do it, too
     }
 }
 

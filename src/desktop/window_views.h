@@ -25,6 +25,8 @@ protected:
         after();
     }
     void reject() override;
+    void moveEvent(QMoveEvent* event) override;
+    void changeEvent(QEvent* event) override;
     Program& program_;
     Window& window_;
 
@@ -49,4 +51,4 @@ private:
 
 /// The view for a window, chosen by its name.
 [[nodiscard]] std::unique_ptr<WindowView> MakeWindowView(Program& program, Window& window, QWidget* over,
-                                                         std::function<void()> afterEvent);
+                                                         const std::function<void()>& afterEvent);

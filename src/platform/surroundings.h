@@ -47,8 +47,10 @@ public:
 class SingleInstance {
 public:
     virtual ~SingleInstance() = default;
-    /// False when another instance for the same user and program folder runs.
-    [[nodiscard]] virtual bool Claim(std::string_view installFolder) = 0;
+    /// Another instance counts when it runs for the same user and program folder. `CannotTell` when no lock
+    /// could be made; the run goes on then.
+    enum class Result { Claimed, Taken, CannotTell };
+    [[nodiscard]] virtual Result Claim(std::string_view installFolder) = 0;
 };
 
 class Pictures {
@@ -64,6 +66,8 @@ public:
     virtual ~EventLoop() = default;
     /// Shows the present state of the records and lets pending events run.
     virtual void LetEventsRun() = 0;
+    /// The same for that long; an animation takes its pace from it.
+    virtual void LetEventsRunFor(int milliseconds) = 0;
     /// The program is to end; the main window has closed.
     virtual void Quit() = 0;
 };

@@ -1,5 +1,9 @@
 #include "shell/command_run.h"
 
+#include "core/frm_acstart.h"
+#include "core/frm_poffsets.h"
+#include "core/frm_pref.h"
+#include "core/frm_printers.h"
 #include "core/frm_tax.h"
 #include "core/program.h"
 #include "core/settings.h"
@@ -27,8 +31,8 @@ template <PageId page> void PrintPage(Program& program) {
     modPrint::mnuFilePrintPage_Click(program, page);
 }
 
-void ShowTaxRate(Program& program) {
-    modWindows::Show(program, std::make_unique<frmTax>());
+template <typename Form> void ShowWindow(Program& program) {
+    modWindows::Show(program, std::make_unique<Form>());
 }
 
 template <CommandId id> void Toggle(Program& program) {
@@ -73,11 +77,15 @@ constexpr std::array kRoutes{
     Route{CommandId::mnuEditTextCenter, modMain::mnuEditTextCenter_Click},
     Route{CommandId::mnuEditTextTaxExempt, modColumns::mnuEditTextTaxExempt_Click},
     Route{CommandId::mnuEditTextTaxable, modColumns::mnuEditTextTaxable_Click},
-    Route{CommandId::mnuOptSalesTax, ShowTaxRate},
+    Route{CommandId::mnuOptPrinter, modMain::mnuOptPrinter_Click},
+    Route{CommandId::mnuOptACStart, ShowWindow<frmACStart>},
+    Route{CommandId::mnuOptSalesTax, ShowWindow<frmTax>},
     Route{CommandId::mnuOptNetwork, modSettings::RequestNetworkSharePath},
     Route{CommandId::mnuOptEnableOverwriteFmtTextBoxes, ToggleOverwrite},
     Route{CommandId::mnuOptHideTotals, modTotals::mnuOptHideTotals_Click},
+    Route{CommandId::mnuOptUserPref, ShowWindow<frmPref>},
     Route{CommandId::mnuOptUnderline, ToggleUnderline},
+    Route{CommandId::mnuToolsPrinterOffsets, ShowWindow<frmPOffsets>},
     Route{CommandId::mnuToolsRecalculate, modTotals::mnuToolsRecalculate_Click},
     Route{CommandId::mnuAdminCheckAddition, modTotals::mnuAdminCheckAddition_Click},
     Route{CommandId::mnuOptCurrencySymbol, modMain::mnuOptCurrencySymbol_Click},

@@ -2,20 +2,15 @@
 
 #include "core/errors.h"
 #include "core/files.h"
-#include "core/guard.h"
 #include "core/paths.h"
 #include "core/program.h"
 #include "core/settings.h"
 #include "core/text.h"
-#include "document/fields.h"
-#include "document/file_names.h"
-#include "document/page_setup.h"
-#include "document/reset.h"
-#include "document/titles.h"
-#include "shell/command_table.h"
+#include "core/windows.h"
+#include "shell/frm_splash.h"
 
 #include <algorithm>
-#include <optional>
+#include <memory>
 
 namespace modMain {
 
@@ -43,93 +38,22 @@ bool FontIsThere(const Program& program) {
                        [](const std::string& font) { return text::EqualNoCase(font, kNeededFont); });
 }
 
-void DisableAtStart(Program& program) {
-    for (const CommandId id :
-         {CommandId::mnuOptCopyToBusinessAddressBook, CommandId::mnuOptCopyToPersonalAddressBook,
-          CommandId::mnuAdminConvert, CommandId::mnuAdminPrintAll, CommandId::mnuAdminRecalc,
-          CommandId::mnuEditTextDeselect, CommandId::mnuEditTextMoveDown, CommandId::mnuEditTextMoveUp,
-          CommandId::mnuEditTextPaste, CommandId::mnuEditTextUndo, CommandId::mnuFileRestoreFromBackup}) {
-        program.main[id].Enabled = false;
-    }
-}
-
-void OpenSideWindows(Program& program) {
-    constexpr int kWideScreen = 1024;
-    if (program.platform.screen.WidthInPixels() >= kWideScreen) {
-        if (!program.settings.ShowFUT) {
-            program.run.ACEnabled = false;
-        } else if (program.hooks.ShowTermsWindow) {
-            program.hooks.ShowTermsWindow(program);
-        }
-    }
-    if (program.settings.ShowCalc && program.hooks.ShowCalculator) {
-        program.hooks.ShowCalculator(program);
-    }
-}
-
-/// A font of the settings that is not installed gives way to the one the pages are designed in.
-void SettleDefaultFont(Program& program) {
-    if (!program.run.DefaultFontFound) {
-        program.run.DefaultFontName = kNeededFont;
-    }
-}
-
-void LoadSteps(Program& program) {
-    if (!program.settings.PrefsRead) {
-        modSettings::GetUserPreferences(program);
-    }
-    if (!program.run.FontsLoaded) {
-        LoadTheFonts(program);
-    }
-    SettleDefaultFont(program);
-    modSettings::GetTaxRate(program);
-    program.document.FileFilter = "*.hef";
-    program.document.DocumentKind = "Event";
-    program.format.PropTextChanges = {};
-    program.format.PropLabelChanges = {};
-    program.format.FormatTextChanges = {};
-    program.format.FormatLabelChanges = {};
-    program.format.LabelSavedState = {};
-    {
-        const ScopedFlag silent(program.guards.ResetActive);
-        DisableAtStart(program);
-        program.run.ACEnabled = program.settings.AutoCompleteWord;
-        program.run.ACStartLen = program.settings.AutoStartPosition;
-        SetPageHeading(program, "Event Proposal");
-        ConvertOldFiles(program);
-        for (const PageId page : kAllPages) {
-            modPages::SetUpPage(program, page);
-        }
-        modPages::ApplyPageFonts(program);
-        static_cast<void>(StartNewFile(program));
-        modPages::SnapshotLabels(program);
-        if (!program.run.TermsPinned) {
-            program.run.FUTFileName = "Default Terms.fut";
-        }
-        OpenSideWindows(program);
-    }
-    for (CommandButton* button :
-         {&program.main.cmdPreview, &program.main.cmdReCalc, &program.main.cmdTaxRate}) {
-        button->Enabled = true;
-    }
-    program.main.lblDir.Caption = "Current Folder = " + DataFolder(program);
-    for (const PageId page : {PageId::frmP2, PageId::frmP3, PageId::frmP4, PageId::frmP5, PageId::frmP1}) {
-        modPages::EnsureRowFields(program, page);
-    }
-    modPages::ApplyPageFonts(program);
-    modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
-    if (program.hooks.ReadEventDates) {
-        program.hooks.ReadEventDates(program);
-    }
-}
-
 } // namespace
 
 StartResult Main(Program& program) {
     Questions& questions = program.platform.questions;
-    if (!program.platform.instance.Claim(program.folders.InstallFolder)) {
+    switch (program.platform.instance.Claim(program.folders.InstallFolder)) {
+    case SingleInstance::Result::Claimed:
+        break;
+    case SingleInstance::Result::Taken:
         questions.MsgBox("Another instance of this application is already running.", Buttons::Ok, "");
         return StartResult::Ended;
+    case SingleInstance::Result::CannotTell:
+        questions.MsgBox(
+            text::Lines({"The file that keeps this application from running twice could not be made.",
+                         "Please make sure that it is not running already."}),
+            Buttons::Ok, "");
+        break;
     }
     StartResult result = StartResult::Running;
     Guarded(program, "Main", [&] {
@@ -149,55 +73,10 @@ StartResult Main(Program& program) {
             result = StartResult::Ended;
             return;
         }
-        MDIForm_Load(program);
+        auto& splash = static_cast<frmSplash&>(modWindows::Show(program, std::make_unique<frmSplash>()));
+        splash.GatherFourCorners(program);
     });
     return result;
-}
-
-void MDIForm_Load(Program& program) {
-    const ScopedFlag keep(program.guards.KeepPageContent);
-    const ScopedFlag starting(program.guards.StartingUp);
-    commands::LoadDesignState(program);
-    Guarded(program, "MDIForm_Load", [&] { LoadSteps(program); });
-    program.main.Loaded = true;
-}
-
-void LoadTheFonts(Program& program) {
-    Guarded(program, "LoadTheFonts", [&] {
-        RunState& run = program.run;
-        run.FontList.clear();
-        for (const std::string& font : program.platform.screen.Fonts()) {
-            run.FontList.push_back(font);
-            run.DefaultFontFound = run.DefaultFontFound || font == program.settings.SavedFontName;
-        }
-        program.platform.events.LetEventsRun();
-        run.FontsLoaded = true;
-    });
-}
-
-void ConvertOldFiles(Program& program) {
-    Guarded(program, "ConvertOldFiles", [&] {
-        const std::string folder = DataFolder(program);
-        if (!files::IsFolder(folder)) {
-            return;
-        }
-        // One that stays as it is does not keep the others; the first failure is told at the end.
-        std::optional<files::FileError> failure;
-        for (const std::string& name : files::List(folder, "*.hwf")) {
-            const std::string to = paths::Join(folder, std::string(paths::BaseOf(name)) + ".hef");
-            try {
-                if (files::Exists(to)) {
-                    throw files::FileError(files::kAlreadyExists, "File already exists: " + to);
-                }
-                files::Rename(paths::Join(folder, name), to);
-            } catch (const files::FileError& error) {
-                failure = failure.value_or(error);
-            }
-        }
-        if (failure) {
-            throw files::FileError(*failure);
-        }
-    });
 }
 
 } // namespace modMain

@@ -23,8 +23,9 @@ DesktopRun::DesktopRun() {
     window = std::make_unique<FrmMainView>(program, measure);
     events.Follow = [this] { window->Follow(); };
     EXPECT_EQ(modMain::Main(program), modMain::StartResult::Running);
-    program.main.State = WindowState::Normal;
-    window->ShowFirst();
+    PassSplash(program);
+    window->AfterEvent();
+    window->showNormal();
     window->resize(1024, 768);
     window->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));

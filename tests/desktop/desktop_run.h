@@ -13,6 +13,12 @@
 #include <memory>
 #include <string>
 
+/// Events run, but nobody waits for an animation's sake.
+class HastyEvents : public QtEventLoop {
+public:
+    void LetEventsRunFor(int) override { LetEventsRun(); }
+};
+
 /// The program in its real window, with scripted answers to its questions and a folder of its own.
 class DesktopRun {
 public:
@@ -39,7 +45,7 @@ public:
     QtTextMeasure measure;
     QtPrinters printers{measure};
     QtClipboard clipboard;
-    QtEventLoop events;
+    HastyEvents events;
     Platform platform{.questions = recording.questions,
                       .measure = measure,
                       .printers = printers,

@@ -16,7 +16,14 @@ namespace {
 
 struct Starting : RunningProgram {
     Starting() : RunningProgram(Begin::NotStarted) {}
-    modMain::StartResult Main() { return modMain::Main(program); }
+    /// The entry routine, and a click on the splash if it came to that.
+    modMain::StartResult Main() {
+        const modMain::StartResult result = modMain::Main(program);
+        if (result == modMain::StartResult::Running) {
+            PassSplash(program);
+        }
+        return result;
+    }
 };
 
 const ScriptedQuestions::Box kFontQuestion{
@@ -31,7 +38,7 @@ TEST(StartUp, ASecondInstanceEndsAtItsMessageAndReadsNoFile) {
     Starting run;
     run.Setting("App First Instance:", "True");
     run.folder.Write("Proposals/Old.hwf", "x");
-    run.surroundings.instance.Free = false;
+    run.surroundings.instance.Answer = SingleInstance::Result::Taken;
     run.surroundings.questions.ExpectBox(
         {"Another instance of this application is already running.", Buttons::Ok, ""}, Answer::Ok);
     EXPECT_EQ(run.Main(), modMain::StartResult::Ended);
@@ -211,6 +218,8 @@ TEST(StartUp, AFontThatIsNotThereGivesWayForTheRunOnly) {
 TEST(StartUp, WithoutSettingsItTellsAndStandsBeforeAnEmptyProposal) {
     Starting run;
     std::filesystem::remove(run.folder / "UserPreferences.txt");
+    // Once under the splash, and again when the main window still finds them unread.
+    run.surroundings.questions.Expect("An error occurred in GetUserPreferences.");
     run.surroundings.questions.Expect("An error occurred in GetUserPreferences.");
     EXPECT_EQ(run.Main(), modMain::StartResult::Running);
     EXPECT_TRUE(run.program.main.Loaded);

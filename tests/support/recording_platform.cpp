@@ -157,3 +157,8 @@ void CountingEvents::LetEventsRun() {
         OnYield();
     }
 }
+
+void CountingEvents::LetEventsRunFor(int milliseconds) {
+    Waited += milliseconds;
+    LetEventsRun();
+}

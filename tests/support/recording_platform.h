@@ -167,11 +167,11 @@ public:
 
 class FakeInstance : public SingleInstance {
 public:
-    bool Free = true;
+    Result Answer = Result::Claimed;
     std::vector<std::string> Asked;
-    [[nodiscard]] bool Claim(std::string_view installFolder) override {
+    [[nodiscard]] Result Claim(std::string_view installFolder) override {
         Asked.emplace_back(installFolder);
-        return Free;
+        return Answer;
     }
 };
 
@@ -184,9 +184,11 @@ public:
 class CountingEvents : public EventLoop {
 public:
     int Yields = 0;
+    int Waited = 0; ///< milliseconds
     bool QuitAsked = false;
     std::function<void()> OnYield; ///< what happens when events may run
     void LetEventsRun() override;
+    void LetEventsRunFor(int milliseconds) override;
     void Quit() override { QuitAsked = true; }
 };
 

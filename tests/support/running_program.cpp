@@ -1,8 +1,10 @@
 #include "support/running_program.h"
 
+#include "core/windows.h"
 #include "editing/keys.h"
 #include "shell/command_run.h"
 #include "shell/frm_main.h"
+#include "shell/frm_splash.h"
 #include "shell/start_up.h"
 #include "shell/wiring.h"
 #include "support/typist.h"
@@ -37,6 +39,7 @@ void RunningProgram::Start() {
     if (modMain::Main(program) != modMain::StartResult::Running) {
         throw std::runtime_error("the program did not start");
     }
+    PassSplash(program);
 }
 
 void RunningProgram::Setting(std::string_view key, std::string_view value) const {
@@ -48,6 +51,15 @@ void RunningProgram::Setting(std::string_view key, std::string_view value) const
     const std::size_t from = at + key.size();
     lines.replace(from, lines.find("\r\n", from) - from, value);
     folder.Write("UserPreferences.txt", lines);
+}
+
+void PassSplash(Program& program) {
+    auto* splash = dynamic_cast<frmSplash*>(modWindows::Find(program, "frmSplash"));
+    if (splash == nullptr) {
+        throw std::runtime_error("no splash to click on");
+    }
+    splash->Form_Click(program);
+    modWindows::Sweep(program);
 }
 
 void TypeJaneRoe(RunningProgram& run) {

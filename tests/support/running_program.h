@@ -31,6 +31,9 @@ public:
     Program program{surroundings.platform};
 };
 
+/// Clicks on the splash, which brings the main window.
+void PassSplash(Program& program);
+
 /// Types the proposal of Jane Roe from an empty start, by keys and clicks alone.
 void TypeJaneRoe(RunningProgram& run);
 

@@ -1,0 +1,15 @@
+#pragma once
+
+struct Program;
+struct SplashPicture;
+
+namespace modMain {
+
+/// Reads the screen's fonts into FontList, letting events run between them. The first time it is told on the
+/// splash, if there is one. Reports as "LoadTheFonts".
+void LoadTheFonts(Program& program, SplashPicture* splash = nullptr);
+
+/// A font of the settings that is not installed gives way to the one the pages are designed in.
+void SettleDefaultFont(Program& program);
+
+} // namespace modMain

@@ -1,0 +1,210 @@
+#include "shell/frm_splash.h"
+
+#include "core/windows.h"
+#include "shell/start_up.h"
+#include "support/running_program.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <set>
+
+namespace {
+
+struct Splash : RunningProgram {
+    Splash() : RunningProgram(Begin::NotStarted) {}
+    void Begin() { EXPECT_EQ(modMain::Main(program), modMain::StartResult::Running); }
+    [[nodiscard]] frmSplash* Window() {
+        return dynamic_cast<frmSplash*>(modWindows::Find(program, "frmSplash"));
+    }
+    [[nodiscard]] std::vector<SplashText> Texts(std::string_view words) {
+        std::vector<SplashText> found;
+        for (const SplashText& text : Window()->Picture.Texts) {
+            if (text.Text == words) {
+                found.push_back(text);
+            }
+        }
+        return found;
+    }
+};
+
+TEST(Splash, ReadsSettingsAndFontsAndThenWaitsForThePerson) {
+    Splash run;
+    run.Begin();
+    ASSERT_NE(run.Window(), nullptr);
+    EXPECT_EQ(run.Window()->Caption, "Splash Screen");
+    EXPECT_TRUE(run.program.run.SplashShown);
+    EXPECT_TRUE(run.program.settings.PrefsRead);
+    EXPECT_TRUE(run.program.run.FontsLoaded);
+    EXPECT_FALSE(run.program.main.Loaded);
+    EXPECT_TRUE(run.program.pages[PageId::frmP1].txt.empty());
+}
+
+TEST(Splash, AClickLoadsTheMainWindowAndClosesTheSplash) {
+    Splash run;
+    run.Begin();
+    run.Window()->Form_Click(run.program);
+    EXPECT_TRUE(run.program.main.Loaded);
+    EXPECT_FALSE(run.program.run.SplashShown);
+    EXPECT_EQ(run.Window(), nullptr);
+}
+
+TEST(Splash, EnterDoesWhatAClickDoesAndOtherKeysDoNothing) {
+    Splash run;
+    run.Begin();
+    for (const int key : {27, 32, 65, 112}) {
+        run.Window()->Form_KeyDown(run.program, key);
+        EXPECT_FALSE(run.program.main.Loaded) << key;
+    }
+    run.Window()->Form_KeyDown(run.program, 13);
+    EXPECT_TRUE(run.program.main.Loaded);
+}
+
+TEST(Splash, ClosingItIsAWayOnAndNotAWayOut) {
+    Splash run;
+    run.Begin();
+    run.Window()->Form_Cancel(run.program);
+    EXPECT_TRUE(run.program.main.Loaded);
+    EXPECT_FALSE(run.surroundings.events.QuitAsked);
+}
+
+TEST(Splash, NameAndLineStandInWhiteOverTheirShadow) {
+    Splash run;
+    run.Begin();
+    for (const std::string_view words : {"HARROWDENE WORKS", "Tools for Trade and Craft"}) {
+        const std::vector<SplashText> found = run.Texts(words);
+        ASSERT_EQ(found.size(), 2U) << words;
+        EXPECT_NE(found[0].ForeColor, colors::kWhite);
+        EXPECT_EQ(found[1].ForeColor, colors::kWhite);
+        EXPECT_EQ(found[0].X, found[1].X + 30);
+        EXPECT_EQ(found[0].Y, found[1].Y + 30);
+        // Every character is 100 twips wide here.
+        const float width = 100.0F * static_cast<float>(words.size());
+        EXPECT_EQ(found[1].X, (7800 - width) / 2);
+    }
+    EXPECT_LT(run.Texts("HARROWDENE WORKS")[1].Y, run.Texts("Tools for Trade and Craft")[1].Y);
+    EXPECT_EQ(run.Window()->Picture.FontName, "Arial");
+}
+
+TEST(Splash, WhatItSaysFollowsTheLoading) {
+    Splash run;
+    std::set<std::string> before;
+    run.surroundings.events.OnYield = [&] {
+        for (const SplashText& text : run.Window()->Picture.Texts) {
+            if (!run.program.run.FontsLoaded) {
+                before.insert(text.Text);
+            }
+        }
+    };
+    run.Begin();
+    EXPECT_TRUE(before.contains("Please wait while fonts continue to load."));
+    EXPECT_TRUE(before.contains("HRWD"));
+    EXPECT_FALSE(before.contains("Fonts Loaded...Click Anywhere to Continue."));
+    EXPECT_FALSE(before.contains("Click anywhere to exit this screen."));
+    const std::vector<SplashText> loaded = run.Texts("Fonts Loaded...Click Anywhere to Continue.");
+    ASSERT_EQ(loaded.size(), 1U);
+    EXPECT_EQ(loaded[0].FontSize, 10);
+    EXPECT_EQ(loaded[0].ForeColor, colors::kWhite);
+    EXPECT_EQ(loaded[0].X, (7800 - 4200) / 2);
+    EXPECT_EQ(run.Texts("Click anywhere to exit this screen.").size(), 1U);
+    EXPECT_TRUE(run.Texts("Please wait while fonts continue to load.").empty());
+    EXPECT_TRUE(run.Texts("HRWD").empty());
+}
+
+TEST(Splash, FourWordsCloseInOnTheCentreOverAHundredLoops) {
+    Splash run;
+    std::vector<float> spans;
+    std::vector<Color> blues;
+    run.surroundings.events.OnYield = [&] {
+        const std::vector<SplashText> corners = run.Texts("HRWD");
+        if (corners.empty()) {
+            return;
+        }
+        ASSERT_EQ(corners.size(), 4U);
+        const auto [least, most] = std::minmax_element(
+            corners.begin(), corners.end(),
+            [](const SplashText& one, const SplashText& other) { return one.X < other.X; });
+        spans.push_back(most->X - least->X);
+        blues.push_back(run.Window()->Picture.BackColor >> 16U);
+    };
+    run.Begin();
+    ASSERT_EQ(spans.size(), 100U);
+    EXPECT_EQ(spans.front(), 7800 - 2 * 300 - 400);
+    EXPECT_TRUE(std::is_sorted(spans.rbegin(), spans.rend()));
+    EXPECT_LT(spans.back(), 100);
+    EXPECT_TRUE(std::is_sorted(blues.begin(), blues.end()));
+    std::set<Color> steps(blues.begin(), blues.end());
+    for (const Color blue : steps) {
+        EXPECT_EQ(blue % 15, 0U);
+    }
+    EXPECT_EQ(*steps.rbegin(), 240U); // the first that passes 239
+}
+
+TEST(Splash, AClickDuringTheMovementGoesOnAsSoonAsEverythingIsRead) {
+    Splash run;
+    run.surroundings.events.OnYield = [&] {
+        if (run.Window() != nullptr && run.program.settings.PrefsRead && !run.program.run.FontsLoaded) {
+            run.Window()->Form_Click(run.program);
+            EXPECT_FALSE(run.program.main.Loaded);
+        }
+    };
+    run.Begin();
+    EXPECT_TRUE(run.program.main.Loaded);
+    EXPECT_TRUE(run.program.run.FontsLoaded);
+    EXPECT_LE(run.surroundings.events.Waited, 8); // one loop, and not a hundred
+    EXPECT_EQ(run.Window(), nullptr);
+}
+
+TEST(Splash, ASecondClickDuringTheLoadDoesNotLoadTwice) {
+    Splash run;
+    run.Begin();
+    int loads = 0;
+    run.program.hooks.ReadEventDates = [&](Program& program) {
+        ++loads;
+        run.Window()->Form_Click(program);
+    };
+    run.Window()->Form_Click(run.program);
+    EXPECT_EQ(loads, 1);
+}
+
+TEST(Splash, EventsRunForEveryFontOfTheScreen) {
+    Splash run;
+    run.surroundings.screen.FontNames = {"Arial", "Times New Roman", "One", "Two", "Three"};
+    int between = 0;
+    run.surroundings.events.OnYield = [&] {
+        between += !run.program.run.FontList.empty() && !run.program.run.FontsLoaded ? 1 : 0;
+    };
+    run.Begin();
+    EXPECT_EQ(between, 4); // before each font but the first
+    EXPECT_EQ(run.program.run.FontList.size(), 5U);
+}
+
+TEST(Splash, WithoutSettingsTheFailureIsToldUnderTheSplashAndAgainByTheMainWindow) {
+    Splash run;
+    std::filesystem::remove(run.folder / "UserPreferences.txt");
+    run.surroundings.questions.Expect("An error occurred in GetUserPreferences.");
+    run.Begin();
+    EXPECT_FALSE(run.program.settings.PrefsRead);
+    run.surroundings.questions.Expect("An error occurred in GetUserPreferences.");
+    run.Window()->Form_Click(run.program);
+    EXPECT_TRUE(run.program.main.Loaded);
+    const std::string log = run.folder.Read("Error.log");
+    const std::size_t first = log.find("An error occurred in GetUserPreferences.");
+    EXPECT_NE(log.find("An error occurred in GetUserPreferences.", first + 1), std::string::npos);
+}
+
+TEST(Splash, WhereNoLockCanBeMadeThePersonIsToldAndWorks) {
+    Splash run;
+    run.surroundings.instance.Answer = SingleInstance::Result::CannotTell;
+    run.surroundings.questions.ExpectBox(
+        {"The file that keeps this application from running twice could not be made.\r\n"
+         "Please make sure that it is not running already.",
+         Buttons::Ok, ""},
+        Answer::Ok);
+    run.Begin();
+    PassSplash(run.program);
+    EXPECT_TRUE(run.program.main.Loaded);
+}
+
+} // namespace
