@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 struct Program;
 struct FieldRef;
@@ -23,6 +24,7 @@ struct Hooks {
     std::function<void(Program&, int)> MoveBlock; ///< an up (38) or down (40) key while areas are selected
     std::function<void(Program&, int)> TermsKey;  ///< F5 (116) or F6 (117) on a line page
     Call ReadFrequentlyUsedTerms;
+    std::function<void(Program&, const std::string&)> ReadTextFile; ///< shows a text file, by its full path
     Call ShowTermsWindow;
     Call ShowCalculator;
     Call CloseFootnotes;
@@ -31,4 +33,6 @@ struct Hooks {
     Call OpenFormatFile;
     Call ParsePropertyFile;
     Call AssignPropChanges;
+    std::function<bool(Program&)> FormatHasChanges; ///< whether the open format differs from its file
+    Call SaveFileFormat;
 };

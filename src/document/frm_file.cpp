@@ -8,6 +8,7 @@
 #include "core/windows.h"
 #include "document/fields.h"
 #include "document/file_names.h"
+#include "document/page_setup.h"
 #include "document/proposal_file.h"
 #include "document/reset.h"
 
@@ -16,6 +17,10 @@
 namespace {
 
 constexpr std::string_view kUp = "..";
+constexpr std::string_view kFormats = "*.fmt";
+constexpr std::string_view kPictures = "*.jpg;*.bmp;*.gif";
+constexpr std::string_view kTerms = "*.fut";
+constexpr std::string_view kTexts = "*.txt";
 
 /// The folder above, with its separator; the root stays the root.
 std::string Above(std::string_view folder) {
@@ -77,14 +82,12 @@ void frmFile::GoTo(Program& program, std::string_view folder) {
         return;
     }
     Folder = wanted;
-    FileList1.ListIndex = -1;
+    cmdOpenBack_Click(program); // nothing of the new list is chosen
     Dir1.Items = files::Subfolders(wanted);
     if (Folder != "/") {
         Dir1.Items.insert(Dir1.Items.begin(), std::string(kUp));
     }
     Dir1.ListIndex = -1;
-    picFileOpen = false;
-    selected_.clear();
     program.document.FilePath = Folder;
     Drive1.ListIndex = 0;
     for (std::size_t index = 1; index < Drive1.Items.size(); ++index) {
@@ -112,17 +115,17 @@ void frmFile::Dir1_Change(Program& program, int index) {
     GoTo(program, chosen == kUp ? Above(Folder) : paths::Join(Folder, chosen));
 }
 
-void frmFile::FileList1_Click(Program& program, int index) {
-    static_cast<void>(program);
+void frmFile::FileList1_Click(Program&, int index) {
     if (index < 0 || static_cast<std::size_t>(index) >= FileList1.Items.size()) {
         return;
     }
     FileList1.ListIndex = index;
     selected_ = FileList1.Items[static_cast<std::size_t>(index)];
     lblOpenFileName.Caption = selected_;
-    if (IsProposalName(selected_)) {
-        lblOpenFileName.Caption += " - Event File";
+    if (!picFileOpen) {
+        title_ = Caption;
     }
+    Caption = IsProposalName(selected_) ? title_ + " - Event File" : title_;
     picFileOpen = true;
 }
 
@@ -132,6 +135,9 @@ void frmFile::chkProp_Click(Program& program) {
 }
 
 void frmFile::cmdOpenBack_Click(Program&) {
+    if (picFileOpen) {
+        Caption = title_;
+    }
     picFileOpen = false;
     selected_.clear();
     FileList1.ListIndex = -1;
@@ -149,7 +155,61 @@ void frmFile::cmdOpenOK_Click(Program& program) {
         DeleteSelected(program);
     } else if (IsProposalName(selected_)) {
         OpenProposal(program);
+    } else if (program.document.FileFilter == kFormats) {
+        OpenFormat(program);
+    } else if (program.document.FileFilter == kPictures) {
+        OpenLogo(program);
+    } else if (program.document.FileFilter == kTerms) {
+        program.run.FUTFileName = selected_;
+        Finish(program);
+        if (program.hooks.ReadFrequentlyUsedTerms) {
+            program.hooks.ReadFrequentlyUsedTerms(program);
+        }
+    } else if (program.document.FileFilter == kTexts) {
+        program.document.TextFileName = selected_;
+        const std::string file = paths::Join(Folder, selected_);
+        Finish(program);
+        if (program.hooks.ReadTextFile) {
+            program.hooks.ReadTextFile(program, file);
+        }
     }
+}
+
+void frmFile::Finish(Program& program) {
+    // Form_Unload puts the working folder back, for nothing of the proposal has moved.
+    modWindows::Close(program, *this);
+}
+
+void frmFile::OpenFormat(Program& program) {
+    FormatRecords& format = program.format;
+    const FormatRecords before = format;
+    const bool loadDefault = program.settings.LoadDefaultFormat;
+    format.FormatTextChanges = {};
+    format.FormatLabelChanges = {};
+    format.FormatLines.clear();
+    format.FormatFolder = Folder;
+    format.FormatName = selected_;
+    format.FormatOpen = true;
+    program.settings.LoadDefaultFormat = false;
+    if (modMain::StartNewFile(program) == modMain::ResetResult::Refused) {
+        format = before;
+        program.settings.LoadDefaultFormat = loadDefault;
+        return;
+    }
+    Finish(program);
+    modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
+}
+
+void frmFile::OpenLogo(Program& program) {
+    const std::string path = paths::Join(Folder, selected_);
+    if (!modPages::ShowLogo(program, path)) {
+        program.platform.questions.MsgBox("The file " + selected_ + " is not a picture that can be shown.",
+                                          Buttons::Ok, "");
+        return;
+    }
+    program.settings.LogoFile = path;
+    program.format.LogoChanged = true;
+    Finish(program);
 }
 
 void frmFile::OpenProposal(Program& program) {

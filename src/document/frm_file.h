@@ -6,7 +6,9 @@
 #include <string>
 #include <string_view>
 
-/// The file chooser that all commands share. It opens, or in delete mode deletes, files of one pattern.
+/// The file chooser that all commands share. It opens, or in delete mode deletes, files of one pattern,
+/// `document.FileFilter`. A proposal opens as one by whatever pattern it was found; the other kinds go by the
+/// pattern.
 class frmFile : public Window {
 public:
     ListBox Drive1; ///< places: the root, home, mounted volumes
@@ -41,9 +43,14 @@ private:
     void GoTo(Program& program, std::string_view folder);
     void RefreshList(Program& program);
     void OpenProposal(Program& program);
+    /// The working folder is the open proposal's again, then the rest of the choice follows.
+    void Finish(Program& program);
+    void OpenFormat(Program& program);
+    void OpenLogo(Program& program);
     void DeleteSelected(Program& program);
 
     std::string selected_;
+    std::string title_; ///< the caption without the kind of the chosen file
     std::string filePathBefore_;
     bool done_ = false;
 };

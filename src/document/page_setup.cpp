@@ -292,4 +292,20 @@ void LoadLogo(Program& program) {
     SetLogoChecked(program, program.settings.LogoVisible);
 }
 
+bool ShowLogo(Program& program, const std::string& path) {
+    const std::optional<PictureSize> size = program.platform.pictures.Load(path);
+    if (!size) {
+        return false;
+    }
+    PagePicture& picture = program.pages[PageId::frmP1].pic;
+    program.run.LogoPath = path;
+    picture.Picture = {PictureRef::Source::File, path};
+    picture.Size = *size;
+    picture.Visible = true;
+    picture.Tag.clear();
+    program.settings.LogoVisible = true;
+    SetLogoChecked(program, true);
+    return true;
+}
+
 } // namespace modPages

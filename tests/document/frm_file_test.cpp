@@ -77,8 +77,12 @@ TEST(Chooser, AClickShowsThePanelAndReturnToListHidesIt) {
     frmFile& window = run.Show();
     run.Select(window, "Jane Roe.hef");
     EXPECT_TRUE(window.picFileOpen);
-    EXPECT_EQ(window.lblOpenFileName.Caption, "Jane Roe.hef - Event File");
+    EXPECT_EQ(window.lblOpenFileName.Caption, "Jane Roe.hef");
+    EXPECT_EQ(window.Caption, "Opening Proposal File - Event File");
+    run.Select(window, "Ann.hef"); // the kind is told once, however often one chooses
+    EXPECT_EQ(window.Caption, "Opening Proposal File - Event File");
     window.cmdOpenBack_Click(run.program);
+    EXPECT_EQ(window.Caption, "Opening Proposal File");
     EXPECT_FALSE(window.picFileOpen);
     EXPECT_EQ(window.FileList1.ListIndex, -1);
     window.cmdOpenOK_Click(run.program); // nothing is chosen
@@ -108,7 +112,7 @@ TEST(Chooser, AnOldExtensionCountsAsAProposal) {
     run.program.document.FileFilter = "*.hwf";
     frmFile& window = run.Show();
     run.Select(window, "Old.hwf");
-    EXPECT_EQ(window.lblOpenFileName.Caption, "Old.hwf - Event File");
+    EXPECT_EQ(window.Caption, "Opening Proposal File - Event File");
     window.cmdOpenOK_Click(run.program);
     EXPECT_EQ(run.program.document.BaseName, "Old");
     EXPECT_EQ(run.program.document.FileFilter, "*.hef");
@@ -120,6 +124,7 @@ TEST(Chooser, AFileOfAnotherKindOpensNothing) {
     frmFile& window = run.Show();
     run.Select(window, "notes.txt");
     EXPECT_EQ(window.lblOpenFileName.Caption, "notes.txt");
+    EXPECT_EQ(window.Caption, "Opening Proposal File");
     window.cmdOpenOK_Click(run.program);
     EXPECT_EQ(run.program.document.FileName, "");
 }
