@@ -513,44 +513,4 @@ TEST(Settings, AReadOnlyFileIsRewritten) {
     EXPECT_EQ(run.folder.Read("UserPreferences.txt"), SettingsFile({{2, "Acme"}}));
 }
 
-TEST(ShippedSettings, HaveAllKeysInOrderAndTheHousesName) {
-    const ScratchFolder folder;
-    std::filesystem::copy(QUILLBROOK_SHIPPED_DATA, folder / "data", std::filesystem::copy_options::recursive);
-    const std::string bytes = folder.Read("data/UserPreferences.txt");
-    std::size_t at = 0;
-    for (const std::string_view key : kSettingKeys) {
-        ASSERT_EQ(bytes.substr(at, key.size()), key);
-        const std::size_t end = bytes.find("\r\n", at);
-        ASSERT_NE(end, std::string::npos);
-        at = end + 2;
-    }
-    EXPECT_EQ(at, bytes.size());
-    EXPECT_NE(bytes.find("App First Instance:True\r\n"), std::string::npos);
-    EXPECT_NE(bytes.find("Company Name:HARROWDENE WORKS\r\n"), std::string::npos);
-    EXPECT_EQ(folder.Read("data/Proposals/SalesTax.txt"), "8.25 ");
-}
-
-TEST(ShippedTerms, AreLinesWithOptionalPricesAndNoLineEndAtTheEnd) {
-    const ScratchFolder folder;
-    std::filesystem::copy(QUILLBROOK_SHIPPED_DATA, folder / "data", std::filesystem::copy_options::recursive);
-    for (const std::string name : {"Default Terms.fut", "Wedding Terms.fut"}) {
-        const std::string bytes = folder.Read("data/Proposals/" + name);
-        ASSERT_FALSE(bytes.empty());
-        EXPECT_NE(bytes.back(), '\n') << name;
-        std::size_t at = 0;
-        while (at < bytes.size()) {
-            const std::size_t end = std::min(bytes.find("\r\n", at), bytes.size());
-            const std::string line = bytes.substr(at, end - at);
-            EXPECT_FALSE(line.empty()) << name;
-            EXPECT_EQ(line.find('\n'), std::string::npos) << name;
-            const std::size_t price = line.find('[');
-            if (price != std::string::npos) {
-                EXPECT_EQ(line.back(), ']') << line;
-                EXPECT_GT(std::stod(line.substr(price + 1)), 0) << line;
-            }
-            at = end + 2;
-        }
-    }
-}
-
 } // namespace
