@@ -26,10 +26,13 @@ struct CommandButton {
     bool operator==(const CommandButton&) const = default;
 };
 
+enum class MousePointer { Arrow, Hand };
+
 /// An image button has up to two pictures; `Picture` is the index of the one that shows.
 struct ImageButton {
     std::string ToolTipText;
     int Picture = 0;
+    MousePointer Pointer = MousePointer::Arrow;
     bool Enabled = true;
     bool Visible = true;
     /// Place in its strip, twips; the front end keeps it true.

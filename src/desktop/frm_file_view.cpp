@@ -8,8 +8,20 @@
 
 namespace {
 
+/// The keyboard's coming chooses nothing; the first arrow key does.
+class ChoiceList : public QListWidget {
+public:
+    using QListWidget::QListWidget;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override {
+        QAbstractScrollArea::focusInEvent(event);
+        viewport()->update();
+    }
+};
+
 QListWidget* List(QWidget* parent, const char* name, const QString& spoken) {
-    auto* list = new QListWidget(parent);
+    auto* list = new ChoiceList(parent);
     list->setObjectName(QLatin1String(name));
     list->setAccessibleName(spoken);
     list->setUniformItemSizes(true);

@@ -10,6 +10,7 @@
 #include "desktop/window_views.h"
 #include "shell/closing.h"
 #include "shell/command_run.h"
+#include "shell/frm_main.h"
 #include "shell/page_switch.h"
 
 #include <QCloseEvent>
@@ -19,6 +20,7 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QStatusTipEvent>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
@@ -118,8 +120,9 @@ void FrmMainView::BuildStrips() {
     };
 
     QWidget* info = MakeStrip(QStringLiteral("picInfo"), whole);
-    QLabel* folder = add(info, QStringLiteral("lblDir"), program_.main.lblDir, 1);
-    folder->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    folder_ = add(info, QStringLiteral("lblDir"), program_.main.lblDir, 1);
+    folder_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    folder_->installEventFilter(this);
     add(info, QStringLiteral("lblEvent"), program_.main.lblEvent, 0)->setAlignment(Qt::AlignRight);
     column->addWidget(info);
 
@@ -145,7 +148,8 @@ void FrmMainView::BuildStrips() {
     notice_->setObjectName(QStringLiteral("lblNotice"));
     notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     static_cast<QHBoxLayout*>(bottom->layout())->addWidget(notice_, 1);
-    add(bottom, QStringLiteral("lblTextNum"), program_.main.lblTextNum, 0);
+    area_ = add(bottom, QStringLiteral("lblTextNum"), program_.main.lblTextNum, 0);
+    area_->installEventFilter(this);
     add(bottom, QStringLiteral("lblCurPos"), program_.main.lblCurPos, 0);
     add(bottom, QStringLiteral("lblTextPos"), program_.main.lblTextPos, 0);
     column->addWidget(bottom);
@@ -160,14 +164,65 @@ void FrmMainView::BuildStrips() {
     });
 }
 
+void FrmMainView::KeepPlace() {
+    const double twips = 1 / PixelsPerTwip();
+    const QRect frame = frameGeometry();
+    program_.main.Left = static_cast<float>(frame.x() * twips);
+    program_.main.Top = static_cast<float>(frame.y() * twips);
+    program_.main.Width = static_cast<float>(frame.width() * twips);
+    program_.main.Height = static_cast<float>(frame.height() * twips);
+}
+
+void FrmMainView::FollowPlace() {
+    if (!isVisible() || isMaximized() || isMinimized() || isFullScreen()) {
+        return;
+    }
+    const double scale = PixelsPerTwip();
+    const QPoint wanted(qMax(0, qRound(static_cast<double>(program_.main.Left) * scale)),
+                        qMax(0, qRound(static_cast<double>(program_.main.Top) * scale)));
+    if ((frameGeometry().topLeft() - wanted).manhattanLength() > 1) {
+        move(wanted);
+    }
+}
+
+void FrmMainView::moveEvent(QMoveEvent* event) {
+    QMainWindow::moveEvent(event);
+    KeepPlace(); // a person has put it there
+}
+
+bool FrmMainView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == folder_ && event->type() == QEvent::Enter) {
+        frmMain(program_).lblDir_MouseMove();
+        AfterEvent();
+    } else if (watched == area_ && event->type() == QEvent::MouseButtonDblClick) {
+        frmMain(program_).lblTextNum_DblClick();
+        AfterEvent();
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
 void FrmMainView::Resized() {
     const double twips = 1 / PixelsPerTwip();
+    KeepPlace();
     program_.main.ClientWidth = static_cast<float>(desk_->width() * twips);
     program_.main.ClientHeight = static_cast<float>(desk_->height() * twips);
+    Follow();
+    // The model lets events run meanwhile, which must not happen inside of the layout's own work.
+    if (!resizePending_) {
+        resizePending_ = true;
+        QTimer::singleShot(0, this, [this] {
+            resizePending_ = false;
+            ResizeModel();
+        });
+    }
+}
+
+void FrmMainView::ResizeModel() {
     if (program_.main.Loaded) {
         modScroll::MDIForm_Resize(program_);
+        FollowPlace();
+        AfterEvent();
     }
-    Follow();
 }
 
 PageView& FrmMainView::PageOf(PageId page) {
@@ -188,6 +243,7 @@ void FrmMainView::ShowFirst() {
     shown_ = true;
     resize(1024, 740);
     Resized();
+    ResizeModel();
     if (program_.main.State == WindowState::Maximised) {
         showMaximized();
     } else {
@@ -316,10 +372,7 @@ void FrmMainView::changeEvent(QEvent* event) {
         program_.main.State = isMinimized()   ? WindowState::Minimised
                               : isMaximized() ? WindowState::Maximised
                                               : WindowState::Normal;
-        if (program_.main.Loaded) {
-            modScroll::MDIForm_Resize(program_);
-            AfterEvent();
-        }
+        ResizeModel();
     }
 }
 

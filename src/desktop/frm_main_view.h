@@ -60,13 +60,18 @@ public:
 protected:
     void closeEvent(QCloseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     bool event(QEvent* event) override;
 
 private:
     void BuildStrips();
     void Resized();
+    void ResizeModel();
     void FollowPages();
+    void KeepPlace();
+    void FollowPlace();
     void FollowLabels();
 
     Program& program_;
@@ -81,8 +86,11 @@ private:
     };
     std::vector<Shown> labels_;
     QLabel* notice_ = nullptr;
+    QLabel* folder_ = nullptr;
+    QLabel* area_ = nullptr;
     std::array<PageView*, kPageCount> pages_{};
     std::unique_ptr<WindowViews> windows_;
     bool following_ = false;
     bool shown_ = false;
+    bool resizePending_ = false;
 };

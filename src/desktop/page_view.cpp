@@ -11,6 +11,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <cmath>
+
 namespace {
 
 constexpr double kTwipsPerInch = 1440;
@@ -107,8 +109,10 @@ void PageView::FollowMarks() {
 
 void PageView::FollowPaper() {
     const Page& record = program_.pages[id_];
-    if (record.lne != lines_) {
+    if (record.lne != lines_ || record.CenterLines != centre_ || record.GridPoints != grid_) {
         lines_ = record.lne;
+        centre_ = record.CenterLines;
+        grid_ = record.GridPoints;
         update();
     }
     if (!(record.pic == picture_)) {
@@ -158,7 +162,31 @@ void PageView::FollowFocus() {
     }
 }
 
+void PageView::DrawGrid(QPainter& painter) const {
+    constexpr QColor kGrid(0x7A, 0x9C, 0xC6);
+    constexpr double kPoint = 22;
+    const double scale = context_.Scale;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(QPen(kGrid, kPoint, Qt::SolidLine, Qt::SquareCap));
+    QPolygonF points;
+    points.reserve(static_cast<qsizetype>(grid_.size()));
+    for (const PagePoint& point : grid_) {
+        // Whole pixels: a point between two of them would be a smear.
+        points.push_back(QPointF(std::round(static_cast<double>(point.X) * scale) / scale,
+                                 std::round(static_cast<double>(point.Y) * scale) / scale));
+    }
+    painter.drawPoints(points);
+    painter.setPen(QPen(kGrid, kRuleWidth));
+    for (const PageLine& line : centre_) {
+        painter.drawLine(QPointF(static_cast<double>(line.X1), static_cast<double>(line.Y1)),
+                         QPointF(static_cast<double>(line.X2), static_cast<double>(line.Y2)));
+    }
+    painter.restore();
+}
+
 void PageView::DrawFixed(QPainter& painter) const {
+    DrawGrid(painter);
     painter.setPen(QPen(Qt::black, kRuleWidth));
     for (const PageLine& line : lines_) {
         if (line.Visible) {

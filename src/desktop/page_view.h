@@ -41,6 +41,7 @@ private:
     void FollowMarks();
     void FollowPaper();
     void DrawFixed(QPainter& painter) const;
+    void DrawGrid(QPainter& painter) const;
 
     PageContext context_;
     Program& program_;
@@ -54,6 +55,8 @@ private:
     std::vector<MarkView*> marks_;
     /// What is painted on the paper itself, as last shown.
     std::vector<PageLine> lines_;
+    std::vector<PageLine> centre_;
+    std::vector<PagePoint> grid_;
     PagePicture picture_;
     QImage logo_;
     bool ink_ = false;

@@ -142,9 +142,16 @@ int QtScreen::WidthInPixels() const {
     return screen == nullptr ? 0 : qRound(screen->size().width() * screen->devicePixelRatio());
 }
 
+int QtScreen::HeightInPixels() const {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen == nullptr ? 0 : qRound(screen->size().height() * screen->devicePixelRatio());
+}
+
 float QtScreen::TwipsPerPixel() const {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen == nullptr ? 15 : static_cast<float>(kTwipsPerInch / screen->logicalDotsPerInchX());
+    return screen == nullptr ? 15
+                             : static_cast<float>(kTwipsPerInch / (screen->logicalDotsPerInchX() *
+                                                                   screen->devicePixelRatio()));
 }
 
 void QtClipboard::Clear() {

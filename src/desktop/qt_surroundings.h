@@ -32,6 +32,7 @@ class QtScreen : public Screen {
 public:
     [[nodiscard]] std::vector<std::string> Fonts() const override;
     [[nodiscard]] int WidthInPixels() const override;
+    [[nodiscard]] int HeightInPixels() const override;
     [[nodiscard]] float TwipsPerPixel() const override;
 };
 

@@ -20,15 +20,17 @@ QColor Mixed(const QColor& one, const QColor& other, float share) {
                             one.blueF() * (1 - share) + other.blueF() * share);
 }
 
-/// The frame of a tool button: raised under the pointer or with the keyboard on it, sunken while pressed.
-void PaintFrame(QPainter& painter, const QAbstractButton& button) {
+/// The frame of a tool button: raised under the pointer, sunken while pressed; and a ring when it has the
+/// keyboard.
+void PaintFrame(QPainter& painter, const QAbstractButton& button, modMain::ButtonFrame which) {
     const QPalette& palette = button.palette();
     const QRectF frame = QRectF(button.rect()).adjusted(1.5, 1.5, -1.5, -1.5);
     const QColor base = palette.color(QPalette::Window);
     const QColor ink = palette.color(QPalette::WindowText);
-    if (button.isEnabled() && (button.isDown() || button.underMouse())) {
-        painter.setPen(QPen(Mixed(base, ink, button.isDown() ? 0.45F : 0.28F), 1));
-        painter.setBrush(Mixed(base, ink, button.isDown() ? 0.16F : 0.06F));
+    if (button.isEnabled() && which != modMain::ButtonFrame::None) {
+        const bool sunken = which == modMain::ButtonFrame::Sunken;
+        painter.setPen(QPen(Mixed(base, ink, sunken ? 0.45F : 0.28F), 1));
+        painter.setBrush(Mixed(base, ink, sunken ? 0.16F : 0.06F));
         painter.drawRoundedRect(frame, 4, 4);
     }
     if (button.hasFocus()) {
@@ -71,18 +73,20 @@ void ToolImage::changeEvent(QEvent* event) {
 }
 
 bool ToolImage::event(QEvent* event) {
-    if (ChangesLook(event->type())) {
-        update();
-        if (Hovered) {
-            Hovered(event->type() == QEvent::Enter);
-        }
+    if (ChangesLook(event->type()) && Hovered) {
+        Hovered(event->type() == QEvent::Enter);
     }
     return QAbstractButton::event(event);
 }
 
-void ToolImage::Follow(const ImageButton& record) {
-    if (toolTip().isEmpty() || record != shown_) {
+void ToolImage::Follow(const ImageButton& record, modMain::ButtonFrame frame) {
+    if (frame != frame_) {
+        frame_ = frame;
+        update();
+    }
+    if (record != shown_) {
         shown_ = record;
+        setCursor(record.Pointer == MousePointer::Hand ? Qt::PointingHandCursor : Qt::ArrowCursor);
         setToolTip(convert::ToQString(record.ToolTipText));
         setEnabled(record.Enabled);
         setVisible(record.Visible);
@@ -93,10 +97,10 @@ void ToolImage::Follow(const ImageButton& record) {
 void ToolImage::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    PaintFrame(painter, *this);
+    PaintFrame(painter, *this, frame_);
     QRect place(0, 0, 22, 22);
     place.moveCenter(rect().center());
-    if (isDown()) {
+    if (frame_ == modMain::ButtonFrame::Sunken) {
         place.translate(1, 1);
     }
     icons_[shown_.Picture == 1 ? 1 : 0].paint(&painter, place, Qt::AlignCenter,
@@ -117,6 +121,7 @@ void PageSwitchButton::Follow(const ImageButton& record) {
     if (record != shown_) {
         shown_ = record;
         setEnabled(record.Enabled);
+        setCursor(record.Pointer == MousePointer::Hand ? Qt::PointingHandCursor : Qt::ArrowCursor);
         update();
     }
 }
@@ -131,7 +136,10 @@ bool PageSwitchButton::event(QEvent* event) {
 void PageSwitchButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    PaintFrame(painter, *this);
+    PaintFrame(painter, *this,
+               isDown()       ? modMain::ButtonFrame::Sunken
+               : underMouse() ? modMain::ButtonFrame::Raised
+                              : modMain::ButtonFrame::None);
     const auto look = shown_.Picture == 1 ? icons::PageLook::Selected : icons::PageLook::Normal;
     const QColor ink = Mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.35F);
     const QPixmap picture =
@@ -160,6 +168,8 @@ ToolStrip::ToolStrip(Program& program, std::function<void()> afterEvent, QWidget
              [this] { frmMain(program_).imgSpellCheck_Click(); });
     AddImage("imgFootNotes", tr("Show Footnotes"), main.imgFootNotes,
              [this] { frmMain(program_).imgFootNotes_MouseDown(); });
+    AddImage("imgTime", tr("Clock"), main.imgTime, [] {});
+    images_.back().first->setFocusPolicy(Qt::NoFocus); // it does nothing; the keyboard need not come by
     row->addSpacing(10);
     AddCommand(QStringLiteral("cmdPreview"), main.cmdPreview,
                [this] { frmMain(program_).cmdPreview_Click(); });
@@ -190,10 +200,16 @@ void ToolStrip::AddImage(std::string_view name, const QString& accessibleName, I
     auto* button = new ToolImage(name, accessibleName, this);
     button->Hovered = [this, &record](bool over) {
         over ? modMain::HoverToolButton(program_, record) : modMain::LeaveToolButton(program_);
+        FollowImages();
     };
-    connect(button, &QAbstractButton::pressed, this,
-            [this, &record] { modMain::PressToolButton(program_, record); });
-    connect(button, &QAbstractButton::released, this, [this] { modMain::ReleaseToolButton(program_); });
+    connect(button, &QAbstractButton::pressed, this, [this, &record] {
+        modMain::PressToolButton(program_, record);
+        FollowImages();
+    });
+    connect(button, &QAbstractButton::released, this, [this] {
+        modMain::ReleaseToolButton(program_);
+        FollowImages();
+    });
     // A button works when it is let go over it, as everywhere on the desktop; its frame goes with that.
     connect(button, &QAbstractButton::clicked, this, [this, chosen = std::move(chosen)] {
         chosen();
@@ -259,11 +275,15 @@ void ToolStrip::KeepPlace(const QWidget& widget, ImageButton& record) const {
     record.Height = static_cast<float>(widget.height()) * twips;
 }
 
-void ToolStrip::Follow() {
+void ToolStrip::FollowImages() {
     for (const auto& [widget, record] : images_) {
         KeepPlace(*widget, *record);
-        widget->Follow(*record);
+        widget->Follow(*record, modMain::FrameOf(program_, *record));
     }
+}
+
+void ToolStrip::Follow() {
+    FollowImages();
     for (const auto& [widget, record] : commands_) {
         FollowCommand(*widget, *record);
     }

@@ -2,6 +2,7 @@
 
 #include "core/controls.h"
 #include "document/page_records.h"
+#include "shell/tool_buttons.h"
 
 #include <QAbstractButton>
 #include <QLabel>
@@ -21,7 +22,7 @@ class ToolImage : public QAbstractButton {
     Q_OBJECT
 public:
     ToolImage(std::string_view controlName, const QString& accessibleName, QWidget* parent);
-    void Follow(const ImageButton& record);
+    void Follow(const ImageButton& record, modMain::ButtonFrame frame);
     [[nodiscard]] QSize sizeHint() const override { return {34, 34}; }
     /// The pointer came or went.
     std::function<void(bool)> Hovered;
@@ -35,6 +36,7 @@ private:
     void MakeIcons();
     std::string_view name_;
     ImageButton shown_;
+    modMain::ButtonFrame frame_ = modMain::ButtonFrame::None;
     std::array<QIcon, 2> icons_;
 };
 
@@ -65,6 +67,7 @@ public:
 private:
     void AddImage(std::string_view name, const QString& accessibleName, ImageButton& record,
                   std::function<void()> chosen);
+    void FollowImages();
     void KeepPlace(const QWidget& widget, ImageButton& record) const;
     QPushButton* AddCommand(const QString& name, const CommandButton& record, std::function<void()> chosen);
     void FollowCommand(QPushButton& button, const CommandButton& record);

@@ -111,6 +111,13 @@ struct PageLine {
     bool operator==(const PageLine&) const = default;
 };
 
+/// A point of the designer's grid.
+struct PagePoint {
+    float X = 0;
+    float Y = 0;
+    bool operator==(const PagePoint&) const = default;
+};
+
 /// The logo. `Size` is the picture's natural one.
 struct PagePicture {
     PictureRef Picture;
@@ -185,7 +192,17 @@ struct Page {
     /// Preview: the page shows as flat ink. The fields keep what they are; the front end hides them
     /// meanwhile.
     bool InkShown = false;
+    /// The designer's grid, drawn below the fields.
+    std::vector<PageLine> CenterLines;
+    std::vector<PagePoint> GridPoints;
 };
+
+/// Clears what is drawn on a page: preview and grid.
+inline void ClearDrawing(Page& page) {
+    page.InkShown = false;
+    page.CenterLines.clear();
+    page.GridPoints.clear();
+}
 
 struct PageSet {
     std::array<Page, kPageCount> All;

@@ -56,6 +56,7 @@ struct FormatRecords {
     std::string FormatName;
     std::string FormatFolder;
     bool OverwriteFormatText = true;
+    float SnapTwips = 180; ///< the designer's step, an eighth of an inch
     bool LogoChanged = false;
     bool LogoPending = false;
 };

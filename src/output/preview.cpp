@@ -38,7 +38,7 @@ void TogglePreview(Program& program) {
 void ResumeEditing(Program& program, PageId page) {
     Guarded(program, "ResumeEditing", [&] {
         Page& record = program.pages[page];
-        record.InkShown = false;
+        ClearDrawing(record);
         ShowAll(record.txt);
         ShowAll(record.lbl);
         ShowAll(record.imgNoTax);

@@ -13,6 +13,7 @@ public:
     /// Installed families and the names for which a metric-compatible stand-in exists.
     [[nodiscard]] virtual std::vector<std::string> Fonts() const = 0;
     [[nodiscard]] virtual int WidthInPixels() const = 0;
+    [[nodiscard]] virtual int HeightInPixels() const = 0;
     [[nodiscard]] virtual float TwipsPerPixel() const = 0;
 };
 

@@ -11,6 +11,7 @@
 #include "document/lifecycle.h"
 #include "document/totals.h"
 #include "editing/columns.h"
+#include "format/grid.h"
 #include "output/preview.h"
 #include "output/print.h"
 #include "shell/admin_commands.h"
@@ -91,6 +92,8 @@ constexpr std::array kRoutes{
     Route{CommandId::mnuOptCurrencySymbol, modMain::mnuOptCurrencySymbol_Click},
     Route{CommandId::mnuOptSetDefaultFonts, modMain::mnuOptSetDefaultFonts_Click},
     Route{CommandId::mnuOptEmptyBackup, modMain::mnuOptEmptyBackup_Click},
+    Route{CommandId::mnuToolsDrawCenterLines, modDesigner::mnuToolsDrawCenterLines_Click},
+    Route{CommandId::mnuToolsClearCenterLines, modDesigner::mnuToolsClearCenterLines_Click},
     Route{CommandId::mnuToolsCreateShorcut, modMain::mnuToolsCreateShorcut_Click},
     Route{CommandId::mnuToolsCreateShortcutUM, modMain::mnuToolsCreateShortcutUM_Click},
     Route{CommandId::mnuAdminDelete, modMain::mnuAdminDelete_Click},

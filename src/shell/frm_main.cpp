@@ -1,6 +1,8 @@
 #include "shell/frm_main.h"
 
+#include "core/numbers.h"
 #include "core/program.h"
+#include "core/windows.h"
 #include "document/fields.h"
 #include "document/totals.h"
 #include "output/preview.h"
@@ -26,6 +28,14 @@ void frmMain::cmdTaxRate_Click() {
 
 void frmMain::lblDir_MouseMove() {
     program_.main.lblDir.ToolTipText = program_.main.lblDir.Caption;
+}
+
+void frmMain::lblTextNum_DblClick() {
+    const Window* calculator = modWindows::Find(program_, "frmCalc");
+    const float left = calculator == nullptr ? 0 : calculator->Left;
+    const float top = calculator == nullptr ? 0 : calculator->Top;
+    program_.main.lblTextNum.Caption =
+        "X= " + numbers::PlainNumber(left) + " Y= " + numbers::PlainNumber(top);
 }
 
 // Wanted: this button shows its pressed look and starts nothing; a new proposal starts from the menu.

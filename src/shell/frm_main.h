@@ -22,6 +22,8 @@ public:
     void imgPage_Click(int index);
     /// A long folder stays readable in the tip.
     void lblDir_MouseMove();
+    /// A positioning aid: where the calculator stands, in twips.
+    void lblTextNum_DblClick();
 
 private:
     Program& program_;

@@ -13,6 +13,7 @@
 #include "document/titles.h"
 #include "shell/command_table.h"
 #include "shell/load_fonts.h"
+#include "shell/tool_buttons.h"
 
 #include <optional>
 
@@ -99,6 +100,9 @@ void MDIForm_Load(Program& program) {
     const ScopedFlag keep(program.guards.KeepPageContent);
     const ScopedFlag starting(program.guards.StartingUp);
     commands::LoadDesignState(program);
+    program.main.imgPage[0].Pointer = MousePointer::Hand;
+    LoadPageButtonCursors(program);
+    program.main.State = WindowState::Maximised;
     Guarded(program, "MDIForm_Load", [&] { LoadSteps(program); });
     program.main.Loaded = true;
 }

@@ -49,6 +49,11 @@ struct MainWindow {
     WindowState State = WindowState::Maximised;
     bool Loaded = false;
     bool Closing = false;
+    /// Place and size of the whole window on the screen, twips; the front end keeps them true.
+    float Left = 0;
+    float Top = 0;
+    float Width = 0;
+    float Height = 0;
     float ClientWidth = 0;  ///< of the page area, twips; the front end keeps it true
     float ClientHeight = 0; ///< of the page area, twips; the front end keeps it true
 
@@ -61,6 +66,7 @@ struct MainWindow {
     PageId PageInFront = PageId::frmP1; ///< what the person sees, the client's copy included
     bool ScrollChangeSuppressed = false;
     bool ToolButtonPressed = false;
+    bool Resizing = false; ///< events run within a resize
     float WindowHeightRatio = 0;
     int ScrollClientHeight = 0;
     std::string AdminPassword;    ///< nothing assigns it
@@ -91,6 +97,7 @@ struct MainWindow {
     std::array<FrameLine, 2> lneTop;
     std::array<FrameLine, 2> lneBottom;
 
+    float picInfoWidth = 0; ///< of the information strip, twips
     StripLabel lblDir{.Caption = "Loading Fonts...", .ToolTipText = ""};
     StripLabel lblEvent{.Caption = "Proposal for:", .ToolTipText = ""};
     StripLabel lblTextPos{.Caption = "Text Position =", .ToolTipText = ""};

@@ -1,6 +1,7 @@
 #include "shell/page_switch.h"
 
 #include "core/errors.h"
+#include "core/guard.h"
 #include "core/program.h"
 #include "core/windows.h"
 #include "document/page_geometry.h"
@@ -32,6 +33,47 @@ void FollowMainWindow(Program& program) {
             window->Minimised = false;
         }
     }
+}
+
+void CentreOnScreen(Program& program) {
+    const Screen& screen = program.platform.screen;
+    MainWindow& main = program.main;
+    const float twips = screen.TwipsPerPixel();
+    main.Left = (static_cast<float>(screen.WidthInPixels()) * twips - main.Width) / 2;
+    main.Top = (static_cast<float>(screen.HeightInPixels()) * twips - main.Height) / 2;
+}
+
+/// The strip is made wide enough for any screen first, then as wide as the window, and repaints before the
+/// page below it moves. A size that comes meanwhile is fitted within, without another round of events.
+void WidenInformation(Program& program) {
+    constexpr float kFirst = 1024;
+    MainWindow& main = program.main;
+    main.picInfoWidth = kFirst;
+    main.picInfoWidth = main.Width;
+    if (!main.Resizing) {
+        const ScopedFlag resizing(main.Resizing);
+        program.platform.events.LetEventsRun();
+    }
+}
+
+/// The page at its own size at the top, the scroll bar for it.
+void FitPage(Program& program, PageId page) {
+    MainWindow& main = program.main;
+    Page& record = program.pages[page];
+    record.Width = 12240;
+    record.Height = kPageHeight;
+    record.Top = 0;
+    main.ScrollClientHeight = static_cast<int>(main.ClientHeight);
+    ScrollBarRecord& bar = main.VScroll1;
+    bar.Width = 255;
+    bar.Height = main.ClientHeight;
+    bar.Left = 0;
+    bar.Top = 0;
+    bar.Min = 0;
+    bar.Max = std::max(0, kPageHeight - main.ScrollClientHeight + 30);
+    bar.LargeChange = std::max(1, main.ScrollClientHeight);
+    bar.SmallChange = std::max(1, main.ScrollClientHeight / 2);
+    bar.Value = std::clamp(bar.Value, bar.Min, bar.Max);
 }
 
 void TakePage(Program& program, PageId page) {
@@ -83,23 +125,8 @@ void UpdatePageButtons(Program& program, int pageIndex) {
 
 void ReAdjustScrollBar(Program& program, PageId page) {
     Guarded(program, "ReAdjustScrollBar", [&] {
-        MainWindow& main = program.main;
-        Page& record = program.pages[page];
-        record.Width = 12240;
-        record.Height = kPageHeight;
-        record.Top = 0;
-        record.InkShown = false;
-        main.ScrollClientHeight = static_cast<int>(main.ClientHeight);
-        ScrollBarRecord& bar = main.VScroll1;
-        bar.Width = 255;
-        bar.Height = main.ClientHeight;
-        bar.Left = 0;
-        bar.Top = 0;
-        bar.Min = 0;
-        bar.Max = std::max(0, kPageHeight - main.ScrollClientHeight + 30);
-        bar.LargeChange = std::max(1, main.ScrollClientHeight);
-        bar.SmallChange = std::max(1, main.ScrollClientHeight / 2);
-        bar.Value = std::clamp(bar.Value, bar.Min, bar.Max);
+        ClearDrawing(program.pages[page]);
+        FitPage(program, page);
     });
 }
 
@@ -137,12 +164,13 @@ void PageKey(Program& program, int keyCode) {
 
 void MDIForm_Resize(Program& program) {
     MainWindow& main = program.main;
+    if (main.State == WindowState::Normal) {
+        CentreOnScreen(program);
+    }
     if (main.State != WindowState::Minimised) {
+        WidenInformation(program);
         main.WindowHeightRatio = main.ClientHeight / static_cast<float>(kPageHeight);
-        Page& fitted = program.pages[PageId::frmP1];
-        const bool preview = fitted.InkShown;
-        ReAdjustScrollBar(program, PageId::frmP1);
-        fitted.InkShown = preview;
+        FitPage(program, PageId::frmP1); // what is drawn on it stays: the person did not ask for its end
         program.pages[main.PageInFront].Top = -static_cast<float>(main.VScroll1.Value);
     }
     if (program.platform.screen.WidthInPixels() >= kWideScreen) {

@@ -20,9 +20,10 @@ void PageKey(Program& program, int keyCode);
 void SetScroll(Program& program, int value);
 void VScroll1_Change(Program& program);
 
-/// The main window has a new size or state. Fits frmP1, whichever page is in front; that one stays where the
-/// person had it, preview and all. The floating windows are minimised with the main window and come back
-/// when it is maximised.
+/// The main window has a new size or state. A window that is neither minimised nor maximised is centred on
+/// the screen; the information strip follows the width and pending events run, so that it repaints. Fits
+/// frmP1, whichever page is in front; that one stays where the person had it, preview and all. The floating
+/// windows are minimised with the main window and come back when it is maximised.
 void MDIForm_Resize(Program& program);
 
 } // namespace modScroll

@@ -64,6 +64,26 @@ void LeaveToolButton(Program& program) {
     program.main.ToolButtonPressed = false;
 }
 
+ButtonFrame FrameOf(const Program& program, const ImageButton& button) {
+    const MainWindow& main = program.main;
+    const auto stands = [&](Frame frame) {
+        const FrameLine& left = main.lneLeft[frame];
+        return left.Visible && left.X1 == button.Left - kOutside && left.Y1 == button.Top - kOutside;
+    };
+    return stands(kSunken) ? ButtonFrame::Sunken : stands(kRaised) ? ButtonFrame::Raised : ButtonFrame::None;
+}
+
+void LoadPageButtonCursors(Program& program) {
+    MainWindow& main = program.main;
+    for (ImageButton* image : {&main.imgNew, &main.imgOpen, &main.imgSave, &main.imgSaveAs, &main.imgPrint,
+                               &main.imgSearch, &main.imgSpellCheck, &main.imgFootNotes, &main.imgTime}) {
+        image->Pointer = main.imgPage[0].Pointer;
+    }
+    for (ImageButton& image : main.imgPage) {
+        image.Pointer = main.imgPage[0].Pointer;
+    }
+}
+
 void ClearButtonBorders(Program& program) {
     Hide(program, kRaised);
     Hide(program, kSunken);

@@ -15,6 +15,11 @@ void PressToolButton(Program& program, const ImageButton& button);
 void ReleaseToolButton(Program& program);
 /// The pointer is over the strip itself: the raised frame is hidden.
 void LeaveToolButton(Program& program);
+/// The frame that a button has now.
+enum class ButtonFrame { None, Raised, Sunken };
+[[nodiscard]] ButtonFrame FrameOf(const Program& program, const ImageButton& button);
+/// Gives every image of the window the pointer of the first page button.
+void LoadPageButtonCursors(Program& program);
 /// Hides both frames.
 void ClearButtonBorders(Program& program);
 

@@ -89,7 +89,7 @@ TEST(Journey, AProposalIsTypedSavedOpenedAndPrintedInTheWindow) {
     ASSERT_EQ(list->count(), 1);
     list->setCurrentRow(0);
     EXPECT_EQ(chooser->findChild<QLabel*>(QStringLiteral("lblOpenFileName"))->text(),
-              QStringLiteral("Jane Roe.hef - Event File"));
+              QStringLiteral("Jane Roe.hef"));
     QTest::mouseClick(chooser->findChild<QPushButton*>(QStringLiteral("cmdOpenOK")), Qt::LeftButton);
     EXPECT_EQ(run.Field(Text(PageId::frmP1, 2)).text(), QStringLiteral("Jane Roe"));
     run.ChoosePage(1);

@@ -180,6 +180,47 @@ TEST(Resize, AMinimisedWindowIsNotFitted) {
     EXPECT_EQ(run.program.main.ScrollClientHeight, 7000);
 }
 
+TEST(Resize, AWindowOfItsOwnSizeIsCentredAndTheOthersAreNotMoved) {
+    Scrolling run(7000);
+    MainWindow& main = run.program.main;
+    main.Width = 12000; // of a screen of 1280 by 1024 at 15 twips: 19200 by 15360
+    main.Height = 9000;
+    for (const WindowState state : {WindowState::Maximised, WindowState::Minimised}) {
+        main.State = state;
+        modScroll::MDIForm_Resize(run.program);
+        EXPECT_EQ(main.Left, 0);
+        EXPECT_EQ(main.Top, 0);
+    }
+    main.State = WindowState::Normal;
+    modScroll::MDIForm_Resize(run.program);
+    EXPECT_EQ(main.Left, 3600);
+    EXPECT_EQ(main.Top, 3180);
+}
+
+TEST(Resize, TheInformationStripFollowsTheWidthAndRepaintsBeforeThePageMoves) {
+    Scrolling run(7000);
+    MainWindow& main = run.program.main;
+    main.Width = 13000;
+    main.ClientHeight = 7920;
+    int yields = 0;
+    run.surroundings.events.OnYield = [&] {
+        ++yields;
+        EXPECT_EQ(main.picInfoWidth, 13000);
+        EXPECT_NE(main.WindowHeightRatio, 0.5F);
+        if (yields == 1) {
+            modScroll::MDIForm_Resize(run.program); // a further size comes meanwhile
+            EXPECT_EQ(main.WindowHeightRatio, 0.5F);
+            main.WindowHeightRatio = 0;
+        }
+    };
+    modScroll::MDIForm_Resize(run.program);
+    EXPECT_EQ(yields, 1);
+    EXPECT_EQ(main.WindowHeightRatio, 0.5F);
+    main.State = WindowState::Minimised;
+    modScroll::MDIForm_Resize(run.program);
+    EXPECT_EQ(yields, 1);
+}
+
 struct FloatingTerms : Window {
     [[nodiscard]] std::string_view Name() const override { return "frmFUT"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }

@@ -1,6 +1,7 @@
 #include "shell/tool_buttons.h"
 
 #include "core/program.h"
+#include "core/windows.h"
 #include "shell/frm_main.h"
 #include "support/running_program.h"
 
@@ -65,6 +66,51 @@ TEST(ToolButtons, NewShowsItsPressedLookAndStartsNothing) {
     ExpectFrame(run.Main(), 1, true);
     EXPECT_TRUE(run.surroundings.questions.Shown.empty());
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
+}
+
+TEST(ToolButtons, OnlyTheOneUnderThePointerHasTheFrame) {
+    Strip run;
+    using modMain::ButtonFrame;
+    const auto frame = [&](const ImageButton& button) { return modMain::FrameOf(run.program, button); };
+    EXPECT_EQ(frame(run.Main().imgNew), ButtonFrame::None);
+    modMain::HoverToolButton(run.program, run.Main().imgNew);
+    EXPECT_EQ(frame(run.Main().imgNew), ButtonFrame::Raised);
+    EXPECT_EQ(frame(run.Main().imgOpen), ButtonFrame::None);
+    modMain::PressToolButton(run.program, run.Main().imgNew);
+    EXPECT_EQ(frame(run.Main().imgNew), ButtonFrame::Sunken);
+    modMain::ClearButtonBorders(run.program);
+    EXPECT_EQ(frame(run.Main().imgNew), ButtonFrame::None);
+}
+
+TEST(ToolButtons, EveryImageHasThePointerOfTheFirstPageButton) {
+    Strip run;
+    MainWindow& main = run.Main();
+    for (const ImageButton* image :
+         {&main.imgNew, &main.imgOpen, &main.imgSave, &main.imgSaveAs, &main.imgPrint, &main.imgSearch,
+          &main.imgSpellCheck, &main.imgFootNotes, &main.imgTime, &main.imgPage[6]}) {
+        EXPECT_EQ(image->Pointer, MousePointer::Hand);
+    }
+    main.imgPage[0].Pointer = MousePointer::Arrow;
+    modMain::LoadPageButtonCursors(run.program);
+    EXPECT_EQ(main.imgTime.Pointer, MousePointer::Arrow);
+    EXPECT_EQ(main.imgPage[6].Pointer, MousePointer::Arrow);
+}
+
+struct StandingCalculator : Window {
+    [[nodiscard]] std::string_view Name() const override { return "frmCalc"; }
+    [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }
+    void Form_Cancel(Program& program) override { modWindows::Close(program, *this); }
+};
+
+TEST(TextAreaLine, ADoubleClickTellsWhereTheCalculatorStands) {
+    Strip run;
+    frmMain(run.program).lblTextNum_DblClick();
+    EXPECT_EQ(run.Main().lblTextNum.Caption, "X= 0 Y= 0");
+    Window& calculator = modWindows::Show(run.program, std::make_unique<StandingCalculator>());
+    calculator.Left = 1530;
+    calculator.Top = 262.5;
+    frmMain(run.program).lblTextNum_DblClick();
+    EXPECT_EQ(run.Main().lblTextNum.Caption, "X= 1530 Y= 262.5");
 }
 
 TEST(FolderLine, ShowsItselfInItsTip) {

@@ -130,8 +130,10 @@ class FakeScreen : public Screen {
 public:
     std::vector<std::string> FontNames{"Arial", "Times New Roman"};
     int Pixels = 1280;
+    int PixelsHigh = 1024;
     [[nodiscard]] std::vector<std::string> Fonts() const override { return FontNames; }
     [[nodiscard]] int WidthInPixels() const override { return Pixels; }
+    [[nodiscard]] int HeightInPixels() const override { return PixelsHigh; }
     [[nodiscard]] float TwipsPerPixel() const override { return 15; }
 };
 
