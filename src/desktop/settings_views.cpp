@@ -193,7 +193,7 @@ FrmPOffsetsView::FrmPOffsetsView(Program& program, frmPOffsets& window, QWidget*
     auto* help = new QPushButton(tr("Help"), this);
     help->setObjectName(QStringLiteral("mnuHelpPrinterOffsets"));
     help->setAutoDefault(false);
-    help->setShortcut(QKeySequence::HelpContents);
+    help->setShortcut(QKeySequence(Qt::Key_F1));
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
     row->addWidget(help);

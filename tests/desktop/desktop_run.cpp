@@ -17,6 +17,7 @@ DesktopRun::DesktopRun() {
     folder.Write("UserPreferences.txt", ReadTestData("jane_roe/UserPreferences.txt"));
     folder.Write("Proposals/SalesTax.txt", ReadTestData("jane_roe/SalesTax.txt"));
     program.folders.InstallFolder = folder.Path();
+    folder.MakeFolder("Home");
     program.folders.Drives.Home = folder / "Home/";
     printers.MakeCurrent("Print to PDF");
     Wire(program);
