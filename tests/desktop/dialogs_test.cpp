@@ -234,6 +234,7 @@ TEST(OffsetsWindow, HelpExplainsThem) {
     run.Push("mnuHelpPrinterOffsets");
     run.recording.questions.Expect("Enter all values in inches. Negative values are permitted.");
     QTest::keyClick(run.view, Qt::Key_F1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return run.recording.questions.Shown.size() == 2; }));
     EXPECT_TRUE(run.Stands("frmPOffsets"));
 }
 
