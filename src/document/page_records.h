@@ -185,6 +185,7 @@ struct Page {
     /// Preview: the page shows as flat ink. The fields keep what they are; the front end hides them
     /// meanwhile.
     bool InkShown = false;
+    int InkVersion = 0; ///< goes up when ink that is shown has to be drawn anew
 };
 
 struct PageSet {
