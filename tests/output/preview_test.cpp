@@ -115,6 +115,21 @@ TEST(Preview, RefusesTheCommandsThatEditThePage) {
     EXPECT_EQ(run.surroundings.printers.Named.size(), 1U) << "printing goes on";
 }
 
+TEST(Preview, IsDrawnAnewWhenAPageIsPrintedMeanwhile) {
+    RunningProgram run;
+    run.program.document.CurrentTextBuf[0][2] = "Jane";
+    modPrint::TogglePreview(run.program);
+    const int drawn = run.program.pages[PageId::frmP1].InkVersion;
+    run.surroundings.events.OnYield = [&] {
+        EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 2");
+        EXPECT_GT(run.program.pages[PageId::frmP1].InkVersion, drawn) << "with the new numbers";
+    };
+    commands::Run(run.program, CommandId::mnuFilePrintPage6);
+    EXPECT_GT(run.program.pages[PageId::frmP1].InkVersion, drawn);
+    EXPECT_TRUE(run.program.pages[PageId::frmP1].InkShown) << "and it stays";
+    EXPECT_EQ(run.program.main.cmdPreview.Caption, "Resume Editing");
+}
+
 TEST(Preview, BringsTheTotalsUpToDateWhenTheButtonIsRed) {
     RunningProgram run;
     Typist typist(run.program);

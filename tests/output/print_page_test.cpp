@@ -73,6 +73,7 @@ TEST(DrawPage, TakesTheFieldsInTheOrderOfTheirArraysAndTheLogoLast) {
     page.lblAt[0].Caption = "@";
     page.lblEach.resize(1);
     page.lblEach[0].Caption = "ea.";
+    page.lblEach[0].ForeColor = 0x0000FF;
     page.lne = {{1, 2, 3, 4, false}};
     page.HasLogo = true;
     page.pic.Picture = {PictureRef::Source::File, "logo.bmp"};
@@ -108,6 +109,8 @@ TEST(DrawPage, TakesTheFieldsInTheOrderOfTheirArraysAndTheLogoLast) {
     EXPECT_EQ(calls[9].Y, 2);
     EXPECT_EQ(calls[9].X2, 3);
     EXPECT_EQ(calls[9].Y2, 4);
+    EXPECT_EQ(calls[8].ForeColor, 0x0000FFU);
+    EXPECT_EQ(calls[9].ForeColor, colors::kBlack) << "a box does not take the colour of a label";
     EXPECT_EQ(calls[10].X, 1440);
     EXPECT_EQ(calls[10].Y, 720);
     EXPECT_FALSE(calls[10].Size.has_value()) << "the logo keeps its natural size";
@@ -185,6 +188,7 @@ TEST(DrawPage, AlignsToTheRightByPageAndIndexOnly) {
     for (const auto& [page, indices] : tried) {
         for (const int index : indices) {
             BarePages bare;
+            bare.program.printing.PrintFormName = "frmP6"; // the page counts, not the name
             auto& areas = bare.program.pages[page].txt;
             areas.assign(static_cast<std::size_t>(index) + 1, BarePages::Hidden());
             areas.back() = BarePages::At(5000, 0, "twelve chars");
@@ -298,6 +302,49 @@ TEST(PrintTheForm, GivesOffsetsToTheScaleOriginAndLeavesTheLogoUnmoved) {
     modPrint::PrintTheForm(bare.program, PageId::frmP1);
     EXPECT_EQ(bare.Paper().Documents.at(1)[0].ScaleLeft, 0);
     EXPECT_EQ(bare.Paper().Documents.at(1)[0].ScaleTop, 0);
+}
+
+TEST(PrintTheForm, LeavesTheScaleOriginAloneWithoutOffsets) {
+    BarePages bare;
+    bare.Paper().ScaleLeft = 77;
+    bare.Paper().ScaleTop = 88;
+    bare.program.printing.PrinterOffsetY = 144;
+    bare.program.pages[PageId::frmP1].txt = {BarePages::At(1080, 4500, "x")};
+    modPrint::PrintTheForm(bare.program, PageId::frmP1);
+    EXPECT_EQ(bare.Paper().Documents.at(0)[0].ScaleLeft, 77);
+    EXPECT_EQ(bare.Paper().Documents.at(0)[0].ScaleTop, 144);
+}
+
+TEST(PrintTheForm, TakesThePaperFromTheFirstPageAndBeginsInItsCorner) {
+    BarePages bare;
+    bare.program.pages[PageId::frmP1].Width = 12240;
+    bare.program.pages[PageId::frmP1].Height = 15840;
+    RecordingPrinter& paper = bare.Paper();
+    paper.CurrentX = paper.CurrentY = paper.ScaleWidth = paper.ScaleHeight = 5;
+    bool looked = false;
+    bare.surroundings.events.OnYield = [&] {
+        looked = true;
+        EXPECT_EQ(paper.CurrentX, 0);
+        EXPECT_EQ(paper.CurrentY, 0);
+        EXPECT_EQ(paper.ScaleWidth, 12240);
+        EXPECT_EQ(paper.ScaleHeight, 15840);
+    };
+    modPrint::PrintTheForm(bare.program, PageId::frmP2);
+    EXPECT_TRUE(looked);
+}
+
+TEST(PrintTheForm, AfterAPrinterThatFailedTheNextPageIsADocumentOfItsOwn) {
+    BarePages bare;
+    bare.program.pages[PageId::frmP2].txt = {BarePages::At(0, 0, "first")};
+    bare.program.pages[PageId::frmP3].txt = {BarePages::At(0, 0, "second")};
+    bare.Paper().OnEndDoc = [] { throw std::runtime_error("jam"); };
+    bare.surroundings.questions.Expect("jam");
+    modPrint::PrintTheForm(bare.program, PageId::frmP2);
+    bare.Paper().OnEndDoc = nullptr;
+    modPrint::PrintTheForm(bare.program, PageId::frmP3);
+    ASSERT_EQ(bare.Paper().Documents.size(), 1U);
+    ASSERT_EQ(bare.Paper().Documents[0].size(), 2U);
+    EXPECT_EQ(bare.Paper().Documents[0][0].Text, "second");
 }
 
 TEST(PrintTheForm, ReportsAPrinterThatFailsAndIsQuietAgain) {

@@ -129,11 +129,12 @@ void RecordingPrinter::EndDoc() {
     }
     ScaleLeft = 0;
     ScaleTop = 0;
+    std::vector<DrawCall> document = std::move(Calls);
+    Calls.clear();
     if (OnEndDoc) {
         OnEndDoc();
     }
-    Documents.push_back(std::move(Calls));
-    Calls.clear();
+    Documents.push_back(std::move(document));
 }
 
 bool RecordingPrinters::MakeCurrent(std::string_view name) {
