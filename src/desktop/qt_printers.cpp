@@ -4,6 +4,7 @@
 #include "core/files.h"
 #include "desktop/convert.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -23,6 +24,16 @@ constexpr int kTwipsPerInch = 1440;
 
 QPageLayout Letter() {
     return QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait, QMarginsF(), QPageLayout::Inch);
+}
+
+QString AskPerson(const QString& suggested) {
+    QFileDialog dialog(QApplication::activeWindow(), QObject::tr("Print to PDF"), QFileInfo(suggested).path(),
+                       QObject::tr("PDF (*.pdf)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // The ending belongs to the name before the person is asked whether a file may be replaced.
+    dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    dialog.selectFile(QFileInfo(suggested).fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 [[noreturn]] void FailPrinting(const std::string& printer, const std::string& why) {
@@ -48,10 +59,7 @@ std::optional<std::string> Refusal() {
 } // namespace
 
 QtPrinters::QtPrinters(const TextMeasure& measure) : current_(kToPdf), device_(measure, *this) {
-    AskForFile = [](const QString& suggested) {
-        return QFileDialog::getSaveFileName(nullptr, QObject::tr("Print to PDF"), suggested,
-                                            QObject::tr("PDF (*.pdf)"));
-    };
+    AskForFile = AskPerson;
     const QString system = QPrinterInfo::defaultPrinterName();
     if (const auto name = ansi::FromUtf8(system.toStdString()); name && !name->empty()) {
         current_ = *name;
