@@ -119,7 +119,9 @@ void QtPrinters::SendToPrinter(const std::vector<PaperRecord>& pages) const {
     }
     QPrinter printer(info, QPrinter::HighResolution);
     printer.setDocName(QStringLiteral("Quillbrook ") + convert::ToQString(documentName_));
-    printer.setPageLayout(Letter());
+    // Not in one layout: a printer that cannot print to the edge would keep its own paper.
+    printer.setPageSize(QPageSize(QPageSize::Letter));
+    printer.setPageOrientation(QPageLayout::Portrait);
     printer.setFullPage(true);
     QPainter painter;
     if (!painter.begin(&printer)) {
