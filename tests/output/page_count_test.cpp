@@ -1,6 +1,7 @@
 #include "output/page_count.h"
 
 #include "core/program.h"
+#include "document/page_geometry.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -54,9 +55,15 @@ TEST(PagesInUse, GoesByTheTextsOnThePagesAndNotByThoseLastSaved) {
     EXPECT_EQ(run.program.document.PagesInUse, 3);
 }
 
-class PageNumbers : public testing::TestWithParam<int> {};
+TEST(PageNumbers, HaveWordsForSevenSheets) {
+    for (int index = 0; index < 7; ++index) {
+        EXPECT_EQ(geometry::PageOfText(index), "Page " + std::to_string(index + 1) + " of ");
+    }
+}
 
-TEST_P(PageNumbers, StandOnEveryPage) {
+class NumberedPages : public testing::TestWithParam<int> {};
+
+TEST_P(NumberedPages, StandOnEveryPage) {
     const int used = GetParam();
     const std::string of = " of " + std::to_string(used);
     RunningProgram run;
@@ -81,7 +88,7 @@ TEST_P(PageNumbers, StandOnEveryPage) {
               "Utilizing " + std::to_string(used) + " of 6 Available Pages");
 }
 
-INSTANTIATE_TEST_SUITE_P(TwoToSix, PageNumbers, testing::Values(2, 3, 4, 5, 6));
+INSTANTIATE_TEST_SUITE_P(TwoToSix, NumberedPages, testing::Values(2, 3, 4, 5, 6));
 
 /// "Acme - Page 2" has 13 characters of 100 twips: 6120 - 650.
 TEST(Headings, AreCentredAndKeptWithTheProposal) {

@@ -62,13 +62,20 @@ TEST(Preview, ResumingShowsWhatIsNotTaggedHide) {
 }
 
 TEST(Preview, EndsWhenAPageIsChosen) {
-    RunningProgram run;
-    modPrint::TogglePreview(run.program);
-    modScroll::UpdatePageButtons(run.program, 3);
-    EXPECT_EQ(run.program.main.cmdPreview.Caption, "Print Preview");
-    EXPECT_FALSE(run.program.pages[PageId::frmP1].InkShown);
-    EXPECT_FALSE(run.program.pages[PageId::frmP4].InkShown);
-    EXPECT_FALSE(run.program.main[CommandId::mnuFileResume].Enabled);
+    for (int from = 0; from < kEditedPageCount; ++from) {
+        for (int to = 0; to < kPageCount; ++to) {
+            RunningProgram run;
+            modScroll::UpdatePageButtons(run.program, from);
+            modPrint::TogglePreview(run.program);
+            ASSERT_TRUE(run.program.pages[PageAt(from)].InkShown);
+            modScroll::UpdatePageButtons(run.program, to);
+            EXPECT_EQ(run.program.main.cmdPreview.Caption, "Print Preview");
+            EXPECT_FALSE(run.program.pages[PageAt(from)].InkShown);
+            EXPECT_FALSE(run.program.pages[PageAt(to)].InkShown);
+            EXPECT_TRUE(run.program.main[CommandId::mnuFilePrintPreview].Enabled);
+            EXPECT_FALSE(run.program.main[CommandId::mnuFileResume].Enabled);
+        }
+    }
 }
 
 TEST(Preview, OfTheClientsCopyDrawsThePageShownBeforeIt) {

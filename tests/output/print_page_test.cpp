@@ -2,6 +2,7 @@
 
 #include "core/program.h"
 #include "shell/command_run.h"
+#include "shell/frm_main.h"
 #include "shell/page_switch.h"
 #include "support/recording_platform.h"
 #include "support/running_program.h"
@@ -371,6 +372,69 @@ TEST(PrintTheForm, BringsTheTotalsUpToDateFirstWhenTheButtonIsRed) {
     EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
     EXPECT_TRUE(Printed(run, "1,082.50"));
     EXPECT_FALSE(Printed(run, "stale"));
+}
+
+/// The table of the menu: each entry prints its own page and no other.
+TEST(PrintEntries, PrintTheirOwnPage) {
+    const std::vector<std::pair<CommandId, std::string>> entries{
+        {CommandId::mnuFilePrintPage1, "frmP1"},    {CommandId::mnuFilePrintPage2, "frmP2"},
+        {CommandId::mnuFilePrintPage3, "frmP3"},    {CommandId::mnuFilePrintPage4, "frmP4"},
+        {CommandId::mnuFilePrintPage5, "frmP5"},    {CommandId::mnuFilePrintPage6, "frmP6"},
+        {CommandId::mnuFilePrintPage6_1, "frmP6_1"}};
+    for (const auto& [entry, page] : entries) {
+        RunningProgram run;
+        commands::Run(run.program, entry);
+        ASSERT_EQ(run.surroundings.printers.Named.size(), 1U);
+        EXPECT_EQ(run.surroundings.printers.Named[0].first, page);
+        EXPECT_EQ(run.program.printing.PrintFormName, page);
+    }
+}
+
+TEST(PrintEntries, TheToolButtonPrintsAllPages) {
+    RunningProgram run;
+    run.program.document.CurrentTextBuf[0][2] = "Jane";
+    frmMain(run.program).imgPrint_Click();
+    EXPECT_EQ(run.surroundings.printers.Named.size(), 3U);
+}
+
+TEST(PrintEntries, TheCopiesOfTheFinalPageDifferInTheirSubtitle) {
+    RunningProgram run;
+    const auto captions = [&](CommandId entry) {
+        commands::Run(run.program, entry);
+        std::vector<std::string> texts;
+        for (const DrawCall& call : run.surroundings.printers.Paper.Documents.back()) {
+            texts.push_back(call.Text);
+        }
+        return texts;
+    };
+    const auto ours = captions(CommandId::mnuFilePrintPage6);
+    const auto theirs = captions(CommandId::mnuFilePrintPage6_1);
+    ASSERT_EQ(ours.size(), theirs.size());
+    std::vector<std::pair<std::string, std::string>> different;
+    for (std::size_t at = 0; at < ours.size(); ++at) {
+        if (ours[at] != theirs[at]) {
+            different.emplace_back(ours[at], theirs[at]);
+        }
+    }
+    EXPECT_EQ(different, (std::vector<std::pair<std::string, std::string>>{
+                             {"Proposal for (Client's Name) - Our Copy",
+                              "Proposal for (Client's Name) - Client's Copy"}}));
+}
+
+TEST(PrintTheForm, UnderlinesCategoriesWhenTheOptionIsChecked) {
+    RunningProgram run;
+    run.Area(PageId::frmP2, 0).FontBold = true;
+    const auto lines = [&] {
+        modPrint::PrintTheForm(run.program, PageId::frmP2);
+        const auto& calls = run.surroundings.printers.Paper.Documents.back();
+        return std::count_if(calls.begin(), calls.end(),
+                             [](const DrawCall& call) { return call.Op == What::Line; });
+    };
+    EXPECT_EQ(lines(), 0);
+    commands::Run(run.program, CommandId::mnuOptUnderline);
+    EXPECT_EQ(lines(), 1);
+    commands::Run(run.program, CommandId::mnuOptUnderline);
+    EXPECT_EQ(lines(), 0);
 }
 
 TEST(PrintTheForm, PrintsTheTotalsAsTheyStandOtherwise) {
