@@ -181,11 +181,11 @@ struct Page {
     bool RowFieldsMade = false; ///< the row arrays hold all their elements
     std::vector<LabelBase> LabelBaseState;
     bool DateWarningShown = false;
+    int InkVersion = 0; ///< goes up when a preview that is up has to be drawn anew
 
     /// Preview: the page shows as flat ink. The fields keep what they are; the front end hides them
     /// meanwhile.
     bool InkShown = false;
-    int InkVersion = 0; ///< goes up when ink that is shown has to be drawn anew
 };
 
 struct PageSet {
