@@ -2,6 +2,10 @@
 #include "desktop/frm_main_view.h"
 #include "desktop/page_view.h"
 #include "desktop/qt_platform.h"
+#include "document/page_geometry.h"
+#include "document/page_setup.h"
+#include "output/preview.h"
+#include "output/print.h"
 #include "output/print_page.h"
 #include "shell/main_load.h"
 #include "shell/wiring.h"
@@ -18,6 +22,7 @@
 #include <algorithm>
 #include <chrono>
 #include <memory>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -112,33 +117,98 @@ void KeyToPaintedFrame(benchmark::State& state) {
 }
 BENCHMARK(KeyToPaintedFrame)->Unit(benchmark::kMillisecond);
 
-void OnePageToPdf(benchmark::State& state) {
-    Desktop desktop;
-    for (auto _ : state) {
-        PaperSurface surface(desktop.qt.measure);
-        modPrint::DrawPage(desktop.program, surface, PageId::frmP6);
-        benchmark::DoNotOptimize(QtPrinters::MakePdf({&surface.Record}, QStringLiteral("Page")));
+/// Text in every row of every page, so that no page is cheap.
+void FillEveryRow(Program& program) {
+    for (const PageId page : kAllPages) {
+        for (std::size_t index = 0; index < program.pages[page].txt.size(); ++index) {
+            TextArea& area = program.pages[page].txt[index];
+            const bool amount = geometry::RightAligned(page, static_cast<int>(index));
+            area.Text = amount ? "1,250.00" : "White folding chairs with ivory sashes, delivered and set up";
+            if (IsLinePage(page)) {
+                program.document.CurrentTextBuf[static_cast<std::size_t>(IndexOf(page))][index] = area.Text;
+                if (amount && geometry::IsAmount(page, static_cast<int>(index))) {
+                    modPages::SetCurrencySign(program, page, static_cast<int>(index), modPages::Mark::Shown);
+                }
+            }
+        }
     }
 }
-BENCHMARK(OnePageToPdf)->Unit(benchmark::kMillisecond);
 
+QByteArray PagesToPdf(const Desktop& desktop, std::span<const PageId> ids) {
+    std::vector<PaperRecord> records;
+    for (const PageId page : ids) {
+        PaperSurface surface(desktop.qt.measure);
+        modPrint::DrawPage(desktop.program, surface, page);
+        records.push_back(std::move(surface.Record));
+    }
+    std::vector<const PaperRecord*> pages;
+    for (const PaperRecord& record : records) {
+        pages.push_back(&record);
+    }
+    return QtPrinters::MakePdf(pages, QStringLiteral("Proposal"));
+}
+
+double Median(std::vector<double>& spans) {
+    std::sort(spans.begin(), spans.end());
+    return spans[spans.size() / 2];
+}
+
+/// A document of one page, whose fonts are embedded with it, and one of seven: what each further page adds.
 void SevenPagesToPdf(benchmark::State& state) {
     Desktop desktop;
+    FillEveryRow(desktop.program);
+    std::vector<double> first;
+    std::vector<double> further;
     for (auto _ : state) {
-        std::vector<PaperRecord> records;
-        std::vector<const PaperRecord*> pages;
-        for (const PageId page : kAllPages) {
-            PaperSurface surface(desktop.qt.measure);
-            modPrint::DrawPage(desktop.program, surface, page);
-            records.push_back(std::move(surface.Record));
-        }
-        for (const PaperRecord& record : records) {
-            pages.push_back(&record);
-        }
-        benchmark::DoNotOptimize(QtPrinters::MakePdf(pages, QStringLiteral("Proposal")));
+        const auto start = Clock::now();
+        benchmark::DoNotOptimize(PagesToPdf(desktop, std::span(kAllPages).first(1)));
+        const auto one = Clock::now();
+        benchmark::DoNotOptimize(PagesToPdf(desktop, kAllPages));
+        const auto seven = Clock::now();
+        first.push_back(Milliseconds(one - start));
+        further.push_back((Milliseconds(seven - one) - first.back()) / (kPageCount - 1));
+        state.SetIterationTime(std::chrono::duration<double>(seven - one).count());
+    }
+    state.counters["first_ms"] = Median(first);
+    state.counters["further_ms"] = Median(further);
+}
+BENCHMARK(SevenPagesToPdf)->Unit(benchmark::kMillisecond)->UseManualTime();
+
+/// The command as a person gives it, from its choice to the written file.
+void PrintAllPagesIntoAFile(benchmark::State& state) {
+    Desktop desktop;
+    FillEveryRow(desktop.program);
+    desktop.qt.printers.MakeCurrent("Print to PDF");
+    const QString file = QString::fromStdString(desktop.folder / "out.pdf");
+    desktop.qt.printers.AskForFile = [file](const QString&) { return file; };
+    for (auto _ : state) {
+        modPrint::mnuFilePrintAll_Click(desktop.program);
+        desktop.window->AfterEvent();
     }
 }
-BENCHMARK(SevenPagesToPdf)->Unit(benchmark::kMillisecond);
+BENCHMARK(PrintAllPagesIntoAFile)->Unit(benchmark::kMillisecond);
+
+/// From the choice of the preview, or of its end, to the painted frame.
+void PreviewToggle(benchmark::State& state) {
+    Desktop desktop;
+    FillEveryRow(desktop.program);
+    desktop.window->AfterEvent();
+    QCoreApplication::processEvents();
+    std::vector<double> begin;
+    std::vector<double> end;
+    for (auto _ : state) {
+        for (auto* spans : {&begin, &end}) {
+            const auto start = Clock::now();
+            modPrint::TogglePreview(desktop.program);
+            desktop.window->AfterEvent();
+            QCoreApplication::processEvents();
+            spans->push_back(Milliseconds(Clock::now() - start));
+        }
+    }
+    state.counters["preview_ms"] = Median(begin);
+    state.counters["resume_ms"] = Median(end);
+}
+BENCHMARK(PreviewToggle)->Unit(benchmark::kMillisecond);
 
 void MemoryOfTheIdleProgram(benchmark::State& state) {
     const Desktop desktop;

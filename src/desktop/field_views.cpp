@@ -1,5 +1,6 @@
 #include "desktop/field_views.h"
 
+#include "core/ansi.h"
 #include "core/program.h"
 #include "desktop/convert.h"
 #include "desktop/key_codes.h"
@@ -492,6 +493,40 @@ void LabelView::paintEvent(QPaintEvent*) {
     painter.setPen(convert::ToQColor(shown_.ForeColor));
     paper::Draw(painter, {0, 0}, shown_.Caption,
                 {shown_.FontName, shown_.FontSize, shown_.FontBold, shown_.FontItalic}, shown_.FontUnderline);
+}
+
+LogoView::LogoView(PageContext& page, QWidget& paper) : QWidget(&paper), page_(page) {
+    setObjectName(QStringLiteral("pic"));
+    setAccessibleName(tr("Logo"));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void LogoView::Follow(const PagePicture& record) {
+    if (record == shown_) {
+        return;
+    }
+    if (record.Picture != shown_.Picture) {
+        picture_ = QImage(QString::fromStdString(ansi::ToUtf8(record.Picture.Path)));
+    }
+    shown_ = record;
+    setGeometry(OnScreen(static_cast<double>(record.Left), static_cast<double>(record.Top),
+                         static_cast<double>(record.Size.Width), static_cast<double>(record.Size.Height),
+                         page_.Scale));
+    update();
+}
+
+void LogoView::paintEvent(QPaintEvent*) {
+    if (picture_.isNull()) {
+        return;
+    }
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.translate(static_cast<double>(shown_.Left) * page_.Scale - geometry().x(),
+                      static_cast<double>(shown_.Top) * page_.Scale - geometry().y());
+    painter.scale(page_.Scale, page_.Scale);
+    painter.drawImage(
+        QRectF(0, 0, static_cast<double>(shown_.Size.Width), static_cast<double>(shown_.Size.Height)),
+        picture_);
 }
 
 MarkView::MarkView(PageContext& page, QWidget& paper, int index) : QAbstractButton(&paper), page_(page) {

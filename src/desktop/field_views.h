@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QBasicTimer>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -82,6 +83,22 @@ private:
     PageContext& page_;
     PageLabel shown_;
     bool built_ = false;
+};
+
+/// The logo in its natural size. Clicks go to the paper under it.
+class LogoView : public QWidget {
+    Q_OBJECT
+public:
+    LogoView(PageContext& page, QWidget& paper);
+    void Follow(const PagePicture& record);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    PageContext& page_;
+    PagePicture shown_;
+    QImage picture_;
 };
 
 /// The mark of a tax-exempt amount; a click makes the amount taxable again.

@@ -1,6 +1,5 @@
 #include "desktop/page_view.h"
 
-#include "core/ansi.h"
 #include "core/program.h"
 #include "desktop/convert.h"
 #include "desktop/field_views.h"
@@ -115,19 +114,27 @@ void PageView::FollowPaper() {
         grid_ = record.GridPoints;
         update();
     }
-    if (!(record.pic == picture_)) {
-        if (record.pic.Picture.Path != picture_.Picture.Path) {
-            logo_ = QImage(QString::fromStdString(ansi::ToUtf8(record.pic.Picture.Path)));
+}
+
+void PageView::FollowLogo() {
+    const Page& record = program_.pages[id_];
+    const bool visible = record.HasLogo && record.pic.Visible && !ink_;
+    if (logo_ == nullptr) {
+        if (!visible) {
+            return;
         }
-        picture_ = record.pic;
-        update();
+        logo_ = new LogoView(context_, *this);
     }
+    logo_->Follow(record.pic);
+    ShowAs(*logo_, visible);
+    logo_->raise(); // it lies over the labels, on the paper too
 }
 
 void PageView::Follow() {
     const Page& record = program_.pages[id_];
-    if (record.InkShown != ink_) {
+    if (record.InkShown != ink_ || (ink_ && record.InkVersion != inkVersion_)) {
         ink_ = record.InkShown;
+        inkVersion_ = record.InkVersion;
         preview_ = {};
         if (ink_) {
             PaperSurface surface(context_.measure);
@@ -144,6 +151,7 @@ void PageView::Follow() {
     FollowLabels(FieldKind::lblAt, lblAt_, record.lblAt);
     FollowLabels(FieldKind::lblEach, lblEach_, record.lblEach);
     FollowMarks();
+    FollowLogo();
 }
 
 void PageView::FollowFocus() {
@@ -193,13 +201,6 @@ void PageView::DrawFixed(QPainter& painter) const {
             painter.drawLine(QPointF(static_cast<double>(line.X1), static_cast<double>(line.Y1)),
                              QPointF(static_cast<double>(line.X2), static_cast<double>(line.Y2)));
         }
-    }
-    if (picture_.Visible && !logo_.isNull()) {
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(QRectF(static_cast<double>(picture_.Left), static_cast<double>(picture_.Top),
-                                 static_cast<double>(picture_.Size.Width),
-                                 static_cast<double>(picture_.Size.Height)),
-                          logo_);
     }
 }
 

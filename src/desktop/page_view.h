@@ -12,6 +12,7 @@
 #include <vector>
 
 class LabelView;
+class LogoView;
 class MarkView;
 class QtTextMeasure;
 class TextAreaView;
@@ -40,6 +41,7 @@ private:
     void FollowLabels(FieldKind kind, std::vector<LabelView*>& views, const std::vector<PageLabel>& records);
     void FollowMarks();
     void FollowPaper();
+    void FollowLogo();
     void DrawFixed(QPainter& painter) const;
     void DrawGrid(QPainter& painter) const;
 
@@ -57,8 +59,8 @@ private:
     std::vector<PageLine> lines_;
     std::vector<PageLine> centre_;
     std::vector<PagePoint> grid_;
-    PagePicture picture_;
-    QImage logo_;
+    LogoView* logo_ = nullptr;
     bool ink_ = false;
+    int inkVersion_ = 0;
     PaperRecord preview_;
 };

@@ -23,12 +23,18 @@ void DrawNoTaxMark(QPainter& painter, QPointF corner, double side) {
     painter.setRenderHint(QPainter::Antialiasing);
     // A "T" for tax in a ring, struck through.
     const QColor ink(0xA8, 0x2B, 0x1E);
-    painter.setPen(QPen(ink, 2.2, Qt::SolidLine, Qt::RoundCap));
+    const auto pen = [&](const QColor& colour, double width) {
+        painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::FlatCap));
+    };
+    pen(ink, 1.8);
     painter.setBrush(Qt::white);
-    painter.drawEllipse(QPointF(12, 12), 10, 10);
-    painter.drawLine(QPointF(7.5, 8), QPointF(16.5, 8));
-    painter.drawLine(QPointF(12, 8), QPointF(12, 17.5));
-    painter.drawLine(QPointF(5.2, 18.8), QPointF(18.8, 5.2));
+    painter.drawEllipse(QPointF(12, 12), 10.4, 10.4);
+    // The letter in another colour than the stroke, so that both can be read at the size of a line.
+    pen(QColor(0x30, 0x30, 0x30), 2.2);
+    painter.drawLine(QPointF(6.8, 7.6), QPointF(17.2, 7.6));
+    painter.drawLine(QPointF(12, 7.6), QPointF(12, 18.2));
+    pen(ink, 1.8);
+    painter.drawLine(QPointF(4.7, 19.3), QPointF(19.3, 4.7));
     painter.restore();
 }
 

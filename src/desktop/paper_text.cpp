@@ -11,6 +11,8 @@ namespace {
 
 constexpr float kTwipsPerPoint = 20;
 constexpr float kSmallest = 1;
+/// From the base line to the top of an underline, and its height, as parts of the type's size.
+constexpr double kUnderlineDrop = 0.1, kUnderlineWeight = 0.055;
 
 } // namespace
 
@@ -34,10 +36,19 @@ void Draw(QPainter& painter, QPointF corner, std::string_view text, const TextFo
     if (text.empty()) {
         return;
     }
-    QFont face = Face(font);
-    face.setUnderline(underline);
+    const QFont face = Face(font);
+    const QFontMetricsF metrics(face);
+    const QString words = convert::ToQString(text);
+    const double base = corner.y() + metrics.ascent();
     painter.setFont(face);
-    painter.drawText(QPointF(corner.x(), corner.y() + Ascent(font)), convert::ToQString(text));
+    painter.drawText(QPointF(corner.x(), base), words);
+    if (underline) {
+        // The toolkit's own line would touch the letters.
+        const double size = face.pixelSize();
+        painter.fillRect(QRectF(corner.x(), base + size * kUnderlineDrop, metrics.horizontalAdvance(words),
+                                size * kUnderlineWeight),
+                         painter.pen().color());
+    }
 }
 
 } // namespace paper

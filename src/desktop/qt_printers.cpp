@@ -4,15 +4,18 @@
 #include "core/files.h"
 #include "desktop/convert.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLibrary>
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -23,13 +26,40 @@ QPageLayout Letter() {
     return QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait, QMarginsF(), QPageLayout::Inch);
 }
 
+QString AskPerson(const QString& suggested) {
+    QFileDialog dialog(QApplication::activeWindow(), QObject::tr("Print to PDF"), QFileInfo(suggested).path(),
+                       QObject::tr("PDF (*.pdf)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    // The ending belongs to the name before the person is asked whether a file may be replaced.
+    dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    dialog.selectFile(QFileInfo(suggested).fileName());
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+[[noreturn]] void FailPrinting(const std::string& printer, const std::string& why) {
+    throw files::FileError(files::kDeviceError, "Printer error: " + printer + ". " + why);
+}
+
+/// Why the print system did not take the job that was just sent. The toolkit hands it over and does not look
+/// at the answer; the system's own library keeps it.
+std::optional<std::string> Refusal() {
+    using LastError = int (*)();
+    using LastErrorText = const char* (*)();
+    constexpr int kCupsVersion = 2;
+    constexpr int kFirstRefusal = 0x400; // what is below tells of success
+    QLibrary system(QStringLiteral("cups"), kCupsVersion);
+    const auto lastError = reinterpret_cast<LastError>(system.resolve("cupsLastError"));
+    const auto text = reinterpret_cast<LastErrorText>(system.resolve("cupsLastErrorString"));
+    if (lastError == nullptr || text == nullptr || lastError() < kFirstRefusal) {
+        return std::nullopt; // there is no such library where printers are reached in another way
+    }
+    return ansi::FromUtf8(text()).value_or("The document was not taken.");
+}
+
 } // namespace
 
 QtPrinters::QtPrinters(const TextMeasure& measure) : current_(kToPdf), device_(measure, *this) {
-    AskForFile = [](const QString& suggested) {
-        return QFileDialog::getSaveFileName(nullptr, QObject::tr("Print to PDF"), suggested,
-                                            QObject::tr("PDF (*.pdf)"));
-    };
+    AskForFile = AskPerson;
     const QString system = QPrinterInfo::defaultPrinterName();
     if (const auto name = ansi::FromUtf8(system.toStdString()); name && !name->empty()) {
         current_ = *name;
@@ -84,13 +114,18 @@ void QtPrinters::Finish(std::vector<PaperRecord> pages) {
 
 void QtPrinters::SendToPrinter(const std::vector<PaperRecord>& pages) const {
     const QPrinterInfo info = QPrinterInfo::printerInfo(QString::fromStdString(ansi::ToUtf8(current_)));
+    if (info.isNull()) {
+        FailPrinting(current_, "The printer was not found.");
+    }
     QPrinter printer(info, QPrinter::HighResolution);
     printer.setDocName(QStringLiteral("Quillbrook ") + convert::ToQString(documentName_));
-    printer.setPageLayout(Letter());
+    // Not in one layout: a printer that cannot print to the edge would keep its own paper.
+    printer.setPageSize(QPageSize(QPageSize::Letter));
+    printer.setPageOrientation(QPageLayout::Portrait);
     printer.setFullPage(true);
     QPainter painter;
-    if (info.isNull() || !painter.begin(&printer)) {
-        throw files::FileError(files::kDeviceError, "Printer error: " + current_);
+    if (!painter.begin(&printer)) {
+        FailPrinting(current_, "The printer takes no document.");
     }
     bool first = true;
     for (const PaperRecord& page : pages) {
@@ -104,8 +139,11 @@ void QtPrinters::SendToPrinter(const std::vector<PaperRecord>& pages) const {
         page.Replay(painter);
         painter.restore();
     }
-    if (!painter.end()) {
-        throw files::FileError(files::kDeviceError, "Printer error: " + current_);
+    if (!painter.end() || printer.printerState() == QPrinter::Error) {
+        FailPrinting(current_, "The document was not taken.");
+    }
+    if (const std::optional<std::string> why = Refusal()) {
+        FailPrinting(current_, *why);
     }
 }
 
@@ -196,12 +234,13 @@ void QtPrinters::Paper::EndDoc() {
     if (!surface_.Record.Empty()) {
         NewPage();
     }
-    if (!finished_.empty()) {
-        std::vector<PaperRecord> pages = std::move(finished_);
-        finished_.clear();
-        owner_.Finish(std::move(pages));
+    if (finished_.empty()) {
+        return;
     }
-    // A new document begins with the paper's own corner.
+    // A new document begins with the paper's own corner, also after one that could not be sent.
     ScaleLeft = 0;
     ScaleTop = 0;
+    std::vector<PaperRecord> pages = std::move(finished_);
+    finished_.clear();
+    owner_.Finish(std::move(pages));
 }

@@ -64,8 +64,13 @@ void WindowViews::Follow() {
         }
         // Its own button may still be on the stack.
         WindowView* view = at->second.release();
+        const bool active = view->isActiveWindow();
         view->hide();
         view->deleteLater();
+        if (active) {
+            over_.activateWindow(); // the keyboard goes back to the page, also where no window manager sees
+                                    // to it
+        }
         at = views_.erase(at);
     }
     for (const std::unique_ptr<Window>& window : open) {

@@ -188,6 +188,7 @@ struct Page {
     bool RowFieldsMade = false; ///< the row arrays hold all their elements
     std::vector<LabelBase> LabelBaseState;
     bool DateWarningShown = false;
+    int InkVersion = 0; ///< goes up when a preview that is up has to be drawn anew
 
     /// Preview: the page shows as flat ink. The fields keep what they are; the front end hides them
     /// meanwhile.

@@ -3,7 +3,7 @@
 #include "core/errors.h"
 #include "core/program.h"
 #include "document/page_geometry.h"
-#include "document/totals.h"
+#include "output/print_page.h"
 
 namespace modPrint {
 
@@ -28,11 +28,10 @@ void TogglePreview(Program& program) {
         return;
     }
     program.printing.PrintFormName = geometry::PageName(main.ActivePage);
-    if (main.cmdReCalc.BackColor == colors::kOverLimit) {
-        modTotals::RecalculateAll(program);
-        modTotals::UpdateRunningTotals(program);
-    }
-    program.pages[main.ActivePage].InkShown = true;
+    Guarded(program, "PrintTheForm", [&] {
+        PrepareDrawing(program);
+        program.pages[main.ActivePage].InkShown = true;
+    });
 }
 
 void ResumeEditing(Program& program, PageId page) {

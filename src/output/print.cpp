@@ -47,6 +47,10 @@ void PrintOne(Program& program, PageId page) {
 
 /// One command is one job for a printer that makes a file, however many pages it prints.
 void PrintPages(Program& program, const std::vector<PageId>& pages) {
+    if (program.printing.CommandRunning) {
+        return;
+    }
+    const ScopedFlag running(program.printing.CommandRunning);
     Printers& printers = program.platform.printers;
     if (!printers.BeginCommand(CommandFor(program))) {
         return;
@@ -66,6 +70,9 @@ void mnuFilePrintPage_Click(Program& program, PageId page) {
 }
 
 void mnuFilePrintAll_Click(Program& program) {
+    if (program.printing.CommandRunning) {
+        return;
+    }
     if (program.run.NoPrinter) {
         program.platform.questions.MsgBox("Printer Error 482. Printer not found.", Buttons::Ok, "");
         return;

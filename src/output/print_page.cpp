@@ -51,10 +51,7 @@ void DrawLabel(DrawingSurface& surface, const PageLabel& label) {
 }
 
 void PrintSteps(Program& program, Printer& printer, PageId page) {
-    if (program.main.cmdReCalc.BackColor == colors::kOverLimit) {
-        modTotals::RecalculateAll(program);
-        modTotals::UpdateRunningTotals(program);
-    }
+    PrepareDrawing(program);
     const ScopedFlag printing(program.guards.Printing);
     const Page& first = program.pages[PageId::frmP1];
     printer.ScaleHeight = first.Height;
@@ -108,6 +105,8 @@ void DrawPage(const Program& program, DrawingSurface& surface, PageId page) {
             DrawLabel(surface, label);
         }
     }
+    // The boxes are black, as on the screen, whatever colour the label before them had.
+    surface.ForeColor = colors::kBlack;
     for (const PageLine& line : record.lne) {
         surface.Line(line.X1, line.Y1, line.X2, line.Y2);
     }
@@ -116,6 +115,17 @@ void DrawPage(const Program& program, DrawingSurface& surface, PageId page) {
         surface.PaintPicture(record.pic.Picture, record.pic.Left + surface.ScaleLeft,
                              record.pic.Top + surface.ScaleTop);
     }
+}
+
+void PrepareDrawing(Program& program) {
+    if (program.main.cmdReCalc.BackColor == colors::kOverLimit) {
+        modTotals::RecalculateAll(program);
+        modTotals::UpdateRunningTotals(program);
+    }
+    Page& active = program.pages[program.main.ActivePage];
+    active.CenterLines.clear();
+    active.GridPoints.clear();
+    ++active.InkVersion;
 }
 
 void PrintTheForm(Program& program, PageId page) {

@@ -7,11 +7,13 @@ struct Program;
 
 namespace modPrint {
 
-enum class SurfaceKind { Printer, PageItself };
-
 /// Draws the fields of one page in their order, each at its Left and Top. Fields with the Tag "Hide" are left
 /// out, hidden fields without it are drawn. Text areas take the default text colour, not their own.
 void DrawPage(const Program& program, DrawingSurface& surface, PageId page);
+
+/// What comes before a page is drawn, on paper or on itself: totals first when `cmdReCalc` is red; what was
+/// drawn on the active page goes, and is drawn anew when a preview is up.
+void PrepareDrawing(Program& program);
 
 /// One page onto the current printer as a document of its own: totals first when `cmdReCalc` is red, the
 /// printer's offsets, the page, EndDoc, and the printer's font put back. Reports as "PrintTheForm".

@@ -17,6 +17,7 @@
 #include "shell/admin_commands.h"
 #include "shell/closing.h"
 #include "shell/command_table.h"
+#include "shell/preview_refusals.h"
 #include "shell/small_commands.h"
 
 #include <algorithm>
@@ -113,22 +114,6 @@ constexpr std::array kRoutes{
     Route{CommandId::mnuHelpVersion, modMain::mnuHelpVersion_Click},
 };
 
-constexpr std::array kEditingMenus{CommandId::mnuEditTextBox, CommandId::mnuEditLabel,
-                                   CommandId::mnuEditLogo};
-constexpr std::array kEditingCommands{CommandId::mnuEditAllTextFonts, CommandId::mnuEditTitles,
-                                      CommandId::mnuEditCompInfo, CommandId::mnuEditSpellCheck,
-                                      CommandId::mnuManageEditor};
-
-template <typename List> bool Holds(const List& list, CommandId id) {
-    return std::find(list.begin(), list.end(), id) != list.end();
-}
-
-/// Commands that change what stands on a page wait until the preview has ended.
-bool RefusedInPreview(const Program& program, CommandId id) {
-    return program.main.cmdPreview.Caption == "Resume Editing" &&
-           (Holds(kEditingMenus, Find(id).Parent) || Holds(kEditingCommands, id));
-}
-
 } // namespace
 
 void Run(Program& program, CommandId id) {
@@ -139,8 +124,7 @@ void Run(Program& program, CommandId id) {
     if (!IsAvailable(program, id) || !program.main[id].Visible) {
         return;
     }
-    if (RefusedInPreview(program, id)) {
-        program.platform.questions.MsgBox("Please click \"Resume Editing\" first.", Buttons::Ok, "");
+    if (RefuseInPreview(program, id)) {
         return;
     }
     const auto* const route =

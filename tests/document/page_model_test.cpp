@@ -279,6 +279,20 @@ TEST(PageModel, SaysWhatTheFinalPageSays) {
     EXPECT_EQ(run.Label(PageId::frmP6_1, 64).Caption, "Proposal for (Client's Name) - Client's Copy");
 }
 
+TEST(PageModel, BoxesGoTopRightBottomLeft) {
+    RunningProgram run;
+    const auto& lne = run.program.pages[PageId::frmP1].lne;
+    const auto side = [&](std::size_t index) {
+        return std::make_tuple(std::min(lne[index].X1, lne[index].X2), std::min(lne[index].Y1, lne[index].Y2),
+                               std::max(lne[index].X1, lne[index].X2),
+                               std::max(lne[index].Y1, lne[index].Y2));
+    };
+    EXPECT_EQ(side(0), std::make_tuple(1440.0F, 5400.0F, 10800.0F, 5400.0F));
+    EXPECT_EQ(side(1), std::make_tuple(10800.0F, 5400.0F, 10800.0F, 7740.0F));
+    EXPECT_EQ(side(2), std::make_tuple(1440.0F, 7740.0F, 10800.0F, 7740.0F));
+    EXPECT_EQ(side(3), std::make_tuple(1440.0F, 5400.0F, 1440.0F, 7740.0F));
+}
+
 TEST(PageModel, RulesItsBoxes) {
     RunningProgram run;
     const auto spans = [&](PageId page, std::size_t first, float left, float top, float right, float bottom) {
@@ -396,6 +410,12 @@ TEST(PageModel, FontsGoToAreasRowLabelsAndSignsAndBoldComesBack) {
     EXPECT_EQ(run.Label(PageId::frmP1, 21).FontName, "Arial");
     EXPECT_EQ(run.Label(PageId::frmP1, 9).FontName, "Times New Roman");
     EXPECT_EQ(program.pages[PageId::frmP3].lblAt[2].FontName, "Arial");
+    for (const TextArea* box :
+         {&program.pages[PageId::frmP3].txtQty[2], &program.pages[PageId::frmP3].txtAmt[2]}) {
+        EXPECT_EQ(box->FontName, "Arial");
+        EXPECT_EQ(box->FontSize, 8);
+        EXPECT_TRUE(box->FontItalic);
+    }
     program.run.DefaultFontSize = 0;
     modPages::ApplyPageFonts(program);
     EXPECT_EQ(run.Area(PageId::frmP1, 0).FontSize, 10);

@@ -1,6 +1,7 @@
 #include "output/page_count.h"
 
 #include "core/program.h"
+#include "document/page_geometry.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -54,9 +55,15 @@ TEST(PagesInUse, GoesByTheTextsOnThePagesAndNotByThoseLastSaved) {
     EXPECT_EQ(run.program.document.PagesInUse, 3);
 }
 
-class PageNumbers : public testing::TestWithParam<int> {};
+TEST(PageNumbers, HaveWordsForSevenSheets) {
+    for (int index = 0; index < 7; ++index) {
+        EXPECT_EQ(geometry::PageOfText(index), "Page " + std::to_string(index + 1) + " of ");
+    }
+}
 
-TEST_P(PageNumbers, StandOnEveryPage) {
+class NumberedPages : public testing::TestWithParam<int> {};
+
+TEST_P(NumberedPages, StandOnEveryPage) {
     const int used = GetParam();
     const std::string of = " of " + std::to_string(used);
     RunningProgram run;
@@ -81,7 +88,7 @@ TEST_P(PageNumbers, StandOnEveryPage) {
               "Utilizing " + std::to_string(used) + " of 6 Available Pages");
 }
 
-INSTANTIATE_TEST_SUITE_P(TwoToSix, PageNumbers, testing::Values(2, 3, 4, 5, 6));
+INSTANTIATE_TEST_SUITE_P(TwoToSix, NumberedPages, testing::Values(2, 3, 4, 5, 6));
 
 /// "Acme - Page 2" has 13 characters of 100 twips: 6120 - 650.
 TEST(Headings, AreCentredAndKeptWithTheProposal) {
@@ -95,6 +102,43 @@ TEST(Headings, AreCentredAndKeptWithTheProposal) {
     EXPECT_EQ(kept.Left, 5470);
     EXPECT_EQ(kept.Top, run.Label(PageId::frmP2, 0).Top);
     EXPECT_EQ(kept.FontName, run.Label(PageId::frmP2, 0).FontName);
+    // "Acme - Page 6": as long.
+    EXPECT_EQ(run.Label(PageId::frmP6, 0).Left, 5470);
+    EXPECT_EQ(run.Label(PageId::frmP6_1, 0).Left, 5470);
+    EXPECT_EQ(run.program.format.PropLabelChanges[5][0].Caption, "Acme - Page 6");
+}
+
+TEST(PageNumbers, AreKeptWithTheProposalAsTheyLook) {
+    RunningProgram run;
+    run.program.document.PagesInUse = 3;
+    PageLabel& number = run.Label(PageId::frmP1, 31);
+    number.Left = 1000;
+    number.Top = 15000;
+    number.FontName = "Arial";
+    number.FontSize = 8;
+    number.FontBold = false;
+    number.FontItalic = false;
+    number.FontUnderline = true;
+    number.ForeColor = 0x0000FF;
+    modPrint::SetPageNumbers(run.program);
+    const LabelChangeRecord& kept = run.program.format.PropLabelChanges[0][31];
+    EXPECT_TRUE(kept.Changed);
+    EXPECT_EQ(kept.Caption, "Page 1 of 3");
+    EXPECT_EQ(kept.Left, 1000);
+    EXPECT_EQ(kept.Top, 15000);
+    EXPECT_EQ(kept.FontName, "Arial");
+    EXPECT_EQ(kept.FontSize, 8);
+    EXPECT_FALSE(kept.FontBold);
+    EXPECT_FALSE(kept.FontItalic);
+    EXPECT_TRUE(kept.FontUnderline);
+    EXPECT_EQ(kept.ForeColor, 0x0000FFU);
+    EXPECT_EQ(number.Left, 1000) << "only headings are centred";
+    for (const int page : {1, 2, 3, 4}) {
+        EXPECT_TRUE(run.program.format.PropLabelChanges[static_cast<std::size_t>(page)][34].Changed);
+        EXPECT_TRUE(run.program.format.PropLabelChanges[static_cast<std::size_t>(page)][0].Changed);
+    }
+    EXPECT_EQ(run.program.format.PropLabelChanges[5][63].Caption, "Page 3 of 3");
+    EXPECT_FALSE(run.program.format.PropLabelChanges[0][0].Changed) << "page 1 has no running heading";
 }
 
 TEST(Footers, SayOfSixUntilAPrintCommandHasRun) {

@@ -62,13 +62,20 @@ TEST(Preview, ResumingShowsWhatIsNotTaggedHide) {
 }
 
 TEST(Preview, EndsWhenAPageIsChosen) {
-    RunningProgram run;
-    modPrint::TogglePreview(run.program);
-    modScroll::UpdatePageButtons(run.program, 3);
-    EXPECT_EQ(run.program.main.cmdPreview.Caption, "Print Preview");
-    EXPECT_FALSE(run.program.pages[PageId::frmP1].InkShown);
-    EXPECT_FALSE(run.program.pages[PageId::frmP4].InkShown);
-    EXPECT_FALSE(run.program.main[CommandId::mnuFileResume].Enabled);
+    for (int from = 0; from < kEditedPageCount; ++from) {
+        for (int to = 0; to < kPageCount; ++to) {
+            RunningProgram run;
+            modScroll::UpdatePageButtons(run.program, from);
+            modPrint::TogglePreview(run.program);
+            ASSERT_TRUE(run.program.pages[PageAt(from)].InkShown);
+            modScroll::UpdatePageButtons(run.program, to);
+            EXPECT_EQ(run.program.main.cmdPreview.Caption, "Print Preview");
+            EXPECT_FALSE(run.program.pages[PageAt(from)].InkShown);
+            EXPECT_FALSE(run.program.pages[PageAt(to)].InkShown);
+            EXPECT_TRUE(run.program.main[CommandId::mnuFilePrintPreview].Enabled);
+            EXPECT_FALSE(run.program.main[CommandId::mnuFileResume].Enabled);
+        }
+    }
 }
 
 TEST(Preview, OfTheClientsCopyDrawsThePageShownBeforeIt) {
@@ -113,6 +120,21 @@ TEST(Preview, RefusesTheCommandsThatEditThePage) {
     EXPECT_EQ(run.Area(PageId::frmP2, 0).Width, 8640);
     commands::Run(run.program, CommandId::mnuFilePrintPage2);
     EXPECT_EQ(run.surroundings.printers.Named.size(), 1U) << "printing goes on";
+}
+
+TEST(Preview, IsDrawnAnewWhenAPageIsPrintedMeanwhile) {
+    RunningProgram run;
+    run.program.document.CurrentTextBuf[0][2] = "Jane";
+    modPrint::TogglePreview(run.program);
+    const int drawn = run.program.pages[PageId::frmP1].InkVersion;
+    run.surroundings.events.OnYield = [&] {
+        EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 2");
+        EXPECT_GT(run.program.pages[PageId::frmP1].InkVersion, drawn) << "with the new numbers";
+    };
+    commands::Run(run.program, CommandId::mnuFilePrintPage6);
+    EXPECT_GT(run.program.pages[PageId::frmP1].InkVersion, drawn);
+    EXPECT_TRUE(run.program.pages[PageId::frmP1].InkShown) << "and it stays";
+    EXPECT_EQ(run.program.main.cmdPreview.Caption, "Resume Editing");
 }
 
 TEST(Preview, BringsTheTotalsUpToDateWhenTheButtonIsRed) {

@@ -7,6 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
+
 namespace {
 
 using Names = std::vector<std::pair<std::string, int>>;
@@ -83,8 +86,8 @@ TEST(PrintAll, GoesOnAfterACancelAndTheNextRunEndsAtOnce) {
     modPrint::mnuFilePrintAll_Click(run.program);
     EXPECT_EQ(run.surroundings.printers.Named.size(), 3U);
     EXPECT_TRUE(run.program.printing.PrintCancelled);
-    // What was drawn before the cancel went out as a document of its own, then the page and the two others.
-    EXPECT_EQ(run.surroundings.printers.Paper.Documents.size(), 4U);
+    // Nothing was drawn yet when the person could press the button: every page still comes out whole.
+    EXPECT_EQ(run.surroundings.printers.Paper.Documents.size(), 3U);
 
     modPrint::mnuFilePrintAll_Click(run.program);
     EXPECT_EQ(run.surroundings.printers.Commands.size(), 1U);
@@ -153,11 +156,14 @@ TEST(PrintPage, PrintsThatPageAlone) {
 }
 
 TEST(PrintPage, SaysNothingWithoutAPrinter) {
-    Proposal run(2);
-    run.program.run.NoPrinter = true;
-    modPrint::mnuFilePrintPage_Click(run.program, PageId::frmP1);
-    EXPECT_TRUE(run.surroundings.questions.Shown.empty());
-    EXPECT_TRUE(run.surroundings.printers.Commands.empty());
+    for (const PageId page : kAllPages) {
+        Proposal run(2);
+        run.program.run.NoPrinter = true;
+        modPrint::mnuFilePrintPage_Click(run.program, page);
+        EXPECT_TRUE(run.surroundings.questions.Shown.empty());
+        EXPECT_TRUE(run.surroundings.printers.Commands.empty());
+        EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 6") << "not even the numbers change";
+    }
 }
 
 TEST(PrintPage, DoesNotAskWhetherAnEarlierRunWasCancelled) {
@@ -165,6 +171,78 @@ TEST(PrintPage, DoesNotAskWhetherAnEarlierRunWasCancelled) {
     run.program.printing.PrintCancelled = true;
     modPrint::mnuFilePrintPage_Click(run.program, PageId::frmP1);
     EXPECT_EQ(run.surroundings.printers.Named.size(), 1U);
+    EXPECT_TRUE(run.program.printing.PrintCancelled);
+}
+
+TEST(PrintPage, NumbersThePagesFirst) {
+    Proposal run(3);
+    run.program.document.PagesInUse = 6;
+    modPrint::mnuFilePrintPage_Click(run.program, PageId::frmP1);
+    EXPECT_EQ(run.program.document.PagesInUse, 3);
+    EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 3");
+    EXPECT_EQ(run.Label(PageId::frmP6_1, 63).Caption, "Page 3 of 3");
+    EXPECT_EQ(run.program.main.lblHighestPage.Caption, "Utilizing 3 of 6 Available Pages");
+    const auto& document = run.surroundings.printers.Paper.Documents.at(0);
+    EXPECT_TRUE(std::any_of(document.begin(), document.end(),
+                            [](const DrawCall& call) { return call.Text == "Page 1 of 3"; }));
+}
+
+TEST(PrintPage, StandsWholeAndInItsPlaceAfterACancel) {
+    Proposal run(2);
+    run.program.printing.PrinterOffsetX = 360;
+    run.surroundings.events.OnYield = [&] {
+        dynamic_cast<frmDialog&>(*modWindows::Find(run.program, "frmDialog"))
+            .cmdCancelPrint_Click(run.program);
+    };
+    modPrint::mnuFilePrintPage_Click(run.program, PageId::frmP1);
+    const auto& document = run.surroundings.printers.Paper.Documents.at(0);
+    const auto drawn = std::find_if(document.begin(), document.end(),
+                                    [](const DrawCall& call) { return call.Op == DrawCall::What::Print; });
+    ASSERT_NE(drawn, document.end());
+    EXPECT_EQ(drawn->ScaleLeft, 360) << "the offset holds for a page that was begun";
+    EXPECT_EQ(modWindows::Find(run.program, "frmDialog"), nullptr);
+}
+
+TEST(PrintCommands, ChosenWhileAnotherRunsDoNothing) {
+    Proposal run(2);
+    run.surroundings.events.OnYield = [&] {
+        run.program.run.NoPrinter = false;
+        modPrint::mnuFilePrintAll_Click(run.program);
+        modPrint::mnuFilePrintPage_Click(run.program, PageId::frmP2);
+    };
+    modPrint::mnuFilePrintAll_Click(run.program);
+    EXPECT_EQ(run.surroundings.printers.Commands.size(), 1U);
+    EXPECT_EQ(run.surroundings.printers.Named, NamesOf({"frmP6_1", "frmP6", "frmP1"}));
+    EXPECT_EQ(run.surroundings.printers.Ended, 1);
+    run.surroundings.events.OnYield = nullptr;
+    modPrint::mnuFilePrintPage_Click(run.program, PageId::frmP2);
+    EXPECT_EQ(run.surroundings.printers.Commands.size(), 2U) << "and the next one runs";
+}
+
+TEST(PrintAll, GoesOnBetweenPagesWithoutAskingForThePrinterAgain) {
+    Proposal run(2);
+    run.surroundings.events.OnYield = [&] { run.program.run.NoPrinter = true; };
+    modPrint::mnuFilePrintAll_Click(run.program);
+    EXPECT_EQ(run.surroundings.printers.Named.size(), 3U);
+}
+
+TEST(PrintAll, TellsOfAFileThatCannotBeWritten) {
+    Proposal run(2);
+    run.surroundings.printers.OnEndCommand = [] { throw std::runtime_error("the disk is full"); };
+    run.surroundings.questions.Expect("An error occurred in PrintTheForm.");
+    modPrint::mnuFilePrintAll_Click(run.program);
+    EXPECT_NE(run.surroundings.questions.Shown.back().Text.find("the disk is full"), std::string::npos);
+    EXPECT_FALSE(run.program.printing.CommandRunning);
+}
+
+TEST(PrintingWindow, SendsWhatWasDrawnWhenThePersonCancels) {
+    Proposal run(2);
+    auto& window = dynamic_cast<frmDialog&>(modWindows::Show(run.program, std::make_unique<frmDialog>()));
+    run.surroundings.printers.Paper.Print("half a page");
+    window.cmdCancelPrint_Click(run.program);
+    ASSERT_EQ(run.surroundings.printers.Paper.Documents.size(), 1U);
+    EXPECT_EQ(run.surroundings.printers.Paper.Documents[0].at(0).Text, "half a page");
+    EXPECT_TRUE(window.Closing);
     EXPECT_TRUE(run.program.printing.PrintCancelled);
 }
 
@@ -176,7 +254,7 @@ TEST(PrintingWindow, IsModelessAndItsCloseBoxCancels) {
     window.Form_Cancel(run.program);
     EXPECT_TRUE(window.Closing);
     EXPECT_TRUE(run.program.printing.PrintCancelled);
-    EXPECT_EQ(run.surroundings.printers.Paper.Documents.size(), 1U);
+    EXPECT_TRUE(run.surroundings.printers.Paper.Documents.empty()) << "there was nothing to send";
 }
 
 } // namespace

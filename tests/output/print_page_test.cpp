@@ -2,6 +2,7 @@
 
 #include "core/program.h"
 #include "shell/command_run.h"
+#include "shell/frm_main.h"
 #include "shell/page_switch.h"
 #include "support/recording_platform.h"
 #include "support/running_program.h"
@@ -73,6 +74,7 @@ TEST(DrawPage, TakesTheFieldsInTheOrderOfTheirArraysAndTheLogoLast) {
     page.lblAt[0].Caption = "@";
     page.lblEach.resize(1);
     page.lblEach[0].Caption = "ea.";
+    page.lblEach[0].ForeColor = 0x0000FF;
     page.lne = {{1, 2, 3, 4, false}};
     page.HasLogo = true;
     page.pic.Picture = {PictureRef::Source::File, "logo.bmp"};
@@ -108,6 +110,8 @@ TEST(DrawPage, TakesTheFieldsInTheOrderOfTheirArraysAndTheLogoLast) {
     EXPECT_EQ(calls[9].Y, 2);
     EXPECT_EQ(calls[9].X2, 3);
     EXPECT_EQ(calls[9].Y2, 4);
+    EXPECT_EQ(calls[8].ForeColor, 0x0000FFU);
+    EXPECT_EQ(calls[9].ForeColor, colors::kBlack) << "a box does not take the colour of a label";
     EXPECT_EQ(calls[10].X, 1440);
     EXPECT_EQ(calls[10].Y, 720);
     EXPECT_FALSE(calls[10].Size.has_value()) << "the logo keeps its natural size";
@@ -185,6 +189,7 @@ TEST(DrawPage, AlignsToTheRightByPageAndIndexOnly) {
     for (const auto& [page, indices] : tried) {
         for (const int index : indices) {
             BarePages bare;
+            bare.program.printing.PrintFormName = "frmP6"; // the page counts, not the name
             auto& areas = bare.program.pages[page].txt;
             areas.assign(static_cast<std::size_t>(index) + 1, BarePages::Hidden());
             areas.back() = BarePages::At(5000, 0, "twelve chars");
@@ -300,6 +305,49 @@ TEST(PrintTheForm, GivesOffsetsToTheScaleOriginAndLeavesTheLogoUnmoved) {
     EXPECT_EQ(bare.Paper().Documents.at(1)[0].ScaleTop, 0);
 }
 
+TEST(PrintTheForm, LeavesTheScaleOriginAloneWithoutOffsets) {
+    BarePages bare;
+    bare.Paper().ScaleLeft = 77;
+    bare.Paper().ScaleTop = 88;
+    bare.program.printing.PrinterOffsetY = 144;
+    bare.program.pages[PageId::frmP1].txt = {BarePages::At(1080, 4500, "x")};
+    modPrint::PrintTheForm(bare.program, PageId::frmP1);
+    EXPECT_EQ(bare.Paper().Documents.at(0)[0].ScaleLeft, 77);
+    EXPECT_EQ(bare.Paper().Documents.at(0)[0].ScaleTop, 144);
+}
+
+TEST(PrintTheForm, TakesThePaperFromTheFirstPageAndBeginsInItsCorner) {
+    BarePages bare;
+    bare.program.pages[PageId::frmP1].Width = 12240;
+    bare.program.pages[PageId::frmP1].Height = 15840;
+    RecordingPrinter& paper = bare.Paper();
+    paper.CurrentX = paper.CurrentY = paper.ScaleWidth = paper.ScaleHeight = 5;
+    bool looked = false;
+    bare.surroundings.events.OnYield = [&] {
+        looked = true;
+        EXPECT_EQ(paper.CurrentX, 0);
+        EXPECT_EQ(paper.CurrentY, 0);
+        EXPECT_EQ(paper.ScaleWidth, 12240);
+        EXPECT_EQ(paper.ScaleHeight, 15840);
+    };
+    modPrint::PrintTheForm(bare.program, PageId::frmP2);
+    EXPECT_TRUE(looked);
+}
+
+TEST(PrintTheForm, AfterAPrinterThatFailedTheNextPageIsADocumentOfItsOwn) {
+    BarePages bare;
+    bare.program.pages[PageId::frmP2].txt = {BarePages::At(0, 0, "first")};
+    bare.program.pages[PageId::frmP3].txt = {BarePages::At(0, 0, "second")};
+    bare.Paper().OnEndDoc = [] { throw std::runtime_error("jam"); };
+    bare.surroundings.questions.Expect("jam");
+    modPrint::PrintTheForm(bare.program, PageId::frmP2);
+    bare.Paper().OnEndDoc = nullptr;
+    modPrint::PrintTheForm(bare.program, PageId::frmP3);
+    ASSERT_EQ(bare.Paper().Documents.size(), 1U);
+    ASSERT_EQ(bare.Paper().Documents[0].size(), 2U);
+    EXPECT_EQ(bare.Paper().Documents[0][0].Text, "second");
+}
+
 TEST(PrintTheForm, ReportsAPrinterThatFailsAndIsQuietAgain) {
     RunningProgram run;
     run.surroundings.printers.Paper.OnEndDoc = [] { throw std::runtime_error("out of paper"); };
@@ -324,6 +372,69 @@ TEST(PrintTheForm, BringsTheTotalsUpToDateFirstWhenTheButtonIsRed) {
     EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
     EXPECT_TRUE(Printed(run, "1,082.50"));
     EXPECT_FALSE(Printed(run, "stale"));
+}
+
+/// The table of the menu: each entry prints its own page and no other.
+TEST(PrintEntries, PrintTheirOwnPage) {
+    const std::vector<std::pair<CommandId, std::string>> entries{
+        {CommandId::mnuFilePrintPage1, "frmP1"},    {CommandId::mnuFilePrintPage2, "frmP2"},
+        {CommandId::mnuFilePrintPage3, "frmP3"},    {CommandId::mnuFilePrintPage4, "frmP4"},
+        {CommandId::mnuFilePrintPage5, "frmP5"},    {CommandId::mnuFilePrintPage6, "frmP6"},
+        {CommandId::mnuFilePrintPage6_1, "frmP6_1"}};
+    for (const auto& [entry, page] : entries) {
+        RunningProgram run;
+        commands::Run(run.program, entry);
+        ASSERT_EQ(run.surroundings.printers.Named.size(), 1U);
+        EXPECT_EQ(run.surroundings.printers.Named[0].first, page);
+        EXPECT_EQ(run.program.printing.PrintFormName, page);
+    }
+}
+
+TEST(PrintEntries, TheToolButtonPrintsAllPages) {
+    RunningProgram run;
+    run.program.document.CurrentTextBuf[0][2] = "Jane";
+    frmMain(run.program).imgPrint_Click();
+    EXPECT_EQ(run.surroundings.printers.Named.size(), 3U);
+}
+
+TEST(PrintEntries, TheCopiesOfTheFinalPageDifferInTheirSubtitle) {
+    RunningProgram run;
+    const auto captions = [&](CommandId entry) {
+        commands::Run(run.program, entry);
+        std::vector<std::string> texts;
+        for (const DrawCall& call : run.surroundings.printers.Paper.Documents.back()) {
+            texts.push_back(call.Text);
+        }
+        return texts;
+    };
+    const auto ours = captions(CommandId::mnuFilePrintPage6);
+    const auto theirs = captions(CommandId::mnuFilePrintPage6_1);
+    ASSERT_EQ(ours.size(), theirs.size());
+    std::vector<std::pair<std::string, std::string>> different;
+    for (std::size_t at = 0; at < ours.size(); ++at) {
+        if (ours[at] != theirs[at]) {
+            different.emplace_back(ours[at], theirs[at]);
+        }
+    }
+    EXPECT_EQ(different, (std::vector<std::pair<std::string, std::string>>{
+                             {"Proposal for (Client's Name) - Our Copy",
+                              "Proposal for (Client's Name) - Client's Copy"}}));
+}
+
+TEST(PrintTheForm, UnderlinesCategoriesWhenTheOptionIsChecked) {
+    RunningProgram run;
+    run.Area(PageId::frmP2, 0).FontBold = true;
+    const auto lines = [&] {
+        modPrint::PrintTheForm(run.program, PageId::frmP2);
+        const auto& calls = run.surroundings.printers.Paper.Documents.back();
+        return std::count_if(calls.begin(), calls.end(),
+                             [](const DrawCall& call) { return call.Op == What::Line; });
+    };
+    EXPECT_EQ(lines(), 0);
+    commands::Run(run.program, CommandId::mnuOptUnderline);
+    EXPECT_EQ(lines(), 1);
+    commands::Run(run.program, CommandId::mnuOptUnderline);
+    EXPECT_EQ(lines(), 0);
 }
 
 TEST(PrintTheForm, PrintsTheTotalsAsTheyStandOtherwise) {

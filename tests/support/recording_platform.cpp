@@ -120,14 +120,21 @@ void RecordingPrinter::PaintPicture(const PictureRef& picture, float x, float y,
 }
 
 void RecordingPrinter::EndDoc() {
+    const bool drawn = std::any_of(Calls.begin(), Calls.end(), [](const DrawCall& call) {
+        return call.Op != DrawCall::What::EndDoc && call.Op != DrawCall::What::Cls;
+    });
     Add(DrawCall::What::EndDoc);
+    if (!drawn) {
+        return; // nothing was under way
+    }
     ScaleLeft = 0;
     ScaleTop = 0;
+    std::vector<DrawCall> document = std::move(Calls);
+    Calls.clear();
     if (OnEndDoc) {
         OnEndDoc();
     }
-    Documents.push_back(std::move(Calls));
-    Calls.clear();
+    Documents.push_back(std::move(document));
 }
 
 bool RecordingPrinters::MakeCurrent(std::string_view name) {

@@ -114,13 +114,20 @@ public:
     std::vector<PrintCommand> Commands;
     std::vector<std::pair<std::string, int>> Named;
     int Ended = 0;
+    /// Runs when a command ends; a test can throw here to be a file that cannot be written.
+    std::function<void()> OnEndCommand;
 
     [[nodiscard]] std::vector<std::string> Names() const override { return Devices; }
     [[nodiscard]] std::string Current() const override { return CurrentDevice; }
     bool MakeCurrent(std::string_view name) override;
     [[nodiscard]] Printer& Device() override { return Paper; }
     [[nodiscard]] bool BeginCommand(const PrintCommand& command) override;
-    void EndCommand() override { ++Ended; }
+    void EndCommand() override {
+        ++Ended;
+        if (OnEndCommand) {
+            OnEndCommand();
+        }
+    }
     void NameDocument(std::string_view name, int readingOrder) override {
         Named.emplace_back(std::string(name), readingOrder);
     }

@@ -1,0 +1,218 @@
+#include "core/files.h"
+#include "core/windows.h"
+#include "desktop/desktop_run.h"
+#include "output/print.h"
+
+#include <QDialog>
+#include <QFile>
+#include <QLabel>
+#include <QProcess>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QByteArray Facts(const QString& pdf) {
+    QProcess process;
+    process.start(QStringLiteral("pdfinfo"), {pdf});
+    EXPECT_TRUE(process.waitForFinished(20000));
+    return process.readAllStandardOutput();
+}
+
+QString IntoFile(DesktopRun& run, const char* name) {
+    const QString pdf = QString::fromStdString(run.folder / name);
+    run.printers.AskForFile = [pdf](const QString&) { return pdf; };
+    return pdf;
+}
+
+/// The printer on its own, drawing into a file.
+struct Press {
+    ScratchFolder folder;
+    QtTextMeasure measure;
+    QtPrinters printers{measure};
+    QString pdf = QString::fromStdString(folder / "out.pdf");
+
+    Press() {
+        EXPECT_TRUE(printers.MakeCurrent("Print to PDF"));
+        printers.AskForFile = [this](const QString&) { return pdf; };
+        EXPECT_TRUE(printers.BeginCommand({folder / "suggested.pdf"}));
+    }
+    Printer& Paper() { return printers.Device(); }
+};
+
+TEST(PrinterNames, EndWithTheOneThatIsAlwaysThere) {
+    Press press;
+    const auto names = press.printers.Names();
+    ASSERT_FALSE(names.empty());
+    EXPECT_EQ(names.back(), "Print to PDF");
+    EXPECT_EQ(press.printers.Current(), "Print to PDF");
+}
+
+TEST(PrinterNames, AreTakenToTheLetter) {
+    Press press;
+    EXPECT_FALSE(press.printers.MakeCurrent("print to pdf"));
+    EXPECT_FALSE(press.printers.MakeCurrent("No Such Printer"));
+    EXPECT_FALSE(press.printers.MakeCurrent(""));
+    EXPECT_EQ(press.printers.Current(), "Print to PDF");
+}
+
+TEST(Paper, IsLetterInPortraitOnePageADocument) {
+    Press press;
+    for (const int order : {2, 1}) {
+        press.printers.NameDocument("frmP" + std::to_string(order), order);
+        press.Paper().CurrentX = 1440;
+        press.Paper().CurrentY = 720;
+        press.Paper().Print("document " + std::to_string(order));
+        press.Paper().EndDoc();
+    }
+    press.printers.EndCommand();
+    const QByteArray facts = Facts(press.pdf);
+    EXPECT_TRUE(facts.contains("Page size:       612 x 792 pts (letter)")) << facts.toStdString();
+    EXPECT_TRUE(facts.contains("Pages:           2"));
+    EXPECT_TRUE(PdfText(press.pdf, 1).contains(QStringLiteral("document 1"))) << "in reading order";
+    EXPECT_TRUE(PdfText(press.pdf, 2).contains(QStringLiteral("document 2")));
+    EXPECT_NEAR(PdfWords(press.pdf, 1).at(0).XMin, 72, 0.1) << "from the paper's own corner";
+    EXPECT_NEAR(PdfWords(press.pdf, 1).at(0).YMin, 36, 0.1);
+}
+
+TEST(Paper, IsNotStretchedToThePrintersScale) {
+    Press press;
+    press.Paper().ScaleWidth = 6120;
+    press.Paper().ScaleHeight = 7920;
+    press.Paper().CurrentX = 1440;
+    press.Paper().Print("here");
+    press.Paper().EndDoc();
+    press.printers.EndCommand();
+    EXPECT_NEAR(PdfWords(press.pdf, 1).at(0).XMin, 72, 0.1);
+}
+
+TEST(Paper, APrintedLineIsFollowedByTheNextAtTheLeftEdge) {
+    Press press;
+    Printer& paper = press.Paper();
+    paper.FontSize = 10;
+    paper.CurrentX = 2000;
+    paper.CurrentY = 1000;
+    const float height = paper.TextHeight();
+    EXPECT_GE(height, 200);
+    paper.Print("first");
+    EXPECT_EQ(paper.CurrentX, 0);
+    EXPECT_EQ(paper.CurrentY, 1000 + height);
+    paper.Print("");
+    EXPECT_EQ(paper.CurrentY, 1000 + 2 * height) << "an empty text is a line too";
+}
+
+TEST(Paper, ANewPageBeginsInTheCornerOfTheSameDocument) {
+    Press press;
+    Printer& paper = press.Paper();
+    paper.ScaleLeft = 360;
+    paper.CurrentX = 720;
+    paper.Print("one");
+    paper.NewPage();
+    EXPECT_EQ(paper.CurrentX, 0);
+    EXPECT_EQ(paper.CurrentY, 0);
+    EXPECT_EQ(paper.ScaleLeft, 360) << "the offset holds to the end of the document";
+    paper.CurrentX = 720;
+    paper.Print("two");
+    paper.EndDoc();
+    EXPECT_EQ(paper.ScaleLeft, 0) << "and a new one begins without";
+    press.printers.EndCommand();
+    EXPECT_NEAR(PdfWords(press.pdf, 1).at(0).XMin, 18, 0.1);
+    EXPECT_NEAR(PdfWords(press.pdf, 2).at(0).XMin, 18, 0.1);
+}
+
+TEST(Paper, EndingADocumentInWhichNothingStandsDoesNothing) {
+    Press press;
+    press.Paper().ScaleLeft = 360;
+    press.Paper().EndDoc();
+    EXPECT_EQ(press.Paper().ScaleLeft, 360);
+    press.printers.EndCommand();
+    EXPECT_FALSE(QFile::exists(press.pdf));
+}
+
+TEST(Paper, AFileThatCannotBeWrittenIsAFailure) {
+    Press press;
+    press.pdf = QString::fromStdString(press.folder / "no such folder/out.pdf");
+    ASSERT_TRUE(press.printers.BeginCommand({"x.pdf"}));
+    press.Paper().Print("lost");
+    press.Paper().EndDoc();
+    EXPECT_THROW(press.printers.EndCommand(), files::FileError);
+    // What could not be written does not come back with the next command.
+    press.pdf = QString::fromStdString(press.folder / "out.pdf");
+    ASSERT_TRUE(press.printers.BeginCommand({"x.pdf"}));
+    press.Paper().Print("kept");
+    press.Paper().EndDoc();
+    press.printers.EndCommand();
+    EXPECT_FALSE(PdfText(press.pdf, 1).contains(QStringLiteral("lost")));
+    EXPECT_TRUE(PdfText(press.pdf, 1).contains(QStringLiteral("kept")));
+}
+
+TEST(Paper, AFileGetsTheEndingOfAPdf) {
+    Press press;
+    press.pdf = QString::fromStdString(press.folder / "mine");
+    ASSERT_TRUE(press.printers.BeginCommand({"x.pdf"}));
+    press.Paper().Print("text");
+    press.Paper().EndDoc();
+    press.printers.EndCommand();
+    EXPECT_TRUE(press.folder.Has("mine.pdf"));
+}
+
+TEST(Printing, TellsOfAFileThatCannotBeWritten) {
+    DesktopRun run;
+    IntoFile(run, "no such folder/out.pdf");
+    run.recording.questions.Expect("An error occurred in PrintTheForm.");
+    run.window->MenuTree().Action(CommandId::mnuFilePrintPage1)->trigger();
+    EXPECT_NE(run.folder.Read("Error.log").find("PrintTheForm"), std::string::npos);
+}
+
+TEST(Printing, GivesTheKeyboardBackToTheMainWindow) {
+    DesktopRun run;
+    IntoFile(run, "out.pdf");
+    run.Click(PageId::frmP1, 3);
+    QWidget* field = QApplication::focusWidget();
+    run.Press(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(run.folder.Has("out.pdf"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == field; }));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(run.window->findChild<QDialog*>(QStringLiteral("frmDialog")), nullptr);
+}
+
+TEST(Printing, ShowsWhichPageIsPrintedAndCanBeCancelled) {
+    DesktopRun run;
+    const QString pdf = IntoFile(run, "out.pdf");
+    QString message;
+    QString title;
+    QTimer::singleShot(0, run.window.get(), [&] {
+        auto* dialog = run.window->findChild<QDialog*>(QStringLiteral("frmDialog"));
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_TRUE(dialog->isVisible());
+        EXPECT_FALSE(dialog->isModal());
+        title = dialog->windowTitle();
+        message = dialog->findChild<QLabel*>(QStringLiteral("lblMessage"))->text();
+        QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("cmdCancelPrint")), Qt::LeftButton);
+    });
+    run.window->MenuTree().Action(CommandId::mnuFilePrintAll)->trigger();
+    EXPECT_EQ(title, QStringLiteral("Printing"));
+    EXPECT_EQ(message, QStringLiteral("Printing Page 6 of 6 Copy"));
+    EXPECT_TRUE(Facts(pdf).contains("Pages:           7")) << "the run goes on";
+    EXPECT_TRUE(run.program.printing.PrintCancelled);
+}
+
+TEST(Printing, IsDrawnIntoAPreviewThatIsUp) {
+    DesktopRun run;
+    IntoFile(run, "out.pdf");
+    run.Type(QStringLiteral("January 21, 2008"));
+    run.Press(Qt::Key_R, Qt::ControlModifier);
+    PageView& page = run.window->PageOf(PageId::frmP1);
+    const QImage before = page.grab().toImage();
+    run.window->MenuTree().Action(CommandId::mnuFilePrintPage1)->trigger();
+    const QImage after = page.grab().toImage();
+    EXPECT_NE(before, after) << "the page's number is another one now";
+    EXPECT_EQ(run.program.pages[PageId::frmP1].lbl[31].Caption, "Page 1 of 2");
+    EXPECT_EQ(run.Find<QPushButton>("cmdPreview")->text(), QStringLiteral("Resume Editing"));
+    EXPECT_FALSE(run.Field({PageId::frmP1, FieldKind::txt, 0}).isVisible());
+}
+
+} // namespace
