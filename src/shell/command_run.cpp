@@ -6,7 +6,11 @@
 #include "core/windows.h"
 #include "document/lifecycle.h"
 #include "document/totals.h"
+#include "editing/block_moves.h"
+#include "editing/blocks.h"
 #include "editing/columns.h"
+#include "editing/selection.h"
+#include "editing/text_commands.h"
 #include "output/preview.h"
 #include "output/print.h"
 #include "shell/admin_commands.h"
@@ -70,6 +74,19 @@ constexpr std::array kRoutes{
     Route{CommandId::mnuFilePrintPage6_1, PrintPage<PageId::frmP6_1>},
     Route{CommandId::mnuFileExit, modMain::mnuFileExit_Click},
     Route{CommandId::mnuEditTextColumns, modColumns::ToggleColumns},
+    Route{CommandId::mnuEditTextBold, modText::mnuEditTextBold_Click},
+    Route{CommandId::mnuEditTextNormal, modText::mnuEditTextNormal_Click},
+    Route{CommandId::mnuEditTextSelLCase, modText::mnuEditTextSelLCase_Click},
+    Route{CommandId::mnuEditTextSelPCase, modText::mnuEditTextSelPCase_Click},
+    Route{CommandId::mnuEditTextSelUCase, modText::mnuEditTextSelUCase_Click},
+    Route{CommandId::mnuEditTextDelete, modBlocks::DeleteBlock},
+    Route{CommandId::mnuEditTextUndo, modBlocks::UndoDeleteBlock},
+    Route{CommandId::mnuEditTextCopy, modBlocks::CopyBlock},
+    Route{CommandId::mnuEditTextCut, modBlocks::CutBlock},
+    Route{CommandId::mnuEditTextPaste, modBlocks::PasteBlock},
+    Route{CommandId::mnuEditTextMoveDown, modBlocks::MoveBlockDown},
+    Route{CommandId::mnuEditTextMoveUp, modBlocks::MoveBlockUp},
+    Route{CommandId::mnuEditTextDeselect, modBlocks::DeSelectAllControls},
     Route{CommandId::mnuEditTextCenter, modMain::mnuEditTextCenter_Click},
     Route{CommandId::mnuEditTextTaxExempt, modColumns::mnuEditTextTaxExempt_Click},
     Route{CommandId::mnuEditTextTaxable, modColumns::mnuEditTextTaxable_Click},
