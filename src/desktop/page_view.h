@@ -11,6 +11,7 @@
 #include <memory>
 #include <vector>
 
+class BandView;
 class LabelView;
 class MarkView;
 class QtTextMeasure;
@@ -34,12 +35,19 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    /// A band may begin on the desk beside the paper.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void FollowAreas(FieldKind kind, std::vector<TextAreaView*>& views, const std::vector<TextArea>& records);
     void FollowLabels(FieldKind kind, std::vector<LabelView*>& views, const std::vector<PageLabel>& records);
     void FollowMarks();
     void FollowPaper();
+    [[nodiscard]] float Twips(double pixels) const;
+    void Done();
     void DrawFixed(QPainter& painter) const;
 
     PageContext context_;
@@ -52,6 +60,7 @@ private:
     std::vector<LabelView*> lblAt_;
     std::vector<LabelView*> lblEach_;
     std::vector<MarkView*> marks_;
+    BandView* band_ = nullptr;
     /// What is painted on the paper itself, as last shown.
     std::vector<PageLine> lines_;
     PagePicture picture_;

@@ -138,6 +138,7 @@ bool RefusedInPreview(const Program& program, CommandId id) {
 } // namespace
 
 void Run(Program& program, CommandId id) {
+    modBlocks::FinishMove(program); // an arrow still held: what moved must be stored before anything else
     // A shortcut must not act on the state of a field that has been left meanwhile.
     if (Find(id).Parent == CommandId::mnuEditTextBox && program.hooks.UpdateTextMenu) {
         program.hooks.UpdateTextMenu(program);

@@ -195,6 +195,18 @@ void FieldDblClick(Program& program, const FieldRef& field) {
     }
 }
 
+void PageMouseDown(Program& program, PageId page, int button, float x, float y) {
+    modBlocks::Form_MouseDown(program, page, button, x, y);
+}
+
+void PageMouseMove(Program& program, PageId page, int button, float x, float y) {
+    modBlocks::Form_MouseMove(program, page, button, x, y);
+}
+
+void PageMouseUp(Program& program, PageId page, int button, float x, float y) {
+    modBlocks::Form_MouseUp(program, page, button, x, y);
+}
+
 void NoTaxMarkClick(Program& program, PageId page, int index) {
     modTotals::imgNoTax_Click(program, page, index);
 }
