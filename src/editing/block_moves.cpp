@@ -105,7 +105,7 @@ template <typename Work> void TellingOfFailure(Program& program, Work&& work) {
         work();
     } catch (const std::exception&) {
         program.editing.MoveInProgress = false;
-        program.platform.questions.MsgBox("Error encountered during Move Process.", Buttons::Ok, "");
+        TellMoveFailed(program);
     }
 }
 
@@ -142,10 +142,8 @@ void MoveBlockByKey(Program& program, int keyCode) {
 
 void Form_KeyUp(Program& program) {
     if (program.editing.MoveInProgress) {
-        TellingOfFailure(program, [&] {
-            FinishMove(program);
-            UpdateTextMenu(program);
-        });
+        FinishMove(program);
+        UpdateTextMenu(program);
     }
 }
 

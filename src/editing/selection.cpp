@@ -11,6 +11,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <exception>
+#include <optional>
+#include <utility>
 
 namespace modBlocks {
 
@@ -36,6 +39,14 @@ bool Contains(const PageShape& band, const TextArea& area) {
 bool Selectable(const TextArea& area) {
     const std::string_view kind = geometry::KindOf(area.Tag);
     return std::find(kSelectableKinds.begin(), kSelectableKinds.end(), kind) != kSelectableKinds.end();
+}
+
+/// A band whose button was let go elsewhere, as after a change of the page in mid-drag.
+void DropBand(Program& program) {
+    program.editing.Block.BandDragging = false;
+    for (const PageId page : kAllPages) {
+        program.pages[page].shpSelect.Visible = false;
+    }
 }
 
 void Take(Program& program, PageId page, int index) {
@@ -107,6 +118,7 @@ RowRange RowsOf(PageId page) {
 void Form_MouseDown(Program& program, PageId page, int button, float x, float y) {
     static_cast<void>(page);
     if (button == kLeftButton) {
+        DropBand(program);
         program.editing.Block.BandStartX = x;
         program.editing.Block.BandStartY = y;
     }
@@ -243,10 +255,19 @@ void DeSelectAllControls(Program& program) {
 void FinishMove(Program& program) {
     EditingState& editing = program.editing;
     editing.MoveInProgress = false;
-    if (const auto page = editing.Block.MovedPage) {
-        editing.Block.MovedPage.reset();
-        modText::RefireTextChanges(program, *page);
+    const std::optional<PageId> page = std::exchange(editing.Block.MovedPage, std::nullopt);
+    if (!page) {
+        return;
     }
+    try {
+        modText::RefireTextChanges(program, *page);
+    } catch (const std::exception&) {
+        TellMoveFailed(program);
+    }
+}
+
+void TellMoveFailed(Program& program) {
+    program.platform.questions.MsgBox("Error encountered during Move Process.", Buttons::Ok, "");
 }
 
 } // namespace modBlocks

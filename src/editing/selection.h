@@ -49,7 +49,9 @@ void DeSelectAllControls(Program& program);
 /// work must not run into silent handlers.
 void SettleCompletion(Program& program, PageId page);
 
-/// Ends a move whose key was not let go: its page's handlers run.
+/// Ends a move whose key was not let go: its page's handlers run. A failure is told and goes no further.
 void FinishMove(Program& program);
+/// The message of a move that failed.
+void TellMoveFailed(Program& program);
 
 } // namespace modBlocks

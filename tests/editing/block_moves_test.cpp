@@ -222,6 +222,16 @@ TEST(Move, OfAmountsThatReachTheEndWhereTheRowsDoNotIsOutOfSpace) {
     run.Choose(kDown);
 }
 
+TEST(Move, OfAmountsThatReachTheTopWhereTheRowsDoNotGoesNoHigher) {
+    BlockRun run;
+    run.Front(kSecond);
+    run.PutRow(kSecond, 1, "x", "Row", "x");
+    run.Drag(kSecond, 1000, 1700, 11400, 2500); // row 1, amounts 33 and 34
+    ASSERT_EQ(run.BlueAreas(kSecond), (Indices{1, 33, 34}));
+    run.ExpectTold(kUpNoSpace);
+    run.Choose(kUp);
+}
+
 TEST(Move, OntoARowWithColumnsAndNoTextWritesOverIt) {
     BlockRun run;
     run.Put(kSecond, 3, "Row");
@@ -311,6 +321,20 @@ TEST(Move, TellsOfAFailureInItsOwnWords) {
     run.ExpectTold("Error encountered during Move Process.");
     run.Choose(kDown);
     EXPECT_FALSE(run.program.editing.MoveInProgress);
+    EXPECT_FALSE(run.program.editing.RefireMode);
+}
+
+TEST(Move, AFailureThatComesWhenTheKeyIsLetGoIsToldToo) {
+    BlockRun run;
+    run.Put(kSecond, 3, "Row");
+    Typist typist(run.program);
+    typist.Click(kSecond, 20);
+    run.Band(kSecond, 3, 3);
+    typist.Hold(keys::kDown);
+    run.program.hooks.Change = [](Program&, const FieldRef&) { throw std::runtime_error("lost"); };
+    run.ExpectTold("Error encountered during Move Process.");
+    run.Choose(CommandId::mnuEditTextDeselect);
+    EXPECT_FALSE(run.program.editing.BlockMode) << "the command goes on";
     EXPECT_FALSE(run.program.editing.RefireMode);
 }
 

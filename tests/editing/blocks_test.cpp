@@ -326,6 +326,19 @@ TEST(Undo, AfterACutKeepsTheModeAndTheMemory) {
     EXPECT_TRUE(run.Enabled(CommandId::mnuEditTextPaste));
 }
 
+TEST(Undo, ReachesTheStoreWhereACompletionStands) {
+    BlockRun run;
+    run.Put(kSecond, 3, "Chairs");
+    run.Band(kSecond, 3, 3);
+    run.Choose(CommandId::mnuEditTextDelete);
+    Typist(run.program).Click(kSecond, 8);
+    run.program.editing.ACActive[1] = true;
+    run.Put(kSecond, 8, "Lamps, small");
+    run.Choose(CommandId::mnuEditTextUndo);
+    EXPECT_EQ(run.Stored(kSecond, 3), "Chairs");
+    EXPECT_EQ(run.Stored(kSecond, 8), "Lamps, small");
+}
+
 TEST(Undo, EndsWithTheProposal) {
     BlockRun run;
     run.Put(kSecond, 3, "Chairs");

@@ -367,15 +367,17 @@ TEST(Deselect, EndsTheModeOnAllPagesAndEmptiesTheMemory) {
     EXPECT_FALSE(run.program.editing.RefireMode);
 }
 
-TEST(Deselect, ReportsItsFailure) {
+TEST(Band, WhoseButtonWasLetGoElsewhereIsGoneWithTheNextPress) {
     BlockRun run;
-    run.Band(kSecond, 3, 3);
-    run.Block().MovedPage = kSecond;
-    run.Put(kSecond, 20, "Lamps");
-    run.program.hooks.Change = [](Program&, const FieldRef&) { throw std::runtime_error("lost"); };
-    run.surroundings.questions.Expect("An error occurred in DeSelectAllControls.");
-    run.Choose(CommandId::mnuEditTextDeselect);
-    EXPECT_FALSE(run.program.editing.BlockMode);
+    run.Front(kSecond);
+    modBlocks::Form_MouseDown(run.program, kSecond, 1, 800, 1700);
+    modBlocks::Form_MouseMove(run.program, kSecond, 1, 11400, 2500);
+    run.Front(PageId::frmP3); // the page goes in mid-drag
+    run.Front(kSecond);
+    modBlocks::Form_MouseDown(run.program, kSecond, 1, 300, 300);
+    EXPECT_FALSE(run.program.pages[kSecond].shpSelect.Visible);
+    modBlocks::Form_MouseUp(run.program, kSecond, 1, 300, 300);
+    EXPECT_TRUE(run.BlueAreas(kSecond).empty());
 }
 
 TEST(BlockMode, LetsNoEditReachAField) {
