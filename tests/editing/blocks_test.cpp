@@ -33,6 +33,27 @@ const AreaContents kLinen{"Linen", false, "", "", true, false};
 const AreaContents kCoversAmount{"59.97", false, "", "", false, true};
 const AreaContents kLinenAmount{"40.00", false, "", "", false, false};
 
+TEST(Contents, ReachBothTablesAndRunNoHandler) {
+    BlockRun run;
+    run.Put(kSecond, 41, "7");
+    run.program.main.cmdReCalc.BackColor = colors::kButtonFace;
+    modBlocks::PlaceContents(run.program, kSecond, 8, kCovers);
+    modBlocks::PlaceContents(run.program, kSecond, 42, kCoversAmount);
+    EXPECT_EQ(run.Contents(kSecond, 8), kCovers);
+    EXPECT_EQ(run.Contents(kSecond, 42), kCoversAmount);
+    EXPECT_EQ(run.Stored(kSecond, 8), "");
+    EXPECT_EQ(run.Stored(kSecond, 42), "");
+    EXPECT_EQ(run.TextOf(kSecond, 41), "7") << "no product";
+    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_FALSE(run.program.editing.MoveInProgress);
+    for (const auto* table : {&run.program.format.PropTextChanges, &run.program.format.FormatTextChanges}) {
+        EXPECT_TRUE((*table)[1][8].QtyBox);
+        EXPECT_EQ((*table)[1][8].QtyValue, "3");
+        EXPECT_EQ((*table)[1][8].AmtValue, "19.99");
+        EXPECT_TRUE((*table)[1][42].TaxExempt);
+    }
+}
+
 TEST(Copy, HoldsTheMemoryForAPaste) {
     BlockRun run;
     PutTwoRows(run);

@@ -350,6 +350,7 @@ TEST(Deselect, EndsTheModeOnAllPagesAndEmptiesTheMemory) {
     run.Band(kFirst, 10, 12, Amounts::With);
     run.Choose(CommandId::mnuEditTextCopy);
     run.Front(kSecond);
+    run.program.editing.RefireMode = true;
     run.Choose(CommandId::mnuEditTextDeselect);
     EXPECT_TRUE(run.BlueAreas(kFirst).empty());
     EXPECT_EQ(run.Area(kFirst, 11).BackColor, colors::kResting);
