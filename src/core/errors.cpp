@@ -25,6 +25,9 @@ void ReportError(Program& program, std::string_view procedureName, const std::ex
 }
 
 void WriteErrorLog(Program& program, std::string_view message) {
+    if (program.folders.InstallFolder.empty()) {
+        return; // never into whatever folder the process happens to work in
+    }
     try {
         files::Append(paths::Join(program.folders.InstallFolder, "Error.log"), message);
     } catch (const std::exception&) {

@@ -58,7 +58,7 @@ std::string Proper(std::string_view value) {
     bool inWord = false;
     for (char& character : result) {
         character = inWord ? ansi::Lower(character) : ansi::Upper(character);
-        inWord = ansi::IsLetter(character) || ansi::IsDigit(character) || character == '\'';
+        inWord = character != ' ' && character != '\t';
     }
     return result;
 }

@@ -211,7 +211,8 @@ void TextAreaView::paintEvent(QPaintEvent*) {
     painter.restore();
     if (hasFocus()) {
         // Colour alone must not tell where the keyboard is.
-        painter.setPen(QPen(QColor(0x0B, 0x3D, 0x6E), 1.5));
+        const bool selected = shown_.BackColor == colors::kBlockSelected;
+        painter.setPen(QPen(selected ? QColor(Qt::white) : QColor(0x0B, 0x3D, 0x6E), 1.5));
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75));
     }
@@ -230,8 +231,10 @@ bool TextAreaView::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         // The menu's shortcuts come before a line edit's own; only plain characters are claimed.
         const auto& key = static_cast<const QKeyEvent&>(*event);
+        // Shift+Del cuts text as long as there is text to edit; for a selected block it is the menu's.
+        const bool cuts = key.matches(QKeySequence::Cut) && !page_.program.editing.BlockMode;
         if (EntersCharacter(key) || key.matches(QKeySequence::Copy) || key.matches(QKeySequence::Paste) ||
-            key.matches(QKeySequence::Cut) || key.matches(QKeySequence::SelectAll)) {
+            cuts || key.matches(QKeySequence::SelectAll)) {
             event->accept();
         } else {
             event->ignore();

@@ -1,12 +1,15 @@
 #include "desktop/page_view.h"
 
 #include "core/program.h"
+#include "desktop/band_view.h"
 #include "desktop/convert.h"
 #include "desktop/field_views.h"
 #include "desktop/paper_text.h"
 #include "document/page_geometry.h"
 #include "output/print_page.h"
+#include "shell/input.h"
 
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -38,6 +41,8 @@ PageView::PageView(Program& program, PageId page, const QtTextMeasure& measure, 
     paper.setColor(QPalette::WindowText, Qt::black);
     setPalette(paper);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    band_ = new BandView(*this);
+    parent->installEventFilter(this);
     const Page& record = program.pages[page];
     setFixedSize(qRound(static_cast<double>(record.Width) * context_.Scale),
                  qRound(static_cast<double>(record.Height) * context_.Scale));
@@ -152,6 +157,17 @@ void PageView::Follow() {
     FollowLabels(FieldKind::lblEach, lblEach_, record.lblEach);
     FollowMarks();
     FollowLogo();
+    band_->Follow(record.shpSelect, context_.Scale);
+}
+
+float PageView::Twips(double pixels) const {
+    return static_cast<float>(pixels / context_.Scale);
+}
+
+void PageView::Done() {
+    if (context_.AfterEvent) {
+        context_.AfterEvent();
+    }
 }
 
 void PageView::FollowFocus() {
@@ -202,6 +218,47 @@ void PageView::DrawFixed(QPainter& painter) const {
                              QPointF(static_cast<double>(line.X2), static_cast<double>(line.Y2)));
         }
     }
+}
+
+void PageView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    modInput::PageMouseDown(program_, id_, 1, Twips(event->position().x()), Twips(event->position().y()));
+    Done();
+}
+
+void PageView::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    const int button = event->buttons().testFlag(Qt::LeftButton) ? 1 : 0;
+    modInput::PageMouseMove(program_, id_, button, Twips(event->position().x()),
+                            Twips(event->position().y()));
+    Done();
+}
+
+void PageView::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    const int button = event->button() == Qt::LeftButton ? 1 : 0;
+    modInput::PageMouseUp(program_, id_, button, Twips(event->position().x()), Twips(event->position().y()));
+    Done();
+}
+
+bool PageView::eventFilter(QObject* watched, QEvent* event) {
+    using Handler = void (PageView::*)(QMouseEvent*);
+    const Handler handler = event->type() == QEvent::MouseButtonPress     ? &PageView::mousePressEvent
+                            : event->type() == QEvent::MouseMove          ? &PageView::mouseMoveEvent
+                            : event->type() == QEvent::MouseButtonRelease ? &PageView::mouseReleaseEvent
+                                                                          : nullptr;
+    if (handler == nullptr || watched != parent() || !isVisible()) {
+        return QWidget::eventFilter(watched, event);
+    }
+    const auto& mouse = static_cast<const QMouseEvent&>(*event);
+    QMouseEvent here(mouse.type(), mapFromParent(mouse.position()), mouse.globalPosition(), mouse.button(),
+                     mouse.buttons(), mouse.modifiers());
+    (this->*handler)(&here);
+    return here.isAccepted();
 }
 
 void PageView::paintEvent(QPaintEvent* event) {

@@ -11,6 +11,7 @@
 #include <memory>
 #include <vector>
 
+class BandView;
 class LabelView;
 class LogoView;
 class MarkView;
@@ -35,6 +36,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    /// A band may begin on the desk beside the paper.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void FollowAreas(FieldKind kind, std::vector<TextAreaView*>& views, const std::vector<TextArea>& records);
@@ -42,6 +48,8 @@ private:
     void FollowMarks();
     void FollowPaper();
     void FollowLogo();
+    [[nodiscard]] float Twips(double pixels) const;
+    void Done();
     void DrawFixed(QPainter& painter) const;
     void DrawGrid(QPainter& painter) const;
 
@@ -55,6 +63,7 @@ private:
     std::vector<LabelView*> lblAt_;
     std::vector<LabelView*> lblEach_;
     std::vector<MarkView*> marks_;
+    BandView* band_ = nullptr;
     /// What is painted on the paper itself, as last shown.
     std::vector<PageLine> lines_;
     std::vector<PageLine> centre_;

@@ -54,6 +54,9 @@ void ResetPages(Program& program) {
     program.main.Focus.reset();
     program.main.CurrentPage = 0;
     program.editing.ACActive.fill(false);
+    // What was deleted from one proposal is not put back into another.
+    program.editing.Block.UndoMemory.clear();
+    program.editing.UndoAvailable = false;
     for (const PageId page : kAllPages) {
         program.pages[page].Visible = false;
         if (!program.guards.KeepPageContent) {

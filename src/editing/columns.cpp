@@ -43,7 +43,8 @@ void StoreRow(Program& program, PageId page, int row) {
 }
 
 bool Silent(const Program& program) {
-    return program.guards.HandlersSilent() || (program.editing.BlockMode && !program.editing.RefireMode);
+    return program.guards.HandlersSilent() || program.editing.MoveInProgress ||
+           (program.editing.BlockMode && !program.editing.RefireMode);
 }
 
 /// The row's amount becomes quantity times unit price; each is a single, the product a double.
@@ -107,7 +108,9 @@ void SetExempt(Program& program, modPages::Mark mark) {
 void ToggleColumns(Program& program) {
     const PageId page = PageAt(program.main.CurrentPage);
     const int row = program.editing.CurrentArea;
-    if (!geometry::IsDescription(page, row) || program.editing.BlockMode) {
+    // While areas are selected the command stands open only beside the paste of copied ones.
+    const bool closed = program.editing.BlockMode && !program.editing.BlockCopyHeld;
+    if (!geometry::IsDescription(page, row) || closed) {
         return;
     }
     modPages::EnsureRowFields(program, page);

@@ -82,4 +82,9 @@ void PushTheText(Program& program, PageId page, int index) {
     }
 }
 
+void ForgetKey(Program& program) {
+    program.editing.LastKeyChar.clear();
+    program.editing.CursorPos = 0;
+}
+
 } // namespace modText

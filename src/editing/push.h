@@ -15,4 +15,8 @@ void CheckForPush(Program& program);
 /// the flow goes on from area to area. A line without a place to split stays as it is, silently.
 void PushTheText(Program& program, PageId page, int index);
 
+/// Before a program's own writing: no key has been pressed, so that a text too long for its area stays and
+/// goes red instead of flowing on.
+void ForgetKey(Program& program);
+
 } // namespace modText

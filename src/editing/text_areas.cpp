@@ -432,6 +432,9 @@ void txt_MouseUp(Program& program, PageId page, int index) {
 
 void txt_DblClick(Program& program, PageId page, int index) {
     program.editing.CurrentArea = index;
+    if (program.editing.BlockMode) {
+        return; // selected areas are not edited
+    }
     if (geometry::IsDescription(page, index)) {
         modColumns::ToggleColumns(program);
     } else if (page == PageId::frmP1) {
@@ -444,6 +447,7 @@ void RefireTextChanges(Program& program, PageId page) {
         return;
     }
     const ScopedFlag refiring(program.editing.RefireMode);
+    ForgetKey(program);
     const auto refire = [&](const FieldRef& field) {
         const std::string value = modFields::Area(program, field).Text;
         modFields::SetText(program, field, "Test");

@@ -10,16 +10,9 @@ namespace modBlocks {
 
 namespace {
 
-enum State { kBoxesSelected, kOnlyTextSelected, kNothingSelected, kEnablePaste, kStateCount };
+using Rule = MenuRule;
 
-enum class Rule { Off, On, Line, UnlessBold, IfBold, Terms, Amount };
-
-struct Row {
-    CommandId Id;
-    std::array<Rule, kStateCount> In;
-};
-
-constexpr Row kRows[] = {
+constexpr MenuRow kRows[] = {
     {CommandId::mnuEditTextColumns, {Rule::Off, Rule::Line, Rule::Line, Rule::Line}},
     {CommandId::mnuEditTextBold, {Rule::Off, Rule::Off, Rule::UnlessBold, Rule::UnlessBold}},
     {CommandId::mnuEditTextNormal, {Rule::Off, Rule::Off, Rule::IfBold, Rule::IfBold}},
@@ -62,17 +55,17 @@ Target TargetOf(const Program& program) {
     return {page, index, there ? &areas[static_cast<std::size_t>(index)] : nullptr};
 }
 
-State StateOf(Program& program, const Target& target) {
+MenuState StateOf(Program& program, const Target& target) {
     EditingState& editing = program.editing;
     if (editing.BlockMode) {
-        return editing.BlockCopyHeld ? kEnablePaste : kBoxesSelected;
+        return editing.BlockCopyHeld ? MenuState::EnablePaste : MenuState::BoxesSelected;
     }
     if (target.Area != nullptr && target.Area->SelLength > 0) {
         editing.SavedSelStart = target.Area->SelStart;
         editing.SavedSelLength = target.Area->SelLength;
-        return kOnlyTextSelected;
+        return MenuState::OnlyTextSelected;
     }
-    return kNothingSelected;
+    return MenuState::NothingSelected;
 }
 
 bool Holds(const Program& program, Rule rule, const Target& target) {
@@ -97,10 +90,14 @@ bool Holds(const Program& program, Rule rule, const Target& target) {
 
 } // namespace
 
+std::span<const MenuRow> TextMenuTable() {
+    return kRows;
+}
+
 void UpdateTextMenu(Program& program) {
     const Target target = TargetOf(program);
-    const State state = StateOf(program, target);
-    for (const Row& row : kRows) {
+    const auto state = static_cast<std::size_t>(StateOf(program, target));
+    for (const MenuRow& row : kRows) {
         program.main[row.Id].Enabled = Holds(program, row.In[state], target);
     }
     const bool on = geometry::IsDescription(target.Page, target.Index) &&

@@ -10,7 +10,11 @@
 #include "core/windows.h"
 #include "document/lifecycle.h"
 #include "document/totals.h"
+#include "editing/block_moves.h"
+#include "editing/blocks.h"
 #include "editing/columns.h"
+#include "editing/selection.h"
+#include "editing/text_commands.h"
 #include "format/grid.h"
 #include "output/preview.h"
 #include "output/print.h"
@@ -76,6 +80,19 @@ constexpr std::array kRoutes{
     Route{CommandId::mnuFilePrintPage6_1, PrintPage<PageId::frmP6_1>},
     Route{CommandId::mnuFileExit, modMain::mnuFileExit_Click},
     Route{CommandId::mnuEditTextColumns, modColumns::ToggleColumns},
+    Route{CommandId::mnuEditTextBold, modText::mnuEditTextBold_Click},
+    Route{CommandId::mnuEditTextNormal, modText::mnuEditTextNormal_Click},
+    Route{CommandId::mnuEditTextSelLCase, modText::mnuEditTextSelLCase_Click},
+    Route{CommandId::mnuEditTextSelPCase, modText::mnuEditTextSelPCase_Click},
+    Route{CommandId::mnuEditTextSelUCase, modText::mnuEditTextSelUCase_Click},
+    Route{CommandId::mnuEditTextDelete, modBlocks::DeleteBlock},
+    Route{CommandId::mnuEditTextUndo, modBlocks::UndoDeleteBlock},
+    Route{CommandId::mnuEditTextCopy, modBlocks::CopyBlock},
+    Route{CommandId::mnuEditTextCut, modBlocks::CutBlock},
+    Route{CommandId::mnuEditTextPaste, modBlocks::PasteBlock},
+    Route{CommandId::mnuEditTextMoveDown, modBlocks::MoveBlockDown},
+    Route{CommandId::mnuEditTextMoveUp, modBlocks::MoveBlockUp},
+    Route{CommandId::mnuEditTextDeselect, modBlocks::DeSelectAllControls},
     Route{CommandId::mnuEditTextCenter, modMain::mnuEditTextCenter_Click},
     Route{CommandId::mnuEditTextTaxExempt, modColumns::mnuEditTextTaxExempt_Click},
     Route{CommandId::mnuEditTextTaxable, modColumns::mnuEditTextTaxable_Click},
@@ -117,6 +134,7 @@ constexpr std::array kRoutes{
 } // namespace
 
 void Run(Program& program, CommandId id) {
+    modBlocks::FinishMove(program); // an arrow still held: what moved must be stored before anything else
     // A shortcut must not act on the state of a field that has been left meanwhile.
     if (Find(id).Parent == CommandId::mnuEditTextBox && program.hooks.UpdateTextMenu) {
         program.hooks.UpdateTextMenu(program);

@@ -6,7 +6,9 @@
 #include "document/fields.h"
 #include "document/page_geometry.h"
 #include "document/totals.h"
+#include "editing/block_moves.h"
 #include "editing/columns.h"
+#include "editing/selection.h"
 #include "editing/text_areas.h"
 #include "shell/page_switch.h"
 
@@ -38,6 +40,9 @@ void Call(const std::function<void(Program&, int)>& hook, Program& program, int 
 
 /// The page's own keys come before the field's.
 Taken Form_KeyDown(Program& program, int keyCode) {
+    if (keyCode != keys::kUp && keyCode != keys::kDown) {
+        modBlocks::FinishMove(program); // another key while the arrow is still held, or was let go elsewhere
+    }
     if (keyCode == keys::kPageUp || keyCode == keys::kPageDown) {
         modScroll::PageKey(program, keyCode);
         return Taken::Yes;
@@ -153,15 +158,14 @@ void CursorMoved(Program& program, const FieldRef& field, int selStart, int selL
 }
 
 void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength) {
-    const std::optional<FieldRef> focus = TypingField(program);
-    if (!focus) {
-        return;
+    if (const std::optional<FieldRef> focus = TypingField(program)) {
+        const FieldRef field = *focus;
+        PutCursor(program, field, selStart, selLength);
+        if (IsText(field)) {
+            modText::txt_KeyUp(program, field.Page, field.Index, keyCode, shift);
+        }
     }
-    const FieldRef field = *focus;
-    PutCursor(program, field, selStart, selLength);
-    if (IsText(field)) {
-        modText::txt_KeyUp(program, field.Page, field.Index, keyCode, shift);
-    }
+    modBlocks::Form_KeyUp(program);
 }
 
 void FieldMouseDown(Program& program, const FieldRef& field, int button, int shift, int selStart,
@@ -169,6 +173,7 @@ void FieldMouseDown(Program& program, const FieldRef& field, int button, int shi
     if (field.Page == PageId::frmP6_1) {
         return;
     }
+    modBlocks::FinishMove(program);
     PutCursor(program, field, selStart, selLength);
     modFields::GiveFocus(program, field);
     PutCursor(program, field, selStart, selLength);
@@ -188,6 +193,18 @@ void FieldDblClick(Program& program, const FieldRef& field) {
     if (IsText(field)) {
         modText::txt_DblClick(program, field.Page, field.Index);
     }
+}
+
+void PageMouseDown(Program& program, PageId page, int button, float x, float y) {
+    modBlocks::Form_MouseDown(program, page, button, x, y);
+}
+
+void PageMouseMove(Program& program, PageId page, int button, float x, float y) {
+    modBlocks::Form_MouseMove(program, page, button, x, y);
+}
+
+void PageMouseUp(Program& program, PageId page, int button, float x, float y) {
+    modBlocks::Form_MouseUp(program, page, button, x, y);
 }
 
 void NoTaxMarkClick(Program& program, PageId page, int index) {

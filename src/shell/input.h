@@ -40,6 +40,10 @@ void FieldMouseDown(Program& program, const FieldRef& field, int button, int shi
                     int selLength);
 void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int selLength);
 void FieldDblClick(Program& program, const FieldRef& field);
+/// The mouse on a page's own surface, 1 for the left button, in twips from the page's corner.
+void PageMouseDown(Program& program, PageId page, int button, float x, float y);
+void PageMouseMove(Program& program, PageId page, int button, float x, float y);
+void PageMouseUp(Program& program, PageId page, int button, float x, float y);
 void NoTaxMarkClick(Program& program, PageId page, int index);
 
 } // namespace modInput

@@ -1,7 +1,9 @@
 #include "shell/wiring.h"
 
 #include "core/program.h"
+#include "editing/block_moves.h"
 #include "editing/columns.h"
+#include "editing/selection.h"
 #include "editing/text_areas.h"
 #include "editing/text_menu.h"
 #include "shell/page_switch.h"
@@ -50,5 +52,7 @@ void Wire(Program& program) {
     hooks.UpdatePageButtons = modScroll::UpdatePageButtons;
     hooks.PageKey = modScroll::PageKey;
     hooks.UpdateTextMenu = modBlocks::UpdateTextMenu;
+    hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
+    hooks.MoveBlock = modBlocks::MoveBlockByKey;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
 }

@@ -1,0 +1,208 @@
+#include "editing/blocks.h"
+
+#include "core/errors.h"
+#include "core/guard.h"
+#include "core/program.h"
+#include "document/page_geometry.h"
+#include "document/totals.h"
+#include "editing/area_contents.h"
+#include "editing/push.h"
+#include "editing/selection.h"
+#include "editing/text_menu.h"
+
+namespace modBlocks {
+
+namespace {
+
+void Tell(Program& program, std::string_view words) {
+    program.platform.questions.MsgBox(words, Buttons::Ok, "");
+}
+
+/// Final contents first, then one change: the line is stored as it will stand.
+void WriteArea(Program& program, PageId page, int index, const AreaContents& contents) {
+    PlaceContents(program, page, index, contents);
+    RunChange(program, page, index);
+}
+
+void CountPage(Program& program, PageId page) {
+    modTotals::CalculateMyTotals(program, page);
+    modTotals::UpdateRunningTotals(program);
+}
+
+/// Empties the selected areas of the active page into the undo memory.
+void ClearSelectedAreas(Program& program) {
+    const PageId page = program.main.ActivePage;
+    BlockState& block = program.editing.Block;
+    const ScopedFlag refiring(program.editing.RefireMode);
+    modText::ForgetKey(program);
+    block.UndoMemory.clear();
+    block.UndoPage = page;
+    for (int index = 0; index <= geometry::LastText(page); ++index) {
+        if (IsSelected(program, page, index)) {
+            block.UndoMemory.push_back({index, ReadContents(program, page, index)});
+            WriteArea(program, page, index, {});
+        }
+    }
+    program.editing.UndoAvailable = true;
+    ClearSelectionColors(program);
+    CountPage(program, page);
+}
+
+void EndMode(Program& program) {
+    program.editing.BlockMode = false;
+    ShowModeSign(program, ModeSign::Hidden);
+}
+
+/// Where a paste would write: first and last description, first and last amount (none when Last < First).
+struct PasteTarget {
+    PageId Page = PageId::frmP1;
+    int First = 0;
+    int Last = 0;
+    int FirstAmount = 0;
+    int LastAmount = -1;
+};
+
+PasteTarget TargetOfPaste(Program& program) {
+    BlockState& block = program.editing.Block;
+    PasteTarget target;
+    target.Page = program.main.ActivePage;
+    target.First = program.editing.CurrentArea;
+    target.Last = target.First + block.MemoryLeftCount();
+    block.RunStart = {target.First, -1};
+    block.RunEnd = {target.Last, -1};
+    if (!block.MemoryRight.empty()) {
+        target.FirstAmount = geometry::AmountOf(target.Page, target.First);
+        target.LastAmount = target.FirstAmount + block.MemoryRightCount();
+        block.RunStart[1] = target.FirstAmount;
+        block.RunEnd[1] = target.LastAmount;
+    }
+    return target;
+}
+
+bool PageTakesPaste(const Program& program) {
+    const PageId page = program.main.ActivePage;
+    return IsLinePage(page) && program.main.PageInFront != PageId::frmP6_1 &&
+           program.editing.CurrentArea >= RowsOf(page).First;
+}
+
+bool AnyText(const Program& program, const PasteTarget& target) {
+    for (int index = target.First; index <= target.Last; ++index) {
+        if (HoldsText(program, target.Page, index)) {
+            return true;
+        }
+    }
+    for (int index = target.FirstAmount; index <= target.LastAmount; ++index) {
+        if (HoldsText(program, target.Page, index)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool MayWrite(Program& program, const PasteTarget& target) {
+    if (target.Last > RowsOf(target.Page).Last || target.LastAmount > geometry::LastText(target.Page)) {
+        Tell(program, "Cannot paste here. Out of space.");
+        return false;
+    }
+    if (!AnyText(program, target)) {
+        return true;
+    }
+    const Answer answer = program.platform.questions.MsgBox(
+        "Text is present in destination areas. Over-write this text with that in memory?", Buttons::YesNo,
+        "Text areas are not all empty.");
+    if (answer != Answer::Yes) {
+        Tell(program, "Action Cancelled.");
+        return false;
+    }
+    return true;
+}
+
+void WriteMemory(Program& program, const PasteTarget& target) {
+    const ScopedFlag refiring(program.editing.RefireMode);
+    modText::ForgetKey(program);
+    const BlockState& block = program.editing.Block;
+    int index = target.First;
+    for (const AreaContents& contents : block.MemoryLeft) {
+        WriteArea(program, target.Page, index++, contents);
+    }
+    index = target.FirstAmount;
+    for (const AreaContents& contents : block.MemoryRight) {
+        WriteArea(program, target.Page, index++, contents);
+    }
+    CountPage(program, target.Page);
+}
+
+} // namespace
+
+void CopyBlock(Program& program) {
+    FinishMove(program);
+    if (ReadSelectionRuns(program) == Selection::Runs) {
+        CopyBlockToMemory(program);
+        program.editing.BlockCopyHeld = true;
+    }
+    UpdateTextMenu(program);
+}
+
+void DeleteBlock(Program& program) {
+    Guarded(program, "DeleteTextContents", [&] {
+        FinishMove(program);
+        if (ReadSelectionRuns(program) == Selection::Runs) {
+            ClearSelectedAreas(program);
+            EndMode(program);
+        }
+        UpdateTextMenu(program);
+    });
+}
+
+void CutBlock(Program& program) {
+    const bool done = Guarded(program, "DeleteTextContents", [&] {
+        FinishMove(program);
+        if (ReadSelectionRuns(program) == Selection::Runs) {
+            CopyBlockToMemory(program);
+            program.editing.BlockCopyHeld = true;
+            ClearSelectedAreas(program);
+        }
+        UpdateTextMenu(program);
+    });
+    if (!done) {
+        Tell(program, "An error occurred while cutting text.");
+    }
+}
+
+void UndoDeleteBlock(Program& program) {
+    if (!program.editing.UndoAvailable) {
+        return;
+    }
+    FinishMove(program);
+    BlockState& block = program.editing.Block;
+    SettleCompletion(program, block.UndoPage);
+    {
+        const ScopedFlag refiring(program.editing.RefireMode);
+        modText::ForgetKey(program);
+        for (const ClearedArea& cleared : block.UndoMemory) {
+            WriteArea(program, block.UndoPage, cleared.Index, cleared.Contents);
+        }
+    }
+    CountPage(program, block.UndoPage);
+    block.UndoMemory.clear();
+    program.editing.UndoAvailable = false;
+    UpdateTextMenu(program);
+}
+
+void PasteBlock(Program& program) {
+    FinishMove(program);
+    if (!PageTakesPaste(program)) {
+        Tell(program, "Cannot paste here.");
+        return;
+    }
+    if (program.editing.Block.MemoryLeft.empty()) {
+        return;
+    }
+    const PasteTarget target = TargetOfPaste(program);
+    if (MayWrite(program, target)) {
+        WriteMemory(program, target);
+    }
+    UpdateTextMenu(program);
+}
+
+} // namespace modBlocks
