@@ -1,0 +1,183 @@
+#include "core/windows.h"
+#include "desktop/desktop_run.h"
+#include "shell/command_run.h"
+#include "support/running_program.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QImage>
+#include <QStyle>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <string>
+
+namespace {
+
+/// A desktop with light letters on dark ground, for as long as it stands.
+class DarkDesktop {
+public:
+    DarkDesktop() {
+        const QColor ground(0x2B, 0x2B, 0x2E);
+        const QColor field(0x1E, 0x1E, 0x20);
+        const QColor letters(0xEE, 0xEE, 0xEE);
+        QPalette dark(letters, ground);
+        dark.setColor(QPalette::Base, field);
+        dark.setColor(QPalette::Text, letters);
+        dark.setColor(QPalette::Highlight, QColor(0x3D, 0x8E, 0xD0));
+        dark.setColor(QPalette::HighlightedText, Qt::white);
+        for (const QPalette::ColorRole role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
+            dark.setColor(QPalette::Disabled, role, QColor(0x88, 0x88, 0x88));
+        }
+        QApplication::setPalette(dark);
+    }
+    ~DarkDesktop() { QApplication::setPalette(QApplication::style()->standardPalette()); }
+    DarkDesktop(const DarkDesktop&) = delete;
+    DarkDesktop& operator=(const DarkDesktop&) = delete;
+};
+
+/// The window as it looks; kept as a file when somebody wants to see it.
+QImage Look(QWidget& widget, const char* name) {
+    const QImage image = widget.grab().toImage();
+    const QString folder = qEnvironmentVariable("QUILLBROOK_LOOKS");
+    if (!folder.isEmpty()) {
+        image.save(folder + QLatin1Char('/') + QLatin1String(name) + QStringLiteral(".png"));
+    }
+    return image;
+}
+
+QColor At(const QImage& image, const QPoint& point) {
+    return image.pixelColor(
+        QPoint(qRound(point.x() * image.devicePixelRatio()), qRound(point.y() * image.devicePixelRatio())));
+}
+
+double Luminance(const QColor& color) {
+    const auto part = [](float value) {
+        const double share = static_cast<double>(value);
+        return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF());
+}
+
+/// From 1 (no difference) to 21 (black on white); 4.5 is what letters need.
+double Contrast(const QColor& one, const QColor& other) {
+    const double first = Luminance(one);
+    const double second = Luminance(other);
+    return (std::max(first, second) + 0.05) / (std::min(first, second) + 0.05);
+}
+
+/// The strongest contrast to the background that a widget's picture holds: its letters'.
+double InkContrast(QWidget& widget) {
+    const QImage image = widget.grab().toImage();
+    const QColor ground = image.pixelColor(1, 1);
+    double strongest = 1;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            strongest = std::max(strongest, Contrast(image.pixelColor(x, y), ground));
+        }
+    }
+    return strongest;
+}
+
+TEST(DarkTheme, PaperStaysPaper) {
+    const DarkDesktop dark;
+    DesktopRun run;
+    const QImage image = Look(*run.window, "dark_main");
+    PageView& page = run.window->PageOf(PageId::frmP1);
+    const auto place = [&](const QWidget& widget, QPoint inside) {
+        return widget.mapTo(run.window.get(), inside);
+    };
+    EXPECT_EQ(At(image, place(page, {20, 20})), QColor(Qt::white));
+    const TextAreaView& resting = run.Field({PageId::frmP1, FieldKind::txt, 3});
+    EXPECT_EQ(At(image, place(resting, {resting.width() / 2, resting.height() / 2})),
+              QColor(0xC0, 0xC0, 0xC0));
+    const TextAreaView& focused = run.Field({PageId::frmP1, FieldKind::txt, 0});
+    EXPECT_EQ(At(image, place(focused, {focused.width() / 2, focused.height() / 2})), QColor(0, 0xFF, 0xFF));
+    auto* label = page.findChild<QLabel*>(QStringLiteral("lbl(9)"));
+    EXPECT_GT(InkContrast(*label), 10);
+}
+
+TEST(DarkTheme, StripsAndButtonsCanBeRead) {
+    const DarkDesktop dark;
+    DesktopRun run;
+    run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+    for (const char* name : {"lblDir", "lblEvent", "lblTotal", "lblHighestPage", "lblTextNum", "lblPage",
+                             "imgOpen", "imgSearch", "imgPage(1)", "cmdPreview", "cmdReCalc"}) {
+        EXPECT_GE(InkContrast(*run.Child(name)), 4.5) << name;
+    }
+    EXPECT_LT(Luminance(At(Look(*run.Child("picTop"), "dark_strip"), {2, 2})), 0.1);
+}
+
+TEST(DarkTheme, ARedRecalculateButtonCanBeRead) {
+    for (const bool darkly : {false, true}) {
+        const std::unique_ptr<DarkDesktop> dark = darkly ? std::make_unique<DarkDesktop>() : nullptr;
+        DesktopRun run;
+        run.program.main.cmdReCalc.BackColor = colors::kOverLimit;
+        run.window->AfterEvent();
+        QWidget& button = *run.Child("cmdReCalc");
+        const QImage image = Look(button, darkly ? "dark_red" : "light_red");
+        const QColor face = At(image, {6, button.height() / 2});
+        EXPECT_GT(face.red(), face.blue() + 60);
+        EXPECT_GT(face.red(), face.green() + 60);
+        EXPECT_GE(Contrast(face, button.palette().color(QPalette::ButtonText)), 4.5);
+    }
+}
+
+TEST(DarkTheme, SmallWindowsCanBeRead) {
+    const DarkDesktop dark;
+    for (const CommandId id :
+         {CommandId::mnuFileOpenEvent, CommandId::mnuOptPrinter, CommandId::mnuOptACStart,
+          CommandId::mnuOptSalesTax, CommandId::mnuOptUserPref, CommandId::mnuToolsPrinterOffsets}) {
+        DesktopRun run;
+        commands::Run(run.program, id);
+        run.window->AfterEvent();
+        Window* open = modWindows::TopModal(run.program);
+        ASSERT_NE(open, nullptr);
+        const std::string name(open->Name());
+        auto* view = run.window->findChild<QDialog*>(QString::fromStdString(name));
+        EXPECT_TRUE(QTest::qWaitFor([view] { return QApplication::activeWindow() == view; }));
+        Look(*view, ("dark_" + name).c_str());
+        for (QLabel* label : view->findChildren<QLabel*>()) {
+            if (label->isVisible() && !label->text().isEmpty()) {
+                EXPECT_GE(InkContrast(*label), 4.5) << name << ' ' << label->objectName().toStdString();
+            }
+        }
+        for (QAbstractButton* button : view->findChildren<QAbstractButton*>()) {
+            if (button->isVisible() && button->isEnabled()) {
+                EXPECT_GE(InkContrast(*button), 4.5) << name << ' ' << button->objectName().toStdString();
+            }
+        }
+        QTest::keyClick(view, Qt::Key_Escape);
+    }
+}
+
+TEST(LightTheme, SmallWindowsAsTheyLook) {
+    for (const CommandId id :
+         {CommandId::mnuFileOpenEvent, CommandId::mnuOptPrinter, CommandId::mnuOptACStart,
+          CommandId::mnuOptSalesTax, CommandId::mnuOptUserPref, CommandId::mnuToolsPrinterOffsets}) {
+        DesktopRun run;
+        commands::Run(run.program, id);
+        run.window->AfterEvent();
+        const std::string name(modWindows::TopModal(run.program)->Name());
+        auto* view = run.window->findChild<QDialog*>(QString::fromStdString(name));
+        EXPECT_TRUE(QTest::qWaitFor([view] { return QApplication::activeWindow() == view; }));
+        Look(*view, ("light_" + name).c_str());
+        // Nothing is cut off: every label and button has the room that its words need.
+        for (QWidget* part : view->findChildren<QWidget*>()) {
+            const auto* label = qobject_cast<QLabel*>(part);
+            const bool words =
+                (label != nullptr && !label->wordWrap()) || qobject_cast<QAbstractButton*>(part) != nullptr;
+            if (words && part->isVisible()) {
+                EXPECT_GE(part->width(), part->minimumSizeHint().width())
+                    << name << ' ' << part->objectName().toStdString();
+            }
+        }
+        QTest::keyClick(view, Qt::Key_Escape);
+    }
+}
+
+} // namespace
