@@ -55,10 +55,10 @@ std::string Lower(std::string_view value) {
 
 std::string Proper(std::string_view value) {
     std::string result(value);
-    bool inWord = false;
+    bool begins = true;
     for (char& character : result) {
-        character = inWord ? ansi::Lower(character) : ansi::Upper(character);
-        inWord = ansi::IsLetter(character) || ansi::IsDigit(character) || character == '\'';
+        character = begins ? ansi::Upper(character) : ansi::Lower(character);
+        begins = character == ' ' || character == '\t';
     }
     return result;
 }

@@ -20,8 +20,7 @@ inline constexpr std::string_view kCrLf = "\r\n";
 
 [[nodiscard]] std::string Upper(std::string_view value);
 [[nodiscard]] std::string Lower(std::string_view value);
-/// First letter of each word upper, the rest lower. A word begins after anything that is not a letter, a
-/// digit or an apostrophe.
+/// First letter of each word upper, the rest lower. A word begins after a blank or a tab.
 [[nodiscard]] std::string Proper(std::string_view value);
 
 /// Order of the upper-cased bytes: below 0, 0, above 0.

@@ -10,6 +10,7 @@
 #include "desktop/window_views.h"
 #include "shell/closing.h"
 #include "shell/command_run.h"
+#include "shell/input.h"
 #include "shell/page_switch.h"
 
 #include <QCloseEvent>
@@ -177,6 +178,13 @@ PageView& FrmMainView::PageOf(PageId page) {
         view->Context().AfterEvent = [this] { AfterEvent(); };
         view->Context().AskForMenu = [this](QPoint at) {
             if (QMenu* menu = menus_->Menu(CommandId::mnuEditTextBox)) {
+                connect(
+                    menu, &QMenu::aboutToHide, this,
+                    [this] {
+                        modInput::TextMenuClosed(program_);
+                        AfterEvent();
+                    },
+                    Qt::SingleShotConnection);
                 menu->popup(at);
             }
         };

@@ -419,11 +419,21 @@ void txt_MouseDown(Program& program, PageId page, int index, int button, int shi
     }
     editing.RightClickPending = true;
     editing.RightClickArea = index;
+    // The menu takes the keyboard: the area is left as by any other way, and entered again when the menu
+    // goes.
+    modFields::DropFocus(program);
     if (program.hooks.UpdateTextMenu) {
         program.hooks.UpdateTextMenu(program);
     }
     program.platform.events.LetEventsRun();
     editing.CurrentArea = index;
+}
+
+void TextMenuClosed(Program& program) {
+    if (!program.editing.RightClickPending || program.main.Focus) {
+        return;
+    }
+    modFields::GiveFocus(program, Field(program.main.ActivePage, program.editing.RightClickArea));
 }
 
 void txt_MouseUp(Program& program, PageId page, int index) {

@@ -7,6 +7,7 @@
 #include "document/lifecycle.h"
 #include "document/totals.h"
 #include "editing/columns.h"
+#include "editing/text_areas.h"
 #include "output/preview.h"
 #include "output/print.h"
 #include "shell/admin_commands.h"
@@ -121,6 +122,7 @@ bool RefusedInPreview(const Program& program, CommandId id) {
 } // namespace
 
 void Run(Program& program, CommandId id) {
+    modText::TextMenuClosed(program);
     // A shortcut must not act on the state of a field that has been left meanwhile.
     if (Find(id).Parent == CommandId::mnuEditTextBox && program.hooks.UpdateTextMenu) {
         program.hooks.UpdateTextMenu(program);

@@ -101,8 +101,10 @@ void Edited(Program& program, const FieldRef& field, std::string_view text, int 
 
 void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view text, int selStart,
                       int selLength) {
-    program.editing.CursorPos = modFields::Area(program, field).SelStart;
-    program.editing.LastKeyChar.clear();
+    if (IsText(field)) {
+        program.editing.CursorPos = modFields::Area(program, field).SelStart;
+        program.editing.LastKeyChar.clear();
+    }
     modFields::TypeText(program, field, text, selStart, selLength);
 }
 
@@ -131,6 +133,9 @@ void Insert(Program& program, const FieldRef& field, std::string_view text, int 
     } else if (taken.size() > kMostInserted) {
         program.main.Notice = "The text was too long for one line; its end was not taken.";
         taken.resize(kMostInserted);
+    }
+    if (!IsText(field)) {
+        modColumns::ClearPlaceholder(program, field);
     }
     std::string value = area.Text;
     modFields::SetCursor(area, area.SelStart, area.SelLength);
@@ -188,6 +193,10 @@ void FieldDblClick(Program& program, const FieldRef& field) {
     if (IsText(field)) {
         modText::txt_DblClick(program, field.Page, field.Index);
     }
+}
+
+void TextMenuClosed(Program& program) {
+    modText::TextMenuClosed(program);
 }
 
 void NoTaxMarkClick(Program& program, PageId page, int index) {

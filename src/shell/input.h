@@ -40,6 +40,8 @@ void FieldMouseDown(Program& program, const FieldRef& field, int button, int shi
                     int selLength);
 void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int selLength);
 void FieldDblClick(Program& program, const FieldRef& field);
+/// The menu that a right press opens has closed.
+void TextMenuClosed(Program& program);
 void NoTaxMarkClick(Program& program, PageId page, int index);
 
 } // namespace modInput

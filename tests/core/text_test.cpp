@@ -67,9 +67,9 @@ TEST(Text, ChangesCaseByTheCodePage) {
     EXPECT_EQ(text::Lower("\xD7"), "\xD7");
 }
 
-TEST(Text, ProperCaseBeginsWordsAfterWhatIsNoPartOfOne) {
-    EXPECT_EQ(text::Proper("jane o'brien-SMITH 2nd"), "Jane O'brien-Smith 2nd");
-    EXPECT_EQ(text::Proper("\xE9lan (the) hall"), "\xC9lan (The) Hall");
+TEST(Text, ProperCaseBeginsWordsAfterABlankOrATabOnly) {
+    EXPECT_EQ(text::Proper("jane o'brien-SMITH 2nd"), "Jane O'brien-smith 2nd");
+    EXPECT_EQ(text::Proper("\xE9lan (THE) hall\tno"), "\xC9lan (the) Hall\tNo");
 }
 
 TEST(Text, ComparesWithoutCase) {
