@@ -185,10 +185,18 @@ void CountTowardsBackup(Program& program, PageId page, int index) {
     modFile::BackupThisFile(program);
 }
 
+/// A copied cell or line often brings its line end along.
+std::string_view WithoutLineEnds(std::string_view value) {
+    constexpr std::string_view kAround = " \t\r\n";
+    const std::size_t from = value.find_first_not_of(kAround);
+    return from == std::string_view::npos ? std::string_view()
+                                          : value.substr(from, value.find_last_not_of(kAround) - from + 1);
+}
+
 /// A paste into an amount: all of it, when it is a number.
 void PasteNumber(Program& program, PageId page, int index) {
-    const std::string clipboard(text::Trim(program.platform.clipboard.GetText()));
-    const std::string_view line = std::string_view(clipboard).substr(0, clipboard.find_first_of("\r\n"));
+    const std::string clipboard = program.platform.clipboard.GetText();
+    const std::string_view line = WithoutLineEnds(clipboard);
     TextArea& area = Area(program, page, index);
     if (area.Locked || !numbers::IsNumeric(line, program.settings.CurrencySymbol)) {
         return;

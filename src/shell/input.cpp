@@ -195,6 +195,11 @@ void FieldDblClick(Program& program, const FieldRef& field) {
     }
 }
 
+bool TextMenuOpens(const Program& program) {
+    // The press has taken the focus from the area for as long as the menu is up.
+    return program.editing.RightClickPending && !program.main.Focus;
+}
+
 void TextMenuClosed(Program& program) {
     modText::TextMenuClosed(program);
 }

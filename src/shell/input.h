@@ -40,6 +40,8 @@ void FieldMouseDown(Program& program, const FieldRef& field, int button, int shi
                     int selLength);
 void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int selLength);
 void FieldDblClick(Program& program, const FieldRef& field);
+/// Whether the press just made opens the menu of the text areas: a right one on an area of frmP1 to frmP5.
+[[nodiscard]] bool TextMenuOpens(const Program& program);
 /// The menu that a right press opens has closed.
 void TextMenuClosed(Program& program);
 void NoTaxMarkClick(Program& program, PageId page, int index);

@@ -61,13 +61,17 @@ class FixedMeasure : public TextMeasure {
 public:
     FixedMeasure() { Advance.fill(100); }
     std::array<float, 256> Advance{};
+    /// Size at which the advances hold; widths grow with the font then. 0: they are the same in every size.
+    float UnitSize = 0;
+    float BoldFactor = 1;
 
-    [[nodiscard]] float Width(std::string_view text, const TextFont&) const override {
+    [[nodiscard]] float Width(std::string_view text, const TextFont& font) const override {
         float width = 0;
         for (const char character : text) {
             width += Advance[static_cast<unsigned char>(character)];
         }
-        return width;
+        width *= UnitSize > 0 ? font.Size / UnitSize : 1;
+        return font.Bold ? width * BoldFactor : width;
     }
     [[nodiscard]] float Height(const TextFont& font) const override { return 20.0F * font.Size; }
 };
