@@ -265,6 +265,12 @@ TEST(Limits, ATagWithTheAmountsLimitMakesAnAmountWhateverItsKind) {
     EXPECT_EQ(run.program.totals.AmountTable[5][1], 12.0F);
     typist.Click(kSecond, 6);
     EXPECT_EQ(run.TextOf(kSecond, 5), "12.00");
+    run.Area(kFirst, 5).Tag = "Name.020";
+    run.Label(kFirst, 6).Visible = true;
+    typist.Click(kFirst, 5);
+    typist.Type("1");
+    typist.Press(keys::kBackspace);
+    EXPECT_TRUE(run.Label(kFirst, 6).Visible) << "no sign stands beside it";
 }
 
 TEST(Limits, RedTurnsCyanOnReleaseOnly) {
