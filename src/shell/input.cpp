@@ -114,13 +114,13 @@ void TellRefused(Program& program, int count) {
                    : std::to_string(count) + " characters were not taken: they cannot be kept in a proposal.";
 }
 
-void Insert(Program& program, const FieldRef& field, std::string_view text, int refused, By by) {
-    TextArea& area = modFields::Area(program, field);
+std::optional<std::string> Accept(Program& program, const FieldRef& field, std::string_view text,
+                                  int refused) {
     if (refused > 0) {
         TellRefused(program, refused);
     }
-    if (area.Locked || program.editing.BlockMode || text.empty()) {
-        return;
+    if (modFields::Area(program, field).Locked || program.editing.BlockMode || text.empty()) {
+        return std::nullopt;
     }
     const bool filtered =
         !IsText(field) || field.Page == PageId::frmP6 || geometry::IsAmount(field.Page, field.Index);
@@ -128,7 +128,7 @@ void Insert(Program& program, const FieldRef& field, std::string_view text, int 
     if (filtered) {
         taken = text::Trim(text);
         if (!numbers::IsNumeric(taken, program.settings.CurrencySymbol)) {
-            return;
+            return std::nullopt;
         }
     } else if (taken.size() > kMostInserted) {
         program.main.Notice = "The text was too long for one line; its end was not taken.";
@@ -137,11 +137,20 @@ void Insert(Program& program, const FieldRef& field, std::string_view text, int 
     if (!IsText(field)) {
         modColumns::ClearPlaceholder(program, field);
     }
+    return taken;
+}
+
+void Insert(Program& program, const FieldRef& field, std::string_view text, int refused, By by) {
+    const std::optional<std::string> taken = Accept(program, field, text, refused);
+    if (!taken) {
+        return;
+    }
+    TextArea& area = modFields::Area(program, field);
     std::string value = area.Text;
     modFields::SetCursor(area, area.SelStart, area.SelLength);
     const int start = area.SelStart;
-    value.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(area.SelLength), taken);
-    const int end = start + static_cast<int>(taken.size());
+    value.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(area.SelLength), *taken);
+    const int end = start + static_cast<int>(taken->size());
     if (by == By::Key) {
         Edited(program, field, value, end, 0);
     } else {

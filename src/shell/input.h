@@ -3,6 +3,8 @@
 #include "document/page_records.h"
 #include "editing/keys.h"
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 struct Program;
@@ -22,9 +24,12 @@ void Edited(Program& program, const FieldRef& field, std::string_view text, int 
 /// then move text on into another row.
 void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view text, int selStart,
                       int selLength);
-/// A text from outside replaces the selection, by paste or drop. Filtered fields take it whole when it is a
-/// number, and not at all otherwise. `refused` characters that have no byte were left out; the person is
-/// told.
+/// What a text from outside, pasted or let go over a field, brings into it: nothing where no edit may reach
+/// the field, a number whole or not at all in a filtered one, and no more than a line can be anywhere.
+/// Empties a placeholder. `refused` characters that have no byte were left out; the person is told.
+[[nodiscard]] std::optional<std::string> Accept(Program& program, const FieldRef& field,
+                                                std::string_view text, int refused);
+/// Such a text replaces the selection.
 enum class By { Key, Mouse };
 void Insert(Program& program, const FieldRef& field, std::string_view text, int refused, By by);
 /// Tells the person that a character was not taken.
