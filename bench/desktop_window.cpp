@@ -2,7 +2,10 @@
 #include "desktop/frm_main_view.h"
 #include "desktop/page_view.h"
 #include "desktop/qt_platform.h"
+#include "document/fields.h"
+#include "document/page_setup.h"
 #include "output/print_page.h"
+#include "shell/page_switch.h"
 #include "shell/start_up.h"
 #include "shell/wiring.h"
 #include "support/recording_platform.h"
@@ -18,7 +21,9 @@
 #include <algorithm>
 #include <chrono>
 #include <memory>
+#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -111,6 +116,52 @@ void KeyToPaintedFrame(benchmark::State& state) {
     state.counters["p99_ms"] = spans[spans.size() * 99 / 100];
 }
 BENCHMARK(KeyToPaintedFrame)->Unit(benchmark::kMillisecond);
+
+/// The same for a key held down in a description of a full page, and for the blanks among them that push
+/// words on through all its rows.
+void HeldKeyWithPushesToPaintedFrame(benchmark::State& state) {
+    Desktop desktop;
+    modScroll::UpdatePageButtons(desktop.program, 1);
+    std::string line;
+    while (modPages::MeasureTextWidth(desktop.program, PageId::frmP2, line + "abcdefghi ") < 8640) {
+        line += "abcdefghi ";
+    }
+    auto& rows = desktop.program.pages[PageId::frmP2].txt;
+    modFields::GiveFocus(desktop.program, {PageId::frmP2, FieldKind::txt, 0});
+    const auto fill = [&] {
+        for (int row = 0; row <= 32; ++row) {
+            rows[static_cast<std::size_t>(row)].Text = line;
+        }
+        rows[0].SelStart = 3;
+        desktop.program.editing.KeyCounter = 0;
+        desktop.window->AfterEvent();
+        QCoreApplication::processEvents();
+    };
+    std::vector<double> spans;
+    std::vector<double> pushes;
+    int count = 0;
+    for (auto _ : state) {
+        const bool push = ++count % 6 == 0;
+        if (count % 6 == 1) {
+            fill();
+        }
+        QWidget* keyboard = QApplication::focusWidget();
+        const auto start = Clock::now();
+        QTest::keyPress(keyboard, push ? Qt::Key_Space : Qt::Key_M);
+        QCoreApplication::processEvents();
+        const double span = Milliseconds(Clock::now() - start);
+        state.SetIterationTime(span / 1000);
+        (push ? pushes : spans).push_back(span);
+    }
+    for (const auto& [name, all] : {std::pair{"key", &spans}, std::pair{"push", &pushes}}) {
+        std::sort(all->begin(), all->end());
+        if (!all->empty()) {
+            state.counters[std::string(name) + "_p50_ms"] = (*all)[all->size() / 2];
+            state.counters[std::string(name) + "_p99_ms"] = (*all)[all->size() * 99 / 100];
+        }
+    }
+}
+BENCHMARK(HeldKeyWithPushesToPaintedFrame)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 void OnePageToPdf(benchmark::State& state) {
     Desktop desktop;

@@ -334,7 +334,7 @@ void TextAreaView::KeyTyped(QKeyEvent* event, int code) {
         Character(event, static_cast<char>(code));
     } else if (code == 46 || event->matches(QKeySequence::Cut) || event->matches(QKeySequence::Undo) ||
                event->matches(QKeySequence::Redo)) {
-        if (!program.editing.BlockMode && !isReadOnly()) {
+        if (modInput::MayEdit(program, field_)) {
             QLineEdit::keyPressEvent(event);
         }
     } else if (!event->matches(QKeySequence::DeleteCompleteLine) &&

@@ -17,6 +17,8 @@
 #include "editing/navigation.h"
 #include "editing/push.h"
 
+#include <limits>
+
 namespace modText {
 
 namespace {
@@ -461,7 +463,13 @@ void RefireTextChanges(Program& program, PageId page) {
     if (!IsLinePage(page)) {
         return;
     }
-    const ScopedFlag refiring(program.editing.RefireMode);
+    EditingState& editing = program.editing;
+    const ScopedFlag refiring(editing.RefireMode);
+    // Nobody is typing: whatever key came last, a line that is too long goes red and stays.
+    const int cursor = editing.CursorPos;
+    const OnLeaving putBack([&] { editing.CursorPos = cursor; });
+    editing.CursorPos = std::numeric_limits<int>::max();
+    editing.LastKeyChar.clear();
     const auto refire = [&](const FieldRef& field) {
         const std::string value = modFields::Area(program, field).Text;
         modFields::SetText(program, field, "Test");

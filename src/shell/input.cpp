@@ -95,6 +95,10 @@ int KeyPress(Program& program, int keyAscii) {
     return kept;
 }
 
+bool MayEdit(Program& program, const FieldRef& field) {
+    return !program.editing.BlockMode && !modFields::Area(program, field).Locked;
+}
+
 void Edited(Program& program, const FieldRef& field, std::string_view text, int selStart, int selLength) {
     modFields::TypeText(program, field, text, selStart, selLength);
 }
@@ -119,7 +123,7 @@ std::optional<std::string> Accept(Program& program, const FieldRef& field, std::
     if (refused > 0) {
         TellRefused(program, refused);
     }
-    if (modFields::Area(program, field).Locked || program.editing.BlockMode || text.empty()) {
+    if (text.empty() || !MayEdit(program, field)) {
         return std::nullopt;
     }
     const bool filtered =

@@ -18,6 +18,8 @@ namespace modInput {
 [[nodiscard]] Taken KeyDown(Program& program, int keyCode, int shift, int selStart, int selLength);
 /// Returns the character to enter, 0 when it is cancelled.
 [[nodiscard]] int KeyPress(Program& program, int keyAscii);
+/// Whether an edit that enters no character (delete, cut, undo) may reach a field.
+[[nodiscard]] bool MayEdit(Program& program, const FieldRef& field);
 /// The widget of a field has applied an edit.
 void Edited(Program& program, const FieldRef& field, std::string_view text, int selStart, int selLength);
 /// The same for an edit that no key made: a paste by mouse, a drop, an input method, undo. No stale key may

@@ -122,7 +122,7 @@ void Typist::KeyDownAndCharacter(int keyCode, int keyAscii, int shift) {
     }
     const int length = static_cast<int>(line.Text.size());
     if (keyCode == keys::kDelete) {
-        if (modFields::Area(program_, line.Field).Locked) {
+        if (!modInput::MayEdit(program_, line.Field)) {
             return;
         }
         ApplyEditingKey(line, keyCode);
