@@ -214,6 +214,10 @@ void TextAreaView::paintEvent(QPaintEvent*) {
         const double x = origin + measure.XOf(words, cursorPosition(), font);
         painter.fillRect(QRectF(x, 8, kCaretWidth, height - 16), ink);
     }
+    if (dragging_) {
+        const double x = origin + measure.XOf(words, dropAt_, font);
+        painter.fillRect(QRectF(x, 8, kCaretWidth, height - 16), ink);
+    }
     painter.restore();
     if (hasFocus()) {
         // Colour alone must not tell where the keyboard is.
@@ -393,10 +397,13 @@ void TextAreaView::mousePressEvent(QMouseEvent* event) {
     if (!extend) {
         anchor_ = position;
     }
+    pressedAt_ = event->position().x();
     int start = qMin(anchor_, position);
     int length = qAbs(position - anchor_);
-    if (right && hasFocus()) {
-        // A marked text stays marked for the menu's commands.
+    pressedInMarked_ = event->button() == Qt::LeftButton && !extend && hasFocus() && position > Start() &&
+                       position < Start() + Length();
+    if ((right && hasFocus()) || pressedInMarked_) {
+        // A marked text stays marked, for the menu's commands or to be dragged.
         start = Start();
         length = Length();
     }
@@ -415,12 +422,30 @@ void TextAreaView::mouseMoveEvent(QMouseEvent* event) {
         return;
     }
     const int position = PositionAt(event->position().x());
+    if (pressedInMarked_) {
+        const int moved = qAbs(qRound(event->position().x() - pressedAt_));
+        dragging_ = dragging_ || moved >= QGuiApplication::styleHints()->startDragDistance();
+        dropAt_ = position;
+        update();
+        return;
+    }
     modInput::CursorMoved(page_.program, field_, qMin(anchor_, position), qAbs(position - anchor_));
     Done();
 }
 
 void TextAreaView::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
+    if (pressedInMarked_) {
+        pressedInMarked_ = false;
+        if (dragging_) {
+            dragging_ = false;
+            modInput::MoveMarked(page_.program, field_, dropAt_);
+            TakeRecord();
+        } else {
+            modInput::CursorMoved(page_.program, field_, PositionAt(event->position().x()), 0);
+        }
+        Done();
+    }
     modInput::FieldMouseUp(page_.program, field_, Start(), Length());
     if (event->button() == Qt::MiddleButton) {
         TakeIn(page_.MarkedText ? page_.MarkedText()

@@ -70,6 +70,10 @@ private:
     bool reported_ = false; ///< the edit under way has reached the model
     bool silent_ = false;   ///< the widget follows the model
     bool caretOn_ = false;
+    bool pressedInMarked_ = false; ///< a drag of the marked text may begin
+    bool dragging_ = false;
+    int dropAt_ = 0;
+    double pressedAt_ = 0;
     int anchor_ = 0;
     double scroll_ = 0;
     QString preedit_;

@@ -10,6 +10,7 @@
 #include "editing/text_areas.h"
 #include "shell/page_switch.h"
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 
@@ -22,6 +23,11 @@ constexpr std::size_t kMostInserted = 4096;
 
 bool IsText(const FieldRef& field) {
     return field.Kind == FieldKind::txt;
+}
+
+/// Fields that take figures only.
+bool IsFiltered(const FieldRef& field) {
+    return !IsText(field) || field.Page == PageId::frmP6 || geometry::IsAmount(field.Page, field.Index);
 }
 
 /// The field that takes keys; none while its page is only shown as ink.
@@ -126,10 +132,8 @@ std::optional<std::string> Accept(Program& program, const FieldRef& field, std::
     if (text.empty() || !MayEdit(program, field)) {
         return std::nullopt;
     }
-    const bool filtered =
-        !IsText(field) || field.Page == PageId::frmP6 || geometry::IsAmount(field.Page, field.Index);
     std::string taken(text);
-    if (filtered) {
+    if (IsFiltered(field)) {
         taken = text::Trim(text);
         if (!numbers::IsNumeric(taken, program.settings.CurrencySymbol)) {
             return std::nullopt;
@@ -160,6 +164,24 @@ void Insert(Program& program, const FieldRef& field, std::string_view text, int 
     } else {
         EditedWithoutKey(program, field, value, end, 0);
     }
+}
+
+void MoveMarked(Program& program, const FieldRef& field, int to) {
+    const TextArea& area = modFields::Area(program, field);
+    const int start = area.SelStart;
+    const int length = area.SelLength;
+    if (length == 0 || (to >= start && to <= start + length) || !MayEdit(program, field)) {
+        return;
+    }
+    std::string value = area.Text;
+    const std::string moved = value.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(length));
+    if (IsFiltered(field) && !numbers::IsNumeric(moved, program.settings.CurrencySymbol)) {
+        return;
+    }
+    value.erase(static_cast<std::size_t>(start), static_cast<std::size_t>(length));
+    const int at = std::clamp(to > start ? to - length : to, 0, static_cast<int>(value.size()));
+    value.insert(static_cast<std::size_t>(at), moved);
+    EditedWithoutKey(program, field, value, at, length);
 }
 
 void FieldEntered(Program& program, const FieldRef& field) {

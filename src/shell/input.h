@@ -34,6 +34,9 @@ void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view 
 /// Such a text replaces the selection.
 enum class By { Key, Mouse };
 void Insert(Program& program, const FieldRef& field, std::string_view text, int refused, By by);
+/// The marked text of a field is dragged to another place in it and stays marked. In a filtered field only a
+/// number moves.
+void MoveMarked(Program& program, const FieldRef& field, int to);
 /// Tells the person that a character was not taken.
 void TellRefused(Program& program, int count);
 /// A field was reached by other means than the mouse or the page's own keys.

@@ -212,6 +212,41 @@ TEST(WindowDrop, PassesTheSameFilterAndPipeline) {
     EXPECT_NE(TextOf(run, Text(kFinal, 3)), "5") << "the total is not typed";
 }
 
+TEST(WindowDrag, MovesTheMarkedTextWithinItsArea) {
+    DesktopRun run;
+    run.ChoosePage(1);
+    run.Click(kSecond, 0);
+    run.Type(QStringLiteral("tables chairs"));
+    TextAreaView& view = run.Field(Text(kSecond, 0));
+    run.Press(Qt::Key_Home);
+    for (int times = 0; times < 7; ++times) {
+        run.Press(Qt::Key_Right, Qt::ShiftModifier);
+    }
+    ASSERT_EQ(view.selectedText(), QStringLiteral("tables "));
+    const int y = view.height() / 2;
+    const int inMarked = static_cast<int>(run.measure.Width("tab", {"Times New Roman", 10, false, false}) *
+                                          static_cast<float>(view.width()) / 8640);
+    QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, QPoint(inMarked, y));
+    QMouseEvent move(QEvent::MouseMove, QPointF(view.width() - 3, y),
+                     view.mapToGlobal(QPointF(view.width() - 3, y)), Qt::LeftButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(&view, &move);
+    EXPECT_EQ(TextOf(run, Text(kSecond, 0)), "tables chairs") << "not before it is let go";
+    QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, QPoint(view.width() - 3, y));
+    EXPECT_EQ(TextOf(run, Text(kSecond, 0)), "chairstables ");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "chairstables");
+    EXPECT_EQ(view.selectedText(), QStringLiteral("tables "));
+    ExpectCursorFollows(run);
+    run.Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(TextOf(run, Text(kSecond, 0)), "tables chairs");
+    // A click in a marked text unmarks it.
+    run.Press(Qt::Key_A, Qt::ControlModifier);
+    QTest::mouseClick(&view, Qt::LeftButton, Qt::NoModifier, QPoint(inMarked, y));
+    EXPECT_FALSE(view.hasSelectedText());
+    EXPECT_EQ(view.cursorPosition(), 3);
+    ExpectCursorFollows(run);
+}
+
 TEST(WindowUndo, OfTypingGoesThroughThePipeline) {
     DesktopRun run;
     run.Click(kFirst, 3);
