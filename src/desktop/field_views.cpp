@@ -396,6 +396,10 @@ void TextAreaView::mousePressEvent(QMouseEvent* event) {
     const bool right = event->button() == Qt::RightButton;
     if (!extend) {
         anchor_ = position;
+    } else if (Length() > 0) {
+        anchor_ = cursorPosition() == Start() ? Start() + Length() : Start();
+    } else {
+        anchor_ = cursorPosition();
     }
     pressedAt_ = event->position().x();
     int start = qMin(anchor_, position);

@@ -247,6 +247,21 @@ TEST(WindowDrag, MovesTheMarkedTextWithinItsArea) {
     ExpectCursorFollows(run);
 }
 
+TEST(WindowDrag, WithShiftMarksFromWhereTheCursorStands) {
+    DesktopRun run;
+    run.ChoosePage(1);
+    run.Click(kSecond, 0);
+    run.Type(QStringLiteral("tables chairs"));
+    run.Press(Qt::Key_Home);
+    run.Press(Qt::Key_Right);
+    TextAreaView& view = run.Field(Text(kSecond, 0));
+    QTest::mouseClick(&view, Qt::LeftButton, Qt::ShiftModifier, QPoint(view.width() - 3, view.height() / 2));
+    EXPECT_EQ(view.selectedText(), QStringLiteral("ables chairs"));
+    QTest::mouseClick(&view, Qt::LeftButton, Qt::ShiftModifier, QPoint(0, view.height() / 2));
+    EXPECT_EQ(view.selectedText(), QStringLiteral("t"));
+    ExpectCursorFollows(run);
+}
+
 TEST(WindowUndo, OfTypingGoesThroughThePipeline) {
     DesktopRun run;
     run.Click(kFirst, 3);

@@ -32,6 +32,7 @@ enum class Do {
     Backspace,
     Delete,
     Key,
+    Commit,
     PasteByKey,
     PasteByMouse,
     Drag,
@@ -66,6 +67,8 @@ std::string Read(const Step& step) {
         return "delete";
     case Do::Key:
         return "key " + std::to_string(step.From);
+    case Do::Commit:
+        return "commit \"" + step.Text + "\"";
     case Do::PasteByKey:
         return "Ctrl+V of \"" + step.Text + "\"";
     case Do::PasteByMouse:
@@ -137,6 +140,9 @@ void OnProgram(Pair& pair, const Step& step) {
     case Do::Key:
         pair.Hand.Press(step.From);
         break;
+    case Do::Commit:
+        pair.Hand.Commit(step.Text);
+        break;
     case Do::PasteByKey:
         pair.Hand.PasteByKey(step.Text, pair.Run.surroundings.clipboard.Text);
         break;
@@ -184,6 +190,9 @@ void OnReference(ReferenceFlow& flow, const Step& step) {
         break;
     case Do::Key:
         flow.Key(step.From);
+        break;
+    case Do::Commit:
+        flow.Commit(step.Text);
         break;
     case Do::PasteByKey:
         flow.PasteByKey(step.Text);
@@ -458,8 +467,12 @@ private:
     [[nodiscard]] Step Next() {
         Step step;
         const int chance = Number(1000);
-        if (chance < 420) {
+        if (chance < 400) {
             step.Text = ACharacter();
+        } else if (chance < 420) {
+            step.What = Do::Commit;
+            step.Text = ACharacter() + ACharacter();
+            step.Text.resize(1 + Below(2));
         } else if (chance < 470) {
             step.What = Do::Backspace;
         } else if (chance < 500) {

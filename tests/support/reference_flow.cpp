@@ -335,6 +335,26 @@ void ReferenceFlow::Key(int keyCode) {
     KeyUp();
 }
 
+void ReferenceFlow::Commit(std::string_view text) {
+    if (!Focus) {
+        return;
+    }
+    std::string taken;
+    for (const char character : text) {
+        if (KeyPress(character)) {
+            taken += character;
+        }
+    }
+    if (taken.empty()) {
+        return;
+    }
+    if (!IsBox(*Focus)) {
+        CursorPos = At(*Focus).Start;
+        lastKey_.clear();
+    }
+    Replace(taken);
+}
+
 void ReferenceFlow::PasteByKey(std::string_view clipboard) {
     if (!Focus) {
         return;

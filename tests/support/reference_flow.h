@@ -53,7 +53,8 @@ public:
     void Character(char character);
     void Backspace();
     void Delete();
-    void Key(int keyCode); ///< a key that enters nothing
+    void Key(int keyCode);              ///< a key that enters nothing
+    void Commit(std::string_view text); ///< by an input method
     void PasteByKey(std::string_view clipboard);
     void PasteByMouse(const FieldRef& field, int at, std::string_view text);
     void Drag(const FieldRef& field, int from, int to); ///< a click when both are equal

@@ -178,6 +178,18 @@ void Typist::Insert(std::string_view text) {
     }
 }
 
+void Typist::Commit(std::string_view text) {
+    std::string taken;
+    for (const char character : text) {
+        if (modInput::KeyPress(program_, static_cast<unsigned char>(character)) != 0) {
+            taken += character;
+        }
+    }
+    if (!taken.empty()) {
+        Insert(taken);
+    }
+}
+
 void Typist::PasteByKey(std::string_view text, std::string& clipboard) {
     clipboard = text;
     Line line;

@@ -25,6 +25,8 @@ public:
     void PutCursor(int selStart, int selLength = 0);
     /// An edit without keys: paste by mouse, drop, input method.
     void Insert(std::string_view text);
+    /// What an input method or a dead key hands over, every character through the field's filter.
+    void Commit(std::string_view text);
     /// Ctrl+V with this text on the clipboard, the clipboard's own key included.
     void PasteByKey(std::string_view text, std::string& clipboard);
     /// A text let go over a field, or the middle button's paste.
