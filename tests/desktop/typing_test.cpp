@@ -391,6 +391,30 @@ TEST(WindowKeys, AFigureThatTheProgramRewritesHasItsCursorWhereTheProgramPutIt) 
     ExpectCursorFollows(run);
 }
 
+TEST(WindowFocus, IsKeptWhenTheKeyboardGoesElsewhere) {
+    DesktopRun run;
+    run.ChoosePage(1);
+    run.Click(kSecond, 33);
+    run.Type(QStringLiteral("12.5"));
+    for (const Qt::FocusReason reason :
+         {Qt::ActiveWindowFocusReason, Qt::PopupFocusReason, Qt::MenuBarFocusReason}) {
+        QFocusEvent away(QEvent::FocusOut, reason);
+        QApplication::sendEvent(&run.Field(Text(kSecond, 33)), &away);
+        EXPECT_EQ(TextOf(run, Text(kSecond, 33)), "12.5");
+        QFocusEvent back(QEvent::FocusIn, reason);
+        QApplication::sendEvent(&run.Field(Text(kSecond, 33)), &back);
+        EXPECT_EQ(run.program.main.Focus, Text(kSecond, 33));
+    }
+    // The paper between the fields, and the buttons above it, take no keyboard.
+    QTest::mouseClick(&run.window->PageOf(kSecond), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
+    EXPECT_EQ(run.program.main.Focus, Text(kSecond, 33));
+    QTest::mouseClick(run.Child("cmdClearMem"), Qt::LeftButton);
+    EXPECT_EQ(run.program.main.Focus, Text(kSecond, 33));
+    EXPECT_EQ(TextOf(run, Text(kSecond, 33)), "12.5");
+    run.Click(kSecond, 0);
+    EXPECT_EQ(TextOf(run, Text(kSecond, 33)), "12.50");
+}
+
 TEST(WindowMenu, OpensOnARightPressAndGivesTheKeyboardBack) {
     DesktopRun run;
     run.ChoosePage(1);
