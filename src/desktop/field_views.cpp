@@ -45,9 +45,9 @@ QString SpokenName(const FieldRef& field) {
     return QObject::tr("Page %1, %2 %3").arg(page).arg(what).arg(field.Index + 1);
 }
 
-/// A character that a key enters, as against a command.
-bool EntersCharacter(const QKeyEvent& event) {
-    if (event.text().size() != 1 || !event.text().front().isPrint()) {
+/// Text that a key enters, as against a command.
+bool EntersText(const QKeyEvent& event) {
+    if (event.text().isEmpty() || !(event.text().front().isPrint() || event.text().front().isSurrogate())) {
         return false;
     }
     const Qt::KeyboardModifiers held =
@@ -246,7 +246,7 @@ bool TextAreaView::event(QEvent* event) {
         const auto& key = static_cast<const QKeyEvent&>(*event);
         // Shift+Delete cuts where the menu's "Delete Contents" is not to be had.
         const bool shiftDelete = key.key() == Qt::Key_Delete && key.modifiers().testFlag(Qt::ShiftModifier);
-        if (EntersCharacter(key) || key.matches(QKeySequence::Copy) || key.matches(QKeySequence::Paste) ||
+        if (EntersText(key) || key.matches(QKeySequence::Copy) || key.matches(QKeySequence::Paste) ||
             (key.matches(QKeySequence::Cut) && !shiftDelete) || key.matches(QKeySequence::SelectAll)) {
             event->accept();
         } else {
@@ -328,11 +328,15 @@ void TextAreaView::KeyTyped(QKeyEvent* event, int code) {
         QLineEdit::keyPressEvent(event);
     } else if (event->matches(QKeySequence::Paste)) {
         TakeIn(QGuiApplication::clipboard()->text());
-    } else if (EntersCharacter(*event)) {
-        if (const std::optional<char> byte = convert::ToByte(event->text().front())) {
+    } else if (EntersText(*event)) {
+        const std::optional<char> byte = convert::ToByte(event->text().front());
+        if (byte && event->text().size() == 1) {
             Character(event, *byte);
         } else {
-            modInput::TellRefused(program, 1);
+            // More than one character from one key, or one that is more than one unit: as an input method's.
+            QInputMethodEvent several;
+            several.setCommitString(event->text());
+            inputMethodEvent(&several);
         }
     } else if (code == 8 || code == 9 || code == 13) {
         Character(event, static_cast<char>(code));

@@ -1,3 +1,4 @@
+#include "desktop/convert.h"
 #include "desktop/desktop_run.h"
 #include "document/fields.h"
 #include "shell/input.h"
@@ -29,7 +30,7 @@ void ExpectCursorFollows(DesktopRun& run) {
     ASSERT_TRUE(run.program.main.Focus);
     const TextArea& record = modFields::Area(run.program, *run.program.main.Focus);
     TextAreaView& view = run.Field(*run.program.main.Focus);
-    EXPECT_EQ(view.text().toStdString(), record.Text);
+    EXPECT_EQ(convert::ToModel(view.text()), record.Text);
     EXPECT_EQ(view.hasSelectedText() ? view.selectionStart() : view.cursorPosition(), record.SelStart);
     EXPECT_EQ(view.selectedText().size(), record.SelLength);
 }
@@ -153,13 +154,21 @@ TEST(WindowPaste, OfLinesBecomesOneLineAndWhatHasNoByteIsTold) {
     DesktopRun run;
     run.ChoosePage(1);
     run.Click(kSecond, 0);
+    QGuiApplication::clipboard()->setText(QStringLiteral("one\r\ntwo\nthr") + QChar(u'\0') +
+                                          QStringLiteral("ee"));
+    run.Press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(TextOf(run, Text(kSecond, 0)), "one two three");
+    EXPECT_EQ(run.program.main.Notice, "One character was not taken: it cannot be kept in a proposal.");
+    run.Press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(run.program.main.Notice, "");
     QGuiApplication::clipboard()->setText(QStringLiteral("one\r\ntwo\nthree\u2603"));
     run.Press(Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(TextOf(run, Text(kSecond, 0)), "one two three");
     EXPECT_EQ(run.program.main.Notice, "One character was not taken: it cannot be kept in a proposal.");
     ExpectCursorFollows(run);
     run.Press(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(TextOf(run, Text(kSecond, 0)), "") << "a paste can be undone";
+    run.Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(TextOf(run, Text(kSecond, 0)), "") << "pastes can be undone";
     EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "");
 }
 
@@ -299,6 +308,27 @@ TEST(WindowInputMethod, CommitsThroughTheFilter) {
     Commit(QStringLiteral("3"));
     run.program.editing.BlockMode = false;
     EXPECT_EQ(TextOf(run, Text(kSecond, 33)), "12");
+    ExpectCursorFollows(run);
+}
+
+TEST(WindowKeys, WithACharacterThatHasNoByteEnterNothingAndTell) {
+    DesktopRun run;
+    run.Click(kFirst, 3);
+    for (const char* text : {"\xE2\x98\x83", "\xF0\x9F\x98\x80"}) {
+        run.program.main.Notice.clear();
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString::fromUtf8(text));
+        QApplication::sendEvent(QApplication::focusWidget(), &event);
+        EXPECT_EQ(TextOf(run, Text(kFirst, 3)), "");
+        EXPECT_EQ(run.Field(Text(kFirst, 3)).text(), QString());
+        EXPECT_EQ(run.program.main.Notice, "One character was not taken: it cannot be kept in a proposal.");
+    }
+    QKeyEvent euro(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QStringLiteral("\u20AC"));
+    QApplication::sendEvent(QApplication::focusWidget(), &euro);
+    EXPECT_EQ(TextOf(run, Text(kFirst, 3)), "\x80");
+    QKeyEvent two(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QStringLiteral("ab"));
+    QApplication::sendEvent(QApplication::focusWidget(), &two);
+    EXPECT_EQ(TextOf(run, Text(kFirst, 3)), "\x80"
+                                            "ab");
     ExpectCursorFollows(run);
 }
 
