@@ -300,6 +300,9 @@ void TextAreaView::keyPressEvent(QKeyEvent* event) {
     Program& program = page_.program;
     RestartCaret();
     event->accept();
+    if (modInput::TextMenuOpens(program)) {
+        return; // the key that opens the menu arrives while it opens
+    }
     if (program.main.Focus != field_) {
         modInput::FieldEntered(program, field_);
     }

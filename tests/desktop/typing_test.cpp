@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QMenu>
@@ -467,6 +468,29 @@ TEST(WindowMenu, OpensOnARightPressAndGivesTheKeyboardBack) {
     EXPECT_EQ(TextOf(run, Text(kSecond, 36)), "7.00") << "the menu leaves the amount as any way does";
     run.window->MenuTree().Action(CommandId::mnuEditTextTaxExempt)->trigger();
     menu->close();
+    EXPECT_TRUE(run.program.pages[kSecond].imgNoTax[36].Visible);
+    EXPECT_EQ(run.program.main.Focus, Text(kSecond, 36));
+}
+
+TEST(WindowMenu, OpensOnTheMenuKeyAndIsWalkedByKeys) {
+    DesktopRun run;
+    run.ChoosePage(1);
+    run.Click(kSecond, 36);
+    run.Type(QStringLiteral("75.5"));
+    QMenu* menu = run.window->MenuTree().Menu(CommandId::mnuEditTextBox);
+    TextAreaView& amount = run.Field(Text(kSecond, 36));
+    // On a display the key itself is still under way then, and arrives as pending events are let run.
+    QApplication::postEvent(&amount, new QKeyEvent(QEvent::KeyPress, Qt::Key_Menu, Qt::NoModifier));
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(2, 2), amount.mapToGlobal(QPoint(2, 2)));
+    QApplication::sendEvent(&amount, &event);
+    ASSERT_TRUE(menu->isVisible());
+    QTest::keyClick(menu, Qt::Key_Up);
+    QTest::keyClick(menu, Qt::Key_Up);
+    ASSERT_NE(menu->activeAction(), nullptr);
+    EXPECT_EQ(menu->activeAction()->objectName(), QStringLiteral("mnuEditTextTaxExempt"));
+    QTest::keyClick(menu, Qt::Key_Return);
+    EXPECT_FALSE(menu->isVisible());
+    EXPECT_EQ(TextOf(run, Text(kSecond, 36)), "75.50");
     EXPECT_TRUE(run.program.pages[kSecond].imgNoTax[36].Visible);
     EXPECT_EQ(run.program.main.Focus, Text(kSecond, 36));
 }
