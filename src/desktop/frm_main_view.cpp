@@ -44,7 +44,7 @@ QWidget* MakeStrip(const QString& name, QWidget* parent) {
 
 Desk::Desk(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("desk"));
-    setFocusPolicy(Qt::ClickFocus);
+    setFocusPolicy(Qt::NoFocus); // a click beside the fields leaves the keyboard where it is
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 

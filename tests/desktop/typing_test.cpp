@@ -439,8 +439,12 @@ TEST(WindowFocus, IsKeptWhenTheKeyboardGoesElsewhere) {
     // The paper between the fields, and the buttons above it, take no keyboard.
     QTest::mouseClick(&run.window->PageOf(kSecond), Qt::LeftButton, Qt::NoModifier, QPoint(5, 5));
     EXPECT_EQ(run.program.main.Focus, Text(kSecond, 33));
+    EXPECT_EQ(QApplication::focusWidget(), &run.Field(Text(kSecond, 33)));
     QTest::mouseClick(run.Child("cmdClearMem"), Qt::LeftButton);
     EXPECT_EQ(run.program.main.Focus, Text(kSecond, 33));
+    EXPECT_EQ(QApplication::focusWidget(), &run.Field(Text(kSecond, 33)));
+    run.Type(QStringLiteral("6"));
+    run.Press(Qt::Key_Backspace);
     EXPECT_EQ(TextOf(run, Text(kSecond, 33)), "12.5");
     run.Click(kSecond, 0);
     EXPECT_EQ(TextOf(run, Text(kSecond, 33)), "12.50");
