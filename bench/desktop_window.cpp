@@ -2,12 +2,14 @@
 #include "desktop/frm_main_view.h"
 #include "desktop/page_view.h"
 #include "desktop/qt_platform.h"
+#include "document/fields.h"
 #include "document/page_geometry.h"
 #include "document/page_setup.h"
 #include "output/preview.h"
 #include "output/print.h"
 #include "output/print_page.h"
 #include "shell/main_load.h"
+#include "shell/page_switch.h"
 #include "shell/wiring.h"
 #include "support/recording_platform.h"
 #include "support/scratch_folder.h"
@@ -23,7 +25,9 @@
 #include <chrono>
 #include <memory>
 #include <span>
+#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -116,6 +120,52 @@ void KeyToPaintedFrame(benchmark::State& state) {
     state.counters["p99_ms"] = spans[spans.size() * 99 / 100];
 }
 BENCHMARK(KeyToPaintedFrame)->Unit(benchmark::kMillisecond);
+
+/// The same for a key held down in a description of a full page, and for the blanks among them that push
+/// words on through all its rows.
+void HeldKeyWithPushesToPaintedFrame(benchmark::State& state) {
+    Desktop desktop;
+    modScroll::UpdatePageButtons(desktop.program, 1);
+    std::string line;
+    while (modPages::MeasureTextWidth(desktop.program, PageId::frmP2, line + "abcdefghi ") < 8640) {
+        line += "abcdefghi ";
+    }
+    auto& rows = desktop.program.pages[PageId::frmP2].txt;
+    modFields::GiveFocus(desktop.program, {PageId::frmP2, FieldKind::txt, 0});
+    const auto fill = [&] {
+        for (int row = 0; row <= 32; ++row) {
+            rows[static_cast<std::size_t>(row)].Text = line;
+        }
+        rows[0].SelStart = 3;
+        desktop.program.editing.KeyCounter = 0;
+        desktop.window->AfterEvent();
+        QCoreApplication::processEvents();
+    };
+    std::vector<double> spans;
+    std::vector<double> pushes;
+    int count = 0;
+    for (auto _ : state) {
+        const bool push = ++count % 6 == 0;
+        if (count % 6 == 1) {
+            fill();
+        }
+        QWidget* keyboard = QApplication::focusWidget();
+        const auto start = Clock::now();
+        QTest::keyPress(keyboard, push ? Qt::Key_Space : Qt::Key_M);
+        QCoreApplication::processEvents();
+        const double span = Milliseconds(Clock::now() - start);
+        state.SetIterationTime(span / 1000);
+        (push ? pushes : spans).push_back(span);
+    }
+    for (const auto& [name, all] : {std::pair{"key", &spans}, std::pair{"push", &pushes}}) {
+        std::sort(all->begin(), all->end());
+        if (!all->empty()) {
+            state.counters[std::string(name) + "_p50_ms"] = (*all)[all->size() / 2];
+            state.counters[std::string(name) + "_p99_ms"] = (*all)[all->size() * 99 / 100];
+        }
+    }
+}
+BENCHMARK(HeldKeyWithPushesToPaintedFrame)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 /// Text in every row of every page, so that no page is cheap.
 void FillEveryRow(Program& program) {

@@ -46,9 +46,9 @@ QString SpokenName(const FieldRef& field) {
     return QObject::tr("Page %1, %2 %3").arg(page).arg(what).arg(field.Index + 1);
 }
 
-/// A character that a key enters, as against a command.
-bool EntersCharacter(const QKeyEvent& event) {
-    if (event.text().size() != 1 || !event.text().front().isPrint()) {
+/// Text that a key enters, as against a command.
+bool EntersText(const QKeyEvent& event) {
+    if (event.text().isEmpty() || !(event.text().front().isPrint() || event.text().front().isSurrogate())) {
         return false;
     }
     const Qt::KeyboardModifiers held =
@@ -93,19 +93,26 @@ void TextAreaView::Done() {
     }
 }
 
+void TextAreaView::PlaceCursor(const TextArea& record) {
+    if (Start() == record.SelStart && Length() == record.SelLength) {
+        return;
+    }
+    if (record.SelLength > 0) {
+        setSelection(record.SelStart, record.SelLength);
+    } else {
+        deselect();
+        setCursorPosition(record.SelStart);
+    }
+}
+
 void TextAreaView::Follow(const TextArea& record) {
     // The record's cursor is compared with the widget's: it may have moved without the record's knowing.
     const QString wanted = convert::ToQString(record.Text);
     if (text() != wanted) {
         setText(wanted);
     }
-    if (hasFocus() && (Start() != record.SelStart || Length() != record.SelLength)) {
-        if (record.SelLength > 0) {
-            setSelection(record.SelStart, record.SelLength);
-        } else {
-            deselect();
-            setCursorPosition(record.SelStart);
-        }
+    if (hasFocus()) {
+        PlaceCursor(record);
     }
     if (built_ && record == shown_) {
         return;
@@ -208,6 +215,10 @@ void TextAreaView::paintEvent(QPaintEvent*) {
         const double x = origin + measure.XOf(words, cursorPosition(), font);
         painter.fillRect(QRectF(x, 8, kCaretWidth, height - 16), ink);
     }
+    if (dragging_) {
+        const double x = origin + measure.XOf(words, dropAt_, font);
+        painter.fillRect(QRectF(x, 8, kCaretWidth, height - 16), ink);
+    }
     painter.restore();
     if (hasFocus()) {
         // Colour alone must not tell where the keyboard is.
@@ -219,6 +230,10 @@ void TextAreaView::paintEvent(QPaintEvent*) {
 }
 
 void TextAreaView::ReportEdit() {
+    if (silent_) {
+        return;
+    }
+    reported_ = true;
     const std::string now = Model();
     if (byKey_) {
         modInput::Edited(page_.program, field_, now, cursorPosition(), 0);
@@ -231,10 +246,10 @@ bool TextAreaView::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         // The menu's shortcuts come before a line edit's own; only plain characters are claimed.
         const auto& key = static_cast<const QKeyEvent&>(*event);
-        // Shift+Del cuts text as long as there is text to edit; for a selected block it is the menu's.
-        const bool cuts = key.matches(QKeySequence::Cut) && !page_.program.editing.BlockMode;
-        if (EntersCharacter(key) || key.matches(QKeySequence::Copy) || key.matches(QKeySequence::Paste) ||
-            cuts || key.matches(QKeySequence::SelectAll)) {
+        // Shift+Delete cuts where the menu's "Delete Contents" is not to be had.
+        const bool shiftDelete = key.key() == Qt::Key_Delete && key.modifiers().testFlag(Qt::ShiftModifier);
+        if (EntersText(key) || key.matches(QKeySequence::Copy) || key.matches(QKeySequence::Paste) ||
+            (key.matches(QKeySequence::Cut) && !shiftDelete) || key.matches(QKeySequence::SelectAll)) {
             event->accept();
         } else {
             event->ignore();
@@ -244,9 +259,33 @@ bool TextAreaView::event(QEvent* event) {
     return QLineEdit::event(event);
 }
 
-void TextAreaView::PasteFromClipboard() {
-    const convert::Incoming incoming = convert::FromPerson(QGuiApplication::clipboard()->text());
-    modInput::Insert(page_.program, field_, incoming.Text, incoming.Refused, modInput::By::Key);
+void TextAreaView::TakeIn(const QString& incomingText) {
+    const convert::Incoming incoming = convert::FromPerson(incomingText);
+    const auto taken = modInput::Accept(page_.program, field_, incoming.Text, incoming.Refused);
+    if (!taken) {
+        return;
+    }
+    // Also while another window has the keyboard, as it has during a drop.
+    const TextArea& record = modFields::Area(page_.program, field_);
+    Follow(record);
+    PlaceCursor(record);
+    reported_ = false;
+    insert(convert::ToQString(*taken));
+    if (!reported_) {
+        ReportEdit();
+    }
+}
+
+void TextAreaView::TakeRecord() {
+    const TextArea& record = modFields::Area(page_.program, field_);
+    const QString wanted = convert::ToQString(record.Text);
+    if (text() == wanted) {
+        return;
+    }
+    silent_ = true;
+    setSelection(0, static_cast<int>(text().size()));
+    insert(wanted);
+    silent_ = false;
 }
 
 void TextAreaView::Character(QKeyEvent* event, char byte) {
@@ -263,42 +302,60 @@ void TextAreaView::keyPressEvent(QKeyEvent* event) {
     Program& program = page_.program;
     RestartCaret();
     event->accept();
+    if (modInput::TextMenuOpens(program)) {
+        return; // the key that opens the menu arrives while it opens
+    }
     if (program.main.Focus != field_) {
         modInput::FieldEntered(program, field_);
     }
-    const bool copies = event->matches(QKeySequence::Copy) || event->matches(QKeySequence::SelectAll);
     const int code = keycodes::CodeOf(*event);
     if (modInput::KeyDown(program, code, keycodes::ShiftOf(*event), Start(), Length()) == Taken::Yes) {
+        if (event->matches(QKeySequence::Paste)) {
+            TakeRecord();
+        }
         Done();
         return;
     }
     byKey_ = true;
-    if (copies) {
+    reported_ = false;
+    KeyTyped(event, code);
+    byKey_ = false;
+    // After an edit the cursor is where the model has left it.
+    if (!reported_ && program.main.Focus == field_) {
+        modInput::CursorMoved(program, field_, Start(), Length());
+    }
+    Done();
+}
+
+void TextAreaView::KeyTyped(QKeyEvent* event, int code) {
+    Program& program = page_.program;
+    if (event->matches(QKeySequence::Copy) || event->matches(QKeySequence::SelectAll)) {
         QLineEdit::keyPressEvent(event);
     } else if (event->matches(QKeySequence::Paste)) {
-        PasteFromClipboard();
-    } else if (EntersCharacter(*event)) {
-        if (const std::optional<char> byte = convert::ToByte(event->text().front())) {
+        TakeIn(QGuiApplication::clipboard()->text());
+    } else if (EntersText(*event)) {
+        const std::optional<char> byte = convert::ToByte(event->text().front());
+        if (byte && event->text().size() == 1) {
             Character(event, *byte);
         } else {
-            modInput::TellRefused(program, 1);
+            // More than one character from one key, or one that is more than one unit: as an input method's.
+            QInputMethodEvent several;
+            several.setCommitString(event->text());
+            inputMethodEvent(&several);
         }
     } else if (code == 8 || code == 9 || code == 13) {
         Character(event, static_cast<char>(code));
     } else if (code == 46 || event->matches(QKeySequence::Cut) || event->matches(QKeySequence::Undo) ||
                event->matches(QKeySequence::Redo)) {
-        if (!program.editing.BlockMode && !isReadOnly()) {
+        if (modInput::MayEdit(program, field_)) {
             QLineEdit::keyPressEvent(event);
         }
-    } else {
+    } else if (!event->matches(QKeySequence::DeleteCompleteLine) &&
+               !event->matches(QKeySequence::DeleteEndOfLine)) {
+        // Ctrl+U and Ctrl+K belong to the menu, also while their entries cannot be had.
         QLineEdit::keyPressEvent(event);
         event->accept();
     }
-    byKey_ = false;
-    if (program.main.Focus == field_) {
-        modInput::CursorMoved(program, field_, Start(), Length());
-    }
-    Done();
 }
 
 void TextAreaView::keyReleaseEvent(QKeyEvent* event) {
@@ -306,7 +363,14 @@ void TextAreaView::keyReleaseEvent(QKeyEvent* event) {
     if (event->isAutoRepeat()) {
         return;
     }
-    modInput::KeyUp(page_.program, keycodes::CodeOf(*event), keycodes::ShiftOf(*event), Start(), Length());
+    Program& program = page_.program;
+    // The key may have led to another field, whose cursor this one does not know.
+    const bool here = program.main.Focus == field_;
+    const TextArea* const there =
+        program.main.Focus ? &modFields::Area(program, *program.main.Focus) : nullptr;
+    modInput::KeyUp(program, keycodes::CodeOf(*event), keycodes::ShiftOf(*event),
+                    here || there == nullptr ? Start() : there->SelStart,
+                    here || there == nullptr ? Length() : there->SelLength);
     Done();
 }
 
@@ -341,11 +405,18 @@ void TextAreaView::mousePressEvent(QMouseEvent* event) {
     const bool right = event->button() == Qt::RightButton;
     if (!extend) {
         anchor_ = position;
+    } else if (Length() > 0) {
+        anchor_ = cursorPosition() == Start() ? Start() + Length() : Start();
+    } else {
+        anchor_ = cursorPosition();
     }
+    pressedAt_ = event->position().x();
     int start = qMin(anchor_, position);
     int length = qAbs(position - anchor_);
-    if (right && hasFocus()) {
-        // A marked text stays marked for the menu's commands.
+    pressedInMarked_ = event->button() == Qt::LeftButton && !extend && hasFocus() && position > Start() &&
+                       position < Start() + Length();
+    if ((right && hasFocus()) || pressedInMarked_) {
+        // A marked text stays marked, for the menu's commands or to be dragged.
         start = Start();
         length = Length();
     }
@@ -353,7 +424,7 @@ void TextAreaView::mousePressEvent(QMouseEvent* event) {
     RestartCaret();
     modInput::FieldMouseDown(page_.program, field_, right ? 2 : 1, 0, start, length);
     Done();
-    if (right && page_.AskForMenu) {
+    if (modInput::TextMenuOpens(page_.program) && page_.AskForMenu) {
         page_.AskForMenu(event->globalPosition().toPoint());
     }
 }
@@ -364,14 +435,44 @@ void TextAreaView::mouseMoveEvent(QMouseEvent* event) {
         return;
     }
     const int position = PositionAt(event->position().x());
+    if (pressedInMarked_) {
+        const int moved = qAbs(qRound(event->position().x() - pressedAt_));
+        dragging_ = dragging_ || moved >= QGuiApplication::styleHints()->startDragDistance();
+        dropAt_ = position;
+        update();
+        return;
+    }
     modInput::CursorMoved(page_.program, field_, qMin(anchor_, position), qAbs(position - anchor_));
     Done();
 }
 
 void TextAreaView::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
+    if (pressedInMarked_) {
+        pressedInMarked_ = false;
+        if (dragging_) {
+            dragging_ = false;
+            modInput::MoveMarked(page_.program, field_, dropAt_);
+            TakeRecord();
+        } else {
+            modInput::CursorMoved(page_.program, field_, PositionAt(event->position().x()), 0);
+        }
+        Done();
+    }
     modInput::FieldMouseUp(page_.program, field_, Start(), Length());
+    if (event->button() == Qt::MiddleButton) {
+        TakeIn(page_.MarkedText ? page_.MarkedText()
+                                : QGuiApplication::clipboard()->text(QClipboard::Selection));
+    } else {
+        OfferMarkedText();
+    }
     Done();
+}
+
+void TextAreaView::OfferMarkedText() const {
+    if (hasSelectedText() && QGuiApplication::clipboard()->supportsSelection()) {
+        QGuiApplication::clipboard()->setText(selectedText(), QClipboard::Selection);
+    }
 }
 
 void TextAreaView::SelectWordAt(int position) {
@@ -395,17 +496,17 @@ void TextAreaView::mouseDoubleClickEvent(QMouseEvent* event) {
     const auto focus = program.main.Focus;
     modInput::FieldDblClick(program, field_);
     if (program.main.Focus == focus && modFields::Area(program, field_).Text == convert::ToModel(before) &&
-        !geometry::IsDescription(field_.Page, field_.Index)) {
+        (field_.Kind != FieldKind::txt || !geometry::IsDescription(field_.Page, field_.Index))) {
         SelectWordAt(PositionAt(event->position().x()));
     }
     Done();
 }
 
 void TextAreaView::dropEvent(QDropEvent* event) {
-    const convert::Incoming incoming = convert::FromPerson(event->mimeData()->text());
     const int position = PositionAt(event->position().x());
     modInput::FieldMouseDown(page_.program, field_, 1, 0, position, 0);
-    modInput::Insert(page_.program, field_, incoming.Text, incoming.Refused, modInput::By::Mouse);
+    Done(); // the widget has the keyboard and the cursor now
+    TakeIn(event->mimeData()->text());
     event->acceptProposedAction();
     Done();
 }
@@ -456,7 +557,7 @@ void TextAreaView::contextMenuEvent(QContextMenuEvent* event) {
     if (event->reason() == QContextMenuEvent::Keyboard) {
         modInput::FieldMouseDown(page_.program, field_, 2, 0, Start(), Length());
         Done();
-        if (page_.AskForMenu) {
+        if (modInput::TextMenuOpens(page_.program) && page_.AskForMenu) {
             page_.AskForMenu(mapToGlobal(rect().bottomLeft()));
         }
     }

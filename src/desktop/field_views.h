@@ -49,10 +49,16 @@ private:
     [[nodiscard]] int PositionAt(double x) const;
     /// Where the text begins, in twips from the field's own left edge.
     [[nodiscard]] double Origin() const;
+    void PlaceCursor(const TextArea& record);
     void KeepCaretInView();
     void ReportEdit();
     void Character(QKeyEvent* event, char byte);
-    void PasteFromClipboard();
+    /// A text from outside goes in at the cursor as an edit that can be undone.
+    void TakeIn(const QString& text);
+    /// The record's text becomes the widget's in the same way.
+    void TakeRecord();
+    void KeyTyped(QKeyEvent* event, int code);
+    void OfferMarkedText() const;
     void SelectWordAt(int position);
     void Done();
     void RestartCaret();
@@ -62,7 +68,13 @@ private:
     TextArea shown_;
     bool built_ = false;
     bool byKey_ = false;
+    bool reported_ = false; ///< the edit under way has reached the model
+    bool silent_ = false;   ///< the widget follows the model
     bool caretOn_ = false;
+    bool pressedInMarked_ = false; ///< a drag of the marked text may begin
+    bool dragging_ = false;
+    int dropAt_ = 0;
+    double pressedAt_ = 0;
     int anchor_ = 0;
     double scroll_ = 0;
     QString preedit_;

@@ -11,6 +11,7 @@
 #include "shell/closing.h"
 #include "shell/command_run.h"
 #include "shell/frm_main.h"
+#include "shell/input.h"
 #include "shell/page_switch.h"
 
 #include <QCloseEvent>
@@ -45,7 +46,7 @@ QWidget* MakeStrip(const QString& name, QWidget* parent) {
 
 Desk::Desk(QWidget* parent) : QWidget(parent) {
     setObjectName(QStringLiteral("desk"));
-    setFocusPolicy(Qt::ClickFocus);
+    setFocusPolicy(Qt::NoFocus); // a click beside the fields leaves the keyboard where it is
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -232,6 +233,13 @@ PageView& FrmMainView::PageOf(PageId page) {
         view->Context().AfterEvent = [this] { AfterEvent(); };
         view->Context().AskForMenu = [this](QPoint at) {
             if (QMenu* menu = menus_->Menu(CommandId::mnuEditTextBox)) {
+                connect(
+                    menu, &QMenu::aboutToHide, this,
+                    [this] {
+                        modInput::TextMenuClosed(program_);
+                        AfterEvent();
+                    },
+                    Qt::SingleShotConnection);
                 menu->popup(at);
             }
         };

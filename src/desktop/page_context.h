@@ -3,6 +3,7 @@
 #include "document/page_records.h"
 
 #include <QPoint>
+#include <QString>
 
 #include <functional>
 
@@ -20,4 +21,6 @@ struct PageContext {
     std::function<void()> AfterEvent;
     /// A right click on a text area asks for the menu of its commands.
     std::function<void(QPoint)> AskForMenu;
+    /// What is marked anywhere on the desktop, for the middle button; the desktop's own where not set.
+    std::function<QString()> MarkedText;
 };

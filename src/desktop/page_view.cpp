@@ -29,7 +29,7 @@ template <typename View> void ShowAs(View& view, bool visible) {
 } // namespace
 
 PageView::PageView(Program& program, PageId page, const QtTextMeasure& measure, QWidget* parent)
-    : QWidget(parent), context_{program, measure, page, parent->logicalDpiX() / kTwipsPerInch, {}, {}},
+    : QWidget(parent), context_{program, measure, page, parent->logicalDpiX() / kTwipsPerInch, {}, {}, {}},
       program_(program), id_(page) {
     setObjectName(QString::fromLatin1(geometry::PageName(page).data(),
                                       static_cast<qsizetype>(geometry::PageName(page).size())));

@@ -93,6 +93,10 @@ bool ColumnsOn(const Program& program, PageId page, int row) {
 }
 
 void SetCurrencySign(Program& program, PageId page, int amount, Mark mark) {
+    // An area can be an amount by its Tag alone; only those of the amount column have a sign beside them.
+    if (!geometry::IsAmount(page, amount)) {
+        return;
+    }
     PageLabel& sign =
         program.pages[page].lbl[static_cast<std::size_t>(geometry::CurrencyLabelIndex(page, amount))];
     sign.Visible = mark == Mark::Shown;

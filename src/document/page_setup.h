@@ -35,7 +35,7 @@ enum class Columns { Off, On };
 void PlaceColumns(Program& program, PageId page, int row, Columns columns);
 [[nodiscard]] bool ColumnsOn(const Program& program, PageId page, int row);
 
-/// Shows or hides the currency sign beside an amount area, with its Tag.
+/// Shows or hides the currency sign beside an area of the amount column, with its Tag.
 enum class Mark { Hidden, Shown };
 void SetCurrencySign(Program& program, PageId page, int amount, Mark mark);
 /// Shows or hides the exempt mark of an area, with its Tag. The tables are not touched.

@@ -339,7 +339,7 @@ void FinalPageChange(Program& program, int index) {
 }
 
 void RewriteDeposit(Program& program) {
-    const ScopedFlag writing(program.totals.InRunningUpdate);
+    // As typed: the figure that stands there from now on is the one that counts.
     WriteFigure(program, kDeposit, Shown(program.totals.Deposit));
 }
 

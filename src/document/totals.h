@@ -44,7 +44,7 @@ void mnuAdminCheckAddition_Click(Program& program);
 
 /// The text of a final page's area has changed: mirrored to the copy, taken as a figure when it is one.
 void FinalPageChange(Program& program, int index);
-/// Writes the deposit under its pattern; takes nothing.
+/// Writes the deposit under its pattern, which then counts as if typed.
 void RewriteDeposit(Program& program);
 /// An area of the final page was left.
 void FinalPageLostFocus(Program& program, int index);

@@ -180,6 +180,14 @@ Taken Box_KeyDown(Program& program, const FieldRef& field, int keyCode, int shif
     return Taken::No;
 }
 
+void ClearPlaceholder(Program& program, const FieldRef& field) {
+    const std::string_view placeholder =
+        field.Kind == FieldKind::txtQty ? kQuantityPlaceholder : kPricePlaceholder;
+    if (modFields::Area(program, field).Text == placeholder) {
+        modFields::SetText(program, field, "");
+    }
+}
+
 void Box_KeyPress(Program& program, const FieldRef& field, int& keyAscii) {
     if (program.editing.BlockMode) {
         keyAscii = 0;
@@ -188,10 +196,8 @@ void Box_KeyPress(Program& program, const FieldRef& field, int& keyAscii) {
     if (program.guards.HandlersSilent()) {
         return;
     }
-    const std::string_view placeholder =
-        field.Kind == FieldKind::txtQty ? kQuantityPlaceholder : kPricePlaceholder;
-    if (keyAscii > keys::kEnter && modFields::Area(program, field).Text == placeholder) {
-        modFields::SetText(program, field, "");
+    if (keyAscii > keys::kEnter) {
+        ClearPlaceholder(program, field);
     }
     const bool figure = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.';
     if (!figure && keyAscii != keys::kBackspace) {

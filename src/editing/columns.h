@@ -15,6 +15,8 @@ void txtQty_Change(Program& program, PageId page, int row);
 void txtAmt_Change(Program& program, PageId page, int row);
 /// Key, character, focus of either box; `field.Kind` tells which.
 [[nodiscard]] Taken Box_KeyDown(Program& program, const FieldRef& field, int keyCode, int shift);
+/// Empties a box that still holds its "Qty." or "Amt.".
+void ClearPlaceholder(Program& program, const FieldRef& field);
 void Box_KeyPress(Program& program, const FieldRef& field, int& keyAscii);
 void Box_GotFocus(Program& program, const FieldRef& field);
 void Box_LostFocus(Program& program, const FieldRef& field);

@@ -17,6 +17,8 @@
 #include "editing/navigation.h"
 #include "editing/push.h"
 
+#include <limits>
+
 namespace modText {
 
 namespace {
@@ -185,10 +187,18 @@ void CountTowardsBackup(Program& program, PageId page, int index) {
     modFile::BackupThisFile(program);
 }
 
+/// A copied cell or line often brings its line end along.
+std::string_view WithoutLineEnds(std::string_view value) {
+    constexpr std::string_view kAround = " \t\r\n";
+    const std::size_t from = value.find_first_not_of(kAround);
+    return from == std::string_view::npos ? std::string_view()
+                                          : value.substr(from, value.find_last_not_of(kAround) - from + 1);
+}
+
 /// A paste into an amount: all of it, when it is a number.
 void PasteNumber(Program& program, PageId page, int index) {
-    const std::string clipboard(text::Trim(program.platform.clipboard.GetText()));
-    const std::string_view line = std::string_view(clipboard).substr(0, clipboard.find_first_of("\r\n"));
+    const std::string clipboard = program.platform.clipboard.GetText();
+    const std::string_view line = WithoutLineEnds(clipboard);
     TextArea& area = Area(program, page, index);
     if (area.Locked || !numbers::IsNumeric(line, program.settings.CurrencySymbol)) {
         return;
@@ -419,11 +429,21 @@ void txt_MouseDown(Program& program, PageId page, int index, int button, int shi
     }
     editing.RightClickPending = true;
     editing.RightClickArea = index;
+    // The menu takes the keyboard: the area is left as by any other way, and entered again when the menu
+    // goes.
+    modFields::DropFocus(program);
     if (program.hooks.UpdateTextMenu) {
         program.hooks.UpdateTextMenu(program);
     }
     program.platform.events.LetEventsRun();
     editing.CurrentArea = index;
+}
+
+void TextMenuClosed(Program& program) {
+    if (!program.editing.RightClickPending || program.main.Focus) {
+        return;
+    }
+    modFields::GiveFocus(program, Field(program.main.ActivePage, program.editing.RightClickArea));
 }
 
 void txt_MouseUp(Program& program, PageId page, int index) {
@@ -446,8 +466,13 @@ void RefireTextChanges(Program& program, PageId page) {
     if (!IsLinePage(page)) {
         return;
     }
-    const ScopedFlag refiring(program.editing.RefireMode);
-    ForgetKey(program);
+    EditingState& editing = program.editing;
+    const ScopedFlag refiring(editing.RefireMode);
+    // Nobody is typing: whatever key came last, a line that is too long goes red and stays.
+    const int cursor = editing.CursorPos;
+    const OnLeaving putBack([&] { editing.CursorPos = cursor; });
+    editing.CursorPos = std::numeric_limits<int>::max();
+    editing.LastKeyChar.clear();
     const auto refire = [&](const FieldRef& field) {
         const std::string value = modFields::Area(program, field).Text;
         modFields::SetText(program, field, "Test");

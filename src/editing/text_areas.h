@@ -17,7 +17,11 @@ void txt_KeyPress(Program& program, PageId page, int index, int& keyAscii);
 void txt_KeyUp(Program& program, PageId page, int index, int keyCode, int shift);
 void txt_GotFocus(Program& program, PageId page, int index);
 void txt_LostFocus(Program& program, PageId page, int index);
+/// The right button (2) repaints the pages, leaves the area as any way of leaving does, and brings the text
+/// menu up to date; the front end opens it then.
 void txt_MouseDown(Program& program, PageId page, int index, int button, int shift);
+/// The text menu is gone, by a command or without one: the area that was pressed has the focus again.
+void TextMenuClosed(Program& program);
 void txt_MouseUp(Program& program, PageId page, int index);
 void txt_DblClick(Program& program, PageId page, int index);
 

@@ -14,6 +14,7 @@
 #include "editing/blocks.h"
 #include "editing/columns.h"
 #include "editing/selection.h"
+#include "editing/text_areas.h"
 #include "editing/text_commands.h"
 #include "format/grid.h"
 #include "output/preview.h"
@@ -135,6 +136,7 @@ constexpr std::array kRoutes{
 
 void Run(Program& program, CommandId id) {
     modBlocks::FinishMove(program); // an arrow still held: what moved must be stored before anything else
+    modText::TextMenuClosed(program);
     // A shortcut must not act on the state of a field that has been left meanwhile.
     if (Find(id).Parent == CommandId::mnuEditTextBox && program.hooks.UpdateTextMenu) {
         program.hooks.UpdateTextMenu(program);

@@ -12,6 +12,7 @@
 #include "editing/text_areas.h"
 #include "shell/page_switch.h"
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 
@@ -24,6 +25,11 @@ constexpr std::size_t kMostInserted = 4096;
 
 bool IsText(const FieldRef& field) {
     return field.Kind == FieldKind::txt;
+}
+
+/// Fields that take figures only.
+bool IsFiltered(const FieldRef& field) {
+    return !IsText(field) || field.Page == PageId::frmP6 || geometry::IsAmount(field.Page, field.Index);
 }
 
 /// The field that takes keys; none while its page is only shown as ink.
@@ -100,14 +106,20 @@ int KeyPress(Program& program, int keyAscii) {
     return kept;
 }
 
+bool MayEdit(Program& program, const FieldRef& field) {
+    return !program.editing.BlockMode && !modFields::Area(program, field).Locked;
+}
+
 void Edited(Program& program, const FieldRef& field, std::string_view text, int selStart, int selLength) {
     modFields::TypeText(program, field, text, selStart, selLength);
 }
 
 void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view text, int selStart,
                       int selLength) {
-    program.editing.CursorPos = modFields::Area(program, field).SelStart;
-    program.editing.LastKeyChar.clear();
+    if (IsText(field)) {
+        program.editing.CursorPos = modFields::Area(program, field).SelStart;
+        program.editing.LastKeyChar.clear();
+    }
     modFields::TypeText(program, field, text, selStart, selLength);
 }
 
@@ -117,36 +129,64 @@ void TellRefused(Program& program, int count) {
                    : std::to_string(count) + " characters were not taken: they cannot be kept in a proposal.";
 }
 
-void Insert(Program& program, const FieldRef& field, std::string_view text, int refused, By by) {
-    TextArea& area = modFields::Area(program, field);
+std::optional<std::string> Accept(Program& program, const FieldRef& field, std::string_view text,
+                                  int refused) {
     if (refused > 0) {
         TellRefused(program, refused);
     }
-    if (area.Locked || program.editing.BlockMode || text.empty()) {
-        return;
+    if (text.empty() || !MayEdit(program, field)) {
+        return std::nullopt;
     }
-    const bool filtered =
-        !IsText(field) || field.Page == PageId::frmP6 || geometry::IsAmount(field.Page, field.Index);
     std::string taken(text);
-    if (filtered) {
+    if (IsFiltered(field)) {
         taken = text::Trim(text);
         if (!numbers::IsNumeric(taken, program.settings.CurrencySymbol)) {
-            return;
+            return std::nullopt;
         }
     } else if (taken.size() > kMostInserted) {
         program.main.Notice = "The text was too long for one line; its end was not taken.";
         taken.resize(kMostInserted);
     }
+    if (!IsText(field)) {
+        modColumns::ClearPlaceholder(program, field);
+    }
+    return taken;
+}
+
+void Insert(Program& program, const FieldRef& field, std::string_view text, int refused, By by) {
+    const std::optional<std::string> taken = Accept(program, field, text, refused);
+    if (!taken) {
+        return;
+    }
+    TextArea& area = modFields::Area(program, field);
     std::string value = area.Text;
     modFields::SetCursor(area, area.SelStart, area.SelLength);
     const int start = area.SelStart;
-    value.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(area.SelLength), taken);
-    const int end = start + static_cast<int>(taken.size());
+    value.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(area.SelLength), *taken);
+    const int end = start + static_cast<int>(taken->size());
     if (by == By::Key) {
         Edited(program, field, value, end, 0);
     } else {
         EditedWithoutKey(program, field, value, end, 0);
     }
+}
+
+void MoveMarked(Program& program, const FieldRef& field, int to) {
+    const TextArea& area = modFields::Area(program, field);
+    const int start = area.SelStart;
+    const int length = area.SelLength;
+    if (length == 0 || (to >= start && to <= start + length) || !MayEdit(program, field)) {
+        return;
+    }
+    std::string value = area.Text;
+    const std::string moved = value.substr(static_cast<std::size_t>(start), static_cast<std::size_t>(length));
+    if (IsFiltered(field) && !numbers::IsNumeric(moved, program.settings.CurrencySymbol)) {
+        return;
+    }
+    value.erase(static_cast<std::size_t>(start), static_cast<std::size_t>(length));
+    const int at = std::clamp(to > start ? to - length : to, 0, static_cast<int>(value.size()));
+    value.insert(static_cast<std::size_t>(at), moved);
+    EditedWithoutKey(program, field, value, at, length);
 }
 
 void FieldEntered(Program& program, const FieldRef& field) {
@@ -205,6 +245,15 @@ void PageMouseMove(Program& program, PageId page, int button, float x, float y) 
 
 void PageMouseUp(Program& program, PageId page, int button, float x, float y) {
     modBlocks::Form_MouseUp(program, page, button, x, y);
+}
+
+bool TextMenuOpens(const Program& program) {
+    // The press has taken the focus from the area for as long as the menu is up.
+    return program.editing.RightClickPending && !program.main.Focus;
+}
+
+void TextMenuClosed(Program& program) {
+    modText::TextMenuClosed(program);
 }
 
 void NoTaxMarkClick(Program& program, PageId page, int index) {

@@ -3,6 +3,8 @@
 #include "document/page_records.h"
 #include "editing/keys.h"
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 struct Program;
@@ -16,17 +18,25 @@ namespace modInput {
 [[nodiscard]] Taken KeyDown(Program& program, int keyCode, int shift, int selStart, int selLength);
 /// Returns the character to enter, 0 when it is cancelled.
 [[nodiscard]] int KeyPress(Program& program, int keyAscii);
+/// Whether an edit that enters no character (delete, cut, undo) may reach a field.
+[[nodiscard]] bool MayEdit(Program& program, const FieldRef& field);
 /// The widget of a field has applied an edit.
 void Edited(Program& program, const FieldRef& field, std::string_view text, int selStart, int selLength);
 /// The same for an edit that no key made: a paste by mouse, a drop, an input method, undo. No stale key may
 /// then move text on into another row.
 void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view text, int selStart,
                       int selLength);
-/// A text from outside replaces the selection, by paste or drop. Filtered fields take it whole when it is a
-/// number, and not at all otherwise. `refused` characters that have no byte were left out; the person is
-/// told.
+/// What a text from outside, pasted or let go over a field, brings into it: nothing where no edit may reach
+/// the field, a number whole or not at all in a filtered one, and no more than a line can be anywhere.
+/// Empties a placeholder. `refused` characters that have no byte were left out; the person is told.
+[[nodiscard]] std::optional<std::string> Accept(Program& program, const FieldRef& field,
+                                                std::string_view text, int refused);
+/// Such a text replaces the selection.
 enum class By { Key, Mouse };
 void Insert(Program& program, const FieldRef& field, std::string_view text, int refused, By by);
+/// The marked text of a field is dragged to another place in it and stays marked. In a filtered field only a
+/// number moves.
+void MoveMarked(Program& program, const FieldRef& field, int to);
 /// Tells the person that a character was not taken.
 void TellRefused(Program& program, int count);
 /// A field was reached by other means than the mouse or the page's own keys.
@@ -44,6 +54,10 @@ void FieldDblClick(Program& program, const FieldRef& field);
 void PageMouseDown(Program& program, PageId page, int button, float x, float y);
 void PageMouseMove(Program& program, PageId page, int button, float x, float y);
 void PageMouseUp(Program& program, PageId page, int button, float x, float y);
+/// Whether the press just made opens the menu of the text areas: a right one on an area of frmP1 to frmP5.
+[[nodiscard]] bool TextMenuOpens(const Program& program);
+/// The menu that a right press opens has closed.
+void TextMenuClosed(Program& program);
 void NoTaxMarkClick(Program& program, PageId page, int index);
 
 } // namespace modInput

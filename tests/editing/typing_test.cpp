@@ -405,6 +405,24 @@ TEST_P(DoubleClick, ConvertsTheArea) {
     EXPECT_EQ(run.TextOf(kFirst, GetParam().Area), GetParam().To);
     EXPECT_EQ(run.program.document.CurrentTextBuf[0][static_cast<std::size_t>(GetParam().Area)],
               GetParam().To);
+    EXPECT_EQ(run.Area(kFirst, GetParam().Area).SelStart,
+              static_cast<int>(run.TextOf(kFirst, GetParam().Area).size()));
+    EXPECT_EQ(run.program.editing.CurrentArea, GetParam().Area);
+}
+
+TEST(DoubleClick, TogglesTheColumnsOfADescriptionAndNothingElse) {
+    for (const PageId page : kLinePages) {
+        RunningProgram run;
+        modScroll::UpdatePageButtons(run.program, IndexOf(page));
+        const int last = page == kFirst ? 29 : 65;
+        for (int index = page == kFirst ? 9 : 0; index <= last; ++index) {
+            modFields::GiveFocus(run.program, Text(page, index));
+            modInput::FieldDblClick(run.program, Text(page, index));
+            const bool line = page == kFirst ? index >= 10 && index <= 19 : index <= 32;
+            EXPECT_EQ(run.Area(page, index).Width == 6270, line) << index;
+            EXPECT_EQ(run.program.editing.CurrentArea, index);
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -414,8 +432,34 @@ INSTANTIATE_TEST_SUITE_P(
                     Conversion{2, "jane ROE", "Jane Roe"}, Conversion{3, "12 elm street", "12 Elm Street"},
                     Conversion{4, "springfield", "Springfield"}, Conversion{8, "garden hall", "Garden Hall"},
                     Conversion{9, "main road", "Main Road"}, Conversion{5, "1234567890", "(123) 456-7890"},
-                    Conversion{6, "5551234", "() 555-1234"}, Conversion{7, "call me", "call me"},
-                    Conversion{20, "abc", "abc"}));
+                    Conversion{6, "5551234", "() 555-1234"}, Conversion{6, "11234567890", "(1123) 456-7890"},
+                    Conversion{2, "o'brien-SMITH", "O'brien-smith"},
+                    Conversion{8, "the\tgarden (hall)", "The\tGarden (hall)"}, Conversion{0, "", ""},
+                    Conversion{7, "call me", "call me"}, Conversion{20, "abc", "abc"}));
+
+TEST(Status, FollowsAPressOfTheMouse) {
+    RunningProgram run;
+    PutText(run, kSecond, 5, "abcdef");
+    modScroll::UpdatePageButtons(run.program, 1);
+    modInput::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 4, 0);
+    EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 4");
+    EXPECT_EQ(run.program.main.lblTextPos.Caption, "Printer Text Position = 400.");
+    modInput::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 0, 0);
+    EXPECT_EQ(run.program.main.lblTextPos.Caption, "Printer Text Position = .");
+}
+
+TEST(Focus, NeverRecoloursASelectedArea) {
+    RunningProgram run;
+    run.program.editing.BlockMode = true;
+    run.Area(kFirst, 10).BackColor = colors::kBlockSelected;
+    Typist typist(run.program);
+    typist.Click(kFirst, 10);
+    EXPECT_EQ(run.Area(kFirst, 10).BackColor, colors::kBlockSelected);
+    typist.Click(kFirst, 11);
+    EXPECT_EQ(run.Area(kFirst, 10).BackColor, colors::kBlockSelected);
+    EXPECT_EQ(run.Area(kFirst, 11).BackColor, colors::kFocused);
+    EXPECT_EQ(run.program.editing.LastArea, 10);
+}
 
 TEST(Status, FollowsTheCursor) {
     RunningProgram run;

@@ -120,6 +120,38 @@ TEST(Mouse, TextFromOutsideReplacesTheSelection) {
     EXPECT_EQ(run.program.main.Notice, "One character was not taken: it cannot be kept in a proposal.");
 }
 
+TEST(Mouse, AMarkedTextIsDraggedWithinItsField) {
+    RunningProgram run;
+    Typist typist(run.program);
+    const FieldRef line{PageId::frmP2, FieldKind::txt, 0};
+    typist.Click(line);
+    typist.Type("abc def ");
+    typist.PutCursor(4, 4);
+    modInput::MoveMarked(run.program, line, 6);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 0), "abc def ") << "not into itself";
+    modInput::MoveMarked(run.program, line, 0);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 0), "def abc ");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "def abc");
+    EXPECT_EQ(run.Area(PageId::frmP2, 0).SelStart, 0);
+    EXPECT_EQ(run.Area(PageId::frmP2, 0).SelLength, 4);
+    modInput::MoveMarked(run.program, line, 8);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 0), "abc def ");
+    run.program.editing.BlockMode = true;
+    modInput::MoveMarked(run.program, line, 0);
+    run.program.editing.BlockMode = false;
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 0), "abc def ");
+    const FieldRef amount{PageId::frmP2, FieldKind::txt, 33};
+    typist.Click(amount);
+    typist.Type("12-");
+    typist.PutCursor(2, 1);
+    modInput::MoveMarked(run.program, amount, 0);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "12-") << "a sign alone is no number";
+    typist.PutCursor(0, 1);
+    modInput::MoveMarked(run.program, amount, 2);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "21-");
+    EXPECT_EQ(run.program.totals.AmountTable[33][1], -21.0F);
+}
+
 TEST(Mouse, AnAmountTakesANumberFromOutsideWholeOrNotAtAll) {
     RunningProgram run;
     Typist typist(run.program);

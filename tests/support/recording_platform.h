@@ -3,6 +3,7 @@
 #include "core/program.h"
 #include "platform/platform.h"
 
+#include <array>
 #include <deque>
 #include <functional>
 #include <map>
@@ -32,6 +33,8 @@ public:
     void ExpectInput(std::string title, std::string reply);
     /// Fails if an expected box was not shown.
     void Done();
+    /// Boxes that no script expects are answered OK and recorded: for random runs, which look at `Shown`.
+    void TakeAll() { takeAll_ = true; }
 
     Answer MsgBox(std::string_view text, Buttons buttons, std::string_view title) override;
     std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
@@ -49,13 +52,26 @@ private:
         std::string Reply;
     };
     std::deque<Step> script_;
+    bool takeAll_ = false;
 };
 
-/// Every character is 100 twips wide in every font, a line is 20 twips a point high.
+/// Every character is 100 twips wide in every font unless a test says otherwise, a line is 20 twips a point
+/// high.
 class FixedMeasure : public TextMeasure {
 public:
-    [[nodiscard]] float Width(std::string_view text, const TextFont&) const override {
-        return 100.0F * static_cast<float>(text.size());
+    FixedMeasure() { Advance.fill(100); }
+    std::array<float, 256> Advance{};
+    /// Size at which the advances hold; widths grow with the font then. 0: they are the same in every size.
+    float UnitSize = 0;
+    float BoldFactor = 1;
+
+    [[nodiscard]] float Width(std::string_view text, const TextFont& font) const override {
+        float width = 0;
+        for (const char character : text) {
+            width += Advance[static_cast<unsigned char>(character)];
+        }
+        width *= UnitSize > 0 ? font.Size / UnitSize : 1;
+        return font.Bold ? width * BoldFactor : width;
     }
     [[nodiscard]] float Height(const TextFont& font) const override { return 20.0F * font.Size; }
 };

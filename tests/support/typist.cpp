@@ -12,6 +12,9 @@
 
 namespace {
 
+constexpr int kHome = 36;
+constexpr int kEnd = 35;
+
 struct Line {
     FieldRef Field;
     std::string Text;
@@ -119,12 +122,17 @@ void Typist::KeyDownAndCharacter(int keyCode, int keyAscii, int shift) {
     }
     const int length = static_cast<int>(line.Text.size());
     if (keyCode == keys::kDelete) {
+        if (!modInput::MayEdit(program_, line.Field)) {
+            return;
+        }
         ApplyEditingKey(line, keyCode);
         modInput::Edited(program_, line.Field, line.Text, line.SelStart, line.SelLength);
     } else if (keyCode == keys::kLeft) {
         modInput::CursorMoved(program_, line.Field, std::max(0, line.SelStart - 1), 0);
     } else if (keyCode == keys::kRight) {
         modInput::CursorMoved(program_, line.Field, std::min(length, line.SelStart + 1), 0);
+    } else if (keyCode == kHome || keyCode == kEnd) {
+        modInput::CursorMoved(program_, line.Field, keyCode == kHome ? 0 : length, 0);
     }
 }
 
@@ -167,5 +175,63 @@ void Typist::Insert(std::string_view text) {
     if (FocusedLine(program_, line)) {
         Replace(line, text);
         modInput::EditedWithoutKey(program_, line.Field, line.Text, line.SelStart, line.SelLength);
+    }
+}
+
+void Typist::Commit(std::string_view text) {
+    std::string taken;
+    for (const char character : text) {
+        if (modInput::KeyPress(program_, static_cast<unsigned char>(character)) != 0) {
+            taken += character;
+        }
+    }
+    if (!taken.empty()) {
+        Insert(taken);
+    }
+}
+
+void Typist::PasteByKey(std::string_view text, std::string& clipboard) {
+    clipboard = text;
+    Line line;
+    if (!FocusedLine(program_, line)) {
+        return;
+    }
+    if (modInput::KeyDown(program_, keys::kV, keys::kCtrlState, line.SelStart, line.SelLength) == Taken::No) {
+        modInput::Insert(program_, *program_.main.Focus, text, 0, modInput::By::Key);
+    }
+    if (FocusedLine(program_, line)) {
+        modInput::KeyUp(program_, keys::kV, keys::kCtrlState, line.SelStart, line.SelLength);
+    }
+}
+
+void Typist::PasteByMouse(const FieldRef& field, int at, std::string_view text) {
+    Drag(field, at, at);
+    modInput::Insert(program_, field, text, 0, modInput::By::Mouse);
+}
+
+void Typist::Drag(const FieldRef& field, int from, int to) {
+    if (program_.main.PageInFront != field.Page) {
+        modScroll::UpdatePageButtons(program_, IndexOf(field.Page));
+    }
+    const TextArea& area = modFields::Area(program_, field);
+    const int length = static_cast<int>(area.Text.size());
+    const int press = std::clamp(from, 0, length);
+    modInput::FieldMouseDown(program_, field, 1, 0, press, 0);
+    if (program_.main.Focus != field) {
+        return; // nothing there to press on
+    }
+    const int last = static_cast<int>(area.Text.size());
+    const int begin = std::clamp(std::min(from, to), 0, last);
+    const int end = std::clamp(std::max(from, to), 0, last);
+    if (begin != end) {
+        modInput::CursorMoved(program_, field, begin, end - begin);
+    }
+    modInput::FieldMouseUp(program_, field, begin, end - begin);
+}
+
+void Typist::DoubleClick(const FieldRef& field) {
+    Drag(field, 0, 0);
+    if (program_.main.Focus == field) {
+        modInput::FieldDblClick(program_, field);
     }
 }

@@ -25,6 +25,15 @@ public:
     void PutCursor(int selStart, int selLength = 0);
     /// An edit without keys: paste by mouse, drop, input method.
     void Insert(std::string_view text);
+    /// What an input method or a dead key hands over, every character through the field's filter.
+    void Commit(std::string_view text);
+    /// Ctrl+V with this text on the clipboard, the clipboard's own key included.
+    void PasteByKey(std::string_view text, std::string& clipboard);
+    /// A text let go over a field, or the middle button's paste.
+    void PasteByMouse(const FieldRef& field, int at, std::string_view text);
+    /// Presses at one place of a field, moves to another and lets go; a click when both are one.
+    void Drag(const FieldRef& field, int from, int to);
+    void DoubleClick(const FieldRef& field);
 
 private:
     void KeyDownAndCharacter(int keyCode, int keyAscii, int shift);
