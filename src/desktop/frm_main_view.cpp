@@ -92,7 +92,7 @@ FrmMainView::FrmMainView(Program& program, const QtTextMeasure& measure)
         });
     BuildStrips();
     windows_ = std::make_unique<WindowViews>(program_, *this, [this] { AfterEvent(); });
-    setMinimumSize(880, 480);
+    setMinimumSize(780, 420);
 }
 
 FrmMainView::~FrmMainView() = default;

@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QDialog>
 #include <QImage>
+#include <QPushButton>
 #include <QStyle>
 #include <QTest>
 
@@ -187,6 +188,33 @@ TEST(LightTheme, SmallWindowsAsTheyLook) {
         }
         QTest::keyClick(view, Qt::Key_Escape);
     }
+}
+
+TEST(SmallScreen, TheToolStripFitsEightHundredPixelsWithAllItsWords) {
+    DesktopRun run;
+    run.window->resize(800, 560);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(run.window->width(), 800);
+    for (const char* caption : {"Print Preview", "Resume Editing"}) {
+        run.program.main.cmdPreview.Caption = caption;
+        run.window->AfterEvent();
+        QCoreApplication::processEvents();
+        Look(*run.window, "small");
+        const QWidget& strip = *run.Child("picTop");
+        for (const QWidget* part : strip.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (part->isVisible()) {
+                EXPECT_TRUE(strip.rect().contains(part->geometry())) << part->objectName().toStdString();
+            }
+        }
+        for (const char* name : {"cmdPreview", "cmdReCalc", "cmdTaxRate", "cmdClearMem"}) {
+            const auto* button = run.Find<QPushButton>(name);
+            EXPECT_GE(button->width(), button->fontMetrics().horizontalAdvance(button->text()) + 4) << name;
+        }
+    }
+    run.program.main.cmdPreview.Caption = "Print Preview";
+    run.window->resize(1024, 700);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(run.Child("lblPage")->isVisible());
 }
 
 } // namespace
