@@ -2,7 +2,7 @@
 #include "document/proposal_file.h"
 #include "document/proposal_layout.h"
 #include "document/reset.h"
-#include "shell/start_up.h"
+#include "shell/main_load.h"
 #include "shell/wiring.h"
 #include "support/recording_platform.h"
 

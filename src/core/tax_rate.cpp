@@ -27,15 +27,6 @@ std::string PathOf(const Program& program, std::string_view name) {
                        name);
 }
 
-bool HasAmounts(const Program& program) {
-    for (const auto& row : program.totals.AmountTable) {
-        if (std::any_of(row.begin(), row.end(), [](float amount) { return amount != 0; })) {
-            return true;
-        }
-    }
-    return false;
-}
-
 } // namespace
 
 void GetTaxRate(Program& program) {
@@ -69,7 +60,7 @@ void SaveTaxRate(Program& program, std::string_view rateText) {
         questions.MsgBox("New Sales Tax Rate is " + numbers::FormatSingle(program.totals.TaxRate, "##.00") +
                              " %",
                          Buttons::Ok, "");
-        if (program.totals.TaxRate != 0 && HasAmounts(program)) {
+        if (program.totals.TaxRate != 0 && program.totals.HasAmounts()) {
             program.main.cmdReCalc.BackColor = colors::kOverLimit;
             questions.MsgBox("Please click Recalculate to update the totals.", Buttons::Ok, "");
         }

@@ -208,6 +208,10 @@ void FrmMainView::Resized() {
     program_.main.ClientWidth = static_cast<float>(desk_->width() * twips);
     program_.main.ClientHeight = static_cast<float>(desk_->height() * twips);
     Follow();
+    ResizeSoon();
+}
+
+void FrmMainView::ResizeSoon() {
     // The model lets events run meanwhile, which must not happen inside of the layout's own work.
     if (!resizePending_) {
         resizePending_ = true;
@@ -380,7 +384,7 @@ void FrmMainView::changeEvent(QEvent* event) {
         program_.main.State = isMinimized()   ? WindowState::Minimised
                               : isMaximized() ? WindowState::Maximised
                                               : WindowState::Normal;
-        ResizeModel();
+        ResizeSoon();
     }
 }
 

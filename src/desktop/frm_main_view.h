@@ -68,6 +68,7 @@ protected:
 private:
     void BuildStrips();
     void Resized();
+    void ResizeSoon();
     void ResizeModel();
     void FollowPages();
     void KeepPlace();

@@ -24,15 +24,6 @@ namespace modMain {
 
 namespace {
 
-bool HasAmounts(const Program& program) {
-    for (const auto& row : program.totals.AmountTable) {
-        if (std::any_of(row.begin(), row.end(), [](float amount) { return amount != 0; })) {
-            return true;
-        }
-    }
-    return false;
-}
-
 /// Copies a side file of the old name to the new one in the data folder.
 void CopySideFile(Program& program, std::string_view from, std::string_view to) {
     if (text::EqualNoCase(from, to)) {
@@ -53,7 +44,7 @@ void LeaveBackup(Program& program) {
 
 void SaveAsSteps(Program& program) {
     DocumentState& document = program.document;
-    if (HasAmounts(program)) {
+    if (program.totals.HasAmounts()) {
         modTotals::UpdateRunningTotals(program);
     }
     const std::string reply = program.platform.questions.InputBox("Please input the File Name below.",

@@ -2,6 +2,7 @@
 
 #include "document/page_records.h"
 
+#include <algorithm>
 #include <array>
 
 inline constexpr int kRowCount = 66;
@@ -31,4 +32,11 @@ struct TotalsRecords {
     bool InRecalculation = false;
     bool InRunningUpdate = false; ///< the running computation writes the final page
     bool TotalsStale = false;
+
+    /// Whether there are amounts: any that is not zero.
+    [[nodiscard]] bool HasAmounts() const {
+        return std::any_of(AmountTable.begin(), AmountTable.end(), [](const auto& row) {
+            return std::any_of(row.begin(), row.end(), [](float amount) { return amount != 0; });
+        });
+    }
 };

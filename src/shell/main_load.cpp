@@ -103,7 +103,9 @@ void MDIForm_Load(Program& program) {
     program.main.imgPage[0].Pointer = MousePointer::Hand;
     LoadPageButtonCursors(program);
     program.main.State = WindowState::Maximised;
-    Guarded(program, "MDIForm_Load", [&] { LoadSteps(program); });
+    if (!Guarded(program, "MDIForm_Load", [&] { LoadSteps(program); })) {
+        program.platform.questions.MsgBox("Error encountered during Load Process.", Buttons::Ok, "");
+    }
     program.main.Loaded = true;
 }
 

@@ -118,21 +118,22 @@ void mnuToolsCreateShortcutUM_Click(Program& program) {
 }
 
 void mnuOptCurrencySymbol_Click(Program& program) {
-    Guarded(program, "mnuOptCurrencySymbol", [&] {
-        const std::string symbol = program.platform.questions.InputBox(
-            "The current Currency Symbol is " + program.settings.CurrencySymbol +
-                ". Please enter the new Currency Symbol in the text area provided and click OK or Cancel to "
-                "exit.",
-            "Changing Currency Designator", "");
-        if (symbol.empty()) {
-            return;
-        }
-        program.settings.CurrencySymbol = symbol;
-        modSettings::SetLine(program, modSettings::Key::CurrencySymbol, symbol);
-        modSettings::SaveUserPreferences(program);
-        modSettings::GetUserPreferences(program);
-        Tell(program, "Changes will be applied in the next \"New\" or \"Open\" session.");
-    });
+    const std::string symbol = program.platform.questions.InputBox(
+        "The current Currency Symbol is " + program.settings.CurrencySymbol +
+            ". Please enter the new Currency Symbol in the text area provided and click OK or Cancel to "
+            "exit.",
+        "Changing Currency Designator", "");
+    if (symbol.empty()) {
+        return;
+    }
+    program.settings.CurrencySymbol = symbol;
+    modSettings::SetLine(program, modSettings::Key::CurrencySymbol, symbol);
+    if (!modSettings::SaveUserPreferences(program)) {
+        Tell(program, "Error encountered while creating new Currency Symbol.");
+        return; // the symbol stands for this run; the file would only give the old one back
+    }
+    modSettings::GetUserPreferences(program);
+    Tell(program, "Changes will be applied in the next \"New\" or \"Open\" session.");
 }
 
 void mnuOptSetDefaultFonts_Click(Program& program) {

@@ -342,4 +342,17 @@ TEST(TextCommands, LookAtTheFieldThatHasTheFocusNow) {
     EXPECT_EQ(run.Area(PageId::frmP1, 2).Width, 6120);
 }
 
+TEST(CurrencySymbol, OneThatCannotBeStoredIsToldAndStandsForTheRun) {
+    RunningProgram run;
+    std::filesystem::remove(run.folder / "UserPreferences.txt");
+    run.folder.MakeFolder("UserPreferences.txt");
+    run.folder.Write("UserPreferences.txt/inside", "x"); // a folder that is not empty cannot be deleted
+    run.surroundings.questions.ExpectInput("Changing Currency Designator", "EUR");
+    run.surroundings.questions.Expect("An error occurred in RequestNetworkSharePath.");
+    run.surroundings.questions.ExpectBox(
+        {"Error encountered while creating new Currency Symbol.", Buttons::Ok, ""}, Answer::Ok);
+    commands::Run(run.program, CommandId::mnuOptCurrencySymbol);
+    EXPECT_EQ(run.program.settings.CurrencySymbol, "EUR");
+}
+
 } // namespace

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -253,6 +254,17 @@ TEST(StartUp, ARateOfZeroIsAskedForAtEveryStart) {
     // The window stands open over the finished start; nothing waits for it.
     EXPECT_NE(modWindows::Find(run.program, "frmTax"), nullptr);
     EXPECT_TRUE(run.program.main.Loaded);
+}
+
+TEST(StartUp, AFailureOfTheLoadIsReportedAndToldAndTheWindowStands) {
+    Starting run;
+    run.program.hooks.ReadEventDates = [](Program&) { throw std::runtime_error("no list"); };
+    run.surroundings.questions.Expect("An error occurred in MDIForm_Load.");
+    run.surroundings.questions.ExpectBox({"Error encountered during Load Process.", Buttons::Ok, ""},
+                                         Answer::Ok);
+    ASSERT_EQ(run.Main(), modMain::StartResult::Running);
+    EXPECT_TRUE(run.program.main.Loaded);
+    EXPECT_FALSE(run.program.guards.StartingUp);
 }
 
 TEST(OldFiles, AreRenamedAtTheStart) {
