@@ -15,7 +15,8 @@ public:
 
 protected:
     void focusInEvent(QFocusEvent* event) override {
-        QAbstractScrollArea::focusInEvent(event);
+        // The list's own handler would choose a row.
+        QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
         viewport()->update();
     }
 };

@@ -92,7 +92,7 @@ FrmMainView::FrmMainView(Program& program, const QtTextMeasure& measure)
         });
     BuildStrips();
     windows_ = std::make_unique<WindowViews>(program_, *this, [this] { AfterEvent(); });
-    setMinimumSize(780, 420);
+    setMinimumSize(880, 480);
 }
 
 FrmMainView::~FrmMainView() = default;

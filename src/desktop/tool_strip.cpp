@@ -193,40 +193,6 @@ ToolStrip::ToolStrip(Program& program, std::function<void()> afterEvent, QWidget
         pages_[static_cast<std::size_t>(index)] = button;
     }
     Follow();
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    roomyWidth_ = layout()->minimumSize().width();
-}
-
-QSize ToolStrip::minimumSizeHint() const {
-    constexpr int kCompact = 760;
-    return {kCompact, QWidget::minimumSizeHint().height()};
-}
-
-void ToolStrip::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    const bool roomy = width() >= roomyWidth_;
-    constexpr QSize kImage(34, 34);
-    constexpr QSize kSmallImage(24, 34);
-    constexpr QSize kPage(32, 34);
-    constexpr QSize kSmallPage(25, 34);
-    lblPage_->setVisible(roomy);
-    for (const auto& [button, record] : images_) {
-        button->setFixedSize(roomy ? kImage : kSmallImage);
-    }
-    for (PageSwitchButton* button : pages_) {
-        button->setFixedSize(roomy ? kPage : kSmallPage);
-    }
-    for (const auto& [button, record] : commands_) {
-        FitWords(*button);
-    }
-}
-
-void ToolStrip::FitWords(QPushButton& button) const {
-    constexpr int kPadding = 8;
-    const bool roomy = width() >= roomyWidth_;
-    const int words = button.fontMetrics().horizontalAdvance(button.text());
-    button.setMinimumWidth(roomy ? 0 : words + kPadding);
-    button.setMaximumWidth(roomy ? QWIDGETSIZE_MAX : words + kPadding);
 }
 
 void ToolStrip::AddImage(std::string_view name, const QString& accessibleName, ImageButton& record,
@@ -273,7 +239,6 @@ void ToolStrip::FollowCommand(QPushButton& button, const CommandButton& record) 
     const QString caption = convert::ToQString(record.Caption);
     if (button.text() != caption) {
         button.setText(caption);
-        FitWords(button);
     }
     const QString tip = convert::ToQString(record.ToolTipText);
     if (button.toolTip() != tip) {

@@ -63,11 +63,6 @@ class ToolStrip : public QWidget {
 public:
     ToolStrip(Program& program, std::function<void()> afterEvent, QWidget* parent);
     void Follow();
-    /// A narrow window makes the strip compact instead of growing with it.
-    [[nodiscard]] QSize minimumSizeHint() const override;
-
-protected:
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void AddImage(std::string_view name, const QString& accessibleName, ImageButton& record,
@@ -76,8 +71,6 @@ private:
     void KeepPlace(const QWidget& widget, ImageButton& record) const;
     QPushButton* AddCommand(const QString& name, const CommandButton& record, std::function<void()> chosen);
     void FollowCommand(QPushButton& button, const CommandButton& record);
-    /// In a compact strip a command button takes no more than its words.
-    void FitWords(QPushButton& button) const;
 
     Program& program_;
     std::function<void()> afterEvent_;
@@ -85,5 +78,4 @@ private:
     std::vector<std::pair<QPushButton*, const CommandButton*>> commands_;
     std::array<PageSwitchButton*, kPageCount> pages_{};
     QLabel* lblPage_ = nullptr;
-    int roomyWidth_ = 0; ///< what the strip takes with buttons of full size
 };
