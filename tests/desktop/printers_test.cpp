@@ -5,7 +5,10 @@
 
 #include <QDialog>
 #include <QFile>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QTest>
@@ -157,6 +160,74 @@ TEST(Paper, AFileGetsTheEndingOfAPdf) {
     press.Paper().EndDoc();
     press.printers.EndCommand();
     EXPECT_TRUE(press.folder.Has("mine.pdf"));
+}
+
+/// A person in front of the window that asks for the file.
+struct PdfQuestion {
+    ScratchFolder folder;
+    QtTextMeasure measure;
+    QtPrinters printers{measure};
+    QString name;     ///< as it stands in the window when it opens
+    QString question; ///< whether a file may be replaced; empty when nobody asked
+
+    PdfQuestion() { EXPECT_TRUE(printers.MakeCurrent("Print to PDF")); }
+    /// Types a name unless it is empty, presses Enter, and says yes or no when asked.
+    bool Answer(const std::string& suggested, const QString& typed, QMessageBox::StandardButton answer) {
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+            ASSERT_NE(edit, nullptr);
+            name = edit->text();
+            if (!typed.isEmpty()) {
+                edit->setText(typed);
+            }
+            QTimer::singleShot(0, [&] {
+                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                if (box != nullptr) {
+                    question = box->text();
+                    box->button(answer)->click();
+                }
+            });
+            QTest::keyClick(edit, Qt::Key_Return);
+            if (dialog->isVisible()) {
+                dialog->reject();
+            }
+        });
+        return printers.BeginCommand({suggested});
+    }
+    void Print() {
+        printers.Device().Print("text");
+        printers.Device().EndDoc();
+        printers.EndCommand();
+    }
+};
+
+TEST(PdfFile, IsNotReplacedUnaskedWhenItsNameHoldsAPoint) {
+    PdfQuestion person;
+    person.folder.Write("St. Mary.pdf", "an older proposal");
+    EXPECT_FALSE(person.Answer(person.folder / "x.pdf", QStringLiteral("St. Mary"), QMessageBox::No));
+    EXPECT_EQ(person.question, QStringLiteral("St. Mary.pdf already exists.\nDo you want to replace it?"));
+    EXPECT_EQ(person.folder.Read("St. Mary.pdf"), "an older proposal");
+    EXPECT_TRUE(person.Answer(person.folder / "x.pdf", QStringLiteral("St. Mary"), QMessageBox::Yes));
+    person.Print();
+    EXPECT_EQ(person.folder.Read("St. Mary.pdf").substr(0, 5), "%PDF-");
+}
+
+TEST(PdfFile, IsWrittenWithoutAQuestionWhereThereIsNone) {
+    PdfQuestion person;
+    EXPECT_TRUE(person.Answer(person.folder / "John Doe.pdf", QString(), QMessageBox::No));
+    EXPECT_EQ(person.name, QStringLiteral("John Doe.pdf"));
+    EXPECT_TRUE(person.question.isEmpty()) << person.question.toStdString();
+    person.Print();
+    EXPECT_TRUE(person.folder.Has("John Doe.pdf"));
+}
+
+TEST(PdfFile, KeepsTheWholeNameOfAClientWithANickname) {
+    PdfQuestion person;
+    EXPECT_TRUE(person.Answer(person.folder / "Robert \"Bob\" Smith.pdf", QString(), QMessageBox::No));
+    person.Print();
+    EXPECT_TRUE(person.folder.Has("Robert 'Bob' Smith.pdf"));
 }
 
 TEST(Printing, TellsOfAFileThatCannotBeWritten) {
