@@ -135,6 +135,27 @@ TEST(Paper, EndingADocumentInWhichNothingStandsDoesNothing) {
     EXPECT_FALSE(QFile::exists(press.pdf));
 }
 
+TEST(Paper, LeavesOutWhatAnOffsetCarriesFarBeyondItsEdges) {
+    Press press;
+    Printer& paper = press.Paper();
+    for (const float offset : {1e37F, -1e37F, 0.0F}) {
+        paper.ScaleLeft = offset;
+        paper.CurrentX = 1440;
+        paper.CurrentY = 1440;
+        paper.FontUnderline = true;
+        paper.Line(0, 0, 1440, 1440);
+        paper.PaintPicture({PictureRef::Source::NoTaxMark, ""}, 720, 720);
+        paper.Print(offset == 0 ? "near" : "far");
+    }
+    paper.EndDoc();
+    press.printers.EndCommand();
+    QProcess reader;
+    reader.start(QStringLiteral("pdftotext"), {press.pdf, QStringLiteral("-")});
+    ASSERT_TRUE(reader.waitForFinished(20000));
+    EXPECT_EQ(reader.readAllStandardOutput().trimmed(), "near");
+    EXPECT_EQ(reader.readAllStandardError(), "") << "a reader finds nothing to complain of";
+}
+
 TEST(Paper, AFileThatCannotBeWrittenIsAFailure) {
     Press press;
     press.pdf = QString::fromStdString(press.folder / "no such folder/out.pdf");
