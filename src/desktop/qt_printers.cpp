@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLibrary>
@@ -216,7 +217,14 @@ void QtPrinters::EndCommand() {
     if (!path) {
         throw files::FileError(files::kBadName, "Bad file name or number");
     }
-    files::WriteWhole(*path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+    try {
+        files::WriteWhole(*path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+    } catch (const files::FileError& failure) {
+        if (failure.Number() == files::kDiskFull) {
+            QFile::remove(file_); // half a PDF looks like a proposal and cannot be opened
+        }
+        throw;
+    }
 }
 
 /// The surface works with the printer's own settings as they stand at each call.

@@ -16,6 +16,10 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
+#include <sys/resource.h>
+
 namespace {
 
 QByteArray Facts(const QString& pdf) {
@@ -171,6 +175,20 @@ TEST(Paper, AFileThatCannotBeWrittenIsAFailure) {
     press.printers.EndCommand();
     EXPECT_FALSE(PdfText(press.pdf, 1).contains(QStringLiteral("lost")));
     EXPECT_TRUE(PdfText(press.pdf, 1).contains(QStringLiteral("kept")));
+}
+
+TEST(Paper, LeavesNoHalfAFileOnAFullDisk) {
+    Press press;
+    press.Paper().Print("lost");
+    press.Paper().EndDoc();
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{1000, before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    EXPECT_THROW(press.printers.EndCommand(), files::FileError);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    EXPECT_FALSE(QFile::exists(press.pdf));
 }
 
 TEST(Paper, AFileGetsTheEndingOfAPdf) {
