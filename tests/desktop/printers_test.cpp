@@ -139,6 +139,23 @@ TEST(Paper, EndingADocumentInWhichNothingStandsDoesNothing) {
     EXPECT_FALSE(QFile::exists(press.pdf));
 }
 
+/// A pasted text may hold soft hyphens (0xAD), which are not drawn.
+TEST(Paper, HasATextWithSoftHyphensAsWideAsItIsMeasured) {
+    Press press;
+    const std::string text = "re\xAD"
+                             "cep\xAD"
+                             "tion";
+    Printer& paper = press.Paper();
+    paper.CurrentX = 1440;
+    paper.Print(text);
+    paper.EndDoc();
+    press.printers.EndCommand();
+    const auto words = PdfWords(press.pdf, 1);
+    ASSERT_EQ(words.size(), 1U);
+    const TextFont font{paper.Font, paper.FontSize, false, false};
+    EXPECT_NEAR((words[0].XMax - words[0].XMin) * 20, press.measure.Width(text, font), 2);
+}
+
 TEST(Paper, LeavesOutWhatAnOffsetCarriesFarBeyondItsEdges) {
     Press press;
     Printer& paper = press.Paper();
