@@ -11,6 +11,12 @@ namespace {
 
 constexpr double kRuleWidth = 15; // twips
 constexpr double kTwipsPerPixel = 15;
+/// Far beyond any paper. Numbers much larger than that make a PDF that cannot be read.
+constexpr double kFarthest = 1e6;
+
+bool CanBeDrawn(QPointF point) {
+    return qAbs(point.x()) <= kFarthest && qAbs(point.y()) <= kFarthest;
+}
 
 } // namespace
 
@@ -42,14 +48,23 @@ void DrawNoTaxMark(QPainter& painter, QPointF corner, double side) {
 
 void PaperRecord::Replay(QPainter& painter) const {
     for (const Text& text : Texts) {
+        if (!CanBeDrawn(text.Corner)) {
+            continue;
+        }
         painter.setPen(convert::ToQColor(text.Ink));
         paper::Draw(painter, text.Corner, text.Words, text.Font, text.Underline);
     }
     for (const Rule& rule : Rules) {
+        if (!CanBeDrawn(rule.Line.p1()) || !CanBeDrawn(rule.Line.p2())) {
+            continue;
+        }
         painter.setPen(QPen(convert::ToQColor(rule.Ink), kRuleWidth));
         painter.drawLine(rule.Line);
     }
     for (const Image& image : Images) {
+        if (!CanBeDrawn(image.Corner)) {
+            continue;
+        }
         if (image.Picture.From == PictureRef::Source::NoTaxMark) {
             paper::DrawNoTaxMark(painter, image.Corner,
                                  image.Size ? static_cast<double>(image.Size->Width) : 225);

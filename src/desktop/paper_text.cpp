@@ -63,8 +63,10 @@ const QtTextMeasure::Table& QtTextMeasure::TableFor(const TextFont& font) const 
         const QFontMetricsF metrics(paper::Face(font));
         for (int byte = 0; byte < 256; ++byte) {
             const char32_t value = ansi::ToCodePoint(static_cast<char>(byte));
+            // As a text of one: a soft hyphen, as pasted texts have them, has a width of its own but is not
+            // drawn.
             table.Advance[static_cast<std::size_t>(byte)] =
-                static_cast<float>(metrics.horizontalAdvance(QChar(static_cast<char16_t>(value))));
+                static_cast<float>(metrics.horizontalAdvance(QString(QChar(static_cast<char16_t>(value)))));
         }
         table.Height = static_cast<float>(metrics.height());
         found = tables_.emplace(font, table).first;

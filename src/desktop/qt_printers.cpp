@@ -6,9 +6,11 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLibrary>
+#include <QMessageBox>
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QPrinter>
@@ -26,14 +28,45 @@ QPageLayout Letter() {
     return QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait, QMarginsF(), QPageLayout::Inch);
 }
 
+QString WithEnding(const QString& file) {
+    const QLatin1String ending(".pdf");
+    return file.isEmpty() || file.endsWith(ending, Qt::CaseInsensitive) ? file : file + ending;
+}
+
+/// Asks whether a file may be replaced by the name that is really written. The toolkit asks by the name as it
+/// was typed, and takes the point of "St. Mary" for the beginning of an ending.
+class PdfDialog : public QFileDialog {
+public:
+    PdfDialog(QWidget* parent, const QString& folder)
+        : QFileDialog(parent, QObject::tr("Print to PDF"), folder, QObject::tr("PDF (*.pdf)")) {
+        setAcceptMode(QFileDialog::AcceptSave);
+        setOption(QFileDialog::DontConfirmOverwrite);
+    }
+
+    [[nodiscard]] QString File() const { return selectedFiles().value(0); }
+
+    void accept() override {
+        const QFileInfo typed(File());
+        const QFileInfo written(WithEnding(File()));
+        if (!typed.isDir() && written.exists() && !MayBeReplaced(written.fileName())) {
+            return;
+        }
+        QFileDialog::accept();
+    }
+
+private:
+    [[nodiscard]] bool MayBeReplaced(const QString& name) {
+        const QString question = QObject::tr("%1 already exists.\nDo you want to replace it?").arg(name);
+        return QMessageBox::warning(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
+                                    QMessageBox::No) == QMessageBox::Yes;
+    }
+};
+
 QString AskPerson(const QString& suggested) {
-    QFileDialog dialog(QApplication::activeWindow(), QObject::tr("Print to PDF"), QFileInfo(suggested).path(),
-                       QObject::tr("PDF (*.pdf)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    // The ending belongs to the name before the person is asked whether a file may be replaced.
-    dialog.setDefaultSuffix(QStringLiteral("pdf"));
-    dialog.selectFile(QFileInfo(suggested).fileName());
-    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+    PdfDialog dialog(QApplication::activeWindow(), QFileInfo(suggested).path());
+    // In the dialog double quotes part several names from each other.
+    dialog.selectFile(QFileInfo(suggested).fileName().replace(QLatin1Char('"'), QLatin1Char('\'')));
+    return dialog.exec() == QDialog::Accepted ? dialog.File() : QString();
 }
 
 [[noreturn]] void FailPrinting(const std::string& printer, const std::string& why) {
@@ -92,10 +125,7 @@ bool QtPrinters::BeginCommand(const PrintCommand& command) {
     if (current_ != kToPdf) {
         return true;
     }
-    file_ = AskForFile(QString::fromStdString(ansi::ToUtf8(command.SuggestedFile)));
-    if (!file_.isEmpty() && !file_.endsWith(QLatin1String(".pdf"), Qt::CaseInsensitive)) {
-        file_ += QLatin1String(".pdf");
-    }
+    file_ = WithEnding(AskForFile(QString::fromStdString(ansi::ToUtf8(command.SuggestedFile))));
     return !file_.isEmpty();
 }
 
@@ -187,7 +217,14 @@ void QtPrinters::EndCommand() {
     if (!path) {
         throw files::FileError(files::kBadName, "Bad file name or number");
     }
-    files::WriteWhole(*path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+    try {
+        files::WriteWhole(*path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+    } catch (const files::FileError& failure) {
+        if (failure.Number() == files::kDiskFull) {
+            QFile::remove(file_); // half a PDF looks like a proposal and cannot be opened
+        }
+        throw;
+    }
 }
 
 /// The surface works with the printer's own settings as they stand at each call.

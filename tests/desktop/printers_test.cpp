@@ -5,13 +5,20 @@
 
 #include <QDialog>
 #include <QFile>
+#include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
+
+#include <csignal>
+
+#include <sys/resource.h>
 
 namespace {
 
@@ -132,6 +139,44 @@ TEST(Paper, EndingADocumentInWhichNothingStandsDoesNothing) {
     EXPECT_FALSE(QFile::exists(press.pdf));
 }
 
+/// A pasted text may hold soft hyphens (0xAD), which are not drawn.
+TEST(Paper, HasATextWithSoftHyphensAsWideAsItIsMeasured) {
+    Press press;
+    const std::string text = "re\xAD"
+                             "cep\xAD"
+                             "tion";
+    Printer& paper = press.Paper();
+    paper.CurrentX = 1440;
+    paper.Print(text);
+    paper.EndDoc();
+    press.printers.EndCommand();
+    const auto words = PdfWords(press.pdf, 1);
+    ASSERT_EQ(words.size(), 1U);
+    const TextFont font{paper.Font, paper.FontSize, false, false};
+    EXPECT_NEAR((words[0].XMax - words[0].XMin) * 20, press.measure.Width(text, font), 2);
+}
+
+TEST(Paper, LeavesOutWhatAnOffsetCarriesFarBeyondItsEdges) {
+    Press press;
+    Printer& paper = press.Paper();
+    for (const float offset : {1e37F, -1e37F, 0.0F}) {
+        paper.ScaleLeft = offset;
+        paper.CurrentX = 1440;
+        paper.CurrentY = 1440;
+        paper.FontUnderline = true;
+        paper.Line(0, 0, 1440, 1440);
+        paper.PaintPicture({PictureRef::Source::NoTaxMark, ""}, 720, 720);
+        paper.Print(offset == 0 ? "near" : "far");
+    }
+    paper.EndDoc();
+    press.printers.EndCommand();
+    QProcess reader;
+    reader.start(QStringLiteral("pdftotext"), {press.pdf, QStringLiteral("-")});
+    ASSERT_TRUE(reader.waitForFinished(20000));
+    EXPECT_EQ(reader.readAllStandardOutput().trimmed(), "near");
+    EXPECT_EQ(reader.readAllStandardError(), "") << "a reader finds nothing to complain of";
+}
+
 TEST(Paper, AFileThatCannotBeWrittenIsAFailure) {
     Press press;
     press.pdf = QString::fromStdString(press.folder / "no such folder/out.pdf");
@@ -149,6 +194,20 @@ TEST(Paper, AFileThatCannotBeWrittenIsAFailure) {
     EXPECT_TRUE(PdfText(press.pdf, 1).contains(QStringLiteral("kept")));
 }
 
+TEST(Paper, LeavesNoHalfAFileOnAFullDisk) {
+    Press press;
+    press.Paper().Print("lost");
+    press.Paper().EndDoc();
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{1000, before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    EXPECT_THROW(press.printers.EndCommand(), files::FileError);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    EXPECT_FALSE(QFile::exists(press.pdf));
+}
+
 TEST(Paper, AFileGetsTheEndingOfAPdf) {
     Press press;
     press.pdf = QString::fromStdString(press.folder / "mine");
@@ -157,6 +216,74 @@ TEST(Paper, AFileGetsTheEndingOfAPdf) {
     press.Paper().EndDoc();
     press.printers.EndCommand();
     EXPECT_TRUE(press.folder.Has("mine.pdf"));
+}
+
+/// A person in front of the window that asks for the file.
+struct PdfQuestion {
+    ScratchFolder folder;
+    QtTextMeasure measure;
+    QtPrinters printers{measure};
+    QString name;     ///< as it stands in the window when it opens
+    QString question; ///< whether a file may be replaced; empty when nobody asked
+
+    PdfQuestion() { EXPECT_TRUE(printers.MakeCurrent("Print to PDF")); }
+    /// Types a name unless it is empty, presses Enter, and says yes or no when asked.
+    bool Answer(const std::string& suggested, const QString& typed, QMessageBox::StandardButton answer) {
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+            ASSERT_NE(edit, nullptr);
+            name = edit->text();
+            if (!typed.isEmpty()) {
+                edit->setText(typed);
+            }
+            QTimer::singleShot(0, [&] {
+                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                if (box != nullptr) {
+                    question = box->text();
+                    box->button(answer)->click();
+                }
+            });
+            QTest::keyClick(edit, Qt::Key_Return);
+            if (dialog->isVisible()) {
+                dialog->reject();
+            }
+        });
+        return printers.BeginCommand({suggested});
+    }
+    void Print() {
+        printers.Device().Print("text");
+        printers.Device().EndDoc();
+        printers.EndCommand();
+    }
+};
+
+TEST(PdfFile, IsNotReplacedUnaskedWhenItsNameHoldsAPoint) {
+    PdfQuestion person;
+    person.folder.Write("St. Mary.pdf", "an older proposal");
+    EXPECT_FALSE(person.Answer(person.folder / "x.pdf", QStringLiteral("St. Mary"), QMessageBox::No));
+    EXPECT_EQ(person.question, QStringLiteral("St. Mary.pdf already exists.\nDo you want to replace it?"));
+    EXPECT_EQ(person.folder.Read("St. Mary.pdf"), "an older proposal");
+    EXPECT_TRUE(person.Answer(person.folder / "x.pdf", QStringLiteral("St. Mary"), QMessageBox::Yes));
+    person.Print();
+    EXPECT_EQ(person.folder.Read("St. Mary.pdf").substr(0, 5), "%PDF-");
+}
+
+TEST(PdfFile, IsWrittenWithoutAQuestionWhereThereIsNone) {
+    PdfQuestion person;
+    EXPECT_TRUE(person.Answer(person.folder / "John Doe.pdf", QString(), QMessageBox::No));
+    EXPECT_EQ(person.name, QStringLiteral("John Doe.pdf"));
+    EXPECT_TRUE(person.question.isEmpty()) << person.question.toStdString();
+    person.Print();
+    EXPECT_TRUE(person.folder.Has("John Doe.pdf"));
+}
+
+TEST(PdfFile, KeepsTheWholeNameOfAClientWithANickname) {
+    PdfQuestion person;
+    EXPECT_TRUE(person.Answer(person.folder / "Robert \"Bob\" Smith.pdf", QString(), QMessageBox::No));
+    person.Print();
+    EXPECT_TRUE(person.folder.Has("Robert 'Bob' Smith.pdf"));
 }
 
 TEST(Printing, TellsOfAFileThatCannotBeWritten) {
