@@ -46,6 +46,9 @@ void frmPrinters::Form_Cancel(Program& program) {
 namespace modMain {
 
 void mnuOptPrinter_Click(Program& program) {
+    if (program.printing.CommandRunning) {
+        return; // the pages under way belong to the printer they were given to
+    }
     if (program.platform.printers.Names().empty()) {
         program.platform.questions.MsgBox("Printer Error 482. No printers found.", Buttons::Ok, "");
         return;

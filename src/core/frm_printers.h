@@ -25,7 +25,7 @@ private:
 
 namespace modMain {
 
-/// Shows the window, or says that there is no printer.
+/// Shows the window, or says that there is no printer. Nothing while pages are being printed.
 void mnuOptPrinter_Click(Program& program);
 
 } // namespace modMain

@@ -610,7 +610,7 @@ void LogoView::Follow(const PagePicture& record) {
         return;
     }
     if (record.Picture != shown_.Picture) {
-        picture_ = QImage(QString::fromStdString(ansi::ToUtf8(record.Picture.Path)));
+        picture_ = paper::LogoPicture(record.Picture.Path);
     }
     shown_ = record;
     setGeometry(OnScreen(static_cast<double>(record.Left), static_cast<double>(record.Top),

@@ -4,8 +4,11 @@
 #include "desktop/convert.h"
 #include "desktop/paper_text.h"
 
+#include <QDateTime>
+#include <QFileInfo>
 #include <QImage>
 #include <QPainterPath>
+#include <QPixmapCache>
 
 namespace {
 
@@ -44,6 +47,27 @@ void DrawNoTaxMark(QPainter& painter, QPointF corner, double side) {
     painter.restore();
 }
 
+QImage LogoPicture(const std::string& path) {
+    const QString file = QString::fromStdString(ansi::ToUtf8(path));
+    const QString latest = QStringLiteral("logo ") + file;
+    const QFileInfo info(file);
+    QPixmap kept;
+    if (!info.exists()) {
+        return QPixmapCache::find(latest, &kept) ? kept.toImage() : QImage();
+    }
+    const QString now = latest + info.lastModified().toString(Qt::ISODateWithMs);
+    if (QPixmapCache::find(now, &kept)) {
+        return kept.toImage();
+    }
+    const QImage picture(file);
+    if (!picture.isNull()) {
+        kept = QPixmap::fromImage(picture);
+        QPixmapCache::insert(now, kept);
+        QPixmapCache::insert(latest, kept);
+    }
+    return picture;
+}
+
 } // namespace paper
 
 void PaperRecord::Replay(QPainter& painter) const {
@@ -70,7 +94,7 @@ void PaperRecord::Replay(QPainter& painter) const {
                                  image.Size ? static_cast<double>(image.Size->Width) : 225);
             continue;
         }
-        const QImage picture(QString::fromStdString(ansi::ToUtf8(image.Picture.Path)));
+        const QImage picture = paper::LogoPicture(image.Picture.Path);
         if (picture.isNull()) {
             continue;
         }

@@ -3,8 +3,10 @@
 #include "platform/drawing_surface.h"
 #include "platform/text_measure.h"
 
+#include <QImage>
 #include <QPainter>
 
+#include <string>
 #include <vector>
 
 /// What was drawn on a page, kept so that it can be drawn again: into a file, on a printer or on the screen.
@@ -58,5 +60,9 @@ namespace paper {
 
 /// The mark of a tax-exempt amount, in the square of a side in the painter's units.
 void DrawNoTaxMark(QPainter& painter, QPointF corner, double side);
+
+/// A picture file, kept once it was read: screen and paper show the same one, also when the file has gone
+/// since.
+[[nodiscard]] QImage LogoPicture(const std::string& path);
 
 } // namespace paper

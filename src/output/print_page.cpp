@@ -52,7 +52,6 @@ void DrawLabel(DrawingSurface& surface, const PageLabel& label) {
 
 void PrintSteps(Program& program, Printer& printer, PageId page) {
     PrepareDrawing(program);
-    const ScopedFlag printing(program.guards.Printing);
     const Page& first = program.pages[PageId::frmP1];
     printer.ScaleHeight = first.Height;
     printer.ScaleWidth = first.Width;
@@ -64,7 +63,9 @@ void PrintSteps(Program& program, Printer& printer, PageId page) {
     if (program.printing.PrinterOffsetY != 0) {
         printer.ScaleTop = program.printing.PrinterOffsetY;
     }
+    // What a person types meanwhile must reach the proposal; only the drawing itself is silent.
     program.platform.events.LetEventsRun();
+    const ScopedFlag printing(program.guards.Printing);
     const std::string font = printer.Font;
     const float size = printer.FontSize;
     DrawPage(program, printer, page);

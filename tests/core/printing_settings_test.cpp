@@ -194,6 +194,16 @@ TEST(FrmPrinters, APrinterThatHasGoneLeavesTheListAndTheSettings) {
     EXPECT_EQ(run.folder.Read("UserPreferences.txt"), SettingsFile({}));
 }
 
+TEST(FrmPrinters, DoNotOpenWhilePagesAreBeingPrinted) {
+    RunningProgram run;
+    run.program.printing.CommandRunning = true;
+    modMain::mnuOptPrinter_Click(run.program);
+    EXPECT_EQ(modWindows::Find(run.program, "frmPrinters"), nullptr);
+    run.program.printing.CommandRunning = false;
+    modMain::mnuOptPrinter_Click(run.program);
+    EXPECT_NE(modWindows::Find(run.program, "frmPrinters"), nullptr);
+}
+
 TEST(FrmPrinters, WithoutAnyPrinterTheCommandSaysSo) {
     Settled run;
     run.surroundings.printers.Devices.clear();

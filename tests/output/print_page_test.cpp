@@ -357,6 +357,19 @@ TEST(PrintTheForm, ReportsAPrinterThatFailsAndIsQuietAgain) {
     EXPECT_FALSE(run.program.guards.Printing);
 }
 
+TEST(PrintTheForm, WhatIsTypedWhileEventsRunReachesTheProposal) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 8);
+    run.surroundings.events.OnYield = [&] {
+        run.surroundings.events.OnYield = nullptr;
+        typist.Type("Hall");
+    };
+    modPrint::PrintTheForm(run.program, PageId::frmP1);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "Hall");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[0][8], "Hall");
+}
+
 /// A thousand at 8.25 % makes 1082.5; the running figures write it with a comma and two decimals.
 TEST(PrintTheForm, BringsTheTotalsUpToDateFirstWhenTheButtonIsRed) {
     RunningProgram run;
