@@ -3,6 +3,7 @@
 #include "core/settings.h"
 #include "core/settled.h"
 #include "core/windows.h"
+#include "support/running_program.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,12 @@
 #include "core/text.h"
 #include "desktop/convert.h"
 #include "desktop/desktop_run.h"
+#include "desktop/paper_surface.h"
 #include "document/page_geometry.h"
 #include "document/page_setup.h"
 #include "output/print_page.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QPainter>
 #include <QProcess>
@@ -426,6 +428,27 @@ TEST(LiveLogo, LiesOverTheLabelsAsOnPaper) {
     for (int x = corner.left(); x < corner.right(); ++x) {
         EXPECT_EQ(live.pixelColor(x, corner.center().y()), QColor(0x20, 0x40, 0x60));
     }
+}
+
+TEST(Logo, OnceReadItStaysThoughItsFileGoesAndANewOneIsSeen) {
+    const ScratchFolder folder;
+    const std::string file = folder / "kept.bmp";
+    const QString path = QString::fromStdString(file);
+    EXPECT_TRUE(paper::LogoPicture(file).isNull());
+    QImage picture(8, 8, QImage::Format_RGB32);
+    picture.fill(Qt::darkGreen);
+    ASSERT_TRUE(picture.save(path));
+    EXPECT_EQ(paper::LogoPicture(file).pixelColor(4, 4), QColor(Qt::darkGreen));
+    ASSERT_TRUE(QFile::remove(path));
+    EXPECT_EQ(paper::LogoPicture(file).pixelColor(4, 4), QColor(Qt::darkGreen));
+    picture.fill(Qt::darkRed);
+    ASSERT_TRUE(picture.save(path));
+    QFile stamped(path);
+    ASSERT_TRUE(stamped.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(
+        stamped.setFileTime(QDateTime::currentDateTime().addSecs(60), QFileDevice::FileModificationTime));
+    stamped.close();
+    EXPECT_EQ(paper::LogoPicture(file).pixelColor(4, 4), QColor(Qt::darkRed));
 }
 
 } // namespace
