@@ -20,6 +20,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
+#include <QScreen>
 #include <QStatusTipEvent>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -38,7 +39,7 @@ QWidget* MakeStrip(const QString& name, QWidget* parent) {
     strip->setObjectName(name);
     auto* row = new QHBoxLayout(strip);
     row->setContentsMargins(kStripMargin, 3, kStripMargin, 3);
-    row->setSpacing(24);
+    row->setSpacing(14);
     return strip;
 }
 
@@ -92,7 +93,7 @@ FrmMainView::FrmMainView(Program& program, const QtTextMeasure& measure)
         });
     BuildStrips();
     windows_ = std::make_unique<WindowViews>(program_, *this, [this] { AfterEvent(); });
-    setMinimumSize(880, 480);
+    setMinimumSize(640, 400); // fits the smallest screen; the page scrolls
 }
 
 FrmMainView::~FrmMainView() = default;
@@ -141,18 +142,23 @@ void FrmMainView::BuildStrips() {
 
     QWidget* bottom = MakeStrip(QStringLiteral("picBottom"), whole);
     QLabel* total = add(bottom, QStringLiteral("lblTotal"), program_.main.lblTotal, 0);
+    const auto addLesser = [&](const QString& name, const StripLabel& record) {
+        QLabel* label = add(bottom, name, record, 0);
+        label->setMinimumWidth(1); // in a narrow window the figure beside it stays whole
+        return label;
+    };
     QFont strong = total->font();
     strong.setBold(true);
     total->setFont(strong);
-    add(bottom, QStringLiteral("lblHighestPage"), program_.main.lblHighestPage, 0);
+    addLesser(QStringLiteral("lblHighestPage"), program_.main.lblHighestPage);
     notice_ = new QLabel(bottom);
     notice_->setObjectName(QStringLiteral("lblNotice"));
     notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     static_cast<QHBoxLayout*>(bottom->layout())->addWidget(notice_, 1);
-    area_ = add(bottom, QStringLiteral("lblTextNum"), program_.main.lblTextNum, 0);
+    area_ = addLesser(QStringLiteral("lblTextNum"), program_.main.lblTextNum);
     area_->installEventFilter(this);
-    add(bottom, QStringLiteral("lblCurPos"), program_.main.lblCurPos, 0);
-    add(bottom, QStringLiteral("lblTextPos"), program_.main.lblTextPos, 0);
+    addLesser(QStringLiteral("lblCurPos"), program_.main.lblCurPos);
+    addLesser(QStringLiteral("lblTextPos"), program_.main.lblTextPos);
     column->addWidget(bottom);
     setCentralWidget(whole);
 
@@ -249,7 +255,12 @@ PageView& FrmMainView::PageOf(PageId page) {
 
 void FrmMainView::ShowFirst() {
     shown_ = true;
-    resize(1024, 740);
+    QSize first(1024, 740);
+    if (const QScreen* place = screen()) {
+        constexpr QSize kFrame(16, 48); // about what a title bar and borders take
+        first = first.boundedTo(place->availableSize() - kFrame);
+    }
+    resize(first);
     Resized();
     ResizeModel();
     if (program_.main.State == WindowState::Maximised) {
