@@ -18,6 +18,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QRadioButton>
 #include <QTest>
@@ -25,6 +26,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <set>
 
 namespace {
@@ -325,6 +327,20 @@ TEST(ChooserWindow, FoldersOpenWithReturnOrADoubleClick) {
     QTest::keyClick(run.view, Qt::Key_Escape);
 }
 
+TEST(ChooserWindow, FoldersThatCameMeanwhileShowWhereTheyOpen) {
+    ChooserRun run;
+    const QRect first = run.files->visualItemRect(run.files->item(0));
+    QTest::mouseClick(run.files->viewport(), Qt::LeftButton, Qt::NoModifier, first.center());
+    std::filesystem::remove(run.folder / "Proposals/Ann.hef");
+    run.folder.MakeFolder("Proposals/1999");
+    run.recording.questions.Expect("OpenEventFile");
+    QTest::mouseClick(run.view->findChild<QPushButton*>(QStringLiteral("cmdOpenOK")), Qt::LeftButton);
+    ASSERT_EQ(run.folders->count(), 4);
+    EXPECT_EQ(run.folders->item(1)->text(), QStringLiteral("1999"));
+    EXPECT_EQ(run.folders->item(2)->text(), QStringLiteral("2008"));
+    QTest::keyClick(run.view, Qt::Key_Escape);
+}
+
 TEST(ChooserWindow, IgnoringThePropertiesIsABox) {
     ChooserRun run;
     auto* ignore = run.view->findChild<QCheckBox*>(QStringLiteral("chkProp"));
@@ -458,6 +474,22 @@ TEST(Boxes, AnInputBoxGivesWhatWasTypedAndNothingOnEscape) {
     EXPECT_EQ(questions.InputBox("Please input the File Name below.", "Saving File As...", "Jane"), "");
 }
 
+TEST(Boxes, AnInputBoxRefusesWhatCannotBeKeptWhereItIsTyped) {
+    QtQuestions questions;
+    AtTheBox([](QWidget* widget) {
+        auto* box = qobject_cast<QInputDialog*>(widget);
+        ASSERT_NE(box, nullptr);
+        box->findChild<QLineEdit*>()->insert(QStringLiteral("Zo\u00EB"));
+        EXPECT_EQ(box->labelText(), QStringLiteral("The symbol is <b>."));
+        EXPECT_EQ(box->findChild<QLabel*>()->textFormat(), Qt::PlainText);
+        box->findChild<QLineEdit*>()->insert(QStringLiteral("\u041E"));
+        EXPECT_EQ(box->textValue(), QStringLiteral("Zo\u00EB"));
+        EXPECT_TRUE(box->labelText().contains(QStringLiteral("was not taken")));
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    EXPECT_EQ(questions.InputBox("The symbol is <b>.", "", ""), "Zo\xEB");
+}
+
 TEST(MainWindow, EverythingOnTheStripsHasANameToSpeak) {
     DesktopRun run;
     for (const QWidget* part : run.Child("picTop")->findChildren<QWidget*>()) {
@@ -469,6 +501,31 @@ TEST(MainWindow, EverythingOnTheStripsHasANameToSpeak) {
     for (const char* name : {"imgNew", "imgOpen", "imgSave", "imgSaveAs", "imgPrint", "imgSearch",
                              "imgSpellCheck", "imgFootNotes"}) {
         EXPECT_NE(run.Child(name)->toolTip(), QString()) << name;
+    }
+}
+
+TEST(MainWindow, ANarrowWindowShowsEveryButtonWithItsWholeCaption) {
+    DesktopRun run;
+    constexpr int kNarrow = 780;
+    constexpr int kHeight = 560;
+    for (const int width : {kNarrow, 1200, kNarrow}) {
+        run.program.main.lblTotal.Caption = "Running Sub-Total = $ 1,234,567.89";
+        run.window->showNormal();
+        run.window->resize(width, kHeight);
+        run.window->AfterEvent();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return run.window->width() == width; }));
+        QCoreApplication::sendPostedEvents();
+        for (const char* name : {"cmdPreview", "cmdReCalc", "cmdTaxRate", "cmdClearMem"}) {
+            const auto* button = run.Find<QPushButton>(name);
+            EXPECT_GE(button->width(), button->minimumSizeHint().width()) << name << " at " << width;
+        }
+        const auto* total = run.Find<QLabel>("lblTotal");
+        EXPECT_GE(total->width(), total->sizeHint().width()) << "at " << width;
+        for (const char* name : {"imgPage(6)", "cmdClearMem", "VScroll1"}) {
+            const QWidget* part = run.Child(name);
+            const QPoint end = part->mapTo(run.window.get(), part->rect().bottomRight());
+            EXPECT_TRUE(run.window->rect().contains(end)) << name << " at " << width;
+        }
     }
 }
 
