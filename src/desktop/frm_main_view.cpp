@@ -8,6 +8,7 @@
 #include "desktop/page_view.h"
 #include "desktop/tool_strip.h"
 #include "desktop/window_views.h"
+#include "document/fields.h"
 #include "shell/closing.h"
 #include "shell/command_run.h"
 #include "shell/frm_main.h"
@@ -328,6 +329,22 @@ void FrmMainView::FollowLabels() {
     }
 }
 
+int FrmMainView::PaperLeft(PageId front, int paperWidth) const {
+    const int room = desk_->width() - paperWidth;
+    if (room >= 0) {
+        return room / 2;
+    }
+    // A narrow desk shows the side on which the field with the keyboard lies.
+    const std::optional<FieldRef>& focus = program_.main.Focus;
+    if (!focus || focus->Page != front) {
+        return 0;
+    }
+    constexpr int kBeside = 12;
+    const TextArea& area = modFields::Area(program_, *focus);
+    const int right = qRound(static_cast<double>(area.Left + area.Width) * PixelsPerTwip()) + kBeside;
+    return qBound(room, desk_->width() - right, 0);
+}
+
 void FrmMainView::FollowPages() {
     const ScrollBarRecord& bar = program_.main.VScroll1;
     if (scroll_->minimum() != bar.Min || scroll_->maximum() != bar.Max) {
@@ -342,8 +359,7 @@ void FrmMainView::FollowPages() {
     PageView& view = PageOf(front);
     const Page& page = program_.pages[front];
     const double scale = PixelsPerTwip();
-    const QSize paper = view.size();
-    const int x = qMax(0, (desk_->width() - paper.width()) / 2) + qRound(page.Left * scale);
+    const int x = PaperLeft(front, view.width()) + qRound(page.Left * scale);
     const int y = qRound(page.Top * scale);
     if (view.pos() != QPoint(x, y)) {
         view.move(x, y);

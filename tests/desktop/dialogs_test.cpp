@@ -529,6 +529,31 @@ TEST(MainWindow, ANarrowWindowShowsEveryButtonWithItsWholeCaption) {
     }
 }
 
+TEST(MainWindow, ADeskNarrowerThanThePaperShowsTheFieldThatHasTheKeyboard) {
+    DesktopRun run;
+    constexpr int kNarrow = 640;
+    run.window->showNormal();
+    run.window->resize(kNarrow, 480);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return run.window->width() == kNarrow; }));
+    run.ChoosePage(1);
+    const QWidget* desk = run.Child("desk");
+    const auto inSight = [&](const FieldRef& field) {
+        const QWidget& shown = run.Field(field);
+        const int left = shown.mapTo(run.window.get(), QPoint(0, 0)).x();
+        return left >= 0 && left + shown.width() <= desk->width();
+    };
+    const FieldRef description{PageId::frmP2, FieldKind::txt, 0};
+    const FieldRef amount{PageId::frmP2, FieldKind::txt, 33};
+    EXPECT_TRUE(inSight(description));
+    EXPECT_FALSE(inSight(amount));
+    run.Press(Qt::Key_Tab);
+    ASSERT_EQ(run.program.main.Focus->Index, 33);
+    EXPECT_TRUE(inSight(amount));
+    run.Click(description);
+    EXPECT_TRUE(inSight(description));
+    run.ExpectWindowFollows();
+}
+
 TEST(MainWindow, TheFoldersTipShowsUnderThePointerAndADoubleClickTellsTheCalculatorsPlace) {
     DesktopRun run;
     QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
