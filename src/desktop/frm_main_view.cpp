@@ -17,6 +17,7 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
@@ -359,7 +360,10 @@ void FrmMainView::FollowPages() {
     PageView& view = PageOf(front);
     const Page& page = program_.pages[front];
     const double scale = PixelsPerTwip();
-    const int x = PaperLeft(front, view.width()) + qRound(page.Left * scale);
+    // The paper stays where it is while a mouse button is held: the press would mark text on its way.
+    const bool held =
+        QGuiApplication::mouseButtons() != Qt::NoButton && !view.isHidden() && view.width() > desk_->width();
+    const int x = held ? view.x() : PaperLeft(front, view.width()) + qRound(page.Left * scale);
     const int y = qRound(page.Top * scale);
     if (view.pos() != QPoint(x, y)) {
         view.move(x, y);

@@ -112,7 +112,11 @@ PageSwitchButton::PageSwitchButton(int pageIndex, QWidget* parent)
     setObjectName(QStringLiteral("imgPage(%1)").arg(pageIndex));
     const QString what = pageIndex == 6 ? tr("Page 6, client's copy") : tr("Page %1").arg(pageIndex + 1);
     setAccessibleName(what);
-    setToolTip(what);
+    // Tab belongs to the fields of the page: without these keys a page before the one in front, and the
+    // client's copy, would want a mouse.
+    const QKeySequence key(QStringLiteral("Alt+%1").arg(pageIndex + 1));
+    setShortcut(key);
+    setToolTip(QStringLiteral("%1 (%2)").arg(what, key.toString(QKeySequence::NativeText)));
     setFocusPolicy(Qt::TabFocus);
     setFixedSize(32, 34);
 }

@@ -554,6 +554,17 @@ TEST(MainWindow, ADeskNarrowerThanThePaperShowsTheFieldThatHasTheKeyboard) {
     run.ExpectWindowFollows();
 }
 
+TEST(MainWindow, EveryPageComesByKey) {
+    DesktopRun run;
+    run.Click(PageId::frmP1, 2);
+    for (const int index : {6, 4, 0, 5}) {
+        run.Press(static_cast<Qt::Key>(Qt::Key_1 + index), Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return IndexOf(run.program.main.PageInFront) == index; })) << index;
+    }
+    EXPECT_EQ(run.program.pages[PageId::frmP1].txt[2].Text, "");
+    EXPECT_EQ(run.program.pages[PageId::frmP6].txt[4].Text, "");
+}
+
 TEST(MainWindow, TheFoldersTipShowsUnderThePointerAndADoubleClickTellsTheCalculatorsPlace) {
     DesktopRun run;
     QEnterEvent enter({5, 5}, {5, 5}, {5, 5});
