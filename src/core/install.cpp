@@ -60,6 +60,10 @@ std::string Locate(const Places& places) {
         ::access(ansi::ToUtf8(places.Executable).c_str(), W_OK) == 0) {
         return places.Executable;
     }
+    if (places.UserData.empty()) {
+        throw files::FileError(files::kBadName,
+                               "The name of your data folder has characters that cannot be kept");
+    }
     if (!files::IsFolder(places.UserData)) {
         Fill(places);
     }

@@ -244,6 +244,20 @@ void EnsureFolders(Program& program) {
     }
 }
 
+/// Makes way for the file as it will be. One that could not be read is not thrown away: what it holds is nowhere
+/// else.
+void KeepUnread(const Program& program, const std::string& path) {
+    if (program.settings.PrefsRead || program.settings.ReadingPrefs) {
+        files::Delete(path);
+        return;
+    }
+    const std::string kept = path + ".unread";
+    if (files::Exists(kept)) {
+        files::Delete(kept);
+    }
+    files::Rename(path, kept);
+}
+
 } // namespace
 
 std::string_view KeyText(Key key) {
@@ -281,7 +295,7 @@ bool SaveUserPreferences(Program& program) {
             bytes += text::kCrLf;
         }
         if (files::Exists(path)) {
-            files::Delete(path);
+            KeepUnread(program, path);
         }
         files::WriteWhole(path, bytes);
     });

@@ -21,6 +21,14 @@ protected:
     }
 };
 
+bool Shows(const QListWidget& list, const ListBox& record) {
+    bool same = static_cast<std::size_t>(list.count()) == record.Items.size();
+    for (int row = 0; same && row < list.count(); ++row) {
+        same = list.item(row)->text() == convert::ToQString(record.Items[static_cast<std::size_t>(row)]);
+    }
+    return same;
+}
+
 QListWidget* List(QWidget* parent, const char* name, const QString& spoken) {
     auto* list = new ChoiceList(parent);
     list->setObjectName(QLatin1String(name));
@@ -143,11 +151,7 @@ void FrmFileView::Connect() {
 }
 
 void FrmFileView::FollowList(QListWidget& list, const ListBox& record) {
-    bool same = static_cast<std::size_t>(list.count()) == record.Items.size();
-    for (int row = 0; same && row < list.count(); ++row) {
-        same = list.item(row)->text() == convert::ToQString(record.Items[static_cast<std::size_t>(row)]);
-    }
-    if (!same) {
+    if (!Shows(list, record)) {
         list.clear();
         for (const std::string& item : record.Items) {
             list.addItem(convert::ToQString(item));
@@ -169,8 +173,12 @@ void FrmFileView::Follow() {
     if (drive_->currentIndex() != file_.Drive1.ListIndex) {
         drive_->setCurrentIndex(file_.Drive1.ListIndex);
     }
-    if (folder_->text() != convert::ToQString(file_.Folder)) {
+    const bool moved = folder_->text() != convert::ToQString(file_.Folder);
+    if (moved) {
         folder_->setText(convert::ToQString(file_.Folder));
+    }
+    // While nothing has changed the folder under the person's keys stays marked.
+    if (moved || !Shows(*folders_, file_.Dir1)) {
         FollowList(*folders_, file_.Dir1);
     }
     FollowList(*files_, file_.FileList1);

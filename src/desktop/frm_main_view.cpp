@@ -8,6 +8,7 @@
 #include "desktop/page_view.h"
 #include "desktop/tool_strip.h"
 #include "desktop/window_views.h"
+#include "document/fields.h"
 #include "shell/closing.h"
 #include "shell/command_run.h"
 #include "shell/frm_main.h"
@@ -16,10 +17,12 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
+#include <QScreen>
 #include <QStatusTipEvent>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -38,7 +41,7 @@ QWidget* MakeStrip(const QString& name, QWidget* parent) {
     strip->setObjectName(name);
     auto* row = new QHBoxLayout(strip);
     row->setContentsMargins(kStripMargin, 3, kStripMargin, 3);
-    row->setSpacing(24);
+    row->setSpacing(14);
     return strip;
 }
 
@@ -92,7 +95,7 @@ FrmMainView::FrmMainView(Program& program, const QtTextMeasure& measure)
         });
     BuildStrips();
     windows_ = std::make_unique<WindowViews>(program_, *this, [this] { AfterEvent(); });
-    setMinimumSize(880, 480);
+    setMinimumSize(640, 400); // fits the smallest screen; the page scrolls
 }
 
 FrmMainView::~FrmMainView() = default;
@@ -141,18 +144,23 @@ void FrmMainView::BuildStrips() {
 
     QWidget* bottom = MakeStrip(QStringLiteral("picBottom"), whole);
     QLabel* total = add(bottom, QStringLiteral("lblTotal"), program_.main.lblTotal, 0);
+    const auto addLesser = [&](const QString& name, const StripLabel& record) {
+        QLabel* label = add(bottom, name, record, 0);
+        label->setMinimumWidth(1); // in a narrow window the figure beside it stays whole
+        return label;
+    };
     QFont strong = total->font();
     strong.setBold(true);
     total->setFont(strong);
-    add(bottom, QStringLiteral("lblHighestPage"), program_.main.lblHighestPage, 0);
+    addLesser(QStringLiteral("lblHighestPage"), program_.main.lblHighestPage);
     notice_ = new QLabel(bottom);
     notice_->setObjectName(QStringLiteral("lblNotice"));
     notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     static_cast<QHBoxLayout*>(bottom->layout())->addWidget(notice_, 1);
-    area_ = add(bottom, QStringLiteral("lblTextNum"), program_.main.lblTextNum, 0);
+    area_ = addLesser(QStringLiteral("lblTextNum"), program_.main.lblTextNum);
     area_->installEventFilter(this);
-    add(bottom, QStringLiteral("lblCurPos"), program_.main.lblCurPos, 0);
-    add(bottom, QStringLiteral("lblTextPos"), program_.main.lblTextPos, 0);
+    addLesser(QStringLiteral("lblCurPos"), program_.main.lblCurPos);
+    addLesser(QStringLiteral("lblTextPos"), program_.main.lblTextPos);
     column->addWidget(bottom);
     setCentralWidget(whole);
 
@@ -253,7 +261,12 @@ PageView& FrmMainView::PageOf(PageId page) {
 
 void FrmMainView::ShowFirst() {
     shown_ = true;
-    resize(1024, 740);
+    QSize first(1024, 740);
+    if (const QScreen* place = screen()) {
+        constexpr QSize kFrame(16, 48); // about what a title bar and borders take
+        first = first.boundedTo(place->availableSize() - kFrame);
+    }
+    resize(first);
     Resized();
     ResizeModel();
     if (program_.main.State == WindowState::Maximised) {
@@ -321,6 +334,22 @@ void FrmMainView::FollowLabels() {
     }
 }
 
+int FrmMainView::PaperLeft(PageId front, int paperWidth) const {
+    const int room = desk_->width() - paperWidth;
+    if (room >= 0) {
+        return room / 2;
+    }
+    // A narrow desk shows the side on which the field with the keyboard lies.
+    const std::optional<FieldRef>& focus = program_.main.Focus;
+    if (!focus || focus->Page != front) {
+        return 0;
+    }
+    constexpr int kBeside = 12;
+    const TextArea& area = modFields::Area(program_, *focus);
+    const int right = qRound(static_cast<double>(area.Left + area.Width) * PixelsPerTwip()) + kBeside;
+    return qBound(room, desk_->width() - right, 0);
+}
+
 void FrmMainView::FollowPages() {
     const ScrollBarRecord& bar = program_.main.VScroll1;
     if (scroll_->minimum() != bar.Min || scroll_->maximum() != bar.Max) {
@@ -335,8 +364,10 @@ void FrmMainView::FollowPages() {
     PageView& view = PageOf(front);
     const Page& page = program_.pages[front];
     const double scale = PixelsPerTwip();
-    const QSize paper = view.size();
-    const int x = qMax(0, (desk_->width() - paper.width()) / 2) + qRound(page.Left * scale);
+    // The paper stays where it is while a mouse button is held: the press would mark text on its way.
+    const bool held =
+        QGuiApplication::mouseButtons() != Qt::NoButton && !view.isHidden() && view.width() > desk_->width();
+    const int x = held ? view.x() : PaperLeft(front, view.width()) + qRound(page.Left * scale);
     const int y = qRound(page.Top * scale);
     if (view.pos() != QPoint(x, y)) {
         view.move(x, y);

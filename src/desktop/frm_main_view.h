@@ -71,6 +71,8 @@ private:
     void ResizeSoon();
     void ResizeModel();
     void FollowPages();
+    /// Where the paper stands on the desk.
+    [[nodiscard]] int PaperLeft(PageId front, int paperWidth) const;
     void KeepPlace();
     void FollowPlace();
     void FollowLabels();

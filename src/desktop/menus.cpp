@@ -53,7 +53,7 @@ Menus::Menus(QMenuBar& bar, QWidget& window, const std::function<void(CommandId)
             window.addAction(action);
         }
         if (entry.State == commands::Built::Pending) {
-            action->setStatusTip(QStringLiteral("This command is not available in this version."));
+            action->setStatusTip(convert::ToQString(commands::kNotBuilt));
         }
         const CommandId id = entry.Id;
         QObject::connect(action, &QAction::triggered, &window, [run, id] { run(id); });

@@ -2,6 +2,7 @@
 
 #include "core/ansi.h"
 #include "core/install.h"
+#include "core/paths.h"
 #include "core/program.h"
 
 #include <QCoreApplication>
@@ -12,9 +13,15 @@ namespace desktop {
 
 namespace {
 
+/// Empty when the name has characters that the program cannot spell: never another folder in its stead.
+std::string Known(const QString& path) {
+    return paths::WithSeparator(ansi::FromUtf8(QDir::cleanPath(path).toStdString()).value_or(""));
+}
+
+/// A folder that is only looked into.
 std::string Folder(const QString& path) {
-    const auto known = ansi::FromUtf8(QDir::cleanPath(path).toStdString());
-    return known ? *known + "/" : std::string("/");
+    const std::string known = Known(path);
+    return known.empty() ? "/" : known;
 }
 
 /// What an installation ships: beside the installed program, or in the source tree it was built from.
@@ -28,13 +35,13 @@ QString Shipped() {
 void SetFolders(Program& program) {
     Folders& folders = program.folders;
     const QString user = QString::fromLocal8Bit(qgetenv("USER"));
-    folders.Drives.Home = Folder(QDir::homePath());
     folders.Drives.MountPlaces = {Folder(QStringLiteral("/media/") + user), Folder(QStringLiteral("/mnt")),
                                   Folder(QStringLiteral("/run/media/") + user)};
     const QString data = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-    folders.InstallFolder =
-        install::Locate({Folder(QCoreApplication::applicationDirPath()),
-                         Folder(data + QStringLiteral("/Quillbrook")), Folder(Shipped())});
+    folders.InstallFolder = install::Locate({Folder(QCoreApplication::applicationDirPath()),
+                                             Known(data + QStringLiteral("/Quillbrook")), Folder(Shipped())});
+    const std::string home = Known(QDir::homePath());
+    folders.Drives.Home = home.empty() ? folders.InstallFolder : home;
 }
 
 } // namespace desktop

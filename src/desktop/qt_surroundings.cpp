@@ -17,6 +17,7 @@
 #include <QFontInfo>
 #include <QImageReader>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QSaveFile>
@@ -70,6 +71,15 @@ QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
     return QMessageBox::Ok;
 }
 
+/// A lock file that names nobody is left from a crash in the middle of its writing, or from a full disk; the
+/// lock itself knows whether somebody still holds it.
+bool TakeUnreadable(QLockFile& lock) {
+    qint64 process = 0;
+    QString host;
+    QString program;
+    return !lock.getLockInfo(&process, &host, &program) && lock.removeStaleLockFile() && lock.tryLock(0);
+}
+
 /// Names for which a face of the same metrics stands in.
 constexpr std::string_view kStandIns[] = {"Arial", "Courier New", "Times New Roman"};
 constexpr const char* kFaces[] = {"Liberation Sans", "Liberation Mono", "Liberation Serif"};
@@ -115,6 +125,19 @@ std::string QtQuestions::InputBox(std::string_view prompt, std::string_view titl
     dialog.setWindowTitle(TitleOf(title));
     dialog.setLabelText(ShownText(prompt));
     dialog.setTextValue(convert::ToQString(initial));
+    for (QLabel* label : dialog.findChildren<QLabel*>()) {
+        label->setTextFormat(Qt::PlainText);
+    }
+    // What cannot be kept is refused where it is typed, not dropped from what was confirmed.
+    QObject::connect(
+        &dialog, &QInputDialog::textValueChanged, &dialog, [&dialog, prompt](const QString& now) {
+            const convert::Incoming incoming = convert::FromPerson(now);
+            if (incoming.Refused > 0) {
+                dialog.setLabelText(ShownText(prompt) +
+                                    QStringLiteral("\n\nA character was not taken: it cannot be kept here."));
+                dialog.setTextValue(convert::ToQString(incoming.Text));
+            }
+        });
     dialog.resize(420, dialog.sizeHint().height());
     return dialog.exec() == QDialog::Accepted ? convert::ToModel(dialog.textValue()) : std::string();
 }
@@ -222,6 +245,9 @@ SingleInstance::Result QtSingleInstance::Claim(std::string_view installFolder) {
         lock_ = std::make_unique<QLockFile>(place.arg(QLatin1String(key)));
         lock_->setStaleLockTime(0); // only a process that is no more makes a lock stale
         if (lock_->tryLock(0)) {
+            return Result::Claimed;
+        }
+        if (lock_->error() == QLockFile::LockFailedError && TakeUnreadable(*lock_)) {
             return Result::Claimed;
         }
         if (lock_->error() == QLockFile::LockFailedError) {

@@ -112,7 +112,11 @@ PageSwitchButton::PageSwitchButton(int pageIndex, QWidget* parent)
     setObjectName(QStringLiteral("imgPage(%1)").arg(pageIndex));
     const QString what = pageIndex == 6 ? tr("Page 6, client's copy") : tr("Page %1").arg(pageIndex + 1);
     setAccessibleName(what);
-    setToolTip(what);
+    // Tab belongs to the fields of the page: without these keys a page before the one in front, and the
+    // client's copy, would want a mouse.
+    const QKeySequence key(QStringLiteral("Alt+%1").arg(pageIndex + 1));
+    setShortcut(key);
+    setToolTip(QStringLiteral("%1 (%2)").arg(what, key.toString(QKeySequence::NativeText)));
     setFocusPolicy(Qt::TabFocus);
     setFixedSize(32, 34);
 }
@@ -150,9 +154,13 @@ void PageSwitchButton::paintEvent(QPaintEvent*) {
 ToolStrip::ToolStrip(Program& program, std::function<void()> afterEvent, QWidget* parent)
     : QWidget(parent), program_(program), afterEvent_(std::move(afterEvent)) {
     setObjectName(QStringLiteral("picTop"));
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(6, 3, 6, 3);
-    row->setSpacing(1);
+    rows_ = new QVBoxLayout(this);
+    rows_->setContentsMargins(6, 3, 6, 3);
+    rows_->setSpacing(2);
+    row_ = new QHBoxLayout;
+    row_->setSpacing(1);
+    rows_->addLayout(row_);
+    QHBoxLayout* row = row_;
     MainWindow& main = program_.main;
     AddImage("imgNew", tr("Create New File"), main.imgNew, [this] { frmMain(program_).imgNew_MouseDown(); });
     AddImage("imgOpen", tr("Open existing file"), main.imgOpen,
@@ -171,6 +179,13 @@ ToolStrip::ToolStrip(Program& program, std::function<void()> afterEvent, QWidget
     AddImage("imgTime", tr("Clock"), main.imgTime, [] {});
     images_.back().first->setFocusPolicy(Qt::NoFocus); // it does nothing; the keyboard need not come by
     row->addSpacing(10);
+    buttons_ = new QWidget(this);
+    buttons_->setAccessibleName(tr("Commands"));
+    auto* commands = new QHBoxLayout(buttons_);
+    commands->setContentsMargins(0, 0, 0, 0);
+    commands->setSpacing(1);
+    buttonsAt_ = row->count();
+    row->addWidget(buttons_);
     AddCommand(QStringLiteral("cmdPreview"), main.cmdPreview,
                [this] { frmMain(program_).cmdPreview_Click(); });
     AddCommand(QStringLiteral("cmdReCalc"), main.cmdReCalc, [this] { frmMain(program_).cmdReCalc_Click(); });
@@ -216,13 +231,13 @@ void ToolStrip::AddImage(std::string_view name, const QString& accessibleName, I
         modMain::ReleaseToolButton(program_);
         afterEvent_();
     });
-    layout()->addWidget(button);
+    row_->addWidget(button);
     images_.emplace_back(button, &record);
 }
 
 QPushButton* ToolStrip::AddCommand(const QString& name, const CommandButton& record,
                                    std::function<void()> chosen) {
-    auto* button = new QPushButton(convert::ToQString(record.Caption), this);
+    auto* button = new QPushButton(convert::ToQString(record.Caption), buttons_);
     button->setObjectName(name);
     button->setFocusPolicy(Qt::TabFocus);
     button->setAutoDefault(false);
@@ -230,7 +245,7 @@ QPushButton* ToolStrip::AddCommand(const QString& name, const CommandButton& rec
         chosen();
         afterEvent_();
     });
-    layout()->addWidget(button);
+    buttons_->layout()->addWidget(button);
     commands_.emplace_back(button, &record);
     return button;
 }
@@ -267,6 +282,26 @@ void ToolStrip::FollowCommand(QPushButton& button, const CommandButton& record) 
     }
 }
 
+void ToolStrip::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    PlaceCommands();
+}
+
+/// No caption is cut: where one row has not the room for all, the commands go below.
+void ToolStrip::PlaceCommands() {
+    const bool below = rows_->indexOf(buttons_) >= 0;
+    const int others = row_->sizeHint().width() - (below ? 0 : buttons_->sizeHint().width());
+    const bool narrow = width() < others + buttons_->sizeHint().width() + rows_->contentsMargins().left() +
+                                      rows_->contentsMargins().right();
+    if (narrow && !below) {
+        row_->removeWidget(buttons_);
+        rows_->addWidget(buttons_, 0, Qt::AlignLeft);
+    } else if (!narrow && below) {
+        rows_->removeWidget(buttons_);
+        row_->insertWidget(buttonsAt_, buttons_);
+    }
+}
+
 void ToolStrip::KeepPlace(const QWidget& widget, ImageButton& record) const {
     const float twips = 1440.0F / static_cast<float>(logicalDpiX());
     record.Left = static_cast<float>(widget.x()) * twips;
@@ -287,6 +322,7 @@ void ToolStrip::Follow() {
     for (const auto& [widget, record] : commands_) {
         FollowCommand(*widget, *record);
     }
+    PlaceCommands();
     for (int index = 0; index < kPageCount; ++index) {
         pages_[static_cast<std::size_t>(index)]->Follow(
             program_.main.imgPage[static_cast<std::size_t>(index)]);

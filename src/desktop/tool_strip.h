@@ -5,8 +5,10 @@
 #include "shell/tool_buttons.h"
 
 #include <QAbstractButton>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QVBoxLayout>
 #include <QWidget>
 
 #include <array>
@@ -57,14 +59,19 @@ private:
     ImageButton shown_;
 };
 
-/// picTop: image buttons, command buttons and page buttons.
+/// picTop: image buttons, command buttons and page buttons. In a narrow window the command buttons stand in a
+/// row below the others.
 class ToolStrip : public QWidget {
     Q_OBJECT
 public:
     ToolStrip(Program& program, std::function<void()> afterEvent, QWidget* parent);
     void Follow();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void PlaceCommands();
     void AddImage(std::string_view name, const QString& accessibleName, ImageButton& record,
                   std::function<void()> chosen);
     void FollowImages();
@@ -78,4 +85,8 @@ private:
     std::vector<std::pair<QPushButton*, const CommandButton*>> commands_;
     std::array<PageSwitchButton*, kPageCount> pages_{};
     QLabel* lblPage_ = nullptr;
+    QVBoxLayout* rows_ = nullptr;
+    QHBoxLayout* row_ = nullptr; ///< the first row
+    QWidget* buttons_ = nullptr; ///< holds the command buttons
+    int buttonsAt_ = 0;          ///< their place in the first row
 };

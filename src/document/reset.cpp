@@ -141,9 +141,6 @@ void TakeFormat(Program& program, bool loadDefault) {
 }
 
 void ResetSteps(Program& program) {
-    if (program.hooks.CloseFootnotes) {
-        program.hooks.CloseFootnotes(program);
-    }
     // A format is loaded by default only where somebody can read it.
     const bool loadDefault = !program.settings.DefaultFormatPath.empty() &&
                              program.settings.LoadDefaultFormat &&
@@ -170,6 +167,9 @@ ResetResult StartNewFile(Program& program) {
     Guarded(program, "StartNewFile", [&] {
         {
             const ScopedFlag active(program.guards.ResetActive);
+            if (program.hooks.CloseFootnotes) {
+                program.hooks.CloseFootnotes(program);
+            }
             if (FormatEditingGoesOn(program)) {
                 result = ResetResult::Refused;
                 return;

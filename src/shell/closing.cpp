@@ -14,6 +14,9 @@ void mnuFileExit_Click(Program& program) {
 }
 
 bool MDIForm_QueryUnload(Program& program) {
+    if (program.printing.CommandRunning) {
+        return false; // the window closes when the pages are on their way
+    }
     if (program.main.Closing || (!SomethingChanged(program) && !modFile::PropertiesChanged(program))) {
         return true;
     }

@@ -141,8 +141,15 @@ void Run(Program& program, CommandId id) {
     if (Find(id).Parent == CommandId::mnuEditTextBox && program.hooks.UpdateTextMenu) {
         program.hooks.UpdateTextMenu(program);
     }
+    if (Find(id).State == Built::Pending) {
+        program.main.Notice = kNotBuilt; // a tool button leads here, too
+        return;
+    }
     if (!IsAvailable(program, id) || !program.main[id].Visible) {
         return;
+    }
+    if (program.printing.CommandRunning) {
+        return; // the pages under way are the proposal's as it stands
     }
     if (RefuseInPreview(program, id)) {
         return;

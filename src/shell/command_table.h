@@ -29,6 +29,9 @@ struct Entry {
     Built State = Built::Yes;
 };
 
+/// What is said of a pending command.
+inline constexpr std::string_view kNotBuilt = "This command is not available in this version.";
+
 [[nodiscard]] std::span<const Entry> Table();
 [[nodiscard]] const Entry& Find(CommandId id);
 

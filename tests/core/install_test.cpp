@@ -65,4 +65,12 @@ TEST(Install, AFolderThatCannotBeMadeIsAFailure) {
     EXPECT_THROW(static_cast<void>(machine.Locate()), files::FileError);
 }
 
+TEST(Install, AUserFolderWhoseNameCannotBeKeptIsAFailureAndNoOtherFolderIsTaken) {
+    const Machine machine;
+    const install::Places places{machine.folder / "bin/", "", machine.folder / "shipped/"};
+    EXPECT_THROW(static_cast<void>(install::Locate(places)), files::FileError);
+    machine.folder.Write("bin/UserPreferences.txt", "own");
+    EXPECT_EQ(install::Locate(places), machine.folder / "bin/");
+}
+
 } // namespace

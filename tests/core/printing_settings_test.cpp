@@ -3,7 +3,6 @@
 #include "core/settings.h"
 #include "core/settled.h"
 #include "core/windows.h"
-#include "support/running_program.h"
 
 #include <gtest/gtest.h>
 
@@ -196,7 +195,7 @@ TEST(FrmPrinters, APrinterThatHasGoneLeavesTheListAndTheSettings) {
 }
 
 TEST(FrmPrinters, DoNotOpenWhilePagesAreBeingPrinted) {
-    RunningProgram run;
+    Settled run;
     run.program.printing.CommandRunning = true;
     modMain::mnuOptPrinter_Click(run.program);
     EXPECT_EQ(modWindows::Find(run.program, "frmPrinters"), nullptr);

@@ -18,6 +18,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QRadioButton>
 #include <QTest>
@@ -25,6 +26,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <set>
 
 namespace {
@@ -325,6 +327,20 @@ TEST(ChooserWindow, FoldersOpenWithReturnOrADoubleClick) {
     QTest::keyClick(run.view, Qt::Key_Escape);
 }
 
+TEST(ChooserWindow, FoldersThatCameMeanwhileShowWhereTheyOpen) {
+    ChooserRun run;
+    const QRect first = run.files->visualItemRect(run.files->item(0));
+    QTest::mouseClick(run.files->viewport(), Qt::LeftButton, Qt::NoModifier, first.center());
+    std::filesystem::remove(run.folder / "Proposals/Ann.hef");
+    run.folder.MakeFolder("Proposals/1999");
+    run.recording.questions.Expect("OpenEventFile");
+    QTest::mouseClick(run.view->findChild<QPushButton*>(QStringLiteral("cmdOpenOK")), Qt::LeftButton);
+    ASSERT_EQ(run.folders->count(), 4);
+    EXPECT_EQ(run.folders->item(1)->text(), QStringLiteral("1999"));
+    EXPECT_EQ(run.folders->item(2)->text(), QStringLiteral("2008"));
+    QTest::keyClick(run.view, Qt::Key_Escape);
+}
+
 TEST(ChooserWindow, IgnoringThePropertiesIsABox) {
     ChooserRun run;
     auto* ignore = run.view->findChild<QCheckBox*>(QStringLiteral("chkProp"));
@@ -458,6 +474,22 @@ TEST(Boxes, AnInputBoxGivesWhatWasTypedAndNothingOnEscape) {
     EXPECT_EQ(questions.InputBox("Please input the File Name below.", "Saving File As...", "Jane"), "");
 }
 
+TEST(Boxes, AnInputBoxRefusesWhatCannotBeKeptWhereItIsTyped) {
+    QtQuestions questions;
+    AtTheBox([](QWidget* widget) {
+        auto* box = qobject_cast<QInputDialog*>(widget);
+        ASSERT_NE(box, nullptr);
+        box->findChild<QLineEdit*>()->insert(QStringLiteral("Zo\u00EB"));
+        EXPECT_EQ(box->labelText(), QStringLiteral("The symbol is <b>."));
+        EXPECT_EQ(box->findChild<QLabel*>()->textFormat(), Qt::PlainText);
+        box->findChild<QLineEdit*>()->insert(QStringLiteral("\u041E"));
+        EXPECT_EQ(box->textValue(), QStringLiteral("Zo\u00EB"));
+        EXPECT_TRUE(box->labelText().contains(QStringLiteral("was not taken")));
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    EXPECT_EQ(questions.InputBox("The symbol is <b>.", "", ""), "Zo\xEB");
+}
+
 TEST(MainWindow, EverythingOnTheStripsHasANameToSpeak) {
     DesktopRun run;
     for (const QWidget* part : run.Child("picTop")->findChildren<QWidget*>()) {
@@ -470,6 +502,67 @@ TEST(MainWindow, EverythingOnTheStripsHasANameToSpeak) {
                              "imgSpellCheck", "imgFootNotes"}) {
         EXPECT_NE(run.Child(name)->toolTip(), QString()) << name;
     }
+}
+
+TEST(MainWindow, ANarrowWindowShowsEveryButtonWithItsWholeCaption) {
+    DesktopRun run;
+    constexpr int kNarrow = 780;
+    constexpr int kHeight = 560;
+    for (const int width : {kNarrow, 1200, kNarrow}) {
+        run.program.main.lblTotal.Caption = "Running Sub-Total = $ 1,234,567.89";
+        run.window->showNormal();
+        run.window->resize(width, kHeight);
+        run.window->AfterEvent();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return run.window->width() == width; }));
+        QCoreApplication::sendPostedEvents();
+        for (const char* name : {"cmdPreview", "cmdReCalc", "cmdTaxRate", "cmdClearMem"}) {
+            const auto* button = run.Find<QPushButton>(name);
+            EXPECT_GE(button->width(), button->minimumSizeHint().width()) << name << " at " << width;
+        }
+        const auto* total = run.Find<QLabel>("lblTotal");
+        EXPECT_GE(total->width(), total->sizeHint().width()) << "at " << width;
+        for (const char* name : {"imgPage(6)", "cmdClearMem", "VScroll1"}) {
+            const QWidget* part = run.Child(name);
+            const QPoint end = part->mapTo(run.window.get(), part->rect().bottomRight());
+            EXPECT_TRUE(run.window->rect().contains(end)) << name << " at " << width;
+        }
+    }
+}
+
+TEST(MainWindow, ADeskNarrowerThanThePaperShowsTheFieldThatHasTheKeyboard) {
+    DesktopRun run;
+    constexpr int kNarrow = 640;
+    run.window->showNormal();
+    run.window->resize(kNarrow, 480);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return run.window->width() == kNarrow; }));
+    run.ChoosePage(1);
+    const QWidget* desk = run.Child("desk");
+    const auto inSight = [&](const FieldRef& field) {
+        const QWidget& shown = run.Field(field);
+        const int left = shown.mapTo(run.window.get(), QPoint(0, 0)).x();
+        return left >= 0 && left + shown.width() <= desk->width();
+    };
+    const FieldRef description{PageId::frmP2, FieldKind::txt, 0};
+    const FieldRef amount{PageId::frmP2, FieldKind::txt, 33};
+    EXPECT_TRUE(inSight(description));
+    EXPECT_FALSE(inSight(amount));
+    run.Press(Qt::Key_Tab);
+    ASSERT_EQ(run.program.main.Focus->Index, 33);
+    EXPECT_TRUE(inSight(amount));
+    run.Click(description);
+    EXPECT_TRUE(inSight(description));
+    run.ExpectWindowFollows();
+}
+
+TEST(MainWindow, EveryPageComesByKey) {
+    DesktopRun run;
+    run.Click(PageId::frmP1, 2);
+    for (const int index : {6, 4, 0, 5}) {
+        run.Press(static_cast<Qt::Key>(Qt::Key_1 + index), Qt::AltModifier);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return IndexOf(run.program.main.PageInFront) == index; })) << index;
+    }
+    EXPECT_EQ(run.program.pages[PageId::frmP1].txt[2].Text, "");
+    EXPECT_EQ(run.program.pages[PageId::frmP6].txt[4].Text, "");
 }
 
 TEST(MainWindow, TheFoldersTipShowsUnderThePointerAndADoubleClickTellsTheCalculatorsPlace) {

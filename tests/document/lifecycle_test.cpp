@@ -296,9 +296,12 @@ TEST(Reset, GoingOnWithAFormatStopsItAndLeavesNoGuardBehind) {
     Living run;
     run.SaveAs("Jane Roe");
     run.program.format.EditingFormat = true;
+    bool footnotesClosed = false;
+    run.program.hooks.CloseFootnotes = [&](Program&) { footnotesClosed = true; };
     run.surroundings.questions.ExpectBox(kFormatQuestion, Answer::No);
     run.surroundings.questions.ExpectBox({"Resume Editing.", Buttons::Ok, ""}, Answer::Ok);
     EXPECT_EQ(modMain::StartNewFile(run.program), modMain::ResetResult::Refused);
+    EXPECT_TRUE(footnotesClosed); // they close before the question
     EXPECT_EQ(run.program.document.FileName, "Jane Roe.hef");
     EXPECT_TRUE(run.program.format.EditingFormat);
     EXPECT_FALSE(run.program.guards.ResetActive);
