@@ -244,10 +244,10 @@ void EnsureFolders(Program& program) {
     }
 }
 
-/// Makes way for the file as it will be. One that could not be read is not thrown away: what it holds is nowhere
-/// else.
+/// Makes way for the file as it will be. One that could not be read is not thrown away: what it holds is
+/// nowhere else.
 void KeepUnread(const Program& program, const std::string& path) {
-    if (program.settings.PrefsRead || program.settings.ReadingPrefs) {
+    if (program.settings.PrefsRead || program.settings.ReadingPrefs || files::IsFolder(path)) {
         files::Delete(path);
         return;
     }

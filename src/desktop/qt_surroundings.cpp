@@ -28,6 +28,8 @@
 
 #include <algorithm>
 
+#include <unistd.h>
+
 namespace {
 
 constexpr double kTwipsPerInch = 1440;
@@ -236,7 +238,7 @@ SingleInstance::Result QtSingleInstance::Claim(std::string_view installFolder) {
                                .toHex()
                                .left(16);
     // The folder for temporary files is shared by all users of the machine; the lock there carries the name.
-    const QString user = QString::fromLocal8Bit(qgetenv("USER"));
+    const QString user = QString::number(::getuid());
     const QStringList places{QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
                                  QStringLiteral("/quillbrook-%1.lock"),
                              QDir::tempPath() + QStringLiteral("/quillbrook-") + user +

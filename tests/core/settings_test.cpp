@@ -228,6 +228,19 @@ TEST(Settings, AHugeFileIsRefusedWithAReport) {
     EXPECT_FALSE(run.program.settings.PrefsRead);
 }
 
+TEST(Settings, AFileThatCouldNotBeReadIsKeptWhenItIsWrittenAnew) {
+    Settled run;
+    run.folder.Write("UserPreferences.txt", "Company Name:Acme");
+    std::filesystem::resize_file(run.folder / "UserPreferences.txt", std::uintmax_t{1} << 30U);
+    run.ExpectReport("GetUserPreferences");
+    modSettings::GetUserPreferences(run.program);
+    modSettings::SetLine(run.program, Key::CompanyName, "Blue Barn");
+    EXPECT_TRUE(modSettings::SaveUserPreferences(run.program));
+    EXPECT_EQ(std::filesystem::file_size(run.folder / "UserPreferences.txt.unread"),
+              std::uintmax_t{1} << 30U);
+    EXPECT_NE(run.folder.Read("UserPreferences.txt").find("Company Name:Blue Barn\r\n"), std::string::npos);
+}
+
 TEST(Settings, AFolderInTheFilesPlaceIsToldAndCannotBeWrittenOver) {
     Settled run;
     run.folder.MakeFolder("UserPreferences.txt");

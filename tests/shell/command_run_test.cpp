@@ -4,6 +4,7 @@
 #include "core/version.h"
 #include "core/windows.h"
 #include "document/frm_file.h"
+#include "shell/closing.h"
 #include "shell/command_table.h"
 #include "shell/small_commands.h"
 #include "support/running_program.h"
@@ -353,6 +354,25 @@ TEST(CurrencySymbol, OneThatCannotBeStoredIsToldAndStandsForTheRun) {
         {"Error encountered while creating new Currency Symbol.", Buttons::Ok, ""}, Answer::Ok);
     commands::Run(run.program, CommandId::mnuOptCurrencySymbol);
     EXPECT_EQ(run.program.settings.CurrencySymbol, "EUR");
+}
+
+TEST(Commands, OneThatIsNotBuiltSaysSoInTheStrip) {
+    RunningProgram run;
+    commands::Run(run.program, CommandId::mnuViewEventDates);
+    EXPECT_EQ(run.program.main.Notice, "This command is not available in this version.");
+}
+
+TEST(Commands, WaitWhilePagesAreBeingPrinted) {
+    RunningProgram run;
+    run.Area(PageId::frmP1, 8).Text = "Hall";
+    run.program.printing.CommandRunning = true;
+    commands::Run(run.program, CommandId::mnuFileNew);
+    commands::Run(run.program, CommandId::mnuFileOpenEvent);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "Hall");
+    EXPECT_TRUE(run.program.windows.Open.empty());
+    EXPECT_FALSE(modMain::MDIForm_QueryUnload(run.program));
+    run.program.printing.CommandRunning = false;
+    EXPECT_TRUE(modMain::MDIForm_QueryUnload(run.program));
 }
 
 } // namespace
