@@ -18,11 +18,13 @@
 #include <QPainter>
 #include <QStyleHints>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
 constexpr double kCaretWidth = 22; // twips, 1.1 point
+constexpr double kRingWidth = 1.5; // pixels
 
 QRect OnScreen(double left, double top, double width, double height, double scale) {
     const int x = static_cast<int>(std::floor(left * scale));
@@ -46,9 +48,19 @@ QString SpokenName(const FieldRef& field) {
     return QObject::tr("Page %1, %2 %3").arg(page).arg(what).arg(field.Index + 1);
 }
 
+/// Whether a key brings characters that could stand in a line, marks without a shape included.
+bool CarriesText(const QKeyEvent& event) {
+    if (event.text().isEmpty()) {
+        return false;
+    }
+    const QChar first = event.text().front();
+    return first.isPrint() || first.isSurrogate() || first.category() == QChar::Other_Format ||
+           first.category() == QChar::Other_PrivateUse;
+}
+
 /// Text that a key enters, as against a command.
 bool EntersText(const QKeyEvent& event) {
-    if (event.text().isEmpty() || !(event.text().front().isPrint() || event.text().front().isSurrogate())) {
+    if (!CarriesText(event)) {
         return false;
     }
     const Qt::KeyboardModifiers held =
@@ -212,21 +224,37 @@ void TextAreaView::paintEvent(QPaintEvent*) {
         paper::Draw(painter, {origin, 0}, words, font);
         painter.setClipping(false);
     } else if (hasFocus() && caretOn_ && !isReadOnly()) {
-        const double x = origin + measure.XOf(words, cursorPosition(), font);
+        const double x = CaretAt(origin + measure.XOf(words, cursorPosition(), font));
         painter.fillRect(QRectF(x, 8, kCaretWidth, height - 16), ink);
     }
     if (dragging_) {
-        const double x = origin + measure.XOf(words, dropAt_, font);
+        const double x = CaretAt(origin + measure.XOf(words, dropAt_, font));
         painter.fillRect(QRectF(x, 8, kCaretWidth, height - 16), ink);
     }
     painter.restore();
     if (hasFocus()) {
-        // Colour alone must not tell where the keyboard is.
-        const bool selected = shown_.BackColor == colors::kBlockSelected;
-        painter.setPen(QPen(selected ? QColor(Qt::white) : QColor(0x0B, 0x3D, 0x6E), 1.5));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75));
+        DrawRing(painter);
     }
+}
+
+double TextAreaView::RingInside() const {
+    // In a selected area the ring is white and stands off the edge, or it would pass for the paper around.
+    return shown_.BackColor == colors::kBlockSelected ? 2 : kRingWidth / 2;
+}
+
+double TextAreaView::CaretAt(double x) const {
+    // Text begins and ends at the very edge of its area, where the ring is.
+    const double ring = (RingInside() + kRingWidth / 2 + 1) / page_.Scale;
+    return std::clamp(x, ring, qMax(ring, static_cast<double>(shown_.Width) - kCaretWidth - ring));
+}
+
+void TextAreaView::DrawRing(QPainter& painter) const {
+    // Colour alone must not tell where the keyboard is.
+    const bool selected = shown_.BackColor == colors::kBlockSelected;
+    const double inside = RingInside();
+    painter.setPen(QPen(selected ? QColor(Qt::white) : QColor(0x0B, 0x3D, 0x6E), kRingWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(rect()).adjusted(inside, inside, -inside, -inside));
 }
 
 void TextAreaView::ReportEdit() {
@@ -350,9 +378,10 @@ void TextAreaView::KeyTyped(QKeyEvent* event, int code) {
         if (modInput::MayEdit(program, field_)) {
             QLineEdit::keyPressEvent(event);
         }
-    } else if (!event->matches(QKeySequence::DeleteCompleteLine) &&
+    } else if (!CarriesText(*event) && !event->matches(QKeySequence::DeleteCompleteLine) &&
                !event->matches(QKeySequence::DeleteEndOfLine)) {
-        // Ctrl+U and Ctrl+K belong to the menu, also while their entries cannot be had.
+        // Ctrl+U and Ctrl+K belong to the menu, also while their entries cannot be had. A letter with Alt is
+        // a mnemonic that nobody has; a line edit would enter it past the filter.
         QLineEdit::keyPressEvent(event);
         event->accept();
     }
@@ -376,6 +405,10 @@ void TextAreaView::keyReleaseEvent(QKeyEvent* event) {
 
 void TextAreaView::inputMethodEvent(QInputMethodEvent* event) {
     Program& program = page_.program;
+    if (!modInput::MayEdit(program, field_)) {
+        event->accept(); // composing, too, would take away what is marked
+        return;
+    }
     QString taken;
     int refused = 0;
     for (const QChar character : event->commitString()) {
@@ -490,6 +523,10 @@ void TextAreaView::SelectWordAt(int position) {
 }
 
 void TextAreaView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        mousePressEvent(event); // pasting twice in a row is no double-click
+        return;
+    }
     event->accept();
     Program& program = page_.program;
     const QString before = text();

@@ -60,6 +60,12 @@ private:
     void KeyTyped(QKeyEvent* event, int code);
     void OfferMarkedText() const;
     void SelectWordAt(int position);
+    /// Pixels from the edge to the middle of the ring that a field with the keyboard wears.
+    [[nodiscard]] double RingInside() const;
+    /// Where a caret that belongs at `x` (twips from the field's left) is drawn so that the ring leaves it
+    /// free.
+    [[nodiscard]] double CaretAt(double x) const;
+    void DrawRing(QPainter& painter) const;
     void Done();
     void RestartCaret();
 

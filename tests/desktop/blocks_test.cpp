@@ -1,6 +1,8 @@
 #include "desktop/desktop_run.h"
 #include "document/fields.h"
 
+#include <QApplication>
+#include <QInputMethodEvent>
 #include <QMenu>
 #include <QTest>
 #include <QWindow>
@@ -267,6 +269,12 @@ TEST(BlocksOnScreen, TypingIsDeadUntilTheSelectionIsCleared) {
     run.Click(kSecond, 0);
     run.Press(Qt::Key_Delete);
     run.Press(Qt::Key_X, Qt::ControlModifier);
+    run.Press(Qt::Key_Home);
+    run.Press(Qt::Key_End, Qt::ShiftModifier);
+    QKeyEvent withAlt(QEvent::KeyPress, Qt::Key_Q, Qt::AltModifier, QStringLiteral("q"));
+    QApplication::sendEvent(&run.Field(Text(0)), &withAlt);
+    QInputMethodEvent composing(QStringLiteral("o"), {});
+    QApplication::sendEvent(&run.Field(Text(0)), &composing);
     EXPECT_EQ(run.Shown(5), QString());
     EXPECT_EQ(run.Shown(0), QStringLiteral("Chairs"));
     run.Press(Qt::Key_D, Qt::ControlModifier);
