@@ -4,6 +4,7 @@
 #include "core/windows.h"
 #include "document/lifecycle.h"
 #include "document/proposal_file.h"
+#include "editing/selection.h"
 
 namespace modMain {
 
@@ -14,6 +15,8 @@ void mnuFileExit_Click(Program& program) {
 }
 
 bool MDIForm_QueryUnload(Program& program) {
+    // The window may be closed with an arrow still held; what it has moved counts as changed text.
+    modBlocks::FinishMove(program);
     if (program.main.Closing || (!SomethingChanged(program) && !modFile::PropertiesChanged(program))) {
         return true;
     }
