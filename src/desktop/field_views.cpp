@@ -159,7 +159,9 @@ double TextAreaView::TextWidth() const {
 
 double TextAreaView::Origin() const {
     const bool right = field_.Kind == FieldKind::txt && geometry::RightAligned(field_.Page, field_.Index);
-    const double room = static_cast<double>(shown_.Width) - TextWidth();
+    // While figures are typed the caret stands behind the last of them, not on it.
+    const double caret = hasFocus() && !isReadOnly() ? CaretRoom() : 0;
+    const double room = static_cast<double>(shown_.Width) - TextWidth() - caret;
     return right && room > 0 ? room : -scroll_;
 }
 
@@ -169,7 +171,7 @@ double TextAreaView::TextLeft() const {
 
 void TextAreaView::KeepCaretInView() {
     const double width = static_cast<double>(shown_.Width);
-    if (TextWidth() + kCaretWidth <= width) {
+    if (TextWidth() + CaretRoom() <= width) {
         scroll_ = 0;
         return;
     }
@@ -178,8 +180,8 @@ void TextAreaView::KeepCaretInView() {
         scroll_ = 0;
     } else if (caret < scroll_) {
         scroll_ = caret;
-    } else if (caret + kCaretWidth > scroll_ + width) {
-        scroll_ = caret + kCaretWidth - width;
+    } else if (caret + CaretRoom() > scroll_ + width) {
+        scroll_ = caret + CaretRoom() - width;
     }
 }
 
@@ -242,10 +244,14 @@ double TextAreaView::RingInside() const {
     return shown_.BackColor == colors::kBlockSelected ? 2 : kRingWidth / 2;
 }
 
+double TextAreaView::CaretRoom() const {
+    return kCaretWidth + (RingInside() + kRingWidth / 2 + 1) / page_.Scale;
+}
+
 double TextAreaView::CaretAt(double x) const {
     // Text begins and ends at the very edge of its area, where the ring is.
-    const double ring = (RingInside() + kRingWidth / 2 + 1) / page_.Scale;
-    return std::clamp(x, ring, qMax(ring, static_cast<double>(shown_.Width) - kCaretWidth - ring));
+    const double first = CaretRoom() - kCaretWidth;
+    return std::clamp(x, first, qMax(first, static_cast<double>(shown_.Width) - CaretRoom()));
 }
 
 void TextAreaView::DrawRing(QPainter& painter) const {
@@ -444,6 +450,7 @@ void TextAreaView::mousePressEvent(QMouseEvent* event) {
         anchor_ = cursorPosition();
     }
     pressedAt_ = event->position().x();
+    marking_ = extend;
     int start = qMin(anchor_, position);
     int length = qAbs(position - anchor_);
     pressedInMarked_ = event->button() == Qt::LeftButton && !extend && hasFocus() && position > Start() &&
@@ -468,11 +475,17 @@ void TextAreaView::mouseMoveEvent(QMouseEvent* event) {
         return;
     }
     const int position = PositionAt(event->position().x());
+    const int moved = qAbs(qRound(event->position().x() - pressedAt_));
     if (pressedInMarked_) {
-        const int moved = qAbs(qRound(event->position().x() - pressedAt_));
         dragging_ = dragging_ || moved >= QGuiApplication::styleHints()->startDragDistance();
         dropAt_ = position;
         update();
+        return;
+    }
+    // A clicking hand is never quite still, and a figure makes room for the caret as its field is entered.
+    constexpr int kStill = 4;
+    marking_ = marking_ || moved >= kStill;
+    if (!marking_) {
         return;
     }
     modInput::CursorMoved(page_.program, field_, qMin(anchor_, position), qAbs(position - anchor_));
@@ -558,6 +571,7 @@ void TextAreaView::focusInEvent(QFocusEvent* event) {
         modInput::FieldEntered(page_.program, field_);
         Done();
     }
+    KeepCaretInView();
     update();
 }
 

@@ -65,6 +65,8 @@ private:
     /// Where a caret that belongs at `x` (twips from the field's left) is drawn so that the ring leaves it
     /// free.
     [[nodiscard]] double CaretAt(double x) const;
+    /// What a caret behind the text takes at the right edge, in twips.
+    [[nodiscard]] double CaretRoom() const;
     void DrawRing(QPainter& painter) const;
     void Done();
     void RestartCaret();
@@ -79,6 +81,7 @@ private:
     bool caretOn_ = false;
     bool pressedInMarked_ = false; ///< a drag of the marked text may begin
     bool dragging_ = false;
+    bool marking_ = false; ///< the pressed mouse has moved far enough to mark text
     int dropAt_ = 0;
     double pressedAt_ = 0;
     int anchor_ = 0;

@@ -477,6 +477,49 @@ TEST(WindowFocus, ShowsItsCaretBesideItsRing) {
     }
 }
 
+TEST(WindowFocus, LeavesAFigureFreeOfTheCaret) {
+    DesktopRun run;
+    run.ChoosePage(1);
+    run.Click(kSecond, 33);
+    run.Type(QStringLiteral("8"));
+    TextAreaView& view = run.Field(Text(kSecond, 33));
+    const QImage picture = view.grab().toImage();
+    // From the left: the figure's ink, then a gap, then the caret's.
+    const auto inked = [&](int x) {
+        for (int y = 4; y < picture.height() - 4; ++y) {
+            if (picture.pixelColor(x, y).green() < 90) {
+                return true;
+            }
+        }
+        return false;
+    };
+    int strokes = 0;
+    const int last = static_cast<int>(picture.width() - 2 * picture.devicePixelRatio());
+    for (int x = picture.width() / 2; x < last; ++x) {
+        strokes += inked(x) && !inked(x - 1) ? 1 : 0;
+    }
+    EXPECT_EQ(strokes, 2);
+}
+
+TEST(WindowFocus, ByAHandThatIsNotQuiteStillMarksNothing) {
+    DesktopRun run;
+    run.ChoosePage(1);
+    run.Click(kSecond, 33);
+    run.Type(QStringLiteral("123456"));
+    run.Click(kSecond, 0);
+    TextAreaView& view = run.Field(Text(kSecond, 33));
+    const int y = view.height() / 2;
+    for (int x = view.width() - 30; x < view.width() - 20; ++x) {
+        run.Click(kSecond, 0);
+        QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, QPoint(x, y));
+        QMouseEvent shaken(QEvent::MouseMove, QPointF(x + 1, y), view.mapToGlobal(QPointF(x + 1, y)),
+                           Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&view, &shaken);
+        QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, QPoint(x + 1, y));
+        EXPECT_EQ(view.selectedText(), QString()) << x;
+    }
+}
+
 TEST(WindowKeys, AFigureThatTheProgramRewritesHasItsCursorWhereTheProgramPutIt) {
     DesktopRun run;
     run.ChoosePage(5);
