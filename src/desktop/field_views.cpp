@@ -413,6 +413,13 @@ void TextAreaView::inputMethodEvent(QInputMethodEvent* event) {
     Program& program = page_.program;
     if (!modInput::MayEdit(program, field_)) {
         event->accept(); // composing, too, would take away what is marked
+        if (!preedit_.isEmpty()) {
+            // Begun before the areas were selected; what was not yet entered goes.
+            preedit_.clear();
+            QInputMethodEvent nothing;
+            QLineEdit::inputMethodEvent(&nothing);
+            update();
+        }
         return;
     }
     QString taken;

@@ -283,6 +283,28 @@ TEST(BlocksOnScreen, TypingIsDeadUntilTheSelectionIsCleared) {
     EXPECT_EQ(run.Shown(5), QStringLiteral("x"));
 }
 
+TEST(BlocksOnScreen, ASelectionEndsWhatIsBeingComposed) {
+    BlockDesk run;
+    run.Fill(5, "x");
+    const auto inked = [&run] {
+        const QImage picture = run.Field(Text(5)).grab().toImage();
+        int dark = 0;
+        for (int x = qRound(30 * picture.devicePixelRatio()); x < picture.width() / 2; ++x) {
+            dark += picture.pixelColor(x, picture.height() / 2).green() < 90 ? 1 : 0;
+        }
+        return dark;
+    };
+    QInputMethodEvent composing(QStringLiteral("mmmmmmmm"), {});
+    QApplication::sendEvent(&run.Field(Text(5)), &composing);
+    EXPECT_GT(inked(), 0);
+    run.Band(0, 1);
+    QInputMethodEvent committed;
+    committed.setCommitString(QStringLiteral("o"));
+    QApplication::sendEvent(&run.Field(Text(5)), &committed);
+    EXPECT_EQ(run.Shown(5), QStringLiteral("x"));
+    EXPECT_EQ(inked(), 0) << "nothing half composed is left";
+}
+
 TEST(BlocksOnScreen, TheStripsWearTheColourOfTheMode) {
     BlockDesk run;
     run.Band(0, 1);

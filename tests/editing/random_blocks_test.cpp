@@ -201,7 +201,7 @@ void ExpectInStep(BlockRun& run) {
     EXPECT_TRUE(program.main.Focus.has_value() || !IsLinePage(program.main.PageInFront));
 }
 
-constexpr unsigned kSeeds = 60;
+constexpr unsigned kSeeds = 40;
 constexpr int kSteps = 150;
 
 TEST(Blocks, InAnyOrderLeaveStoreTablesAndScreenInStep) {
