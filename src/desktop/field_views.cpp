@@ -18,11 +18,13 @@
 #include <QPainter>
 #include <QStyleHints>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
 
 constexpr double kCaretWidth = 22; // twips, 1.1 point
+constexpr double kRingWidth = 1.5; // pixels
 
 QRect OnScreen(double left, double top, double width, double height, double scale) {
     const int x = static_cast<int>(std::floor(left * scale));
@@ -46,9 +48,19 @@ QString SpokenName(const FieldRef& field) {
     return QObject::tr("Page %1, %2 %3").arg(page).arg(what).arg(field.Index + 1);
 }
 
+/// Whether a key brings characters that could stand in a line, marks without a shape included.
+bool CarriesText(const QKeyEvent& event) {
+    if (event.text().isEmpty()) {
+        return false;
+    }
+    const QChar first = event.text().front();
+    return first.isPrint() || first.isSurrogate() || first.category() == QChar::Other_Format ||
+           first.category() == QChar::Other_PrivateUse;
+}
+
 /// Text that a key enters, as against a command.
 bool EntersText(const QKeyEvent& event) {
-    if (event.text().isEmpty() || !(event.text().front().isPrint() || event.text().front().isSurrogate())) {
+    if (!CarriesText(event)) {
         return false;
     }
     const Qt::KeyboardModifiers held =
@@ -147,7 +159,9 @@ double TextAreaView::TextWidth() const {
 
 double TextAreaView::Origin() const {
     const bool right = field_.Kind == FieldKind::txt && geometry::RightAligned(field_.Page, field_.Index);
-    const double room = static_cast<double>(shown_.Width) - TextWidth();
+    // While figures are typed the caret stands behind the last of them, not on it.
+    const double caret = hasFocus() && !isReadOnly() ? CaretRoom() : 0;
+    const double room = static_cast<double>(shown_.Width) - TextWidth() - caret;
     return right && room > 0 ? room : -scroll_;
 }
 
@@ -157,7 +171,7 @@ double TextAreaView::TextLeft() const {
 
 void TextAreaView::KeepCaretInView() {
     const double width = static_cast<double>(shown_.Width);
-    if (TextWidth() + kCaretWidth <= width) {
+    if (TextWidth() + CaretRoom() <= width) {
         scroll_ = 0;
         return;
     }
@@ -166,8 +180,8 @@ void TextAreaView::KeepCaretInView() {
         scroll_ = 0;
     } else if (caret < scroll_) {
         scroll_ = caret;
-    } else if (caret + kCaretWidth > scroll_ + width) {
-        scroll_ = caret + kCaretWidth - width;
+    } else if (caret + CaretRoom() > scroll_ + width) {
+        scroll_ = caret + CaretRoom() - width;
     }
 }
 
@@ -212,21 +226,41 @@ void TextAreaView::paintEvent(QPaintEvent*) {
         paper::Draw(painter, {origin, 0}, words, font);
         painter.setClipping(false);
     } else if (hasFocus() && caretOn_ && !isReadOnly()) {
-        const double x = origin + measure.XOf(words, cursorPosition(), font);
+        const double x = CaretAt(origin + measure.XOf(words, cursorPosition(), font));
         painter.fillRect(QRectF(x, 8, kCaretWidth, height - 16), ink);
     }
     if (dragging_) {
-        const double x = origin + measure.XOf(words, dropAt_, font);
+        const double x = CaretAt(origin + measure.XOf(words, dropAt_, font));
         painter.fillRect(QRectF(x, 8, kCaretWidth, height - 16), ink);
     }
     painter.restore();
     if (hasFocus()) {
-        // Colour alone must not tell where the keyboard is.
-        const bool selected = shown_.BackColor == colors::kBlockSelected;
-        painter.setPen(QPen(selected ? QColor(Qt::white) : QColor(0x0B, 0x3D, 0x6E), 1.5));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRect(QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75));
+        DrawRing(painter);
     }
+}
+
+double TextAreaView::RingInside() const {
+    // In a selected area the ring is white and stands off the edge, or it would pass for the paper around.
+    return shown_.BackColor == colors::kBlockSelected ? 2 : kRingWidth / 2;
+}
+
+double TextAreaView::CaretRoom() const {
+    return kCaretWidth + (RingInside() + kRingWidth / 2 + 1) / page_.Scale;
+}
+
+double TextAreaView::CaretAt(double x) const {
+    // Text begins and ends at the very edge of its area, where the ring is.
+    const double first = CaretRoom() - kCaretWidth;
+    return std::clamp(x, first, qMax(first, static_cast<double>(shown_.Width) - CaretRoom()));
+}
+
+void TextAreaView::DrawRing(QPainter& painter) const {
+    // Colour alone must not tell where the keyboard is.
+    const bool selected = shown_.BackColor == colors::kBlockSelected;
+    const double inside = RingInside();
+    painter.setPen(QPen(selected ? QColor(Qt::white) : QColor(0x0B, 0x3D, 0x6E), kRingWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(rect()).adjusted(inside, inside, -inside, -inside));
 }
 
 void TextAreaView::ReportEdit() {
@@ -350,9 +384,10 @@ void TextAreaView::KeyTyped(QKeyEvent* event, int code) {
         if (modInput::MayEdit(program, field_)) {
             QLineEdit::keyPressEvent(event);
         }
-    } else if (!event->matches(QKeySequence::DeleteCompleteLine) &&
+    } else if (!CarriesText(*event) && !event->matches(QKeySequence::DeleteCompleteLine) &&
                !event->matches(QKeySequence::DeleteEndOfLine)) {
-        // Ctrl+U and Ctrl+K belong to the menu, also while their entries cannot be had.
+        // Ctrl+U and Ctrl+K belong to the menu, also while their entries cannot be had. A letter with Alt is
+        // a mnemonic that nobody has; a line edit would enter it past the filter.
         QLineEdit::keyPressEvent(event);
         event->accept();
     }
@@ -376,6 +411,17 @@ void TextAreaView::keyReleaseEvent(QKeyEvent* event) {
 
 void TextAreaView::inputMethodEvent(QInputMethodEvent* event) {
     Program& program = page_.program;
+    if (!modInput::MayEdit(program, field_)) {
+        event->accept(); // composing, too, would take away what is marked
+        if (!preedit_.isEmpty()) {
+            // Begun before the areas were selected; what was not yet entered goes.
+            preedit_.clear();
+            QInputMethodEvent nothing;
+            QLineEdit::inputMethodEvent(&nothing);
+            update();
+        }
+        return;
+    }
     QString taken;
     int refused = 0;
     for (const QChar character : event->commitString()) {
@@ -411,6 +457,7 @@ void TextAreaView::mousePressEvent(QMouseEvent* event) {
         anchor_ = cursorPosition();
     }
     pressedAt_ = event->position().x();
+    marking_ = extend;
     int start = qMin(anchor_, position);
     int length = qAbs(position - anchor_);
     pressedInMarked_ = event->button() == Qt::LeftButton && !extend && hasFocus() && position > Start() &&
@@ -435,11 +482,17 @@ void TextAreaView::mouseMoveEvent(QMouseEvent* event) {
         return;
     }
     const int position = PositionAt(event->position().x());
+    const int moved = qAbs(qRound(event->position().x() - pressedAt_));
     if (pressedInMarked_) {
-        const int moved = qAbs(qRound(event->position().x() - pressedAt_));
         dragging_ = dragging_ || moved >= QGuiApplication::styleHints()->startDragDistance();
         dropAt_ = position;
         update();
+        return;
+    }
+    // A clicking hand is never quite still, and a figure makes room for the caret as its field is entered.
+    constexpr int kStill = 4;
+    marking_ = marking_ || moved >= kStill;
+    if (!marking_) {
         return;
     }
     modInput::CursorMoved(page_.program, field_, qMin(anchor_, position), qAbs(position - anchor_));
@@ -490,6 +543,10 @@ void TextAreaView::SelectWordAt(int position) {
 }
 
 void TextAreaView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        mousePressEvent(event); // pasting twice in a row is no double-click
+        return;
+    }
     event->accept();
     Program& program = page_.program;
     const QString before = text();
@@ -521,6 +578,7 @@ void TextAreaView::focusInEvent(QFocusEvent* event) {
         modInput::FieldEntered(page_.program, field_);
         Done();
     }
+    KeepCaretInView();
     update();
 }
 

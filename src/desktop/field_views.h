@@ -60,6 +60,14 @@ private:
     void KeyTyped(QKeyEvent* event, int code);
     void OfferMarkedText() const;
     void SelectWordAt(int position);
+    /// Pixels from the edge to the middle of the ring that a field with the keyboard wears.
+    [[nodiscard]] double RingInside() const;
+    /// Where a caret that belongs at `x` (twips from the field's left) is drawn so that the ring leaves it
+    /// free.
+    [[nodiscard]] double CaretAt(double x) const;
+    /// What a caret behind the text takes at the right edge, in twips.
+    [[nodiscard]] double CaretRoom() const;
+    void DrawRing(QPainter& painter) const;
     void Done();
     void RestartCaret();
 
@@ -73,6 +81,7 @@ private:
     bool caretOn_ = false;
     bool pressedInMarked_ = false; ///< a drag of the marked text may begin
     bool dragging_ = false;
+    bool marking_ = false; ///< the pressed mouse has moved far enough to mark text
     int dropAt_ = 0;
     double pressedAt_ = 0;
     int anchor_ = 0;

@@ -8,6 +8,7 @@
 #include "document/page_geometry.h"
 #include "document/page_setup.h"
 #include "document/totals.h"
+#include "editing/area_contents.h"
 #include "editing/navigation.h"
 
 namespace modColumns {
@@ -87,6 +88,13 @@ void MoveToRow(Program& program, const FieldRef& field, int row) {
                             down ? modNavigate::Direction::Down : modNavigate::Direction::Up);
 }
 
+/// The boxes of a selected row are selected with it, and those that go are not.
+void FollowSelection(Program& program, PageId page, int row) {
+    if (modBlocks::IsSelected(program, page, row)) {
+        modBlocks::PaintArea(program, page, row, modBlocks::Selected::Yes);
+    }
+}
+
 void SetExempt(Program& program, modPages::Mark mark) {
     const PageId page = program.main.ActivePage;
     const int area = program.editing.CurrentArea;
@@ -117,6 +125,7 @@ void ToggleColumns(Program& program) {
     const bool on = !modPages::ColumnsOn(program, page, row);
     if (on) {
         modPages::PlaceColumns(program, page, row, modPages::Columns::On);
+        FollowSelection(program, page, row);
         modFields::SetText(program, Quantity(page, row), kQuantityPlaceholder);
         modFields::SetText(program, Price(page, row), kPricePlaceholder);
         StoreRow(program, page, row);
@@ -128,6 +137,7 @@ void ToggleColumns(Program& program) {
     const auto focus = program.main.Focus;
     const bool inRow = focus && focus->Page == page && focus->Index == row && focus->Kind != FieldKind::txt;
     modPages::PlaceColumns(program, page, row, modPages::Columns::Off);
+    FollowSelection(program, page, row);
     modFields::SetText(program, Quantity(page, row), "");
     modFields::SetText(program, Price(page, row), "");
     StoreRow(program, page, row);

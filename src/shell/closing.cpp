@@ -4,6 +4,7 @@
 #include "core/windows.h"
 #include "document/lifecycle.h"
 #include "document/proposal_file.h"
+#include "editing/selection.h"
 
 namespace modMain {
 
@@ -17,6 +18,8 @@ bool MDIForm_QueryUnload(Program& program) {
     if (program.printing.CommandRunning) {
         return false; // the window closes when the pages are on their way
     }
+    // The window may be closed with an arrow still held; what it has moved counts as changed text.
+    modBlocks::FinishMove(program);
     if (program.main.Closing || (!SomethingChanged(program) && !modFile::PropertiesChanged(program))) {
         return true;
     }

@@ -5,6 +5,7 @@
 #include "core/windows.h"
 #include "document/fields.h"
 #include "document/totals.h"
+#include "editing/selection.h"
 #include "output/preview.h"
 #include "shell/command_run.h"
 #include "shell/page_switch.h"
@@ -15,10 +16,12 @@ void frmMain::cmdClearMem_Click() {
 }
 
 void frmMain::cmdPreview_Click() {
+    modBlocks::FinishMove(program_);
     modPrint::TogglePreview(program_);
 }
 
 void frmMain::cmdReCalc_Click() {
+    modBlocks::FinishMove(program_);
     modTotals::cmdReCalc_Click(program_);
 }
 
@@ -75,6 +78,7 @@ void frmMain::imgSpellCheck_Click() {
 }
 
 void frmMain::imgPage_Click(int index) {
+    modBlocks::FinishMove(program_); // the arrow is let go on another page
     modScroll::UpdatePageButtons(program_, index);
     if (index < 0 || index >= kPageCount) {
         return;

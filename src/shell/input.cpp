@@ -257,6 +257,7 @@ void TextMenuClosed(Program& program) {
 }
 
 void NoTaxMarkClick(Program& program, PageId page, int index) {
+    modBlocks::FinishMove(program);
     modTotals::imgNoTax_Click(program, page, index);
 }
 

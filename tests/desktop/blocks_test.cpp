@@ -1,6 +1,8 @@
 #include "desktop/desktop_run.h"
 #include "document/fields.h"
 
+#include <QApplication>
+#include <QInputMethodEvent>
 #include <QMenu>
 #include <QTest>
 #include <QWindow>
@@ -267,12 +269,40 @@ TEST(BlocksOnScreen, TypingIsDeadUntilTheSelectionIsCleared) {
     run.Click(kSecond, 0);
     run.Press(Qt::Key_Delete);
     run.Press(Qt::Key_X, Qt::ControlModifier);
+    run.Press(Qt::Key_Home);
+    run.Press(Qt::Key_End, Qt::ShiftModifier);
+    QKeyEvent withAlt(QEvent::KeyPress, Qt::Key_Q, Qt::AltModifier, QStringLiteral("q"));
+    QApplication::sendEvent(&run.Field(Text(0)), &withAlt);
+    QInputMethodEvent composing(QStringLiteral("o"), {});
+    QApplication::sendEvent(&run.Field(Text(0)), &composing);
     EXPECT_EQ(run.Shown(5), QString());
     EXPECT_EQ(run.Shown(0), QStringLiteral("Chairs"));
     run.Press(Qt::Key_D, Qt::ControlModifier);
     run.Click(kSecond, 5);
     run.Type(QStringLiteral("x"));
     EXPECT_EQ(run.Shown(5), QStringLiteral("x"));
+}
+
+TEST(BlocksOnScreen, ASelectionEndsWhatIsBeingComposed) {
+    BlockDesk run;
+    run.Fill(5, "x");
+    const auto inked = [&run] {
+        const QImage picture = run.Field(Text(5)).grab().toImage();
+        int dark = 0;
+        for (int x = qRound(30 * picture.devicePixelRatio()); x < picture.width() / 2; ++x) {
+            dark += picture.pixelColor(x, picture.height() / 2).green() < 90 ? 1 : 0;
+        }
+        return dark;
+    };
+    QInputMethodEvent composing(QStringLiteral("mmmmmmmm"), {});
+    QApplication::sendEvent(&run.Field(Text(5)), &composing);
+    EXPECT_GT(inked(), 0);
+    run.Band(0, 1);
+    QInputMethodEvent committed;
+    committed.setCommitString(QStringLiteral("o"));
+    QApplication::sendEvent(&run.Field(Text(5)), &committed);
+    EXPECT_EQ(run.Shown(5), QStringLiteral("x"));
+    EXPECT_EQ(inked(), 0) << "nothing half composed is left";
 }
 
 TEST(BlocksOnScreen, TheStripsWearTheColourOfTheMode) {

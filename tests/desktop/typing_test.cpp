@@ -173,6 +173,18 @@ TEST(WindowPaste, OfLinesBecomesOneLineAndWhatHasNoByteIsTold) {
     EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "");
 }
 
+TEST(WindowPaste, TwiceByTheMiddleButtonTogglesNoColumns) {
+    DesktopRun run;
+    run.window->PageOf(kSecond).Context().MarkedText = [] { return QStringLiteral("ab"); };
+    run.ChoosePage(1);
+    TextAreaView& line = run.Field(Text(kSecond, 0));
+    const QPoint place(0, line.height() / 2);
+    QTest::mouseClick(&line, Qt::MiddleButton, Qt::NoModifier, place);
+    QTest::mouseDClick(&line, Qt::MiddleButton, Qt::NoModifier, place);
+    EXPECT_FALSE(run.program.pages[kSecond].txtQty[0].Visible);
+    EXPECT_EQ(run.program.main.Focus, Text(kSecond, 0));
+}
+
 TEST(WindowPaste, OfAMegabyteHangsNothing) {
     DesktopRun run;
     run.ChoosePage(1);
@@ -410,6 +422,102 @@ TEST(WindowKeys, InAnAmountCopyAndMarkButEnterNoLetter) {
     run.Press(Qt::Key_End, Qt::ShiftModifier);
     EXPECT_EQ(run.Field(Text(kSecond, 33)).selectedText(), QStringLiteral("12,-."));
     ExpectCursorFollows(run);
+}
+
+/// Letters that a key brings together with Alt or the system's own key, and marks without a shape.
+void ExpectNoWayPastTheFilter(DesktopRun& run, const FieldRef& field) {
+    const std::string before = TextOf(run, field);
+    TextAreaView& view = run.Field(field);
+    for (const Qt::KeyboardModifier held : {Qt::AltModifier, Qt::MetaModifier}) {
+        QTest::keyClick(&view, Qt::Key_Q, held);
+        QKeyEvent letter(QEvent::KeyPress, Qt::Key_Q, held, QStringLiteral("q"));
+        QApplication::sendEvent(&view, &letter);
+    }
+    QKeyEvent softHyphen(QEvent::KeyPress, Qt::Key_hyphen, Qt::NoModifier, QString(QChar(0xAD)));
+    QApplication::sendEvent(&view, &softHyphen);
+    EXPECT_EQ(TextOf(run, field), before);
+    EXPECT_EQ(convert::ToModel(view.text()), before);
+}
+
+TEST(WindowKeys, WithAltEnterNoLetterPastTheFilter) {
+    DesktopRun run;
+    run.ChoosePage(1);
+    run.Click(kSecond, 33);
+    run.Type(QStringLiteral("12"));
+    ExpectNoWayPastTheFilter(run, Text(kSecond, 33));
+    run.Click(kSecond, 0);
+    run.Press(Qt::Key_F8);
+    run.Type(QStringLiteral("3"));
+    ExpectNoWayPastTheFilter(run, {kSecond, FieldKind::txtQty, 0});
+    run.Click(kSecond, 1);
+    QTest::keyClick(&run.Field(Text(kSecond, 1)), Qt::Key_Q, Qt::AltModifier);
+    EXPECT_EQ(TextOf(run, Text(kSecond, 1)), "");
+}
+
+/// Whether a black stroke, as only the caret is in an empty field, stands free at half height.
+bool ShowsCaret(TextAreaView& view) {
+    const QImage picture = view.grab().toImage();
+    for (int x = 0; x < picture.width(); ++x) {
+        const QColor color = picture.pixelColor(x, picture.height() / 2);
+        if (color.red() < 40 && color.green() < 90 && color.blue() < 90) {
+            return true;
+        }
+    }
+    return false;
+}
+
+TEST(WindowFocus, ShowsItsCaretBesideItsRing) {
+    DesktopRun run;
+    run.ChoosePage(1);
+    for (const int index : {0, 33}) {
+        run.Click(kSecond, index);
+        run.Press(Qt::Key_End);
+        ASSERT_TRUE(run.Field(Text(kSecond, index)).hasFocus());
+        EXPECT_TRUE(ShowsCaret(run.Field(Text(kSecond, index)))) << index;
+    }
+}
+
+TEST(WindowFocus, LeavesAFigureFreeOfTheCaret) {
+    DesktopRun run;
+    run.ChoosePage(1);
+    run.Click(kSecond, 33);
+    run.Type(QStringLiteral("8"));
+    TextAreaView& view = run.Field(Text(kSecond, 33));
+    const QImage picture = view.grab().toImage();
+    // From the left: the figure's ink, then a gap, then the caret's.
+    const auto inked = [&](int x) {
+        for (int y = 4; y < picture.height() - 4; ++y) {
+            if (picture.pixelColor(x, y).green() < 90) {
+                return true;
+            }
+        }
+        return false;
+    };
+    int strokes = 0;
+    const int last = static_cast<int>(picture.width() - 2 * picture.devicePixelRatio());
+    for (int x = picture.width() / 2; x < last; ++x) {
+        strokes += inked(x) && !inked(x - 1) ? 1 : 0;
+    }
+    EXPECT_EQ(strokes, 2);
+}
+
+TEST(WindowFocus, ByAHandThatIsNotQuiteStillMarksNothing) {
+    DesktopRun run;
+    run.ChoosePage(1);
+    run.Click(kSecond, 33);
+    run.Type(QStringLiteral("123456"));
+    run.Click(kSecond, 0);
+    TextAreaView& view = run.Field(Text(kSecond, 33));
+    const int y = view.height() / 2;
+    for (int x = view.width() - 30; x < view.width() - 20; ++x) {
+        run.Click(kSecond, 0);
+        QTest::mousePress(&view, Qt::LeftButton, Qt::NoModifier, QPoint(x, y));
+        QMouseEvent shaken(QEvent::MouseMove, QPointF(x + 1, y), view.mapToGlobal(QPointF(x + 1, y)),
+                           Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&view, &shaken);
+        QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, QPoint(x + 1, y));
+        EXPECT_EQ(view.selectedText(), QString()) << x;
+    }
 }
 
 TEST(WindowKeys, AFigureThatTheProgramRewritesHasItsCursorWhereTheProgramPutIt) {

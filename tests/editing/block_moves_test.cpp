@@ -1,5 +1,7 @@
 #include "editing/block_actions.h"
 #include "editing/block_moves.h"
+#include "shell/closing.h"
+#include "shell/frm_main.h"
 #include "shell/input.h"
 
 namespace {
@@ -429,6 +431,29 @@ TEST(MoveByKey, IsFinishedByWhateverComesNext) {
         Typist(run.program).Click(kSecond, 8);
         EXPECT_EQ(run.Stored(kSecond, 4), "Row") << "a click";
         EXPECT_EQ(run.program.editing.CurrentArea, 8);
+    }
+    {
+        BlockRun run;
+        held(run);
+        frmMain(run.program).imgPage_Click(2);
+        EXPECT_EQ(run.Stored(kSecond, 4), "Row") << "another page";
+        EXPECT_EQ(run.program.editing.CurrentArea, 0) << "where a paste would go";
+    }
+    {
+        BlockRun run;
+        held(run);
+        modInput::NoTaxMarkClick(run.program, kSecond, 40);
+        EXPECT_EQ(run.Stored(kSecond, 4), "Row") << "a click on a mark";
+    }
+    {
+        BlockRun run;
+        held(run);
+        run.program.document.SavedTextBuf = run.program.document.CurrentTextBuf;
+        run.surroundings.questions.ExpectBox({"The file has been changed. Do you want to save it?",
+                                              Buttons::YesNoCancel, "Text has been Changed"},
+                                             Answer::Cancel);
+        EXPECT_FALSE(modMain::MDIForm_QueryUnload(run.program)) << "closing the window";
+        EXPECT_FALSE(run.program.editing.MoveInProgress) << "or amounts would be saved in their old rows";
     }
     for (const CommandId id : {CommandId::mnuEditTextCopy, CommandId::mnuEditTextCut,
                                CommandId::mnuEditTextDelete, CommandId::mnuEditTextDeselect}) {

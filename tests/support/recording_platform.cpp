@@ -41,7 +41,7 @@ Answer ScriptedQuestions::MsgBox(std::string_view text, Buttons buttons, std::st
     const Box shown{std::string(text), buttons, std::string(title)};
     Shown.push_back(shown);
     if (takeAll_ && script_.empty()) {
-        return Answer::Ok;
+        return takeAllBy_;
     }
     if (script_.empty() || script_.front().IsInput) {
         ADD_FAILURE() << "unexpected box [" << title << "]: " << text;

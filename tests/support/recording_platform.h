@@ -33,8 +33,11 @@ public:
     void ExpectInput(std::string title, std::string reply);
     /// Fails if an expected box was not shown.
     void Done();
-    /// Boxes that no script expects are answered OK and recorded: for random runs, which look at `Shown`.
-    void TakeAll() { takeAll_ = true; }
+    /// Boxes that no script expects are answered so and recorded: for random runs, which look at `Shown`.
+    void TakeAll(Answer answer = Answer::Ok) {
+        takeAll_ = true;
+        takeAllBy_ = answer;
+    }
 
     Answer MsgBox(std::string_view text, Buttons buttons, std::string_view title) override;
     std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
@@ -53,6 +56,7 @@ private:
     };
     std::deque<Step> script_;
     bool takeAll_ = false;
+    Answer takeAllBy_ = Answer::Ok;
 };
 
 /// Every character is 100 twips wide in every font unless a test says otherwise, a line is 20 twips a point
