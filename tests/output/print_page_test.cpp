@@ -274,7 +274,8 @@ TEST(PrintTheForm, MakesOneDocumentOfAPageAndPutsThePrintersFontBack) {
 TEST(PrintTheForm, KeepsHandlersSilentWhileItDrawsAndNoLonger) {
     BarePages bare;
     bool silent = false;
-    bare.surroundings.events.OnYield = [&] { silent = bare.program.guards.HandlersSilent(); };
+    bare.program.pages[PageId::frmP2].txt = {BarePages::At(0, 0, "first")};
+    bare.Paper().OnEndDoc = [&] { silent = bare.program.guards.HandlersSilent(); };
     modPrint::PrintTheForm(bare.program, PageId::frmP2);
     EXPECT_TRUE(silent);
     EXPECT_FALSE(bare.program.guards.HandlersSilent());
