@@ -59,7 +59,7 @@ QImage LogoPicture(const std::string& path) {
     if (QPixmapCache::find(now, &kept)) {
         return kept.toImage();
     }
-    const QImage picture(file);
+    QImage picture(file);
     if (!picture.isNull()) {
         kept = QPixmap::fromImage(picture);
         QPixmapCache::insert(now, kept);
