@@ -7,7 +7,6 @@
 #include "document/totals.h"
 #include "editing/text_areas.h"
 #include "shell/input.h"
-#include "shell/page_switch.h"
 #include "support/scratch_folder.h"
 
 #include <benchmark/benchmark.h>
@@ -33,34 +32,6 @@ void KeyThroughTheChangePipeline(benchmark::State& state) {
     }
 }
 BENCHMARK(KeyThroughTheChangePipeline);
-
-/// A blank in the middle of the first row of a page whose rows are all full: every row passes words on.
-void BlankThatPushesThroughThirtyRows(benchmark::State& state) {
-    FullProposal full;
-    const FieldRef field{PageId::frmP2, FieldKind::txt, 0};
-    const std::string line =
-        "abcdefghi abcdefghi abcdefghi abcdefghi abcdefghi abcdefghi abcdefghi abcdefghi jklmno";
-    const std::string typed = "abc" + (" " + line.substr(3));
-    auto& rows = full.program.pages[PageId::frmP2].txt;
-    modScroll::UpdatePageButtons(full.program, 1);
-    modInput::FieldMouseDown(full.program, field, 1, 0, 3, 0);
-    for (auto _ : state) {
-        state.PauseTiming();
-        for (std::size_t row = 0; row <= 32; ++row) {
-            rows[row].Text = line;
-        }
-        full.program.editing.KeyCounter = 0;
-        state.ResumeTiming();
-        benchmark::DoNotOptimize(modInput::KeyDown(full.program, ' ', 0, 3, 0));
-        benchmark::DoNotOptimize(modInput::KeyPress(full.program, ' '));
-        modInput::Edited(full.program, field, typed, 4, 0);
-        modInput::KeyUp(full.program, ' ', 0, 4, 0);
-    }
-    if (rows[31].Text == line) {
-        state.SkipWithError("the words did not reach the last row");
-    }
-}
-BENCHMARK(BlankThatPushesThroughThirtyRows)->Unit(benchmark::kMicrosecond);
 
 void FullRecalculation(benchmark::State& state) {
     FullProposal full;

@@ -1,5 +1,6 @@
 #include "document/fields.h"
 #include "document/page_setup.h"
+#include "editing/row_texts.h"
 #include "shell/input.h"
 #include "support/running_program.h"
 #include "support/typist.h"
@@ -18,15 +19,6 @@ constexpr PageId kSecond = PageId::frmP2;
 
 FieldRef Area(PageId page, int index) {
     return {page, FieldKind::txt, index};
-}
-
-/// Words of nine letters and a blank: "abcdefghi " as often as asked for.
-std::string Words(int count) {
-    std::string text;
-    for (int word = 0; word < count; ++word) {
-        text += "abcdefghi ";
-    }
-    return text;
 }
 
 void Put(RunningProgram& run, PageId page, int index, const std::string& text) {

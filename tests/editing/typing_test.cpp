@@ -2,6 +2,7 @@
 #include "document/page_setup.h"
 #include "editing/columns.h"
 #include "editing/keys.h"
+#include "editing/row_texts.h"
 #include "editing/text_areas.h"
 #include "shell/input.h"
 #include "shell/page_switch.h"
@@ -23,15 +24,6 @@ constexpr PageId kSecond = PageId::frmP2;
 
 FieldRef Text(PageId page, int index) {
     return {page, FieldKind::txt, index};
-}
-
-/// Words of nine letters and a blank: "abcdefghi " as often as asked for.
-std::string Words(int count) {
-    std::string text;
-    for (int word = 0; word < count; ++word) {
-        text += "abcdefghi ";
-    }
-    return text;
 }
 
 void PutText(RunningProgram& run, PageId page, int index, const std::string& text) {
