@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/fields.h"
-#include "document/totals.h"
+#include "money/totals.h"
+#include "pages/fields.h"
 #include "shell/main_load.h"
 #include "shell/wiring.h"
 #include "support/recording_platform.h"

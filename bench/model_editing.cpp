@@ -1,9 +1,9 @@
 #include "full_proposal.h"
 
-#include "document/page_setup.h"
 #include "editing/block_moves.h"
 #include "editing/selection.h"
 #include "editing/text_areas.h"
+#include "pages/page_setup.h"
 #include "shell/input.h"
 #include "shell/page_switch.h"
 

@@ -1,11 +1,11 @@
 #include "full_proposal.h"
 
-#include "core/files.h"
-#include "document/proposal_file.h"
-#include "document/proposal_layout.h"
-#include "document/reset.h"
-#include "document/totals.h"
+#include "base/files.h"
 #include "editing/text_areas.h"
+#include "money/totals.h"
+#include "proposal/proposal_file.h"
+#include "proposal/proposal_layout.h"
+#include "proposal/reset.h"
 #include "shell/input.h"
 #include "support/scratch_folder.h"
 

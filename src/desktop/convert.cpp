@@ -1,6 +1,6 @@
 #include "desktop/convert.h"
 
-#include "core/ansi.h"
+#include "base/ansi.h"
 
 namespace convert {
 

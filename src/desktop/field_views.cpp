@@ -1,14 +1,14 @@
 #include "desktop/field_views.h"
 
-#include "core/ansi.h"
-#include "core/program.h"
+#include "base/ansi.h"
 #include "desktop/convert.h"
 #include "desktop/key_codes.h"
 #include "desktop/page_context.h"
 #include "desktop/paper_surface.h"
 #include "desktop/paper_text.h"
-#include "document/fields.h"
-#include "document/page_geometry.h"
+#include "pages/fields.h"
+#include "pages/page_geometry.h"
+#include "program/program.h"
 #include "shell/input.h"
 
 #include <QApplication>

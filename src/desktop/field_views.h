@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/page_records.h"
 #include "platform/text_measure.h"
+#include "program/page_records.h"
 
 #include <QAbstractButton>
 #include <QBasicTimer>

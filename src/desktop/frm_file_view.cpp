@@ -1,7 +1,7 @@
 #include "desktop/frm_file_view.h"
 
-#include "core/program.h"
 #include "desktop/convert.h"
+#include "program/program.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

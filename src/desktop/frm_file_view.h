@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/window_views.h"
-#include "document/frm_file.h"
+#include "proposal/frm_file.h"
 
 #include <QCheckBox>
 #include <QComboBox>

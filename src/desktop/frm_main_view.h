@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/menus.h"
-#include "document/page_records.h"
+#include "program/page_records.h"
 
 #include <QLabel>
 #include <QMainWindow>

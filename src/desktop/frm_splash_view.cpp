@@ -1,8 +1,8 @@
 #include "desktop/frm_splash_view.h"
 
-#include "core/program.h"
 #include "desktop/convert.h"
 #include "desktop/icons.h"
+#include "program/program.h"
 #include "shell/frm_splash.h"
 
 #include <QGuiApplication>

@@ -1,8 +1,8 @@
-#include "core/errors.h"
-#include "core/program.h"
 #include "desktop/frm_main_view.h"
 #include "desktop/icons.h"
 #include "desktop/qt_platform.h"
+#include "program/errors.h"
+#include "program/program.h"
 #include "shell/start_up.h"
 #include "shell/wiring.h"
 

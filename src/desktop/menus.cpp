@@ -1,7 +1,7 @@
 #include "desktop/menus.h"
 
-#include "core/program.h"
 #include "desktop/convert.h"
+#include "program/program.h"
 #include "shell/command_table.h"
 
 #include <QKeySequence>

@@ -1,12 +1,12 @@
 #include "desktop/page_view.h"
 
-#include "core/program.h"
 #include "desktop/band_view.h"
 #include "desktop/convert.h"
 #include "desktop/field_views.h"
 #include "desktop/paper_text.h"
-#include "document/page_geometry.h"
 #include "output/print_page.h"
+#include "pages/page_geometry.h"
+#include "program/program.h"
 #include "shell/input.h"
 
 #include <QMouseEvent>

@@ -2,7 +2,7 @@
 
 #include "desktop/page_context.h"
 #include "desktop/paper_surface.h"
-#include "document/page_records.h"
+#include "program/page_records.h"
 
 #include <QWidget>
 

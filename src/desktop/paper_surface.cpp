@@ -1,6 +1,6 @@
 #include "desktop/paper_surface.h"
 
-#include "core/ansi.h"
+#include "base/ansi.h"
 #include "desktop/convert.h"
 #include "desktop/paper_text.h"
 

@@ -1,9 +1,9 @@
 #include "desktop/qt_platform.h"
 
-#include "core/ansi.h"
-#include "core/install.h"
-#include "core/paths.h"
-#include "core/program.h"
+#include "base/ansi.h"
+#include "base/paths.h"
+#include "program/program.h"
+#include "settings/install.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
 #include "desktop/qt_printers.h"
 
-#include "core/ansi.h"
-#include "core/files.h"
+#include "base/ansi.h"
+#include "base/files.h"
 #include "desktop/convert.h"
 
 #include <QApplication>

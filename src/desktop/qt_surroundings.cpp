@@ -1,8 +1,8 @@
 #include "desktop/qt_surroundings.h"
 
-#include "core/ansi.h"
-#include "core/dates.h"
-#include "core/paths.h"
+#include "base/ansi.h"
+#include "base/dates.h"
+#include "base/paths.h"
 #include "desktop/convert.h"
 
 #include <QApplication>

@@ -1,13 +1,13 @@
 #include "desktop/settings_views.h"
 
-#include "core/frm_acstart.h"
-#include "core/frm_poffsets.h"
-#include "core/frm_pref.h"
-#include "core/frm_printers.h"
-#include "core/frm_tax.h"
-#include "core/program.h"
 #include "desktop/convert.h"
 #include "desktop/dialog_parts.h"
+#include "program/program.h"
+#include "settings/frm_acstart.h"
+#include "settings/frm_poffsets.h"
+#include "settings/frm_pref.h"
+#include "settings/frm_printers.h"
+#include "settings/frm_tax.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,8 +1,8 @@
 #include "desktop/tool_strip.h"
 
-#include "core/program.h"
 #include "desktop/convert.h"
 #include "desktop/icons.h"
+#include "program/program.h"
 #include "shell/frm_main.h"
 #include "shell/tool_buttons.h"
 

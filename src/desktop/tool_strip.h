@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/controls.h"
-#include "document/page_records.h"
+#include "program/controls.h"
+#include "program/page_records.h"
 #include "shell/tool_buttons.h"
 
 #include <QAbstractButton>

@@ -1,7 +1,7 @@
 #include "desktop/window_views.h"
 
-#include "core/program.h"
 #include "desktop/convert.h"
+#include "program/program.h"
 
 #include <QEvent>
 

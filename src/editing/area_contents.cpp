@@ -1,11 +1,11 @@
 #include "editing/area_contents.h"
 
-#include "core/guard.h"
-#include "core/program.h"
-#include "core/text.h"
-#include "document/fields.h"
-#include "document/page_geometry.h"
-#include "document/page_setup.h"
+#include "base/guard.h"
+#include "base/text.h"
+#include "pages/fields.h"
+#include "pages/page_geometry.h"
+#include "pages/page_setup.h"
+#include "program/program.h"
 
 namespace modBlocks {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/page_records.h"
-#include "editing/editing_records.h"
+#include "program/editing_records.h"
+#include "program/page_records.h"
 
 struct Program;
 

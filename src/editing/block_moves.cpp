@@ -1,13 +1,13 @@
 #include "editing/block_moves.h"
 
-#include "core/program.h"
-#include "core/text.h"
-#include "document/page_geometry.h"
+#include "base/text.h"
 #include "editing/area_contents.h"
 #include "editing/keys.h"
 #include "editing/navigation.h"
 #include "editing/selection.h"
 #include "editing/text_menu.h"
+#include "pages/page_geometry.h"
+#include "program/program.h"
 
 #include <exception>
 #include <string>

@@ -1,14 +1,14 @@
 #include "editing/blocks.h"
 
-#include "core/errors.h"
-#include "core/guard.h"
-#include "core/program.h"
-#include "document/page_geometry.h"
-#include "document/totals.h"
+#include "base/guard.h"
 #include "editing/area_contents.h"
 #include "editing/push.h"
 #include "editing/selection.h"
 #include "editing/text_menu.h"
+#include "money/totals.h"
+#include "pages/page_geometry.h"
+#include "program/errors.h"
+#include "program/program.h"
 
 namespace modBlocks {
 

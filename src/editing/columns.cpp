@@ -1,15 +1,15 @@
 #include "editing/columns.h"
 
-#include "core/errors.h"
-#include "core/guard.h"
-#include "core/numbers.h"
-#include "core/program.h"
-#include "document/fields.h"
-#include "document/page_geometry.h"
-#include "document/page_setup.h"
-#include "document/totals.h"
+#include "base/guard.h"
+#include "base/numbers.h"
 #include "editing/area_contents.h"
 #include "editing/navigation.h"
+#include "money/totals.h"
+#include "pages/fields.h"
+#include "pages/page_geometry.h"
+#include "pages/page_setup.h"
+#include "program/errors.h"
+#include "program/program.h"
 
 namespace modColumns {
 

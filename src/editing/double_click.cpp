@@ -1,10 +1,10 @@
 #include "editing/double_click.h"
 
-#include "core/dates.h"
-#include "core/numbers.h"
-#include "core/program.h"
-#include "core/text.h"
-#include "document/fields.h"
+#include "base/dates.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "pages/fields.h"
+#include "program/program.h"
 
 #include <optional>
 

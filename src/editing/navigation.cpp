@@ -1,10 +1,10 @@
 #include "editing/navigation.h"
 
-#include "core/program.h"
-#include "document/fields.h"
-#include "document/page_geometry.h"
-#include "document/page_setup.h"
 #include "editing/keys.h"
+#include "pages/fields.h"
+#include "pages/page_geometry.h"
+#include "pages/page_setup.h"
+#include "program/program.h"
 
 #include <optional>
 #include <span>

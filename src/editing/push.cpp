@@ -1,9 +1,9 @@
 #include "editing/push.h"
 
-#include "core/guard.h"
-#include "core/program.h"
-#include "document/fields.h"
-#include "document/page_setup.h"
+#include "base/guard.h"
+#include "pages/fields.h"
+#include "pages/page_setup.h"
+#include "program/program.h"
 
 #include <optional>
 #include <string>

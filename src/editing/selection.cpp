@@ -1,12 +1,12 @@
 #include "editing/selection.h"
 
-#include "core/errors.h"
-#include "core/program.h"
-#include "document/page_geometry.h"
-#include "document/page_setup.h"
 #include "editing/area_contents.h"
 #include "editing/text_areas.h"
 #include "editing/text_menu.h"
+#include "pages/page_geometry.h"
+#include "pages/page_setup.h"
+#include "program/errors.h"
+#include "program/program.h"
 
 #include <algorithm>
 #include <array>

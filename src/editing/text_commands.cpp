@@ -1,8 +1,8 @@
 #include "editing/text_commands.h"
 
-#include "core/program.h"
-#include "core/text.h"
-#include "document/fields.h"
+#include "base/text.h"
+#include "pages/fields.h"
+#include "program/program.h"
 
 #include <algorithm>
 #include <string>

@@ -1,8 +1,8 @@
 #include "editing/text_menu.h"
 
-#include "core/program.h"
-#include "document/page_geometry.h"
-#include "document/page_setup.h"
+#include "pages/page_geometry.h"
+#include "pages/page_setup.h"
+#include "program/program.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #include "format/grid.h"
 
-#include "core/errors.h"
-#include "core/program.h"
+#include "program/errors.h"
+#include "program/program.h"
 
 namespace modDesigner {
 

@@ -1,8 +1,8 @@
 #include "output/frm_dialog.h"
 
-#include "core/errors.h"
-#include "core/program.h"
-#include "core/windows.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "program/windows.h"
 
 void frmDialog::Form_Load(Program&) {
     Caption = "Printing";

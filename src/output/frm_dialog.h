@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/controls.h"
-#include "core/window.h"
+#include "program/controls.h"
+#include "program/window.h"
 
 /// "Printing": says which page is being printed and lets the person cancel.
 class frmDialog : public Window {

@@ -1,10 +1,10 @@
 #include "output/page_count.h"
 
-#include "core/numbers.h"
-#include "core/program.h"
-#include "core/text.h"
-#include "document/page_geometry.h"
-#include "document/page_setup.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "pages/page_geometry.h"
+#include "pages/page_setup.h"
+#include "program/program.h"
 
 #include <algorithm>
 #include <string>

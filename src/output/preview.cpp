@@ -1,9 +1,9 @@
 #include "output/preview.h"
 
-#include "core/errors.h"
-#include "core/program.h"
-#include "document/page_geometry.h"
 #include "output/print_page.h"
+#include "pages/page_geometry.h"
+#include "program/errors.h"
+#include "program/program.h"
 
 namespace modPrint {
 

@@ -1,15 +1,16 @@
 #include "output/print.h"
 
-#include "core/errors.h"
-#include "core/guard.h"
-#include "core/paths.h"
-#include "core/program.h"
-#include "core/windows.h"
-#include "document/file_names.h"
-#include "document/page_geometry.h"
+#include "base/guard.h"
+#include "base/paths.h"
 #include "output/frm_dialog.h"
 #include "output/page_count.h"
 #include "output/print_page.h"
+#include "pages/page_geometry.h"
+#include "program/data_folders.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "program/windows.h"
+#include "proposal/file_names.h"
 
 #include <string>
 #include <vector>
@@ -20,7 +21,8 @@ namespace {
 
 PrintCommand CommandFor(const Program& program) {
     const DocumentState& document = program.document;
-    const std::string folder = document.FilePath.empty() ? modMain::DataFolder(program) : document.FilePath;
+    const std::string folder =
+        document.FilePath.empty() ? modFolders::DataFolder(program) : document.FilePath;
     const std::string base = document.BaseName.empty() ? "Proposal" : document.BaseName;
     return {paths::Join(folder, base + ".pdf")};
 }

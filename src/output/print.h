@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/page_records.h"
+#include "program/page_records.h"
 
 struct Program;
 

@@ -1,10 +1,10 @@
 #include "output/print_page.h"
 
-#include "core/errors.h"
-#include "core/guard.h"
-#include "core/program.h"
-#include "document/page_geometry.h"
-#include "document/totals.h"
+#include "base/guard.h"
+#include "money/totals.h"
+#include "pages/page_geometry.h"
+#include "program/errors.h"
+#include "program/program.h"
 
 namespace modPrint {
 

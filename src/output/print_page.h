@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/page_records.h"
 #include "platform/drawing_surface.h"
+#include "program/page_records.h"
 
 struct Program;
 

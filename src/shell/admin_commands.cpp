@@ -1,9 +1,9 @@
 #include "shell/admin_commands.h"
 
-#include "core/numbers.h"
-#include "core/program.h"
-#include "core/windows.h"
-#include "document/frm_file.h"
+#include "base/numbers.h"
+#include "program/program.h"
+#include "program/windows.h"
+#include "proposal/frm_file.h"
 
 #include <memory>
 #include <string>

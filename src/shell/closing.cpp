@@ -1,10 +1,10 @@
 #include "shell/closing.h"
 
-#include "core/program.h"
-#include "core/windows.h"
-#include "document/lifecycle.h"
-#include "document/proposal_file.h"
 #include "editing/selection.h"
+#include "program/program.h"
+#include "program/windows.h"
+#include "proposal/lifecycle.h"
+#include "proposal/proposal_file.h"
 
 namespace modMain {
 

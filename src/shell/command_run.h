@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/command_ids.h"
+#include "program/command_ids.h"
 
 struct Program;
 

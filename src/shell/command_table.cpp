@@ -1,6 +1,6 @@
 #include "shell/command_table.h"
 
-#include "core/program.h"
+#include "program/program.h"
 
 #include <array>
 

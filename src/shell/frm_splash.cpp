@@ -1,9 +1,9 @@
 #include "shell/frm_splash.h"
 
-#include "core/guard.h"
-#include "core/program.h"
-#include "core/settings.h"
-#include "core/windows.h"
+#include "base/guard.h"
+#include "program/program.h"
+#include "program/windows.h"
+#include "settings/settings.h"
 #include "shell/load_fonts.h"
 #include "shell/main_load.h"
 

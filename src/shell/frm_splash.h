@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/controls.h"
-#include "core/window.h"
+#include "program/controls.h"
+#include "program/window.h"
 #include "shell/splash_picture.h"
 
 /// "Splash Screen": stands while the settings and the screen's fonts are read, and leads to the main window.

@@ -1,15 +1,15 @@
 #include "shell/input.h"
 
-#include "core/numbers.h"
-#include "core/program.h"
-#include "core/text.h"
-#include "document/fields.h"
-#include "document/page_geometry.h"
-#include "document/totals.h"
+#include "base/numbers.h"
+#include "base/text.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
 #include "editing/selection.h"
 #include "editing/text_areas.h"
+#include "money/totals.h"
+#include "pages/fields.h"
+#include "pages/page_geometry.h"
+#include "program/program.h"
 #include "shell/page_switch.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "shell/load_fonts.h"
 
-#include "core/errors.h"
-#include "core/program.h"
+#include "program/errors.h"
+#include "program/program.h"
 #include "shell/splash_picture.h"
 
 namespace modMain {

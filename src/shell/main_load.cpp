@@ -1,16 +1,17 @@
 #include "shell/main_load.h"
 
-#include "core/errors.h"
-#include "core/files.h"
-#include "core/guard.h"
-#include "core/paths.h"
-#include "core/program.h"
-#include "core/settings.h"
-#include "document/fields.h"
-#include "document/file_names.h"
-#include "document/page_setup.h"
-#include "document/reset.h"
-#include "document/titles.h"
+#include "base/files.h"
+#include "base/guard.h"
+#include "base/paths.h"
+#include "pages/fields.h"
+#include "pages/page_setup.h"
+#include "pages/titles.h"
+#include "program/data_folders.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "proposal/file_names.h"
+#include "proposal/reset.h"
+#include "settings/settings.h"
 #include "shell/command_table.h"
 #include "shell/load_fonts.h"
 #include "shell/tool_buttons.h"
@@ -83,7 +84,7 @@ void LoadSteps(Program& program) {
          {&program.main.cmdPreview, &program.main.cmdReCalc, &program.main.cmdTaxRate}) {
         button->Enabled = true;
     }
-    program.main.lblDir.Caption = "Current Folder = " + DataFolder(program);
+    program.main.lblDir.Caption = "Current Folder = " + modFolders::DataFolder(program);
     for (const PageId page : {PageId::frmP2, PageId::frmP3, PageId::frmP4, PageId::frmP5, PageId::frmP1}) {
         modPages::EnsureRowFields(program, page);
     }
@@ -111,7 +112,7 @@ void MDIForm_Load(Program& program) {
 
 void ConvertOldFiles(Program& program) {
     Guarded(program, "ConvertOldFiles", [&] {
-        const std::string folder = DataFolder(program);
+        const std::string folder = modFolders::DataFolder(program);
         if (!files::IsFolder(folder)) {
             return;
         }

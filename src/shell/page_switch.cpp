@@ -1,12 +1,12 @@
 #include "shell/page_switch.h"
 
-#include "core/errors.h"
-#include "core/guard.h"
-#include "core/program.h"
-#include "core/windows.h"
-#include "document/page_geometry.h"
-#include "document/page_setup.h"
+#include "base/guard.h"
 #include "output/preview.h"
+#include "pages/page_geometry.h"
+#include "pages/page_setup.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "program/windows.h"
 
 #include <algorithm>
 #include <string_view>

@@ -1,6 +1,6 @@
 #include "shell/preview_refusals.h"
 
-#include "core/program.h"
+#include "program/program.h"
 #include "shell/command_table.h"
 
 #include <algorithm>

@@ -1,15 +1,16 @@
 #include "shell/small_commands.h"
 
-#include "core/errors.h"
-#include "core/files.h"
-#include "core/numbers.h"
-#include "core/paths.h"
-#include "core/program.h"
-#include "core/settings.h"
-#include "core/text.h"
-#include "core/version.h"
-#include "core/windows.h"
-#include "document/file_names.h"
+#include "base/files.h"
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "base/version.h"
+#include "program/data_folders.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "program/windows.h"
+#include "proposal/file_names.h"
+#include "settings/settings.h"
 
 #include <string>
 #include <string_view>
@@ -158,7 +159,7 @@ void mnuOptEmptyBackup_Click(Program& program) {
         return;
     }
     Guarded(program, "mnuOptEmptyBackup", [&] {
-        const std::string folder = BackupFolder(program);
+        const std::string folder = modFolders::BackupFolder(program);
         const std::vector<std::string> found =
             files::IsFolder(folder) ? files::List(folder, "*.hef") : std::vector<std::string>{};
         for (const std::string& name : found) {

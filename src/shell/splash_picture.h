@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/colors.h"
+#include "base/colors.h"
 
 #include <string>
 #include <string_view>

@@ -1,12 +1,12 @@
 #include "shell/start_up.h"
 
-#include "core/errors.h"
-#include "core/files.h"
-#include "core/paths.h"
-#include "core/program.h"
-#include "core/settings.h"
-#include "core/text.h"
-#include "core/windows.h"
+#include "base/files.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "program/windows.h"
+#include "settings/settings.h"
 #include "shell/frm_splash.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "shell/tool_buttons.h"
 
-#include "core/program.h"
+#include "program/program.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/controls.h"
+#include "program/controls.h"
 
 struct Program;
 

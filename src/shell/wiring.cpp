@@ -1,11 +1,11 @@
 #include "shell/wiring.h"
 
-#include "core/program.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
 #include "editing/selection.h"
 #include "editing/text_areas.h"
 #include "editing/text_menu.h"
+#include "program/program.h"
 #include "shell/page_switch.h"
 
 namespace {

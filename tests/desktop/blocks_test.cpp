@@ -1,5 +1,5 @@
 #include "desktop/desktop_run.h"
-#include "document/fields.h"
+#include "pages/fields.h"
 
 #include <QApplication>
 #include <QInputMethodEvent>

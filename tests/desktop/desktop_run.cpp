@@ -2,7 +2,7 @@
 
 #include "desktop/convert.h"
 #include "desktop/tool_strip.h"
-#include "document/fields.h"
+#include "pages/fields.h"
 #include "shell/start_up.h"
 #include "shell/wiring.h"
 #include "support/running_program.h"

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "core/program.h"
 #include "desktop/field_views.h"
 #include "desktop/frm_main_view.h"
 #include "desktop/page_view.h"
 #include "desktop/paper_text.h"
 #include "desktop/qt_printers.h"
 #include "desktop/qt_surroundings.h"
+#include "program/program.h"
 #include "support/recording_platform.h"
 #include "support/scratch_folder.h"
 

@@ -1,6 +1,6 @@
-#include "core/windows.h"
 #include "desktop/desktop_run.h"
-#include "document/frm_file.h"
+#include "program/windows.h"
+#include "proposal/frm_file.h"
 #include "shell/command_run.h"
 #include "shell/command_table.h"
 #include "shell/page_switch.h"

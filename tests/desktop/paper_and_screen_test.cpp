@@ -1,10 +1,10 @@
-#include "core/text.h"
+#include "base/text.h"
 #include "desktop/convert.h"
 #include "desktop/desktop_run.h"
 #include "desktop/paper_surface.h"
-#include "document/page_geometry.h"
-#include "document/page_setup.h"
 #include "output/print_page.h"
+#include "pages/page_geometry.h"
+#include "pages/page_setup.h"
 
 #include <QDateTime>
 #include <QFile>

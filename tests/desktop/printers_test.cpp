@@ -1,7 +1,7 @@
-#include "core/files.h"
-#include "core/windows.h"
+#include "base/files.h"
 #include "desktop/desktop_run.h"
 #include "output/print.h"
+#include "program/windows.h"
 
 #include <QDialog>
 #include <QFile>

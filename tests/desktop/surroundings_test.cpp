@@ -1,6 +1,6 @@
-#include "core/program.h"
 #include "desktop/qt_platform.h"
 #include "desktop/qt_surroundings.h"
+#include "program/program.h"
 #include "support/recording_platform.h"
 #include "support/scratch_folder.h"
 

@@ -1,5 +1,5 @@
-#include "core/windows.h"
 #include "desktop/desktop_run.h"
+#include "program/windows.h"
 #include "shell/command_run.h"
 #include "support/running_program.h"
 

@@ -1,6 +1,6 @@
 #include "desktop/convert.h"
 #include "desktop/desktop_run.h"
-#include "document/fields.h"
+#include "pages/fields.h"
 #include "shell/input.h"
 
 #include <QApplication>

@@ -1,5 +1,5 @@
-#include "document/fields.h"
-#include "document/page_setup.h"
+#include "pages/fields.h"
+#include "pages/page_setup.h"
 #include "shell/input.h"
 #include "support/running_program.h"
 #include "support/typist.h"

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "document/fields.h"
-#include "document/page_setup.h"
 #include "editing/area_contents.h"
 #include "editing/selection.h"
+#include "pages/fields.h"
+#include "pages/page_setup.h"
 #include "shell/command_run.h"
 #include "shell/page_switch.h"
 #include "support/running_program.h"

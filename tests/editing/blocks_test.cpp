@@ -1,8 +1,8 @@
-#include "document/reset.h"
-#include "document/totals.h"
 #include "editing/block_actions.h"
 #include "editing/blocks.h"
 #include "editing/columns.h"
+#include "money/totals.h"
+#include "proposal/reset.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
-#include "document/fields.h"
 #include "editing/keys.h"
 #include "editing/text_areas.h"
+#include "pages/fields.h"
 #include "shell/input.h"
 #include "support/running_program.h"
 #include "support/typist.h"

@@ -1,6 +1,6 @@
-#include "document/fields.h"
-#include "document/page_setup.h"
 #include "editing/keys.h"
+#include "pages/fields.h"
+#include "pages/page_setup.h"
 #include "shell/page_switch.h"
 #include "support/running_program.h"
 #include "support/typist.h"

@@ -1,7 +1,7 @@
-#include "core/numbers.h"
-#include "core/text.h"
-#include "document/page_geometry.h"
+#include "base/numbers.h"
+#include "base/text.h"
 #include "editing/block_actions.h"
+#include "pages/page_geometry.h"
 #include "shell/frm_main.h"
 #include "shell/input.h"
 

@@ -1,7 +1,7 @@
 #include "output/page_count.h"
 
-#include "core/program.h"
-#include "document/page_geometry.h"
+#include "pages/page_geometry.h"
+#include "program/program.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>

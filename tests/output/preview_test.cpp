@@ -1,6 +1,6 @@
 #include "output/preview.h"
 
-#include "core/program.h"
+#include "program/program.h"
 #include "shell/command_run.h"
 #include "shell/frm_main.h"
 #include "shell/page_switch.h"

@@ -1,8 +1,8 @@
 #include "output/print.h"
 
-#include "core/program.h"
-#include "core/windows.h"
 #include "output/frm_dialog.h"
+#include "program/program.h"
+#include "program/windows.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>

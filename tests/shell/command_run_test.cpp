@@ -1,9 +1,9 @@
 #include "shell/command_run.h"
 
-#include "core/program.h"
-#include "core/version.h"
-#include "core/windows.h"
-#include "document/frm_file.h"
+#include "base/version.h"
+#include "program/program.h"
+#include "program/windows.h"
+#include "proposal/frm_file.h"
 #include "shell/closing.h"
 #include "shell/command_table.h"
 #include "shell/small_commands.h"

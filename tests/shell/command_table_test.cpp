@@ -1,6 +1,6 @@
 #include "shell/command_table.h"
 
-#include "core/program.h"
+#include "program/program.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>

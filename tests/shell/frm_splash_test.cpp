@@ -1,6 +1,6 @@
 #include "shell/frm_splash.h"
 
-#include "core/windows.h"
+#include "program/windows.h"
 #include "shell/start_up.h"
 #include "support/running_program.h"
 

@@ -1,8 +1,8 @@
 #include "shell/input.h"
 
-#include "core/program.h"
-#include "document/fields.h"
 #include "editing/keys.h"
+#include "pages/fields.h"
+#include "program/program.h"
 #include "shell/page_switch.h"
 #include "support/running_program.h"
 #include "support/typist.h"

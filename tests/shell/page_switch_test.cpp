@@ -1,7 +1,7 @@
 #include "shell/page_switch.h"
 
-#include "core/program.h"
-#include "core/windows.h"
+#include "program/program.h"
+#include "program/windows.h"
 #include "shell/frm_main.h"
 #include "support/running_program.h"
 

@@ -1,7 +1,7 @@
 #include "shell/preview_refusals.h"
 
-#include "core/program.h"
 #include "output/preview.h"
+#include "program/program.h"
 #include "shell/command_run.h"
 #include "shell/command_table.h"
 #include "shell/page_switch.h"

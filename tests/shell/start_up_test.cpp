@@ -1,7 +1,7 @@
 #include "shell/start_up.h"
 
-#include "core/windows.h"
-#include "document/page_geometry.h"
+#include "pages/page_geometry.h"
+#include "program/windows.h"
 #include "shell/closing.h"
 #include "support/running_program.h"
 #include "support/typist.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/program.h"
 #include "platform/platform.h"
+#include "program/program.h"
 
 #include <array>
 #include <deque>

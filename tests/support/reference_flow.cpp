@@ -1,6 +1,6 @@
 #include "support/reference_flow.h"
 
-#include "core/dates.h"
+#include "base/dates.h"
 
 #include <algorithm>
 #include <cctype>

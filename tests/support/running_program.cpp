@@ -1,7 +1,7 @@
 #include "support/running_program.h"
 
-#include "core/windows.h"
 #include "editing/keys.h"
+#include "program/windows.h"
 #include "shell/command_run.h"
 #include "shell/frm_main.h"
 #include "shell/frm_splash.h"

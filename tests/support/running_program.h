@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/program.h"
+#include "program/program.h"
 #include "support/recording_platform.h"
 #include "support/scratch_folder.h"
 

@@ -1,7 +1,7 @@
 #include "support/typist.h"
 
-#include "core/program.h"
-#include "document/fields.h"
+#include "pages/fields.h"
+#include "program/program.h"
 #include "shell/input.h"
 #include "shell/page_switch.h"
 

@@ -1,0 +1,404 @@
+#include "money/totals.h"
+
+#include "base/guard.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "pages/fields.h"
+#include "pages/page_geometry.h"
+#include "pages/page_setup.h"
+#include "program/errors.h"
+#include "program/program.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace modTotals {
+
+namespace {
+
+constexpr std::string_view kShown = "##,##0.00";
+constexpr std::string_view kMessage = "##,###.00";
+constexpr std::string_view kCompared = "#########.00";
+
+/// The areas of the final page.
+enum Figure : int { kSubTotal, kTaxable, kTax, kTotal, kDeposit, kBalance, kFigureCount };
+
+std::string Shown(float value) {
+    return numbers::FormatSingle(value, kShown);
+}
+
+void WriteFigure(Program& program, int figure, std::string_view value) {
+    modFields::SetText(program, {PageId::frmP6, FieldKind::txt, figure}, value);
+}
+
+void MirrorFigures(Program& program) {
+    const Page& ours = program.pages[PageId::frmP6];
+    Page& copy = program.pages[PageId::frmP6_1];
+    for (std::size_t figure = 0; figure < kFigureCount; ++figure) {
+        copy.txt[figure].Text = ours.txt[figure].Text;
+    }
+}
+
+void ShowRunningLabel(Program& program, float subTotal) {
+    program.main.lblTotal.Caption =
+        "Running Sub-Total = " + program.settings.CurrencySymbol + " " + Shown(subTotal);
+}
+
+void ShowSettled(Program& program) {
+    program.main.cmdReCalc.BackColor = colors::kButtonFace;
+}
+
+/// What is too large for a single stays at the largest: a figure is always a number that can be shown.
+float Single(double value) {
+    constexpr double kMost = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(value, -kMost, kMost));
+}
+
+/// The sum of two singles as a single; going over a double rounds no differently.
+float Sum(float one, float other) {
+    return Single(static_cast<double>(one) + static_cast<double>(other));
+}
+
+float TaxOn(float taxable, float rate) {
+    return Single(static_cast<double>(taxable) * (static_cast<double>(rate) * 0.01));
+}
+
+bool MarkVisible(const Page& page, std::size_t index) {
+    return page.imgNoTax[index].Visible;
+}
+
+std::optional<float> Numeric(const Program& program, std::string_view value) {
+    return numbers::ToSingle(text::Trim(value), program.settings.CurrencySymbol);
+}
+
+/// The pass over all amount fields; the figures of `totals` that it owns follow.
+void AddAllFields(Program& program) {
+    TotalsRecords& totals = program.totals;
+    float subTotal = 0;
+    float taxable = 0;
+    for (const PageId page : kLinePages) {
+        const Page& record = program.pages[page];
+        for (std::size_t index = 0; index < record.txt.size(); ++index) {
+            if (geometry::KindOf(record.txt[index].Tag) != "Amou") {
+                continue;
+            }
+            const std::optional<float> value = Numeric(program, record.txt[index].Text);
+            if (!value) {
+                continue;
+            }
+            subTotal = Sum(subTotal, *value);
+            if (!MarkVisible(record, index)) {
+                taxable = Sum(taxable, *value);
+            }
+        }
+    }
+    totals.FullSubTotal = subTotal;
+    totals.FullTaxableTotal = taxable;
+    totals.SalesTax = TaxOn(taxable, totals.TaxRate);
+    totals.Total = Sum(subTotal, totals.SalesTax);
+    totals.FullTotal = totals.Total;
+}
+
+void WriteFullFigures(Program& program) {
+    TotalsRecords& totals = program.totals;
+    if (totals.Total == 0) {
+        for (int figure = 0; figure < kFigureCount; ++figure) {
+            WriteFigure(program, figure, "0.00");
+        }
+        // The deposit follows its field, or the next running update would bring it back against an empty
+        // total.
+        totals.Deposit = 0;
+        totals.Balance = 0;
+        return;
+    }
+    WriteFigure(program, kSubTotal, Shown(totals.FullSubTotal));
+    WriteFigure(program, kTaxable, Shown(totals.FullTaxableTotal));
+    WriteFigure(program, kTax, Shown(totals.SalesTax));
+    // No pattern here: after a recalculation the total stands bare until the next running update.
+    WriteFigure(program, kTotal, numbers::PlainNumber(totals.Total));
+    totals.Balance = Sum(totals.Total, -totals.Deposit);
+    WriteFigure(program, kDeposit, Shown(totals.Deposit));
+    WriteFigure(program, kBalance, Shown(totals.Balance));
+}
+
+void ComputeRunning(TotalsRecords& totals) {
+    totals.SubTotal = 0;
+    totals.TaxableTotal = 0;
+    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+        totals.SubTotal = Sum(totals.SubTotal, totals.PageSum[page]);
+        totals.TaxableTotal = Sum(totals.TaxableTotal, totals.PageTaxable[page]);
+    }
+}
+
+void TakeRunning(TotalsRecords& totals) {
+    totals.SalesTax = TaxOn(totals.TaxableTotal, totals.TaxRate);
+    totals.Total = Sum(totals.SubTotal, totals.SalesTax);
+    totals.RunningTotal = totals.Total;
+    totals.Balance = Sum(totals.Total, -totals.Deposit);
+}
+
+/// The person is typing the deposit, and what stands there is the figure already.
+bool DepositIsBeingTyped(const Program& program) {
+    if (program.main.Focus != FieldRef{PageId::frmP6, FieldKind::txt, kDeposit}) {
+        return false;
+    }
+    const std::string_view value = text::Trim(program.pages[PageId::frmP6].txt[kDeposit].Text);
+    return value.empty() ? program.totals.Deposit == 0 : Numeric(program, value) == program.totals.Deposit;
+}
+
+} // namespace
+
+void CalculateMyTotals(Program& program, PageId page) {
+    TotalsRecords& totals = program.totals;
+    const auto at = static_cast<std::size_t>(IndexOf(page));
+    const Page& record = program.pages[page];
+    float sum = 0;
+    float taxable = 0;
+    for (std::size_t row = 0; row < record.txt.size(); ++row) {
+        const float amount = totals.AmountTable[row][at];
+        sum = Sum(sum, amount);
+        if (!MarkVisible(record, row)) {
+            taxable = Sum(taxable, amount);
+        }
+    }
+    totals.PageSum[at] = sum;
+    totals.PageTaxable[at] = taxable;
+}
+
+void UpdateRunningTotals(Program& program) {
+    TotalsRecords& totals = program.totals;
+    const ScopedFlag writing(totals.InRunningUpdate);
+    if (totals.TotalsHidden) {
+        // Written over after each digit, a deposit could not be typed at all; leaving the field writes it.
+        if (!DepositIsBeingTyped(program)) {
+            WriteFigure(program, kDeposit, Shown(totals.Deposit));
+        }
+        program.pages[PageId::frmP6_1].txt[kDeposit].Text = program.pages[PageId::frmP6].txt[kDeposit].Text;
+        return;
+    }
+    ComputeRunning(totals);
+    TakeRunning(totals);
+    WriteFigure(program, kSubTotal, Shown(totals.SubTotal));
+    WriteFigure(program, kTaxable, Shown(totals.TaxableTotal));
+    WriteFigure(program, kTax, Shown(totals.SalesTax));
+    WriteFigure(program, kTotal, Shown(totals.Total));
+    WriteFigure(program, kBalance, Shown(totals.Balance));
+    ShowRunningLabel(program, totals.SubTotal);
+    ShowSettled(program);
+    MirrorFigures(program);
+    totals.TotalsStale = false;
+}
+
+void RecalculateAll(Program& program) {
+    if (program.totals.TotalsHidden) {
+        return;
+    }
+    const bool done = Guarded(program, "RecalculateAll", [&] {
+        const ScopedFlag recalculating(program.totals.InRecalculation);
+        AddAllFields(program);
+        WriteFullFigures(program);
+        MirrorFigures(program);
+        program.totals.TotalsStale = false;
+        ShowSettled(program);
+        ShowRunningLabel(program, program.totals.FullSubTotal);
+    });
+    if (!done) {
+        program.platform.questions.MsgBox("Error encountered while recalculating totals.", Buttons::Ok, "");
+    }
+}
+
+std::string RecalculationMessage(const Program& program) {
+    const TotalsRecords& totals = program.totals;
+    const auto shown = [](float value) { return numbers::FormatSingle(value, kMessage); };
+    return text::Lines({"All amounts have been recalculated.", "SubTotal = " + shown(totals.FullSubTotal),
+                        "Taxable SubTotal = " + shown(totals.FullTaxableTotal),
+                        "Sales Tax = " + shown(totals.SalesTax), "Total = " + shown(totals.Total),
+                        "Deposit = " + shown(totals.Deposit), "Balance = " + shown(totals.Balance)});
+}
+
+bool TotalsDiffer(const Program& program) {
+    return numbers::FormatSingle(program.totals.FullTotal, kCompared) !=
+           numbers::FormatSingle(program.totals.RunningTotal, kCompared);
+}
+
+std::string DiscrepancyMessage() {
+    return text::Lines({"A descrepancy has occurred in calculating the totals. Please verify",
+                        "the total amounts manually or press \"Recalculate\" to continue the",
+                        "calculation without true verification. We apologize for the inconvenience."});
+}
+
+bool StoreAmount(Program& program, PageId page, int index) {
+    const Page& record = program.pages[page];
+    const auto row = static_cast<std::size_t>(index);
+    const std::string_view value = text::Trim(record.txt[row].Text);
+    float& amount = program.totals.AmountTable[row][static_cast<std::size_t>(IndexOf(page))];
+    float& taxable = program.totals.TaxableTable[row][static_cast<std::size_t>(IndexOf(page))];
+    if (value.empty()) {
+        amount = 0;
+        taxable = 0;
+        modPages::SetCurrencySign(program, page, index, modPages::Mark::Hidden);
+        return true;
+    }
+    const std::optional<float> number = Numeric(program, value);
+    if (!number) {
+        return false;
+    }
+    amount = *number;
+    taxable = MarkVisible(record, row) ? 0 : *number;
+    modPages::SetCurrencySign(program, page, index, modPages::Mark::Shown);
+    return true;
+}
+
+void cmdReCalc_Click(Program& program) {
+    RecalculateAll(program);
+    program.platform.questions.MsgBox(RecalculationMessage(program), Buttons::Ok, "");
+}
+
+void mnuToolsRecalculate_Click(Program& program) {
+    RecalculateAll(program);
+}
+
+void mnuOptHideTotals_Click(Program& program) {
+    CommandState& entry = program.main[CommandId::mnuOptHideTotals];
+    entry.Checked = !entry.Checked;
+    TotalsRecords& totals = program.totals;
+    totals.TotalsHidden = entry.Checked;
+    program.main.cmdReCalc.Visible = !totals.TotalsHidden;
+    if (totals.TotalsHidden) {
+        // Nothing keeps the two up to date while hidden; a save must not find them apart.
+        totals.FullTotal = totals.Total;
+        totals.RunningTotal = totals.Total;
+    }
+    const ScopedFlag writing(totals.InRunningUpdate);
+    for (const int figure : {kSubTotal, kTaxable, kTax, kTotal, kBalance}) {
+        WriteFigure(program, figure, "");
+        program.pages[PageId::frmP6_1].txt[static_cast<std::size_t>(figure)].Text.clear();
+    }
+}
+
+void imgNoTax_Click(Program& program, PageId page, int row) {
+    modPages::SetNoTaxMark(program, page, row, modPages::Mark::Hidden);
+    const auto at = static_cast<std::size_t>(IndexOf(page));
+    const auto index = static_cast<std::size_t>(row);
+    TextChangeRecord& props = program.format.PropTextChanges[at][index];
+    props.TaxExempt = false;
+    props.Dirty = true;
+    program.format.FormatTextChanges[at][index].TaxExempt = false;
+    program.totals.TaxableTable[index][at] = program.totals.AmountTable[index][at];
+    CalculateMyTotals(program, page);
+    UpdateRunningTotals(program);
+    program.main.cmdReCalc.BackColor = colors::kOverLimit;
+    modFields::GiveFocus(program, {page, FieldKind::txt, row});
+}
+
+void mnuAdminCheckAddition_Click(Program& program) {
+    const std::string value = program.platform.questions.InputBox("Please enter value", "", "");
+    const float number = numbers::ToSingle(value).value_or(0.0F);
+    constexpr int kFirst = 33, kLast = 65;
+    const auto field = [](int index) { return FieldRef{PageId::frmP2, FieldKind::txt, index}; };
+    for (int index = kFirst + 1; index <= kLast; ++index) {
+        modFields::SetText(program, field(index), "");
+    }
+    // The menu's own table tells of a growing sum in every row; the totals' account of it is the one that
+    // holds: the same value in each row, and the sum beside it.
+    std::array<float, 34> sums{};
+    for (int index = kFirst; index <= kLast; ++index) {
+        modFields::SetText(program, field(index), value);
+        const auto at = static_cast<std::size_t>(index - kFirst);
+        sums[at + 1] = Sum(sums[at], number);
+    }
+    program.platform.questions.MsgBox(numbers::PlainNumber(sums.back()), Buttons::Ok, "");
+}
+
+void FinalPageChange(Program& program, int index) {
+    const Page& page = program.pages[PageId::frmP6];
+    const TextArea& area = page.txt[static_cast<std::size_t>(index)];
+    TotalsRecords& totals = program.totals;
+    program.document.CurrentTextBuf[kEditedPageCount - 1][static_cast<std::size_t>(index)] = area.Text;
+    program.pages[PageId::frmP6_1].txt[static_cast<std::size_t>(index)].Text = area.Text;
+    if (program.guards.HandlersSilent() || totals.InRecalculation || totals.InRunningUpdate) {
+        return;
+    }
+    const std::string_view kind = geometry::KindOf(area.Tag);
+    float* figure = kind == "Tax."   ? &totals.SalesTax
+                    : kind == "AllT" ? &totals.TaxableTotal
+                    : kind == "Depo" ? &totals.Deposit
+                                     : nullptr;
+    if (figure == nullptr) {
+        return;
+    }
+    const std::string_view value = text::Trim(area.Text);
+    const std::optional<float> number = value.empty() ? std::optional(0.0F) : Numeric(program, value);
+    if (!number) {
+        return;
+    }
+    *figure = *number;
+    UpdateRunningTotals(program);
+    program.main.cmdReCalc.BackColor = colors::kOverLimit;
+}
+
+void RewriteDeposit(Program& program) {
+    // As typed: the figure that stands there from now on is the one that counts.
+    WriteFigure(program, kDeposit, Shown(program.totals.Deposit));
+}
+
+void FinalPageLostFocus(Program& program, int index) {
+    static_cast<void>(index);
+    const TotalsRecords& totals = program.totals;
+    if (totals.Deposit + totals.SubTotal + totals.SalesTax + totals.TaxableTotal == 0) {
+        return;
+    }
+    RewriteDeposit(program);
+    UpdateRunningTotals(program);
+}
+
+void TotalsAfterReading(Program& program) {
+    TotalsRecords& totals = program.totals;
+    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+        totals.PageSum[page] = 0;
+        totals.PageTaxable[page] = 0;
+        for (std::size_t row = 0; row < kRowCount; ++row) {
+            totals.PageSum[page] = Sum(totals.PageSum[page], totals.AmountTable[row][page]);
+            totals.PageTaxable[page] = Sum(totals.PageTaxable[page], totals.TaxableTable[row][page]);
+        }
+    }
+    ComputeRunning(totals);
+    if (totals.TaxableTotal < 0) {
+        totals.TaxableTotal = 0; // only here: a file's negative taxable amount earns no tax back
+    }
+    auto& current = program.document.CurrentTextBuf[kEditedPageCount - 1];
+    const std::string stored(text::Trim(current[kDeposit]));
+    const std::optional<float> deposit = stored.empty() ? std::optional(0.0F) : Numeric(program, stored);
+    if (!deposit) {
+        program.platform.questions.MsgBox(
+            text::Lines({"Deposit is not numeric. Zero will be entered. Please",
+                         "double-check the Deposit amount from previous records."}),
+            Buttons::Ok, "");
+    }
+    totals.Deposit = deposit.value_or(0.0F);
+    TakeRunning(totals);
+    totals.FullTotal = totals.RunningTotal;
+    totals.FullSubTotal = totals.SubTotal;
+    totals.FullTaxableTotal = totals.TaxableTotal;
+    const ScopedFlag writing(totals.InRunningUpdate);
+    if (!totals.TotalsHidden) {
+        WriteFigure(program, kSubTotal, Shown(totals.SubTotal));
+        WriteFigure(program, kTaxable, Shown(totals.TaxableTotal));
+        WriteFigure(program, kTax, Shown(totals.SalesTax));
+        WriteFigure(program, kTotal, Shown(totals.Total));
+        WriteFigure(program, kBalance, Shown(totals.Balance));
+        ShowRunningLabel(program, totals.SubTotal);
+        ShowSettled(program);
+    }
+    WriteFigure(program, kDeposit, Shown(totals.Deposit));
+    MirrorFigures(program);
+    // What shows is what the proposal is compared with, also while the totals are hidden.
+    const Page& page = program.pages[PageId::frmP6];
+    for (std::size_t figure = 0; figure < kFigureCount; ++figure) {
+        current[figure] = page.txt[figure].Text;
+        program.document.SavedTextBuf[kEditedPageCount - 1][figure] = page.txt[figure].Text;
+    }
+}
+
+} // namespace modTotals

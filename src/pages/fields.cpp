@@ -1,0 +1,120 @@
+#include "pages/fields.h"
+
+#include "base/text.h"
+#include "pages/page_geometry.h"
+#include "pages/page_setup.h"
+#include "pages/quantity_row.h"
+#include "program/program.h"
+
+#include <algorithm>
+
+namespace modFields {
+
+namespace {
+
+std::vector<TextArea>& ArrayOf(Program& program, const FieldRef& field) {
+    Page& page = program.pages[field.Page];
+    switch (field.Kind) {
+    case FieldKind::txtQty:
+        return page.txtQty;
+    case FieldKind::txtAmt:
+        return page.txtAmt;
+    default:
+        return page.txt;
+    }
+}
+
+bool TakesFocus(Program& program, const FieldRef& field) {
+    // The client's copy is there to be printed; nobody types on it.
+    if (!Exists(program, field) || field.Page == PageId::frmP6_1) {
+        return false;
+    }
+    const TextArea& area = Area(program, field);
+    return area.Visible && area.Enabled;
+}
+
+} // namespace
+
+TextArea& Area(Program& program, const FieldRef& field) {
+    return ArrayOf(program, field)[static_cast<std::size_t>(field.Index)];
+}
+
+bool Exists(const Program& program, const FieldRef& field) {
+    const Page& page = program.pages[field.Page];
+    const std::vector<TextArea>* areas = field.Kind == FieldKind::txt      ? &page.txt
+                                         : field.Kind == FieldKind::txtQty ? &page.txtQty
+                                         : field.Kind == FieldKind::txtAmt ? &page.txtAmt
+                                                                           : nullptr;
+    return areas != nullptr && field.Index >= 0 && static_cast<std::size_t>(field.Index) < areas->size();
+}
+
+void SetCursor(TextArea& area, int selStart, int selLength) {
+    const int length = static_cast<int>(area.Text.size());
+    area.SelStart = std::clamp(selStart, 0, length);
+    area.SelLength = std::clamp(selLength, 0, length - area.SelStart);
+}
+
+void SetText(Program& program, const FieldRef& field, std::string_view value) {
+    TextArea& area = Area(program, field);
+    if (area.Text == value) {
+        return;
+    }
+    area.Text = value;
+    area.SelStart = 0;
+    area.SelLength = 0;
+    if (program.hooks.Change) {
+        program.hooks.Change(program, field);
+    }
+}
+
+void TypeText(Program& program, const FieldRef& field, std::string_view value, int selStart, int selLength) {
+    TextArea& area = Area(program, field);
+    const bool differs = area.Text != value;
+    area.Text = value;
+    SetCursor(area, selStart, selLength);
+    if (differs && program.hooks.Change) {
+        program.hooks.Change(program, field);
+    }
+}
+
+void GiveFocus(Program& program, const FieldRef& field) {
+    if (program.main.Focus == field || !TakesFocus(program, field)) {
+        return;
+    }
+    DropFocus(program);
+    // Leaving may have shown a message or moved things; the field must still be there to be entered.
+    if (!TakesFocus(program, field)) {
+        return;
+    }
+    program.main.Focus = field;
+    if (program.hooks.GotFocus) {
+        program.hooks.GotFocus(program, field);
+    }
+}
+
+void DropFocus(Program& program) {
+    if (!program.main.Focus) {
+        return;
+    }
+    const FieldRef left = *program.main.Focus;
+    program.main.Focus.reset();
+    if (program.hooks.LostFocus && Exists(program, left)) {
+        program.hooks.LostFocus(program, left);
+    }
+}
+
+std::string ComposeLine(const Program& program, PageId page, int index) {
+    const Page& record = program.pages[page];
+    const std::string& value = record.txt[static_cast<std::size_t>(index)].Text;
+    if (!IsLinePage(page)) {
+        return value;
+    }
+    const std::string_view trimmed = text::Trim(value);
+    if (!geometry::IsDescription(page, index) || !modPages::ColumnsOn(program, page, index)) {
+        return std::string(trimmed);
+    }
+    const auto row = static_cast<std::size_t>(index);
+    return quantity_row::Compose(record.txtQty[row].Text, trimmed, record.txtAmt[row].Text);
+}
+
+} // namespace modFields

@@ -1,0 +1,17 @@
+#include "program/data_folders.h"
+
+#include "base/paths.h"
+#include "program/program.h"
+
+namespace modFolders {
+
+std::string DataFolder(const Program& program) {
+    return program.folders.ProposalsFolder.empty() ? paths::Join(program.folders.InstallFolder, "Proposals/")
+                                                   : program.folders.ProposalsFolder;
+}
+
+std::string BackupFolder(const Program& program) {
+    return paths::Join(DataFolder(program), "Backup/");
+}
+
+} // namespace modFolders

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+struct Program;
+
+/// The one answer to where the program's data lie. Folders end in a separator.
+namespace modFolders {
+
+/// The folder of the proposals and shared data, also when the settings could not be read.
+[[nodiscard]] std::string DataFolder(const Program& program);
+[[nodiscard]] std::string BackupFolder(const Program& program);
+
+} // namespace modFolders

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "program/page_records.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+/// The one open proposal. Folders end in a separator.
+struct DocumentState {
+    std::string FilePath;
+    std::string FileName; ///< with extension; empty for an unsaved proposal
+    std::string BaseName;
+    std::string TextFileName;
+    std::string FootnoteFile;
+    std::string DepositFile;
+    bool FileExists = false;
+    bool FromBackup = false;
+    bool BackingUp = false;
+    std::string ClientCaption; ///< "Proposal for " and the client; also called ProposalTitle
+    std::string DocumentKind = "Event";
+    std::string PageHeading; ///< the running heading of the pages, also called the header prefix
+    bool Cancelled = false;
+    bool SaveAsActive = false;
+    int PagesInUse = 6;
+    std::string FileFilter = "*.hef";
+    bool DeleteMode = false;
+    bool IgnoreProperties = false;
+    bool SavedStateStale = false; ///< a format was saved since; counts as a changed property
+    bool CompanyBlockPending = false;
+
+    /// Whether the name stands for a proposal: an erased client leaves ".hef", which is none.
+    [[nodiscard]] bool HasName() const { return !FileName.empty() && FileName != ".hef"; }
+
+    /// Per edited page: the text of each area as the file is written from it, and as it was last saved.
+    std::array<std::vector<std::string>, kEditedPageCount> CurrentTextBuf;
+    std::array<std::vector<std::string>, kEditedPageCount> SavedTextBuf;
+};
+
+/// Flags by which change handlers are kept quiet. Raise them with base/guard.h only.
+struct GuardFlags {
+    bool ResetActive = false;     ///< a reset, page set-up or page defaults run
+    bool Loading = false;         ///< a file is being read
+    bool ApplyingFonts = false;   ///< fonts are laid over the pages
+    bool Printing = false;        ///< a page is being drawn
+    bool KeepPageContent = false; ///< start-up: the first reset leaves captions alone
+    bool StartingUp = false;      ///< start-up, as the page switch asks for it
+
+    [[nodiscard]] bool HandlersSilent() const { return ResetActive || Loading || ApplyingFonts || Printing; }
+};

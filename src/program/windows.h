@@ -1,0 +1,32 @@
+#pragma once
+
+#include "program/window.h"
+
+#include <memory>
+#include <string_view>
+
+struct Program;
+
+/// The small windows that are open.
+namespace modWindows {
+
+/// Opens a window: runs Form_Load and puts it last in the collection.
+Window& Show(Program& program, std::unique_ptr<Window> window);
+
+/// Closes a window: runs Form_Unload and marks it; `Sweep` takes it out.
+void Close(Program& program, Window& window);
+
+/// Takes closed windows out of the collection. Called by the front end and the tests when an event has ended,
+/// never while a handler of the window may still be running.
+void Sweep(Program& program);
+
+/// The open window of that name, or null.
+[[nodiscard]] Window* Find(Program& program, std::string_view name);
+
+/// The modal window that takes all input, or null.
+[[nodiscard]] Window* TopModal(Program& program);
+
+/// Closes all windows from the last to the first.
+void UnloadAll(Program& program);
+
+} // namespace modWindows

@@ -1,0 +1,50 @@
+#include "proposal/file_names.h"
+
+#include "base/dates.h"
+#include "base/files.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "program/errors.h"
+#include "program/program.h"
+
+namespace modMain {
+
+bool IllegalFileName(Program& program, std::string_view name) {
+    constexpr std::string_view kIllegal = "/\\:*?<>|";
+    if (name.find_first_of(kIllegal) == std::string_view::npos) {
+        return false;
+    }
+    program.platform.questions.MsgBox(text::Lines({"Action Cancelled. File Name cannot include any of ",
+                                                   "the following characters: / \\ : * ? < > |"}),
+                                      Buttons::Ok, "");
+    return true;
+}
+
+void ShowDuplicateFileOptions(Program& program, std::string_view name) {
+    const bool done = Guarded(program, "ShowDuplicateFileOptions", [&] {
+        const std::string path = paths::Join(program.document.FilePath, name);
+        const std::string question =
+            text::Lines({"A file with this name (" + std::string(name) + ")",
+                         "already exists. Do you want to replace the", "existing file, created on:",
+                         dates::GeneralDate(files::ModifiedSerial(path)), "", "with this one?"});
+        if (program.platform.questions.MsgBox(question, Buttons::YesNo, "Duplicate File Name on Record") ==
+            Answer::Yes) {
+            files::Delete(path);
+            return;
+        }
+        program.platform.questions.MsgBox("File not saved.", Buttons::Ok, "");
+        program.document.Cancelled = true;
+    });
+    if (!done) {
+        program.document.Cancelled = true; // the file stands; nothing may be written over it unasked
+    }
+}
+
+void SetBaseName(Program& program, std::string_view baseName) {
+    program.document.BaseName = baseName;
+    program.document.TextFileName = program.document.BaseName + ".txt";
+    program.document.FootnoteFile = program.document.BaseName + ".hxt";
+    program.document.DepositFile = program.document.BaseName + ".dep";
+}
+
+} // namespace modMain

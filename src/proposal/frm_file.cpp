@@ -1,0 +1,258 @@
+#include "proposal/frm_file.h"
+
+#include "base/files.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "pages/fields.h"
+#include "pages/page_setup.h"
+#include "program/data_folders.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "program/windows.h"
+#include "proposal/file_names.h"
+#include "proposal/proposal_file.h"
+#include "proposal/reset.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::string_view kUp = "..";
+constexpr std::string_view kFormats = "*.fmt";
+constexpr std::string_view kPictures = "*.jpg;*.bmp;*.gif";
+constexpr std::string_view kTerms = "*.fut";
+constexpr std::string_view kTexts = "*.txt";
+
+/// The folder above, with its separator; the root stays the root.
+std::string Above(std::string_view folder) {
+    std::string bare(folder);
+    while (bare.size() > 1 && paths::IsSeparator(bare.back())) {
+        bare.pop_back();
+    }
+    const std::string_view above = paths::Folder(bare);
+    return above.empty() ? std::string(folder) : std::string(above);
+}
+
+bool IsProposalName(std::string_view name) {
+    const std::string_view extension = paths::ExtensionOf(name);
+    return text::EqualNoCase(extension, "hef") || text::EqualNoCase(extension, "hwf");
+}
+
+} // namespace
+
+void frmFile::Form_Load(Program& program) {
+    DocumentState& document = program.document;
+    const std::string_view what = document.DeleteMode ? "delete." : "open.";
+    lblHelp.Caption =
+        "Double-Click on the Drive or Folder category to find the file you wish to " + std::string(what);
+    lblPointOpen.Caption = document.DeleteMode ? "Delete" : "Open";
+    chkProp.Visible = !program.format.EditingFormat;
+    document.IgnoreProperties = false;
+    filePathBefore_ = document.FilePath;
+    Drive1.Items = {"/", paths::WithSeparator(program.folders.Drives.Home)};
+    for (const std::string& place : program.folders.Drives.MountPlaces) {
+        for (const std::string& volume : files::Subfolders(place)) {
+            Drive1.Items.push_back(paths::WithSeparator(paths::Join(place, volume)));
+        }
+    }
+    GoTo(program, modFolders::DataFolder(program));
+}
+
+void frmFile::Form_Unload(Program& program) {
+    program.document.FileFilter = "*.hef";
+    program.document.DeleteMode = false;
+    if (!done_) {
+        // A folder that was only looked at must not become the place where the open proposal is saved.
+        program.document.FilePath = filePathBefore_;
+    }
+}
+
+void frmFile::Form_Cancel(Program& program) {
+    modWindows::Close(program, *this);
+}
+
+void frmFile::GoTo(Program& program, std::string_view folder) {
+    const std::string wanted = paths::WithSeparator(folder);
+    try {
+        FileList1.Items = files::List(wanted, program.document.FileFilter);
+    } catch (const std::exception& error) {
+        if (Folder.empty()) {
+            Folder = wanted; // nothing was listed yet: show where we are, with an empty list
+        }
+        ReportError(program, "frmFile", error);
+        return;
+    }
+    Folder = wanted;
+    cmdOpenBack_Click(program); // nothing of the new list is chosen
+    Dir1.Items = files::Subfolders(wanted);
+    if (Folder != "/") {
+        Dir1.Items.insert(Dir1.Items.begin(), std::string(kUp));
+    }
+    Dir1.ListIndex = -1;
+    program.document.FilePath = Folder;
+    Drive1.ListIndex = 0;
+    for (std::size_t index = 1; index < Drive1.Items.size(); ++index) {
+        if (Folder.starts_with(Drive1.Items[index])) {
+            Drive1.ListIndex = static_cast<int>(index);
+        }
+    }
+}
+
+void frmFile::RefreshList(Program& program) {
+    GoTo(program, std::string(Folder));
+}
+
+void frmFile::Drive1_Change(Program& program, int index) {
+    if (index >= 0 && static_cast<std::size_t>(index) < Drive1.Items.size()) {
+        GoTo(program, std::string(Drive1.Items[static_cast<std::size_t>(index)]));
+    }
+}
+
+void frmFile::Dir1_Change(Program& program, int index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= Dir1.Items.size()) {
+        return;
+    }
+    const std::string chosen = Dir1.Items[static_cast<std::size_t>(index)];
+    GoTo(program, chosen == kUp ? Above(Folder) : paths::Join(Folder, chosen));
+}
+
+void frmFile::FileList1_Click(Program&, int index) {
+    if (index < 0 || static_cast<std::size_t>(index) >= FileList1.Items.size()) {
+        return;
+    }
+    FileList1.ListIndex = index;
+    selected_ = FileList1.Items[static_cast<std::size_t>(index)];
+    lblOpenFileName.Caption = selected_;
+    if (!picFileOpen) {
+        title_ = Caption;
+    }
+    Caption = IsProposalName(selected_) ? title_ + " - Event File" : title_;
+    picFileOpen = true;
+}
+
+void frmFile::chkProp_Click(Program& program) {
+    chkProp.Value = !chkProp.Value;
+    program.document.IgnoreProperties = chkProp.Value;
+}
+
+void frmFile::cmdOpenBack_Click(Program&) {
+    if (picFileOpen) {
+        Caption = title_;
+    }
+    picFileOpen = false;
+    selected_.clear();
+    FileList1.ListIndex = -1;
+}
+
+void frmFile::cmdOpenCancel_Click(Program& program) {
+    modWindows::Close(program, *this);
+}
+
+void frmFile::cmdOpenOK_Click(Program& program) {
+    if (selected_.empty()) {
+        return;
+    }
+    if (program.document.DeleteMode) {
+        DeleteSelected(program);
+    } else if (IsProposalName(selected_)) {
+        OpenProposal(program);
+    } else if (program.document.FileFilter == kFormats) {
+        OpenFormat(program);
+    } else if (program.document.FileFilter == kPictures) {
+        OpenLogo(program);
+    } else if (program.document.FileFilter == kTerms) {
+        program.run.FUTFileName = selected_;
+        Finish(program);
+        if (program.hooks.ReadFrequentlyUsedTerms) {
+            program.hooks.ReadFrequentlyUsedTerms(program);
+        }
+    } else if (program.document.FileFilter == kTexts) {
+        program.document.TextFileName = selected_;
+        const std::string file = paths::Join(Folder, selected_);
+        Finish(program);
+        if (program.hooks.ReadTextFile) {
+            program.hooks.ReadTextFile(program, file);
+        }
+    }
+}
+
+void frmFile::Finish(Program& program) {
+    // Form_Unload puts the working folder back, for nothing of the proposal has moved.
+    modWindows::Close(program, *this);
+}
+
+void frmFile::OpenFormat(Program& program) {
+    FormatRecords& format = program.format;
+    const FormatRecords before = format;
+    const bool loadDefault = program.settings.LoadDefaultFormat;
+    format.FormatTextChanges = {};
+    format.FormatLabelChanges = {};
+    format.FormatLines.clear();
+    format.FormatFolder = Folder;
+    format.FormatName = selected_;
+    format.FormatOpen = true;
+    program.settings.LoadDefaultFormat = false;
+    if (modMain::StartNewFile(program) == modMain::ResetResult::Refused) {
+        format = before;
+        program.settings.LoadDefaultFormat = loadDefault;
+        return;
+    }
+    Finish(program);
+    modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
+}
+
+void frmFile::OpenLogo(Program& program) {
+    const std::string path = paths::Join(Folder, selected_);
+    if (!modPages::ShowLogo(program, path)) {
+        program.platform.questions.MsgBox("The file " + selected_ + " is not a picture that can be shown.",
+                                          Buttons::Ok, "");
+        return;
+    }
+    program.settings.LogoFile = path;
+    program.format.LogoChanged = true;
+    Finish(program);
+}
+
+void frmFile::OpenProposal(Program& program) {
+    DocumentState& document = program.document;
+    document.FilePath = Folder;
+    const std::string name = selected_;
+    // Read first: a file that has gone meanwhile must not cost the proposal that stands.
+    const std::optional<modFile::RawProposal> raw = modFile::LoadProposal(program, name);
+    if (!raw) {
+        RefreshList(program);
+        return;
+    }
+    const bool existed = document.FileExists;
+    document.FileExists = true;
+    if (modMain::StartNewFile(program) == modMain::ResetResult::Refused) {
+        document.FileExists = existed;
+        return;
+    }
+    const bool backup = paths::SameFolder(document.FilePath, modFolders::BackupFolder(program));
+    program.main[CommandId::mnuFileRestoreFromBackup].Enabled = backup;
+    document.FromBackup = backup;
+    modFile::ShowProposal(program, name, *raw);
+    if (!document.IgnoreProperties) {
+        modFile::ReadFileProperties(program);
+    }
+    done_ = true;
+    modWindows::Close(program, *this);
+    modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
+}
+
+void frmFile::DeleteSelected(Program& program) {
+    Questions& questions = program.platform.questions;
+    if (questions.MsgBox("Are you sure you want to delete this file?", Buttons::YesNo,
+                         "Preparing to Delete File.") != Answer::Yes) {
+        return;
+    }
+    try {
+        modMain::DeleteProposalFiles(Folder, selected_);
+    } catch (const std::exception& error) {
+        questions.MsgBox("An Error occurred trying to delete the file.", Buttons::Ok, "");
+        ReportError(program, "frmFile", error);
+    }
+    RefreshList(program);
+    Caption = "Delete File...";
+}

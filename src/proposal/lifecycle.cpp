@@ -1,0 +1,237 @@
+#include "proposal/lifecycle.h"
+
+#include "base/files.h"
+#include "base/guard.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "money/totals.h"
+#include "pages/fields.h"
+#include "pages/page_geometry.h"
+#include "pages/page_setup.h"
+#include "pages/titles.h"
+#include "program/data_folders.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "program/windows.h"
+#include "proposal/file_names.h"
+#include "proposal/frm_file.h"
+#include "proposal/proposal_file.h"
+#include "proposal/reset.h"
+
+#include <algorithm>
+#include <array>
+
+namespace modMain {
+
+namespace {
+
+/// Copies a side file of the old name to the new one in the data folder.
+void CopySideFile(Program& program, std::string_view from, std::string_view to) {
+    if (text::EqualNoCase(from, to)) {
+        return;
+    }
+    const std::string folder = modFolders::DataFolder(program);
+    files::Copy(paths::Join(folder, from), paths::Join(folder, to));
+}
+
+/// An empty proposal is none from the backups, and must not be saved among them.
+void LeaveBackup(Program& program) {
+    program.document.FromBackup = false;
+    program.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
+    if (paths::SameFolder(program.document.FilePath, modFolders::BackupFolder(program))) {
+        program.document.FilePath = modFolders::DataFolder(program);
+    }
+}
+
+void SaveAsSteps(Program& program) {
+    DocumentState& document = program.document;
+    if (program.totals.HasAmounts()) {
+        modTotals::UpdateRunningTotals(program);
+    }
+    const std::string reply = program.platform.questions.InputBox("Please input the File Name below.",
+                                                                  "Saving File As...", document.BaseName);
+    const std::string name(text::Trim(reply));
+    if (name.empty()) {
+        program.platform.questions.MsgBox("No name entered. File not saved.", Buttons::Ok, "");
+        return;
+    }
+    const ScopedFlag active(document.SaveAsActive);
+    if (IllegalFileName(program, name)) {
+        return;
+    }
+    const std::string fileName = name + ".hef";
+    if (document.FilePath.empty()) {
+        document.FilePath = modFolders::DataFolder(program);
+    }
+    if (modFile::FileIsThere(document.FilePath, fileName) &&
+        program.platform.questions.MsgBox("A file with the name " + fileName + " already exists. Overwrite?",
+                                          Buttons::YesNoCancel,
+                                          "Preparing to Overwrite Existing Event File") != Answer::Yes) {
+        program.platform.questions.MsgBox("Action Cancelled. File not saved.", Buttons::Ok, "");
+        return;
+    }
+    const DocumentState before = document;
+    const std::string folder = modFolders::DataFolder(program);
+    const bool footnotes = modFile::FileIsThere(folder, before.FootnoteFile);
+    const bool deposits = modFile::FileIsThere(folder, before.DepositFile);
+    SetBaseName(program, name);
+    document.FileName = fileName;
+    document.FileExists = true;
+    if (modFile::SaveEventFile(program) == modFile::SaveResult::NotSaved) {
+        // The proposal keeps the name under which it is on the disk.
+        SetBaseName(program, before.BaseName);
+        document.FootnoteFile = before.FootnoteFile;
+        document.DepositFile = before.DepositFile;
+        document.FileName = before.FileName;
+        document.FileExists = before.FileExists;
+        return;
+    }
+    modFile::SavePropertyFile(program);
+    if (footnotes) {
+        CopySideFile(program, before.FootnoteFile, document.FootnoteFile);
+    }
+    if (deposits) {
+        CopySideFile(program, before.DepositFile, document.DepositFile);
+    }
+    UpdateEventNameLabels(program);
+}
+
+} // namespace
+
+bool SomethingChanged(Program& program) {
+    if (program.hooks.CollectQtyBoxes) {
+        program.hooks.CollectQtyBoxes(program);
+    }
+    const DocumentState& document = program.document;
+    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+        if (document.CurrentTextBuf[page] != document.SavedTextBuf[page]) {
+            return true;
+        }
+    }
+    const auto& current = document.CurrentTextBuf[kEditedPageCount - 1];
+    const auto& saved = document.SavedTextBuf[kEditedPageCount - 1];
+    return !std::equal(current.begin(), current.end(), saved.begin(), saved.end(),
+                       [](const std::string& one, const std::string& other) {
+                           return text::Trim(one) == text::Trim(other);
+                       });
+}
+
+void AskToSave(Program& program) {
+    if (!SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
+        return;
+    }
+    const Answer answer =
+        program.platform.questions.MsgBox("Some text has been changed. Do you want to save the changes?",
+                                          Buttons::YesNoCancel, "File Properties have been Changed");
+    if (answer == Answer::Yes) {
+        // A save that could not be done must not cost the text: the command that asked stops.
+        program.document.Cancelled = modFile::SaveEventFile(program) == modFile::SaveResult::NotSaved;
+    } else if (answer != Answer::No) {
+        program.document.Cancelled = true;
+    }
+}
+
+bool MayGoOn(Program& program) {
+    AskToSave(program);
+    const bool goOn = !program.document.Cancelled;
+    program.document.Cancelled = false;
+    return goOn;
+}
+
+void SaveEventFileAs(Program& program) {
+    Guarded(program, "SaveEventFileAs", [&] { SaveAsSteps(program); });
+}
+
+void mnuFileNew_Click(Program& program) {
+    if (!MayGoOn(program)) {
+        return;
+    }
+    DocumentState& document = program.document;
+    document.DocumentKind = "Event";
+    const bool format = !program.settings.DefaultFormatPath.empty() && program.settings.LoadDefaultFormat;
+    if (StartNewFile(program) == ResetResult::Refused) {
+        return;
+    }
+    LeaveBackup(program);
+    if (!format) {
+        SetPageHeading(program, "Contract Proposal");
+        Page& page = program.pages[PageId::frmP1];
+        page.lbl[9].Caption = "Event Date";
+        page.lbl[10].Caption = "Event Time";
+        page.lbl[10].Left = 10080;
+        if (!program.run.TermsPinned) {
+            program.run.FUTFileName = "Default Terms.fut";
+            if (program.settings.ShowFUT && program.hooks.ReadFrequentlyUsedTerms) {
+                program.hooks.ReadFrequentlyUsedTerms(program);
+            }
+        }
+        if (program.settings.ShowCalc && program.hooks.ShowCalculator) {
+            program.hooks.ShowCalculator(program);
+        }
+    }
+    modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
+}
+
+void mnuFileOpenEvent_Click(Program& program) {
+    if (!MayGoOn(program)) {
+        return;
+    }
+    auto window = std::make_unique<frmFile>();
+    window->Caption = "Opening Proposal File";
+    modWindows::Show(program, std::move(window));
+}
+
+void mnuFileSaveEvent_Click(Program& program) {
+    modFile::SaveEventFile(program);
+}
+
+void mnuFileSaveAs_Click(Program& program) {
+    SaveEventFileAs(program);
+}
+
+void mnuFileDelete_Click(Program& program) {
+    Questions& questions = program.platform.questions;
+    DocumentState& document = program.document;
+    if (!document.FileExists) {
+        questions.MsgBox("No such file exists. Select New to start a new proposal (Ctrl + N).", Buttons::Ok,
+                         "");
+        return;
+    }
+    if (questions.MsgBox("Are you sure you want to delete this file?", Buttons::YesNo,
+                         "Preparing to Delete File.") != Answer::Yes) {
+        return;
+    }
+    try {
+        DeleteProposalFiles(document.FilePath, document.FileName);
+    } catch (const std::exception& error) {
+        questions.MsgBox("An Error occurred trying to delete the file.", Buttons::Ok, "");
+        ReportError(program, "mnuFileDelete_Click", error);
+        return;
+    }
+    if (StartNewFile(program) == ResetResult::Done) {
+        LeaveBackup(program);
+    }
+    modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
+}
+
+void mnuFileRestoreFromBackup_Click(Program& program) {
+    Guarded(program, "mnuFileRestoreFromBackup_Click", [&] {
+        DocumentState& document = program.document;
+        const std::string folder = modFolders::DataFolder(program);
+        const std::string target = paths::Join(folder, document.FileName);
+        const std::string bytes = files::ReadAll(paths::Join(document.FilePath, document.FileName));
+        if (files::Exists(target)) {
+            files::Delete(target);
+        }
+        document.ClientCaption = "Proposal for " + document.BaseName;
+        UpdateFooters(program);
+        files::WriteWhole(target, bytes);
+        document.FilePath = folder;
+        program.main.lblDir.Caption = "Current Folder = " + document.FilePath;
+        program.main.imgFootNotes.Picture = modFile::FileIsThere(folder, document.FootnoteFile) ? 1 : 0;
+        document.FromBackup = false;
+        program.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
+    });
+}
+
+} // namespace modMain

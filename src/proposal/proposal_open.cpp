@@ -1,0 +1,192 @@
+#include "base/files.h"
+#include "base/guard.h"
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "money/totals.h"
+#include "pages/page_geometry.h"
+#include "pages/page_setup.h"
+#include "pages/quantity_row.h"
+#include "pages/titles.h"
+#include "program/data_folders.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "proposal/file_names.h"
+#include "proposal/proposal_file.h"
+
+#include <algorithm>
+
+namespace modFile {
+
+namespace {
+
+std::uintmax_t BytesNeeded(const proposal::Widths& widths) {
+    std::uintmax_t needed = 0;
+    for (const auto& page : widths) {
+        for (const int width : page) {
+            needed += static_cast<std::uintmax_t>(std::max(width, 0));
+        }
+    }
+    return std::max<std::uintmax_t>(needed, proposal::kKindOffset + 1);
+}
+
+void TakeQuantityRow(Program& program, PageId page, int index, const quantity_row::QuantityRow& row) {
+    modPages::EnsureRowFields(program, page);
+    Page& record = program.pages[page];
+    const auto at = static_cast<std::size_t>(index);
+    record.txtQty[at].Text = row.Quantity;
+    record.txtAmt[at].Text = row.Amount;
+    record.txt[at].Text = row.Description;
+    modPages::PlaceColumns(program, page, index, modPages::Columns::On);
+    for (TextChangeTable* table : {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
+        TextChangeRecord& props = (*table)[static_cast<std::size_t>(IndexOf(page))][at];
+        props.QtyBox = true;
+        props.QtyValue = row.Quantity;
+        props.AmtValue = row.Amount;
+    }
+}
+
+void TakeText(Program& program, PageId page, int index, std::string_view slot) {
+    const auto at = static_cast<std::size_t>(index);
+    const auto pageAt = static_cast<std::size_t>(IndexOf(page));
+    if (program.format.FormatTextChanges[pageAt][at].FormatText) {
+        return;
+    }
+    const std::string_view value = text::RTrim(slot);
+    program.document.SavedTextBuf[pageAt][at] = value;
+    program.document.CurrentTextBuf[pageAt][at] = value;
+    const quantity_row::QuantityRow row = quantity_row::Split(value);
+    if (row.IsRow && geometry::IsDescription(page, index)) {
+        TakeQuantityRow(program, page, index, row);
+    } else if (!value.empty()) {
+        program.pages[page].txt[at].Text = value;
+    }
+}
+
+void TakeAmount(Program& program, PageId page, int index) {
+    const auto at = static_cast<std::size_t>(index);
+    const auto pageAt = static_cast<std::size_t>(IndexOf(page));
+    std::string& current = program.document.CurrentTextBuf[pageAt][at];
+    if (text::Trim(current).empty()) {
+        return;
+    }
+    const bool marked = current.front() == proposal::kExemptMark;
+    if (marked) {
+        current.erase(0, 1);
+    }
+    const std::string_view trimmed = text::Trim(current);
+    const std::optional<float> value = numbers::ToSingle(trimmed, program.settings.CurrencySymbol);
+    if (!value) {
+        return;
+    }
+    program.totals.AmountTable[at][pageAt] = *value;
+    program.totals.TaxableTable[at][pageAt] = marked ? 0 : *value;
+    if (marked) {
+        program.format.PropTextChanges[pageAt][at].TaxExempt = true;
+        program.document.SavedTextBuf[pageAt][at] = current;
+        program.pages[page].txt[at].Text = trimmed;
+        modPages::SetNoTaxMark(program, page, index, modPages::Mark::Shown);
+    }
+    modPages::SetCurrencySign(program, page, index, modPages::Mark::Shown);
+}
+
+void TakeFields(Program& program, const proposal::Decoded& decoded) {
+    for (const PageId page : kLinePages) {
+        const auto& slots = decoded.Slots[static_cast<std::size_t>(IndexOf(page))];
+        for (int index = 0; index <= geometry::LastText(page); ++index) {
+            TakeText(program, page, index, slots[static_cast<std::size_t>(index)]);
+            if (geometry::IsAmount(page, index)) {
+                TakeAmount(program, page, index);
+            }
+        }
+    }
+    constexpr auto kFinal = static_cast<std::size_t>(kEditedPageCount - 1);
+    for (std::size_t index = 0; index < decoded.Slots[kFinal].size(); ++index) {
+        const std::string_view value = text::Trim(decoded.Slots[kFinal][index]);
+        program.document.CurrentTextBuf[kFinal][index] = value;
+        program.document.SavedTextBuf[kFinal][index] = value;
+    }
+}
+
+void TakeKind(Program& program) {
+    const bool wedding = program.document.DocumentKind == "Wedding";
+    if (!program.run.TermsPinned) {
+        program.run.FUTFileName = wedding ? "Wedding Terms.fut" : "Default Terms.fut";
+    }
+    if (program.settings.PageTitles.empty()) {
+        modMain::SetPageHeading(program, wedding ? "Wedding Proposal" : "Event Proposal");
+    }
+}
+
+void SettleLogo(Program& program) {
+    PagePicture& logo = program.pages[PageId::frmP1].pic;
+    if (program.document.FileName == "John Doe.hef") {
+        // The sample stands for any business; ours has no place on it.
+        logo.Visible = false;
+        logo.Tag = kHide;
+        program.settings.LogoVisible = false;
+        program.main[CommandId::mnuEditLogoVisible].Checked = false;
+        return;
+    }
+    logo.Visible = program.settings.LogoVisible && logo.Picture.From != PictureRef::Source::None;
+    if (program.settings.LogoVisible) {
+        logo.Tag.clear();
+    }
+}
+
+} // namespace
+
+std::optional<RawProposal> LoadProposal(Program& program, std::string_view fileName) {
+    RawProposal raw;
+    const bool done = Guarded(program, "OpenEventFile", [&] {
+        const std::string path = paths::Join(program.document.FilePath, fileName);
+        files::Head head = files::ReadHead(path, BytesNeeded(SlotWidths(program)));
+        raw.Bytes = std::move(head.Bytes);
+        raw.Length = head.Length;
+    });
+    return done ? std::optional(std::move(raw)) : std::nullopt;
+}
+
+void ShowProposal(Program& program, std::string_view fileName, const RawProposal& raw) {
+    DocumentState& document = program.document;
+    document.FileName = fileName;
+    if (text::EqualNoCase(paths::ExtensionOf(fileName), "hef")) {
+        document.DocumentKind = "Event";
+    }
+    program.main.lblDir.Caption = "Current Folder = " + document.FilePath;
+    {
+        const ScopedFlag loading(program.guards.Loading);
+        const proposal::Decoded decoded = proposal::Decode(raw.Bytes, raw.Length, SlotWidths(program));
+        TakeFields(program, decoded);
+        document.DocumentKind = decoded.Wedding ? "Wedding" : "Event";
+        document.FileExists = true;
+        program.main[CommandId::mnuFileDelete].Enabled = true;
+        modTotals::TotalsAfterReading(program);
+    }
+    modMain::SetBaseName(program, paths::BaseOf(fileName));
+    document.ClientCaption = "Proposal for " + document.BaseName;
+    TakeKind(program);
+    program.main.imgFootNotes.Picture =
+        FileIsThere(modFolders::DataFolder(program), document.FootnoteFile) ? 1 : 0;
+    if (program.settings.ShowFUT && program.hooks.ReadFrequentlyUsedTerms) {
+        program.hooks.ReadFrequentlyUsedTerms(program);
+    }
+    SettleLogo(program);
+    modMain::UpdateEventNameLabels(program);
+    if (program.hooks.UpdatePageButtons) {
+        program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
+    }
+    program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled = true;
+    program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = true;
+}
+
+OpenResult OpenEventFile(Program& program, std::string_view fileName) {
+    const std::optional<RawProposal> raw = LoadProposal(program, fileName);
+    if (!raw) {
+        return OpenResult::NotOpened;
+    }
+    ShowProposal(program, fileName, *raw);
+    return OpenResult::Opened;
+}
+
+} // namespace modFile

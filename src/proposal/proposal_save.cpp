@@ -1,0 +1,255 @@
+#include "base/files.h"
+#include "base/guard.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "money/totals.h"
+#include "pages/fields.h"
+#include "pages/page_geometry.h"
+#include "pages/titles.h"
+#include "program/data_folders.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "proposal/file_names.h"
+#include "proposal/proposal_file.h"
+
+namespace modFile {
+
+namespace {
+
+constexpr int kClientName = 2;
+
+void GoToClientName(Program& program) {
+    if (program.hooks.UpdatePageButtons) {
+        program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
+    }
+    modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, kClientName});
+}
+
+void CompareTotals(Program& program) {
+    if (program.document.BackingUp) {
+        // A backup comes in the middle of typing: an amount that is not left yet is no discrepancy to tell
+        // of.
+        for (const PageId page : kLinePages) {
+            modTotals::CalculateMyTotals(program, page);
+        }
+    }
+    modTotals::RecalculateAll(program);
+    modTotals::UpdateRunningTotals(program);
+    if (modTotals::TotalsDiffer(program)) {
+        program.main.cmdReCalc.BackColor = colors::kOverLimit;
+        program.platform.questions.MsgBox(modTotals::DiscrepancyMessage(), Buttons::Ok, "");
+    }
+}
+
+/// Whether the proposal may be written under its name; asks and tells what there is to ask and tell.
+bool NameIsSettled(Program& program) {
+    DocumentState& document = program.document;
+    if (document.FilePath.empty()) {
+        document.FilePath = modFolders::DataFolder(program);
+    }
+    if (!document.SaveAsActive && modMain::IllegalFileName(program, document.FileName)) {
+        GoToClientName(program);
+        return false;
+    }
+    if (document.FileExists && !ClientNameChanged(program)) {
+        return true;
+    }
+    if (!document.FileExists && !document.HasName()) {
+        program.platform.questions.MsgBox(
+            "Please enter the client's name in the appropriate area and save again.", Buttons::Ok, "");
+        GoToClientName(program);
+        return false;
+    }
+    if (FileIsThere(document.FilePath, document.FileName)) {
+        modMain::ShowDuplicateFileOptions(program, document.FileName);
+        if (document.Cancelled) {
+            document.Cancelled = false;
+            return false;
+        }
+    }
+    return true;
+}
+
+void ClearLabelMarks(Program& program) {
+    for (auto& page : program.format.LabelSavedState) {
+        for (LabelChangeRecord& label : page) {
+            label.Changed = false;
+        }
+    }
+}
+
+/// The properties, when one has changed.
+SaveResult SaveProperties(Program& program) {
+    if (!PropertiesChanged(program)) {
+        return SaveResult::Saved;
+    }
+    if (program.hooks.AssignPropChanges) {
+        program.hooks.AssignPropChanges(program);
+        return SavePropertyFile(program);
+    }
+    // Nobody writes new lines: what was read goes back as it came.
+    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+        for (TextChangeRecord& record : program.format.PropTextChanges[page]) {
+            record.Dirty = false;
+        }
+    }
+    if (!program.format.PropertyLines.empty()) {
+        return SavePropertyFile(program);
+    }
+    ClearLabelMarks(program);
+    return SaveResult::Saved;
+}
+
+std::string MakeBytes(const Program& program) {
+    proposal::Fields fields;
+    for (std::size_t page = 0; page < kEditedPageCount; ++page) {
+        const auto& texts = program.document.CurrentTextBuf[page];
+        fields[page].reserve(texts.size());
+        for (std::size_t index = 0; index < texts.size(); ++index) {
+            const bool marked =
+                page < kLinePageCount && program.format.PropTextChanges[page][index].TaxExempt;
+            fields[page].push_back({texts[index], marked});
+        }
+    }
+    return proposal::Encode(fields, SlotWidths(program));
+}
+
+void WriteFile(Program& program) {
+    const DocumentState& document = program.document;
+    const std::string bytes = MakeBytes(program);
+    const std::string folder = document.BackingUp ? modFolders::BackupFolder(program) : document.FilePath;
+    const std::string path = paths::Join(folder, document.FileName);
+    if (files::Exists(path)) {
+        files::Delete(path);
+    }
+    files::WriteWhole(path, bytes);
+}
+
+void SavingSteps(Program& program, SaveResult& result) {
+    DocumentState& document = program.document;
+    CompareTotals(program);
+    if (!NameIsSettled(program)) {
+        return;
+    }
+    if (program.hooks.CollectQtyBoxes) {
+        program.hooks.CollectQtyBoxes(program);
+    }
+    // Should a write fail, the properties still count as unsaved.
+    const bool properties = PropertiesChanged(program);
+    const bool propertiesLost = SaveProperties(program) == SaveResult::NotSaved;
+    document.SavedStateStale = properties;
+    document.TextFileName = std::string(paths::BaseOf(document.FileName)) + ".txt";
+    program.format.EditingFormat = false;
+    WriteFile(program);
+    document.SavedTextBuf = document.CurrentTextBuf;
+    document.FileExists = true;
+    document.SavedStateStale = propertiesLost;
+    result = SaveResult::Saved;
+    program.main[CommandId::mnuFileDelete].Enabled = true;
+    modMain::UpdateEventNameLabels(program);
+    if (!document.BackingUp) {
+        program.platform.questions.MsgBox("File was saved as " + document.FileName, Buttons::Ok, "");
+    }
+}
+
+std::string PropertyFolder(const Program& program) {
+    return program.document.FromBackup ? modFolders::DataFolder(program) : program.document.FilePath;
+}
+
+std::string PropertyName(const Program& program) {
+    return program.document.BaseName + ".hpf";
+}
+
+} // namespace
+
+proposal::Widths SlotWidths(const Program& program) {
+    proposal::Widths widths;
+    for (const PageId page : kEditedPages) {
+        auto& list = widths[static_cast<std::size_t>(IndexOf(page))];
+        list.reserve(program.pages[page].txt.size());
+        for (const TextArea& area : program.pages[page].txt) {
+            list.push_back(geometry::LimitOf(area.Tag));
+        }
+    }
+    return widths;
+}
+
+SaveResult SaveEventFile(Program& program) {
+    SaveResult result = SaveResult::NotSaved;
+    const OnLeaving settle([&] { program.document.BackingUp = false; });
+    Guarded(program, "SaveEventFile", [&] { SavingSteps(program, result); });
+    return result;
+}
+
+void BackupThisFile(Program& program) {
+    if (program.document.FileName.size() <= 4) {
+        return;
+    }
+    Guarded(program, "BackupThisFile", [&] {
+        // The backup that stands is deleted only where the new one is written: a save that stops at a
+        // question must not cost it.
+        const std::string path = paths::Join(modFolders::BackupFolder(program), program.document.FileName);
+        if (files::Exists(path)) {
+            files::ClearAttributes(path);
+        }
+        program.document.BackingUp = true;
+        SaveEventFile(program);
+    });
+}
+
+SaveResult SavePropertyFile(Program& program) {
+    const bool done = Guarded(program, "SavePropertyFile", [&] {
+        std::string bytes;
+        for (const std::string& line : program.format.PropertyLines) {
+            bytes += line;
+            bytes += text::kCrLf;
+        }
+        const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
+        if (files::Exists(path)) {
+            files::Delete(path);
+        }
+        files::WriteWhole(path, bytes);
+        ClearLabelMarks(program);
+    });
+    return done ? SaveResult::Saved : SaveResult::NotSaved;
+}
+
+void ReadFileProperties(Program& program) {
+    Guarded(program, "ReadFileProperties", [&] {
+        program.format.PropertyLines.clear();
+        const std::string folder = PropertyFolder(program);
+        if (!FileIsThere(folder, PropertyName(program))) {
+            return;
+        }
+        program.format.PropertyLines =
+            text::SplitLines(files::ReadAll(paths::Join(folder, PropertyName(program))));
+        if (!program.format.PropertyLines.empty() && program.hooks.ParsePropertyFile) {
+            program.hooks.ParsePropertyFile(program);
+        }
+    });
+}
+
+bool PropertiesChanged(const Program& program) {
+    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+        for (const TextChangeRecord& record : program.format.PropTextChanges[page]) {
+            if (record.Dirty) {
+                return true;
+            }
+        }
+    }
+    for (const auto& page : program.format.LabelSavedState) {
+        for (const LabelChangeRecord& label : page) {
+            if (label.Changed) {
+                return true;
+            }
+        }
+    }
+    return program.document.SavedStateStale;
+}
+
+bool ClientNameChanged(const Program& program) {
+    const auto client = static_cast<std::size_t>(kClientName);
+    return program.document.CurrentTextBuf[0][client] != program.document.SavedTextBuf[0][client];
+}
+
+} // namespace modFile

@@ -1,0 +1,206 @@
+#include "proposal/reset.h"
+
+#include "base/files.h"
+#include "base/guard.h"
+#include "base/paths.h"
+#include "pages/page_geometry.h"
+#include "pages/page_setup.h"
+#include "pages/titles.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "proposal/file_names.h"
+
+#include <array>
+
+namespace modMain {
+
+namespace {
+
+bool FormatEditingGoesOn(Program& program) {
+    if (!program.format.EditingFormat) {
+        return false;
+    }
+    const Answer answer = program.platform.questions.MsgBox(
+        "Proceeding with this action will end the editing session of your file format. Continue?",
+        Buttons::YesNo, "Ending Format Editing");
+    if (answer == Answer::Yes) {
+        program.format.EditingFormat = false;
+        return false;
+    }
+    program.platform.questions.MsgBox("Resume Editing.", Buttons::Ok, "");
+    return true;
+}
+
+void ClearNames(Program& program) {
+    DocumentState& document = program.document;
+    if (!document.FileExists) {
+        document.FromBackup = false;
+    }
+    document.ClientCaption.clear();
+    document.FileExists = false;
+    program.main[CommandId::mnuFileDelete].Enabled = false;
+    document.BaseName.clear();
+    document.FileName.clear();
+    document.TextFileName.clear();
+    document.FootnoteFile.clear();
+    document.DepositFile.clear();
+    document.SavedStateStale = false;
+}
+
+void ResetPages(Program& program) {
+    if (program.hooks.DeSelectAllControls) {
+        program.hooks.DeSelectAllControls(program);
+    }
+    program.main.Focus.reset();
+    program.main.CurrentPage = 0;
+    program.editing.ACActive.fill(false);
+    // What was deleted from one proposal is not put back into another.
+    program.editing.Block.UndoMemory.clear();
+    program.editing.UndoAvailable = false;
+    for (const PageId page : kAllPages) {
+        program.pages[page].Visible = false;
+        if (!program.guards.KeepPageContent) {
+            modPages::ApplyPageDefaults(program, page);
+        }
+    }
+    program.document.PagesInUse = 6;
+    program.main.imgFootNotes.Picture = 0;
+    program.format.PropTextChanges = {};
+    program.format.PropLabelChanges = {};
+    program.format.LabelSavedState = {};
+    program.format.PropertyLines.clear();
+    modPages::HideOptionalFields(program);
+}
+
+void ResetFont(Program& program) {
+    RunState& run = program.run;
+    const SettingsRecords& settings = program.settings;
+    run.DefaultFontName = run.DefaultFontFound ? settings.SavedFontName : "Times New Roman";
+    run.DefaultFontSize = settings.SavedFontSize;
+    run.DefaultFontColor = settings.SavedFontColor;
+    run.DefaultFontItalic = settings.SavedFontItalic;
+    modPages::ApplyPageFonts(program);
+}
+
+void EmptyTexts(Program& program) {
+    DocumentState& document = program.document;
+    for (const PageId page : {PageId::frmP6, PageId::frmP6_1}) {
+        for (TextArea& area : program.pages[page].txt) {
+            area.Text.clear();
+            area.BackColor = colors::kResting;
+        }
+    }
+    constexpr auto kFinal = static_cast<std::size_t>(kEditedPageCount - 1);
+    const std::size_t figures = program.pages[PageId::frmP6].txt.size();
+    document.CurrentTextBuf[kFinal].assign(figures, " ");
+    document.SavedTextBuf[kFinal].assign(figures, " ");
+    for (int index = kLinePageCount - 1; index >= 0; --index) {
+        Page& page = program.pages[PageAt(index)];
+        const auto at = static_cast<std::size_t>(index);
+        document.CurrentTextBuf[at].resize(page.txt.size());
+        document.SavedTextBuf[at].resize(page.txt.size());
+        for (std::size_t area = 0; area < page.txt.size(); ++area) {
+            page.txt[area].BackColor = colors::kResting;
+            page.txt[area].FontBold = false;
+            if (program.format.FormatTextChanges[at][area].FormatText) {
+                continue;
+            }
+            page.txt[area].Text.clear();
+            page.txt[area].SelStart = 0;
+            page.txt[area].SelLength = 0;
+            document.CurrentTextBuf[at][area].clear();
+            document.SavedTextBuf[at][area].clear();
+        }
+    }
+}
+
+void ZeroTotals(Program& program) {
+    TotalsRecords& totals = program.totals;
+    const float rate = totals.TaxRate;
+    const bool hidden = totals.TotalsHidden;
+    totals = TotalsRecords{};
+    totals.TaxRate = rate;
+    totals.TotalsHidden = hidden;
+    program.main.lblTotal.Caption = "Running Sub-Total = " + program.settings.CurrencySymbol + " 0.00";
+    program.main.cmdReCalc.BackColor = colors::kButtonFace;
+    program.main.lblHighestPage.Caption = "Available Pages = " + std::to_string(program.document.PagesInUse);
+}
+
+void TakeFormat(Program& program, bool loadDefault) {
+    FormatRecords& format = program.format;
+    if (loadDefault) {
+        format.FormatFolder = paths::Folder(program.settings.DefaultFormatPath);
+        format.FormatName = paths::Name(program.settings.DefaultFormatPath);
+        format.FormatOpen = true;
+    }
+    if (format.FormatOpen && program.hooks.OpenFormatFile) {
+        program.hooks.OpenFormatFile(program);
+        return;
+    }
+    modPages::LoadLogo(program);
+}
+
+void ResetSteps(Program& program) {
+    // A format is loaded by default only where somebody can read it.
+    const bool loadDefault = !program.settings.DefaultFormatPath.empty() &&
+                             program.settings.LoadDefaultFormat &&
+                             static_cast<bool>(program.hooks.OpenFormatFile);
+    ClearNames(program);
+    SetPageHeading(program, "Event Proposal");
+    UpdateEventNameLabels(program);
+    program.main.Caption = "Quillbrook";
+    program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled = false;
+    program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
+    ResetPages(program);
+    ResetFont(program);
+    program.totals.PageSum = {};
+    program.totals.PageTaxable = {};
+    EmptyTexts(program);
+    ZeroTotals(program);
+    TakeFormat(program, loadDefault);
+}
+
+} // namespace
+
+ResetResult StartNewFile(Program& program) {
+    ResetResult result = ResetResult::Done;
+    Guarded(program, "StartNewFile", [&] {
+        {
+            const ScopedFlag active(program.guards.ResetActive);
+            if (program.hooks.CloseFootnotes) {
+                program.hooks.CloseFootnotes(program);
+            }
+            if (FormatEditingGoesOn(program)) {
+                result = ResetResult::Refused;
+                return;
+            }
+            ResetSteps(program);
+        }
+        if (program.hooks.UpdatePageButtons) {
+            program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
+        }
+        UpdateFooters(program);
+        if (program.document.CompanyBlockPending) {
+            program.document.CompanyBlockPending = false;
+            modPages::SizeRemittanceBox(program);
+        }
+        if (program.hooks.DeSelectAllControls) {
+            program.hooks.DeSelectAllControls(program);
+        }
+    });
+    return result;
+}
+
+void DeleteProposalFiles(std::string_view folder, std::string_view fileName) {
+    // By the name that was chosen, not by one put together: names may differ in nothing but their case.
+    files::Delete(paths::Join(folder, fileName));
+    const std::string base = paths::Join(folder, paths::BaseOf(fileName));
+    for (const std::string_view extension : {".hpf", ".txt", ".hxt", ".dep"}) {
+        const std::string side = base + std::string(extension);
+        if (files::Exists(side)) {
+            files::Delete(side);
+        }
+    }
+}
+
+} // namespace modMain

@@ -1,0 +1,58 @@
+#include "settings/frm_poffsets.h"
+
+#include "base/numbers.h"
+#include "base/text.h"
+#include "program/program.h"
+#include "program/windows.h"
+#include "settings/settings.h"
+
+void frmPOffsets::Form_Load(Program& program) {
+    Caption = "Printer Offsets";
+    // The boxes begin with what is in force, so that one of them can be changed alone.
+    txtX.Text = modSettings::InchesOf(program.printing.PrinterOffsetX);
+    txtY.Text = modSettings::InchesOf(program.printing.PrinterOffsetY);
+    ShowValues(program);
+}
+
+void frmPOffsets::ShowValues(const Program& program) {
+    const auto inches = [](float twips) {
+        return numbers::FormatSingle(twips / modSettings::kTwipsPerInch, "#0.00") + "\"";
+    };
+    lblX.Caption =
+        "Printer X Offset (Horizontal) - Current Value = " + inches(program.printing.PrinterOffsetX);
+    // People know the second label by this wording.
+    lblY.Caption =
+        "Printer Y Offset (Horizontal) - Current Value = " + inches(program.printing.PrinterOffsetY);
+}
+
+int frmPOffsets::txt_KeyPress(int keyAscii) {
+    constexpr int kBackspace = 8;
+    const bool passes = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == ',' || keyAscii == '-' ||
+                        keyAscii == '.' || keyAscii == kBackspace;
+    return passes ? keyAscii : 0;
+}
+
+void frmPOffsets::cmdOK_Click(Program& program) {
+    program.printing.PrinterOffsetX = modSettings::TwipsOf(txtX.Text);
+    program.printing.PrinterOffsetY = modSettings::TwipsOf(txtY.Text);
+    ShowValues(program);
+}
+
+void frmPOffsets::cmdSavePrinterOffsets_Click(Program& program) {
+    cmdOK_Click(program);
+    modSettings::SavePrinterOffsets(program);
+    modWindows::Close(program, *this);
+}
+
+void frmPOffsets::mnuHelpPrinterOffsets_Click(Program& program) {
+    program.platform.questions.MsgBox(
+        text::Lines(
+            {"If your documents are not printing on center, you need to adjust your offsets.",
+             "The X offset controls the left to right centering and the Y offset controls",
+             "the up and down centering. Enter all values in inches. Negative values are permitted."}),
+        Buttons::Ok, "");
+}
+
+void frmPOffsets::Form_Cancel(Program& program) {
+    modWindows::Close(program, *this);
+}

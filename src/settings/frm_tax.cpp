@@ -1,0 +1,33 @@
+#include "settings/frm_tax.h"
+
+#include "base/numbers.h"
+#include "program/program.h"
+#include "program/windows.h"
+#include "settings/settings.h"
+
+void frmTax::Form_Load(Program& program) {
+    Caption = "Sales Tax Rate";
+    lblTaxRate.Caption = "The Current Tax Rate is " + numbers::FormatSingle(program.totals.TaxRate, "##.00") +
+                         "%. You can change it by entering a new value in the text area below.";
+}
+
+int frmTax::txtTaxRate_KeyPress(int keyAscii) {
+    constexpr int kBackspace = 8, kTab = 9;
+    const bool passes =
+        (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.' || keyAscii == kBackspace || keyAscii == kTab;
+    return passes ? keyAscii : 0;
+}
+
+void frmTax::cmdOK_Click(Program& program) {
+    modSettings::SaveTaxRate(program, numbers::Format(numbers::Val(txtTaxRate.Text), "##.00"));
+    program.run.SplashShown = false;
+    modWindows::Close(program, *this);
+}
+
+void frmTax::cmdCancel_Click(Program& program) {
+    modWindows::Close(program, *this);
+}
+
+void frmTax::Form_Cancel(Program& program) {
+    modWindows::Close(program, *this);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "program/controls.h"
+#include "program/window.h"
+
+/// "Sales Tax Rate": shows the rate in force and takes a new one.
+class frmTax : public Window {
+public:
+    StripLabel lblTaxRate;
+    TextBox txtTaxRate;
+    CommandButton cmdOK{.Caption = "OK", .ToolTipText = ""};
+    CommandButton cmdCancel{.Caption = "Cancel", .ToolTipText = ""};
+
+    [[nodiscard]] std::string_view Name() const override { return "frmTax"; }
+    [[nodiscard]] Modality Mode() const override { return Modality::Modal; }
+    void Form_Load(Program& program) override;
+    void Form_Cancel(Program& program) override;
+
+    /// Digits, the point, backspace and tab pass; 0 for anything else.
+    [[nodiscard]] static int txtTaxRate_KeyPress(int keyAscii);
+    void cmdOK_Click(Program& program);
+    void cmdCancel_Click(Program& program);
+};

@@ -1,0 +1,346 @@
+#include "settings/settings.h"
+
+#include "base/files.h"
+#include "base/guard.h"
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "program/errors.h"
+#include "program/program.h"
+
+#include <array>
+#include <cmath>
+
+namespace modSettings {
+
+namespace {
+
+constexpr std::string_view kFileName = "UserPreferences.txt";
+constexpr std::string_view kBackup = "Backup";
+constexpr std::string_view kProposals = "Proposals";
+
+constexpr std::array<std::string_view, static_cast<std::size_t>(Key::Count)> kKeys{"App First Instance:",
+                                                                                   "Shared Directory:",
+                                                                                   "Company Name:",
+                                                                                   "Company Address 1:",
+                                                                                   "Company Address 2:",
+                                                                                   "Company City, State Zip:",
+                                                                                   "Company Phone:",
+                                                                                   "Company Fax:",
+                                                                                   "Company Website:",
+                                                                                   "Company Email:",
+                                                                                   "Page Title:",
+                                                                                   "Logo File:",
+                                                                                   "Logo Left:",
+                                                                                   "Logo Top:",
+                                                                                   "Auto Complete Word:",
+                                                                                   "Auto Start Position:",
+                                                                                   "Show FUT:",
+                                                                                   "Minimize FUT:",
+                                                                                   "Show Calc:",
+                                                                                   "Default File Format:",
+                                                                                   "Load Default Format:",
+                                                                                   "Default Printer:",
+                                                                                   "Currency Symbol:",
+                                                                                   "Frequent Terms File:",
+                                                                                   "Load FUT:",
+                                                                                   "Page Titles:",
+                                                                                   "FUT Position:",
+                                                                                   "Font Name:",
+                                                                                   "Font Size:",
+                                                                                   "Font Color:",
+                                                                                   "Font Italic:",
+                                                                                   "Logo Visible:"};
+
+/// Lines are told by their place: the key is counted off, never looked for. `shorter` notes a line that has
+/// not even the room of its key.
+std::string ValueOf(const SettingsRecords& settings, Key key, bool& shorter) {
+    const auto at = static_cast<std::size_t>(key);
+    if (at >= settings.Lines.size()) {
+        return {};
+    }
+    const std::string& line = settings.Lines[at];
+    const std::size_t length = KeyText(key).size();
+    if (line.size() < length) {
+        shorter = true;
+        return {};
+    }
+    return line.substr(length);
+}
+
+bool ToBoolean(std::string_view value) {
+    return text::EqualNoCase(text::Trim(value), "True");
+}
+
+int ToInteger(std::string_view value) {
+    constexpr double kMost = 1e9;
+    const double number = numbers::Val(value);
+    return std::fabs(number) <= kMost ? static_cast<int>(number) : 0;
+}
+
+float PartOf(std::string_view value, std::string_view label) {
+    const std::size_t at = value.find(label);
+    if (at == std::string_view::npos) {
+        return 0;
+    }
+    const std::size_t from = at + label.size();
+    return numbers::ValSingle(value.substr(from, value.find(':', from) - from));
+}
+
+void Distribute(Program& program) {
+    SettingsRecords& settings = program.settings;
+    bool shorter = false;
+    const auto textOf = [&](Key key) { return ValueOf(settings, key, shorter); };
+    const auto flag = [&](Key key) { return ToBoolean(textOf(key)); };
+    const auto number = [&](Key key) { return numbers::ValSingle(textOf(key)); };
+    settings.AppFirstInstance = flag(Key::AppFirstInstance);
+    settings.SharedDirectory = textOf(Key::SharedDirectory);
+    settings.CompanyName = textOf(Key::CompanyName);
+    settings.CompanyAddress1 = textOf(Key::CompanyAddress1);
+    settings.CompanyAddress2 = textOf(Key::CompanyAddress2);
+    settings.CompanyCityStateZip = textOf(Key::CompanyCityStateZip);
+    settings.CompanyPhone = textOf(Key::CompanyPhone);
+    settings.CompanyFax = textOf(Key::CompanyFax);
+    settings.CompanyWebsite = textOf(Key::CompanyWebsite);
+    settings.CompanyEmail = textOf(Key::CompanyEmail);
+    settings.PageTitle = textOf(Key::PageTitle);
+    settings.LogoFile = textOf(Key::LogoFile);
+    settings.LogoLeft = number(Key::LogoLeft);
+    settings.LogoTop = number(Key::LogoTop);
+    settings.AutoCompleteWord = flag(Key::AutoCompleteWord);
+    settings.AutoStartPosition = ToInteger(textOf(Key::AutoStartPosition));
+    settings.ShowFUT = flag(Key::ShowFUT);
+    settings.MinimizeFUT = flag(Key::MinimizeFUT);
+    settings.ShowCalc = flag(Key::ShowCalc);
+    settings.DefaultFormatPath = textOf(Key::DefaultFileFormat);
+    settings.LoadDefaultFormat = flag(Key::LoadDefaultFormat);
+    settings.DefaultPrinter = textOf(Key::DefaultPrinter);
+    settings.CurrencySymbol = textOf(Key::CurrencySymbol);
+    settings.FrequentTermsFile = textOf(Key::FrequentTermsFile);
+    settings.LoadFUT = flag(Key::LoadFUT);
+    settings.PageTitles = textOf(Key::PageTitles);
+    const std::string place = textOf(Key::FUTPosition);
+    settings.FUTPosition = {PartOf(place, "Left="), PartOf(place, "Top="), PartOf(place, "Width="),
+                            PartOf(place, "Height=")};
+    settings.SavedFontName = textOf(Key::FontName);
+    settings.SavedFontSize = number(Key::FontSize);
+    settings.SavedFontColor = static_cast<Color>(ToInteger(textOf(Key::FontColor)));
+    settings.SavedFontItalic = flag(Key::FontItalic);
+    settings.LogoVisible = flag(Key::LogoVisible);
+    if (shorter) {
+        ReportError(
+            program, "GetUserPreferences",
+            files::FileError(files::kPathAccess, "A line of UserPreferences.txt is too short for its key"));
+    }
+}
+
+/// The settings that are in force from now on.
+void PutInForce(Program& program) {
+    const SettingsRecords& settings = program.settings;
+    RunState& run = program.run;
+    // Reading the settings again must not bring back a font that the start has found missing.
+    run.DefaultFontName =
+        run.FontsLoaded && !run.DefaultFontFound ? "Times New Roman" : settings.SavedFontName;
+    run.DefaultFontSize = settings.SavedFontSize;
+    run.DefaultFontColor = settings.SavedFontColor;
+    run.DefaultFontItalic = settings.SavedFontItalic;
+    if (!settings.PageTitles.empty()) {
+        program.document.PageHeading = settings.PageTitles;
+    }
+    if (!settings.LogoFile.empty()) {
+        const bool whole =
+            settings.LogoFile.find(':') != std::string::npos || paths::IsAbsolute(settings.LogoFile);
+        run.LogoPath =
+            whole ? settings.LogoFile : paths::Join(program.folders.InstallFolder, settings.LogoFile);
+    }
+    run.TermsPinned = !settings.FrequentTermsFile.empty() && settings.LoadFUT;
+    if (run.TermsPinned) {
+        run.FUTFileName = settings.FrequentTermsFile;
+    }
+    Printers& printers = program.platform.printers;
+    run.NoPrinter = printers.Names().empty();
+    if (!settings.DefaultPrinter.empty()) {
+        static_cast<void>(printers.MakeCurrent(settings.DefaultPrinter));
+    }
+}
+
+std::string OwnProposals(const Program& program) {
+    return paths::WithSeparator(paths::Join(program.folders.InstallFolder, kProposals));
+}
+
+/// Copies the shared data of an installation into a new shared folder; what it does not hold is left out.
+void FillSharedFolder(Program& program, const std::string& folder) {
+    struct Item {
+        std::string_view From;
+        std::string_view To;
+    };
+    // The tax file's new name has always been written so; the rate of a new shared folder is asked for
+    // afresh.
+    constexpr std::array<Item, 3> kItems{{{"Default Terms.fut", "Default Terms.fut"},
+                                          {"Wedding Terms.fut", "Wedding Terms.fut"},
+                                          {"SalesTax.txt", "SaleTax.txt"}}};
+    for (const Item& item : kItems) {
+        const std::string from = paths::Join(OwnProposals(program), item.From);
+        if (files::Exists(from)) {
+            files::Copy(from, paths::Join(folder, item.To));
+        }
+    }
+}
+
+std::string ChooseFolder(Program& program) {
+    Folders& folders = program.folders;
+    if (program.settings.SharedDirectory.empty()) {
+        return OwnProposals(program);
+    }
+    folders.SharedFolder =
+        paths::WithSeparator(paths::ResolveDrive(program.settings.SharedDirectory, folders.Drives));
+    std::string shared = paths::WithSeparator(paths::Join(folders.SharedFolder, kProposals));
+    if (modFile::FolderExists(folders.SharedFolder, kProposals)) {
+        return shared;
+    }
+    Questions& questions = program.platform.questions;
+    const Answer answer =
+        questions.MsgBox(text::Lines({"Could not find the folder \"Proposals\" on the shared",
+                                      "network drive. This is the network folder where all the Proposal",
+                                      "files normally reside. Would you like to create the folder now?"}),
+                         Buttons::YesNo, "Proposals Folder Not Found");
+    if (answer != Answer::Yes) {
+        return OwnProposals(program);
+    }
+    try {
+        files::MakeFolder(shared);
+        questions.MsgBox("Proposals Folder Successfully Created.", Buttons::Ok, "");
+        FillSharedFolder(program, shared);
+    } catch (const std::exception& error) {
+        ReportError(program, "GetUserPreferences", error);
+        return files::IsFolder(shared) ? shared : OwnProposals(program);
+    }
+    return shared;
+}
+
+void SettleFolders(Program& program) {
+    Folders& folders = program.folders;
+    folders.ProposalsFolder = ChooseFolder(program);
+    const bool noDocument = !program.document.FileExists && program.document.FileName.empty();
+    if (noDocument || program.document.FilePath.empty()) {
+        program.document.FilePath = folders.ProposalsFolder;
+    }
+}
+
+/// The folder of the proposals and the one of their backups. Without them the program goes on with what it
+/// has, so that the person can name another folder.
+void EnsureFolders(Program& program) {
+    const std::string& folder = program.folders.ProposalsFolder;
+    try {
+        if (!files::IsFolder(folder)) {
+            files::MakeFolder(folder);
+        }
+        if (!modFile::FolderExists(folder, kBackup)) {
+            files::MakeFolder(paths::Join(folder, kBackup));
+        }
+    } catch (const std::exception& error) {
+        program.platform.questions.MsgBox("Error encountered during Events Folder check.", Buttons::Ok, "");
+        ReportError(program, "GetUserPreferences", error);
+    }
+}
+
+/// Makes way for the file as it will be. One that could not be read is not thrown away: what it holds is
+/// nowhere else.
+void KeepUnread(const Program& program, const std::string& path) {
+    if (program.settings.PrefsRead || program.settings.ReadingPrefs || files::IsFolder(path)) {
+        files::Delete(path);
+        return;
+    }
+    const std::string kept = path + ".unread";
+    if (files::Exists(kept)) {
+        files::Delete(kept);
+    }
+    files::Rename(path, kept);
+}
+
+} // namespace
+
+std::string_view KeyText(Key key) {
+    return kKeys[static_cast<std::size_t>(key)];
+}
+
+void GetUserPreferences(Program& program) {
+    SettingsRecords& settings = program.settings;
+    const ScopedFlag reading(settings.ReadingPrefs);
+    Guarded(program, "GetUserPreferences", [&] {
+        settings.Lines =
+            text::SplitLines(files::ReadAll(paths::Join(program.folders.InstallFolder, kFileName)));
+        Distribute(program);
+        if (settings.AppFirstInstance) {
+            SetLine(program, Key::AppFirstInstance, "False");
+        }
+        PutInForce(program);
+        SettleFolders(program);
+        if (settings.AppFirstInstance) {
+            SaveUserPreferences(program);
+        }
+        EnsureFolders(program);
+        ReadPrinterOffsets(program);
+        settings.PrefsRead = true;
+    });
+}
+
+bool SaveUserPreferences(Program& program) {
+    // The log has always had this routine under the other's name.
+    return Guarded(program, "RequestNetworkSharePath", [&] {
+        const std::string path = paths::Join(program.folders.InstallFolder, kFileName);
+        std::string bytes;
+        for (const std::string& line : program.settings.Lines) {
+            bytes += line;
+            bytes += text::kCrLf;
+        }
+        if (files::Exists(path)) {
+            KeepUnread(program, path);
+        }
+        files::WriteWhole(path, bytes);
+    });
+}
+
+void SetLine(Program& program, Key key, std::string_view value) {
+    std::vector<std::string>& lines = program.settings.Lines;
+    const auto at = static_cast<std::size_t>(key);
+    while (lines.size() <= at) {
+        lines.emplace_back(kKeys[lines.size()]);
+    }
+    lines[at] = std::string(KeyText(key)) + std::string(value);
+}
+
+void RequestNetworkSharePath(Program& program) {
+    const std::string prompt =
+        "Please enter the network share DRIVE LETTER now, singularly without symbols... i.e., c, d, e, f, g, "
+        "etc."
+        "\r\n\r\n"
+        "The network share drive is the drive where the Proposal Files will now reside to be shared within "
+        "the network. "
+        "If this install is on a stand alone system (non-network), the drive letter will likely be \"c\", "
+        "otherwise it "
+        "could be \"f\" or \"g\" or any other letter."
+        "\r\n\r\n"
+        "If you're unsure of the network share drive, press Cancel to resume the current Proposal Folder.";
+    const std::string reply = program.platform.questions.InputBox(prompt, "Proposal Directory Setup", "");
+    if (reply.empty()) {
+        return;
+    }
+    const char first = reply.front();
+    const bool letter =
+        reply.size() == 1 && ((first >= 'A' && first <= 'Z') || (first >= 'a' && first <= 'z'));
+    if (!letter && !paths::IsSeparator(first)) {
+        program.platform.questions.MsgBox(
+            text::Lines({"You have not entered a valid Drive Letter. Please",
+                         "contact the Help File for assistance in setting up", "a network share path."}),
+            Buttons::Ok, "");
+        return;
+    }
+    const std::string folder = letter ? reply + ":\\" : paths::WithSeparator(reply);
+    SetLine(program, Key::SharedDirectory, folder);
+    SaveUserPreferences(program);
+    GetUserPreferences(program);
+    program.document.FilePath = program.folders.ProposalsFolder;
+}
+
+} // namespace modSettings

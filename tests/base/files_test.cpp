@@ -1,0 +1,122 @@
+#include "base/files.h"
+#include "support/scratch_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <functional>
+#include <string>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+int NumberOf(const std::function<void()>& work) {
+    try {
+        work();
+    } catch (const files::FileError& error) {
+        return error.Number();
+    }
+    return 0;
+}
+
+TEST(Files, ReadNoMoreThanWasAskedFor) {
+    const ScratchFolder folder;
+    folder.Write("a", "0123456789");
+    EXPECT_EQ(files::ReadUpTo(folder / "a", 4), "0123");
+    EXPECT_EQ(files::ReadUpTo(folder / "a", 100), "0123456789");
+    EXPECT_EQ(files::Length(folder / "a"), 10U);
+    EXPECT_THROW(static_cast<void>(files::ReadAll(folder / "a", 9)), files::FileError);
+    EXPECT_EQ(files::ReadAll(folder / "a", 10), "0123456789");
+}
+
+TEST(Files, WhatIsNoRegularFileIsRefusedAndNeverWaitedFor) {
+    const ScratchFolder folder;
+    folder.MakeFolder("folder");
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_EQ(NumberOf([&] { static_cast<void>(files::ReadAll(folder / "folder")); }), files::kPathAccess);
+    EXPECT_EQ(NumberOf([&] { static_cast<void>(files::ReadAll(folder / "pipe")); }), files::kPathAccess);
+    EXPECT_EQ(NumberOf([&] { static_cast<void>(files::ReadAll("/dev/zero")); }), files::kPathAccess);
+    EXPECT_EQ(NumberOf([&] { static_cast<void>(files::ReadAll(folder / "none")); }), files::kNotFound);
+    EXPECT_EQ(NumberOf([&] { files::WriteWhole(folder / "folder", "x"); }), files::kPathAccess);
+    EXPECT_FALSE(files::Exists(folder / "folder"));
+    EXPECT_TRUE(files::IsFolder(folder / "folder"));
+}
+
+TEST(Files, NamesAreFoundWithoutRegardToCaseAnExactOneFirst) {
+    const ScratchFolder folder;
+    folder.Write("Backup/Jane.HEF", "upper");
+    EXPECT_EQ(files::ReadAll(folder / "BACKUP/jane.hef"), "upper");
+    EXPECT_EQ(files::ReadAll(folder / "backup\\jane.hef"), "upper");
+    folder.Write("Backup/jane.hef", "lower");
+    EXPECT_EQ(files::ReadAll(folder / "backup/jane.hef"), "lower");
+    EXPECT_EQ(files::ReadAll(folder / "backup/Jane.HEF"), "upper");
+    EXPECT_TRUE(modFile::FileIsThere(folder.Path(), "backup/JANE.hef"));
+    EXPECT_TRUE(modFile::FolderExists(folder.Path(), "BACKUP"));
+    EXPECT_FALSE(modFile::FolderExists(folder.Path(), "Jane.HEF"));
+    EXPECT_FALSE(modFile::FileIsThere(folder.Path(), ""));
+}
+
+TEST(Files, NamesHoldEveryCharacterOfTheProgram) {
+    const ScratchFolder folder;
+    const std::string name = "\xD8rsted \x80 \xE9.hef";
+    files::WriteWhole(folder.Path() + name, "x");
+    EXPECT_TRUE(folder.Has("\xC3\x98rsted \xE2\x82\xAC \xC3\xA9.hef"));
+    EXPECT_EQ(files::List(folder.Path(), "*.hef"), std::vector<std::string>{name});
+}
+
+TEST(Files, ListsByPatternsInOrderAndLeavesOutFolders) {
+    const ScratchFolder folder;
+    for (const char* name : {"b.hef", "A.HEF", "c.txt", "logo.jpg", "x.bmp"}) {
+        folder.Write(name, "");
+    }
+    folder.MakeFolder("d.hef");
+    EXPECT_EQ(files::List(folder.Path(), "*.hef"), (std::vector<std::string>{"A.HEF", "b.hef"}));
+    EXPECT_EQ(files::List(folder.Path(), "*.jpg;*.bmp"), (std::vector<std::string>{"logo.jpg", "x.bmp"}));
+    EXPECT_EQ(NumberOf([&] { static_cast<void>(files::List(folder / "none", "*")); }), files::kPathNotFound);
+}
+
+TEST(Files, AReadOnlyFileIsDeletedAfterItsAttributeWasCleared) {
+    const ScratchFolder folder;
+    folder.Write("a", "x");
+    ASSERT_EQ(::chmod((folder / "a").c_str(), 0444), 0);
+    files::ClearAttributes(folder / "a");
+    struct stat about {};
+    ASSERT_EQ(::stat((folder / "a").c_str(), &about), 0);
+    EXPECT_NE(about.st_mode & S_IWUSR, 0U);
+    files::Delete(folder / "a");
+    EXPECT_FALSE(folder.Has("a"));
+    folder.MakeFolder("b");
+    EXPECT_EQ(NumberOf([&] { files::Delete(folder / "b"); }), files::kPathAccess);
+}
+
+TEST(Files, AFullDiskIsToldOf) {
+    const ScratchFolder folder;
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    rlimit small = before;
+    small.rlim_cur = 1000;
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    const int number = NumberOf([&] { files::WriteWhole(folder / "a", std::string(5000, 'x')); });
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    EXPECT_EQ(number, files::kDiskFull);
+}
+
+TEST(Files, AppendAndRenameAndCopy) {
+    const ScratchFolder folder;
+    files::Append(folder / "log", "one");
+    files::Append(folder / "LOG", "two");
+    EXPECT_EQ(folder.Read("log"), "onetwo");
+    files::Copy(folder / "log", folder / "copy");
+    EXPECT_EQ(folder.Read("copy"), "onetwo");
+    EXPECT_EQ(NumberOf([&] { files::Rename(folder / "copy", folder / "log"); }), files::kAlreadyExists);
+    files::Rename(folder / "copy", folder / "moved");
+    EXPECT_TRUE(folder.Has("moved"));
+    EXPECT_EQ(NumberOf([&] { files::WriteWhole(folder / "none/a", ""); }), files::kPathNotFound);
+    EXPECT_NE(NumberOf([&] { files::WriteWhole(folder.Path() + "a/b?" + std::string(300, 'x'), ""); }), 0);
+}
+
+} // namespace

@@ -1,0 +1,353 @@
+#include "proposal/frm_file.h"
+
+#include "program/windows.h"
+#include "proposal/lifecycle.h"
+#include "proposal/proposal_file.h"
+#include "support/running_program.h"
+#include "support/typist.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace {
+
+const ScriptedQuestions::Box kDeleteQuestion{"Are you sure you want to delete this file?", Buttons::YesNo,
+                                             "Preparing to Delete File."};
+
+struct Choosing : RunningProgram {
+    Choosing() {
+        folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+        folder.Write("Proposals/Ann.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+        folder.Write("Proposals/notes.txt", "x");
+        folder.Write("Proposals/Old.hwf", "x");
+        folder.MakeFolder("Proposals/2008");
+    }
+    frmFile& Show() {
+        modMain::mnuFileOpenEvent_Click(program);
+        return dynamic_cast<frmFile&>(*modWindows::Find(program, "frmFile"));
+    }
+    frmFile& ShowToDelete() {
+        program.document.DeleteMode = true;
+        return dynamic_cast<frmFile&>(modWindows::Show(program, std::make_unique<frmFile>()));
+    }
+    static int At(const std::vector<std::string>& items, std::string_view name) {
+        const auto found = std::find(items.begin(), items.end(), name);
+        return found == items.end() ? -1 : static_cast<int>(found - items.begin());
+    }
+    void Select(frmFile& window, std::string_view name) {
+        window.FileList1_Click(program, At(window.FileList1.Items, name));
+    }
+    void Enter(frmFile& window, std::string_view name) {
+        window.Dir1_Change(program, At(window.Dir1.Items, name));
+    }
+    [[nodiscard]] std::string Data() const { return folder / "Proposals/"; }
+};
+
+TEST(Chooser, OpensOnTheDataFolderWithItsProposals) {
+    Choosing run;
+    const frmFile& window = run.Show();
+    EXPECT_EQ(window.Caption, "Opening Proposal File");
+    EXPECT_EQ(window.Mode(), Modality::Modal);
+    EXPECT_EQ(window.Folder, run.Data());
+    EXPECT_EQ(window.FileList1.Items, (std::vector<std::string>{"Ann.hef", "Jane Roe.hef"}));
+    EXPECT_EQ(window.Dir1.Items, (std::vector<std::string>{"..", "2008", "Backup"}));
+    EXPECT_EQ(window.Drive1.Items.front(), "/");
+    EXPECT_EQ(window.Drive1.Items.at(1), run.folder / "Home/");
+    EXPECT_EQ(window.lblHelp.Caption,
+              "Double-Click on the Drive or Folder category to find the file you wish to open.");
+    EXPECT_EQ(window.cmdOpenBack.Caption, "Return to List");
+    EXPECT_EQ(window.chkProp.Caption, "Ignore Associated Properties");
+    EXPECT_TRUE(window.chkProp.Visible);
+    EXPECT_FALSE(window.picFileOpen);
+    EXPECT_FALSE(run.program.document.IgnoreProperties);
+}
+
+TEST(Chooser, HidesThePropertiesBoxWhileAFormatIsEdited) {
+    Choosing run;
+    run.program.format.EditingFormat = true;
+    EXPECT_FALSE(run.Show().chkProp.Visible);
+}
+
+TEST(Chooser, AClickShowsThePanelAndReturnToListHidesIt) {
+    Choosing run;
+    frmFile& window = run.Show();
+    run.Select(window, "Jane Roe.hef");
+    EXPECT_TRUE(window.picFileOpen);
+    EXPECT_EQ(window.lblOpenFileName.Caption, "Jane Roe.hef");
+    EXPECT_EQ(window.Caption, "Opening Proposal File - Event File");
+    run.Select(window, "Ann.hef"); // the kind is told once, however often one chooses
+    EXPECT_EQ(window.Caption, "Opening Proposal File - Event File");
+    window.cmdOpenBack_Click(run.program);
+    EXPECT_EQ(window.Caption, "Opening Proposal File");
+    EXPECT_FALSE(window.picFileOpen);
+    EXPECT_EQ(window.FileList1.ListIndex, -1);
+    window.cmdOpenOK_Click(run.program); // nothing is chosen
+    EXPECT_FALSE(window.Closing);
+    window.FileList1_Click(run.program, 17);
+    window.FileList1_Click(run.program, -1);
+    EXPECT_FALSE(window.picFileOpen);
+}
+
+TEST(Chooser, OkReadsTheProposalAndCloses) {
+    Choosing run;
+    frmFile& window = run.Show();
+    run.Select(window, "Jane Roe.hef");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_TRUE(window.Closing);
+    EXPECT_EQ(run.program.document.FileName, "Jane Roe.hef");
+    EXPECT_TRUE(run.program.document.FileExists);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 3), "1,504.37");
+    EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + run.Data());
+    EXPECT_TRUE(run.program.main[CommandId::mnuFileDelete].Enabled);
+    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+}
+
+TEST(Chooser, AnOldExtensionCountsAsAProposal) {
+    Choosing run;
+    run.program.document.FileFilter = "*.hwf";
+    frmFile& window = run.Show();
+    run.Select(window, "Old.hwf");
+    EXPECT_EQ(window.Caption, "Opening Proposal File - Event File");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_EQ(run.program.document.BaseName, "Old");
+    EXPECT_EQ(run.program.document.FileFilter, "*.hef");
+}
+
+TEST(Chooser, AFileOfAnotherKindOpensNothing) {
+    Choosing run;
+    run.program.document.FileFilter = "*.txt";
+    frmFile& window = run.Show();
+    run.Select(window, "notes.txt");
+    EXPECT_EQ(window.lblOpenFileName.Caption, "notes.txt");
+    EXPECT_EQ(window.Caption, "Opening Proposal File");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_EQ(run.program.document.FileName, "");
+}
+
+TEST(Chooser, PropertiesAreReadUnlessTheyAreToBeIgnored) {
+    Choosing run;
+    run.folder.Write("Proposals/Jane Roe.hpf", "a line\r\n");
+    int parsed = 0;
+    run.program.hooks.ParsePropertyFile = [&](Program&) { ++parsed; };
+    frmFile& reading = run.Show();
+    run.Select(reading, "Jane Roe.hef");
+    reading.cmdOpenOK_Click(run.program);
+    modWindows::Sweep(run.program);
+    EXPECT_EQ(parsed, 1);
+    frmFile& ignoring = run.Show();
+    ignoring.chkProp_Click(run.program);
+    EXPECT_TRUE(run.program.document.IgnoreProperties);
+    run.Select(ignoring, "Jane Roe.hef");
+    ignoring.cmdOpenOK_Click(run.program);
+    modWindows::Sweep(run.program);
+    EXPECT_EQ(parsed, 1);
+    EXPECT_TRUE(run.program.format.PropertyLines.empty());
+    static_cast<void>(run.Show());
+    EXPECT_FALSE(run.program.document.IgnoreProperties);
+}
+
+TEST(Chooser, WalkingFoldersMovesTheWorkingFolderAndCancelPutsItBack) {
+    Choosing run;
+    frmFile& window = run.Show();
+    run.Enter(window, "2008");
+    EXPECT_EQ(window.Folder, run.folder / "Proposals/2008/");
+    EXPECT_EQ(run.program.document.FilePath, run.folder / "Proposals/2008/");
+    EXPECT_TRUE(window.FileList1.Items.empty());
+    run.Enter(window, "..");
+    run.Enter(window, "..");
+    EXPECT_EQ(window.Folder, run.folder.Path());
+    window.Dir1_Change(run.program, 99);
+    window.Dir1_Change(run.program, -1);
+    window.cmdOpenCancel_Click(run.program);
+    EXPECT_TRUE(window.Closing);
+    EXPECT_EQ(run.program.document.FilePath, run.Data());
+}
+
+TEST(Chooser, EscapePutsTheWorkingFolderBackToo) {
+    Choosing run;
+    frmFile& window = run.Show();
+    run.Enter(window, "2008");
+    window.Form_Cancel(run.program);
+    EXPECT_EQ(run.program.document.FilePath, run.Data());
+}
+
+TEST(Chooser, ADriveLeadsToItsRootAndTheRootHasNothingAbove) {
+    Choosing run;
+    frmFile& window = run.Show();
+    window.Drive1_Change(run.program, 1);
+    EXPECT_EQ(window.Folder, run.folder / "Home/");
+    EXPECT_EQ(window.Drive1.ListIndex, 1);
+    window.Drive1_Change(run.program, 0);
+    EXPECT_EQ(window.Folder, "/");
+    EXPECT_EQ(Choosing::At(window.Dir1.Items, ".."), -1);
+    window.Drive1_Change(run.program, 99);
+    EXPECT_EQ(window.Folder, "/");
+}
+
+TEST(Chooser, AProposalOpenedElsewhereIsSavedThere) {
+    Choosing run;
+    run.folder.Write("Proposals/2008/Far.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+    frmFile& window = run.Show();
+    run.Enter(window, "2008");
+    run.Select(window, "Far.hef");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_EQ(run.program.document.FilePath, run.folder / "Proposals/2008/");
+    EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + run.folder.Path() + "Proposals/2008/");
+}
+
+TEST(Chooser, AFolderThatVanishedIsToldAndTheListStays) {
+    Choosing run;
+    frmFile& window = run.Show();
+    std::filesystem::remove(run.folder / "Proposals/2008");
+    run.surroundings.questions.Expect("An error occurred in frmFile.");
+    run.Enter(window, "2008");
+    EXPECT_EQ(window.Folder, run.Data());
+    EXPECT_EQ(window.FileList1.Items.size(), 2U);
+    EXPECT_EQ(run.program.document.FilePath, run.Data());
+}
+
+TEST(Chooser, AMissingDataFolderIsToldAndTheWindowStillWorks) {
+    Choosing run;
+    std::filesystem::remove_all(run.folder / "Proposals");
+    run.surroundings.questions.Expect("An error occurred in frmFile.");
+    frmFile& window = run.Show();
+    EXPECT_TRUE(window.FileList1.Items.empty());
+    window.Drive1_Change(run.program, 1);
+    EXPECT_EQ(window.Folder, run.folder / "Home/");
+}
+
+TEST(Chooser, AFileThatVanishedCostsNothing) {
+    Choosing run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Bob");
+    run.surroundings.questions.Expect("Some text has been changed.", Answer::No);
+    frmFile& window = run.Show();
+    run.Select(window, "Jane Roe.hef");
+    std::filesystem::remove(run.folder / "Proposals/Jane Roe.hef");
+    run.surroundings.questions.Expect("An error occurred in OpenEventFile.");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_FALSE(window.Closing);
+    EXPECT_FALSE(window.picFileOpen);
+    EXPECT_EQ(window.FileList1.Items, std::vector<std::string>{"Ann.hef"});
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Bob");
+    EXPECT_EQ(run.program.document.FileName, "Bob.hef");
+    EXPECT_FALSE(run.program.document.FileExists);
+}
+
+TEST(Chooser, AFileThatBecameAFolderCostsNothing) {
+    Choosing run;
+    frmFile& window = run.Show();
+    run.Select(window, "Ann.hef");
+    std::filesystem::remove(run.folder / "Proposals/Ann.hef");
+    run.folder.MakeFolder("Proposals/Ann.hef");
+    run.surroundings.questions.Expect("An error occurred in OpenEventFile.");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_FALSE(window.Closing);
+    EXPECT_EQ(run.program.document.FileName, "");
+}
+
+TEST(Chooser, GoingOnWithAFormatKeepsTheWindowAndTheProposal) {
+    Choosing run;
+    run.program.format.EditingFormat = true;
+    frmFile& window = run.Show();
+    run.Select(window, "Ann.hef");
+    run.surroundings.questions.Expect("Proceeding with this action will end the editing session", Answer::No);
+    run.surroundings.questions.Expect("Resume Editing.");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_FALSE(window.Closing);
+    EXPECT_FALSE(run.program.document.FileExists);
+}
+
+TEST(Chooser, HostileFilesOpenAsProposalsOfBlanks) {
+    Choosing run;
+    run.folder.Write("Proposals/empty.hef", "");
+    run.folder.Write("Proposals/huge.hef", "");
+    std::filesystem::resize_file(run.folder / "Proposals/huge.hef", std::uintmax_t{1} << 30U);
+    for (const std::string name : {"empty.hef", "huge.hef"}) {
+        frmFile& window = run.Show();
+        run.Select(window, name);
+        window.cmdOpenOK_Click(run.program);
+        modWindows::Sweep(run.program);
+        EXPECT_EQ(run.program.document.FileName, name);
+        EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "");
+        EXPECT_FALSE(modMain::SomethingChanged(run.program)) << name;
+    }
+}
+
+TEST(Chooser, ListsNamesOfEveryByteAndOpensThem) {
+    Choosing run;
+    // An e with an acute accent and a euro sign, as the disk holds them and as the program does.
+    run.folder.Write("Proposals/Ren\xC3\xA9 \xE2\x82\xAC.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+    frmFile& window = run.Show();
+    run.Select(window, "Ren\xE9 \x80.hef");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_EQ(run.program.document.BaseName, "Ren\xE9 \x80");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
+}
+
+TEST(Chooser, InDeleteModeSaysSo) {
+    Choosing run;
+    const frmFile& window = run.ShowToDelete();
+    EXPECT_EQ(window.lblHelp.Caption,
+              "Double-Click on the Drive or Folder category to find the file you wish to delete.");
+    EXPECT_EQ(window.lblPointOpen.Caption, "Delete");
+}
+
+TEST(Chooser, InDeleteModeYesDeletesTheFilesAndKeepsTheWindow) {
+    Choosing run;
+    for (const std::string extension : {".hpf", ".txt", ".hxt", ".dep"}) {
+        run.folder.Write("Proposals/Jane Roe" + extension, "x");
+    }
+    frmFile& window = run.ShowToDelete();
+    run.Select(window, "Jane Roe.hef");
+    run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::No);
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hef"));
+    run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::Yes);
+    window.cmdOpenOK_Click(run.program);
+    for (const std::string extension : {".hef", ".hpf", ".txt", ".hxt", ".dep"}) {
+        EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe" + extension)) << extension;
+    }
+    EXPECT_EQ(window.FileList1.Items, std::vector<std::string>{"Ann.hef"});
+    EXPECT_FALSE(window.picFileOpen);
+    EXPECT_EQ(window.Caption, "Delete File...");
+    EXPECT_FALSE(window.Closing);
+    window.cmdOpenCancel_Click(run.program);
+    EXPECT_FALSE(run.program.document.DeleteMode);
+    EXPECT_EQ(run.program.document.FileFilter, "*.hef");
+}
+
+TEST(Chooser, InDeleteModeTheChosenOneOfTwoNamesThatDifferInCaseGoes) {
+    Choosing run;
+    run.folder.Write("Proposals/kim.HEF", "upper");
+    run.folder.Write("Proposals/kim.hef", "lower");
+    run.folder.Write("Proposals/Old.hef", "not old");
+    frmFile& window = run.ShowToDelete();
+    run.Select(window, "kim.HEF");
+    run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::Yes);
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_FALSE(run.folder.Has("Proposals/kim.HEF"));
+    EXPECT_EQ(run.folder.Read("Proposals/kim.hef"), "lower");
+    EXPECT_EQ(run.folder.Read("Proposals/Old.hef"), "not old");
+}
+
+TEST(Chooser, InDeleteModeAFileThatVanishedIsTold) {
+    Choosing run;
+    frmFile& window = run.ShowToDelete();
+    run.Select(window, "Ann.hef");
+    std::filesystem::remove(run.folder / "Proposals/Ann.hef");
+    run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::Yes);
+    run.surroundings.questions.ExpectBox({"An Error occurred trying to delete the file.", Buttons::Ok, ""},
+                                         Answer::Ok);
+    run.surroundings.questions.Expect("An error occurred in frmFile.");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_EQ(window.FileList1.Items, std::vector<std::string>{"Jane Roe.hef"});
+}
+
+} // namespace

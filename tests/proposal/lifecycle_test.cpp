@@ -1,0 +1,594 @@
+#include "proposal/lifecycle.h"
+
+#include "program/windows.h"
+#include "proposal/file_names.h"
+#include "proposal/frm_file.h"
+#include "proposal/proposal_file.h"
+#include "proposal/reset.h"
+#include "support/running_program.h"
+#include "support/typist.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+namespace {
+
+const ScriptedQuestions::Box kSaveQuestion{"Some text has been changed. Do you want to save the changes?",
+                                           Buttons::YesNoCancel, "File Properties have been Changed"};
+const ScriptedQuestions::Box kDeleteQuestion{"Are you sure you want to delete this file?", Buttons::YesNo,
+                                             "Preparing to Delete File."};
+
+struct Living : RunningProgram {
+    void TypeClient(std::string_view name) {
+        Typist typist(program);
+        typist.Click(PageId::frmP1, 2);
+        typist.Type(name);
+    }
+    /// A proposal with a client's name and a file.
+    void SaveAs(const std::string& client) {
+        TypeClient(client);
+        surroundings.questions.Expect("File was saved as " + client + ".hef");
+        modMain::mnuFileSaveEvent_Click(program);
+    }
+    void Touch() {
+        Typist typist(program);
+        typist.Click(PageId::frmP1, 10);
+        typist.Type("x");
+    }
+    [[nodiscard]] std::string Data() const { return folder / "Proposals/"; }
+    [[nodiscard]] frmFile& Chooser() { return dynamic_cast<frmFile&>(*modWindows::Find(program, "frmFile")); }
+    void Open(const std::string& name) {
+        modMain::mnuFileOpenEvent_Click(program);
+        frmFile& chooser = Chooser();
+        for (std::size_t index = 0; index < chooser.FileList1.Items.size(); ++index) {
+            if (chooser.FileList1.Items[index] == name) {
+                chooser.FileList1_Click(program, static_cast<int>(index));
+            }
+        }
+        chooser.cmdOpenOK_Click(program);
+        modWindows::Sweep(program);
+    }
+    void OpenBackup(const std::string& name) {
+        modMain::mnuFileOpenEvent_Click(program);
+        frmFile& chooser = Chooser();
+        for (std::size_t index = 0; index < chooser.Dir1.Items.size(); ++index) {
+            if (chooser.Dir1.Items[index] == "Backup") {
+                chooser.Dir1_Change(program, static_cast<int>(index));
+                break;
+            }
+        }
+        ASSERT_EQ(chooser.FileList1.Items, std::vector<std::string>{name});
+        chooser.FileList1_Click(program, 0);
+        chooser.cmdOpenOK_Click(program);
+        modWindows::Sweep(program);
+    }
+    [[nodiscard]] bool RestoreEnabled() { return program.main[CommandId::mnuFileRestoreFromBackup].Enabled; }
+};
+
+TEST(Dirty, AnEmptyProposalIsClean) {
+    Living run;
+    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+}
+
+TEST(Dirty, EveryAreaOfTheEditedPagesCounts) {
+    Living run;
+    run.program.hooks.CollectQtyBoxes = nullptr; // it would bring the texts back to what the fields show
+    for (const PageId page : kEditedPages) {
+        const auto at = static_cast<std::size_t>(IndexOf(page));
+        auto& texts = run.program.document.CurrentTextBuf[at];
+        ASSERT_EQ(texts.size(), page == PageId::frmP1 ? 30U : page == PageId::frmP6 ? 6U : 66U);
+        for (std::string& text : texts) {
+            const std::string before = text;
+            text = "changed";
+            EXPECT_TRUE(modMain::SomethingChanged(run.program));
+            text = before;
+        }
+    }
+    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+}
+
+TEST(Dirty, BlanksAroundTheFiguresOfTheFinalPageDoNotCount) {
+    Living run;
+    run.program.hooks.CollectQtyBoxes = nullptr; // it would bring the texts back to what the fields show
+    run.program.document.CurrentTextBuf[5][3] = "  1.00";
+    run.program.document.SavedTextBuf[5][3] = "1.00 ";
+    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+    run.program.document.CurrentTextBuf[1][3] = "a";
+    run.program.document.SavedTextBuf[1][3] = "a";
+    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+    run.program.document.CurrentTextBuf[1][3] = "a ";
+    EXPECT_TRUE(modMain::SomethingChanged(run.program));
+}
+
+TEST(Dirty, TheRowFieldsAreCollectedBeforeTheComparison) {
+    Living run;
+    int collected = 0;
+    run.program.hooks.CollectQtyBoxes = [&](Program& program) {
+        ++collected;
+        program.document.CurrentTextBuf[1][0] = "\xA5"
+                                                "3\xA5"
+                                                "Chairs\xA7"
+                                                "1.00";
+    };
+    EXPECT_TRUE(modMain::SomethingChanged(run.program));
+    EXPECT_EQ(collected, 1);
+}
+
+TEST(AskingToSave, SaysNothingWhenNothingChanged) {
+    Living run;
+    EXPECT_TRUE(modMain::MayGoOn(run.program));
+}
+
+TEST(AskingToSave, AChangedPropertyAsksToo) {
+    Living run;
+    run.program.format.PropTextChanges[0][10].Dirty = true;
+    run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::No);
+    EXPECT_TRUE(modMain::MayGoOn(run.program));
+}
+
+TEST(AskingToSave, NewWithCancelChangesNothing) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    run.Touch();
+    run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::Cancel);
+    modMain::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "x");
+    EXPECT_EQ(run.program.document.FileName, "Jane Roe.hef");
+    EXPECT_FALSE(run.program.document.Cancelled);
+}
+
+TEST(AskingToSave, NewWithNoDropsTheText) {
+    Living run;
+    run.Touch();
+    run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::No);
+    modMain::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "");
+    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+}
+
+TEST(AskingToSave, NewWithYesSavesFirst) {
+    Living run;
+    run.TypeClient("Jane Roe");
+    run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::Yes);
+    run.surroundings.questions.ExpectBox({"File was saved as Jane Roe.hef", Buttons::Ok, ""}, Answer::Ok);
+    modMain::mnuFileNew_Click(run.program);
+    EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hef"));
+    EXPECT_EQ(run.program.document.FileName, "");
+}
+
+TEST(AskingToSave, YesWithoutAClientsNameKeepsTheTextAndStopsTheCommand) {
+    Living run;
+    run.Touch();
+    for (const auto command : {modMain::mnuFileNew_Click, modMain::mnuFileOpenEvent_Click}) {
+        run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::Yes);
+        run.surroundings.questions.Expect("Please enter the client's name in the appropriate area");
+        command(run.program);
+        EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "x");
+        EXPECT_TRUE(run.program.windows.Open.empty());
+        EXPECT_FALSE(run.program.document.Cancelled);
+    }
+}
+
+TEST(AskingToSave, AWriteThatFailsKeepsTheTextAndStopsTheCommand) {
+    Living run;
+    run.TypeClient("Jane Roe");
+    run.folder.MakeFolder("Proposals/Jane Roe.hef");
+    run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::Yes);
+    run.surroundings.questions.Expect("An error occurred in SaveEventFile.");
+    modMain::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
+    EXPECT_FALSE(run.program.document.FileExists);
+}
+
+TEST(AskingToSave, NoAtTheDuplicateQuestionStopsTheCommand) {
+    Living run;
+    run.folder.Write("Proposals/Jane Roe.hef", "somebody's");
+    run.TypeClient("Jane Roe");
+    run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::Yes);
+    run.surroundings.questions.Expect("A file with this name (Jane Roe.hef)", Answer::No);
+    run.surroundings.questions.ExpectBox({"File not saved.", Buttons::Ok, ""}, Answer::Ok);
+    modMain::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), "somebody's");
+}
+
+TEST(New, LaysTheContractsHeadingAndTheTwoLabels) {
+    Living run;
+    run.Label(PageId::frmP1, 9).Caption = "other";
+    modMain::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.program.document.PageHeading, "Acme Events - Contract Proposal - ");
+    // The labels were laid before; they follow when the page numbers are set.
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Acme Events - Event Proposal - Page 2");
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Event Date");
+    EXPECT_EQ(run.Label(PageId::frmP1, 10).Caption, "Event Time");
+    EXPECT_EQ(run.Label(PageId::frmP1, 10).Left, 10080.0F);
+    EXPECT_EQ(run.program.run.FUTFileName, "Default Terms.fut");
+    EXPECT_EQ(run.program.document.DocumentKind, "Event");
+}
+
+TEST(New, TheSettingForPageTitlesStandsBeforeAnyHeading) {
+    RunningProgram run(RunningProgram::Begin::NotStarted);
+    run.Setting("Page Titles:", "Our own: ");
+    run.Start();
+    EXPECT_EQ(run.program.document.PageHeading, "Our own: ");
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Our own: Page 2");
+    modMain::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.program.document.PageHeading, "Our own: ");
+}
+
+TEST(New, ReadsTheTermsUnlessAListIsPinnedAndShowsTheCalculatorWhenWanted) {
+    Living run;
+    int terms = 0;
+    int calculators = 0;
+    run.program.hooks.ReadFrequentlyUsedTerms = [&](Program&) { ++terms; };
+    run.program.hooks.ShowCalculator = [&](Program&) { ++calculators; };
+    modMain::mnuFileNew_Click(run.program);
+    EXPECT_EQ(terms, 1);
+    EXPECT_EQ(calculators, 0);
+    run.program.settings.ShowCalc = true;
+    run.program.run.TermsPinned = true;
+    run.program.run.FUTFileName = "Mine.fut";
+    modMain::mnuFileNew_Click(run.program);
+    EXPECT_EQ(terms, 1);
+    EXPECT_EQ(calculators, 1);
+    EXPECT_EQ(run.program.run.FUTFileName, "Mine.fut");
+}
+
+TEST(Reset, EmptiesNamesTextsTotalsAndMarks) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    run.program.totals.AmountTable[20][0] = 5;
+    run.program.totals.Deposit = 7;
+    run.program.document.PagesInUse = 2;
+    run.program.format.PropTextChanges[0][20].TaxExempt = true;
+    run.program.format.PropertyLines = {"a"};
+    run.program.main.imgFootNotes.Picture = 1;
+    ASSERT_EQ(modMain::StartNewFile(run.program), modMain::ResetResult::Done);
+    const DocumentState& document = run.program.document;
+    EXPECT_EQ(document.FileName, "");
+    EXPECT_EQ(document.BaseName, "");
+    EXPECT_EQ(document.FootnoteFile, "");
+    EXPECT_EQ(document.DepositFile, "");
+    EXPECT_FALSE(document.FileExists);
+    EXPECT_EQ(document.PagesInUse, 6);
+    EXPECT_EQ(document.ClientCaption, "Proposal for (Client's Name)");
+    EXPECT_EQ(document.PageHeading, "Acme Events - Event Proposal - ");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "");
+    EXPECT_EQ(run.program.totals.AmountTable[20][0], 0.0F);
+    EXPECT_EQ(run.program.totals.Deposit, 0.0F);
+    EXPECT_EQ(run.program.totals.TaxRate, 8.25F);
+    EXPECT_FALSE(run.program.format.PropTextChanges[0][20].TaxExempt);
+    EXPECT_TRUE(run.program.format.PropertyLines.empty());
+    EXPECT_EQ(run.program.main.Caption, "Quillbrook");
+    EXPECT_EQ(run.program.main.imgFootNotes.Picture, 0);
+    EXPECT_EQ(run.program.main.lblTotal.Caption, "Running Sub-Total = $ 0.00");
+    EXPECT_EQ(run.program.main.lblHighestPage.Caption, "Available Pages = 6");
+    EXPECT_FALSE(run.program.main[CommandId::mnuFileDelete].Enabled);
+    EXPECT_FALSE(run.program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled);
+    EXPECT_FALSE(run.program.guards.ResetActive);
+    EXPECT_EQ(document.FilePath, run.Data());
+}
+
+TEST(Reset, GuardsAreNestedInTheOnesThatStand) {
+    Living run;
+    run.program.guards.ResetActive = true;
+    static_cast<void>(modMain::StartNewFile(run.program));
+    EXPECT_TRUE(run.program.guards.ResetActive);
+}
+
+TEST(Reset, TheFootnotesWindowIsAskedToCloseFirst) {
+    Living run;
+    std::string nameThen = "not asked";
+    run.program.document.FileName = "Jane Roe.hef";
+    run.program.hooks.CloseFootnotes = [&](Program& program) { nameThen = program.document.FileName; };
+    static_cast<void>(modMain::StartNewFile(run.program));
+    EXPECT_EQ(nameThen, "Jane Roe.hef");
+}
+
+const ScriptedQuestions::Box kFormatQuestion{
+    "Proceeding with this action will end the editing session of your file format. Continue?", Buttons::YesNo,
+    "Ending Format Editing"};
+
+TEST(Reset, GoingOnWithAFormatStopsItAndLeavesNoGuardBehind) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    run.program.format.EditingFormat = true;
+    bool footnotesClosed = false;
+    run.program.hooks.CloseFootnotes = [&](Program&) { footnotesClosed = true; };
+    run.surroundings.questions.ExpectBox(kFormatQuestion, Answer::No);
+    run.surroundings.questions.ExpectBox({"Resume Editing.", Buttons::Ok, ""}, Answer::Ok);
+    EXPECT_EQ(modMain::StartNewFile(run.program), modMain::ResetResult::Refused);
+    EXPECT_TRUE(footnotesClosed); // they close before the question
+    EXPECT_EQ(run.program.document.FileName, "Jane Roe.hef");
+    EXPECT_TRUE(run.program.format.EditingFormat);
+    EXPECT_FALSE(run.program.guards.ResetActive);
+}
+
+TEST(Reset, EndingTheFormatEmptiesTheProposal) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    run.program.format.EditingFormat = true;
+    run.surroundings.questions.ExpectBox(kFormatQuestion, Answer::Yes);
+    EXPECT_EQ(modMain::StartNewFile(run.program), modMain::ResetResult::Done);
+    EXPECT_EQ(run.program.document.FileName, "");
+    EXPECT_FALSE(run.program.format.EditingFormat);
+}
+
+TEST(SaveAs, AsksForANameAndSavesUnderIt) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    run.surroundings.questions.ExpectInput("Saving File As...", "  Second  ");
+    run.surroundings.questions.ExpectBox({"File was saved as Second.hef", Buttons::Ok, ""}, Answer::Ok);
+    modMain::mnuFileSaveAs_Click(run.program);
+    EXPECT_EQ(run.surroundings.questions.Prompts.back(), "Please input the File Name below.");
+    EXPECT_EQ(run.surroundings.questions.Initials.back(), "Jane Roe");
+    EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hef"));
+    EXPECT_EQ(run.folder.Read("Proposals/Second.hef").size(), 20630U);
+    EXPECT_EQ(run.program.document.FileName, "Second.hef");
+    EXPECT_EQ(run.program.document.BaseName, "Second");
+    EXPECT_EQ(run.program.document.TextFileName, "Second.txt");
+    EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Second.hef");
+    EXPECT_FALSE(run.program.document.SaveAsActive);
+    // A proposal without properties gets an empty file of them.
+    EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"), "");
+}
+
+TEST(SaveAs, WithoutANameNothingIsSaved) {
+    for (const std::string reply : {"", "   "}) {
+        Living run;
+        run.surroundings.questions.ExpectInput("Saving File As...", reply);
+        run.surroundings.questions.ExpectBox({"No name entered. File not saved.", Buttons::Ok, ""},
+                                             Answer::Ok);
+        modMain::SaveEventFileAs(run.program);
+        EXPECT_FALSE(run.program.document.FileExists);
+    }
+}
+
+TEST(SaveAs, AnIllegalNameIsRefused) {
+    Living run;
+    run.surroundings.questions.ExpectInput("Saving File As...", "a/b");
+    run.surroundings.questions.Expect("Action Cancelled. File Name cannot include any of ");
+    modMain::SaveEventFileAs(run.program);
+    EXPECT_FALSE(run.program.document.SaveAsActive);
+    EXPECT_EQ(run.program.document.FileName, "");
+}
+
+const ScriptedQuestions::Box kOverwrite{"A file with the name Jane Roe.hef already exists. Overwrite?",
+                                        Buttons::YesNoCancel, "Preparing to Overwrite Existing Event File"};
+
+TEST(SaveAs, OverTheOpenFileItselfAsksToo) {
+    for (const Answer answer : {Answer::No, Answer::Cancel}) {
+        Living run;
+        run.SaveAs("Jane Roe");
+        run.Touch();
+        run.surroundings.questions.ExpectInput("Saving File As...", "Jane Roe");
+        run.surroundings.questions.ExpectBox(kOverwrite, answer);
+        run.surroundings.questions.ExpectBox({"Action Cancelled. File not saved.", Buttons::Ok, ""},
+                                             Answer::Ok);
+        modMain::SaveEventFileAs(run.program);
+        EXPECT_TRUE(modMain::SomethingChanged(run.program));
+    }
+    Living run;
+    run.SaveAs("Jane Roe");
+    run.Touch();
+    run.surroundings.questions.ExpectInput("Saving File As...", "Jane Roe");
+    run.surroundings.questions.ExpectBox(kOverwrite, Answer::Yes);
+    run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
+    modMain::SaveEventFileAs(run.program);
+    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+}
+
+TEST(SaveAs, WithAChangedClientAsksTwice) {
+    Living run;
+    run.folder.Write("Proposals/Jane Roe.hef", "older");
+    run.TypeClient("Ann");
+    run.surroundings.questions.ExpectInput("Saving File As...", "Jane Roe");
+    run.surroundings.questions.ExpectBox(kOverwrite, Answer::Yes);
+    run.surroundings.questions.Expect("A file with this name (Jane Roe.hef)", Answer::No);
+    run.surroundings.questions.Expect("File not saved.");
+    modMain::SaveEventFileAs(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), "older");
+    // The names are those of before.
+    EXPECT_EQ(run.program.document.FileName, "Ann.hef");
+    EXPECT_FALSE(run.program.document.FileExists);
+}
+
+TEST(SaveAs, FootnotesAndDepositsGoWithTheProposal) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    run.folder.Write("Proposals/Jane Roe.hxt", "notes");
+    run.folder.Write("Proposals/Jane Roe.dep", "deposits");
+    run.surroundings.questions.ExpectInput("Saving File As...", "Second");
+    run.surroundings.questions.Expect("File was saved as Second.hef");
+    modMain::SaveEventFileAs(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Second.hxt"), "notes");
+    EXPECT_EQ(run.folder.Read("Proposals/Second.dep"), "deposits");
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hxt"), "notes");
+    EXPECT_EQ(run.program.document.FootnoteFile, "Second.hxt");
+}
+
+TEST(SaveAs, ADoubleQuoteIsLegalInAName) {
+    Living run;
+    run.surroundings.questions.ExpectInput("Saving File As...", "The \"Roe\" party");
+    run.surroundings.questions.Expect("File was saved as The \"Roe\" party.hef");
+    modMain::SaveEventFileAs(run.program);
+    EXPECT_TRUE(run.folder.Has("Proposals/The \"Roe\" party.hef"));
+}
+
+TEST(FileNames, EightCharactersAreRefusedWithOneMessage) {
+    Living run;
+    const ScriptedQuestions::Box refusal{"Action Cancelled. File Name cannot include any of \r\n"
+                                         "the following characters: / \\ : * ? < > |",
+                                         Buttons::Ok, ""};
+    for (const char character : std::string("/\\:*?<>|")) {
+        run.surroundings.questions.ExpectBox(refusal, Answer::Ok);
+        EXPECT_TRUE(modMain::IllegalFileName(run.program, std::string("a") + character + "b"));
+    }
+    EXPECT_FALSE(modMain::IllegalFileName(run.program, "a\"b"));
+    EXPECT_FALSE(modMain::IllegalFileName(run.program, ""));
+}
+
+TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesIt) {
+    Living run;
+    run.folder.Write("Proposals/Jane Roe.hef", "older");
+    run.surroundings.questions.Expect("A file with this name (Jane Roe.hef)\r\n"
+                                      "already exists. Do you want to replace the\r\n"
+                                      "existing file, created on:\r\n",
+                                      Answer::Yes);
+    modMain::ShowDuplicateFileOptions(run.program, "Jane Roe.hef");
+    const ScriptedQuestions::Box& box = run.surroundings.questions.Shown.back();
+    EXPECT_EQ(box.Title, "Duplicate File Name on Record");
+    EXPECT_TRUE(box.Text.ends_with("\r\n\r\nwith this one?"));
+    EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe.hef"));
+    EXPECT_FALSE(run.program.document.Cancelled);
+}
+
+TEST(Delete, AsksAndLeavesEverythingOnNo) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::No);
+    modMain::mnuFileDelete_Click(run.program);
+    EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hef"));
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
+}
+
+TEST(Delete, TakesTheFilesOfItsNameAndStartsAnew) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    for (const std::string extension : {".hpf", ".txt", ".hxt", ".dep", ".old"}) {
+        run.folder.Write("Proposals/Jane Roe" + extension, "x");
+    }
+    run.folder.Write("Proposals/Jane Roes.hpf", "x");
+    run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::Yes);
+    modMain::mnuFileDelete_Click(run.program);
+    for (const std::string extension : {".hef", ".hpf", ".txt", ".hxt", ".dep"}) {
+        EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe" + extension)) << extension;
+    }
+    EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.old"));
+    EXPECT_TRUE(run.folder.Has("Proposals/Jane Roes.hpf"));
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "");
+    EXPECT_FALSE(run.program.document.FileExists);
+}
+
+TEST(Delete, WithoutAFileSaysSoAndNothingElse) {
+    Living run;
+    run.TypeClient("Jane Roe");
+    run.surroundings.questions.ExpectBox(
+        {"No such file exists. Select New to start a new proposal (Ctrl + N).", Buttons::Ok, ""}, Answer::Ok);
+    modMain::mnuFileDelete_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
+}
+
+TEST(Delete, AFileThatHasGoneMeanwhileIsToldAndTheTextStays) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    std::filesystem::remove(run.folder / "Proposals/Jane Roe.hef");
+    run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::Yes);
+    run.surroundings.questions.ExpectBox({"An Error occurred trying to delete the file.", Buttons::Ok, ""},
+                                         Answer::Ok);
+    run.surroundings.questions.Expect("An error occurred in mnuFileDelete_Click.");
+    modMain::mnuFileDelete_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
+}
+
+TEST(Delete, OfABackupLeavesTheBackupsBehind) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    modFile::BackupThisFile(run.program);
+    run.OpenBackup("Jane Roe.hef");
+    ASSERT_TRUE(run.program.document.FromBackup);
+    run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::Yes);
+    modMain::mnuFileDelete_Click(run.program);
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Jane Roe.hef"));
+    EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hef"));
+    EXPECT_FALSE(run.program.document.FromBackup);
+    EXPECT_FALSE(run.RestoreEnabled());
+    EXPECT_EQ(run.program.document.FilePath, run.Data());
+}
+
+TEST(Backup, OpeningOneAllowsRestoringAndOpeningAnotherEndsThat) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    modFile::BackupThisFile(run.program);
+    EXPECT_FALSE(run.RestoreEnabled());
+    run.OpenBackup("Jane Roe.hef");
+    EXPECT_TRUE(run.program.document.FromBackup);
+    EXPECT_TRUE(run.RestoreEnabled());
+    EXPECT_EQ(run.program.document.FilePath, run.folder / "Proposals/Backup/");
+    run.Open("Jane Roe.hef");
+    EXPECT_FALSE(run.program.document.FromBackup);
+    EXPECT_FALSE(run.RestoreEnabled());
+    EXPECT_EQ(run.program.document.FilePath, run.Data());
+}
+
+TEST(Backup, NewAfterOneWorksInTheDataFolderAgain) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    modFile::BackupThisFile(run.program);
+    run.OpenBackup("Jane Roe.hef");
+    modMain::mnuFileNew_Click(run.program);
+    EXPECT_FALSE(run.program.document.FromBackup);
+    EXPECT_FALSE(run.RestoreEnabled());
+    EXPECT_EQ(run.program.document.FilePath, run.Data());
+}
+
+TEST(Backup, RestoringPutsTheFileBackInPlaceOfTheOther) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    modFile::BackupThisFile(run.program);
+    const std::string backup = run.folder.Read("Proposals/Backup/Jane Roe.hef");
+    run.folder.Write("Proposals/Jane Roe.hef", "spoilt");
+    run.folder.Write("Proposals/Jane Roe.hxt", "notes");
+    run.OpenBackup("Jane Roe.hef");
+    modMain::mnuFileRestoreFromBackup_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), backup);
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Jane Roe.hef"), backup);
+    EXPECT_EQ(run.program.document.FilePath, run.Data());
+    EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + run.Data());
+    EXPECT_EQ(run.program.document.ClientCaption, "Proposal for Jane Roe");
+    EXPECT_EQ(run.program.main.imgFootNotes.Picture, 1);
+    EXPECT_FALSE(run.program.document.FromBackup);
+    EXPECT_FALSE(run.RestoreEnabled());
+}
+
+TEST(Backup, OneThatHasGoneMeanwhileLeavesTheOtherFile) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    modFile::BackupThisFile(run.program);
+    run.OpenBackup("Jane Roe.hef");
+    std::filesystem::remove(run.folder / "Proposals/Backup/Jane Roe.hef");
+    run.surroundings.questions.Expect("An error occurred in mnuFileRestoreFromBackup_Click.");
+    modMain::mnuFileRestoreFromBackup_Click(run.program);
+    EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hef"));
+    EXPECT_TRUE(run.program.document.FromBackup);
+}
+
+TEST(Titles, TheClientsLineStandsOnEveryPageAndInTheStrip) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Jane Roe");
+    EXPECT_EQ(run.Label(PageId::frmP2, 36).Caption, "Proposal for Jane Roe");
+    EXPECT_EQ(run.Label(PageId::frmP5, 36).Caption, "Proposal for Jane Roe");
+    EXPECT_EQ(run.Label(PageId::frmP6, 64).Caption, "Proposal for Jane Roe - Our Copy");
+    EXPECT_EQ(run.Label(PageId::frmP6_1, 64).Caption, "Proposal for Jane Roe - Client's Copy");
+    // 21 characters of 100 twips each around the middle of the page.
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Left, 6120.0F - 1050.0F);
+    EXPECT_EQ(run.program.main.lblEvent.Caption, "Proposal for Jane Roe");
+    EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Jane Roe.hef");
+}
+
+TEST(Titles, AFormatStandsBeforeTheFileName) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    run.program.format.FormatOpen = true;
+    run.program.format.FormatName = "Mine.fmt";
+    run.Touch();
+    run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
+    modMain::mnuFileSaveEvent_Click(run.program);
+    EXPECT_EQ(run.program.main.Caption, "Quillbrook: Format File = Mine.fmt - File Name = Jane Roe.hef");
+}
+
+} // namespace

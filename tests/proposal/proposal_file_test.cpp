@@ -1,0 +1,536 @@
+#include "base/files.h"
+#include "money/totals.h"
+#include "pages/fields.h"
+#include "pages/page_setup.h"
+#include "pages/quantity_row.h"
+#include "proposal/lifecycle.h"
+#include "proposal/proposal_file.h"
+#include "proposal/proposal_layout.h"
+#include "proposal/reset.h"
+#include "support/running_program.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+#include <string>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr std::size_t kFirstAmountOffset = 1730;
+
+/// A file of blanks with texts at offsets.
+std::string FileWith(std::initializer_list<std::pair<std::size_t, std::string>> texts,
+                     std::size_t length = 20630) {
+    std::string bytes(length, ' ');
+    for (const auto& [offset, text] : texts) {
+        bytes.replace(offset, text.size(), text);
+    }
+    return bytes;
+}
+
+modFile::OpenResult Open(RunningProgram& run, const std::string& bytes, const char* name = "A.hef") {
+    run.folder.Write(std::string("Proposals/") + name, bytes);
+    static_cast<void>(modMain::StartNewFile(run.program));
+    return modFile::OpenEventFile(run.program, name);
+}
+
+const std::string& Current(RunningProgram& run, int page, int index) {
+    return run.program.document
+        .CurrentTextBuf[static_cast<std::size_t>(page)][static_cast<std::size_t>(index)];
+}
+
+const std::string& Saved(RunningProgram& run, int page, int index) {
+    return run.program.document.SavedTextBuf[static_cast<std::size_t>(page)][static_cast<std::size_t>(index)];
+}
+
+TEST(ProposalLayout, HasItsSlotsAtTheirOffsets) {
+    RunningProgram run;
+    const proposal::Widths widths = modFile::SlotWidths(run.program);
+    const std::pair<int, std::size_t> pages[] = {{0, 0},     {1, 1930},  {2, 6550},
+                                                 {3, 11170}, {4, 15790}, {5, 20410}};
+    std::size_t position = 0;
+    for (const auto& [page, offset] : pages) {
+        EXPECT_EQ(position, offset);
+        for (const int width : widths[static_cast<std::size_t>(page)]) {
+            position += static_cast<std::size_t>(width);
+        }
+    }
+    EXPECT_EQ(position, 20530U);
+}
+
+TEST(ProposalLayout, AFullWidthMarkedAmountLosesItsLastCharacter) {
+    RunningProgram run;
+    const proposal::Widths widths = modFile::SlotWidths(run.program);
+    proposal::Fields fields;
+    for (std::size_t page = 0; page < widths.size(); ++page) {
+        fields[page].resize(widths[page].size());
+    }
+    fields[0][20] = {"12345678901234567890", true};
+    fields[0][21] = {"7", false};
+    const std::string bytes = proposal::Encode(fields, widths);
+    EXPECT_EQ(bytes.size(), 20630U);
+    EXPECT_EQ(bytes.substr(kFirstAmountOffset, 21), "\xD8"
+                                                    "12345678901234567897");
+    EXPECT_EQ(bytes.substr(20530), std::string(100, ' '));
+}
+
+TEST(ProposalLayout, SplitsQuantityRowsOnlyWithAllThreeMarks) {
+    const auto row = quantity_row::Split("\xA5"
+                                         "3\xA5"
+                                         "Chair covers\xA7"
+                                         "19.99");
+    EXPECT_TRUE(row.IsRow);
+    EXPECT_EQ(row.Quantity, "3");
+    EXPECT_EQ(row.Description, "Chair covers");
+    EXPECT_EQ(row.Amount, "19.99");
+    EXPECT_TRUE(quantity_row::Split("\xA5\xA5\xA7").IsRow);
+    for (const char* text : {"", "\xA5",
+                             "\xA5"
+                             "3",
+                             "\xA5"
+                             "3\xA5"
+                             "x",
+                             "x\xA5"
+                             "3\xA5"
+                             "y\xA7",
+                             "\xA5\xA7\xA5"}) {
+        EXPECT_FALSE(quantity_row::Split(text).IsRow) << text;
+    }
+}
+
+TEST(OpeningAProposal, ReadsBackWhatWasTyped) {
+    RunningProgram run;
+    run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+    ASSERT_EQ(modFile::OpenEventFile(run.program, "Jane Roe.hef"), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 21), "75.50");
+    EXPECT_TRUE(run.program.pages[PageId::frmP1].imgNoTax[21].Visible);
+    EXPECT_TRUE(run.program.format.PropTextChanges[0][21].TaxExempt);
+    EXPECT_EQ(run.program.totals.TaxableTable[21][0], 0);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 0), "Chair covers");
+    EXPECT_EQ(run.program.pages[PageId::frmP2].txtQty[0].Text, "3");
+    EXPECT_EQ(run.program.pages[PageId::frmP2].txtAmt[0].Text, "19.99");
+    EXPECT_TRUE(modPages::ColumnsOn(run.program, PageId::frmP2, 0));
+    EXPECT_EQ(run.Area(PageId::frmP2, 0).Left, 1440);
+    EXPECT_EQ(run.Area(PageId::frmP2, 0).Width, 6270);
+    EXPECT_EQ(run.Label(PageId::frmP1, 21).Tag, "");
+    EXPECT_EQ(run.Label(PageId::frmP1, 23).Tag, "Hide");
+    EXPECT_EQ(run.Label(PageId::frmP5, 33).Tag, "");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 3), "1,504.37");
+    EXPECT_EQ(run.TextOf(PageId::frmP6_1, 5), "1,004.37");
+    EXPECT_EQ(run.program.main.lblTotal.Caption, "Running Sub-Total = $ 1,395.47");
+    EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Jane Roe.hef");
+    EXPECT_EQ(run.program.document.TextFileName, "Jane Roe.txt");
+    EXPECT_EQ(run.program.document.ClientCaption, "Proposal for Jane Roe");
+    EXPECT_TRUE(run.program.main[CommandId::mnuFileDelete].Enabled);
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+    run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), ReadTestData("jane_roe/Jane Roe.hef"));
+}
+
+TEST(OpeningAProposal, TrailingBlanksAndNulsNeverComeBack) {
+    RunningProgram run;
+    std::string bytes = FileWith({{50, "Ann   "}});
+    bytes.replace(110, 60, std::string(60, '\0'));
+    bytes.replace(170, 3, std::string("A\0B", 3));
+    ASSERT_EQ(Open(run, bytes), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Ann");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 3), "");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 4), std::string("A\0B", 3));
+}
+
+TEST(OpeningAProposal, AmountsThatAreNoNumbersAddNothingAndHideTheirSign) {
+    RunningProgram run;
+    ASSERT_EQ(Open(run, FileWith({{1730, "abc"}, {1750, "10"}, {1770, "1e39"}})),
+              modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 20), "abc");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 22), "1e39");
+    EXPECT_EQ(run.program.totals.SubTotal, 10);
+    EXPECT_EQ(run.Label(PageId::frmP1, 21).Tag, "Hide");
+    EXPECT_EQ(run.Label(PageId::frmP1, 22).Tag, "");
+}
+
+TEST(OpeningAProposal, AMarkedTextThatIsNoNumberShowsItsMarkUntilEdited) {
+    RunningProgram run;
+    ASSERT_EQ(Open(run, FileWith({{1730, "\xD8"
+                                         "abc"}})),
+              modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 20), "\xD8"
+                                             "abc");
+    EXPECT_EQ(Current(run, 0, 20), "abc");
+    EXPECT_EQ(Saved(run, 0, 20), "\xD8"
+                                 "abc");
+    EXPECT_FALSE(run.program.format.PropTextChanges[0][20].TaxExempt);
+}
+
+TEST(OpeningAProposal, AQuantityRowWithAMarkMissingIsPlainText) {
+    RunningProgram run;
+    ASSERT_EQ(Open(run, FileWith({{1930, "\xA5"
+                                         "3\xA5 no price"}})),
+              modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 0), "\xA5"
+                                            "3\xA5 no price");
+    EXPECT_FALSE(modPages::ColumnsOn(run.program, PageId::frmP2, 0));
+}
+
+struct Legacy {
+    std::size_t Length;
+    std::size_t SecondPage; ///< where frmP2 begins
+    std::size_t SecondPageAmounts;
+};
+
+class LegacySizes : public testing::TestWithParam<Legacy> {};
+
+TEST_P(LegacySizes, AreReadAtTheirOwnWidths) {
+    RunningProgram run;
+    const Legacy legacy = GetParam();
+    ASSERT_EQ(
+        Open(run, FileWith({{50, "Ann"}, {legacy.SecondPage, "First line"}, {legacy.SecondPageAmounts, "25"}},
+                           legacy.Length)),
+        modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Ann");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 0), "First line");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "25");
+    EXPECT_EQ(run.program.totals.SubTotal, 25);
+}
+
+// frmP1 takes 530 bytes, ten descriptions and ten amounts; frmP2 33 descriptions before its amounts.
+INSTANTIATE_TEST_SUITE_P(Table, LegacySizes,
+                         testing::Values(Legacy{17880, 530 + 1200 + 100, 530 + 1300 + 33 * 120},
+                                         Legacy{17770, 530 + 1000 + 200, 530 + 1200 + 33 * 100},
+                                         Legacy{17170, 530 + 1000 + 100, 530 + 1100 + 33 * 100},
+                                         Legacy{20630, 1930, 5890}, Legacy{17881, 1930, 5890}));
+
+TEST(OpeningAProposal, AWeddingIsReadAndSavedAsAnEvent) {
+    RunningProgram run;
+    ASSERT_EQ(Open(run, FileWith({{20628, "1"}, {50, "Ann"}})), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.program.document.DocumentKind, "Wedding");
+    EXPECT_EQ(run.program.document.PageHeading, "Acme Events - Wedding Proposal - ");
+    EXPECT_EQ(run.program.run.FUTFileName, "Wedding Terms.fut");
+    run.surroundings.questions.Expect("File was saved as A.hef");
+    modFile::SaveEventFile(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/A.hef")[20628], ' ');
+}
+
+TEST(OpeningAProposal, ADepositThatIsNoNumberIsToldAndTakenAsZero) {
+    RunningProgram run;
+    run.surroundings.questions.ExpectBox({"Deposit is not numeric. Zero will be entered. Please\r\n"
+                                          "double-check the Deposit amount from previous records.",
+                                          Buttons::Ok, ""},
+                                         Answer::Ok);
+    ASSERT_EQ(Open(run, FileWith({{1730, "100"}, {20490, "abc"}})), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "0.00");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 5), "108.25");
+    run.surroundings.questions.Done();
+    ASSERT_EQ(Open(run, FileWith({{1730, "100"}})), modFile::OpenResult::Opened)
+        << "an empty deposit says nothing";
+}
+
+TEST(OpeningAProposal, ANegativeTaxableSubtotalEarnsNoTaxBack) {
+    RunningProgram run;
+    ASSERT_EQ(Open(run, FileWith({{1730, "-100"}})), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "0.00");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 2), "0.00");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 3), "-100.00");
+}
+
+TEST(OpeningAProposal, TheSampleNeverShowsTheLogo) {
+    RunningProgram run;
+    run.program.settings.LogoVisible = true;
+    ASSERT_EQ(Open(run, FileWith({}), "John Doe.hef"), modFile::OpenResult::Opened);
+    EXPECT_FALSE(run.program.settings.LogoVisible);
+    EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Tag, "Hide");
+    EXPECT_FALSE(run.program.main[CommandId::mnuEditLogoVisible].Checked);
+}
+
+TEST(OpeningAProposal, OfAnyShortLengthIsReadAsFarAsItGoes) {
+    RunningProgram run;
+    const std::string whole = ReadTestData("jane_roe/Jane Roe.hef");
+    for (const std::size_t length :
+         {0UL, 1UL, 24UL, 25UL, 52UL, 1731UL, 1750UL, 1931UL, 5891UL, 20409UL, 20490UL, 20628UL, 20629UL}) {
+        ASSERT_EQ(Open(run, whole.substr(0, length)), modFile::OpenResult::Opened) << length;
+        EXPECT_EQ(run.TextOf(PageId::frmP1, 2), length < 52    ? ""
+                                                : length == 52 ? "Ja"
+                                                               : "Jane Roe")
+            << length;
+    }
+}
+
+TEST(OpeningAProposal, WhatCannotBeReadLeavesEverythingAsItWas) {
+    RunningProgram run;
+    run.Area(PageId::frmP1, 3).Text = "kept";
+    run.folder.MakeFolder("Proposals/Folder.hef");
+    ASSERT_EQ(::mkfifo((run.folder / "Proposals/Pipe.hef").c_str(), 0600), 0);
+    for (const char* name : {"Folder.hef", "Pipe.hef", "None.hef"}) {
+        run.surroundings.questions.Expect("An error occurred in OpenEventFile.");
+        EXPECT_EQ(modFile::OpenEventFile(run.program, name), modFile::OpenResult::NotOpened);
+        EXPECT_EQ(run.TextOf(PageId::frmP1, 3), "kept");
+    }
+    EXPECT_NE(run.folder.Read("Error.log").find("Error Number: 53"), std::string::npos);
+}
+
+TEST(OpeningAProposal, AGigabyteOfNulsCostsOnlyWhatTheLayoutNeeds) {
+    RunningProgram run;
+    run.folder.Write("Proposals/Big.hef", "");
+    std::filesystem::resize_file(run.folder / "Proposals/Big.hef", 1U << 30U);
+    EXPECT_EQ(modFile::OpenEventFile(run.program, "Big.hef"), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "");
+}
+
+TEST(SavingAProposal, WithoutAClientAsksForTheName) {
+    for (const char* name : {"", ".hef"}) {
+        RunningProgram run;
+        run.program.document.FileName = name;
+        run.surroundings.questions.Expect(
+            "Please enter the client's name in the appropriate area and save again.");
+        EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::NotSaved);
+        EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 2}));
+    }
+}
+
+TEST(SavingAProposal, UnderAnIllegalNameStops) {
+    RunningProgram run;
+    run.program.document.FileName = "A/B.hef";
+    run.surroundings.questions.ExpectBox({"Action Cancelled. File Name cannot include any of \r\n"
+                                          "the following characters: / \\ : * ? < > |",
+                                          Buttons::Ok, ""},
+                                         Answer::Ok);
+    EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::NotSaved);
+    EXPECT_FALSE(run.folder.Has("Proposals/A"));
+}
+
+TEST(SavingAProposal, UnderATakenNameAsksFirst) {
+    RunningProgram run;
+    run.folder.Write("Proposals/Ann.hef", "old");
+    run.program.document.FileName = "Ann.hef";
+    run.surroundings.questions.Expect(
+        "A file with this name (Ann.hef)\r\nalready exists. Do you want to replace the\r\n"
+        "existing file, created on:\r\n",
+        Answer::No);
+    run.surroundings.questions.Expect("File not saved.");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::NotSaved);
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hef"), "old");
+    EXPECT_FALSE(run.program.document.Cancelled);
+    run.surroundings.questions.Expect("with this one?", Answer::Yes);
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hef").size(), 20630U);
+}
+
+TEST(SavingAProposal, OnAFullDiskIsToldAndTheTextStaysUnsaved) {
+    RunningProgram run;
+    run.program.document.FileName = "Ann.hef";
+    run.program.document.CurrentTextBuf[0][3] = "12 Elm Street";
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    rlimit small = before;
+    small.rlim_cur = 4096;
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    run.surroundings.questions.Expect(
+        "An error occurred in SaveEventFile.\r\nError Number: 61\r\nError Description: Disk full");
+    const auto result = modFile::SaveEventFile(run.program);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    EXPECT_EQ(result, modFile::SaveResult::NotSaved);
+    EXPECT_FALSE(run.program.document.FileExists);
+    EXPECT_NE(Saved(run, 0, 3), "12 Elm Street");
+    EXPECT_EQ(Current(run, 0, 3), "12 Elm Street");
+}
+
+TEST(SavingAProposal, IntoAFolderThatIsGoneIsReported) {
+    RunningProgram run;
+    run.program.document.FileName = "Ann.hef";
+    run.program.document.FilePath = run.folder / "gone/";
+    run.surroundings.questions.Expect("An error occurred in SaveEventFile.");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::NotSaved);
+}
+
+TEST(Backups, AreWrittenQuietlyBelowTheProposals) {
+    RunningProgram run;
+    run.program.document.FileName = "Ann.hef";
+    run.program.document.BaseName = "Ann";
+    run.folder.Write("Proposals/Backup/Ann.hef", "old");
+    modFile::BackupThisFile(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Ann.hef").size(), 20630U);
+    EXPECT_FALSE(run.folder.Has("Proposals/Ann.hef"));
+    EXPECT_FALSE(run.program.document.BackingUp);
+    EXPECT_TRUE(run.program.document.FileExists) << "the steps of saving run in full";
+}
+
+TEST(Backups, NeedAName) {
+    RunningProgram run;
+    run.program.document.FileName = ".hef";
+    modFile::BackupThisFile(run.program);
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/.hef"));
+}
+
+TEST(Properties, AreKeptAndWrittenBackUnchangedWhileNobodyReadsThem) {
+    RunningProgram run;
+    const std::string lines =
+        "frmP1.txt(10).FontBold=True\r\nUDP.FontName=Arial .FontSize=10 .FontColor=0 .FontItalic=False\r\n";
+    run.folder.Write("Proposals/A.hpf", lines);
+    ASSERT_EQ(Open(run, FileWith({{50, "A"}})), modFile::OpenResult::Opened);
+    modFile::ReadFileProperties(run.program);
+    EXPECT_EQ(run.program.format.PropertyLines.size(), 2U);
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+    run.program.format.PropTextChanges[0][20].Dirty = true;
+    run.surroundings.questions.Expect("File was saved as A.hef");
+    modFile::SaveEventFile(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/A.hpf"), lines);
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+}
+
+/// Slots cut from a file by hand: what the layout must give for any length of it.
+TEST(ProposalLayout, AFileCutAtAnyLengthIsBlankBeyondItsEnd) {
+    RunningProgram run;
+    const proposal::Widths widths = modFile::SlotWidths(run.program);
+    std::string whole(20630, 'x');
+    for (std::size_t length = 0; length <= whole.size(); length += 7) {
+        const proposal::Decoded decoded =
+            proposal::Decode(std::string_view(whole).substr(0, length), length, widths);
+        std::size_t position = 0;
+        for (const auto& page : decoded.Slots) {
+            for (const std::string_view slot : page) {
+                const std::size_t there =
+                    std::min(slot.size(), length > position ? length - position : std::size_t{0});
+                ASSERT_EQ(slot, std::string(there, 'x') + std::string(slot.size() - there, ' ')) << length;
+                position += slot.size();
+            }
+        }
+        ASSERT_EQ(position, 20530U);
+    }
+}
+
+TEST(ProposalLayout, TheKindByteIsAOneAndNothingElse) {
+    RunningProgram run;
+    const proposal::Widths widths = modFile::SlotWidths(run.program);
+    for (int byte = 0; byte < 256; ++byte) {
+        std::string bytes(20630, ' ');
+        bytes[20628] = static_cast<char>(byte);
+        EXPECT_EQ(proposal::Decode(bytes, bytes.size(), widths).Wedding, byte == '1') << byte;
+    }
+    EXPECT_FALSE(proposal::Decode(std::string(20628, '1'), 20628, widths).Wedding);
+}
+
+TEST(ProposalLayout, ASlotOfNulsThatTheFilesEndCutsIsBlank) {
+    RunningProgram run;
+    const proposal::Widths widths = modFile::SlotWidths(run.program);
+    const proposal::Decoded decoded = proposal::Decode(std::string(60, '\0'), 60, widths);
+    EXPECT_EQ(decoded.Slots[0][0], std::string(25, ' '));
+    EXPECT_EQ(decoded.Slots[0][2], std::string(60, ' '));
+}
+
+TEST(ProposalLayout, AnOldSizeReadAsTwentyRunsThroughTheFileAtOtherOffsets) {
+    RunningProgram run;
+    // 17770 bytes: amounts at 20, descriptions at 100. The final page then begins at 17570.
+    ASSERT_EQ(Open(run, FileWith({{530 + 100, "Second row"}, {1530, "12"}, {17570 + 80, "7"}}, 17770)),
+              modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 11), "Second row");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 20), "12");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "7.00");
+}
+
+TEST(ProposalLayout, TheFinalPageOfTheSmallestOldSizeIsTenBytesAFigure) {
+    RunningProgram run;
+    // 17170 bytes, 10 and 100: frmP1 takes 1630, the four pages 3630 each; the deposit is the fifth figure.
+    ASSERT_EQ(Open(run, FileWith({{1630 + 4 * 3630 + 40, "25"}}, 17170)), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "25.00");
+}
+
+TEST(OpeningAProposal, BlanksBeforeATextStayAndThoseOfTheFinalPageGo) {
+    RunningProgram run;
+    ASSERT_EQ(Open(run, FileWith({{50, "  Ann"}, {1730, "   5"}, {20490, "  30 "}})),
+              modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "  Ann");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 20), "   5");
+    EXPECT_EQ(run.program.totals.AmountTable[20][0], 5);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "30.00");
+}
+
+TEST(OpeningAProposal, AMarkBehindABlankIsNoMark) {
+    RunningProgram run;
+    ASSERT_EQ(Open(run, FileWith({{1730, " \xD8"
+                                         "5"}})),
+              modFile::OpenResult::Opened);
+    EXPECT_FALSE(run.program.pages[PageId::frmP1].imgNoTax[20].Visible);
+    EXPECT_EQ(run.program.totals.AmountTable[20][0], 0);
+}
+
+TEST(OpeningAProposal, AMarkedAmountLosesTheBlanksAroundItAndIsNotTaxed) {
+    RunningProgram run;
+    ASSERT_EQ(Open(run, FileWith({{5890, "\xD8  50"}, {5910, "100"}})), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "50");
+    EXPECT_EQ(Current(run, 1, 33), "  50");
+    EXPECT_EQ(Saved(run, 1, 33), "  50");
+    EXPECT_TRUE(run.program.pages[PageId::frmP2].imgNoTax[33].Visible);
+    EXPECT_EQ(run.program.pages[PageId::frmP2].imgNoTax[33].Tag, "");
+    EXPECT_EQ(run.Label(PageId::frmP2, 1).Tag, "");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "150.00");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
+}
+
+TEST(OpeningAProposal, AFormatsTextStaysAndItsAmountCounts) {
+    RunningProgram run;
+    run.program.format.FormatTextChanges[0][10].FormatText = true;
+    run.Area(PageId::frmP1, 10).Text = "Every event includes";
+    ASSERT_EQ(Open(run, FileWith({{530, "Something else"}, {650, "A row"}})), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "Every event includes");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 11), "A row");
+}
+
+TEST(OpeningAProposal, AQuantityRowCutByItsSlotIsPlainText) {
+    RunningProgram run;
+    // The composed line was longer than 120 and has lost its price with the mark.
+    const std::string cut = "\xA5"
+                            "3\xA5" +
+                            std::string(117, 'd');
+    ASSERT_EQ(Open(run, FileWith({{1930, cut}})), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 0), cut);
+    EXPECT_FALSE(modPages::ColumnsOn(run.program, PageId::frmP2, 0));
+}
+
+TEST(OpeningAProposal, OtherProposalsShowTheLogoAsTheSettingSays) {
+    RunningProgram run;
+    run.program.settings.LogoVisible = true;
+    run.program.pages[PageId::frmP1].pic.Tag = "Hide";
+    ASSERT_EQ(Open(run, FileWith({}), "Jane Doe.hef"), modFile::OpenResult::Opened);
+    EXPECT_TRUE(run.program.settings.LogoVisible);
+    EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Tag, "");
+}
+
+TEST(OpeningAProposal, WithHiddenTotalsWritesTheDepositAloneAndIsUnchanged) {
+    RunningProgram run;
+    modTotals::mnuOptHideTotals_Click(run.program);
+    ASSERT_EQ(Open(run, FileWith({{1730, "100"}, {20410, "999"}, {20490, "30"}})),
+              modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "30.00");
+    EXPECT_EQ(run.TextOf(PageId::frmP6_1, 4), "30.00");
+    EXPECT_FALSE(modTotals::TotalsDiffer(run.program));
+    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+}
+
+TEST(OpeningAProposal, FiresNoHandlerOfAPageAndPutsItsFlagDown) {
+    RunningProgram run;
+    run.program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
+    const auto answer = run.program.hooks.Change;
+    int loud = 0;
+    run.program.hooks.Change = [&](Program& program, const FieldRef& field) {
+        loud += program.guards.Loading ? 0 : 1;
+        answer(program, field);
+    };
+    ASSERT_EQ(Open(run, FileWith({{50, "Ann"}, {1730, "100"}})), modFile::OpenResult::Opened);
+    EXPECT_EQ(loud, 0);
+    EXPECT_FALSE(run.program.guards.Loading);
+    EXPECT_EQ(run.program.document.FileName, "A.hef") << "the client read from a file names no file";
+    EXPECT_TRUE(run.program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled);
+    EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + run.program.document.FilePath);
+}
+
+} // namespace

@@ -1,0 +1,358 @@
+#include "base/files.h"
+#include "money/totals.h"
+#include "pages/fields.h"
+#include "pages/page_setup.h"
+#include "proposal/proposal_file.h"
+#include "proposal/reset.h"
+#include "support/running_program.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace {
+
+using modFile::SaveResult;
+
+/// A proposal with a client and a street, on the disk under the client's name.
+void SaveAnn(RunningProgram& run) {
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 3}, "12 Elm Street");
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+}
+
+void ChangeStreet(RunningProgram& run) {
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 3}, "14 Oak Street");
+}
+
+/// Sets a field's text with nobody listening, as an older session could have left it.
+void Put(RunningProgram& run, PageId page, int index, const char* text) {
+    run.Area(page, index).Text = text;
+}
+
+std::string Slot(const std::string& bytes, std::size_t offset, std::size_t width) {
+    return bytes.substr(offset, width);
+}
+
+/// While it lives, no file of this process grows beyond so many bytes.
+class SmallDisk {
+public:
+    explicit SmallDisk(rlim_t bytes) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &before_), 0);
+        rlimit small = before_;
+        small.rlim_cur = bytes;
+        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    }
+    ~SmallDisk() { EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &before_), 0); }
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+
+private:
+    rlimit before_{};
+};
+
+TEST(Saving, TellsOfTheTotalsBeforeItAsksForTheName) {
+    RunningProgram run;
+    Put(run, PageId::frmP1, 20, "10"); // on the page, but not in the tables: the two totals differ
+    run.surroundings.questions.Expect("A descrepancy has occurred in calculating the totals.");
+    run.surroundings.questions.Expect(
+        "Please enter the client's name in the appropriate area and save again.");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::NotSaved);
+    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+}
+
+TEST(Saving, TheTotalsAreWrittenUnderTheirPatterns) {
+    RunningProgram run;
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 20}, "1250");
+    modTotals::CalculateMyTotals(run.program, PageId::frmP1);
+    SaveAnn(run);
+    const std::string bytes = run.folder.Read("Proposals/Ann.hef");
+    // 1250 at 8.25 %: tax 103.125, total 1353.125.
+    EXPECT_EQ(Slot(bytes, 20410 + 40, 20), "103.13              ");
+    EXPECT_EQ(Slot(bytes, 20410 + 60, 20), "1,353.13            ");
+}
+
+TEST(Saving, AnEmptyFolderMeansTheProposals) {
+    RunningProgram run;
+    run.program.document.FilePath.clear();
+    SaveAnn(run);
+    EXPECT_EQ(run.program.document.FilePath, run.program.folders.ProposalsFolder);
+    EXPECT_TRUE(run.folder.Has("Proposals/Ann.hef"));
+}
+
+TEST(Saving, AFileThatWasDeletedMeanwhileIsWrittenAgainWithoutAQuestion) {
+    RunningProgram run;
+    SaveAnn(run);
+    std::filesystem::remove(run.folder / "Proposals/Ann.hef");
+    ChangeStreet(run);
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 110, 13), "14 Oak Street");
+}
+
+TEST(Saving, AReadOnlyFileIsReplaced) {
+    RunningProgram run;
+    SaveAnn(run);
+    ASSERT_EQ(::chmod((run.folder / "Proposals/Ann.hef").c_str(), 0444), 0);
+    ChangeStreet(run);
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 110, 13), "14 Oak Street");
+}
+
+TEST(Saving, AFileWhoseNameDiffersInCaseAloneIsTheSameFile) {
+    RunningProgram run;
+    SaveAnn(run);
+    std::filesystem::rename(run.folder / "Proposals/Ann.hef", run.folder / "Proposals/ANN.HEF");
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_FALSE(std::filesystem::exists(run.folder / "Proposals/ANN.HEF"));
+    EXPECT_TRUE(std::filesystem::exists(run.folder / "Proposals/Ann.hef"));
+}
+
+TEST(Saving, AChangedClientAsksAboutTheProposalsOwnFile) {
+    RunningProgram run;
+    SaveAnn(run);
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann Roe");
+    EXPECT_TRUE(modFile::ClientNameChanged(run.program));
+    EXPECT_EQ(run.program.document.FileName, "Ann.hef") << "a saved proposal keeps its name";
+    run.surroundings.questions.Expect("A file with this name (Ann.hef)", Answer::No);
+    run.surroundings.questions.Expect("File not saved.");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::NotSaved);
+    EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 50, 8), "Ann     ");
+    run.surroundings.questions.Expect("A file with this name (Ann.hef)", Answer::Yes);
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 50, 8), "Ann Roe ");
+}
+
+TEST(Saving, AFullDiskLeavesASavedProposalUnsavedAgainAndTheNextSaveMendsIt) {
+    RunningProgram run;
+    SaveAnn(run);
+    ChangeStreet(run);
+    {
+        const SmallDisk disk(8192);
+        run.surroundings.questions.Expect("An error occurred in SaveEventFile.");
+        EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::NotSaved);
+        run.surroundings.questions.Done();
+    }
+    EXPECT_TRUE(run.program.document.FileExists);
+    EXPECT_EQ(run.program.document.SavedTextBuf[0][3], "12 Elm Street");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 3), "14 Oak Street");
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hef").size(), 20630U);
+}
+
+TEST(Saving, AFolderWhereTheFileShouldBeIsReportedAndStays) {
+    RunningProgram run;
+    run.folder.MakeFolder("Proposals/Ann.hef");
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
+    run.surroundings.questions.Expect("An error occurred in SaveEventFile.\r\nError Number: 75");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::NotSaved);
+    EXPECT_FALSE(run.program.document.FileExists);
+    EXPECT_TRUE(std::filesystem::is_directory(run.folder / "Proposals/Ann.hef"));
+}
+
+TEST(Saving, ATextLongerThanItsSlotIsCutInTheFileAlone) {
+    RunningProgram run;
+    const std::string street(70, 's');
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 4}, street);
+    SaveAnn(run);
+    const std::string bytes = run.folder.Read("Proposals/Ann.hef");
+    EXPECT_EQ(Slot(bytes, 170, 60), std::string(60, 's'));
+    EXPECT_EQ(Slot(bytes, 230, 60), std::string(60, ' '));
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 4), street);
+}
+
+TEST(Saving, TheSlotsFollowTheTagsAsTheyAreNow) {
+    RunningProgram run;
+    run.Area(PageId::frmP1, 2).Tag = "Name.050";
+    SaveAnn(run);
+    const std::string bytes = run.folder.Read("Proposals/Ann.hef");
+    EXPECT_EQ(bytes.size(), 20620U);
+    EXPECT_EQ(Slot(bytes, 100, 13), "12 Elm Street");
+}
+
+TEST(Saving, QuantityRowsAreGatheredBeforePropertiesAndBytes) {
+    RunningProgram run;
+    std::vector<std::string> calls;
+    const auto gather = run.program.hooks.CollectQtyBoxes;
+    run.program.hooks.CollectQtyBoxes = [&](Program& program) {
+        calls.push_back("rows");
+        gather(program);
+    };
+    run.program.hooks.AssignPropChanges = [&](Program&) { calls.push_back("properties"); };
+    run.program.format.LabelSavedState[0][3].Changed = true;
+    modPages::EnsureRowFields(run.program, PageId::frmP3);
+    modPages::PlaceColumns(run.program, PageId::frmP3, 4, modPages::Columns::On);
+    run.program.pages[PageId::frmP3].txtQty[4].Text = "7";
+    run.program.pages[PageId::frmP3].txtAmt[4].Text = "2.50";
+    Put(run, PageId::frmP3, 4, "Vases");
+    SaveAnn(run);
+    EXPECT_EQ(calls, (std::vector<std::string>{"rows", "properties"}));
+    EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 6550 + 4 * 120, 13), "\xA5"
+                                                                              "7\xA5Vases\xA7"
+                                                                              "2.50");
+}
+
+TEST(Saving, ADiscrepancyIsToldAndTheFileIsWrittenAllTheSame) {
+    RunningProgram run;
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
+    Put(run, PageId::frmP2, 33, "10");
+    run.surroundings.questions.Expect("A descrepancy has occurred in calculating the totals.");
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+}
+
+TEST(Saving, HiddenTotalsRaiseNoDiscrepancy) {
+    RunningProgram run;
+    modTotals::mnuOptHideTotals_Click(run.program);
+    Put(run, PageId::frmP2, 33, "10");
+    SaveAnn(run);
+    const std::string bytes = run.folder.Read("Proposals/Ann.hef");
+    EXPECT_EQ(Slot(bytes, 20410, 80), std::string(80, ' '));
+    EXPECT_EQ(Slot(bytes, 20410 + 80, 20), "0.00                ");
+}
+
+TEST(Backup, IsForgottenWhenTheSaveStopsAtAQuestion) {
+    RunningProgram run;
+    run.folder.Write("Proposals/Ann.hef", "another's");
+    run.folder.Write("Proposals/Backup/Ann.hef", "older backup");
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
+    run.surroundings.questions.Expect("A file with this name (Ann.hef)", Answer::No);
+    run.surroundings.questions.Expect("File not saved.");
+    modFile::BackupThisFile(run.program);
+    EXPECT_FALSE(run.program.document.BackingUp);
+    EXPECT_FALSE(run.program.document.FileExists);
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hef"), "another's");
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Ann.hef"), "older backup")
+        << "a backup waits for its successor";
+}
+
+TEST(Backup, RefusesAnIllegalNameAsASaveDoes) {
+    RunningProgram run;
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "A?B");
+    run.surroundings.questions.Expect("Action Cancelled. File Name cannot include any of");
+    modFile::BackupThisFile(run.program);
+    EXPECT_FALSE(run.program.document.BackingUp);
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 2}));
+}
+
+TEST(Backup, ReplacesAReadOnlyOneAndTouchesNeitherFileNorItsName) {
+    RunningProgram run;
+    SaveAnn(run);
+    run.folder.Write("Proposals/Backup/Ann.hef", "older backup");
+    ASSERT_EQ(::chmod((run.folder / "Proposals/Backup/Ann.hef").c_str(), 0444), 0);
+    const std::string before = run.folder.Read("Proposals/Ann.hef");
+    ChangeStreet(run);
+    modFile::BackupThisFile(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hef"), before);
+    EXPECT_EQ(Slot(run.folder.Read("Proposals/Backup/Ann.hef"), 110, 13), "14 Oak Street");
+    EXPECT_EQ(run.program.document.SavedTextBuf[0][3], "14 Oak Street") << "the steps of saving run in full";
+}
+
+TEST(Backup, ThatCannotBeWrittenIsReportedAndEndsWithTheSave) {
+    RunningProgram run;
+    SaveAnn(run);
+    std::filesystem::remove_all(run.folder / "Proposals/Backup");
+    ChangeStreet(run);
+    run.surroundings.questions.Expect("An error occurred in SaveEventFile.");
+    modFile::BackupThisFile(run.program);
+    EXPECT_FALSE(run.program.document.BackingUp);
+    EXPECT_EQ(run.program.document.SavedTextBuf[0][3], "12 Elm Street");
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 110, 13), "14 Oak Street");
+}
+
+TEST(PropertyFile, IsNotMadeByASaveWithoutProperties) {
+    RunningProgram run;
+    SaveAnn(run);
+    run.program.format.PropTextChanges[1][3].Dirty = true;
+    run.program.format.LabelSavedState[0][3].Changed = true;
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_FALSE(run.folder.Has("Proposals/Ann.hpf"));
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+}
+
+TEST(PropertyFile, HoldsTheLinesThatWereAssignedAndClearsTheLabelsMarks) {
+    RunningProgram run;
+    run.program.hooks.AssignPropChanges = [](Program& program) {
+        program.format.PropertyLines = {"frmP1.lbl(3).Left=900", "frmP1.lbl(3).Top=1200"};
+    };
+    run.program.format.LabelSavedState[0][3].Changed = true;
+    run.program.format.PropLabelChanges[0][3].Changed = true;
+    EXPECT_TRUE(modFile::PropertiesChanged(run.program));
+    SaveAnn(run);
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "frmP1.lbl(3).Left=900\r\nfrmP1.lbl(3).Top=1200\r\n");
+    EXPECT_FALSE(run.program.format.LabelSavedState[0][3].Changed);
+    EXPECT_TRUE(run.program.format.PropLabelChanges[0][3].Changed)
+        << "or the next file would leave the label out";
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+}
+
+TEST(PropertyFile, ThatCouldNotBeWrittenStillCountsAsChanged) {
+    RunningProgram run;
+    run.program.hooks.AssignPropChanges = [](Program& program) {
+        program.format.PropTextChanges[0][10].Dirty = false;
+        program.format.PropertyLines = {"frmP1.txt(10).FontBold=True"};
+    };
+    run.program.format.PropTextChanges[0][10].Dirty = true;
+    run.folder.MakeFolder("Proposals/Ann.hpf");
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
+    run.surroundings.questions.Expect("An error occurred in SavePropertyFile.");
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_TRUE(modFile::PropertiesChanged(run.program));
+    std::filesystem::remove(run.folder / "Proposals/Ann.hpf");
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "frmP1.txt(10).FontBold=True\r\n");
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+}
+
+TEST(PropertyFile, OfAProposalFromTheBackupsLiesAmongTheProposals) {
+    RunningProgram run;
+    run.program.document.FilePath = run.folder / "Proposals/Backup/";
+    run.program.document.FromBackup = true;
+    run.program.document.BaseName = "Ann";
+    run.folder.Write("Proposals/Ann.hpf", "frmP1.txt(10).FontBold=True\r\n");
+    run.folder.Write("Proposals/Backup/Ann.hpf", "not this one\r\n");
+    int parsed = 0;
+    run.program.hooks.ParsePropertyFile = [&](Program&) { ++parsed; };
+    modFile::ReadFileProperties(run.program);
+    EXPECT_EQ(run.program.format.PropertyLines, std::vector<std::string>{"frmP1.txt(10).FontBold=True"});
+    EXPECT_EQ(parsed, 1);
+    run.program.format.PropertyLines = {"a", "b"};
+    EXPECT_EQ(modFile::SavePropertyFile(run.program), SaveResult::Saved);
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "a\r\nb\r\n");
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Ann.hpf"), "not this one\r\n");
+}
+
+TEST(PropertyFile, ThatIsMissingOrEmptyIsNotParsed) {
+    RunningProgram run;
+    int parsed = 0;
+    run.program.hooks.ParsePropertyFile = [&](Program&) { ++parsed; };
+    run.program.document.BaseName = "Ann";
+    run.program.format.PropertyLines = {"of the proposal before"};
+    modFile::ReadFileProperties(run.program);
+    EXPECT_TRUE(run.program.format.PropertyLines.empty());
+    run.folder.Write("Proposals/Ann.hpf", "");
+    modFile::ReadFileProperties(run.program);
+    EXPECT_TRUE(run.program.format.PropertyLines.empty());
+    EXPECT_EQ(parsed, 0);
+}
+
+} // namespace
