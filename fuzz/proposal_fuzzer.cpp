@@ -19,6 +19,7 @@ namespace {
 class QuietQuestions : public Questions {
 public:
     Answer MsgBox(std::string_view, Buttons, std::string_view) override { return Answer::Ok; }
+    std::size_t Choose(const Choice&) override { return 0; }
     std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
 };
 

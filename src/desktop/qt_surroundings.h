@@ -16,6 +16,7 @@ class QWidget;
 class QtQuestions : public Questions {
 public:
     Answer MsgBox(std::string_view text, Buttons buttons, std::string_view title) override;
+    std::size_t Choose(const Choice& choice) override;
     std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
 
     /// Boxes stand over this window.

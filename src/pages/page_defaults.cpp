@@ -1,5 +1,6 @@
 #include "base/files.h"
 #include "base/guard.h"
+#include "pages/logo.h"
 #include "pages/page_geometry.h"
 #include "pages/page_setup.h"
 #include "pages/page_tables.h"

@@ -1,9 +1,7 @@
 #include "pages/page_setup.h"
 
-#include "base/files.h"
 #include "base/guard.h"
-#include "base/paths.h"
-#include "base/text.h"
+#include "pages/logo.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"
 
@@ -61,10 +59,6 @@ void PlaceRowFields(Page& page, int row) {
 /// How many elements the row arrays have on a line page.
 int RowCount(PageId page) {
     return geometry::LastRow(page) + 1;
-}
-
-void SetLogoChecked(Program& program, bool checked) {
-    program.main[CommandId::mnuEditLogoVisible].Checked = checked;
 }
 
 } // namespace
@@ -168,11 +162,11 @@ void ShowPage(Program& program, PageId page) {
         TextArea& area = record.txt[index];
         area.Visible = true;
         area.Enabled = true;
+        const auto at = static_cast<std::size_t>(IndexOf(page));
+        if (IsLinePage(page)) {
+            area.Locked = program.format.FormatOpen && program.format.FormatTextChanges[at][index].FormatText;
+        }
         if (edited && program.format.FormatOpen) {
-            const auto at = static_cast<std::size_t>(IndexOf(page));
-            if (IsLinePage(page)) {
-                area.Locked = program.format.FormatTextChanges[at][index].FormatText;
-            }
             if (program.format.PropTextChanges[at][index].FontBold) {
                 area.FontBold = true;
             }
@@ -184,9 +178,8 @@ void ShowPage(Program& program, PageId page) {
     for (PageLine& line : record.lne) {
         line.Visible = true;
     }
-    if (record.HasLogo && program.settings.LogoVisible &&
-        record.pic.Picture.From != PictureRef::Source::None) {
-        record.pic.Visible = record.pic.Tag != kHide;
+    if (record.HasLogo) {
+        SettleLogoVisibility(program);
     }
 }
 
@@ -230,9 +223,7 @@ void ApplyPageFonts(Program& program) {
         Page& record = program.pages[page];
         const auto at = static_cast<std::size_t>(IndexOf(page));
         for (std::size_t index = 0; index < record.txt.size(); ++index) {
-            // A bold that came with the format stays through a change of font, like the proposal's own.
-            if (program.format.PropTextChanges[at][index].FontBold ||
-                program.format.FormatTextChanges[at][index].FontBold) {
+            if (program.format.PropTextChanges[at][index].FontBold) {
                 record.txt[index].FontBold = true;
                 if (page == PageId::frmP6) {
                     program.pages[PageId::frmP6_1].txt[index].FontBold = true;
@@ -262,54 +253,6 @@ void LoadBaseLabels(Program& program, PageId page) {
                                          label.FontBold, label.ForeColor, label.FontItalic,
                                          label.FontUnderline});
     }
-}
-
-void LoadLogo(Program& program) {
-    Page& page = program.pages[PageId::frmP1];
-    const std::string& setting = program.settings.LogoFile;
-    const auto hide = [&] {
-        page.pic.Visible = false;
-        page.pic.Picture = {};
-        SetLogoChecked(program, false);
-    };
-    if (setting.empty() || text::EqualNoCase(setting, "events.jpg")) {
-        hide();
-        return;
-    }
-    std::string path = paths::ResolveDrive(setting, program.folders.Drives);
-    if (!paths::IsAbsolute(path)) {
-        path = paths::Join(program.folders.InstallFolder, path);
-    }
-    const std::optional<PictureSize> size =
-        files::Exists(path) ? program.platform.pictures.Load(path) : std::nullopt;
-    if (!size) {
-        hide();
-        return;
-    }
-    program.run.LogoPath = path;
-    page.pic.Picture = {PictureRef::Source::File, path};
-    page.pic.Size = *size;
-    page.pic.Left = program.settings.LogoLeft;
-    page.pic.Top = program.settings.LogoTop;
-    page.pic.Visible = program.settings.LogoVisible;
-    page.pic.Tag = program.settings.LogoVisible ? "" : kHide;
-    SetLogoChecked(program, program.settings.LogoVisible);
-}
-
-bool ShowLogo(Program& program, const std::string& path) {
-    const std::optional<PictureSize> size = program.platform.pictures.Load(path);
-    if (!size) {
-        return false;
-    }
-    PagePicture& picture = program.pages[PageId::frmP1].pic;
-    program.run.LogoPath = path;
-    picture.Picture = {PictureRef::Source::File, path};
-    picture.Size = *size;
-    picture.Visible = true;
-    picture.Tag.clear();
-    program.settings.LogoVisible = true;
-    SetLogoChecked(program, true);
-    return true;
 }
 
 } // namespace modPages

@@ -19,7 +19,7 @@ void ApplyPageDefaults(Program& program, PageId page);
 void HideOptionalFields(Program& program);
 
 /// What a page shows: all text areas, all labels and marks whose Tag is not "Hide", its lines, the logo when
-/// it is to be seen. In a format session the areas with format text are locked.
+/// it is to be seen. Areas whose text a format protects are locked, the others of the line pages are not.
 void ShowPage(Program& program, PageId page);
 
 /// Puts the font in force on all text areas, row labels and currency signs of all pages; bold comes back from
@@ -55,12 +55,5 @@ void LoadBaseLabels(Program& program, PageId page);
 
 /// Resizes the remittance box of the final page and its copy to the company's address.
 void SizeRemittanceBox(Program& program);
-
-/// Shows or hides the logo with its Tag; the picture comes from the file named by the settings or a format.
-void LoadLogo(Program& program);
-
-/// Puts a picture on frmP1 in place of the one that stands, at its place. False when it cannot be shown; then
-/// nothing changes.
-[[nodiscard]] bool ShowLogo(Program& program, const std::string& path);
 
 } // namespace modPages

@@ -4,6 +4,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "pages/fields.h"
+#include "pages/logo.h"
 #include "pages/page_setup.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
@@ -19,7 +20,6 @@ namespace {
 
 constexpr std::string_view kUp = "..";
 constexpr std::string_view kFormats = "*.fmt";
-constexpr std::string_view kPictures = "*.jpg;*.bmp;*.gif";
 constexpr std::string_view kTerms = "*.fut";
 constexpr std::string_view kTexts = "*.txt";
 
@@ -158,7 +158,7 @@ void frmFile::cmdOpenOK_Click(Program& program) {
         OpenProposal(program);
     } else if (program.document.FileFilter == kFormats) {
         OpenFormat(program);
-    } else if (program.document.FileFilter == kPictures) {
+    } else if (program.document.FileFilter == kPictureFiles) {
         OpenLogo(program);
     } else if (program.document.FileFilter == kTerms) {
         program.run.FUTFileName = selected_;
@@ -203,14 +203,24 @@ void frmFile::OpenFormat(Program& program) {
 
 void frmFile::OpenLogo(Program& program) {
     const std::string path = paths::Join(Folder, selected_);
-    if (!modPages::ShowLogo(program, path)) {
+    const std::optional<PictureSize> size = modPages::ShowLogo(program, path);
+    if (!size) {
         program.platform.questions.MsgBox("The file " + selected_ + " is not a picture that can be shown.",
                                           Buttons::Ok, "");
         return;
     }
+    const PagePicture& logo = program.pages[PageId::frmP1].pic;
+    FormatRecords& format = program.format;
     program.settings.LogoFile = path;
-    program.format.LogoChanged = true;
+    format.LogoPath = path;
+    format.LogoLeft = logo.Left;
+    format.LogoTop = logo.Top;
+    format.LogoChanged = true;
+    format.Touched = true;
     Finish(program);
+    if (const auto message = modPages::ScaledMessage(*size)) {
+        program.platform.questions.MsgBox(*message, Buttons::Ok, "");
+    }
 }
 
 void frmFile::OpenProposal(Program& program) {

@@ -70,7 +70,13 @@ bool NameIsSettled(Program& program) {
     return true;
 }
 
-void ClearLabelMarks(Program& program) {
+/// Every property is in its file.
+void ClearMarks(Program& program) {
+    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+        for (TextChangeRecord& record : program.format.PropTextChanges[page]) {
+            record.Dirty = false;
+        }
+    }
     for (auto& page : program.format.LabelSavedState) {
         for (LabelChangeRecord& label : page) {
             label.Changed = false;
@@ -80,7 +86,9 @@ void ClearLabelMarks(Program& program) {
 
 /// The properties, when one has changed.
 SaveResult SaveProperties(Program& program) {
-    if (!PropertiesChanged(program)) {
+    // What a client was sent must print the same when the format is another one.
+    const bool firstUnderFormat = program.format.FormatOpen && !program.document.FileExists;
+    if (!PropertiesChanged(program) && !firstUnderFormat) {
         return SaveResult::Saved;
     }
     if (program.hooks.AssignPropChanges) {
@@ -88,15 +96,10 @@ SaveResult SaveProperties(Program& program) {
         return SavePropertyFile(program);
     }
     // Nobody writes new lines: what was read goes back as it came.
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
-        for (TextChangeRecord& record : program.format.PropTextChanges[page]) {
-            record.Dirty = false;
-        }
-    }
     if (!program.format.PropertyLines.empty()) {
         return SavePropertyFile(program);
     }
-    ClearLabelMarks(program);
+    ClearMarks(program);
     return SaveResult::Saved;
 }
 
@@ -209,7 +212,7 @@ SaveResult SavePropertyFile(Program& program) {
             files::Delete(path);
         }
         files::WriteWhole(path, bytes);
-        ClearLabelMarks(program);
+        ClearMarks(program);
     });
     return done ? SaveResult::Saved : SaveResult::NotSaved;
 }

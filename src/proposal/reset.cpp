@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "base/guard.h"
 #include "base/paths.h"
+#include "pages/logo.h"
 #include "pages/page_geometry.h"
 #include "pages/page_setup.h"
 #include "pages/titles.h"
@@ -37,6 +38,7 @@ void ClearNames(Program& program) {
         document.FromBackup = false;
     }
     document.ClientCaption.clear();
+    document.TitleGiven = false;
     document.FileExists = false;
     program.main[CommandId::mnuFileDelete].Enabled = false;
     document.BaseName.clear();
@@ -128,16 +130,26 @@ void ZeroTotals(Program& program) {
 
 void TakeFormat(Program& program, bool loadDefault) {
     FormatRecords& format = program.format;
+    format.FormatTextChanges = {};
+    format.FormatLabelChanges = {};
+    format.InFile = {};
+    format.LogoChanged = false;
+    format.LogoPending = false;
+    format.Touched = false;
     if (loadDefault) {
         format.FormatFolder = paths::Folder(program.settings.DefaultFormatPath);
         format.FormatName = paths::Name(program.settings.DefaultFormatPath);
         format.FormatOpen = true;
     }
-    if (format.FormatOpen && program.hooks.OpenFormatFile) {
-        program.hooks.OpenFormatFile(program);
-        return;
-    }
+    // A format without a logo of its own leaves this one.
     modPages::LoadLogo(program);
+    const RunState& run = program.run;
+    format.FontOfFile = {run.DefaultFontName, run.DefaultFontSize, run.DefaultFontColor,
+                         run.DefaultFontItalic};
+    if (format.FormatOpen && program.hooks.OpenFormatFile) {
+        format.LogoPath.clear();
+        program.hooks.OpenFormatFile(program);
+    }
 }
 
 void ResetSteps(Program& program) {
@@ -153,6 +165,7 @@ void ResetSteps(Program& program) {
     program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
     ResetPages(program);
     ResetFont(program);
+    modMain::CentreFooters(program);
     program.totals.PageSum = {};
     program.totals.PageTaxable = {};
     EmptyTexts(program);

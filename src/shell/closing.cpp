@@ -1,6 +1,7 @@
 #include "shell/closing.h"
 
 #include "editing/selection.h"
+#include "format/format_changes.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
@@ -20,8 +21,11 @@ bool MDIForm_QueryUnload(Program& program) {
     }
     // The window may be closed with an arrow still held; what it has moved counts as changed text.
     modBlocks::FinishMove(program);
-    if (program.main.Closing || (!SomethingChanged(program) && !modFile::PropertiesChanged(program))) {
+    if (program.main.Closing) {
         return true;
+    }
+    if (!SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
+        return modFormat::MayLeaveFormat(program);
     }
     const Answer answer = program.platform.questions.MsgBox(
         "The file has been changed. Do you want to save it?", Buttons::YesNoCancel, "Text has been Changed");
@@ -30,7 +34,7 @@ bool MDIForm_QueryUnload(Program& program) {
         modFile::SaveEventFile(program);
         return false;
     }
-    return answer == Answer::No;
+    return answer == Answer::No && modFormat::MayLeaveFormat(program);
 }
 
 void MDIForm_Unload(Program& program) {

@@ -6,7 +6,9 @@
 #include "editing/selection.h"
 #include "editing/text_areas.h"
 #include "editing/text_commands.h"
+#include "format/format_commands.h"
 #include "format/grid.h"
+#include "format/logo.h"
 #include "money/totals.h"
 #include "output/preview.h"
 #include "output/print.h"
@@ -80,6 +82,16 @@ constexpr std::array kRoutes{
     Route{CommandId::mnuFilePrintPage6, PrintPage<PageId::frmP6>},
     Route{CommandId::mnuFilePrintPage6_1, PrintPage<PageId::frmP6_1>},
     Route{CommandId::mnuFileExit, modMain::mnuFileExit_Click},
+    Route{CommandId::mnuFileFormatNew, modMain::mnuFileFormatNew_Click},
+    Route{CommandId::mnuFileFormatOpen, modMain::mnuFileFormatOpen_Click},
+    Route{CommandId::mnuFileFormatSave, modMain::mnuFileFormatSave_Click},
+    Route{CommandId::mnuFileFormatSaveAs, modMain::mnuFileFormatSaveAs_Click},
+    Route{CommandId::mnuFileFormatDefault, modMain::mnuFileFormatDefault_Click},
+    Route{CommandId::mnuFileFormatDelete, modMain::mnuFileFormatDelete_Click},
+    Route{CommandId::mnuEditLogoOpen, modLogo::mnuEditLogoOpen_Click},
+    Route{CommandId::mnuEditLogoSave, modLogo::mnuEditLogoSave_Click},
+    Route{CommandId::mnuEditLogoVisible, modLogo::mnuEditLogoVisible_Click},
+    Route{CommandId::mnuEditLogoBorder, modLogo::mnuEditLogoBorder_Click},
     Route{CommandId::mnuEditTextColumns, modColumns::ToggleColumns},
     Route{CommandId::mnuEditTextBold, modText::mnuEditTextBold_Click},
     Route{CommandId::mnuEditTextNormal, modText::mnuEditTextNormal_Click},

@@ -5,6 +5,11 @@
 #include "editing/selection.h"
 #include "editing/text_areas.h"
 #include "editing/text_menu.h"
+#include "format/format_changes.h"
+#include "format/format_file.h"
+#include "format/format_save.h"
+#include "format/property_file.h"
+#include "output/page_count.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
 
@@ -55,4 +60,11 @@ void Wire(Program& program) {
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
     hooks.MoveBlock = modBlocks::MoveBlockByKey;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
+    hooks.OpenFormatFile = modFormat::OpenFormatFile;
+    hooks.ParsePropertyFile = modFormat::ParsePropertyFile;
+    hooks.AssignPropChanges = modFormat::AssignPropChanges;
+    hooks.FormatHasChanges = modFormat::FormatHasChanges;
+    hooks.SaveFileFormat = [](Program& any) { modFormat::SaveFileFormat(any); };
+    hooks.MayLeaveFormat = modFormat::MayLeaveFormat;
+    hooks.SetPageNumbers = modPrint::SetPageNumbers;
 }
