@@ -245,9 +245,9 @@ void EnsureFolders(Program& program) {
     }
 }
 
-/// Makes way for the file as it will be. One that could not be read is not thrown away: what it holds is
-/// nowhere else.
-void KeepUnread(const Program& program, const std::string& path) {
+/// Deletes the file that stands. One that could not be read is set aside instead: what it holds is nowhere
+/// else.
+void MakeWayForFile(const Program& program, const std::string& path) {
     if (program.settings.PrefsRead || program.settings.ReadingPrefs || files::IsFolder(path)) {
         files::Delete(path);
         return;
@@ -296,7 +296,7 @@ bool SaveUserPreferences(Program& program) {
             bytes += text::kCrLf;
         }
         if (files::Exists(path)) {
-            KeepUnread(program, path);
+            MakeWayForFile(program, path);
         }
         files::WriteWhole(path, bytes);
     });

@@ -20,6 +20,13 @@ void Tell(Program& program, std::string_view message) {
     program.platform.questions.MsgBox(message, Buttons::Ok, "");
 }
 
+/// Turns the check mark over and tells how it stands now.
+[[nodiscard]] bool Toggled(Program& program, CommandId id) {
+    bool& checked = program.main[id].Checked;
+    checked = !checked;
+    return checked;
+}
+
 } // namespace
 
 void mnuOptCurrencySymbol_Click(Program& program) {
@@ -71,6 +78,14 @@ void mnuOptEmptyBackup_Click(Program& program) {
         }
         Tell(program, found.empty() ? "No Backup Files Found" : "All files have been deleted from Backup");
     });
+}
+
+void mnuOptUnderline_Click(Program& program) {
+    program.printing.UnderlineCategories = Toggled(program, CommandId::mnuOptUnderline);
+}
+
+void mnuOptEnableOverwriteFmtTextBoxes_Click(Program& program) {
+    program.format.OverwriteFormatText = Toggled(program, CommandId::mnuOptEnableOverwriteFmtTextBoxes);
 }
 
 } // namespace modOptions

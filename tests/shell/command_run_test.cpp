@@ -68,7 +68,7 @@ TEST(Commands, MenusSeparatorsAndIdleEntriesDoNothing) {
 TEST(Commands, AnEntryWhoseRoomIsNotBuiltDoesNothing) {
     RunningProgram run;
     for (const commands::Entry& entry : commands::Table()) {
-        if (entry.State == commands::Built::Pending) {
+        if (entry.Pending()) {
             run.program.main[entry.Id].Enabled = true;
             Choose(run, entry.Id);
         }
