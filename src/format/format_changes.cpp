@@ -59,7 +59,7 @@ bool FileIsCurrent(Program& program) {
     if (FormatIsUnsaved(program)) {
         return false;
     }
-    return !modMain::SomethingChanged(program) ||
+    return !modProposal::SomethingChanged(program) ||
            LinesOf(program, TablesNow(program, Texts::LayoutAndTexts)).Lines ==
                text::SplitLines(program.format.FormatBytes);
 }

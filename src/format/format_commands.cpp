@@ -11,13 +11,13 @@
 #include "program/windows.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
 #include "proposal/reset.h"
 #include "settings/settings.h"
 
 #include <memory>
 
-namespace modMain {
+namespace modFormat {
 
 namespace {
 
@@ -31,7 +31,7 @@ void ClearFormat(Program& program) {
     program.format.FormatLabelChanges = {};
     program.format.FormatLines.clear();
     program.format.LogoPath.clear();
-    if (StartNewFile(program) == ResetResult::Refused) {
+    if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         program.format = before;
         program.settings.LoadDefaultFormat = loadDefault;
         return;
@@ -64,7 +64,7 @@ void mnuFileFormatNew_Click(Program& program) {
     if (program.hooks.CloseLabelWindow) {
         program.hooks.CloseLabelWindow(program);
     }
-    const bool asks = modFormat::FormatHasChanges(program) || SomethingChanged(program) ||
+    const bool asks = FormatHasChanges(program) || modProposal::SomethingChanged(program) ||
                       modFile::PropertiesChanged(program);
     if (asks &&
         program.platform.questions.MsgBox(text::Lines({"This action will clear all current data if",
@@ -78,7 +78,7 @@ void mnuFileFormatNew_Click(Program& program) {
 }
 
 void mnuFileFormatOpen_Click(Program& program) {
-    if (!MayGoOn(program)) {
+    if (!modProposal::MayGoOn(program)) {
         return;
     }
     program.document.FileFilter = "*.fmt";
@@ -88,12 +88,12 @@ void mnuFileFormatOpen_Click(Program& program) {
 }
 
 void mnuFileFormatSave_Click(Program& program) {
-    modFormat::SaveFileFormat(program);
+    SaveFileFormat(program);
 }
 
 void mnuFileFormatSaveAs_Click(Program& program) {
     program.format.FormatSaveAs = true;
-    modFormat::SaveFileFormat(program);
+    SaveFileFormat(program);
 }
 
 void mnuFileFormatDelete_Click(Program& program) {
@@ -102,7 +102,7 @@ void mnuFileFormatDelete_Click(Program& program) {
         questions.MsgBox("There's no Format File open.", Buttons::Ok, "");
         return;
     }
-    AskToSave(program);
+    modProposal::AskToSave(program);
     const bool stopped = program.document.Cancelled;
     program.document.Cancelled = false;
     if (stopped) {
@@ -140,13 +140,13 @@ void mnuFileFormatDefault_Click(Program& program) {
     }
     const bool onDisk = format.FormatOpen &&
                         files::Exists(paths::Join(format.FormatFolder, format.FormatName)) &&
-                        modFormat::FileIsCurrent(program);
+                        FileIsCurrent(program);
     if (onDisk) {
-        static_cast<void>(modFormat::MakeDefault(program));
+        static_cast<void>(MakeDefault(program));
         return;
     }
     program.format.FormatMakeDefault = true;
-    modFormat::SaveFileFormat(program);
+    SaveFileFormat(program);
 }
 
-} // namespace modMain
+} // namespace modFormat

@@ -2,7 +2,7 @@
 
 struct Program;
 
-namespace modMain {
+namespace modFormat {
 
 /// The commands of the format menu.
 
@@ -18,4 +18,4 @@ void mnuFileFormatDelete_Click(Program& program);
 /// file.
 void mnuFileFormatDefault_Click(Program& program);
 
-} // namespace modMain
+} // namespace modFormat

@@ -5,7 +5,7 @@
 #include "editing/columns.h"
 #include "money/totals.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "pages/titles.h"
 #include "program/program.h"
 #include "proposal/file_names.h"
@@ -59,10 +59,10 @@ void TakeClientName(Program& program) {
     if (text::Trim(name).empty()) {
         return;
     }
-    modMain::SetBaseName(program, name);
+    modNames::SetBaseName(program, name);
     program.document.FileName = name + ".hef";
     program.document.ClientCaption = "Proposal for " + name;
-    modMain::UpdateFooters(program);
+    modTitles::UpdateFooters(program);
 }
 
 } // namespace

@@ -9,8 +9,10 @@
 #include "format/label_looks.h"
 #include "format/line_effects.h"
 #include "format/logo.h"
+#include "pages/page_fonts.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "program/errors.h"
 #include "program/program.h"
 

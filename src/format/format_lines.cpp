@@ -5,7 +5,7 @@
 #include "format/label_looks.h"
 #include "format/line_effects.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "program/errors.h"
 #include "program/program.h"
 

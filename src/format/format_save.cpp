@@ -11,7 +11,7 @@
 #include "format/line_effects.h"
 #include "format/unkept_values.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -66,7 +66,7 @@ std::optional<Name> SettleName(Program& program) {
         Tell(program, "No name entered. File not saved.");
         return std::nullopt;
     }
-    if (modMain::IllegalFileName(program, name)) {
+    if (modNames::IllegalFileName(program, name)) {
         return std::nullopt;
     }
     return Name{name + std::string(kExtension), true};

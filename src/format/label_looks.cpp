@@ -1,7 +1,7 @@
 #include "format/label_looks.h"
 
+#include "pages/label_records.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
 #include "program/program.h"
 
 namespace modDesigner {

@@ -1,7 +1,8 @@
 #include "format/line_effects.h"
 
 #include "format/label_looks.h"
-#include "pages/page_setup.h"
+#include "pages/page_fonts.h"
+#include "pages/row_fields.h"
 #include "program/program.h"
 
 #include <algorithm>

@@ -43,8 +43,8 @@ std::string PictureOnShow(Program& program) {
     const std::string& setting = program.settings.LogoFile;
     const bool ofSetting =
         !setting.empty() &&
-        path == (modPages::IsBare(setting) ? paths::Join(program.folders.InstallFolder, setting)
-                                           : paths::ResolveDrive(setting, program.folders.Drives));
+        path == (modLogo::IsBare(setting) ? paths::Join(program.folders.InstallFolder, setting)
+                                          : paths::ResolveDrive(setting, program.folders.Drives));
     return ofSetting ? setting : path;
 }
 
@@ -59,7 +59,7 @@ void SaveVisibility(Program& program) {
 void TakeFormatLogo(Program& program, std::string_view path, float left, float top) {
     FormatRecords& format = program.format;
     format.LogoPath = path;
-    if (modPages::IsBare(path)) {
+    if (modLogo::IsBare(path)) {
         std::string here = paths::Join(program.folders.InstallFolder, path);
         if (!path.empty() && files::Exists(here)) {
             format.LogoPath = std::move(here);
@@ -78,11 +78,11 @@ void LayPendingLogo(Program& program) {
     }
     format.LogoPending = false;
     const auto size =
-        modPages::IsBare(format.LogoPath)
+        modLogo::IsBare(format.LogoPath)
             ? std::nullopt
-            : modPages::PutLogo(program, paths::ResolveDrive(format.LogoPath, program.folders.Drives));
+            : modLogo::PutLogo(program, paths::ResolveDrive(format.LogoPath, program.folders.Drives));
     if (!size) {
-        modPages::HideLogo(program);
+        modLogo::HideLogo(program);
         if (!format.LogoLossTold) {
             format.LogoLossTold = true;
             program.platform.questions.MsgBox("The logo " + format.LogoPath +
@@ -93,7 +93,7 @@ void LayPendingLogo(Program& program) {
     }
     Logo(program).Left = format.LogoLeft;
     Logo(program).Top = format.LogoTop;
-    if (const auto message = modPages::ScaledMessage(*size)) {
+    if (const auto message = modLogo::ScaledMessage(*size)) {
         program.main.Notice = *message;
     }
 }
@@ -128,7 +128,7 @@ void mnuEditLogoSave_Click(Program& program) {
 
 void mnuEditLogoVisible_Click(Program& program) {
     program.settings.LogoVisible = !program.main[CommandId::mnuEditLogoVisible].Checked;
-    modPages::SettleLogoVisibility(program);
+    modLogo::SettleLogoVisibility(program);
     program.main[CommandId::mnuEditLogoVisible].Checked = program.settings.LogoVisible;
     SaveVisibility(program);
     if (program.settings.LogoVisible && Logo(program).Picture.From == PictureRef::Source::None) {
@@ -142,7 +142,7 @@ void mnuEditLogoBorder_Click(Program& program) {
     Logo(program).BorderStyle = entry.Checked ? 0 : 1;
     if (!entry.Checked) {
         program.settings.LogoVisible = true;
-        modPages::SettleLogoVisibility(program);
+        modLogo::SettleLogoVisibility(program);
         program.main[CommandId::mnuEditLogoVisible].Checked = true;
         modSettings::SetLine(program, modSettings::Key::LogoVisible, "True");
     }

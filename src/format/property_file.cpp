@@ -6,8 +6,9 @@
 #include "format/line_effects.h"
 #include "format/unkept_values.h"
 #include "pages/fields.h"
+#include "pages/page_fonts.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "pages/titles.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -167,9 +168,9 @@ void TakeTitles(Program& program) {
     if (title.Changed && !title.Caption.empty()) {
         document.ClientCaption = title.Caption;
         document.TitleGiven = title.Caption != "Proposal for " + document.BaseName;
-        modMain::LayTitles(program);
+        modTitles::LayTitles(program);
     } else {
-        modMain::UpdateFooters(program);
+        modTitles::UpdateFooters(program);
     }
 }
 

@@ -65,9 +65,9 @@ void SetPageNumbers(Program& program) {
             continue;
         }
         PageLabel& heading = program.pages[page].lbl[0];
-        modMain::SetTitleWords(program, page, 0, heading,
-                               program.document.PageHeading + "Page " +
-                                   std::to_string(final ? used : IndexOf(page) + 1));
+        modTitles::SetTitleWords(program, page, 0, heading,
+                                 program.document.PageHeading + "Page " +
+                                     std::to_string(final ? used : IndexOf(page) + 1));
         Keep(program, page, 0);
     }
     program.main.lblHighestPage.Caption = "Utilizing " + std::to_string(used) + " of 6 Available Pages";

@@ -8,7 +8,7 @@
 
 #include <algorithm>
 
-namespace modPages {
+namespace modLogo {
 
 namespace {
 
@@ -105,4 +105,4 @@ std::optional<PictureSize> ShowLogo(Program& program, const std::string& path) {
     return size;
 }
 
-} // namespace modPages
+} // namespace modLogo

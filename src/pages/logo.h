@@ -9,7 +9,7 @@
 struct Program;
 
 /// The logo of frmP1: the picture on show, its place, and whether it is seen.
-namespace modPages {
+namespace modLogo {
 
 /// No logo is shown larger; a larger picture is scaled into this box, on paper too.
 inline constexpr float kLogoMostWidth = 10800;
@@ -38,4 +38,4 @@ void LoadLogo(Program& program);
 /// size, or nothing when it cannot be shown; then nothing changes.
 [[nodiscard]] std::optional<PictureSize> ShowLogo(Program& program, const std::string& path);
 
-} // namespace modPages
+} // namespace modLogo

@@ -1,13 +1,13 @@
 #include "pages/titles.h"
 
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/text_width.h"
 #include "program/program.h"
 
 #include <cmath>
 #include <utility>
 
-namespace modMain {
+namespace modTitles {
 
 namespace {
 
@@ -114,4 +114,4 @@ void SetPageHeading(Program& program, const char* what) {
                                        : program.settings.PageTitles;
 }
 
-} // namespace modMain
+} // namespace modTitles

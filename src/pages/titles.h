@@ -6,7 +6,7 @@
 
 struct Program;
 
-namespace modMain {
+namespace modTitles {
 
 /// Lays the client's line on all pages, shows it in `lblEvent`, and writes the main window's title. An empty
 /// ClientCaption becomes "Proposal for (Client's Name)".
@@ -30,4 +30,4 @@ void SetTitleWords(const Program& program, PageId page, int index, PageLabel& la
 /// - ".
 void SetPageHeading(Program& program, const char* what);
 
-} // namespace modMain
+} // namespace modTitles

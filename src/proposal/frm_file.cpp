@@ -5,13 +5,14 @@
 #include "base/text.h"
 #include "pages/fields.h"
 #include "pages/logo.h"
-#include "pages/page_setup.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "proposal/delete_files.h"
 #include "proposal/file_names.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_open.h"
 #include "proposal/reset.h"
 
 #include <algorithm>
@@ -192,7 +193,7 @@ void frmFile::OpenFormat(Program& program) {
     format.FormatName = selected_;
     format.FormatOpen = true;
     program.settings.LoadDefaultFormat = false;
-    if (modMain::StartNewFile(program) == modMain::ResetResult::Refused) {
+    if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         format = before;
         program.settings.LoadDefaultFormat = loadDefault;
         return;
@@ -203,7 +204,7 @@ void frmFile::OpenFormat(Program& program) {
 
 void frmFile::OpenLogo(Program& program) {
     const std::string path = paths::Join(Folder, selected_);
-    const std::optional<PictureSize> size = modPages::ShowLogo(program, path);
+    const std::optional<PictureSize> size = modLogo::ShowLogo(program, path);
     if (!size) {
         program.platform.questions.MsgBox("The file " + selected_ + " is not a picture that can be shown.",
                                           Buttons::Ok, "");
@@ -218,7 +219,7 @@ void frmFile::OpenLogo(Program& program) {
     format.LogoChanged = true;
     format.Touched = true;
     Finish(program);
-    if (const auto message = modPages::ScaledMessage(*size)) {
+    if (const auto message = modLogo::ScaledMessage(*size)) {
         program.platform.questions.MsgBox(*message, Buttons::Ok, "");
     }
 }
@@ -235,7 +236,7 @@ void frmFile::OpenProposal(Program& program) {
     }
     const bool existed = document.FileExists;
     document.FileExists = true;
-    if (modMain::StartNewFile(program) == modMain::ResetResult::Refused) {
+    if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         document.FileExists = existed;
         return;
     }
@@ -258,7 +259,7 @@ void frmFile::DeleteSelected(Program& program) {
         return;
     }
     try {
-        modMain::DeleteProposalFiles(Folder, selected_);
+        modFile::DeleteProposalFiles(Folder, selected_);
     } catch (const std::exception& error) {
         questions.MsgBox("An Error occurred trying to delete the file.", Buttons::Ok, "");
         ReportError(program, "frmFile", error);

@@ -1,3 +1,5 @@
+#include "proposal/proposal_open.h"
+
 #include "base/files.h"
 #include "base/guard.h"
 #include "base/numbers.h"
@@ -6,14 +8,16 @@
 #include "money/totals.h"
 #include "pages/logo.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
 #include "pages/quantity_row.h"
+#include "pages/row_fields.h"
 #include "pages/titles.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
 #include "proposal/file_names.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/slot_widths.h"
 
 #include <algorithm>
 
@@ -151,7 +155,7 @@ void TakeKind(Program& program) {
         program.run.FUTFileName = wedding ? "Wedding Terms.fut" : "Default Terms.fut";
     }
     if (program.settings.PageTitles.empty()) {
-        modMain::SetPageHeading(program, wedding ? "Wedding Proposal" : "Event Proposal");
+        modTitles::SetPageHeading(program, wedding ? "Wedding Proposal" : "Event Proposal");
     }
 }
 
@@ -165,7 +169,7 @@ void SettleLogo(Program& program) {
         program.main[CommandId::mnuEditLogoVisible].Checked = false;
         return;
     }
-    modPages::SettleLogoVisibility(program);
+    modLogo::SettleLogoVisibility(program);
 }
 
 } // namespace
@@ -197,7 +201,7 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
         program.main[CommandId::mnuFileDelete].Enabled = true;
         modTotals::TotalsAfterReading(program);
     }
-    modMain::SetBaseName(program, paths::BaseOf(fileName));
+    modNames::SetBaseName(program, paths::BaseOf(fileName));
     document.ClientCaption = "Proposal for " + document.BaseName;
     TakeKind(program);
     program.main.imgFootNotes.Picture =
@@ -206,7 +210,7 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
         program.hooks.ReadFrequentlyUsedTerms(program);
     }
     SettleLogo(program);
-    modMain::UpdateEventNameLabels(program);
+    modTitles::UpdateEventNameLabels(program);
     if (program.hooks.UpdatePageButtons) {
         program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
     }

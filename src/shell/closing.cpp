@@ -5,9 +5,10 @@
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_save.h"
 
-namespace modMain {
+namespace modClosing {
 
 void mnuFileExit_Click(Program& program) {
     if (MDIForm_QueryUnload(program)) {
@@ -24,7 +25,7 @@ bool MDIForm_QueryUnload(Program& program) {
     if (program.main.Closing) {
         return true;
     }
-    if (!SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
+    if (!modProposal::SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
         return modFormat::MayLeaveFormat(program);
     }
     const Answer answer = program.platform.questions.MsgBox(
@@ -47,4 +48,4 @@ void MDIForm_Unload(Program& program) {
     program.platform.events.Quit();
 }
 
-} // namespace modMain
+} // namespace modClosing
