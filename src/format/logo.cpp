@@ -155,12 +155,10 @@ void pic_MouseDown(Program& program, int button, float x, float y) {
     }
 }
 
-void pic_MouseMove(Program& program, float x, float y) {
+bool pic_MouseMove(Program& program, float x, float y) {
     DragState& drag = program.designer.LogoDrag;
     PagePicture& logo = Logo(program);
-    if (drag.Dragging && modDesigner::SnapStep(drag, program.format.SnapTwips, x, y, logo.Left, logo.Top)) {
-        drag.Moved = true;
-    }
+    return drag.Dragging && modDesigner::SnapStep(drag, program.format.SnapTwips, x, y, logo.Left, logo.Top);
 }
 
 void pic_MouseUp(Program& program) {

@@ -25,7 +25,8 @@ void mnuEditLogoBorder_Click(Program& program);
 /// The mouse on the logo, twips from its corner; button 1 left, 2 right. The right one opens the menu of the
 /// logo's commands.
 void pic_MouseDown(Program& program, int button, float x, float y);
-void pic_MouseMove(Program& program, float x, float y);
+/// True when it moved.
+bool pic_MouseMove(Program& program, float x, float y);
 void pic_MouseUp(Program& program);
 void pic_DblClick(Program& program);
 

@@ -44,7 +44,7 @@ struct DesignerRecords {
     std::array<std::array<bool, 65>, kEditedPageCount> ChangedAtPress{};
     std::string ColorOwner; ///< who opened the colour window: "Label" or "Text"
 
-    bool LabelMode = false;     ///< keys go to the labels of the page in front
-    std::optional<int> Framed;  ///< the label with the frame round it, or kLogoInFrame
-    bool FramedPressed = false; ///< the framed label has been pressed since it got its frame
+    bool LabelMode = false;              ///< keys go to the labels of the page in front
+    std::optional<int> Framed;           ///< the label with the frame round it, or kLogoInFrame
+    std::optional<FieldRef> FocusBefore; ///< the field that has the keyboard again when the mode is left
 };

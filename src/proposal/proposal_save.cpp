@@ -114,6 +114,9 @@ void WriteFile(Program& program) {
 
 void SavingSteps(Program& program, SaveResult& result) {
     DocumentState& document = program.document;
+    if (program.hooks.CloseLabelWindow && !document.BackingUp) {
+        program.hooks.CloseLabelWindow(program);
+    }
     CompareTotals(program);
     if (!NameIsSettled(program)) {
         return;

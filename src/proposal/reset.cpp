@@ -179,6 +179,9 @@ void ResetSteps(Program& program) {
 
 ResetResult StartNewFile(Program& program) {
     ResetResult result = ResetResult::Done;
+    if (program.hooks.CloseLabelWindow) {
+        program.hooks.CloseLabelWindow(program);
+    }
     Guarded(program, "StartNewFile", [&] {
         {
             const ScopedFlag active(program.guards.ResetActive);

@@ -6,8 +6,13 @@
 #include "editing/columns.h"
 #include "editing/selection.h"
 #include "editing/text_commands.h"
+#include "format/area_font.h"
 #include "format/format_commands.h"
+#include "format/frm_snap.h"
+#include "format/frm_title.h"
 #include "format/grid.h"
+#include "format/label_designer.h"
+#include "format/label_keys.h"
 #include "format/logo.h"
 #include "money/totals.h"
 #include "output/preview.h"
@@ -229,7 +234,8 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuEditTitles,
           .Name = "mnuEditTitles",
           .Caption = "Proposal Page Titles and Subtitles",
-          .Parent = mnuEdit},
+          .Parent = mnuEdit,
+          .Run = modTitleCommands::mnuEditTitles_Click},
     Entry{.Id = mnuEditSpellCheck,
           .Name = "mnuEditSpellCheck",
           .Caption = "Chec&k Spelling",
@@ -411,15 +417,25 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuEditLabelProps,
           .Name = "mnuEditLabelProps",
           .Caption = "Label &Properties",
-          .Parent = mnuEditLabel},
+          .Parent = mnuEditLabel,
+          .Run = modDesigner::mnuEditLabelProps_Click},
     Entry{.Id = mnuEditLabelSelectAll,
           .Name = "mnuEditLabelSelectAll",
           .Caption = "&Select All",
-          .Parent = mnuEditLabel},
+          .Parent = mnuEditLabel,
+          .Run = modDesigner::mnuEditLabelSelectAll_Click},
     Entry{.Id = mnuEditLabelDeselectAll,
           .Name = "mnuEditLabelDeselectAll",
           .Caption = "&DeSelect All",
-          .Parent = mnuEditLabel},
+          .Parent = mnuEditLabel,
+          .Run = modDesigner::mnuEditLabelDeselectAll_Click},
+    Entry{.Id = mnuEditLabelMode,
+          .Name = "mnuEditLabelMode",
+          .Caption = "Labels by &Keyboard",
+          .Parent = mnuEditLabel,
+          .Run = modLabelKeys::mnuEditLabelMode_Click,
+          .Shortcut = "Ctrl+L",
+          .Checkable = true},
     Entry{.Id = mnuEditLogo,
           .Name = "mnuEditLogo",
           .Caption = "Logo",
@@ -446,11 +462,13 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Caption = "Show Logo with Border",
           .Parent = mnuEditLogo,
           .Run = modLogo::mnuEditLogoBorder_Click,
+          .Checked = true,
           .Checkable = true},
     Entry{.Id = mnuEditAllTextFonts,
           .Name = "mnuEditAllTextFonts",
           .Caption = "Edit &All Text Area Fonts",
-          .Parent = mnuEditCtrl},
+          .Parent = mnuEditCtrl,
+          .Run = modFormat::mnuEditAllTextFonts_Click},
     Entry{.Id = mnuView, .Name = "mnuView", .Caption = "&View", .What = Kind::Menu},
     Entry{.Id = mnuViewEventDates,
           .Name = "mnuViewEventDates",
@@ -551,11 +569,16 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Parent = mnuOpt,
           .Run = modOptions::mnuOptEmptyBackup_Click},
     Entry{.Id = mnuTools, .Name = "mnuTools", .Caption = "&Tools", .What = Kind::Menu},
-    Entry{.Id = mnuToolsSnap, .Name = "mnuToolsSnap", .Caption = "Change Snap", .Parent = mnuTools},
+    Entry{.Id = mnuToolsSnap,
+          .Name = "mnuToolsSnap",
+          .Caption = "Change Snap",
+          .Parent = mnuTools,
+          .Run = modDesigner::mnuToolsSnap_Click},
     Entry{.Id = mnuToolsAlignWithSnap,
           .Name = "mnuToolsAlignWithSnap",
           .Caption = "Align Form to Snap",
-          .Parent = mnuTools},
+          .Parent = mnuTools,
+          .Run = modDesigner::mnuToolsAlignWithSnap_Click},
     Entry{.Id = mnuToolsDrawCenterLines,
           .Name = "mnuToolsDrawCenterLines",
           .Caption = "Draw Grid",

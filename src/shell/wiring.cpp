@@ -8,7 +8,7 @@
 #include "editing/typing.h"
 #include "format/format_changes.h"
 #include "format/format_file.h"
-#include "format/format_save.h"
+#include "format/frm_label_props.h"
 #include "format/property_file.h"
 #include "output/page_count.h"
 #include "program/program.h"
@@ -64,8 +64,7 @@ void Wire(Program& program) {
     hooks.OpenFormatFile = modFormat::OpenFormatFile;
     hooks.ParsePropertyFile = modFormat::ParsePropertyFile;
     hooks.AssignPropChanges = modFormat::AssignPropChanges;
-    hooks.FormatHasChanges = modFormat::FormatHasChanges;
-    hooks.SaveFileFormat = [](Program& any) { modFormat::SaveFileFormat(any); };
     hooks.MayLeaveFormat = modFormat::MayLeaveFormat;
+    hooks.CloseLabelWindow = modDesigner::CloseLabelWindow;
     hooks.SetPageNumbers = modPrint::SetPageNumbers;
 }
