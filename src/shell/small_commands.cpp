@@ -56,7 +56,7 @@ constexpr std::string_view kUpgradeFile = "Upgrade Manager.exe";
 } // namespace
 
 void mnuHelpAbout_Click(Program& program) {
-    const std::string title = std::string(version::kTitle) + " Version " + std::string(version::kNumber);
+    const std::string title = std::string(version::kTitle) + " Version " + std::string(version::Number());
     Tell(program, text::Lines({title, version::kMaker, version::kWebLine}));
 }
 
@@ -73,7 +73,7 @@ void mnuHelpFAQ_Click(Program& program) {
 }
 
 void mnuHelpVersion_Click(Program& program) {
-    const std::string words = text::Lines({version::kTitle, "Version: " + std::string(version::kNumber),
+    const std::string words = text::Lines({version::kTitle, "Version: " + std::string(version::Number()),
                                            "Comments: " + std::string(version::kComments)});
     Tell(program, words);
     Guarded(program, "mnuHelpVersion", [&] {
@@ -86,7 +86,7 @@ void mnuHelpVersion_Click(Program& program) {
 }
 
 void mnuSupportUpdates_Click(Program& program) {
-    Tell(program, text::Lines({version::kTitle, "Current Version: " + std::string(version::kNumber)}));
+    Tell(program, text::Lines({version::kTitle, "Current Version: " + std::string(version::Number())}));
     OpenWebPage(program, "/quillbrook/updates.htm");
 }
 
