@@ -2,8 +2,11 @@
 
 #include "desktop/band_view.h"
 #include "desktop/convert.h"
-#include "desktop/field_views.h"
+#include "desktop/label_view.h"
+#include "desktop/logo_view.h"
+#include "desktop/mark_view.h"
 #include "desktop/paper_text.h"
+#include "desktop/text_area_view.h"
 #include "output/print_page.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"

@@ -9,12 +9,13 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLibrary>
 #include <QMessageBox>
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
+
+#include <cups/cups.h>
 
 #include <algorithm>
 #include <optional>
@@ -76,17 +77,10 @@ QString AskPerson(const QString& suggested) {
 /// Why the print system did not take the job that was just sent. The toolkit hands it over and does not look
 /// at the answer; the system's own library keeps it.
 std::optional<std::string> Refusal() {
-    using LastError = int (*)();
-    using LastErrorText = const char* (*)();
-    constexpr int kCupsVersion = 2;
-    constexpr int kFirstRefusal = 0x400; // what is below tells of success
-    QLibrary system(QStringLiteral("cups"), kCupsVersion);
-    const auto lastError = reinterpret_cast<LastError>(system.resolve("cupsLastError"));
-    const auto text = reinterpret_cast<LastErrorText>(system.resolve("cupsLastErrorString"));
-    if (lastError == nullptr || text == nullptr || lastError() < kFirstRefusal) {
-        return std::nullopt; // there is no such library where printers are reached in another way
+    if (cupsLastError() < IPP_STATUS_ERROR_BAD_REQUEST) {
+        return std::nullopt;
     }
-    return ansi::FromUtf8(text()).value_or("The document was not taken.");
+    return ansi::FromUtf8(cupsLastErrorString()).value_or("The document was not taken.");
 }
 
 } // namespace
