@@ -23,7 +23,6 @@
 namespace {
 
 constexpr std::string_view kToPdf = "Print to PDF";
-constexpr int kTwipsPerInch = 1440;
 
 QPageLayout Letter() {
     return QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait, QMarginsF(), QPageLayout::Inch);
@@ -158,7 +157,7 @@ void QtPrinters::SendToPrinter(const std::vector<PaperRecord>& pages) const {
         }
         first = false;
         painter.save();
-        const double scale = static_cast<double>(printer.resolution()) / kTwipsPerInch;
+        const double scale = static_cast<double>(printer.resolution()) / paper::kTwipsPerInch;
         painter.scale(scale, scale);
         page.Replay(painter);
         painter.restore();
@@ -176,7 +175,7 @@ QByteArray QtPrinters::MakePdf(const std::vector<const PaperRecord*>& pages, con
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
-    writer.setResolution(kTwipsPerInch);
+    writer.setResolution(paper::kTwipsPerInch);
     writer.setPageLayout(Letter());
     writer.setTitle(title);
     writer.setCreator(QStringLiteral("Quillbrook"));

@@ -4,6 +4,7 @@
 #include "base/dates.h"
 #include "base/paths.h"
 #include "desktop/convert.h"
+#include "desktop/paper_surface.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -31,8 +32,6 @@
 #include <unistd.h>
 
 namespace {
-
-constexpr double kTwipsPerInch = 1440;
 
 QString Native(std::string_view path) {
     return QString::fromStdString(ansi::ToUtf8(path));
@@ -175,8 +174,8 @@ int QtScreen::HeightInPixels() const {
 float QtScreen::TwipsPerPixel() const {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen == nullptr ? 15
-                             : static_cast<float>(kTwipsPerInch / (screen->logicalDotsPerInchX() *
-                                                                   screen->devicePixelRatio()));
+                             : static_cast<float>(paper::kTwipsPerInch / (screen->logicalDotsPerInchX() *
+                                                                          screen->devicePixelRatio()));
 }
 
 void QtClipboard::Clear() {
