@@ -60,7 +60,7 @@ bool NameIsSettled(Program& program) {
         GoToClientName(program);
         return false;
     }
-    if (FileIsThere(document.FilePath, document.FileName)) {
+    if (files::ExistsExactly(paths::Join(document.FilePath, document.FileName))) {
         modMain::ShowDuplicateFileOptions(program, document.FileName);
         if (document.Cancelled) {
             document.Cancelled = false;
@@ -119,9 +119,6 @@ void WriteFile(Program& program) {
     const std::string bytes = MakeBytes(program);
     const std::string folder = document.BackingUp ? modFolders::BackupFolder(program) : document.FilePath;
     const std::string path = paths::Join(folder, document.FileName);
-    if (files::Exists(path)) {
-        files::Delete(path);
-    }
     files::WriteWhole(path, bytes);
 }
 
@@ -186,12 +183,6 @@ void BackupThisFile(Program& program) {
         return;
     }
     Guarded(program, "BackupThisFile", [&] {
-        // The backup that stands is deleted only where the new one is written: a save that stops at a
-        // question must not cost it.
-        const std::string path = paths::Join(modFolders::BackupFolder(program), program.document.FileName);
-        if (files::Exists(path)) {
-            files::ClearAttributes(path);
-        }
         program.document.BackingUp = true;
         SaveEventFile(program);
     });
@@ -205,9 +196,6 @@ SaveResult SavePropertyFile(Program& program) {
             bytes += text::kCrLf;
         }
         const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
-        if (files::Exists(path)) {
-            files::Delete(path);
-        }
         files::WriteWhole(path, bytes);
         ClearLabelMarks(program);
     });

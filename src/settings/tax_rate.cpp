@@ -52,9 +52,6 @@ void SaveTaxRate(Program& program, std::string_view rateText) {
         five.resize(kTaxLength, ' ');
         program.totals.TaxRate = numbers::ValSingle(five);
         const std::string path = PathOf(program, kTaxFile);
-        if (files::Exists(path)) {
-            files::Delete(path);
-        }
         files::WriteWhole(path, five);
         Questions& questions = program.platform.questions;
         questions.MsgBox("New Sales Tax Rate is " + numbers::FormatSingle(program.totals.TaxRate, "##.00") +
@@ -105,9 +102,6 @@ void SavePrinterOffsets(Program& program) {
         bytes += kYKey;
         bytes += InchesOf(program.printing.PrinterOffsetY);
         const std::string path = PathOf(program, kOffsetsFile);
-        if (files::Exists(path)) {
-            files::Delete(path);
-        }
         files::WriteWhole(path, bytes);
     });
 }
