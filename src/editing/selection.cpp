@@ -1,10 +1,9 @@
 #include "editing/selection.h"
 
 #include "editing/area_contents.h"
-#include "editing/text_areas.h"
 #include "editing/text_menu.h"
+#include "editing/typing.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
 #include "program/errors.h"
 #include "program/program.h"
 

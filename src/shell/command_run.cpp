@@ -1,10 +1,10 @@
 #include "shell/command_run.h"
 
+#include "editing/area_mouse.h"
 #include "editing/block_moves.h"
 #include "editing/blocks.h"
 #include "editing/columns.h"
 #include "editing/selection.h"
-#include "editing/text_areas.h"
 #include "editing/text_commands.h"
 #include "format/grid.h"
 #include "money/totals.h"
@@ -18,12 +18,15 @@
 #include "settings/frm_pref.h"
 #include "settings/frm_printers.h"
 #include "settings/frm_tax.h"
-#include "settings/settings.h"
+#include "settings/network_share.h"
 #include "shell/admin_commands.h"
 #include "shell/closing.h"
 #include "shell/command_table.h"
+#include "shell/desktop_links.h"
+#include "shell/help_commands.h"
+#include "shell/option_commands.h"
 #include "shell/preview_refusals.h"
-#include "shell/small_commands.h"
+#include "shell/support_commands.h"
 
 #include <algorithm>
 #include <array>
@@ -63,12 +66,12 @@ struct Route {
 };
 
 constexpr std::array kRoutes{
-    Route{CommandId::mnuFileNew, modMain::mnuFileNew_Click},
-    Route{CommandId::mnuFileOpenEvent, modMain::mnuFileOpenEvent_Click},
-    Route{CommandId::mnuFileSaveEvent, modMain::mnuFileSaveEvent_Click},
-    Route{CommandId::mnuFileSaveAs, modMain::mnuFileSaveAs_Click},
-    Route{CommandId::mnuFileRestoreFromBackup, modMain::mnuFileRestoreFromBackup_Click},
-    Route{CommandId::mnuFileDelete, modMain::mnuFileDelete_Click},
+    Route{CommandId::mnuFileNew, modProposal::mnuFileNew_Click},
+    Route{CommandId::mnuFileOpenEvent, modProposal::mnuFileOpenEvent_Click},
+    Route{CommandId::mnuFileSaveEvent, modProposal::mnuFileSaveEvent_Click},
+    Route{CommandId::mnuFileSaveAs, modProposal::mnuFileSaveAs_Click},
+    Route{CommandId::mnuFileRestoreFromBackup, modProposal::mnuFileRestoreFromBackup_Click},
+    Route{CommandId::mnuFileDelete, modProposal::mnuFileDelete_Click},
     Route{CommandId::mnuFilePrintPreview, modPrint::TogglePreview},
     Route{CommandId::mnuFileResume, modPrint::TogglePreview},
     Route{CommandId::mnuFilePrintAll, modPrint::mnuFilePrintAll_Click},
@@ -79,7 +82,7 @@ constexpr std::array kRoutes{
     Route{CommandId::mnuFilePrintPage5, PrintPage<PageId::frmP5>},
     Route{CommandId::mnuFilePrintPage6, PrintPage<PageId::frmP6>},
     Route{CommandId::mnuFilePrintPage6_1, PrintPage<PageId::frmP6_1>},
-    Route{CommandId::mnuFileExit, modMain::mnuFileExit_Click},
+    Route{CommandId::mnuFileExit, modClosing::mnuFileExit_Click},
     Route{CommandId::mnuEditTextColumns, modColumns::ToggleColumns},
     Route{CommandId::mnuEditTextBold, modText::mnuEditTextBold_Click},
     Route{CommandId::mnuEditTextNormal, modText::mnuEditTextNormal_Click},
@@ -94,13 +97,13 @@ constexpr std::array kRoutes{
     Route{CommandId::mnuEditTextMoveDown, modBlocks::MoveBlockDown},
     Route{CommandId::mnuEditTextMoveUp, modBlocks::MoveBlockUp},
     Route{CommandId::mnuEditTextDeselect, modBlocks::DeSelectAllControls},
-    Route{CommandId::mnuEditTextCenter, modMain::mnuEditTextCenter_Click},
+    Route{CommandId::mnuEditTextCenter, modText::mnuEditTextCenter_Click},
     Route{CommandId::mnuEditTextTaxExempt, modColumns::mnuEditTextTaxExempt_Click},
     Route{CommandId::mnuEditTextTaxable, modColumns::mnuEditTextTaxable_Click},
-    Route{CommandId::mnuOptPrinter, modMain::mnuOptPrinter_Click},
+    Route{CommandId::mnuOptPrinter, modPrinters::mnuOptPrinter_Click},
     Route{CommandId::mnuOptACStart, ShowWindow<frmACStart>},
     Route{CommandId::mnuOptSalesTax, ShowWindow<frmTax>},
-    Route{CommandId::mnuOptNetwork, modSettings::RequestNetworkSharePath},
+    Route{CommandId::mnuOptNetwork, modShare::RequestNetworkSharePath},
     Route{CommandId::mnuOptEnableOverwriteFmtTextBoxes, ToggleOverwrite},
     Route{CommandId::mnuOptHideTotals, modTotals::mnuOptHideTotals_Click},
     Route{CommandId::mnuOptUserPref, ShowWindow<frmPref>},
@@ -108,28 +111,28 @@ constexpr std::array kRoutes{
     Route{CommandId::mnuToolsPrinterOffsets, ShowWindow<frmPOffsets>},
     Route{CommandId::mnuToolsRecalculate, modTotals::mnuToolsRecalculate_Click},
     Route{CommandId::mnuAdminCheckAddition, modTotals::mnuAdminCheckAddition_Click},
-    Route{CommandId::mnuOptCurrencySymbol, modMain::mnuOptCurrencySymbol_Click},
-    Route{CommandId::mnuOptSetDefaultFonts, modMain::mnuOptSetDefaultFonts_Click},
-    Route{CommandId::mnuOptEmptyBackup, modMain::mnuOptEmptyBackup_Click},
+    Route{CommandId::mnuOptCurrencySymbol, modOptions::mnuOptCurrencySymbol_Click},
+    Route{CommandId::mnuOptSetDefaultFonts, modOptions::mnuOptSetDefaultFonts_Click},
+    Route{CommandId::mnuOptEmptyBackup, modOptions::mnuOptEmptyBackup_Click},
     Route{CommandId::mnuToolsDrawCenterLines, modDesigner::mnuToolsDrawCenterLines_Click},
     Route{CommandId::mnuToolsClearCenterLines, modDesigner::mnuToolsClearCenterLines_Click},
-    Route{CommandId::mnuToolsCreateShorcut, modMain::mnuToolsCreateShorcut_Click},
-    Route{CommandId::mnuToolsCreateShortcutUM, modMain::mnuToolsCreateShortcutUM_Click},
-    Route{CommandId::mnuAdminDelete, modMain::mnuAdminDelete_Click},
-    Route{CommandId::mnuAdminDebug, modMain::mnuAdminDebug_Click},
-    Route{CommandId::mnuAdminLogon, modMain::mnuAdminLogon_Click},
-    Route{CommandId::mnuToolsAdminShowAllLabels, modMain::mnuToolsAdminShowAllLabels_Click},
-    Route{CommandId::mnuAdminConvert, modMain::mnuAdminConvert_Click},
-    Route{CommandId::mnuSupportUpdates, modMain::mnuSupportUpdates_Click},
-    Route{CommandId::mnuSupportUpgrade, modMain::mnuSupportUpgrade_Click},
-    Route{CommandId::mnuSupportFree, modMain::mnuSupportFree_Click},
-    Route{CommandId::mnuFeedbackReportBug, modMain::mnuFeedbackReportBug_Click},
-    Route{CommandId::mnuFeedbackSuggestions, modMain::mnuFeedbackSuggestions_Click},
-    Route{CommandId::mnuHelpAbout, modMain::mnuHelpAbout_Click},
-    Route{CommandId::mnuHelpTutorial, modMain::mnuHelpTutorial_Click},
-    Route{CommandId::mnuHelpContents, modMain::mnuHelpContents_Click},
-    Route{CommandId::mnuHelpFAQ, modMain::mnuHelpFAQ_Click},
-    Route{CommandId::mnuHelpVersion, modMain::mnuHelpVersion_Click},
+    Route{CommandId::mnuToolsCreateShorcut, modLinks::mnuToolsCreateShorcut_Click},
+    Route{CommandId::mnuToolsCreateShortcutUM, modLinks::mnuToolsCreateShortcutUM_Click},
+    Route{CommandId::mnuAdminDelete, modAdmin::mnuAdminDelete_Click},
+    Route{CommandId::mnuAdminDebug, modAdmin::mnuAdminDebug_Click},
+    Route{CommandId::mnuAdminLogon, modAdmin::mnuAdminLogon_Click},
+    Route{CommandId::mnuToolsAdminShowAllLabels, modAdmin::mnuToolsAdminShowAllLabels_Click},
+    Route{CommandId::mnuAdminConvert, modAdmin::mnuAdminConvert_Click},
+    Route{CommandId::mnuSupportUpdates, modSupport::mnuSupportUpdates_Click},
+    Route{CommandId::mnuSupportUpgrade, modLinks::mnuSupportUpgrade_Click},
+    Route{CommandId::mnuSupportFree, modSupport::mnuSupportFree_Click},
+    Route{CommandId::mnuFeedbackReportBug, modSupport::mnuFeedbackReportBug_Click},
+    Route{CommandId::mnuFeedbackSuggestions, modSupport::mnuFeedbackSuggestions_Click},
+    Route{CommandId::mnuHelpAbout, modHelp::mnuHelpAbout_Click},
+    Route{CommandId::mnuHelpTutorial, modHelp::mnuHelpTutorial_Click},
+    Route{CommandId::mnuHelpContents, modHelp::mnuHelpContents_Click},
+    Route{CommandId::mnuHelpFAQ, modHelp::mnuHelpFAQ_Click},
+    Route{CommandId::mnuHelpVersion, modHelp::mnuHelpVersion_Click},
 };
 
 } // namespace
