@@ -72,6 +72,20 @@ QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
     return QMessageBox::Ok;
 }
 
+QMessageBox::StandardButton ButtonOf(Answer answer) {
+    switch (answer) {
+    case Answer::Yes:
+        return QMessageBox::Yes;
+    case Answer::No:
+        return QMessageBox::No;
+    case Answer::Cancel:
+        return QMessageBox::Cancel;
+    case Answer::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
 /// A lock file that names nobody is left from a crash in the middle of its writing, or from a full disk; the
 /// lock itself knows whether somebody still holds it.
 bool TakeUnreadable(QLockFile& lock) {
@@ -91,7 +105,8 @@ QWidget* QtQuestions::Below() const {
     return Over != nullptr && Over->isVisible() ? Over : QApplication::activeWindow();
 }
 
-Answer QtQuestions::MsgBox(std::string_view text, Buttons buttons, std::string_view title) {
+Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view title,
+                        const Manner& manner) {
     if (BeforeAsking) {
         BeforeAsking();
     }
@@ -104,6 +119,9 @@ Answer QtQuestions::MsgBox(std::string_view text, Buttons buttons, std::string_v
     }
     if (buttons == Buttons::YesNo) {
         box.setEscapeButton(QMessageBox::No); // closing the box must not be a Yes
+    }
+    if (manner.Default) {
+        box.setDefaultButton(ButtonOf(*manner.Default));
     }
     switch (box.exec()) {
     case QMessageBox::Yes:
