@@ -203,6 +203,10 @@ void WriteBytes(const std::string& native, int flags, std::string_view bytes, st
 
 namespace files {
 
+std::optional<std::string> OnDisk(std::string_view path) {
+    return Locate(path);
+}
+
 bool Exists(std::string_view path) {
     const std::optional<std::string> native = Locate(path);
     const auto about = native ? Stat(*native) : std::nullopt;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,6 +28,8 @@ inline constexpr int kBadName = 52, kNotFound = 53, kDeviceError = 57, kAlreadyE
 
 inline constexpr std::uintmax_t kTextLimit = 64U << 20U;
 
+/// The path of something that is on the disk as the system spells it; nothing when it is not there.
+[[nodiscard]] std::optional<std::string> OnDisk(std::string_view path);
 /// A regular file of that name. Folders, devices and pipes are none.
 [[nodiscard]] bool Exists(std::string_view path);
 [[nodiscard]] bool IsFolder(std::string_view path);
