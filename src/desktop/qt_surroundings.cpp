@@ -4,6 +4,7 @@
 #include "base/dates.h"
 #include "base/paths.h"
 #include "desktop/convert.h"
+#include "desktop/paper_surface.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -28,12 +29,11 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <array>
 
 #include <unistd.h>
 
 namespace {
-
-constexpr double kTwipsPerInch = 1440;
 
 QString Native(std::string_view path) {
     return QString::fromStdString(ansi::ToUtf8(path));
@@ -74,6 +74,20 @@ QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
     return QMessageBox::Ok;
 }
 
+QMessageBox::StandardButton ButtonOf(Answer answer) {
+    switch (answer) {
+    case Answer::Yes:
+        return QMessageBox::Yes;
+    case Answer::No:
+        return QMessageBox::No;
+    case Answer::Cancel:
+        return QMessageBox::Cancel;
+    case Answer::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
 /// A lock file that names nobody is left from a crash in the middle of its writing, or from a full disk; the
 /// lock itself knows whether somebody still holds it.
 bool TakeUnreadable(QLockFile& lock) {
@@ -93,7 +107,8 @@ QWidget* QtQuestions::Below() const {
     return Over != nullptr && Over->isVisible() ? Over : QApplication::activeWindow();
 }
 
-Answer QtQuestions::MsgBox(std::string_view text, Buttons buttons, std::string_view title) {
+Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view title,
+                        const Manner& manner) {
     if (BeforeAsking) {
         BeforeAsking();
     }
@@ -107,6 +122,16 @@ Answer QtQuestions::MsgBox(std::string_view text, Buttons buttons, std::string_v
     if (buttons == Buttons::YesNo) {
         box.setEscapeButton(QMessageBox::No); // closing the box must not be a Yes
     }
+    constexpr std::array kInOrder{QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
+    for (std::size_t index = 0; index < manner.Words.size() && index < kInOrder.size(); ++index) {
+        if (QAbstractButton* button = box.button(kInOrder[index])) {
+            button->setText(convert::ToQString(manner.Words[index]));
+            button->setIcon(QIcon());
+        }
+    }
+    if (manner.Default) {
+        box.setDefaultButton(ButtonOf(*manner.Default));
+    }
     switch (box.exec()) {
     case QMessageBox::Yes:
         return Answer::Yes;
@@ -117,29 +142,6 @@ Answer QtQuestions::MsgBox(std::string_view text, Buttons buttons, std::string_v
     default:
         return buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
     }
-}
-
-std::size_t QtQuestions::Choose(const Choice& choice) {
-    if (BeforeAsking) {
-        BeforeAsking();
-    }
-    QMessageBox box(QMessageBox::Question, TitleOf(choice.Title), ShownText(choice.Text),
-                    QMessageBox::NoButton, Below());
-    box.setObjectName(QStringLiteral("MsgBox"));
-    box.setTextFormat(Qt::PlainText);
-    std::vector<QPushButton*> buttons;
-    for (std::size_t index = 0; index < choice.Answers.size(); ++index) {
-        // The style orders the buttons by their part in the question.
-        const auto role = index == choice.OnEscape && choice.Answers.size() > 2 ? QMessageBox::RejectRole
-                          : index == 0                                          ? QMessageBox::YesRole
-                                                                                : QMessageBox::NoRole;
-        buttons.push_back(box.addButton(convert::ToQString(choice.Answers[index]), role));
-    }
-    box.setDefaultButton(buttons.at(choice.Default));
-    box.setEscapeButton(buttons.at(choice.OnEscape));
-    box.exec();
-    const auto pressed = std::find(buttons.begin(), buttons.end(), box.clickedButton());
-    return pressed == buttons.end() ? choice.OnEscape : static_cast<std::size_t>(pressed - buttons.begin());
 }
 
 std::string QtQuestions::InputBox(std::string_view prompt, std::string_view title, std::string_view initial) {
@@ -199,8 +201,8 @@ int QtScreen::HeightInPixels() const {
 float QtScreen::TwipsPerPixel() const {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen == nullptr ? 15
-                             : static_cast<float>(kTwipsPerInch / (screen->logicalDotsPerInchX() *
-                                                                   screen->devicePixelRatio()));
+                             : static_cast<float>(paper::kTwipsPerInch / (screen->logicalDotsPerInchX() *
+                                                                          screen->devicePixelRatio()));
 }
 
 void QtClipboard::Clear() {

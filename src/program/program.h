@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "program/calendar_records.h"
 #include "program/change_records.h"
 #include "program/designer_records.h"
 #include "program/document_records.h"
@@ -33,6 +34,7 @@ struct Program {
     DesignerRecords designer;
     EditingState editing;
     PrintRecords printing;
+    CalendarRecords calendar;
     MainWindow main;
     WindowCollection windows;
 };

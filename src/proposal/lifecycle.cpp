@@ -18,6 +18,7 @@
 #include "proposal/property_file.h"
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
+#include "proposal/side_files.h"
 
 #include <algorithm>
 #include <array>
@@ -25,15 +26,6 @@
 namespace modProposal {
 
 namespace {
-
-/// Copies a side file of the old name to the new one in the data folder.
-void CopySideFile(Program& program, std::string_view from, std::string_view to) {
-    if (text::EqualNoCase(from, to)) {
-        return;
-    }
-    const std::string folder = modFolders::DataFolder(program);
-    files::Copy(paths::Join(folder, from), paths::Join(folder, to));
-}
 
 /// An empty proposal is none from the backups, and must not be saved among them.
 void LeaveBackup(Program& program) {
@@ -72,9 +64,6 @@ void SaveAsSteps(Program& program) {
         return;
     }
     const DocumentState before = document;
-    const std::string folder = modFolders::DataFolder(program);
-    const bool footnotes = modFile::FileIsThere(folder, before.FootnoteFile);
-    const bool deposits = modFile::FileIsThere(folder, before.DepositFile);
     modNames::SetBaseName(program, name);
     document.FileName = fileName;
     document.FileExists = true;
@@ -97,12 +86,9 @@ void SaveAsSteps(Program& program) {
         program.hooks.AssignPropChanges(program);
     }
     modFile::SavePropertyFile(program);
-    if (footnotes) {
-        CopySideFile(program, before.FootnoteFile, document.FootnoteFile);
-    }
-    if (deposits) {
-        CopySideFile(program, before.DepositFile, document.DepositFile);
-    }
+    modSideFile::FollowSaveAs(program, before);
+    program.main.imgFootNotes.Picture =
+        modFile::FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile) ? 1 : 0;
     modTitles::UpdateEventNameLabels(program);
 }
 
@@ -145,6 +131,10 @@ void AskToSave(Program& program) {
 }
 
 bool MayGoOn(Program& program) {
+    // What lies beside the proposal first: a deposit that is saved there still reaches the proposal's file.
+    if (!modWindows::MayLeave(program, Leaving::Proposal)) {
+        return false;
+    }
     AskToSave(program);
     const bool goOn = !program.document.Cancelled;
     program.document.Cancelled = false;
@@ -241,9 +231,17 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
         if (files::Exists(target)) {
             files::Delete(target);
         }
-        document.ClientCaption = "Proposal for " + document.BaseName;
-        modTitles::UpdateFooters(program);
+        if (!document.TitleGiven) {
+            document.ClientCaption = "Proposal for " + document.BaseName;
+            modTitles::UpdateFooters(program);
+        }
         files::WriteWhole(target, bytes);
+        const std::string layout = document.BaseName + ".hpf";
+        if (modFile::FileIsThere(document.FilePath, layout)) {
+            files::Copy(paths::Join(document.FilePath, layout), paths::Join(folder, layout));
+            program.format.PropertyPath = paths::Join(folder, layout);
+            program.format.PropertySeen = files::LookAt(program.format.PropertyPath);
+        }
         document.FilePath = folder;
         program.main.lblDir.Caption = "Current Folder = " + document.FilePath;
         program.main.imgFootNotes.Picture = modFile::FileIsThere(folder, document.FootnoteFile) ? 1 : 0;

@@ -25,6 +25,10 @@ bool MDIForm_QueryUnload(Program& program) {
     if (program.main.Closing) {
         return true;
     }
+    // The windows beside the proposal first: a deposit that is saved there still reaches the proposal's file.
+    if (!modWindows::MayLeave(program, Leaving::Run)) {
+        return false;
+    }
     if (!modProposal::SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
         return modFormat::MayLeaveFormat(program);
     }

@@ -331,8 +331,9 @@ TEST(SaveAs, AsksForANameAndSavesUnderIt) {
     EXPECT_EQ(run.program.document.TextFileName, "Second.txt");
     EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Second.hef");
     EXPECT_FALSE(run.program.document.SaveAsActive);
-    // A proposal without properties gets an empty file of them.
-    EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"), "");
+    // A proposal without properties of its own keeps the font it was written in.
+    EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"),
+              "UDP.FontName=Times New Roman .FontSize=10 .FontColor=0 .FontItalic=False\r\n");
 }
 
 TEST(SaveAs, WithoutANameNothingIsSaved) {
@@ -430,7 +431,7 @@ TEST(FileNames, EightCharactersAreRefusedWithOneMessage) {
     EXPECT_FALSE(modNames::IllegalFileName(run.program, ""));
 }
 
-TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesIt) {
+TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesNothing) {
     Living run;
     run.folder.Write("Proposals/Jane Roe.hef", "older");
     run.surroundings.questions.Expect("A file with this name (Jane Roe.hef)\r\n"
@@ -441,7 +442,7 @@ TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesIt) {
     const ScriptedQuestions::Box& box = run.surroundings.questions.Shown.back();
     EXPECT_EQ(box.Title, "Duplicate File Name on Record");
     EXPECT_TRUE(box.Text.ends_with("\r\n\r\nwith this one?"));
-    EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe.hef"));
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), "older");
     EXPECT_FALSE(run.program.document.Cancelled);
 }
 
