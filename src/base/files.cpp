@@ -51,7 +51,7 @@ bool IsOfType(const std::string& nativeFolder, const std::string& name, fs::file
 namespace files {
 
 std::optional<std::string> OnDisk(std::string_view path) {
-    return Locate(path);
+    return file_places::Locate(path);
 }
 
 bool Exists(std::string_view path) {
