@@ -10,7 +10,8 @@
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_open.h"
 #include "proposal/reset.h"
 
 namespace modCalendar {
@@ -79,7 +80,7 @@ void OpenProposal(Program& program, const std::string& fileName) {
     const std::optional<modFile::RawProposal> raw = modFile::LoadProposal(program, fileName);
     const bool existed = document.FileExists;
     document.FileExists = true;
-    if (!raw || modMain::StartNewFile(program) == modMain::ResetResult::Refused) {
+    if (!raw || modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         document.FilePath = before;
         document.FileExists = existed;
         return;
@@ -208,7 +209,7 @@ void frmDates::Run(Program& program, std::string_view name) {
 
 void frmDates::mnuFileOpen_Click(Program& program) {
     const std::vector<std::string> chosen = SelectedFiles();
-    if (chosen.size() == 1 && modMain::MayGoOn(program)) {
+    if (chosen.size() == 1 && modProposal::MayGoOn(program)) {
         modCalendar::OpenProposal(program, chosen.front());
     }
 }

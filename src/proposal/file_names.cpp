@@ -7,7 +7,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 
-namespace modMain {
+namespace modNames {
 
 bool IllegalFileName(Program& program, std::string_view name) {
     constexpr std::string_view kIllegal = "/\\:*?<>|";
@@ -47,4 +47,4 @@ void SetBaseName(Program& program, std::string_view baseName) {
     program.document.DepositFile = program.document.BaseName + ".dep";
 }
 
-} // namespace modMain
+} // namespace modNames

@@ -4,9 +4,10 @@
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_save.h"
 
-namespace modMain {
+namespace modClosing {
 
 void mnuFileExit_Click(Program& program) {
     if (MDIForm_QueryUnload(program)) {
@@ -27,7 +28,7 @@ bool MDIForm_QueryUnload(Program& program) {
     if (!modWindows::MayLeave(program, Leaving::Run)) {
         return false;
     }
-    if (!SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
+    if (!modProposal::SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
         return true;
     }
     const Answer answer = program.platform.questions.MsgBox(
@@ -50,4 +51,4 @@ void MDIForm_Unload(Program& program) {
     program.platform.events.Quit();
 }
 
-} // namespace modMain
+} // namespace modClosing

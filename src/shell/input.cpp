@@ -2,10 +2,11 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "editing/area_mouse.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
 #include "editing/selection.h"
-#include "editing/text_areas.h"
+#include "editing/typing.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"

@@ -1,10 +1,12 @@
 #include "shell/wiring.h"
 
+#include "calendar/read_event_dates.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
+#include "editing/leaving.h"
 #include "editing/selection.h"
-#include "editing/text_areas.h"
 #include "editing/text_menu.h"
+#include "editing/typing.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
 
@@ -54,5 +56,6 @@ void Wire(Program& program) {
     hooks.UpdateTextMenu = modBlocks::UpdateTextMenu;
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
     hooks.MoveBlock = modBlocks::MoveBlockByKey;
+    hooks.ReadEventDates = modCalendar::ReadEventDatesAtStart;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
 }

@@ -1,9 +1,9 @@
 #include "base/files.h"
 #include "money/totals.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
-#include "proposal/proposal_file.h"
-#include "proposal/reset.h"
+#include "pages/row_fields.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_save.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
