@@ -16,8 +16,8 @@
 #include "program/program.h"
 #include "proposal/file_names.h"
 #include "proposal/property_file.h"
-#include "proposal/slot_widths.h"
 #include "proposal/side_files.h"
+#include "proposal/slot_widths.h"
 
 #include <algorithm>
 
