@@ -3,6 +3,7 @@
 #include "platform/platform.h"
 #include "program/calendar_records.h"
 #include "program/change_records.h"
+#include "program/designer_records.h"
 #include "program/document_records.h"
 #include "program/editing_records.h"
 #include "program/hooks.h"
@@ -30,6 +31,7 @@ struct Program {
     GuardFlags guards;
     TotalsRecords totals;
     FormatRecords format;
+    DesignerRecords designer;
     EditingState editing;
     PrintRecords printing;
     CalendarRecords calendar;
