@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "program/address_records.h"
 #include "program/calendar_records.h"
 #include "program/change_records.h"
 #include "program/designer_records.h"
@@ -35,6 +36,7 @@ struct Program {
     EditingState editing;
     PrintRecords printing;
     CalendarRecords calendar;
+    AddressRecords addresses;
     MainWindow main;
     WindowCollection windows;
 };
