@@ -1,12 +1,15 @@
 #include "desktop/paper_surface.h"
 
 #include "base/ansi.h"
+#include "base/paths.h"
+#include "base/text.h"
 #include "desktop/convert.h"
 #include "desktop/paper_text.h"
 
 #include <QDateTime>
 #include <QFileInfo>
 #include <QImage>
+#include <QImageReader>
 #include <QPainterPath>
 #include <QPixmapCache>
 
@@ -47,6 +50,8 @@ QImage ReadLogo(const std::string& path, const QSize& scaled) {
     if (QPixmapCache::find(now, &kept)) {
         return kept.toImage();
     }
+    constexpr int kMostMegabytes = 400; // a hundred million points of four bytes
+    QImageReader::setAllocationLimit(kMostMegabytes);
     QImageReader reader(file);
     reader.setDecideFormatFromContent(true);
     // By its header, before a byte of it is unpacked.
@@ -63,6 +68,10 @@ QImage ReadLogo(const std::string& path, const QSize& scaled) {
         return {};
     }
     kept = QPixmap::fromImage(picture);
+    // A logo that does not fit would be unpacked again for every line of the page that is painted.
+    constexpr qsizetype kKilobyte = 1024;
+    const auto needed = static_cast<int>(2 * picture.sizeInBytes() / kKilobyte);
+    QPixmapCache::setCacheLimit(qMax(QPixmapCache::cacheLimit(), needed));
     QPixmapCache::insert(now, kept);
     QPixmapCache::insert(latest, kept);
     return picture;
