@@ -7,7 +7,8 @@
 /// Numbers as text under the rules of en-US, whatever the machine's locale.
 namespace numbers {
 
-/// Blanks around, one sign before or after, digits with commas before the point, a point, an exponent, the
+/// Blanks around, one sign before or after, digits with commas between groups of
+/// three before the point, a point, an exponent, the
 /// currency sign before or after, brackets for a negative. At least one digit. A value that a single cannot
 /// hold is no number.
 [[nodiscard]] bool IsNumeric(std::string_view text, std::string_view currency = "$");

@@ -4,7 +4,7 @@
 #include "base/numbers.h"
 #include "editing/area_contents.h"
 #include "editing/navigation.h"
-#include "money/totals.h"
+#include "money/amounts.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "pages/page_setup.h"
@@ -95,19 +95,13 @@ void FollowSelection(Program& program, PageId page, int row) {
     }
 }
 
-void SetExempt(Program& program, modPages::Mark mark) {
+void SetTax(Program& program, modTotals::Tax tax) {
     const PageId page = program.main.ActivePage;
     const int area = program.editing.CurrentArea;
     if (!geometry::IsAmount(page, area)) {
         return;
     }
-    const auto at = static_cast<std::size_t>(IndexOf(page));
-    const auto index = static_cast<std::size_t>(area);
-    const bool exempt = mark == modPages::Mark::Shown;
-    program.format.PropTextChanges[at][index].TaxExempt = exempt;
-    program.format.PropTextChanges[at][index].Dirty = true;
-    program.format.FormatTextChanges[at][index].TaxExempt = exempt;
-    modPages::SetNoTaxMark(program, page, area, mark);
+    modTotals::SetTax(program, page, area, tax);
     modFields::GiveFocus(program, Description(page, area));
 }
 
@@ -228,10 +222,16 @@ void Box_LostFocus(Program& program, const FieldRef& field) {
     if (program.editing.BlockMode) {
         return;
     }
-    TextArea& box = modFields::Area(program, field);
-    box.BackColor = colors::kRestingRowField;
+    modFields::Area(program, field).BackColor = colors::kRestingRowField;
+    SettleBox(program, field);
+}
+
+void SettleBox(Program& program, const FieldRef& field) {
+    const ScopedFlag refiring(program.editing.RefireMode,
+                              program.editing.RefireMode || program.editing.BlockMode);
     if (field.Kind == FieldKind::txtAmt) {
-        if (const auto price = numbers::ToDouble(box.Text, program.settings.CurrencySymbol)) {
+        if (const auto price =
+                numbers::ToDouble(modFields::Area(program, field).Text, program.settings.CurrencySymbol)) {
             modFields::SetText(program, field, numbers::Format(*price, "###,##0.00"));
         }
     }
@@ -239,11 +239,11 @@ void Box_LostFocus(Program& program, const FieldRef& field) {
 }
 
 void mnuEditTextTaxExempt_Click(Program& program) {
-    SetExempt(program, modPages::Mark::Shown);
+    SetTax(program, modTotals::Tax::Exempt);
 }
 
 void mnuEditTextTaxable_Click(Program& program) {
-    SetExempt(program, modPages::Mark::Hidden);
+    SetTax(program, modTotals::Tax::Taxable);
 }
 
 void CollectQtyBoxes(Program& program) {

@@ -21,6 +21,9 @@ void Box_KeyPress(Program& program, const FieldRef& field, int& keyAscii);
 void Box_GotFocus(Program& program, const FieldRef& field);
 void Box_LostFocus(Program& program, const FieldRef& field);
 
+/// What leaving a box does to its figures: the price under its pattern, and the row's amount.
+void SettleBox(Program& program, const FieldRef& field);
+
 void mnuEditTextTaxExempt_Click(Program& program);
 void mnuEditTextTaxable_Click(Program& program);
 

@@ -1,6 +1,7 @@
 #include "editing/selection.h"
 
 #include "editing/area_contents.h"
+#include "editing/settle_field.h"
 #include "editing/text_areas.h"
 #include "editing/text_menu.h"
 #include "pages/page_geometry.h"
@@ -137,6 +138,7 @@ void Form_MouseMove(Program& program, PageId page, int button, float x, float y)
         }
         FinishMove(program);
         SettleCompletion(program, page);
+        modFigures::SettleFocused(program); // leaving it later is silent while areas are selected
         block.BandDragging = true;
     }
     program.pages[page].shpSelect = {std::min(x, block.BandStartX), std::min(y, block.BandStartY), width,

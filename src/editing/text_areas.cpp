@@ -7,6 +7,7 @@
 #include "editing/double_click.h"
 #include "editing/navigation.h"
 #include "editing/push.h"
+#include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
@@ -46,10 +47,6 @@ bool IsAmountLimit(std::string_view limit) {
 
 bool IsFinal(PageId page) {
     return page == PageId::frmP6;
-}
-
-bool EmptyOrNumeric(const Program& program, std::string_view value) {
-    return text::Trim(value).empty() || numbers::IsNumeric(value, program.settings.CurrencySymbol);
 }
 
 bool Completing(const Program& program, PageId page) {
@@ -106,10 +103,10 @@ void TakeClientName(Program& program) {
 }
 
 void TakeAmount(Program& program, PageId page, int index) {
-    if (!EmptyOrNumeric(program, Area(program, page, index).Text)) {
-        return;
-    }
     static_cast<void>(modTotals::StoreAmount(program, page, index));
+    if (!program.editing.RefireMode) {
+        modTotals::NoteEmptied(program, page, index);
+    }
     program.main.cmdReCalc.BackColor = colors::kOverLimit;
     if (program.editing.RefireMode) {
         modTotals::CalculateMyTotals(program, page);
@@ -142,7 +139,8 @@ void LinePageChange(Program& program, PageId page, int index) {
     // The area's own text and width, but the limit is whatever the innermost change left.
     TextArea& area = Area(program, page, index);
     if (modPages::MeasureTextWidth(program, page, area.Text) >= area.Width ||
-        static_cast<double>(area.Text.size()) > numbers::Val(editing.CurrentLimit)) {
+        static_cast<double>(area.Text.size()) > numbers::Val(editing.CurrentLimit) ||
+        modTotals::IsNoNumber(program, area)) {
         area.BackColor = colors::kOverLimit;
     }
 }
@@ -158,6 +156,13 @@ void ColourArea(Program& program, PageId page, TextArea& area) {
     }
     const Color within = IsFinal(page) ? colors::kResting : colors::kFocused;
     area.BackColor = OverLimit(program, page, area) ? colors::kOverLimit : within;
+}
+
+/// What counts as nothing stands red wherever the person is.
+void ShowNoNumber(const Program& program, TextArea& area) {
+    if (modTotals::IsNoNumber(program, area)) {
+        area.BackColor = colors::kOverLimit;
+    }
 }
 
 void ShowCursor(Program& program) {
@@ -265,24 +270,12 @@ void ShowAreaNumber(Program& program, PageId page, int index) {
         "Page " + std::to_string(IndexOf(page) + 1) + ", Text Area " + std::to_string(index + 1);
 }
 
-void LeaveAmount(Program& program, PageId page, int index) {
-    const std::string value = Area(program, page, index).Text;
-    if (!EmptyOrNumeric(program, value)) {
-        return;
-    }
-    static_cast<void>(modTotals::StoreAmount(program, page, index));
-    if (const auto number = numbers::ToDouble(value, program.settings.CurrencySymbol)) {
-        modFields::SetText(program, Field(page, index), numbers::Format(*number, "###,##0.00"));
-    }
-    modTotals::CalculateMyTotals(program, page);
-    modTotals::UpdateRunningTotals(program);
-}
-
 } // namespace
 
 bool OverLimit(const Program& program, PageId page, const TextArea& area) {
     return modPages::MeasureTextWidth(program, page, area.Text) >= area.Width ||
-           static_cast<double>(area.Text.size()) > numbers::Val(LimitText(area));
+           static_cast<double>(area.Text.size()) > numbers::Val(LimitText(area)) ||
+           modTotals::IsNoNumber(program, area);
 }
 
 void txt_Change(Program& program, PageId page, int index) {
@@ -401,7 +394,8 @@ void txt_LostFocus(Program& program, PageId page, int index) {
         Area(program, page, index).BackColor = colors::kResting;
     }
     if (IsAmountLimit(LimitText(area))) {
-        LeaveAmount(program, page, index);
+        modTotals::LeaveAmount(program, page, index);
+        ShowNoNumber(program, area);
     }
     if (page == PageId::frmP1) {
         CheckDate(program, index);

@@ -29,7 +29,7 @@ void txt_DblClick(Program& program, PageId page, int index);
 void RefireTextChanges(Program& program, PageId page);
 /// Red for every area of a page over a limit, grey for the rest; blue areas stay.
 void ResetMyTextBoxColors(Program& program, PageId page);
-/// Whether a text is over its area's width or character limit.
+/// Whether a text stands red: over its area's width or character limit, or an amount that is no number.
 [[nodiscard]] bool OverLimit(const Program& program, PageId page, const TextArea& area);
 
 } // namespace modText

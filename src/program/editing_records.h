@@ -87,6 +87,8 @@ struct EditingState {
     int SavedSelStart = 0;      ///< text selection remembered for the case commands
     int SavedSelLength = 0;
     BlockState Block;
+    /// The amount whose text the person has taken away and not left yet: another may be typed in its place.
+    std::optional<FieldRef> EmptiedAmount;
     /// A suggested completion stands selected in the area; per page frmP1 to frmP5.
     std::array<bool, kLinePageCount> ACActive{};
 };

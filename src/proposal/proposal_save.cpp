@@ -26,15 +26,12 @@ void GoToClientName(Program& program) {
 }
 
 void CompareTotals(Program& program) {
-    if (program.document.BackingUp) {
-        // A backup comes in the middle of typing: an amount that is not left yet is no discrepancy to tell
-        // of.
-        for (const PageId page : kLinePages) {
-            modTotals::CalculateMyTotals(program, page);
-        }
+    // A backup comes in the middle of typing and leaves the text under the cursor as it stands.
+    if (program.hooks.TakeFreshFigures && !program.document.BackingUp) {
+        program.hooks.TakeFreshFigures(program);
+    } else {
+        modTotals::SumAgain(program);
     }
-    modTotals::RecalculateAll(program);
-    modTotals::UpdateRunningTotals(program);
     if (modTotals::TotalsDiffer(program)) {
         program.main.cmdReCalc.BackColor = colors::kOverLimit;
         program.platform.questions.MsgBox(modTotals::DiscrepancyMessage(), Buttons::Ok, "");

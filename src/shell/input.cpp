@@ -6,7 +6,7 @@
 #include "editing/columns.h"
 #include "editing/selection.h"
 #include "editing/text_areas.h"
-#include "money/totals.h"
+#include "money/amounts.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"

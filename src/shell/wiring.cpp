@@ -2,6 +2,7 @@
 
 #include "editing/block_moves.h"
 #include "editing/columns.h"
+#include "editing/fresh_figures.h"
 #include "editing/selection.h"
 #include "editing/text_areas.h"
 #include "editing/text_menu.h"
@@ -54,5 +55,6 @@ void Wire(Program& program) {
     hooks.UpdateTextMenu = modBlocks::UpdateTextMenu;
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
     hooks.MoveBlock = modBlocks::MoveBlockByKey;
+    hooks.TakeFreshFigures = modFigures::TakeFresh;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
 }

@@ -83,17 +83,23 @@ TEST(ChangePipeline, ATypedAmountFillsTheTablesAndTurnsTheButtonRed) {
     EXPECT_FALSE(run.Label(kSecond, 8).Visible);
 }
 
-TEST(ChangePipeline, TextThatIsNoNumberChangesNoTable) {
-    for (const char* text : {"-", ",", ".", "1e39", "1-2"}) {
+TEST(ChangePipeline, TextThatIsNoNumberCountsAsNothing) {
+    for (const char* text : {"-", ",", ".", "1e39", "1-2", "12,50", "1.250,00", "1,2,3"}) {
         RunningProgram run;
         run.program.totals.AmountTable[20][0] = 7;
         run.Area(kFirst, 20).Text = "7";
         PutText(run, kFirst, 20, text);
-        EXPECT_EQ(run.program.totals.AmountTable[20][0], 7.0F) << text;
+        EXPECT_EQ(run.program.totals.AmountTable[20][0], 0) << text;
+        EXPECT_EQ(run.TextOf(kFirst, 20), text);
+        EXPECT_FALSE(run.Label(kFirst, 21).Visible);
+        EXPECT_EQ(run.Area(kFirst, 20).BackColor, colors::kOverLimit);
+        EXPECT_EQ(run.Area(kFirst, 20).ToolTipText, "This is not a number and counts as nothing.");
+        PutText(run, kFirst, 20, "8");
+        EXPECT_EQ(run.Area(kFirst, 20).ToolTipText, "");
     }
     RunningProgram run;
-    PutText(run, kFirst, 20, "1,2,3");
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 123.0F);
+    PutText(run, kFirst, 20, "1,234");
+    EXPECT_EQ(run.program.totals.AmountTable[20][0], 1234.0F);
     PutText(run, kFirst, 20, "1e-50");
     EXPECT_EQ(run.program.totals.AmountTable[20][0], 0.0F);
 }
@@ -638,7 +644,7 @@ TEST(Columns, AQuantityAloneCountsAsUnsaved) {
     EXPECT_NE(run.program.document.CurrentTextBuf[1][0], run.program.document.SavedTextBuf[1][0]);
 }
 
-TEST(TaxMarks, SetByTheMenuLeaveTheTotalToTheLeaving) {
+TEST(TaxMarks, SetByTheMenuChangeTheTotalAtOnce) {
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kSecond, 33);
@@ -651,12 +657,12 @@ TEST(TaxMarks, SetByTheMenuLeaveTheTotalToTheLeaving) {
     EXPECT_TRUE(run.program.pages[kSecond].imgNoTax[33].Visible);
     EXPECT_EQ(run.program.pages[kSecond].imgNoTax[33].Tag, "");
     EXPECT_TRUE(run.program.format.FormatTextChanges[1][33].TaxExempt);
-    EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "0.00");
+    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
     typist.Click(kSecond, 34);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "0.00");
     typist.Click(kSecond, 33);
     modColumns::mnuEditTextTaxable_Click(run.program);
-    typist.Click(kSecond, 34);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
     typist.Click(kSecond, 0);
     run.program.hooks.UpdateTextMenu(run.program);

@@ -30,6 +30,24 @@ std::string Trimmed(std::string_view text) {
     return std::string(text.substr(from, text.find_last_not_of(' ') - from + 1));
 }
 
+/// Between commas stand three digits, before the first one to three.
+bool GroupedByThree(std::string_view whole) {
+    std::size_t comma = whole.find(',');
+    if (comma == std::string_view::npos) {
+        return true;
+    }
+    if (comma < 1 || comma > 3) {
+        return false;
+    }
+    for (; comma < whole.size(); comma += 4) {
+        if (whole[comma] != ',' || whole.substr(comma + 1, 3).find(',') != std::string_view::npos ||
+            whole.size() < comma + 4) {
+            return false;
+        }
+    }
+    return true;
+}
+
 /// The number a text stands for, nothing when it is none or greater than a single holds.
 std::optional<double> Number(std::string_view whole) {
     std::string text = Trimmed(whole);
@@ -83,7 +101,7 @@ std::optional<double> Number(std::string_view whole) {
             break;
         }
     }
-    if (!digits) {
+    if (!digits || !GroupedByThree(text.substr(0, text.find_first_not_of("0123456789,")))) {
         return std::nullopt;
     }
     if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
@@ -251,7 +269,8 @@ ReferenceFlow::Field& ReferenceFlow::At(const FieldRef& field) {
 }
 
 bool ReferenceFlow::Over(const Field& field, int limit) const {
-    return measure_.Width(field.Text, {}) >= field.Width || Len(field.Text) > limit;
+    const bool noNumber = (field.Kind == "Amou" || field.Kind == "Depo") && !EmptyOrNumber(field.Text);
+    return measure_.Width(field.Text, {}) >= field.Width || Len(field.Text) > limit || noNumber;
 }
 
 bool ReferenceFlow::HasBoxes(const FieldRef& field) const {
@@ -448,9 +467,13 @@ void ReferenceFlow::MakeExempt(const FieldRef& target) {
     CurrentArea = target.Index;
     // The area is shut while the menu opens and so is left; the command gives it the focus back.
     LostFocus(target);
-    Sheets[static_cast<std::size_t>(IndexOf(target.Page))]
-        .Rows[static_cast<std::size_t>(target.Index)]
-        .Exempt = true;
+    Row& row =
+        Sheets[static_cast<std::size_t>(IndexOf(target.Page))].Rows[static_cast<std::size_t>(target.Index)];
+    row.Exempt = true;
+    row.Taxable = 0;
+    SumPage(target.Page);
+    RunningTotals();
+    Stale = true;
     GotFocus(target);
 }
 
@@ -571,7 +594,9 @@ bool ReferenceFlow::KeyPress(char character) {
         return false;
     }
     if (IsFinal(field) && field.Index == 4 && (character == 13 || character == 9)) {
-        Assign(field, Money(Deposit, Zero::Written));
+        if (EmptyOrNumber(area.Text)) {
+            Assign(field, Money(Deposit, Zero::Written));
+        }
         RunningTotals();
         return false;
     }
@@ -666,8 +691,11 @@ void ReferenceFlow::LineChanged(PageId page, int index) {
         row.PropText = field.Text;
     }
     currentWidth_ = field.Width;
-    if (currentLimit_ == "020" && EmptyOrNumber(field.Text)) {
+    if (currentLimit_ == "020") {
         TakeAmount(page, index);
+        if (!refire_) {
+            row.Emptied = Trimmed(field.Text).empty() && Focus == ref;
+        }
         Stale = true;
         if (refire_) {
             SumPage(page);
@@ -687,7 +715,7 @@ void ReferenceFlow::LineChanged(PageId page, int index) {
 void ReferenceFlow::TakeAmount(PageId page, int index) {
     Row& row = Sheets[static_cast<std::size_t>(IndexOf(page))].Rows[static_cast<std::size_t>(index)];
     const std::string& text = At(Txt(page, index)).Text;
-    if (Trimmed(text).empty()) {
+    if (!Number(text)) {
         row.Amount = 0;
         row.Taxable = 0;
         row.Sign = false;
@@ -870,14 +898,19 @@ void ReferenceFlow::LostFocus(const FieldRef& ref) {
     LastArea = ref.Index;
     if (IsFinal(ref)) {
         if (Deposit + SubTotal + SalesTax + TaxableTotal != 0) {
-            Assign(Txt(PageId::frmP6, 4), Money(Deposit, Zero::Written));
+            if (EmptyOrNumber(At(Txt(PageId::frmP6, 4)).Text)) {
+                Assign(Txt(PageId::frmP6, 4), Money(Deposit, Zero::Written));
+            }
             RunningTotals();
         }
         return;
     }
     field.Back = kGrey;
-    if (field.Limit == "020" && EmptyOrNumber(field.Text)) {
+    if (field.Limit == "020") {
         LeaveAmount(ref.Page, ref.Index);
+        if (!EmptyOrNumber(field.Text)) {
+            field.Back = kRed;
+        }
     }
     if (ref == Txt(PageId::frmP1, 0) && !field.Text.empty() && !warned_ &&
         !dates::IsDate(field.Text, thisYear_)) {
@@ -891,6 +924,11 @@ void ReferenceFlow::LeaveAmount(PageId page, int index) {
     TakeAmount(page, index);
     if (const std::optional<double> value = Number(At(ref).Text)) {
         Assign(ref, Money(*value, Zero::Written));
+    }
+    Row& row = Sheets[static_cast<std::size_t>(IndexOf(page))].Rows[static_cast<std::size_t>(index)];
+    if (row.Emptied) {
+        row.Exempt = false;
+        row.Emptied = false;
     }
     SumPage(page);
     RunningTotals();
@@ -937,7 +975,7 @@ void ReferenceFlow::FinalChanged(int index) {
     Sheets[5].Rows[static_cast<std::size_t>(index)].Store = field.Text;
     field.Back = Over(field, std::stoi(field.Limit)) ? kRed : kGrey;
     if (running_ || (field.Kind != "Depo" && field.Kind != "AllT" && field.Kind != "Tax.") ||
-        !EmptyOrNumber(field.Text)) {
+        (field.Kind != "Depo" && !EmptyOrNumber(field.Text))) {
         return;
     }
     const float value = static_cast<float>(Number(field.Text).value_or(0));

@@ -37,6 +37,7 @@ public:
         float Taxable = 0;
         bool Sign = false; ///< the currency mark beside an amount shows
         bool Exempt = false;
+        bool Emptied = false; ///< by the person who is still there
     };
     struct Sheet {
         std::vector<Field> txt;
