@@ -237,6 +237,10 @@ Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int
     if (completing && Area(program, page, index).SelLength == 0) {
         completing = false;
     }
+    if (!completing && keyCode == keys::kTab && shift == keys::kShiftState) {
+        modNavigate::MoveBack(program, Field(page, index));
+        return Taken::Yes;
+    }
     if (!completing && (keyCode == keys::kEnter || keyCode == keys::kTab)) {
         modNavigate::Move(program, page, index, modNavigate::Step::Enter);
         return Taken::Yes;
@@ -298,6 +302,10 @@ Taken txt_KeyDown(Program& program, PageId page, int index, int keyCode, int shi
     if (IsFinal(page)) {
         if (IsPaste(keyCode, shift)) {
             PasteNumber(program, page, index);
+            return Taken::Yes;
+        }
+        if (keyCode == keys::kTab && shift == keys::kShiftState) {
+            modNavigate::MoveBack(program, Field(page, index));
             return Taken::Yes;
         }
         return Taken::No;

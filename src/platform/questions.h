@@ -3,7 +3,13 @@
 #include <string>
 #include <string_view>
 
-enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
+enum class Buttons {
+    Ok,
+    OkCancel,
+    YesNo,
+    YesNoCancel,
+    SaveAnywayCancel ///< "Save Anyway" answers Yes; "Cancel" is what Return and Escape press
+};
 enum class Answer { Ok, Cancel, Yes, No };
 
 /// Message and input boxes. Both wait for the person; texts hold CR LF between their lines.

@@ -38,6 +38,8 @@ struct BlockState {
     bool AtTop = false;
     bool AtBottom = false;
 
+    int KeyAnchor = -1; ///< the row from which a selection by key grows; -1 is none
+
     float BandStartX = 0; ///< twips on the page
     float BandStartY = 0;
     float BandEndX = 0;

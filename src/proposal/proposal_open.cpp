@@ -70,23 +70,31 @@ void TakeAmount(Program& program, PageId page, int index) {
     if (text::Trim(current).empty()) {
         return;
     }
-    const bool marked = current.front() == proposal::kExemptMark;
+    TextArea& area = program.pages[page].txt[at];
+    bool marked = current.front() == proposal::kExemptMark;
     if (marked) {
         current.erase(0, 1);
+        const std::string bare(text::Trim(current));
+        program.document.SavedTextBuf[pageAt][at] = current;
+        area.Text = bare;
+        marked = !bare.empty();
+        if (!marked) {
+            current.clear();
+            program.document.SavedTextBuf[pageAt][at].clear();
+            return;
+        }
+        program.format.PropTextChanges[pageAt][at].TaxExempt = true;
+        modPages::SetNoTaxMark(program, page, index, modPages::Mark::Shown);
     }
-    const std::string_view trimmed = text::Trim(current);
-    const std::optional<float> value = numbers::ToSingle(trimmed, program.settings.CurrencySymbol);
+    const std::optional<float> value =
+        numbers::ToSingle(text::Trim(current), program.settings.CurrencySymbol);
     if (!value) {
+        modTotals::TellNoNumber(program, area);
+        area.BackColor = colors::kOverLimit;
         return;
     }
     program.totals.AmountTable[at][pageAt] = *value;
     program.totals.TaxableTable[at][pageAt] = marked ? 0 : *value;
-    if (marked) {
-        program.format.PropTextChanges[pageAt][at].TaxExempt = true;
-        program.document.SavedTextBuf[pageAt][at] = current;
-        program.pages[page].txt[at].Text = trimmed;
-        modPages::SetNoTaxMark(program, page, index, modPages::Mark::Shown);
-    }
     modPages::SetCurrencySign(program, page, index, modPages::Mark::Shown);
 }
 

@@ -10,6 +10,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "proposal/file_names.h"
+#include "proposal/long_texts.h"
 #include "proposal/proposal_file.h"
 
 namespace modFile {
@@ -103,8 +104,10 @@ std::string MakeBytes(const Program& program) {
         const auto& texts = program.document.CurrentTextBuf[page];
         fields[page].reserve(texts.size());
         for (std::size_t index = 0; index < texts.size(); ++index) {
-            const bool marked =
-                page < kLinePageCount && program.format.PropTextChanges[page][index].TaxExempt;
+            // A mark beside nothing says nothing and would come back as a text.
+            const bool marked = page < kLinePageCount &&
+                                program.format.PropTextChanges[page][index].TaxExempt &&
+                                !text::Trim(texts[index]).empty();
             fields[page].push_back({texts[index], marked});
         }
     }
@@ -130,6 +133,9 @@ void SavingSteps(Program& program, SaveResult& result) {
     }
     if (program.hooks.CollectQtyBoxes) {
         program.hooks.CollectQtyBoxes(program);
+    }
+    if (!document.BackingUp && !MayCutLongTexts(program)) {
+        return;
     }
     // Should a write fail, the properties still count as unsaved.
     const bool properties = PropertiesChanged(program);

@@ -66,8 +66,12 @@ void RequestNetworkSharePath(Program& program);
 /// Reads the tax rate; a rate of zero asks whether to change it. Reports as "GetTaxRate".
 void GetTaxRate(Program& program);
 
-/// Writes the five characters and tells the new rate. Reports as "SaveTaxRate".
+/// Writes the five characters, takes the figures of the open proposal fresh and tells the new rate. Reports
+/// as "SaveTaxRate".
 void SaveTaxRate(Program& program, std::string_view rateText);
+
+/// What is said of a text in a number box that is no number.
+[[nodiscard]] std::string NoNumberMessage(std::string_view typed);
 
 inline constexpr float kTwipsPerInch = 1440;
 /// An offset as typed or read, in inches, and back as plain text. What is no number counts as 0.

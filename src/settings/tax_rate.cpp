@@ -1,6 +1,7 @@
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/paths.h"
+#include "base/text.h"
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/windows.h"
@@ -56,15 +57,18 @@ void SaveTaxRate(Program& program, std::string_view rateText) {
             files::Delete(path);
         }
         files::WriteWhole(path, five);
-        Questions& questions = program.platform.questions;
-        questions.MsgBox("New Sales Tax Rate is " + numbers::FormatSingle(program.totals.TaxRate, "##.00") +
-                             " %",
-                         Buttons::Ok, "");
-        if (program.totals.TaxRate != 0 && program.totals.HasAmounts()) {
-            program.main.cmdReCalc.BackColor = colors::kOverLimit;
-            questions.MsgBox("Please click Recalculate to update the totals.", Buttons::Ok, "");
+        if (program.totals.HasAmounts() && program.hooks.TakeFreshFigures) {
+            program.hooks.TakeFreshFigures(program);
         }
+        program.platform.questions.MsgBox("New Sales Tax Rate is " +
+                                              numbers::FormatSingle(program.totals.TaxRate, "##.00") + " %",
+                                          Buttons::Ok, "");
     });
+}
+
+std::string NoNumberMessage(std::string_view typed) {
+    return text::Lines({std::string(typed) + " is not a number and was not taken.",
+                        "Please type a point before decimals, as in 1.5."});
 }
 
 float TwipsOf(std::string_view inches) {
