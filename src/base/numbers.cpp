@@ -479,6 +479,11 @@ float ValSingle(std::string_view text) {
                : 0;
 }
 
+std::string NoNumberMessage(std::string_view typed) {
+    return text::Lines({std::string(typed) + " is not a number and was not taken.",
+                        "Please type a point before decimals, as in 1.5."});
+}
+
 std::string Format(double value, std::string_view pattern) {
     return Show(Shortest(value), pattern);
 }

@@ -21,6 +21,9 @@ namespace numbers {
 /// The same as a single; 0 for a number that a single cannot hold.
 [[nodiscard]] float ValSingle(std::string_view text);
 
+/// What a person is told of a text in a number box that is no number.
+[[nodiscard]] std::string NoNumberMessage(std::string_view typed);
+
 /// A number under a pattern of #, 0, comma, point and literal characters. Rounds half away from zero on the
 /// shortest decimal text that gives the number back. A value that shows as zero carries no minus sign.
 [[nodiscard]] std::string Format(double value, std::string_view pattern);

@@ -400,8 +400,8 @@ void FrmMainView::FollowPages() {
 }
 
 void FrmMainView::closeEvent(QCloseEvent* event) {
-    if (modMain::MDIForm_QueryUnload(program_)) {
-        modMain::MDIForm_Unload(program_);
+    if (modClosing::MDIForm_QueryUnload(program_)) {
+        modClosing::MDIForm_Unload(program_);
         event->accept();
     } else {
         event->ignore();

@@ -23,7 +23,7 @@ int Run() {
     surroundings.questions.Over = &window;
     surroundings.questions.BeforeAsking = [&] { window.Follow(); };
     surroundings.events.Follow = [&] { window.Follow(); };
-    if (modMain::Main(program) != modMain::StartResult::Running) {
+    if (modStart::Main(program) != modStart::StartResult::Running) {
         return 0;
     }
     window.AfterEvent(); // a click may have come while the splash was still busy

@@ -8,7 +8,8 @@
 #include "money/amounts.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "program/errors.h"
 #include "program/program.h"
 
@@ -69,20 +70,13 @@ void TakeProduct(Program& program, PageId page, int row) {
                        numbers::Format(product, "###,###.00"));
 }
 
-bool HoldsPlaceholder(const FieldRef& field, std::string_view value) {
-    return value == (field.Kind == FieldKind::txtQty ? kQuantityPlaceholder : kPricePlaceholder);
-}
-
-/// A figure that is none leaves the amount as it was; the person must see it.
-bool IsNoNumber(const Program& program, const FieldRef& field, const TextArea& box) {
-    const std::string_view value = text::Trim(box.Text);
-    return !value.empty() && !HoldsPlaceholder(field, value) &&
-           !numbers::IsNumeric(value, program.settings.CurrencySymbol);
+bool HoldsPlaceholder(FieldKind kind, std::string_view value) {
+    return value == (kind == FieldKind::txtQty ? kQuantityPlaceholder : kPricePlaceholder);
 }
 
 void TellNoNumber(Program& program, const FieldRef& field) {
     TextArea& box = modFields::Area(program, field);
-    if (IsNoNumber(program, field, box)) {
+    if (IsNoNumber(program, field.Kind, box)) {
         box.BackColor = colors::kOverLimit;
         box.ToolTipText = kNoNumberTip;
     } else if (box.ToolTipText == kNoNumberTip) {
@@ -169,6 +163,12 @@ void ToggleColumns(Program& program) {
     }
 }
 
+bool IsNoNumber(const Program& program, FieldKind kind, const TextArea& box) {
+    const std::string_view value = text::Trim(box.Text);
+    return box.Visible && !value.empty() && !HoldsPlaceholder(kind, value) &&
+           !numbers::IsNumeric(value, program.settings.CurrencySymbol);
+}
+
 void txtQty_Change(Program& program, PageId page, int row) {
     BoxChange(program, Quantity(page, row));
 }
@@ -217,7 +217,7 @@ Taken Box_KeyDown(Program& program, const FieldRef& field, int keyCode, int shif
 }
 
 void ClearPlaceholder(Program& program, const FieldRef& field) {
-    if (HoldsPlaceholder(field, modFields::Area(program, field).Text)) {
+    if (HoldsPlaceholder(field.Kind, modFields::Area(program, field).Text)) {
         modFields::SetText(program, field, "");
     }
 }

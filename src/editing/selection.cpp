@@ -2,10 +2,9 @@
 
 #include "editing/area_contents.h"
 #include "editing/settle_field.h"
-#include "editing/text_areas.h"
 #include "editing/text_menu.h"
+#include "editing/typing.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
 #include "program/errors.h"
 #include "program/program.h"
 
@@ -100,6 +99,12 @@ void TakeRuns(Program& program) {
         CopyBlockToMemory(program);
     }
     UpdateTextMenu(program);
+}
+
+void RefuseAmountsAlone(Program& program) {
+    program.platform.questions.MsgBox("Cannot select Amount Areas only. Please copy Description Areas also.",
+                                      Buttons::Ok, "");
+    DeSelectAllControls(program);
 }
 
 } // namespace
@@ -234,9 +239,7 @@ Selection ReadSelectionRuns(Program& program) {
     const bool left = ReadRun(program, page, rows, 0);
     block.HasRightRun = ReadRun(program, page, {rows.Last + 1, geometry::LastText(page)}, 1);
     if (!left && block.HasRightRun) {
-        program.platform.questions.MsgBox(
-            "Cannot select Amount Areas only. Please copy Description Areas also.", Buttons::Ok, "");
-        DeSelectAllControls(program);
+        RefuseAmountsAlone(program);
         return Selection::Refused;
     }
     if (!left) {

@@ -84,4 +84,8 @@ void mnuEditTextSelUCase_Click(Program& program) {
     ConvertSelection(program, text::Upper);
 }
 
+void mnuEditTextCenter_Click(Program& program) {
+    program.platform.questions.MsgBox("ok", Buttons::Ok, "");
+}
+
 } // namespace modText

@@ -6,7 +6,7 @@
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
 #include "program/program.h"
 
 #include <optional>
@@ -114,6 +114,10 @@ void MatchTables(Program& program) {
             if (program.totals.AmountTable[At(index)][at] != amount ||
                 program.totals.TaxableTable[At(index)][at] != taxable) {
                 static_cast<void>(StoreAmount(program, page, index));
+                TextArea& area = program.pages[page].txt[At(index)];
+                if (IsNoNumber(program, area) && area.BackColor != colors::kBlockSelected) {
+                    area.BackColor = colors::kOverLimit;
+                }
             }
         }
     }

@@ -8,7 +8,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 
-namespace modMain {
+namespace modNames {
 
 namespace {
 
@@ -66,4 +66,4 @@ void SetBaseName(Program& program, std::string_view baseName) {
     program.document.DepositFile = program.document.BaseName + ".dep";
 }
 
-} // namespace modMain
+} // namespace modNames

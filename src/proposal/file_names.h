@@ -6,7 +6,7 @@
 struct Program;
 
 /// Names of proposals: what they may hold, where they lie, and what happens when one is taken.
-namespace modMain {
+namespace modNames {
 
 /// True, with a message, when the name holds one of / \ : * ? < > | or is too long for a file's name.
 [[nodiscard]] bool IllegalFileName(Program& program, std::string_view name);
@@ -18,4 +18,4 @@ void ShowDuplicateFileOptions(Program& program, std::string_view name);
 /// The side files' names after a new file name.
 void SetBaseName(Program& program, std::string_view baseName);
 
-} // namespace modMain
+} // namespace modNames

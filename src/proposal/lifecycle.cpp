@@ -7,21 +7,22 @@
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
 #include "pages/titles.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "proposal/delete_files.h"
 #include "proposal/file_names.h"
 #include "proposal/frm_file.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_save.h"
 #include "proposal/reset.h"
 
 #include <algorithm>
 #include <array>
 
-namespace modMain {
+namespace modProposal {
 
 namespace {
 
@@ -56,7 +57,7 @@ void SaveAsSteps(Program& program) {
         return;
     }
     const ScopedFlag active(document.SaveAsActive);
-    if (IllegalFileName(program, name)) {
+    if (modNames::IllegalFileName(program, name)) {
         return;
     }
     const std::string fileName = name + ".hef";
@@ -74,12 +75,12 @@ void SaveAsSteps(Program& program) {
     const std::string folder = modFolders::DataFolder(program);
     const bool footnotes = modFile::FileIsThere(folder, before.FootnoteFile);
     const bool deposits = modFile::FileIsThere(folder, before.DepositFile);
-    SetBaseName(program, name);
+    modNames::SetBaseName(program, name);
     document.FileName = fileName;
     document.FileExists = true;
     if (modFile::SaveEventFile(program) == modFile::SaveResult::NotSaved) {
         // The proposal keeps the name under which it is on the disk.
-        SetBaseName(program, before.BaseName);
+        modNames::SetBaseName(program, before.BaseName);
         document.FootnoteFile = before.FootnoteFile;
         document.DepositFile = before.DepositFile;
         document.FileName = before.FileName;
@@ -93,7 +94,7 @@ void SaveAsSteps(Program& program) {
     if (deposits) {
         CopySideFile(program, before.DepositFile, document.DepositFile);
     }
-    UpdateEventNameLabels(program);
+    modTitles::UpdateEventNameLabels(program);
 }
 
 } // namespace
@@ -149,12 +150,12 @@ void mnuFileNew_Click(Program& program) {
     DocumentState& document = program.document;
     document.DocumentKind = "Event";
     const bool format = !program.settings.DefaultFormatPath.empty() && program.settings.LoadDefaultFormat;
-    if (StartNewFile(program) == ResetResult::Refused) {
+    if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         return;
     }
     LeaveBackup(program);
     if (!format) {
-        SetPageHeading(program, "Contract Proposal");
+        modTitles::SetPageHeading(program, "Contract Proposal");
         Page& page = program.pages[PageId::frmP1];
         page.lbl[9].Caption = "Event Date";
         page.lbl[10].Caption = "Event Time";
@@ -202,13 +203,13 @@ void mnuFileDelete_Click(Program& program) {
         return;
     }
     try {
-        DeleteProposalFiles(document.FilePath, document.FileName);
+        modFile::DeleteProposalFiles(document.FilePath, document.FileName);
     } catch (const std::exception& error) {
         questions.MsgBox("An Error occurred trying to delete the file.", Buttons::Ok, "");
         ReportError(program, "mnuFileDelete_Click", error);
         return;
     }
-    if (StartNewFile(program) == ResetResult::Done) {
+    if (modReset::StartNewFile(program) == modReset::ResetResult::Done) {
         LeaveBackup(program);
     }
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
@@ -224,7 +225,7 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
             files::Delete(target);
         }
         document.ClientCaption = "Proposal for " + document.BaseName;
-        UpdateFooters(program);
+        modTitles::UpdateFooters(program);
         files::WriteWhole(target, bytes);
         document.FilePath = folder;
         program.main.lblDir.Caption = "Current Folder = " + document.FilePath;
@@ -234,4 +235,4 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
     });
 }
 
-} // namespace modMain
+} // namespace modProposal

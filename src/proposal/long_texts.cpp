@@ -2,7 +2,7 @@
 
 #include "base/text.h"
 #include "program/program.h"
-#include "proposal/proposal_file.h"
+#include "proposal/slot_widths.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,3 +1,5 @@
+#include "proposal/proposal_open.h"
+
 #include "base/files.h"
 #include "base/guard.h"
 #include "base/numbers.h"
@@ -5,14 +7,16 @@
 #include "base/text.h"
 #include "money/totals.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
 #include "pages/quantity_row.h"
+#include "pages/row_fields.h"
 #include "pages/titles.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
 #include "proposal/file_names.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/slot_widths.h"
 
 #include <algorithm>
 
@@ -71,27 +75,29 @@ void TakeAmount(Program& program, PageId page, int index) {
         return;
     }
     TextArea& area = program.pages[page].txt[at];
-    bool marked = current.front() == proposal::kExemptMark;
+    const bool marked = current.front() == proposal::kExemptMark;
     if (marked) {
         current.erase(0, 1);
-        const std::string bare(text::Trim(current));
-        program.document.SavedTextBuf[pageAt][at] = current;
-        area.Text = bare;
-        marked = !bare.empty();
-        if (!marked) {
-            current.clear();
-            program.document.SavedTextBuf[pageAt][at].clear();
-            return;
-        }
-        program.format.PropTextChanges[pageAt][at].TaxExempt = true;
-        modPages::SetNoTaxMark(program, page, index, modPages::Mark::Shown);
     }
-    const std::optional<float> value =
-        numbers::ToSingle(text::Trim(current), program.settings.CurrencySymbol);
+    const std::string bare(text::Trim(current));
+    if (bare.empty()) {
+        // A mark beside nothing: an empty amount.
+        current.clear();
+        program.document.SavedTextBuf[pageAt][at].clear();
+        area.Text.clear();
+        return;
+    }
+    const std::optional<float> value = numbers::ToSingle(bare, program.settings.CurrencySymbol);
     if (!value) {
         modTotals::TellNoNumber(program, area);
         area.BackColor = colors::kOverLimit;
         return;
+    }
+    if (marked) {
+        program.format.PropTextChanges[pageAt][at].TaxExempt = true;
+        program.document.SavedTextBuf[pageAt][at] = current;
+        area.Text = bare;
+        modPages::SetNoTaxMark(program, page, index, modPages::Mark::Shown);
     }
     program.totals.AmountTable[at][pageAt] = *value;
     program.totals.TaxableTable[at][pageAt] = marked ? 0 : *value;
@@ -122,7 +128,7 @@ void TakeKind(Program& program) {
         program.run.FUTFileName = wedding ? "Wedding Terms.fut" : "Default Terms.fut";
     }
     if (program.settings.PageTitles.empty()) {
-        modMain::SetPageHeading(program, wedding ? "Wedding Proposal" : "Event Proposal");
+        modTitles::SetPageHeading(program, wedding ? "Wedding Proposal" : "Event Proposal");
     }
 }
 
@@ -171,7 +177,7 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
         program.main[CommandId::mnuFileDelete].Enabled = true;
         modTotals::TotalsAfterReading(program);
     }
-    modMain::SetBaseName(program, paths::BaseOf(fileName));
+    modNames::SetBaseName(program, paths::BaseOf(fileName));
     document.ClientCaption = "Proposal for " + document.BaseName;
     TakeKind(program);
     program.main.imgFootNotes.Picture =
@@ -180,7 +186,7 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
         program.hooks.ReadFrequentlyUsedTerms(program);
     }
     SettleLogo(program);
-    modMain::UpdateEventNameLabels(program);
+    modTitles::UpdateEventNameLabels(program);
     if (program.hooks.UpdatePageButtons) {
         program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
     }

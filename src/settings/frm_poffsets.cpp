@@ -4,7 +4,7 @@
 #include "base/text.h"
 #include "program/program.h"
 #include "program/windows.h"
-#include "settings/settings.h"
+#include "settings/printer_offsets.h"
 
 #include <cmath>
 #include <string_view>
@@ -12,7 +12,7 @@
 namespace {
 
 float TwipsTyped(const TextBox& box) {
-    const float twips = numbers::ToSingle(text::Trim(box.Text)).value_or(0) * modSettings::kTwipsPerInch;
+    const float twips = numbers::ToSingle(text::Trim(box.Text)).value_or(0) * modOffsets::kTwipsPerInch;
     return std::isfinite(twips) ? twips : 0;
 }
 
@@ -21,14 +21,14 @@ float TwipsTyped(const TextBox& box) {
 void frmPOffsets::Form_Load(Program& program) {
     Caption = "Printer Offsets";
     // The boxes begin with what is in force, so that one of them can be changed alone.
-    txtX.Text = modSettings::InchesOf(program.printing.PrinterOffsetX);
-    txtY.Text = modSettings::InchesOf(program.printing.PrinterOffsetY);
+    txtX.Text = modOffsets::InchesOf(program.printing.PrinterOffsetX);
+    txtY.Text = modOffsets::InchesOf(program.printing.PrinterOffsetY);
     ShowValues(program);
 }
 
 void frmPOffsets::ShowValues(const Program& program) {
     const auto inches = [](float twips) {
-        return numbers::FormatSingle(twips / modSettings::kTwipsPerInch, "#0.00") + "\"";
+        return numbers::FormatSingle(twips / modOffsets::kTwipsPerInch, "#0.00") + "\"";
     };
     lblX.Caption =
         "Printer X Offset (Horizontal) - Current Value = " + inches(program.printing.PrinterOffsetX);
@@ -48,7 +48,7 @@ frmPOffsets::Numbers frmPOffsets::Take(Program& program) {
     for (const TextBox* box : {&txtX, &txtY}) {
         const std::string_view typed = text::Trim(box->Text);
         if (!typed.empty() && !numbers::IsNumeric(typed)) {
-            program.platform.questions.MsgBox(modSettings::NoNumberMessage(typed), Buttons::Ok, "");
+            program.platform.questions.MsgBox(numbers::NoNumberMessage(typed), Buttons::Ok, "");
             return Numbers::Refused;
         }
     }
@@ -66,7 +66,7 @@ void frmPOffsets::cmdSavePrinterOffsets_Click(Program& program) {
     if (Take(program) == Numbers::Refused) {
         return;
     }
-    modSettings::SavePrinterOffsets(program);
+    modOffsets::SavePrinterOffsets(program);
     modWindows::Close(program, *this);
 }
 

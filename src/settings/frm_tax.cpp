@@ -4,7 +4,7 @@
 #include "base/text.h"
 #include "program/program.h"
 #include "program/windows.h"
-#include "settings/settings.h"
+#include "settings/tax_rate.h"
 
 #include <optional>
 #include <string_view>
@@ -35,10 +35,10 @@ void frmTax::cmdOK_Click(Program& program) {
     }
     const std::optional<double> rate = numbers::ToDouble(typed);
     if (!rate) {
-        program.platform.questions.MsgBox(modSettings::NoNumberMessage(typed), Buttons::Ok, "");
+        program.platform.questions.MsgBox(numbers::NoNumberMessage(typed), Buttons::Ok, "");
         return;
     }
-    modSettings::SaveTaxRate(program, numbers::Format(*rate, "##.00"));
+    modTax::SaveTaxRate(program, numbers::Format(*rate, "##.00"));
     program.run.SplashShown = false;
     modWindows::Close(program, *this);
 }
@@ -50,3 +50,16 @@ void frmTax::cmdCancel_Click(Program& program) {
 void frmTax::Form_Cancel(Program& program) {
     modWindows::Close(program, *this);
 }
+
+namespace modTax {
+
+void GetTaxRate(Program& program) {
+    ReadTaxRate(program);
+    if (program.totals.TaxRate == 0 &&
+        program.platform.questions.MsgBox("The current sales tax rate is 0%. Do you want to change it now?",
+                                          Buttons::YesNo, "Sales Tax Rate is 0.0%") == Answer::Yes) {
+        modWindows::Show(program, std::make_unique<frmTax>());
+    }
+}
+
+} // namespace modTax

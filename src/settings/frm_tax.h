@@ -28,3 +28,10 @@ public:
 private:
     std::string inForce_;
 };
+
+namespace modTax {
+
+/// Reads the tax rate; a rate of zero asks whether to change it.
+void GetTaxRate(Program& program);
+
+} // namespace modTax

@@ -1,5 +1,5 @@
 #include "pages/fields.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "shell/input.h"
 #include "support/running_program.h"
 #include "support/typist.h"
@@ -193,8 +193,9 @@ TEST(BadText, TheMarksOfAPricedLineCanBeTyped) {
 
 TEST(Locked, AreasTakeNothing) {
     RunningProgram run;
-    run.Area(kSecond, 0).Locked = true;
-    run.Area(kSecond, 33).Locked = true;
+    run.program.format.FormatOpen = true;
+    run.program.format.FormatTextChanges[1][0].FormatText = true;
+    run.program.format.FormatTextChanges[1][33].FormatText = true;
     Typist typist(run.program);
     for (const FieldRef& field :
          {FieldRef{kSecond, FieldKind::txt, 0}, FieldRef{kSecond, FieldKind::txt, 33},
@@ -210,6 +211,11 @@ TEST(Locked, AreasTakeNothing) {
     }
     modFields::SetText(run.program, {kSecond, FieldKind::txt, 0}, "by program");
     EXPECT_EQ(run.TextOf(kSecond, 0), "by program");
+    run.program.format.FormatOpen = false;
+    typist.Click(PageId::frmP1, 0);
+    typist.Click(kSecond, 33);
+    typist.Type("5");
+    EXPECT_EQ(run.TextOf(kSecond, 33), "5") << "without a format nothing is locked";
 }
 
 } // namespace

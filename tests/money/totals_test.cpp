@@ -2,8 +2,9 @@
 #include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
-#include "proposal/proposal_file.h"
+#include "pages/page_marks.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_save.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 

@@ -1,7 +1,7 @@
 #include "program/windows.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
-#include "proposal/proposal_file.h"
+#include "proposal/proposal_save.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -27,7 +27,7 @@ struct Linked : RunningProgram {
         return std::filesystem::is_symlink(folder / name);
     }
     frmFile& Show() {
-        modMain::mnuFileOpenEvent_Click(program);
+        modProposal::mnuFileOpenEvent_Click(program);
         return dynamic_cast<frmFile&>(*modWindows::Find(program, "frmFile"));
     }
     static int At(const std::vector<std::string>& items, std::string_view name) {
@@ -66,7 +66,7 @@ TEST(Links, DeletingALinkedProposalTakesTheLinkAndNotTheFile) {
     Linked run;
     run.Open("Jane Roe.hef");
     run.surroundings.questions.Expect("Are you sure you want to delete this file?", Answer::Yes);
-    modMain::mnuFileDelete_Click(run.program);
+    modProposal::mnuFileDelete_Click(run.program);
     EXPECT_FALSE(run.IsLink("Proposals/Jane Roe.hef"));
     EXPECT_TRUE(run.folder.Has("Disk/Jane Roe.hef"));
     EXPECT_EQ(run.program.document.FileName, "");

@@ -2,9 +2,9 @@
 #include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
-#include "proposal/proposal_file.h"
-#include "proposal/reset.h"
+#include "pages/row_fields.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_save.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -179,6 +179,10 @@ TEST(Saving, ATextLongerThanItsSlotIsCutInTheFileAlone) {
     RunningProgram run;
     const std::string street(70, 's');
     modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 4}, street);
+    run.surroundings.questions.ExpectBox(
+        {"These texts are longer than their place in the file and will be cut:\r\nPage 1, Text Area 5",
+         Buttons::SaveAnywayCancel, ""},
+        Answer::Yes);
     SaveAnn(run);
     const std::string bytes = run.folder.Read("Proposals/Ann.hef");
     EXPECT_EQ(Slot(bytes, 170, 60), std::string(60, 's'));

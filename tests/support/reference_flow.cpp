@@ -459,8 +459,10 @@ void ReferenceFlow::MakeExempt(const FieldRef& target) {
             field.Back = Over(field, std::stoi(field.Limit)) ? kRed : kGrey;
         }
         for (std::size_t i = 0; i < sheet.qty.size(); ++i) {
-            sheet.qty[i].Back = measure_.Width(sheet.qty[i].Text, {}) >= 540 ? kRed : kLightGrey;
-            sheet.amt[i].Back = measure_.Width(sheet.amt[i].Text, {}) >= 1020 ? kRed : kLightGrey;
+            sheet.qty[i].Back =
+                measure_.Width(sheet.qty[i].Text, {}) >= 540 || sheet.qty[i].NoNumber ? kRed : kLightGrey;
+            sheet.amt[i].Back =
+                measure_.Width(sheet.amt[i].Text, {}) >= 1020 || sheet.amt[i].NoNumber ? kRed : kLightGrey;
         }
     }
     rightClick_ = true;
@@ -528,20 +530,20 @@ void ReferenceFlow::Walk(int keyCode) {
         if (i == 0) {
             return;
         }
-        GiveFocus(Txt(page, page == PageId::frmP1 && i == 20 ? 10 : i - 1));
+        Arrive(Txt(page, page == PageId::frmP1 && i == 20 ? 10 : i - 1));
     } else if (i == last) {
         const PageId next = PageAt(IndexOf(page) + 1);
         ToPage(next);
-        GiveFocus(Txt(next, 0));
+        Arrive(Txt(next, 0));
     } else if (keyCode == kDownKey) {
-        GiveFocus(Txt(page, i + 1));
+        Arrive(Txt(page, i + 1));
     } else if (page == PageId::frmP1 && i < 10) {
-        GiveFocus(Txt(page, i + 1));
+        Arrive(Txt(page, i + 1));
     } else if (IsLine(page, i)) {
-        GiveFocus(HasBoxes(from) ? FieldRef{page, FieldKind::txtAmt, i} : Txt(page, i + ToAmount(page)));
+        Arrive(HasBoxes(from) ? FieldRef{page, FieldKind::txtAmt, i} : Txt(page, i + ToAmount(page)));
     } else {
         const int next = i - ToAmount(page) + 1;
-        GiveFocus(HasBoxes(Txt(page, next)) ? FieldRef{page, FieldKind::txtQty, next} : Txt(page, next));
+        Arrive(HasBoxes(Txt(page, next)) ? FieldRef{page, FieldKind::txtQty, next} : Txt(page, next));
     }
 }
 
@@ -550,7 +552,7 @@ void ReferenceFlow::BoxKeyDown(int keyCode) {
     const Sheet& sheet = Sheets[static_cast<std::size_t>(IndexOf(box.Page))];
     if (keyCode == kEnterKey || keyCode == kTabKey) {
         if (box.Kind == FieldKind::txtAmt) {
-            GiveFocus(Txt(box.Page, box.Index + ToAmount(box.Page)));
+            Arrive(Txt(box.Page, box.Index + ToAmount(box.Page)));
             return;
         }
         GiveFocus(Txt(box.Page, box.Index));
@@ -570,7 +572,7 @@ void ReferenceFlow::BoxKeyDown(int keyCode) {
     if (step == 0 || next < 0 || next >= static_cast<int>(sheet.qty.size())) {
         return;
     }
-    GiveFocus(HasBoxes(Txt(box.Page, next)) ? FieldRef{box.Page, box.Kind, next} : Txt(box.Page, next));
+    Arrive(HasBoxes(Txt(box.Page, next)) ? FieldRef{box.Page, box.Kind, next} : Txt(box.Page, next));
 }
 
 void ReferenceFlow::ClearPlaceholder() {
@@ -587,7 +589,7 @@ bool ReferenceFlow::KeyPress(char character) {
         if (character > 13) {
             ClearPlaceholder();
         }
-        return figure || character == '.' || character == 8;
+        return figure || character == '.' || character == ',' || character == 8;
     }
     const Field& area = At(field);
     if (area.Locked) {
@@ -795,6 +797,7 @@ void ReferenceFlow::PushTheText(PageId page, int index) {
 // ------------------------------------------------------------------------------------------------
 
 void ReferenceFlow::BoxChanged(const FieldRef& box) {
+    ColourBox(box);
     StoreLine(box.Page, box.Index);
     Product(box.Page, box.Index);
 }
@@ -862,10 +865,32 @@ void ReferenceFlow::GiveFocus(const FieldRef& field) {
     GotFocus(field);
 }
 
+void ReferenceFlow::Arrive(const FieldRef& field) {
+    const bool figure = IsBox(field) || At(field).Limit == "020";
+    GiveFocus(field);
+    if (Focus == field && figure && !(IsFinal(field) && field.Index != 4)) {
+        At(field).Start = 0;
+        At(field).Length = Len(At(field).Text);
+    }
+}
+
+void ReferenceFlow::ColourBox(const FieldRef& box) {
+    Field& field = At(box);
+    const bool placeholder = field.Text == (box.Kind == FieldKind::txtQty ? "Qty." : "Amt.");
+    const bool was = field.NoNumber;
+    field.NoNumber = !placeholder && !EmptyOrNumber(field.Text);
+    if (field.NoNumber) {
+        field.Back = kRed;
+    } else if (was) {
+        field.Back = Focus == box ? kCyan : kLightGrey;
+    }
+}
+
 void ReferenceFlow::GotFocus(const FieldRef& ref) {
     Field& field = At(ref);
     if (IsBox(ref)) {
         field.Back = kCyan;
+        ColourBox(ref);
         return;
     }
     CurrentPage = IndexOf(ref.Page);
@@ -887,6 +912,7 @@ void ReferenceFlow::LostFocus(const FieldRef& ref) {
     Field& field = At(ref);
     if (IsBox(ref)) {
         field.Back = kLightGrey;
+        ColourBox(ref);
         if (ref.Kind == FieldKind::txtAmt) {
             if (const std::optional<double> value = Number(field.Text)) {
                 Assign(ref, Money(*value, Zero::Written));

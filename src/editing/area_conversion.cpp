@@ -1,4 +1,4 @@
-#include "editing/double_click.h"
+#include "editing/area_conversion.h"
 
 #include "base/dates.h"
 #include "base/numbers.h"
@@ -7,6 +7,7 @@
 #include "program/program.h"
 
 #include <optional>
+#include <string>
 
 namespace modText {
 
@@ -65,21 +66,6 @@ void ConvertOnDoubleClick(Program& program, int index) {
     program.editing.LastKeyChar.clear();
     modFields::SetText(program, field, *value);
     modFields::SetCursor(area, static_cast<int>(area.Text.size()));
-}
-
-void CheckDate(Program& program, int index) {
-    Page& page = program.pages[PageId::frmP1];
-    const std::string& value = page.txt[0].Text;
-    if (index != 0 || value.empty() || page.DateWarningShown || dates::IsDate(value, CurrentYear(program))) {
-        return;
-    }
-    program.platform.questions.MsgBox(
-        text::Lines({"Text cannot be recognized as a date and will become useless for managing you events.",
-                     "", "Proper date format examples follow:", "January 15, 2008.", "Jan 15, 2008",
-                     "1/15/2008", "1/15/08", "1-15-08",
-                     "Do not include date extentions such as \"1rst\", \"2nd\", etc."}),
-        Buttons::Ok, "Date Format not Recognized");
-    page.DateWarningShown = true;
 }
 
 } // namespace modText

@@ -8,7 +8,4 @@ namespace modText {
 /// telephone number. Other areas and texts that cannot be converted stay as they are.
 void ConvertOnDoubleClick(Program& program, int index);
 
-/// On leaving the event date of frmP1: warns once in the life of the page of a text that is no date.
-void CheckDate(Program& program, int index);
-
 } // namespace modText

@@ -1,57 +1,34 @@
-#include "editing/text_areas.h"
+#include "editing/typing.h"
 
 #include "base/guard.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "editing/area_colours.h"
+#include "editing/area_facts.h"
+#include "editing/backup_counter.h"
 #include "editing/columns.h"
-#include "editing/double_click.h"
 #include "editing/navigation.h"
 #include "editing/push.h"
+#include "editing/status_line.h"
 #include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
+#include "pages/text_width.h"
 #include "pages/titles.h"
 #include "program/errors.h"
 #include "program/program.h"
-#include "proposal/file_names.h"
-#include "proposal/proposal_file.h"
 
 #include <limits>
+#include <string>
+#include <string_view>
 
 namespace modText {
 
 namespace {
 
-constexpr int kClientName = 2;
 constexpr int kDepositArea = 4;
-constexpr std::string_view kAmountLimit = "020";
-
-FieldRef Field(PageId page, int index) {
-    return {page, FieldKind::txt, index};
-}
-
-TextArea& Area(Program& program, PageId page, int index) {
-    return program.pages[page].txt[static_cast<std::size_t>(index)];
-}
-
-std::string_view LimitText(const TextArea& area) {
-    return text::Right(area.Tag, 3);
-}
-
-/// Amounts are told by the limit, whatever the kind.
-bool IsAmountLimit(std::string_view limit) {
-    return limit == kAmountLimit;
-}
-
-bool IsFinal(PageId page) {
-    return page == PageId::frmP6;
-}
-
-bool Completing(const Program& program, PageId page) {
-    return IsLinePage(page) && program.editing.ACActive[static_cast<std::size_t>(IndexOf(page))];
-}
 
 /// The line goes to the store, and what is known of the row's columns to the tables.
 void StoreLine(Program& program, PageId page, int index) {
@@ -74,7 +51,7 @@ void TakeEditingState(Program& program, PageId page, int index) {
     EditingState& editing = program.editing;
     editing.CurrentText = area.Text;
     editing.CurrentKind = geometry::KindOf(area.Tag);
-    editing.CurrentLimit = LimitText(area);
+    editing.CurrentLimit = geometry::LimitText(area.Tag);
     const auto at = static_cast<std::size_t>(IndexOf(page));
     const auto row = static_cast<std::size_t>(index);
     TextChangeRecord& props = program.format.PropTextChanges[at][row];
@@ -99,7 +76,7 @@ void TakeClientName(Program& program) {
     if (!name.empty()) {
         document.TextFileName = name + ".txt";
     }
-    modMain::UpdateEventNameLabels(program);
+    modTitles::UpdateEventNameLabels(program);
 }
 
 void TakeAmount(Program& program, PageId page, int index) {
@@ -150,48 +127,6 @@ bool ChangesSilent(const Program& program, PageId page) {
            (program.editing.BlockMode && !program.editing.RefireMode) || Completing(program, page);
 }
 
-void ColourArea(Program& program, PageId page, TextArea& area) {
-    if (area.BackColor == colors::kBlockSelected) {
-        return;
-    }
-    const Color within = IsFinal(page) ? colors::kResting : colors::kFocused;
-    area.BackColor = OverLimit(program, page, area) ? colors::kOverLimit : within;
-}
-
-/// What counts as nothing stands red wherever the person is.
-void ShowNoNumber(const Program& program, TextArea& area) {
-    if (modTotals::IsNoNumber(program, area)) {
-        area.BackColor = colors::kOverLimit;
-    }
-}
-
-void ShowCursor(Program& program) {
-    program.main.lblCurPos.Caption = "Cursor Location = " + std::to_string(program.editing.CursorPos);
-}
-
-/// Where the printer would stand after the text left of the cursor.
-void ShowTextPosition(Program& program, const TextArea& area) {
-    program.main.lblTextPos.Visible = !program.run.NoPrinter;
-    if (program.run.NoPrinter) {
-        return;
-    }
-    const float position = program.platform.measure.Width(
-        text::Left(area.Text, area.SelStart), {area.FontName, area.FontSize, area.FontBold, area.FontItalic});
-    program.main.lblTextPos.Caption = "Printer Text Position = " + numbers::FormatSingle(position, "##.##");
-}
-
-void CountTowardsBackup(Program& program, PageId page, int index) {
-    constexpr int kKeysBetween = 20;
-    int& counter = program.editing.KeyCounter;
-    ++counter;
-    // While the client's name is typed the file's name is not settled; the counter runs on.
-    if (counter < kKeysBetween || (page == PageId::frmP1 && index == kClientName)) {
-        return;
-    }
-    counter = 0;
-    modFile::BackupThisFile(program);
-}
-
 /// A copied cell or line often brings its line end along.
 std::string_view WithoutLineEnds(std::string_view value) {
     constexpr std::string_view kAround = " \t\r\n";
@@ -218,8 +153,8 @@ void PasteNumber(Program& program, PageId page, int index) {
 void NoteKey(Program& program, PageId page, int index, int keyCode) {
     const TextArea& area = Area(program, page, index);
     program.editing.CursorPos = area.SelStart;
-    ShowCursor(program);
-    ShowTextPosition(program, area);
+    modStatus::ShowCursor(program);
+    modStatus::ShowTextPosition(program, area);
     program.editing.LastKeyChar = std::string(1, static_cast<char>(keyCode));
 }
 
@@ -228,7 +163,7 @@ bool IsPaste(int keyCode, int shift) {
 }
 
 Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int shift) {
-    CountTowardsBackup(program, page, index);
+    modBackup::CountTowardsBackup(program, page, index);
     if (keyCode == keys::kF8 && geometry::IsDescription(page, index)) {
         modColumns::ToggleColumns(program);
         return Taken::Yes;
@@ -253,7 +188,7 @@ Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int
         return Taken::Yes;
     }
     NoteKey(program, page, index, keyCode);
-    if (IsPaste(keyCode, shift) && IsAmountLimit(LimitText(Area(program, page, index)))) {
+    if (IsPaste(keyCode, shift) && IsAmountLimit(geometry::LimitText(Area(program, page, index).Tag))) {
         if (!program.editing.BlockMode) {
             PasteNumber(program, page, index);
         }
@@ -265,22 +200,7 @@ Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int
 constexpr std::string_view kKeydownNames[] = {"Page 1 Keydown", "Page 2 Keydown", "Page 3 Keydown",
                                               "Page 4 Keydown", "Page 5 Keydown"};
 
-void ShowAreaNumber(Program& program, PageId page, int index) {
-    if (program.editing.RightClickPending) {
-        program.editing.RightClickPending = false;
-        return;
-    }
-    program.main.lblTextNum.Caption =
-        "Page " + std::to_string(IndexOf(page) + 1) + ", Text Area " + std::to_string(index + 1);
-}
-
 } // namespace
-
-bool OverLimit(const Program& program, PageId page, const TextArea& area) {
-    return modPages::MeasureTextWidth(program, page, area.Text) >= area.Width ||
-           static_cast<double>(area.Text.size()) > numbers::Val(LimitText(area)) ||
-           modTotals::IsNoNumber(program, area);
-}
 
 void txt_Change(Program& program, PageId page, int index) {
     if (page == PageId::frmP6_1) {
@@ -289,7 +209,7 @@ void txt_Change(Program& program, PageId page, int index) {
     if (IsFinal(page)) {
         modTotals::FinalPageChange(program, index);
         if (!program.guards.HandlersSilent()) {
-            ColourArea(program, page, Area(program, page, index));
+            modAreaColours::ColourArea(program, page, Area(program, page, index));
         }
         return;
     }
@@ -322,7 +242,7 @@ void txt_KeyPress(Program& program, PageId page, int index, int& keyAscii) {
         keyAscii = 0;
         return;
     }
-    if (IsAmountLimit(LimitText(area)) || IsFinal(page)) {
+    if (IsAmountLimit(geometry::LimitText(area.Tag)) || IsFinal(page)) {
         const bool editing =
             keyAscii == keys::kBackspace || keyAscii == keys::kTab || keyAscii == keys::kEnter;
         const bool figure =
@@ -347,121 +267,17 @@ void txt_KeyUp(Program& program, PageId page, int index, int keyCode, int shift)
     EditingState& editing = program.editing;
     if (IsFinal(page)) {
         editing.CursorPos = area.SelStart;
-        ShowCursor(program);
+        modStatus::ShowCursor(program);
         return;
     }
     if (editing.BlockMode) {
         return;
     }
     editing.CursorPos = area.SelStart;
-    ShowCursor(program);
+    modStatus::ShowCursor(program);
     editing.CurrentWidth = area.Width;
-    ColourArea(program, page, area);
-    ShowTextPosition(program, area);
-}
-
-void txt_GotFocus(Program& program, PageId page, int index) {
-    EditingState& editing = program.editing;
-    if (editing.MoveInProgress) {
-        return;
-    }
-    modPages::EnsureRowFields(program, page);
-    TextArea& area = Area(program, page, index);
-    program.main.ActivePage = page;
-    program.main.CurrentPage = IndexOf(page);
-    editing.CurrentArea = index;
-    if (!IsFinal(page)) {
-        editing.CurrentLimit = LimitText(area);
-        editing.CurrentWidth = area.Width;
-        ColourArea(program, page, area);
-    }
-    if (editing.BlockMode && program.hooks.UpdateTextMenu) {
-        program.hooks.UpdateTextMenu(program);
-    }
-    ShowAreaNumber(program, page, index);
-}
-
-void txt_LostFocus(Program& program, PageId page, int index) {
-    EditingState& editing = program.editing;
-    TextArea& area = Area(program, page, index);
-    editing.LastArea = index;
-    if (IsFinal(page)) {
-        modTotals::FinalPageLostFocus(program, index);
-        return;
-    }
-    if (area.BackColor != colors::kBlockSelected || !editing.BlockMode) {
-        area.BackColor = colors::kResting;
-    }
-    if (editing.BlockMode) {
-        return;
-    }
-    // A completion that was neither taken nor overtyped stands on the screen; what stands there is stored.
-    if (Completing(program, page)) {
-        program.editing.ACActive[static_cast<std::size_t>(IndexOf(page))] = false;
-        txt_Change(program, page, index);
-        Area(program, page, index).BackColor = colors::kResting;
-    }
-    if (IsAmountLimit(LimitText(area))) {
-        modTotals::LeaveAmount(program, page, index);
-        ShowNoNumber(program, area);
-    }
-    if (page == PageId::frmP1) {
-        CheckDate(program, index);
-    }
-}
-
-void txt_MouseDown(Program& program, PageId page, int index, int button, int shift) {
-    static_cast<void>(shift);
-    EditingState& editing = program.editing;
-    TextArea& area = Area(program, page, index);
-    editing.CursorPos = area.SelStart;
-    ShowCursor(program);
-    if (IsFinal(page)) {
-        return;
-    }
-    ShowTextPosition(program, area);
-    constexpr int kRightButton = 2;
-    if (button != kRightButton) {
-        return;
-    }
-    if (!editing.BlockMode) {
-        for (const PageId each : kLinePages) {
-            ResetMyTextBoxColors(program, each);
-        }
-    }
-    editing.RightClickPending = true;
-    editing.RightClickArea = index;
-    // The menu takes the keyboard: the area is left as by any other way, and entered again when the menu
-    // goes.
-    modFields::DropFocus(program);
-    if (program.hooks.UpdateTextMenu) {
-        program.hooks.UpdateTextMenu(program);
-    }
-    program.platform.events.LetEventsRun();
-    editing.CurrentArea = index;
-}
-
-void TextMenuClosed(Program& program) {
-    if (!program.editing.RightClickPending || program.main.Focus) {
-        return;
-    }
-    modFields::GiveFocus(program, Field(program.main.ActivePage, program.editing.RightClickArea));
-}
-
-void txt_MouseUp(Program& program, PageId page, int index) {
-    program.editing.CursorPos = Area(program, page, index).SelStart;
-}
-
-void txt_DblClick(Program& program, PageId page, int index) {
-    program.editing.CurrentArea = index;
-    if (program.editing.BlockMode) {
-        return; // selected areas are not edited
-    }
-    if (geometry::IsDescription(page, index)) {
-        modColumns::ToggleColumns(program);
-    } else if (page == PageId::frmP1) {
-        ConvertOnDoubleClick(program, index);
-    }
+    modAreaColours::ColourArea(program, page, area);
+    modStatus::ShowTextPosition(program, area);
 }
 
 void RefireTextChanges(Program& program, PageId page) {
@@ -486,26 +302,6 @@ void RefireTextChanges(Program& program, PageId page) {
     for (const FieldKind kind : {FieldKind::txtQty, FieldKind::txtAmt}) {
         for (int row = geometry::FirstRow(page); row <= geometry::LastRow(page); ++row) {
             refire({page, kind, row});
-        }
-    }
-}
-
-void ResetMyTextBoxColors(Program& program, PageId page) {
-    Page& record = program.pages[page];
-    const auto colour = [](TextArea& area, bool over, Color resting) {
-        if (area.BackColor == colors::kBlockSelected) {
-            return;
-        }
-        area.BackColor = over ? colors::kOverLimit : resting;
-        area.ForeColor = over ? colors::kBlack : area.ForeColor;
-    };
-    for (TextArea& area : record.txt) {
-        colour(area, OverLimit(program, page, area), colors::kResting);
-    }
-    for (auto* boxes : {&record.txtQty, &record.txtAmt}) {
-        for (TextArea& box : *boxes) {
-            const bool over = box.Visible && modPages::MeasureTextWidth(program, page, box.Text) >= box.Width;
-            colour(box, over, colors::kRestingRowField);
         }
     }
 }
