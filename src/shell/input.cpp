@@ -8,8 +8,8 @@
 #include "editing/navigation.h"
 #include "editing/selection.h"
 #include "editing/typing.h"
+#include "editing/word_marking.h"
 #include "money/amounts.h"
-#include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"
@@ -260,9 +260,14 @@ void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int sel
     ShowCaret(program);
 }
 
-void FieldDblClick(Program& program, const FieldRef& field) {
+void FieldDblClick(Program& program, const FieldRef& field, int position) {
+    const std::optional<FieldRef> focus = program.main.Focus;
+    const std::string before = modFields::Area(program, field).Text;
     if (IsText(field)) {
         modText::txt_DblClick(program, field.Page, field.Index);
+    }
+    if (program.main.Focus == focus && modFields::Area(program, field).Text == before) {
+        modText::MarkWordAt(program, field, position);
     }
 }
 
