@@ -1,6 +1,7 @@
 #include "calendar/frm_dates.h"
 
 #include "base/dates.h"
+#include "base/guard.h"
 #include "calendar/move_proposals.h"
 #include "calendar/read_event_dates.h"
 #include "pages/fields.h"
@@ -23,11 +24,16 @@ frmDates* Shown(Program& program) {
 }
 
 void RebuildShown(Program& program) {
-    if (frmDates* window = Shown(program)) {
-        window->lstDates.Clear();
-        window->Form_Follow(program);
+    {
+        // The window shows already what it will show while the files are read.
+        ++program.calendar.Running;
+        const OnLeaving settle([&] { --program.calendar.Running; });
+        if (frmDates* window = Shown(program)) {
+            window->lstDates.Clear();
+            window->Form_Follow(program);
+        }
+        ReadEventDates(program);
     }
-    ReadEventDates(program);
     // Events have run: the window that stood there may have closed.
     if (frmDates* window = Shown(program)) {
         window->TakeRows(program);
