@@ -68,8 +68,6 @@ QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
         return QMessageBox::Yes | QMessageBox::No;
     case Buttons::YesNoCancel:
         return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
-    case Buttons::SaveAnywayCancel:
-        return QMessageBox::Yes | QMessageBox::Cancel;
     case Buttons::Ok:
         break;
     }
@@ -120,10 +118,6 @@ Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view
     box.setTextFormat(Qt::PlainText);
     if (title == "Program Error") {
         box.setIcon(QMessageBox::Warning);
-    }
-    if (buttons == Buttons::SaveAnywayCancel) {
-        box.button(QMessageBox::Yes)->setText(QObject::tr("&Save Anyway"));
-        box.setDefaultButton(QMessageBox::Cancel); // what would be lost is not lost by a key pressed too soon
     }
     if (buttons == Buttons::YesNo) {
         box.setEscapeButton(QMessageBox::No); // closing the box must not be a Yes

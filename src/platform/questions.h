@@ -5,13 +5,7 @@
 #include <string_view>
 #include <vector>
 
-enum class Buttons {
-    Ok,
-    OkCancel,
-    YesNo,
-    YesNoCancel,
-    SaveAnywayCancel ///< "Save Anyway" answers Yes; "Cancel" is what Return and Escape press
-};
+enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class Answer { Ok, Cancel, Yes, No };
 
 /// How a box comes, where that is not as boxes mostly do.

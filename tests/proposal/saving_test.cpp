@@ -183,7 +183,7 @@ TEST(Saving, ATextLongerThanItsSlotIsCutInTheFileAlone) {
     modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 4}, street);
     run.surroundings.questions.ExpectBox(
         {"These texts are longer than their place in the file and will be cut:\r\nPage 1, Text Area 5",
-         Buttons::SaveAnywayCancel, ""},
+         Buttons::YesNo, ""},
         Answer::Yes);
     SaveAnn(run);
     const std::string bytes = run.folder.Read("Proposals/Ann.hef");
