@@ -1,6 +1,7 @@
 #include "desktop/window_views.h"
 
 #include "desktop/convert.h"
+#include "desktop/paper_surface.h"
 #include "program/program.h"
 
 #include <QEvent>
@@ -21,12 +22,16 @@ void WindowView::Follow() {
     if (isVisible() && isMinimized() != window_.Minimised) {
         window_.Minimised ? showMinimized() : showNormal();
     }
+    if (frontCalls_ != window_.FrontCalls) {
+        frontCalls_ = window_.FrontCalls;
+        raise();
+        activateWindow();
+    }
 }
 
 void WindowView::moveEvent(QMoveEvent* event) {
     QDialog::moveEvent(event);
-    constexpr float kTwipsPerInch = 1440;
-    const float twips = kTwipsPerInch / static_cast<float>(logicalDpiX());
+    const float twips = static_cast<float>(paper::kTwipsPerInch) / static_cast<float>(logicalDpiX());
     window_.Left = static_cast<float>(x()) * twips;
     window_.Top = static_cast<float>(y()) * twips;
 }

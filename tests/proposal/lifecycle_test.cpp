@@ -445,7 +445,7 @@ TEST(FileNames, EightCharactersAreRefusedWithOneMessage) {
     EXPECT_FALSE(modNames::IllegalFileName(run.program, ""));
 }
 
-TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesIt) {
+TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesNothing) {
     Living run;
     run.folder.Write("Proposals/Jane Roe.hef", "older");
     run.surroundings.questions.Expect("A file with this name (Jane Roe.hef)\r\n"
@@ -456,7 +456,7 @@ TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesIt) {
     const ScriptedQuestions::Box& box = run.surroundings.questions.Shown.back();
     EXPECT_EQ(box.Title, "Duplicate File Name on Record");
     EXPECT_TRUE(box.Text.ends_with("\r\n\r\nwith this one?"));
-    EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe.hef"));
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), "older");
     EXPECT_FALSE(run.program.document.Cancelled);
 }
 
