@@ -39,12 +39,18 @@ ContractEdit::ContractEdit(QWidget* parent, frmEditor& editor) : QTextEdit(paren
     setDocument(text);
     // The model knows of an edit before its lines are laid out.
     connect(text, &QTextDocument::contentsChange, this, [this] { TakeEdit(); });
+    // What follows from it waits until they are.
+    connect(this, &QTextEdit::textChanged, this, [this] {
+        if (!following_ && Do) {
+            Do([] {});
+        }
+    });
     connect(this, &QTextEdit::cursorPositionChanged, this, [this] { TakeCaret(); });
     connect(this, &QTextEdit::selectionChanged, this, [this] { TakeCaret(); });
 }
 
 double ContractEdit::PixelsPerTwip() const {
-    return logicalDpiX() / paper::kTwipsPerInch;
+    return static_cast<double>(logicalDpiX()) / paper::kTwipsPerInch;
 }
 
 int ContractEdit::ModelPlace(int place) const {

@@ -71,7 +71,7 @@ void ContractLayout::LayOut(QTextBlock block) {
         // What an input method is composing stands in the line and is not part of the text yet.
         const bool here =
             composed > 0 && composedAt >= from && (composedAt < to || static_cast<std::size_t>(to) == length);
-        line.setNumColumns(to - from + (here ? composed : 0), LineWidth);
+        line.setNumColumns(to - from + (here ? composed : 0)); // no width of the toolkit's has a say
         line.setPosition(QPointF(0, count * lineHeight_));
         ++count;
     }

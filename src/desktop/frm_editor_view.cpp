@@ -56,7 +56,7 @@ FrmEditorView::FrmEditorView(Program& program, frmEditor& window, QWidget* over,
     BuildText();
     BuildFind();
     Connect();
-    const double pixels = logicalDpiX() / paper::kTwipsPerInch;
+    const double pixels = static_cast<double>(logicalDpiX()) / paper::kTwipsPerInch;
     QSize wanted(static_cast<int>(static_cast<double>(ContractText::kLineWidth) * pixels) + 90, 640);
     if (const QScreen* place = screen()) {
         wanted = wanted.boundedTo(place->availableSize() - QSize(16, 48));
