@@ -21,6 +21,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSaveFile>
 #include <QScreen>
 #include <QStandardPaths>
@@ -28,6 +29,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <array>
 
 #include <unistd.h>
 
@@ -119,6 +121,13 @@ Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view
     }
     if (buttons == Buttons::YesNo) {
         box.setEscapeButton(QMessageBox::No); // closing the box must not be a Yes
+    }
+    constexpr std::array kInOrder{QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
+    for (std::size_t index = 0; index < manner.Words.size() && index < kInOrder.size(); ++index) {
+        if (QAbstractButton* button = box.button(kInOrder[index])) {
+            button->setText(convert::ToQString(manner.Words[index]));
+            button->setIcon(QIcon());
+        }
     }
     if (manner.Default) {
         box.setDefaultButton(ButtonOf(*manner.Default));

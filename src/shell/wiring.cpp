@@ -7,6 +7,11 @@
 #include "editing/selection.h"
 #include "editing/text_menu.h"
 #include "editing/typing.h"
+#include "format/format_changes.h"
+#include "format/format_file.h"
+#include "format/frm_label_props.h"
+#include "format/property_file.h"
+#include "output/page_count.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
 
@@ -58,4 +63,10 @@ void Wire(Program& program) {
     hooks.MoveBlock = modBlocks::MoveBlockByKey;
     hooks.ReadEventDates = modCalendar::ReadEventDatesAtStart;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
+    hooks.OpenFormatFile = modFormat::OpenFormatFile;
+    hooks.ParsePropertyFile = modFormat::ParsePropertyFile;
+    hooks.AssignPropChanges = modFormat::AssignPropChanges;
+    hooks.MayLeaveFormat = modFormat::MayLeaveFormat;
+    hooks.CloseLabelWindow = modDesigner::CloseLabelWindow;
+    hooks.SetPageNumbers = modPrint::SetPageNumbers;
 }
