@@ -295,6 +295,14 @@ void FrmMainView::Follow() {
         return;
     }
     const ScopedFlag following(following_);
+    if (busy_ != program_.main.Busy) {
+        busy_ = program_.main.Busy;
+        if (busy_) {
+            QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+        } else {
+            QGuiApplication::restoreOverrideCursor();
+        }
+    }
     const QString title = convert::ToQString(program_.main.Caption);
     if (windowTitle() != title) {
         setWindowTitle(title);

@@ -1,6 +1,14 @@
+#include "calendar/frm_dates.h"
+#include "contract/frm_editor.h"
+#include "contract/frm_notes.h"
+#include "deposits/frm_deposits.h"
 #include "desktop/dialog_parts.h"
 #include "desktop/format_views.h"
+#include "desktop/frm_dates_view.h"
+#include "desktop/frm_deposits_view.h"
+#include "desktop/frm_editor_view.h"
 #include "desktop/frm_file_view.h"
+#include "desktop/frm_notes_view.h"
 #include "desktop/frm_splash_view.h"
 #include "desktop/settings_views.h"
 #include "desktop/window_views.h"
@@ -64,6 +72,10 @@ constexpr std::array kViews{
     ViewOf<frmTitle, FrmTitleView>,
     ViewOf<frmFile, FrmFileView>,
     ViewOf<frmSplash, FrmSplashView>,
+    ViewOf<frmDeposits, FrmDepositsView>,
+    ViewOf<frmNotes, FrmNotesView>,
+    ViewOf<frmDates, FrmDatesView>,
+    ViewOf<frmEditor, FrmEditorView>,
 };
 
 } // namespace

@@ -22,6 +22,11 @@ void WindowView::Follow() {
     if (isVisible() && isMinimized() != window_.Minimised) {
         window_.Minimised ? showMinimized() : showNormal();
     }
+    if (frontCalls_ != window_.FrontCalls) {
+        frontCalls_ = window_.FrontCalls;
+        raise();
+        activateWindow();
+    }
 }
 
 void WindowView::moveEvent(QMoveEvent* event) {

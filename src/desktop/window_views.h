@@ -32,6 +32,7 @@ protected:
 
 private:
     std::function<void()> afterEvent_;
+    int frontCalls_ = 0;
 };
 
 /// Keeps one view for each open window.

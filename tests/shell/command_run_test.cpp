@@ -357,7 +357,7 @@ TEST(CurrencySymbol, OneThatCannotBeStoredIsToldAndStandsForTheRun) {
 
 TEST(Commands, OneThatIsNotBuiltSaysSoInTheStrip) {
     RunningProgram run;
-    commands::Run(run.program, CommandId::mnuViewEventDates);
+    commands::Run(run.program, CommandId::mnuAdminTestCode);
     EXPECT_EQ(run.program.main.Notice, "This command is not available in this version.");
 }
 
