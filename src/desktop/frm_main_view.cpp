@@ -286,7 +286,7 @@ void FrmMainView::ShowFirst() {
 }
 
 void FrmMainView::AfterEvent() {
-    modWindows::Sweep(program_);
+    windows_->TakeClosed(modWindows::Sweep(program_));
     Follow();
 }
 
