@@ -3,6 +3,7 @@
 #include "editing/area_contents.h"
 #include "editing/text_areas.h"
 #include "editing/text_menu.h"
+#include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "pages/page_setup.h"
 #include "program/errors.h"
@@ -106,9 +107,17 @@ void SettleCompletion(Program& program, PageId page) {
     }
     completing = false;
     const auto& focus = program.main.Focus;
-    if (focus && focus->Page == page && focus->Kind == FieldKind::txt) {
-        modText::txt_Change(program, page, focus->Index);
+    if (!focus || focus->Page != page || focus->Kind != FieldKind::txt) {
+        return;
     }
+    // It is taken whole and flows nowhere; the cursor goes behind it.
+    TextArea& area = modFields::Area(program, *focus);
+    const int end = static_cast<int>(area.Text.size());
+    program.editing.CursorPos = end;
+    if (area.SelLength > 0) {
+        modFields::SetCursor(area, end);
+    }
+    modText::txt_Change(program, page, focus->Index);
 }
 
 RowRange RowsOf(PageId page) {

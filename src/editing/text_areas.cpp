@@ -7,6 +7,7 @@
 #include "editing/double_click.h"
 #include "editing/navigation.h"
 #include "editing/push.h"
+#include "editing/selection.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
@@ -228,10 +229,10 @@ Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int
         modColumns::ToggleColumns(program);
         return Taken::Yes;
     }
-    bool& completing = program.editing.ACActive[static_cast<std::size_t>(IndexOf(page))];
-    if (completing && Area(program, page, index).SelLength == 0) {
-        completing = false;
+    if (Area(program, page, index).SelLength == 0) {
+        modBlocks::SettleCompletion(program, page);
     }
+    const bool completing = Completing(program, page);
     if (!completing && (keyCode == keys::kEnter || keyCode == keys::kTab)) {
         modNavigate::Move(program, page, index, modNavigate::Step::Enter);
         return Taken::Yes;
@@ -250,7 +251,9 @@ Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int
         }
         return Taken::Yes;
     }
-    return Taken::No;
+    const bool accepted = completing && program.hooks.CompletionKey &&
+                          program.hooks.CompletionKey(program, Field(page, index), keyCode, shift);
+    return accepted ? Taken::Yes : Taken::No;
 }
 
 constexpr std::string_view kKeydownNames[] = {"Page 1 Keydown", "Page 2 Keydown", "Page 3 Keydown",
@@ -340,8 +343,6 @@ void txt_KeyPress(Program& program, PageId page, int index, int& keyAscii) {
 }
 
 void txt_KeyUp(Program& program, PageId page, int index, int keyCode, int shift) {
-    static_cast<void>(keyCode);
-    static_cast<void>(shift);
     TextArea& area = Area(program, page, index);
     EditingState& editing = program.editing;
     if (IsFinal(page)) {
@@ -357,6 +358,9 @@ void txt_KeyUp(Program& program, PageId page, int index, int keyCode, int shift)
     editing.CurrentWidth = area.Width;
     ColourArea(program, page, area);
     ShowTextPosition(program, area);
+    if (program.hooks.CompleteWord) {
+        program.hooks.CompleteWord(program, Field(page, index), keyCode, shift);
+    }
 }
 
 void txt_GotFocus(Program& program, PageId page, int index) {
@@ -370,6 +374,9 @@ void txt_GotFocus(Program& program, PageId page, int index) {
     program.main.CurrentPage = IndexOf(page);
     editing.CurrentArea = index;
     if (!IsFinal(page)) {
+        // No word is under way in an area that has just been entered.
+        editing.Words[static_cast<std::size_t>(IndexOf(page))].InWord = false;
+        editing.ACActive[static_cast<std::size_t>(IndexOf(page))] = false;
         editing.CurrentLimit = LimitText(area);
         editing.CurrentWidth = area.Width;
         ColourArea(program, page, area);
@@ -397,6 +404,7 @@ void txt_LostFocus(Program& program, PageId page, int index) {
     // A completion that was neither taken nor overtyped stands on the screen; what stands there is stored.
     if (Completing(program, page)) {
         program.editing.ACActive[static_cast<std::size_t>(IndexOf(page))] = false;
+        editing.CursorPos = static_cast<int>(area.Text.size()); // it is taken whole and flows nowhere
         txt_Change(program, page, index);
         Area(program, page, index).BackColor = colors::kResting;
     }
@@ -412,6 +420,12 @@ void txt_MouseDown(Program& program, PageId page, int index, int button, int shi
     static_cast<void>(shift);
     EditingState& editing = program.editing;
     TextArea& area = Area(program, page, index);
+    if (Completing(program, page)) {
+        const int start = area.SelStart;
+        const int length = area.SelLength;
+        modBlocks::SettleCompletion(program, page);
+        modFields::SetCursor(area, start, length);
+    }
     editing.CursorPos = area.SelStart;
     ShowCursor(program);
     if (IsFinal(page)) {

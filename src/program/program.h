@@ -8,7 +8,9 @@
 #include "program/main_window_records.h"
 #include "program/page_records.h"
 #include "program/print_records.h"
+#include "program/search_records.h"
 #include "program/settings_records.h"
+#include "program/terms_records.h"
 #include "program/totals_records.h"
 #include "program/window.h"
 
@@ -31,6 +33,8 @@ struct Program {
     FormatRecords format;
     EditingState editing;
     PrintRecords printing;
+    TermsRecords terms;
+    SearchRecords search;
     MainWindow main;
     WindowCollection windows;
 };

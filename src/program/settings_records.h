@@ -80,7 +80,9 @@ struct RunState {
     /// The terms list in use; pinned means that a document's kind does not change it.
     std::string FUTFileName;
     bool TermsPinned = false;
+    bool TermsChosen = false; ///< the person opened it; it stays for the run, as a pinned one does
     bool FUTShown = false;
     bool ACEnabled = false;
     int ACStartLen = 0;
+    bool CalcShown = false;
 };

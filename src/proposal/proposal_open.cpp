@@ -168,7 +168,7 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
     TakeKind(program);
     program.main.imgFootNotes.Picture =
         FileIsThere(modFolders::DataFolder(program), document.FootnoteFile) ? 1 : 0;
-    if (program.settings.ShowFUT && program.hooks.ReadFrequentlyUsedTerms) {
+    if (program.hooks.ReadFrequentlyUsedTerms) {
         program.hooks.ReadFrequentlyUsedTerms(program);
     }
     SettleLogo(program);

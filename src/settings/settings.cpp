@@ -153,8 +153,9 @@ void PutInForce(Program& program) {
         run.LogoPath =
             whole ? settings.LogoFile : paths::Join(program.folders.InstallFolder, settings.LogoFile);
     }
-    run.TermsPinned = !settings.FrequentTermsFile.empty() && settings.LoadFUT;
-    if (run.TermsPinned) {
+    const bool pinned = !settings.FrequentTermsFile.empty() && settings.LoadFUT;
+    run.TermsPinned = pinned || run.TermsChosen;
+    if (pinned && !run.TermsChosen) {
         run.FUTFileName = settings.FrequentTermsFile;
     }
     Printers& printers = program.platform.printers;
@@ -282,6 +283,9 @@ void GetUserPreferences(Program& program) {
         EnsureFolders(program);
         ReadPrinterOffsets(program);
         settings.PrefsRead = true;
+        if (program.hooks.ReadFrequentlyUsedTerms) {
+            program.hooks.ReadFrequentlyUsedTerms(program); // the folder may be another one
+        }
     });
 }
 

@@ -1,5 +1,6 @@
 #include "shell/command_run.h"
 
+#include "calculator/frm_calc.h"
 #include "editing/block_moves.h"
 #include "editing/blocks.h"
 #include "editing/columns.h"
@@ -22,8 +23,11 @@
 #include "shell/admin_commands.h"
 #include "shell/closing.h"
 #include "shell/command_table.h"
+#include "shell/find_command.h"
 #include "shell/preview_refusals.h"
 #include "shell/small_commands.h"
+#include "terms/area_terms.h"
+#include "terms/frm_fut.h"
 
 #include <algorithm>
 #include <array>
@@ -97,6 +101,12 @@ constexpr std::array kRoutes{
     Route{CommandId::mnuEditTextCenter, modMain::mnuEditTextCenter_Click},
     Route{CommandId::mnuEditTextTaxExempt, modColumns::mnuEditTextTaxExempt_Click},
     Route{CommandId::mnuEditTextTaxable, modColumns::mnuEditTextTaxable_Click},
+    Route{CommandId::mnuEditFind, modMain::mnuEditFind_Click},
+    Route{CommandId::mnuEditTextAddFUT, modTerms::AddTermFromArea},
+    Route{CommandId::mnuEditTextEditFUT, modTerms::mnuEditTextEditFUT_Click},
+    Route{CommandId::mnuEditTextDeleteFUT, modTerms::mnuEditTextDeleteFUT_Click},
+    Route{CommandId::mnuOptFUT, modTerms::mnuOptFUT_Click},
+    Route{CommandId::mnuOptCalc, modCalculator::mnuOptCalc_Click},
     Route{CommandId::mnuOptPrinter, modMain::mnuOptPrinter_Click},
     Route{CommandId::mnuOptACStart, ShowWindow<frmACStart>},
     Route{CommandId::mnuOptSalesTax, ShowWindow<frmTax>},

@@ -1,5 +1,6 @@
 #include "shell/wiring.h"
 
+#include "calculator/frm_calc.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
 #include "editing/selection.h"
@@ -7,6 +8,8 @@
 #include "editing/text_menu.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
+#include "terms/completion.h"
+#include "terms/frm_fut.h"
 
 namespace {
 
@@ -55,4 +58,10 @@ void Wire(Program& program) {
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
     hooks.MoveBlock = modBlocks::MoveBlockByKey;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
+    hooks.TermsKey = modTerms::TermsKey;
+    hooks.ReadFrequentlyUsedTerms = modTerms::ListInUseChanged;
+    hooks.CompleteWord = modTerms::CompleteWord;
+    hooks.CompletionKey = modTerms::CompletionKey;
+    hooks.ShowTermsWindow = modTerms::ShowTermsWindow;
+    hooks.ShowCalculator = modCalculator::ShowCalculator;
 }

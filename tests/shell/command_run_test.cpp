@@ -63,7 +63,7 @@ TEST(Commands, MenusSeparatorsAndIdleEntriesDoNothing) {
         Choose(run, id);
     }
     EXPECT_TRUE(run.surroundings.questions.Shown.empty());
-    EXPECT_TRUE(run.program.windows.Open.empty());
+    EXPECT_EQ(modWindows::TopModal(run.program), nullptr);
 }
 
 TEST(Commands, AnEntryWhoseRoomIsNotBuiltDoesNothing) {
@@ -75,7 +75,7 @@ TEST(Commands, AnEntryWhoseRoomIsNotBuiltDoesNothing) {
         }
     }
     EXPECT_TRUE(run.surroundings.questions.Shown.empty());
-    EXPECT_TRUE(run.program.windows.Open.empty());
+    EXPECT_EQ(modWindows::TopModal(run.program), nullptr);
 }
 
 TEST(Toggles, CopyTheirCheckMarkToTheirFlag) {
@@ -98,7 +98,7 @@ TEST(Help, AboutTellsTitleVersionMakerAndWebAddress) {
 
 TEST(Help, PagesOpenAndBothFloatingWindowsStepAside) {
     RunningProgram run;
-    Window& terms = Float(run, "frmFUT");
+    Window& terms = *modWindows::Find(run.program, "frmFUT");
     Window& calculator = Float(run, "frmCalc");
     Choose(run, CommandId::mnuHelpContents);
     EXPECT_TRUE(terms.Minimised);
@@ -111,7 +111,7 @@ TEST(Help, PagesOpenAndBothFloatingWindowsStepAside) {
 
 TEST(WebPages, OpenBelowTheMakersHostAndOnlyTheTermsStepAside) {
     RunningProgram run;
-    Window& terms = Float(run, "frmFUT");
+    Window& terms = *modWindows::Find(run.program, "frmFUT");
     Window& calculator = Float(run, "frmCalc");
     ExpectTold(run, "Quillbrook\r\nCurrent Version: 1.0.0");
     for (const CommandId id : {CommandId::mnuHelpFAQ, CommandId::mnuSupportUpdates,
@@ -369,7 +369,7 @@ TEST(Commands, WaitWhilePagesAreBeingPrinted) {
     commands::Run(run.program, CommandId::mnuFileNew);
     commands::Run(run.program, CommandId::mnuFileOpenEvent);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "Hall");
-    EXPECT_TRUE(run.program.windows.Open.empty());
+    EXPECT_EQ(modWindows::TopModal(run.program), nullptr);
     EXPECT_FALSE(modMain::MDIForm_QueryUnload(run.program));
     run.program.printing.CommandRunning = false;
     EXPECT_TRUE(modMain::MDIForm_QueryUnload(run.program));
