@@ -1,11 +1,9 @@
 #include "editing/selection.h"
 
 #include "editing/area_contents.h"
-#include "editing/text_areas.h"
+#include "editing/standing_completion.h"
 #include "editing/text_menu.h"
-#include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
 #include "program/errors.h"
 #include "program/program.h"
 
@@ -95,30 +93,13 @@ std::vector<AreaContents> ContentsOfRun(const Program& program, PageId page, std
     return contents;
 }
 
-} // namespace
-
-void SettleCompletion(Program& program, PageId page) {
-    if (!IsLinePage(page)) {
-        return;
-    }
-    bool& completing = program.editing.ACActive[static_cast<std::size_t>(IndexOf(page))];
-    if (!completing) {
-        return;
-    }
-    completing = false;
-    const auto& focus = program.main.Focus;
-    if (!focus || focus->Page != page || focus->Kind != FieldKind::txt) {
-        return;
-    }
-    // It is taken whole and flows nowhere; the cursor goes behind it.
-    TextArea& area = modFields::Area(program, *focus);
-    const int end = static_cast<int>(area.Text.size());
-    program.editing.CursorPos = end;
-    if (area.SelLength > 0) {
-        modFields::SetCursor(area, end);
-    }
-    modText::txt_Change(program, page, focus->Index);
+void RefuseAmountsAlone(Program& program) {
+    program.platform.questions.MsgBox("Cannot select Amount Areas only. Please copy Description Areas also.",
+                                      Buttons::Ok, "");
+    DeSelectAllControls(program);
 }
+
+} // namespace
 
 RowRange RowsOf(PageId page) {
     return IsLinePage(page) ? RowRange{geometry::FirstRow(page), geometry::LastRow(page)} : kFinalPageRows;
@@ -145,7 +126,7 @@ void Form_MouseMove(Program& program, PageId page, int button, float x, float y)
             return;
         }
         FinishMove(program);
-        SettleCompletion(program, page);
+        modText::SettleCompletion(program, page);
         block.BandDragging = true;
     }
     program.pages[page].shpSelect = {std::min(x, block.BandStartX), std::min(y, block.BandStartY), width,
@@ -199,9 +180,7 @@ Selection ReadSelectionRuns(Program& program) {
     const bool left = ReadRun(program, page, rows, 0);
     block.HasRightRun = ReadRun(program, page, {rows.Last + 1, geometry::LastText(page)}, 1);
     if (!left && block.HasRightRun) {
-        program.platform.questions.MsgBox(
-            "Cannot select Amount Areas only. Please copy Description Areas also.", Buttons::Ok, "");
-        DeSelectAllControls(program);
+        RefuseAmountsAlone(program);
         return Selection::Refused;
     }
     if (!left) {

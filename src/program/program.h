@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "program/calendar_records.h"
 #include "program/change_records.h"
 #include "program/document_records.h"
 #include "program/editing_records.h"
@@ -35,6 +36,7 @@ struct Program {
     PrintRecords printing;
     TermsRecords terms;
     SearchRecords search;
+    CalendarRecords calendar;
     MainWindow main;
     WindowCollection windows;
 };

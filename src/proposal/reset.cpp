@@ -3,8 +3,11 @@
 #include "base/files.h"
 #include "base/guard.h"
 #include "base/paths.h"
+#include "pages/logo.h"
+#include "pages/page_defaults.h"
+#include "pages/page_fonts.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
 #include "pages/titles.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -13,7 +16,7 @@
 
 #include <array>
 
-namespace modMain {
+namespace modReset {
 
 namespace {
 
@@ -141,7 +144,7 @@ void TakeFormat(Program& program, bool loadDefault) {
         program.hooks.OpenFormatFile(program);
         return;
     }
-    modPages::LoadLogo(program);
+    modLogo::LoadLogo(program);
 }
 
 void ResetSteps(Program& program) {
@@ -150,8 +153,8 @@ void ResetSteps(Program& program) {
                              program.settings.LoadDefaultFormat &&
                              static_cast<bool>(program.hooks.OpenFormatFile);
     ClearNames(program);
-    SetPageHeading(program, "Event Proposal");
-    UpdateEventNameLabels(program);
+    modTitles::SetPageHeading(program, "Event Proposal");
+    modTitles::UpdateEventNameLabels(program);
     program.main.Caption = "Quillbrook";
     program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled = false;
     program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
@@ -171,19 +174,18 @@ ResetResult StartNewFile(Program& program) {
     Guarded(program, "StartNewFile", [&] {
         {
             const ScopedFlag active(program.guards.ResetActive);
-            if (program.hooks.CloseFootnotes) {
-                program.hooks.CloseFootnotes(program);
-            }
             if (FormatEditingGoesOn(program)) {
                 result = ResetResult::Refused;
                 return;
             }
+            // Whoever leaves the proposal has been asked about them already.
+            modWindows::CloseProposalWindows(program);
             ResetSteps(program);
         }
         if (program.hooks.UpdatePageButtons) {
             program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
         }
-        UpdateFooters(program);
+        modTitles::UpdateFooters(program);
         if (program.document.CompanyBlockPending) {
             program.document.CompanyBlockPending = false;
             modPages::SizeRemittanceBox(program);
@@ -195,16 +197,4 @@ ResetResult StartNewFile(Program& program) {
     return result;
 }
 
-void DeleteProposalFiles(std::string_view folder, std::string_view fileName) {
-    // By the name that was chosen, not by one put together: names may differ in nothing but their case.
-    files::Delete(paths::Join(folder, fileName));
-    const std::string base = paths::Join(folder, paths::BaseOf(fileName));
-    for (const std::string_view extension : {".hpf", ".txt", ".hxt", ".dep"}) {
-        const std::string side = base + std::string(extension);
-        if (files::Exists(side)) {
-            files::Delete(side);
-        }
-    }
-}
-
-} // namespace modMain
+} // namespace modReset

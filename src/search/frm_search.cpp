@@ -1,6 +1,6 @@
 #include "search/frm_search.h"
 
-#include "editing/selection.h"
+#include "editing/standing_completion.h"
 #include "pages/page_geometry.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -117,7 +117,7 @@ bool MayStart(Program& program) {
             modWindows::Close(program, *results);
         }
     }
-    modBlocks::SettleCompletion(program, program.main.ActivePage);
+    modText::SettleCompletion(program, program.main.ActivePage);
     return true;
 }
 

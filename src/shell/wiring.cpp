@@ -1,11 +1,13 @@
 #include "shell/wiring.h"
 
 #include "calculator/frm_calc.h"
+#include "calendar/read_event_dates.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
+#include "editing/leaving.h"
 #include "editing/selection.h"
-#include "editing/text_areas.h"
 #include "editing/text_menu.h"
+#include "editing/typing.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
 #include "terms/completion.h"
@@ -57,6 +59,7 @@ void Wire(Program& program) {
     hooks.UpdateTextMenu = modBlocks::UpdateTextMenu;
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
     hooks.MoveBlock = modBlocks::MoveBlockByKey;
+    hooks.ReadEventDates = modCalendar::ReadEventDatesAtStart;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
     hooks.TermsKey = modTerms::TermsKey;
     hooks.ReadFrequentlyUsedTerms = modTerms::ListInUseChanged;

@@ -2,7 +2,7 @@
 
 #include "base/text.h"
 #include "editing/keys.h"
-#include "editing/selection.h"
+#include "editing/standing_completion.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"
@@ -91,7 +91,7 @@ void Complete(Program& program, const FieldRef& field) {
 
 void Accept(Program& program, const FieldRef& field) {
     WordOf(program, field.Page).TypedWord.clear();
-    modBlocks::SettleCompletion(program, field.Page);
+    modText::SettleCompletion(program, field.Page);
     TextArea& area = modFields::Area(program, field);
     modFields::SetCursor(area, static_cast<int>(area.Text.size()));
     program.editing.CursorPos = area.SelStart;

@@ -2,7 +2,6 @@
 
 #include "base/numbers.h"
 #include "editing/keys.h"
-#include "editing/selection.h"
 #include "pages/fields.h"
 #include "program/program.h"
 #include "program/windows.h"

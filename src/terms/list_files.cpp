@@ -16,6 +16,7 @@ namespace modTerms {
 
 namespace {
 
+const Manner kHarmlessIsNo{.Default = Answer::No};
 constexpr std::string_view kDefaultList = "Default Terms.fut";
 constexpr std::string_view kWeddingList = "Wedding Terms.fut";
 constexpr std::string_view kExtension = ".fut";
@@ -78,7 +79,8 @@ void CreateNewFUTFile(Program& program) {
     if (const std::optional<std::string> taken = NameOnDisk(program, name)) {
         name = *taken;
         if (program.platform.questions.MsgBox("File already exists. Overwrite?", Buttons::YesNo,
-                                              "Duplicate Frequent Terms File Exists") != Answer::Yes) {
+                                              "Duplicate Frequent Terms File Exists",
+                                              kHarmlessIsNo) != Answer::Yes) {
             return;
         }
     }
@@ -106,7 +108,7 @@ bool DeleteList(Program& program, std::string_view fileName) {
     }
     const std::string question =
         "Delete the list " + std::string(ListName(fileName)) + " with " + std::to_string(*count) + " terms?";
-    if (program.platform.questions.MsgBox(question, Buttons::YesNo, "") != Answer::Yes) {
+    if (program.platform.questions.MsgBox(question, Buttons::YesNo, "", kHarmlessIsNo) != Answer::Yes) {
         return false;
     }
     if (!Guarded(program, "mnuFileDelete", [&] { files::Delete(path); })) {

@@ -3,7 +3,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "editing/columns.h"
-#include "editing/selection.h"
+#include "editing/standing_completion.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
@@ -123,7 +123,7 @@ bool txt_DragDrop(Program& program, const FieldRef& field, std::string_view drag
         return false;
     }
     const std::string text(dragged); // the list may be read again on the way
-    modBlocks::SettleCompletion(program, field.Page);
+    modText::SettleCompletion(program, field.Page);
     if (TakesFigures(field)) {
         TypeAndLeave(program, field, *NumericAmount(program, SplitTerm(text).Text));
     } else {

@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 #include "base/paths.h"
+#include "base/seen.h"
 #include "base/text.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
@@ -15,6 +16,7 @@ namespace modTerms {
 
 namespace {
 
+const Manner kHarmlessIsNo{.Default = Answer::No};
 constexpr std::string_view kNotRead = "This list could not be read and is left as it is.";
 constexpr std::string_view kNothingToSave = "There are no Frequently Used Terms to save.";
 constexpr std::string_view kNothingToAdd = "No term has been added to save.";
@@ -69,17 +71,18 @@ std::string Joined(const LineList& lines) {
     return bytes;
 }
 
-/// Whether the file holds other bytes than were read. One that is gone is written anew without a question.
-bool ChangedByOthers(const Program& program) {
-    const TermsRecords& terms = program.terms;
-    return files::Exists(terms.Path) && files::ReadAll(terms.Path) != terms.Bytes;
-}
-
-void Write(const std::string& path, std::string_view bytes) {
-    if (files::Exists(path)) {
-        files::ClearAttributes(path);
+/// A name that was given in another case is the one on disk: writing takes a name as it stands.
+void SettleName(Program& program) {
+    const std::string path = PathInUse(program);
+    if (files::ExistsExactly(path) || !files::Exists(path)) {
+        return;
     }
-    files::WriteWhole(path, bytes);
+    for (const std::string& name : files::List(modFolders::DataFolder(program), "*.fut")) {
+        if (text::EqualNoCase(name, program.run.FUTFileName)) {
+            program.run.FUTFileName = name;
+            return;
+        }
+    }
 }
 
 bool Writable(Program& program) {
@@ -130,6 +133,8 @@ void ReadFrequentlyUsedTerms(Program& program) {
     Forget(program);
     terms.Path = PathInUse(program);
     Guarded(program, "ReadFrequentlyUsedTerms", [&] {
+        SettleName(program);
+        terms.Path = PathInUse(program);
         if (!files::Exists(terms.Path)) {
             files::WriteWhole(terms.Path, "");
         }
@@ -175,9 +180,9 @@ Saved SaveFrequentlyUsedTerms(Program& program, const Change& change) {
             Tell(program, kNothingToSave);
             return;
         }
-        if (ChangedByOthers(program) &&
+        if (files::ChangedSince(program.terms.Path, files::SeenIn(program.terms.Bytes)) &&
             program.platform.questions.MsgBox("This list was changed by another program. Overwrite it?",
-                                              Buttons::YesNo, "") != Answer::Yes) {
+                                              Buttons::YesNo, "", kHarmlessIsNo) != Answer::Yes) {
             ReadFrequentlyUsedTerms(program);
             if (!program.terms.ReadWhole) {
                 return;
@@ -188,7 +193,7 @@ Saved SaveFrequentlyUsedTerms(Program& program, const Change& change) {
                 return;
             }
         }
-        Write(program.terms.Path, Joined(lines));
+        files::WriteWhole(program.terms.Path, Joined(lines));
         saved = Saved::Yes;
     });
     if (saved == Saved::Yes) {
@@ -272,7 +277,7 @@ void ChangeCase(Program& program, LetterCase to) {
     }
     const std::string question = "Change all " + std::to_string(count) + " terms of this list to " +
                                  std::string(NameOf(to)) + " case?";
-    if (program.platform.questions.MsgBox(question, Buttons::YesNo, "") != Answer::Yes) {
+    if (program.platform.questions.MsgBox(question, Buttons::YesNo, "", kHarmlessIsNo) != Answer::Yes) {
         return;
     }
     static_cast<void>(SaveFrequentlyUsedTerms(program, [to](LineList& lines) {
