@@ -251,6 +251,18 @@ std::vector<std::string> Subfolders(std::string_view folder) {
     return names;
 }
 
+std::string Native(std::string_view path) {
+    return MustLocate(path);
+}
+
+std::string NativePlace(std::string_view path) {
+    return PlaceFor(path);
+}
+
+void FailBySystem(int systemError, std::string_view path) {
+    Fail(systemError, path);
+}
+
 } // namespace files
 
 namespace modFile {

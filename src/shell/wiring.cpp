@@ -8,6 +8,11 @@
 #include "editing/selection.h"
 #include "editing/text_menu.h"
 #include "editing/typing.h"
+#include "format/format_changes.h"
+#include "format/format_file.h"
+#include "format/frm_label_props.h"
+#include "format/property_file.h"
+#include "output/page_count.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
 #include "terms/completion.h"
@@ -67,4 +72,10 @@ void Wire(Program& program) {
     hooks.CompletionKey = modTerms::CompletionKey;
     hooks.ShowTermsWindow = modTerms::ShowTermsWindow;
     hooks.ShowCalculator = modCalculator::ShowCalculator;
+    hooks.OpenFormatFile = modFormat::OpenFormatFile;
+    hooks.ParsePropertyFile = modFormat::ParsePropertyFile;
+    hooks.AssignPropChanges = modFormat::AssignPropChanges;
+    hooks.MayLeaveFormat = modFormat::MayLeaveFormat;
+    hooks.CloseLabelWindow = modDesigner::CloseLabelWindow;
+    hooks.SetPageNumbers = modPrint::SetPageNumbers;
 }

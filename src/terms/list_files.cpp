@@ -49,7 +49,6 @@ std::vector<std::string> ListFiles(Program& program) {
 void OpenList(Program& program, std::string_view fileName) {
     RunState& run = program.run;
     run.FUTFileName = fileName;
-    run.TermsChosen = true;
     run.TermsPinned = true;
     TakeListInUse(program);
 }
