@@ -252,11 +252,11 @@ std::vector<std::string> Subfolders(std::string_view folder) {
 }
 
 std::string Native(std::string_view path) {
-    return MustLocate(path);
+    return file_places::MustLocate(path);
 }
 
 std::string NativePlace(std::string_view path) {
-    return PlaceFor(path);
+    return file_places::PlaceFor(path);
 }
 
 void FailBySystem(int systemError, std::string_view path) {
