@@ -1,16 +1,26 @@
+#include "calculator/frm_calc.h"
 #include "desktop/dialog_parts.h"
+#include "desktop/frm_calc_view.h"
 #include "desktop/frm_file_view.h"
+#include "desktop/frm_fut_view.h"
 #include "desktop/frm_splash_view.h"
+#include "desktop/search_views.h"
 #include "desktop/settings_views.h"
+#include "desktop/term_views.h"
 #include "desktop/window_views.h"
 #include "output/frm_dialog.h"
 #include "program/program.h"
+#include "search/frm_search.h"
+#include "search/frm_sr.h"
 #include "settings/frm_acstart.h"
 #include "settings/frm_poffsets.h"
 #include "settings/frm_pref.h"
 #include "settings/frm_printers.h"
 #include "settings/frm_tax.h"
 #include "shell/frm_splash.h"
+#include "terms/frm_add_fut.h"
+#include "terms/frm_edit_fut.h"
+#include "terms/frm_fut.h"
 
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -49,6 +59,9 @@ constexpr std::array kViews{
     ViewOf<frmACStart, FrmACStartView>,   ViewOf<frmPOffsets, FrmPOffsetsView>,
     ViewOf<frmPrinters, FrmPrintersView>, ViewOf<frmDialog, FrmDialogView>,
     ViewOf<frmFile, FrmFileView>,         ViewOf<frmSplash, FrmSplashView>,
+    ViewOf<frmFUT, FrmFutView>,           ViewOf<frmAddFUT, FrmAddFutView>,
+    ViewOf<frmEditFUT, FrmEditFutView>,   ViewOf<frmCalc, FrmCalcView>,
+    ViewOf<frmSearch, FrmSearchView>,     ViewOf<frmSR, FrmSRView>,
 };
 
 } // namespace

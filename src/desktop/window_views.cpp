@@ -31,6 +31,18 @@ void WindowView::moveEvent(QMoveEvent* event) {
     window_.Top = static_cast<float>(y()) * twips;
 }
 
+void WindowView::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    const float twips = static_cast<float>(paper::kTwipsPerInch) / static_cast<float>(logicalDpiX());
+    window_.Width = static_cast<float>(width()) * twips;
+    window_.Height = static_cast<float>(height()) * twips;
+}
+
+void WindowView::TakeKeyboard() {
+    raise();
+    activateWindow();
+}
+
 void WindowView::changeEvent(QEvent* event) {
     QDialog::changeEvent(event);
     if (event->type() == QEvent::WindowStateChange) {
@@ -52,6 +64,12 @@ bool WindowViews::ModalOpen() const {
                        [](const auto& entry) { return entry.second->isModal(); });
 }
 
+bool WindowViews::KeyboardWithin() const {
+    return over_.isActiveWindow() && std::any_of(views_.begin(), views_.end(), [](const auto& entry) {
+               return entry.second->HasKeyboard();
+           });
+}
+
 void WindowViews::Follow() {
     const auto& open = program_.windows.Open;
     for (auto at = views_.begin(); at != views_.end();) {
@@ -64,8 +82,8 @@ void WindowViews::Follow() {
         }
         // Its own button may still be on the stack.
         WindowView* view = at->second.release();
-        const bool active = view->isActiveWindow();
-        view->hide();
+        const bool active = view->HasKeyboard();
+        view->Leave();
         view->deleteLater();
         if (active) {
             over_.activateWindow(); // the keyboard goes back to the page, also where no window manager sees
@@ -84,7 +102,11 @@ void WindowViews::Follow() {
         }
         view->Follow();
         if (fresh) {
-            view->show();
+            view->Open();
+        }
+        if (window->BringUp) {
+            window->BringUp = false;
+            view->TakeKeyboard();
         }
     }
 }

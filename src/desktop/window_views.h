@@ -16,6 +16,11 @@ public:
     WindowView(Program& program, Window& window, QWidget* over, std::function<void()> afterEvent);
     /// Sets what differs from the records.
     virtual void Follow();
+    /// Shows it for the first time, and takes it from the screen for good.
+    virtual void Open() { show(); }
+    virtual void Leave() { hide(); }
+    virtual void TakeKeyboard();
+    [[nodiscard]] virtual bool HasKeyboard() const { return isActiveWindow(); }
 
 protected:
     /// Runs an event: the call, then what ends every event.
@@ -26,6 +31,7 @@ protected:
     }
     void reject() override;
     void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     Program& program_;
     Window& window_;
@@ -41,6 +47,8 @@ public:
     ~WindowViews();
     void Follow();
     [[nodiscard]] bool ModalOpen() const;
+    /// Whether a window that stands within the main one has the keyboard.
+    [[nodiscard]] bool KeyboardWithin() const;
 
 private:
     Program& program_;

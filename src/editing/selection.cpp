@@ -3,6 +3,7 @@
 #include "editing/area_contents.h"
 #include "editing/standing_completion.h"
 #include "editing/text_menu.h"
+#include "editing/typing.h"
 #include "pages/page_geometry.h"
 #include "program/errors.h"
 #include "program/program.h"

@@ -13,9 +13,9 @@ void mnuEditFind_Click(Program& program) {
     if (!modSearch::MayStart(program)) {
         return;
     }
-    PressToolButton(program, program.main.imgSearch);
+    modToolButtons::PressToolButton(program, program.main.imgSearch);
     auto window = std::make_unique<frmSearch>();
-    window->Closed = ReleaseToolButton;
+    window->Closed = modToolButtons::ReleaseToolButton;
     modWindows::Show(program, std::move(window));
 }
 

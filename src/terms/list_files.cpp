@@ -71,7 +71,7 @@ void CreateNewFUTFile(Program& program) {
     const std::string answer = program.platform.questions.InputBox(
         "Please enter a name for the Frequent Terms File.", "Starting New Frequent Terms File", "");
     const std::string_view wanted = text::Trim(answer);
-    if (wanted.empty() || modMain::IllegalFileName(program, wanted)) {
+    if (wanted.empty() || modNames::IllegalFileName(program, wanted)) {
         return;
     }
     std::string name = std::string(wanted) + std::string(kExtension);

@@ -7,7 +7,7 @@
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "program/program.h"
 #include "terms/term_line.h"
 

@@ -1,7 +1,6 @@
 #include "terms/list_files.h"
 
 #include "editing/keys.h"
-#include "proposal/proposal_file.h"
 #include "shell/command_run.h"
 #include "support/typist.h"
 #include "terms/open_list.h"
