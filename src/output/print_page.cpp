@@ -113,8 +113,18 @@ void DrawPage(const Program& program, DrawingSurface& surface, PageId page) {
     }
     if (record.HasLogo && record.pic.Tag != kHide && record.pic.Picture.From != PictureRef::Source::None) {
         // The one field that the printer's offset does not move.
-        surface.PaintPicture(record.pic.Picture, record.pic.Left + surface.ScaleLeft,
-                             record.pic.Top + surface.ScaleTop);
+        const PagePicture& logo = record.pic;
+        const float left = logo.Left + surface.ScaleLeft;
+        const float top = logo.Top + surface.ScaleTop;
+        surface.PaintPicture(logo.Picture, left, top, logo.Size);
+        if (logo.BorderStyle != 0) {
+            const float right = left + logo.Size.Width;
+            const float bottom = top + logo.Size.Height;
+            surface.Line(left, top, right, top);
+            surface.Line(right, top, right, bottom);
+            surface.Line(left, bottom, right, bottom);
+            surface.Line(left, top, left, bottom);
+        }
     }
 }
 

@@ -344,18 +344,21 @@ TEST(PropertyFile, ThatCouldNotBeWrittenStillCountsAsChanged) {
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
 }
 
-TEST(PropertyFile, OfAProposalFromTheBackupsLiesAmongTheProposals) {
+TEST(PropertyFile, OfAProposalFromTheBackupsIsReadBesideItAndWrittenAmongTheProposals) {
     RunningProgram run;
     run.program.document.FilePath = run.folder / "Proposals/Backup/";
     run.program.document.FromBackup = true;
     run.program.document.BaseName = "Ann";
     run.folder.Write("Proposals/Ann.hpf", "frmP1.txt(10).FontBold=True\r\n");
-    run.folder.Write("Proposals/Backup/Ann.hpf", "not this one\r\n");
-    int parsed = 0;
-    run.program.hooks.ParsePropertyFile = [&](Program&) { ++parsed; };
+    run.folder.Write("Proposals/Backup/Ann.hpf", "frmP1.txt(11).FontBold=True\r\n");
+    modFile::ReadFileProperties(run.program);
+    EXPECT_EQ(run.program.format.PropertyLines, std::vector<std::string>{"frmP1.txt(11).FontBold=True"});
+    EXPECT_TRUE(run.Area(PageId::frmP1, 11).FontBold);
+    std::filesystem::remove(run.folder / "Proposals/Backup/Ann.hpf");
     modFile::ReadFileProperties(run.program);
     EXPECT_EQ(run.program.format.PropertyLines, std::vector<std::string>{"frmP1.txt(10).FontBold=True"});
-    EXPECT_EQ(parsed, 1);
+    EXPECT_TRUE(run.Area(PageId::frmP1, 10).FontBold);
+    run.folder.Write("Proposals/Backup/Ann.hpf", "not this one\r\n");
     run.program.format.PropertyLines = {"a", "b"};
     EXPECT_EQ(modFile::SavePropertyFile(run.program), SaveResult::Saved);
     EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "a\r\nb\r\n");
