@@ -23,6 +23,7 @@ void txt_GotFocus(Program& program, PageId page, int index) {
     program.main.ActivePage = page;
     program.main.CurrentPage = IndexOf(page);
     editing.CurrentArea = index;
+    editing.EmptiedAmount.reset();
     if (!IsFinal(page)) {
         editing.CurrentLimit = geometry::LimitText(area.Tag);
         editing.CurrentWidth = area.Width;

@@ -169,6 +169,23 @@ TEST(ExemptMark, GoesWithTheTextThatIsTakenAway) {
     EXPECT_EQ(Figures(run)[1], "9.00");
 }
 
+TEST(ExemptMark, SetOnAnEmptyAreaWaitsForTheAmount) {
+    Anns run;
+    run.typist.Click(kSecond, 33);
+    run.typist.Type("5");
+    run.typist.Press(keys::kBackspace);
+    run.typist.Click(kSecond, 34);
+    run.typist.Click(kSecond, 33);
+    run.program.hooks.UpdateTextMenu(run.program);
+    commands::Run(run.program, CommandId::mnuEditTextTaxExempt);
+    run.typist.Click(kSecond, 34);
+    EXPECT_TRUE(run.Marked(kSecond, 33));
+    run.Amount(kSecond, 33, "5");
+    run.typist.Click(kSecond, 34);
+    EXPECT_EQ(Figures(run)[0], "5.00");
+    EXPECT_EQ(Figures(run)[1], "0.00");
+}
+
 TEST(ExemptMark, OfAnEmptyAreaIsNotWrittenAndNotRead) {
     Anns run;
     run.typist.Click(kFirst, 20);
