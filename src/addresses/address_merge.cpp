@@ -6,8 +6,8 @@
 #include "addresses/ask.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "editing/area_colours.h"
 #include "editing/selection.h"
-#include "editing/text_areas.h"
 #include "pages/fields.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
@@ -54,7 +54,7 @@ void Write(Program& program, const AreaText& value) {
     program.editing.LastKeyChar.clear(); // a stale key must not move the text on into another row
     modFields::SetText(program, field, value.Text);
     TextArea& area = modFields::Area(program, field);
-    if (area.BackColor == colors::kOverLimit && !modText::OverLimit(program, PageId::frmP1, area)) {
+    if (area.BackColor == colors::kOverLimit && !modAreaColours::OverLimit(program, PageId::frmP1, area)) {
         area.BackColor = program.main.Focus == field ? colors::kFocused : colors::kResting;
     }
 }

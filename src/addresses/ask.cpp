@@ -10,7 +10,8 @@ void Tell(Program& program, std::string_view message) {
 }
 
 Consent AskOrNo(Program& program, std::string_view question, std::string_view title) {
-    const Answer answer = program.platform.questions.MsgBox(question, Buttons::YesNo, title);
+    const Answer answer =
+        program.platform.questions.MsgBox(question, Buttons::YesNo, title, {.Default = Answer::No});
     return answer == Answer::Yes ? Consent::Given : Consent::Refused;
 }
 
@@ -20,7 +21,8 @@ Consent AskToCut(Program& program, const std::vector<std::string>& captions) {
         words += text::kCrLf;
         words += caption;
     }
-    const Answer answer = program.platform.questions.MsgBox(words, Buttons::OkCancel, "");
+    const Answer answer =
+        program.platform.questions.MsgBox(words, Buttons::OkCancel, "", {.Default = Answer::Cancel});
     return answer == Answer::Ok ? Consent::Given : Consent::Refused;
 }
 

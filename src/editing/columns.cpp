@@ -7,7 +7,8 @@
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "program/errors.h"
 #include "program/program.h"
 

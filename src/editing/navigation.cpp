@@ -3,7 +3,7 @@
 #include "editing/keys.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "program/program.h"
 
 #include <optional>

@@ -1,10 +1,9 @@
 #include "editing/selection.h"
 
 #include "editing/area_contents.h"
-#include "editing/text_areas.h"
 #include "editing/text_menu.h"
+#include "editing/typing.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
 #include "program/errors.h"
 #include "program/program.h"
 
@@ -92,6 +91,12 @@ std::vector<AreaContents> ContentsOfRun(const Program& program, PageId page, std
         contents.push_back(ReadContents(program, page, index));
     }
     return contents;
+}
+
+void RefuseAmountsAlone(Program& program) {
+    program.platform.questions.MsgBox("Cannot select Amount Areas only. Please copy Description Areas also.",
+                                      Buttons::Ok, "");
+    DeSelectAllControls(program);
 }
 
 } // namespace
@@ -190,9 +195,7 @@ Selection ReadSelectionRuns(Program& program) {
     const bool left = ReadRun(program, page, rows, 0);
     block.HasRightRun = ReadRun(program, page, {rows.Last + 1, geometry::LastText(page)}, 1);
     if (!left && block.HasRightRun) {
-        program.platform.questions.MsgBox(
-            "Cannot select Amount Areas only. Please copy Description Areas also.", Buttons::Ok, "");
-        DeSelectAllControls(program);
+        RefuseAmountsAlone(program);
         return Selection::Refused;
     }
     if (!left) {

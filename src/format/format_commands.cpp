@@ -9,13 +9,13 @@
 #include "program/windows.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
 #include "proposal/reset.h"
 #include "settings/settings.h"
 
 #include <memory>
 
-namespace modMain {
+namespace modFormat {
 
 namespace {
 
@@ -28,7 +28,7 @@ void ClearFormat(Program& program) {
     program.format.FormatTextChanges = {};
     program.format.FormatLabelChanges = {};
     program.format.FormatLines.clear();
-    if (StartNewFile(program) == ResetResult::Refused) {
+    if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         program.format = before;
         program.settings.LoadDefaultFormat = loadDefault;
         return;
@@ -43,8 +43,8 @@ bool FormatHasChanges(Program& program) {
 } // namespace
 
 void mnuFileFormatNew_Click(Program& program) {
-    const bool asks =
-        FormatHasChanges(program) || SomethingChanged(program) || modFile::PropertiesChanged(program);
+    const bool asks = FormatHasChanges(program) || modProposal::SomethingChanged(program) ||
+                      modFile::PropertiesChanged(program);
     if (asks &&
         program.platform.questions.MsgBox(text::Lines({"This action will clear all current data if",
                                                        "the data hasn't already been saved. Continue?"}),
@@ -55,7 +55,7 @@ void mnuFileFormatNew_Click(Program& program) {
 }
 
 void mnuFileFormatOpen_Click(Program& program) {
-    if (!MayGoOn(program)) {
+    if (!modProposal::MayGoOn(program)) {
         return;
     }
     program.document.FileFilter = "*.fmt";
@@ -93,4 +93,4 @@ void mnuFileFormatDefault_Click(Program& program) {
     modSettings::SaveUserPreferences(program);
 }
 
-} // namespace modMain
+} // namespace modFormat

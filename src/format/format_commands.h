@@ -2,7 +2,7 @@
 
 struct Program;
 
-namespace modMain {
+namespace modFormat {
 
 /// The commands of the format menu as far as the open proposal is concerned. What a format file holds, and
 /// how it is read and written, is behind the hooks.
@@ -16,4 +16,4 @@ void mnuFileFormatDelete_Click(Program& program);
 /// Saves the format and makes it the one that new proposals begin with.
 void mnuFileFormatDefault_Click(Program& program);
 
-} // namespace modMain
+} // namespace modFormat

@@ -5,7 +5,7 @@
 #include "base/text.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
 #include "program/errors.h"
 #include "program/program.h"
 

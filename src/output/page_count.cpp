@@ -3,7 +3,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/text_width.h"
 #include "program/program.h"
 
 #include <algorithm>

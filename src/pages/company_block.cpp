@@ -1,6 +1,6 @@
 #include "pages/company_block.h"
 
-#include "pages/page_setup.h"
+#include "pages/page_defaults.h"
 #include "pages/titles.h"
 #include "program/program.h"
 
@@ -59,7 +59,7 @@ void CompanyInfoChanged(Program& program, const SettingsRecords& before) {
     }
     SizeRemittanceBox(program);
     program.document.CompanyBlockPending = true;
-    modMain::SetPageHeading(program, "Contract Proposal");
+    modTitles::SetPageHeading(program, "Contract Proposal");
 }
 
 } // namespace modPages

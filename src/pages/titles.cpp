@@ -1,10 +1,10 @@
 #include "pages/titles.h"
 
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/text_width.h"
 #include "program/program.h"
 
-namespace modMain {
+namespace modTitles {
 
 namespace {
 
@@ -67,4 +67,4 @@ void SetPageHeading(Program& program, const char* what) {
                                        : program.settings.PageTitles;
 }
 
-} // namespace modMain
+} // namespace modTitles

@@ -2,7 +2,7 @@
 
 struct Program;
 
-namespace modMain {
+namespace modTitles {
 
 /// Lays the client's line on all pages, centred, shows it in `lblEvent`, and writes the main window's title.
 /// An empty ClientCaption becomes "Proposal for (Client's Name)".
@@ -18,4 +18,4 @@ void LayTitles(Program& program);
 /// - ".
 void SetPageHeading(Program& program, const char* what);
 
-} // namespace modMain
+} // namespace modTitles

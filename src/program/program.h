@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "program/address_records.h"
+#include "program/calendar_records.h"
 #include "program/change_records.h"
 #include "program/document_records.h"
 #include "program/editing_records.h"
@@ -33,6 +34,7 @@ struct Program {
     EditingState editing;
     PrintRecords printing;
     AddressRecords addresses;
+    CalendarRecords calendar;
     MainWindow main;
     WindowCollection windows;
 };

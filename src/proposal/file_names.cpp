@@ -7,7 +7,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 
-namespace modMain {
+namespace modNames {
 
 bool IllegalFileName(Program& program, std::string_view name) {
     constexpr std::string_view kIllegal = "/\\:*?<>|";
@@ -29,8 +29,7 @@ void ShowDuplicateFileOptions(Program& program, std::string_view name) {
                          dates::GeneralDate(files::ModifiedSerial(path)), "", "with this one?"});
         if (program.platform.questions.MsgBox(question, Buttons::YesNo, "Duplicate File Name on Record") ==
             Answer::Yes) {
-            files::Delete(path);
-            return;
+            return; // the new bytes replace the file in one step
         }
         program.platform.questions.MsgBox("File not saved.", Buttons::Ok, "");
         program.document.Cancelled = true;
@@ -47,4 +46,4 @@ void SetBaseName(Program& program, std::string_view baseName) {
     program.document.DepositFile = program.document.BaseName + ".dep";
 }
 
-} // namespace modMain
+} // namespace modNames

@@ -4,13 +4,15 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
+#include "pages/logo.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "proposal/delete_files.h"
 #include "proposal/file_names.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_open.h"
 #include "proposal/reset.h"
 
 #include <algorithm>
@@ -61,6 +63,7 @@ void frmFile::Form_Load(Program& program) {
 void frmFile::Form_Unload(Program& program) {
     program.document.FileFilter = "*.hef";
     program.document.DeleteMode = false;
+    program.document.IgnoreProperties = false; // a choice for the file that was chosen here
     if (!done_) {
         // A folder that was only looked at must not become the place where the open proposal is saved.
         program.document.FilePath = filePathBefore_;
@@ -192,7 +195,7 @@ void frmFile::OpenFormat(Program& program) {
     format.FormatName = selected_;
     format.FormatOpen = true;
     program.settings.LoadDefaultFormat = false;
-    if (modMain::StartNewFile(program) == modMain::ResetResult::Refused) {
+    if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         format = before;
         program.settings.LoadDefaultFormat = loadDefault;
         return;
@@ -203,7 +206,7 @@ void frmFile::OpenFormat(Program& program) {
 
 void frmFile::OpenLogo(Program& program) {
     const std::string path = paths::Join(Folder, selected_);
-    if (!modPages::ShowLogo(program, path)) {
+    if (!modLogo::ShowLogo(program, path)) {
         program.platform.questions.MsgBox("The file " + selected_ + " is not a picture that can be shown.",
                                           Buttons::Ok, "");
         return;
@@ -225,7 +228,7 @@ void frmFile::OpenProposal(Program& program) {
     }
     const bool existed = document.FileExists;
     document.FileExists = true;
-    if (modMain::StartNewFile(program) == modMain::ResetResult::Refused) {
+    if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         document.FileExists = existed;
         return;
     }
@@ -248,7 +251,7 @@ void frmFile::DeleteSelected(Program& program) {
         return;
     }
     try {
-        modMain::DeleteProposalFiles(Folder, selected_);
+        modFile::DeleteProposalFiles(Folder, selected_);
     } catch (const std::exception& error) {
         questions.MsgBox("An Error occurred trying to delete the file.", Buttons::Ok, "");
         ReportError(program, "frmFile", error);

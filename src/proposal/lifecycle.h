@@ -4,7 +4,7 @@
 
 struct Program;
 
-namespace modMain {
+namespace modProposal {
 
 /// Whether any text differs from its saved form.
 [[nodiscard]] bool SomethingChanged(Program& program);
@@ -23,4 +23,4 @@ void mnuFileSaveAs_Click(Program& program);
 void mnuFileDelete_Click(Program& program);
 void mnuFileRestoreFromBackup_Click(Program& program);
 
-} // namespace modMain
+} // namespace modProposal

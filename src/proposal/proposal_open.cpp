@@ -1,3 +1,5 @@
+#include "proposal/proposal_open.h"
+
 #include "base/files.h"
 #include "base/guard.h"
 #include "base/numbers.h"
@@ -5,14 +7,17 @@
 #include "base/text.h"
 #include "money/totals.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
 #include "pages/quantity_row.h"
+#include "pages/row_fields.h"
 #include "pages/titles.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
 #include "proposal/file_names.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/slot_widths.h"
+#include "proposal/side_files.h"
 
 #include <algorithm>
 
@@ -114,7 +119,7 @@ void TakeKind(Program& program) {
         program.run.FUTFileName = wedding ? "Wedding Terms.fut" : "Default Terms.fut";
     }
     if (program.settings.PageTitles.empty()) {
-        modMain::SetPageHeading(program, wedding ? "Wedding Proposal" : "Event Proposal");
+        modTitles::SetPageHeading(program, wedding ? "Wedding Proposal" : "Event Proposal");
     }
 }
 
@@ -163,16 +168,16 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
         program.main[CommandId::mnuFileDelete].Enabled = true;
         modTotals::TotalsAfterReading(program);
     }
-    modMain::SetBaseName(program, paths::BaseOf(fileName));
+    modNames::SetBaseName(program, paths::BaseOf(fileName));
     document.ClientCaption = "Proposal for " + document.BaseName;
     TakeKind(program);
     program.main.imgFootNotes.Picture =
-        FileIsThere(modFolders::DataFolder(program), document.FootnoteFile) ? 1 : 0;
+        FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile) ? 1 : 0;
     if (program.settings.ShowFUT && program.hooks.ReadFrequentlyUsedTerms) {
         program.hooks.ReadFrequentlyUsedTerms(program);
     }
     SettleLogo(program);
-    modMain::UpdateEventNameLabels(program);
+    modTitles::UpdateEventNameLabels(program);
     if (program.hooks.UpdatePageButtons) {
         program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
     }

@@ -1,16 +1,19 @@
+#include "proposal/proposal_save.h"
+
 #include "base/files.h"
 #include "base/guard.h"
 #include "base/paths.h"
-#include "base/text.h"
 #include "money/totals.h"
 #include "pages/fields.h"
-#include "pages/page_geometry.h"
 #include "pages/titles.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
 #include "proposal/file_names.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/slot_widths.h"
+
+#include <string>
 
 namespace modFile {
 
@@ -47,7 +50,7 @@ bool NameIsSettled(Program& program) {
     if (document.FilePath.empty()) {
         document.FilePath = modFolders::DataFolder(program);
     }
-    if (!document.SaveAsActive && modMain::IllegalFileName(program, document.FileName)) {
+    if (!document.SaveAsActive && modNames::IllegalFileName(program, document.FileName)) {
         GoToClientName(program);
         return false;
     }
@@ -61,7 +64,7 @@ bool NameIsSettled(Program& program) {
         return false;
     }
     if (FileIsThere(document.FilePath, document.FileName)) {
-        modMain::ShowDuplicateFileOptions(program, document.FileName);
+        modNames::ShowDuplicateFileOptions(program, document.FileName);
         if (document.Cancelled) {
             document.Cancelled = false;
             return false;
@@ -146,33 +149,13 @@ void SavingSteps(Program& program, SaveResult& result) {
     document.SavedStateStale = propertiesLost;
     result = SaveResult::Saved;
     program.main[CommandId::mnuFileDelete].Enabled = true;
-    modMain::UpdateEventNameLabels(program);
+    modTitles::UpdateEventNameLabels(program);
     if (!document.BackingUp) {
         program.platform.questions.MsgBox("File was saved as " + document.FileName, Buttons::Ok, "");
     }
 }
 
-std::string PropertyFolder(const Program& program) {
-    return program.document.FromBackup ? modFolders::DataFolder(program) : program.document.FilePath;
-}
-
-std::string PropertyName(const Program& program) {
-    return program.document.BaseName + ".hpf";
-}
-
 } // namespace
-
-proposal::Widths SlotWidths(const Program& program) {
-    proposal::Widths widths;
-    for (const PageId page : kEditedPages) {
-        auto& list = widths[static_cast<std::size_t>(IndexOf(page))];
-        list.reserve(program.pages[page].txt.size());
-        for (const TextArea& area : program.pages[page].txt) {
-            list.push_back(geometry::LimitOf(area.Tag));
-        }
-    }
-    return widths;
-}
 
 SaveResult SaveEventFile(Program& program) {
     SaveResult result = SaveResult::NotSaved;
@@ -195,56 +178,6 @@ void BackupThisFile(Program& program) {
         program.document.BackingUp = true;
         SaveEventFile(program);
     });
-}
-
-SaveResult SavePropertyFile(Program& program) {
-    const bool done = Guarded(program, "SavePropertyFile", [&] {
-        std::string bytes;
-        for (const std::string& line : program.format.PropertyLines) {
-            bytes += line;
-            bytes += text::kCrLf;
-        }
-        const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
-        if (files::Exists(path)) {
-            files::Delete(path);
-        }
-        files::WriteWhole(path, bytes);
-        ClearLabelMarks(program);
-    });
-    return done ? SaveResult::Saved : SaveResult::NotSaved;
-}
-
-void ReadFileProperties(Program& program) {
-    Guarded(program, "ReadFileProperties", [&] {
-        program.format.PropertyLines.clear();
-        const std::string folder = PropertyFolder(program);
-        if (!FileIsThere(folder, PropertyName(program))) {
-            return;
-        }
-        program.format.PropertyLines =
-            text::SplitLines(files::ReadAll(paths::Join(folder, PropertyName(program))));
-        if (!program.format.PropertyLines.empty() && program.hooks.ParsePropertyFile) {
-            program.hooks.ParsePropertyFile(program);
-        }
-    });
-}
-
-bool PropertiesChanged(const Program& program) {
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
-        for (const TextChangeRecord& record : program.format.PropTextChanges[page]) {
-            if (record.Dirty) {
-                return true;
-            }
-        }
-    }
-    for (const auto& page : program.format.LabelSavedState) {
-        for (const LabelChangeRecord& label : page) {
-            if (label.Changed) {
-                return true;
-            }
-        }
-    }
-    return program.document.SavedStateStale;
 }
 
 bool ClientNameChanged(const Program& program) {

@@ -3,16 +3,20 @@
 #include "base/files.h"
 #include "base/guard.h"
 #include "base/paths.h"
+#include "pages/logo.h"
+#include "pages/page_defaults.h"
+#include "pages/page_fonts.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
 #include "pages/titles.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/windows.h"
 #include "proposal/file_names.h"
 
 #include <array>
 
-namespace modMain {
+namespace modReset {
 
 namespace {
 
@@ -137,7 +141,7 @@ void TakeFormat(Program& program, bool loadDefault) {
         program.hooks.OpenFormatFile(program);
         return;
     }
-    modPages::LoadLogo(program);
+    modLogo::LoadLogo(program);
 }
 
 void ResetSteps(Program& program) {
@@ -146,8 +150,8 @@ void ResetSteps(Program& program) {
                              program.settings.LoadDefaultFormat &&
                              static_cast<bool>(program.hooks.OpenFormatFile);
     ClearNames(program);
-    SetPageHeading(program, "Event Proposal");
-    UpdateEventNameLabels(program);
+    modTitles::SetPageHeading(program, "Event Proposal");
+    modTitles::UpdateEventNameLabels(program);
     program.main.Caption = "Quillbrook";
     program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled = false;
     program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
@@ -167,19 +171,18 @@ ResetResult StartNewFile(Program& program) {
     Guarded(program, "StartNewFile", [&] {
         {
             const ScopedFlag active(program.guards.ResetActive);
-            if (program.hooks.CloseFootnotes) {
-                program.hooks.CloseFootnotes(program);
-            }
             if (FormatEditingGoesOn(program)) {
                 result = ResetResult::Refused;
                 return;
             }
+            // Whoever leaves the proposal has been asked about them already.
+            modWindows::CloseProposalWindows(program);
             ResetSteps(program);
         }
         if (program.hooks.UpdatePageButtons) {
             program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
         }
-        UpdateFooters(program);
+        modTitles::UpdateFooters(program);
         if (program.document.CompanyBlockPending) {
             program.document.CompanyBlockPending = false;
             modPages::SizeRemittanceBox(program);
@@ -191,16 +194,4 @@ ResetResult StartNewFile(Program& program) {
     return result;
 }
 
-void DeleteProposalFiles(std::string_view folder, std::string_view fileName) {
-    // By the name that was chosen, not by one put together: names may differ in nothing but their case.
-    files::Delete(paths::Join(folder, fileName));
-    const std::string base = paths::Join(folder, paths::BaseOf(fileName));
-    for (const std::string_view extension : {".hpf", ".txt", ".hxt", ".dep"}) {
-        const std::string side = base + std::string(extension);
-        if (files::Exists(side)) {
-            files::Delete(side);
-        }
-    }
-}
-
-} // namespace modMain
+} // namespace modReset

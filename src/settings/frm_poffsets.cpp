@@ -4,19 +4,19 @@
 #include "base/text.h"
 #include "program/program.h"
 #include "program/windows.h"
-#include "settings/settings.h"
+#include "settings/printer_offsets.h"
 
 void frmPOffsets::Form_Load(Program& program) {
     Caption = "Printer Offsets";
     // The boxes begin with what is in force, so that one of them can be changed alone.
-    txtX.Text = modSettings::InchesOf(program.printing.PrinterOffsetX);
-    txtY.Text = modSettings::InchesOf(program.printing.PrinterOffsetY);
+    txtX.Text = modOffsets::InchesOf(program.printing.PrinterOffsetX);
+    txtY.Text = modOffsets::InchesOf(program.printing.PrinterOffsetY);
     ShowValues(program);
 }
 
 void frmPOffsets::ShowValues(const Program& program) {
     const auto inches = [](float twips) {
-        return numbers::FormatSingle(twips / modSettings::kTwipsPerInch, "#0.00") + "\"";
+        return numbers::FormatSingle(twips / modOffsets::kTwipsPerInch, "#0.00") + "\"";
     };
     lblX.Caption =
         "Printer X Offset (Horizontal) - Current Value = " + inches(program.printing.PrinterOffsetX);
@@ -33,14 +33,14 @@ int frmPOffsets::txt_KeyPress(int keyAscii) {
 }
 
 void frmPOffsets::cmdOK_Click(Program& program) {
-    program.printing.PrinterOffsetX = modSettings::TwipsOf(txtX.Text);
-    program.printing.PrinterOffsetY = modSettings::TwipsOf(txtY.Text);
+    program.printing.PrinterOffsetX = modOffsets::TwipsOf(txtX.Text);
+    program.printing.PrinterOffsetY = modOffsets::TwipsOf(txtY.Text);
     ShowValues(program);
 }
 
 void frmPOffsets::cmdSavePrinterOffsets_Click(Program& program) {
     cmdOK_Click(program);
-    modSettings::SavePrinterOffsets(program);
+    modOffsets::SavePrinterOffsets(program);
     modWindows::Close(program, *this);
 }
 

@@ -3,7 +3,7 @@
 #include "base/numbers.h"
 #include "program/program.h"
 #include "program/windows.h"
-#include "settings/settings.h"
+#include "settings/tax_rate.h"
 
 void frmTax::Form_Load(Program& program) {
     Caption = "Sales Tax Rate";
@@ -19,7 +19,7 @@ int frmTax::txtTaxRate_KeyPress(int keyAscii) {
 }
 
 void frmTax::cmdOK_Click(Program& program) {
-    modSettings::SaveTaxRate(program, numbers::Format(numbers::Val(txtTaxRate.Text), "##.00"));
+    modTax::SaveTaxRate(program, numbers::Format(numbers::Val(txtTaxRate.Text), "##.00"));
     program.run.SplashShown = false;
     modWindows::Close(program, *this);
 }
@@ -31,3 +31,16 @@ void frmTax::cmdCancel_Click(Program& program) {
 void frmTax::Form_Cancel(Program& program) {
     modWindows::Close(program, *this);
 }
+
+namespace modTax {
+
+void GetTaxRate(Program& program) {
+    ReadTaxRate(program);
+    if (program.totals.TaxRate == 0 &&
+        program.platform.questions.MsgBox("The current sales tax rate is 0%. Do you want to change it now?",
+                                          Buttons::YesNo, "Sales Tax Rate is 0.0%") == Answer::Yes) {
+        modWindows::Show(program, std::make_unique<frmTax>());
+    }
+}
+
+} // namespace modTax

@@ -21,3 +21,10 @@ public:
     void cmdOK_Click(Program& program);
     void cmdCancel_Click(Program& program);
 };
+
+namespace modTax {
+
+/// Reads the tax rate; a rate of zero asks whether to change it.
+void GetTaxRate(Program& program);
+
+} // namespace modTax

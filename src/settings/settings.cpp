@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "settings/printer_offsets.h"
 
 #include <array>
 #include <cmath>
@@ -244,9 +245,9 @@ void EnsureFolders(Program& program) {
     }
 }
 
-/// Makes way for the file as it will be. One that could not be read is not thrown away: what it holds is
-/// nowhere else.
-void KeepUnread(const Program& program, const std::string& path) {
+/// Deletes the file that stands. One that could not be read is set aside instead: what it holds is nowhere
+/// else.
+void MakeWayForFile(const Program& program, const std::string& path) {
     if (program.settings.PrefsRead || program.settings.ReadingPrefs || files::IsFolder(path)) {
         files::Delete(path);
         return;
@@ -280,7 +281,7 @@ void GetUserPreferences(Program& program) {
             SaveUserPreferences(program);
         }
         EnsureFolders(program);
-        ReadPrinterOffsets(program);
+        modOffsets::ReadPrinterOffsets(program);
         settings.PrefsRead = true;
     });
 }
@@ -295,7 +296,7 @@ bool SaveUserPreferences(Program& program) {
             bytes += text::kCrLf;
         }
         if (files::Exists(path)) {
-            KeepUnread(program, path);
+            MakeWayForFile(program, path);
         }
         files::WriteWhole(path, bytes);
     });
@@ -308,39 +309,6 @@ void SetLine(Program& program, Key key, std::string_view value) {
         lines.emplace_back(kKeys[lines.size()]);
     }
     lines[at] = std::string(KeyText(key)) + std::string(value);
-}
-
-void RequestNetworkSharePath(Program& program) {
-    const std::string prompt =
-        "Please enter the network share DRIVE LETTER now, singularly without symbols... i.e., c, d, e, f, g, "
-        "etc."
-        "\r\n\r\n"
-        "The network share drive is the drive where the Proposal Files will now reside to be shared within "
-        "the network. "
-        "If this install is on a stand alone system (non-network), the drive letter will likely be \"c\", "
-        "otherwise it "
-        "could be \"f\" or \"g\" or any other letter."
-        "\r\n\r\n"
-        "If you're unsure of the network share drive, press Cancel to resume the current Proposal Folder.";
-    const std::string reply = program.platform.questions.InputBox(prompt, "Proposal Directory Setup", "");
-    if (reply.empty()) {
-        return;
-    }
-    const char first = reply.front();
-    const bool letter =
-        reply.size() == 1 && ((first >= 'A' && first <= 'Z') || (first >= 'a' && first <= 'z'));
-    if (!letter && !paths::IsSeparator(first)) {
-        program.platform.questions.MsgBox(
-            text::Lines({"You have not entered a valid Drive Letter. Please",
-                         "contact the Help File for assistance in setting up", "a network share path."}),
-            Buttons::Ok, "");
-        return;
-    }
-    const std::string folder = letter ? reply + ":\\" : paths::WithSeparator(reply);
-    SetLine(program, Key::SharedDirectory, folder);
-    SaveUserPreferences(program);
-    GetUserPreferences(program);
-    program.document.FilePath = program.folders.ProposalsFolder;
 }
 
 } // namespace modSettings

@@ -4,9 +4,10 @@
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_save.h"
 
-namespace modMain {
+namespace modClosing {
 
 void mnuFileExit_Click(Program& program) {
     if (MDIForm_QueryUnload(program)) {
@@ -20,7 +21,14 @@ bool MDIForm_QueryUnload(Program& program) {
     }
     // The window may be closed with an arrow still held; what it has moved counts as changed text.
     modBlocks::FinishMove(program);
-    if (program.main.Closing || (!SomethingChanged(program) && !modFile::PropertiesChanged(program))) {
+    if (program.main.Closing) {
+        return true;
+    }
+    // The windows beside the proposal first: a deposit that is saved there still reaches the proposal's file.
+    if (!modWindows::MayLeave(program, Leaving::Run)) {
+        return false;
+    }
+    if (!modProposal::SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
         return true;
     }
     const Answer answer = program.platform.questions.MsgBox(
@@ -43,4 +51,4 @@ void MDIForm_Unload(Program& program) {
     program.platform.events.Quit();
 }
 
-} // namespace modMain
+} // namespace modClosing

@@ -43,21 +43,21 @@ void frmMain::lblTextNum_DblClick() {
 
 // Wanted: this button shows its pressed look and starts nothing; a new proposal starts from the menu.
 void frmMain::imgNew_MouseDown() {
-    modMain::PressToolButton(program_, program_.main.imgNew);
+    modToolButtons::PressToolButton(program_, program_.main.imgNew);
 }
 
 void frmMain::imgOpen_MouseDown() {
-    modMain::PressToolButton(program_, program_.main.imgOpen);
+    modToolButtons::PressToolButton(program_, program_.main.imgOpen);
     commands::Run(program_, CommandId::mnuFileOpenEvent);
 }
 
 void frmMain::imgFootNotes_MouseDown() {
-    modMain::PressToolButton(program_, program_.main.imgFootNotes);
+    modToolButtons::PressToolButton(program_, program_.main.imgFootNotes);
     commands::Run(program_, CommandId::mnuFileOpenFootnotes);
 }
 
 void frmMain::imgPrint_Click() {
-    modMain::PressToolButton(program_, program_.main.imgPrint);
+    modToolButtons::PressToolButton(program_, program_.main.imgPrint);
     commands::Run(program_, CommandId::mnuFilePrintAll);
 }
 

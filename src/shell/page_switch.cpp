@@ -3,7 +3,7 @@
 #include "base/guard.h"
 #include "output/preview.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/page_show.h"
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/windows.h"

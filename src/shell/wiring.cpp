@@ -2,9 +2,10 @@
 
 #include "editing/block_moves.h"
 #include "editing/columns.h"
+#include "editing/leaving.h"
 #include "editing/selection.h"
-#include "editing/text_areas.h"
 #include "editing/text_menu.h"
+#include "editing/typing.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
 

@@ -1,5 +1,4 @@
 #include "desktop/desktop_run.h"
-
 #include "desktop/convert.h"
 #include "desktop/tool_strip.h"
 #include "pages/fields.h"
@@ -23,7 +22,7 @@ DesktopRun::DesktopRun() {
     Wire(program);
     window = std::make_unique<FrmMainView>(program, measure);
     events.Follow = [this] { window->Follow(); };
-    EXPECT_EQ(modMain::Main(program), modMain::StartResult::Running);
+    EXPECT_EQ(modStart::Main(program), modStart::StartResult::Running);
     PassSplash(program);
     window->AfterEvent();
     window->showNormal();

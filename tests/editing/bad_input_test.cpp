@@ -1,5 +1,5 @@
 #include "pages/fields.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "shell/input.h"
 #include "support/running_program.h"
 #include "support/typist.h"

@@ -1,7 +1,7 @@
 #include "editing/columns.h"
 #include "editing/keys.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "shell/command_run.h"
 #include "shell/input.h"
 #include "support/running_program.h"

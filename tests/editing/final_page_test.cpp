@@ -1,5 +1,5 @@
 #include "editing/keys.h"
-#include "editing/text_areas.h"
+#include "editing/typing.h"
 #include "pages/fields.h"
 #include "shell/input.h"
 #include "support/running_program.h"

@@ -1,6 +1,6 @@
 #include "editing/keys.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "shell/page_switch.h"
 #include "support/running_program.h"
 #include "support/typist.h"

@@ -1,5 +1,7 @@
+#include "editing/area_mouse.h"
 #include "editing/block_actions.h"
-#include "editing/text_areas.h"
+#include "editing/keys.h"
+#include "pages/row_fields.h"
 #include "shell/frm_main.h"
 
 namespace {

@@ -1,5 +1,4 @@
 #include "format/format_commands.h"
-
 #include "program/windows.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
@@ -53,7 +52,7 @@ struct Formats : RunningProgram {
 TEST(FormatNew, WithNothingToLoseAsksNothing) {
     Formats run;
     run.OpenHouse();
-    modMain::mnuFileFormatNew_Click(run.program);
+    modFormat::mnuFileFormatNew_Click(run.program);
     run.ExpectNoFormat();
 }
 
@@ -62,11 +61,11 @@ TEST(FormatNew, UnsavedTextAsksAndAnythingButYesStops) {
     run.OpenHouse();
     run.Type();
     run.surroundings.questions.ExpectBox(kClearQuestion, Answer::No);
-    modMain::mnuFileFormatNew_Click(run.program);
+    modFormat::mnuFileFormatNew_Click(run.program);
     EXPECT_TRUE(run.program.format.FormatOpen);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "Hall");
     run.surroundings.questions.ExpectBox(kClearQuestion, Answer::Yes);
-    modMain::mnuFileFormatNew_Click(run.program);
+    modFormat::mnuFileFormatNew_Click(run.program);
     run.ExpectNoFormat();
     EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "");
 }
@@ -75,11 +74,11 @@ TEST(FormatNew, AChangedFormatOrPropertyAsksToo) {
     Formats run;
     run.program.hooks.FormatHasChanges = [](Program&) { return true; };
     run.surroundings.questions.ExpectBox(kClearQuestion, Answer::No);
-    modMain::mnuFileFormatNew_Click(run.program);
+    modFormat::mnuFileFormatNew_Click(run.program);
     run.program.hooks.FormatHasChanges = [](Program&) { return false; };
     run.program.format.LabelSavedState[0][3].Changed = true;
     run.surroundings.questions.ExpectBox(kClearQuestion, Answer::No);
-    modMain::mnuFileFormatNew_Click(run.program);
+    modFormat::mnuFileFormatNew_Click(run.program);
 }
 
 TEST(FormatNew, GoingOnWithTheEditingOfAFormatKeepsIt) {
@@ -88,7 +87,7 @@ TEST(FormatNew, GoingOnWithTheEditingOfAFormatKeepsIt) {
     run.program.format.EditingFormat = true;
     run.surroundings.questions.ExpectBox(kEndQuestion, Answer::No);
     run.surroundings.questions.Expect("Resume Editing.");
-    modMain::mnuFileFormatNew_Click(run.program);
+    modFormat::mnuFileFormatNew_Click(run.program);
     EXPECT_TRUE(run.program.format.FormatOpen);
     EXPECT_EQ(run.program.format.FormatName, "House.fmt");
     EXPECT_TRUE(run.program.settings.LoadDefaultFormat);
@@ -97,7 +96,7 @@ TEST(FormatNew, GoingOnWithTheEditingOfAFormatKeepsIt) {
 TEST(FormatOpen, ListsFormatsAndTakesTheChosenOne) {
     Formats run;
     run.program.settings.LoadDefaultFormat = true;
-    modMain::mnuFileFormatOpen_Click(run.program);
+    modFormat::mnuFileFormatOpen_Click(run.program);
     EXPECT_EQ(run.Chooser().Caption, "Opening Format File");
     ASSERT_EQ(run.Chooser().FileList1.Items, std::vector<std::string>{"House.fmt"});
     int opened = 0;
@@ -117,7 +116,7 @@ TEST(FormatOpen, UnsavedTextIsAskedForFirst) {
     Formats run;
     run.Type();
     run.surroundings.questions.Expect("Some text has been changed.", Answer::Cancel);
-    modMain::mnuFileFormatOpen_Click(run.program);
+    modFormat::mnuFileFormatOpen_Click(run.program);
     EXPECT_EQ(modWindows::Find(run.program, "frmFile"), nullptr);
     EXPECT_EQ(run.program.document.FileFilter, "*.hef");
 }
@@ -127,7 +126,7 @@ TEST(FormatOpen, RefusingTheResetKeepsTheFormatThatStands) {
     run.OpenHouse();
     run.program.format.EditingFormat = true;
     run.folder.Write("Proposals/Barn.fmt", "lines");
-    modMain::mnuFileFormatOpen_Click(run.program);
+    modFormat::mnuFileFormatOpen_Click(run.program);
     run.Chooser().FileList1_Click(run.program, 0);
     run.surroundings.questions.ExpectBox(kEndQuestion, Answer::No);
     run.surroundings.questions.Expect("Resume Editing.");
@@ -141,7 +140,7 @@ TEST(FormatOpen, RefusingTheResetKeepsTheFormatThatStands) {
 TEST(FormatDelete, WithoutAFormatSaysSo) {
     Formats run;
     run.surroundings.questions.ExpectBox({"There's no Format File open.", Buttons::Ok, ""}, Answer::Ok);
-    modMain::mnuFileFormatDelete_Click(run.program);
+    modFormat::mnuFileFormatDelete_Click(run.program);
     EXPECT_TRUE(run.folder.Has("Proposals/House.fmt"));
 }
 
@@ -149,11 +148,11 @@ TEST(FormatDelete, AsksDeletesTheFileAndStartsWithoutAFormat) {
     Formats run;
     run.OpenHouse();
     run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::No);
-    modMain::mnuFileFormatDelete_Click(run.program);
+    modFormat::mnuFileFormatDelete_Click(run.program);
     EXPECT_TRUE(run.folder.Has("Proposals/House.fmt"));
     EXPECT_TRUE(run.program.format.FormatOpen);
     run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::Yes);
-    modMain::mnuFileFormatDelete_Click(run.program);
+    modFormat::mnuFileFormatDelete_Click(run.program);
     EXPECT_FALSE(run.folder.Has("Proposals/House.fmt"));
     run.ExpectNoFormat();
 }
@@ -164,7 +163,7 @@ TEST(FormatDelete, AFileThatHasGoneMeanwhileIsToldAndTheFormatStays) {
     run.program.format.FormatName = "Gone.fmt";
     run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::Yes);
     run.surroundings.questions.Expect("An error occurred in mnuFileFormatDelete_Click.");
-    modMain::mnuFileFormatDelete_Click(run.program);
+    modFormat::mnuFileFormatDelete_Click(run.program);
     EXPECT_TRUE(run.program.format.FormatOpen);
 }
 
@@ -172,7 +171,7 @@ TEST(FormatDefault, SavesTheFormatAndTheSetting) {
     Formats run;
     int saved = 0;
     run.program.hooks.SaveFileFormat = [&](Program&) { ++saved; };
-    modMain::mnuFileFormatDefault_Click(run.program);
+    modFormat::mnuFileFormatDefault_Click(run.program);
     EXPECT_EQ(saved, 1);
     EXPECT_TRUE(run.program.settings.LoadDefaultFormat);
     EXPECT_NE(run.folder.Read("UserPreferences.txt").find("Load Default Format:True\r\n"), std::string::npos);

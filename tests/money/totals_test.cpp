@@ -1,8 +1,9 @@
 #include "editing/keys.h"
 #include "money/totals.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
-#include "proposal/proposal_file.h"
+#include "pages/page_marks.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_save.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 

@@ -1,12 +1,15 @@
 #include "base/files.h"
 #include "money/totals.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
 #include "pages/quantity_row.h"
+#include "pages/row_fields.h"
 #include "proposal/lifecycle.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
 #include "proposal/proposal_layout.h"
+#include "proposal/proposal_open.h"
+#include "proposal/proposal_save.h"
 #include "proposal/reset.h"
+#include "proposal/slot_widths.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -35,7 +38,7 @@ std::string FileWith(std::initializer_list<std::pair<std::size_t, std::string>> 
 
 modFile::OpenResult Open(RunningProgram& run, const std::string& bytes, const char* name = "A.hef") {
     run.folder.Write(std::string("Proposals/") + name, bytes);
-    static_cast<void>(modMain::StartNewFile(run.program));
+    static_cast<void>(modReset::StartNewFile(run.program));
     return modFile::OpenEventFile(run.program, name);
 }
 
@@ -513,7 +516,7 @@ TEST(OpeningAProposal, WithHiddenTotalsWritesTheDepositAloneAndIsUnchanged) {
     EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "30.00");
     EXPECT_EQ(run.TextOf(PageId::frmP6_1, 4), "30.00");
     EXPECT_FALSE(modTotals::TotalsDiffer(run.program));
-    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
 }
 
 TEST(OpeningAProposal, FiresNoHandlerOfAPageAndPutsItsFlagDown) {

@@ -1,4 +1,7 @@
+#include "settings/frm_tax.h"
+#include "settings/network_share.h"
 #include "settings/settings.h"
+#include "settings/tax_rate.h"
 #include "support/settled.h"
 
 #include <gtest/gtest.h>
@@ -390,7 +393,7 @@ TEST(SharedFolder, IsMadeAndFilledOnYesWithTheTaxFileUnderItsOtherName) {
     EXPECT_EQ(run.program.folders.ProposalsFolder, run.folder / "share/Proposals/");
     // The rate of the new folder is asked for afresh.
     run.surroundings.questions.Expect("The current sales tax rate is 0%.", Answer::No);
-    modSettings::GetTaxRate(run.program);
+    modTax::GetTaxRate(run.program);
     EXPECT_EQ(run.folder.Read("share/Proposals/SalesTax.txt"), "");
 }
 
@@ -439,7 +442,7 @@ TEST(DrivePrompt, IsWordedAsPeopleKnowItAndCancelChangesNothing) {
     Settled run;
     run.folder.Write("UserPreferences.txt", SettingsFile({}));
     run.surroundings.questions.ExpectInput("Proposal Directory Setup", "");
-    modSettings::RequestNetworkSharePath(run.program);
+    modShare::RequestNetworkSharePath(run.program);
     ASSERT_EQ(run.surroundings.questions.Prompts.size(), 1U);
     EXPECT_EQ(run.surroundings.questions.Prompts[0],
               "Please enter the network share DRIVE LETTER now, singularly without symbols... i.e., c, d, e, "
@@ -462,7 +465,7 @@ TEST(DrivePrompt, RefusesWhatIsNoSingleLetter) {
                                               "a network share path.",
                                               Buttons::Ok, ""},
                                              Answer::Ok);
-        modSettings::RequestNetworkSharePath(run.program);
+        modShare::RequestNetworkSharePath(run.program);
         EXPECT_EQ(run.folder.Read("UserPreferences.txt"), SettingsFile({})) << reply;
     }
 }
@@ -474,7 +477,7 @@ TEST(DrivePrompt, ALetterIsKeptAsADriveAndTheHomeFolderStandsForC) {
     modSettings::GetUserPreferences(run.program);
     run.program.document.FileName = "Jane Roe.hef";
     run.surroundings.questions.ExpectInput("Proposal Directory Setup", "c");
-    modSettings::RequestNetworkSharePath(run.program);
+    modShare::RequestNetworkSharePath(run.program);
     EXPECT_EQ(run.folder.Read("UserPreferences.txt"), SettingsFile({{1, "c:\\"}}));
     EXPECT_EQ(run.program.settings.SharedDirectory, "c:\\");
     EXPECT_EQ(run.program.folders.ProposalsFolder, run.folder / "Home/Proposals/");
@@ -488,7 +491,7 @@ TEST(DrivePrompt, AMountedVolumeStandsForItsLetter) {
     run.folder.Write("UserPreferences.txt", SettingsFile({}));
     modSettings::GetUserPreferences(run.program);
     run.surroundings.questions.ExpectInput("Proposal Directory Setup", "F");
-    modSettings::RequestNetworkSharePath(run.program);
+    modShare::RequestNetworkSharePath(run.program);
     EXPECT_EQ(run.program.settings.SharedDirectory, "F:\\");
     EXPECT_EQ(run.program.folders.ProposalsFolder, run.folder / "mnt/f/Proposals/");
 }
@@ -499,7 +502,7 @@ TEST(DrivePrompt, APathFromTheRootIsTakenWithASeparator) {
     run.folder.Write("UserPreferences.txt", SettingsFile({}));
     modSettings::GetUserPreferences(run.program);
     run.surroundings.questions.ExpectInput("Proposal Directory Setup", run.folder / "share");
-    modSettings::RequestNetworkSharePath(run.program);
+    modShare::RequestNetworkSharePath(run.program);
     EXPECT_EQ(run.program.settings.SharedDirectory, run.folder / "share/");
     EXPECT_EQ(run.program.folders.ProposalsFolder, run.folder / "share/Proposals/");
 }

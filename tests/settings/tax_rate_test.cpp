@@ -1,6 +1,6 @@
 #include "program/windows.h"
 #include "settings/frm_tax.h"
-#include "settings/settings.h"
+#include "settings/tax_rate.h"
 #include "support/settled.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ TEST(TaxRate, IsTheLeadingNumberOfFiveCharacters) {
                                       {"12345678", 12345.0F}}) {
         Taxed run;
         run.folder.Write("Proposals/SalesTax.txt", bytes);
-        modSettings::GetTaxRate(run.program);
+        modTax::GetTaxRate(run.program);
         EXPECT_EQ(run.program.totals.TaxRate, rate) << bytes;
     }
 }
@@ -38,18 +38,18 @@ TEST(TaxRate, IsTheLeadingNumberOfFiveCharacters) {
 TEST(TaxRate, AMissingFileIsMadeEmptyAndZeroAsksEveryTime) {
     Taxed run;
     run.surroundings.questions.ExpectBox(kZeroQuestion, Answer::No);
-    modSettings::GetTaxRate(run.program);
+    modTax::GetTaxRate(run.program);
     EXPECT_EQ(run.File(), "");
     EXPECT_TRUE(run.program.windows.Open.empty());
     run.surroundings.questions.ExpectBox(kZeroQuestion, Answer::No);
-    modSettings::GetTaxRate(run.program);
+    modTax::GetTaxRate(run.program);
 }
 
 TEST(TaxRate, YesToTheQuestionShowsTheWindow) {
     Taxed run;
     run.folder.Write("Proposals/SalesTax.txt", std::string(5, '\0'));
     run.surroundings.questions.ExpectBox(kZeroQuestion, Answer::Yes);
-    modSettings::GetTaxRate(run.program);
+    modTax::GetTaxRate(run.program);
     EXPECT_EQ(run.program.totals.TaxRate, 0.0F);
     EXPECT_NE(modWindows::Find(run.program, "frmTax"), nullptr);
 }
@@ -59,14 +59,14 @@ TEST(TaxRate, AFolderInTheFilesPlaceIsTold) {
     run.folder.MakeFolder("Proposals/SalesTax.txt");
     run.ExpectReport("GetTaxRate");
     run.surroundings.questions.ExpectBox(kZeroQuestion, Answer::No);
-    modSettings::GetTaxRate(run.program);
+    modTax::GetTaxRate(run.program);
 }
 
 TEST(TaxRate, WithoutSettingsTheProgramsOwnFolderHoldsIt) {
     Taxed run;
     run.program.folders.ProposalsFolder.clear();
     run.folder.Write("Proposals/SalesTax.txt", "5.00 ");
-    modSettings::GetTaxRate(run.program);
+    modTax::GetTaxRate(run.program);
     EXPECT_EQ(run.program.totals.TaxRate, 5.0F);
 }
 
@@ -74,7 +74,7 @@ TEST(TaxRate, IsWrittenInFiveCharactersAndTold) {
     Taxed run;
     run.folder.Write("Proposals/SalesTax.txt", "8.25 and more");
     run.surroundings.questions.ExpectBox({"New Sales Tax Rate is 9.50 %", Buttons::Ok, ""}, Answer::Ok);
-    modSettings::SaveTaxRate(run.program, "9.50");
+    modTax::SaveTaxRate(run.program, "9.50");
     EXPECT_EQ(run.File(), "9.50 ");
     EXPECT_EQ(run.program.totals.TaxRate, 9.5F);
     EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
@@ -86,13 +86,13 @@ TEST(TaxRate, WithAmountsTheRecalculationIsAskedForInRed) {
     run.surroundings.questions.Expect("New Sales Tax Rate is 8.25 %");
     run.surroundings.questions.ExpectBox({"Please click Recalculate to update the totals.", Buttons::Ok, ""},
                                          Answer::Ok);
-    modSettings::SaveTaxRate(run.program, "8.25");
+    modTax::SaveTaxRate(run.program, "8.25");
     EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
     EXPECT_EQ(run.program.main.cmdTaxRate.BackColor, colors::kButtonFace);
     // A rate of zero asks for nothing.
     run.program.main.cmdReCalc.BackColor = colors::kButtonFace;
     run.surroundings.questions.Expect("New Sales Tax Rate is .00 %");
-    modSettings::SaveTaxRate(run.program, ".00");
+    modTax::SaveTaxRate(run.program, ".00");
     EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
 }
 
@@ -100,7 +100,7 @@ TEST(TaxRate, AFileThatCannotBeWrittenIsToldAndNoNewRateIsClaimed) {
     Taxed run;
     run.folder.MakeFolder("Proposals/SalesTax.txt");
     run.ExpectReport("SaveTaxRate");
-    modSettings::SaveTaxRate(run.program, "8.25");
+    modTax::SaveTaxRate(run.program, "8.25");
     EXPECT_EQ(run.surroundings.questions.Shown.size(), 1U);
 }
 

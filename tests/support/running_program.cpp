@@ -1,5 +1,4 @@
 #include "support/running_program.h"
-
 #include "editing/keys.h"
 #include "program/windows.h"
 #include "shell/command_run.h"
@@ -36,7 +35,7 @@ RunningProgram::RunningProgram(Begin begin) {
 }
 
 void RunningProgram::Start() {
-    if (modMain::Main(program) != modMain::StartResult::Running) {
+    if (modStart::Main(program) != modStart::StartResult::Running) {
         throw std::runtime_error("the program did not start");
     }
     PassSplash(program);
