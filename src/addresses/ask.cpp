@@ -21,9 +21,9 @@ Consent AskToCut(Program& program, const std::vector<std::string>& captions) {
         words += text::kCrLf;
         words += caption;
     }
-    const Answer answer =
-        program.platform.questions.MsgBox(words, Buttons::OkCancel, "", {.Default = Answer::Cancel});
-    return answer == Answer::Ok ? Consent::Given : Consent::Refused;
+    const std::size_t answer = program.platform.questions.Choose(
+        {.Text = words, .Title = "", .Answers = {"Save Anyway", "Cancel"}, .Default = 1, .OnEscape = 1});
+    return answer == 0 ? Consent::Given : Consent::Refused;
 }
 
 } // namespace modAddress

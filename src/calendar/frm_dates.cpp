@@ -1,6 +1,7 @@
 #include "calendar/frm_dates.h"
 
 #include "base/dates.h"
+#include "base/guard.h"
 #include "calendar/move_proposals.h"
 #include "calendar/read_event_dates.h"
 #include "pages/fields.h"
@@ -10,7 +11,8 @@
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_open.h"
 #include "proposal/reset.h"
 
 namespace modCalendar {
@@ -22,11 +24,16 @@ frmDates* Shown(Program& program) {
 }
 
 void RebuildShown(Program& program) {
-    if (frmDates* window = Shown(program)) {
-        window->lstDates.Clear();
-        window->Form_Follow(program);
+    {
+        // The window shows already what it will show while the files are read.
+        ++program.calendar.Running;
+        const OnLeaving settle([&] { --program.calendar.Running; });
+        if (frmDates* window = Shown(program)) {
+            window->lstDates.Clear();
+            window->Form_Follow(program);
+        }
+        ReadEventDates(program);
     }
-    ReadEventDates(program);
     // Events have run: the window that stood there may have closed.
     if (frmDates* window = Shown(program)) {
         window->TakeRows(program);
@@ -79,7 +86,7 @@ void OpenProposal(Program& program, const std::string& fileName) {
     const std::optional<modFile::RawProposal> raw = modFile::LoadProposal(program, fileName);
     const bool existed = document.FileExists;
     document.FileExists = true;
-    if (!raw || modMain::StartNewFile(program) == modMain::ResetResult::Refused) {
+    if (!raw || modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         document.FilePath = before;
         document.FileExists = existed;
         return;
@@ -208,7 +215,7 @@ void frmDates::Run(Program& program, std::string_view name) {
 
 void frmDates::mnuFileOpen_Click(Program& program) {
     const std::vector<std::string> chosen = SelectedFiles();
-    if (chosen.size() == 1 && modMain::MayGoOn(program)) {
+    if (chosen.size() == 1 && modProposal::MayGoOn(program)) {
         modCalendar::OpenProposal(program, chosen.front());
     }
 }

@@ -60,7 +60,11 @@ struct Gathered {
 bool Gather(Program& program, Breather& breather, int rebuild, Gathered& found) {
     DayReader reader;
     bool whole = true;
-    files::ScanHeads(modFolders::DataFolder(program), kProposals, kDateBytes, [&](files::FileHead&& head) {
+    const std::string folder = modFolders::DataFolder(program);
+    if (!files::IsFolder(folder)) {
+        return breather.GoOn(rebuild); // no folder, no proposal
+    }
+    files::ScanHeads(folder, kProposals, kDateBytes, [&](files::FileHead&& head) {
         whole = breather.GoOn(rebuild);
         if (!whole) {
             return false;
@@ -223,10 +227,13 @@ void ReadEventDatesAtStart(Program& program) {
     SetView(program, View::All);
     Guarded(program, "ReadEventDates", [&] {
         bool any = false;
-        files::ScanHeads(modFolders::DataFolder(program), kProposals, 0, [&](files::FileHead&&) {
-            any = true;
-            return false;
-        });
+        const std::string folder = modFolders::DataFolder(program);
+        if (files::IsFolder(folder)) {
+            files::ScanHeads(folder, kProposals, 0, [&](files::FileHead&&) {
+                any = true;
+                return false;
+            });
+        }
         if (!any) {
             SayNothingFound(program);
         }

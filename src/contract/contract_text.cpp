@@ -89,17 +89,15 @@ void ContractText::Splice(std::size_t at, std::size_t removed, std::string_view 
 }
 
 void ContractText::Replace(std::size_t at, std::size_t removed, std::string_view inserted, Kind kind) {
-    const auto within = [&](std::size_t place) {
-        const bool splits =
-            place > 0 && place < text_.size() && text_[place - 1] == '\r' && text_[place] == '\n';
-        return splits ? place - 1 : place; // a line end is one thing
+    const auto splitsLineEnd = [&](std::size_t place) {
+        return place > 0 && place < text_.size() && text_[place - 1] == '\r' && text_[place] == '\n';
     };
-    std::size_t end = std::min(at + std::min(removed, text_.size()), text_.size());
-    at = within(std::min(at, text_.size()));
-    if (end != within(end)) {
-        ++end;
-    }
-    end = std::max(at, end);
+    at = std::min(at, text_.size());
+    std::size_t end = at + std::min(removed, text_.size() - at);
+    // A line end is one thing: what begins or ends within it takes all of it, or leaves it.
+    end += removed > 0 && splitsLineEnd(end) ? 1 : 0;
+    at -= splitsLineEnd(at) ? 1 : 0;
+    end = removed > 0 ? end : at;
     std::string incoming = modContract::Incoming(inserted);
     if (end == at && incoming.empty()) {
         return;

@@ -32,6 +32,7 @@ void SetWeight(Program& program, Weight weight) {
     program.format.PropTextChanges[page][index].FontBold = bold;
     program.format.PropTextChanges[page][index].Dirty = true;
     program.format.FormatTextChanges[page][index].FontBold = bold;
+    program.format.Touched = true;
     modFields::GiveFocus(program, field);
 }
 

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class Answer { Ok, Cancel, Yes, No };
@@ -19,6 +20,17 @@ struct Manner {
     Came How = Came::OnRequest;
 };
 
+/// A question whose buttons have words of their own. Return presses the default one; Escape and the close box
+/// the other.
+struct Choice {
+    std::string Text;
+    std::string Title;
+    std::vector<std::string> Answers;
+    std::size_t Default = 0;
+    std::size_t OnEscape = 0;
+    bool operator==(const Choice&) const = default;
+};
+
 /// Message and input boxes. Both wait for the person; texts hold CR LF between their lines.
 class Questions {
 public:
@@ -30,6 +42,8 @@ public:
     Answer MsgBox(std::string_view text, Buttons buttons, std::string_view title, const Manner& manner) {
         return Ask(text, buttons, title, manner);
     }
+    /// Gives the index of the button pressed.
+    virtual std::size_t Choose(const Choice& choice) = 0;
     /// Returns the text; empty when the person cancelled.
     virtual std::string InputBox(std::string_view prompt, std::string_view title,
                                  std::string_view initial) = 0;

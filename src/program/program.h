@@ -4,6 +4,7 @@
 #include "program/address_records.h"
 #include "program/calendar_records.h"
 #include "program/change_records.h"
+#include "program/designer_records.h"
 #include "program/document_records.h"
 #include "program/editing_records.h"
 #include "program/hooks.h"
@@ -31,10 +32,11 @@ struct Program {
     GuardFlags guards;
     TotalsRecords totals;
     FormatRecords format;
+    DesignerRecords designer;
     EditingState editing;
     PrintRecords printing;
-    AddressRecords addresses;
     CalendarRecords calendar;
+    AddressRecords addresses;
     MainWindow main;
     WindowCollection windows;
 };

@@ -67,6 +67,10 @@ void SaveAsSteps(Program& program) {
     modNames::SetBaseName(program, name);
     document.FileName = fileName;
     document.FileExists = true;
+    if (!document.TitleGiven) {
+        document.ClientCaption = "Proposal for " + document.BaseName;
+        modTitles::UpdateFooters(program);
+    }
     if (modFile::SaveEventFile(program) == modFile::SaveResult::NotSaved) {
         // The proposal keeps the name under which it is on the disk.
         modNames::SetBaseName(program, before.BaseName);
@@ -74,7 +78,12 @@ void SaveAsSteps(Program& program) {
         document.DepositFile = before.DepositFile;
         document.FileName = before.FileName;
         document.FileExists = before.FileExists;
+        document.ClientCaption = before.ClientCaption;
+        modTitles::UpdateFooters(program);
         return;
+    }
+    if (program.hooks.AssignPropChanges) {
+        program.hooks.AssignPropChanges(program);
     }
     modFile::SavePropertyFile(program);
     modSideFile::FollowSaveAs(program, before);
@@ -104,6 +113,9 @@ bool SomethingChanged(Program& program) {
 }
 
 void AskToSave(Program& program) {
+    if (program.hooks.CloseLabelWindow) {
+        program.hooks.CloseLabelWindow(program); // what was typed there counts
+    }
     if (!SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
         return;
     }
@@ -126,7 +138,11 @@ bool MayGoOn(Program& program) {
     AskToSave(program);
     const bool goOn = !program.document.Cancelled;
     program.document.Cancelled = false;
-    return goOn;
+    return goOn && MayLeaveFormat(program);
+}
+
+bool MayLeaveFormat(Program& program) {
+    return !program.hooks.MayLeaveFormat || program.hooks.MayLeaveFormat(program);
 }
 
 void SaveEventFileAs(Program& program) {
@@ -139,10 +155,10 @@ void mnuFileNew_Click(Program& program) {
     }
     DocumentState& document = program.document;
     document.DocumentKind = "Event";
-    const bool format = !program.settings.DefaultFormatPath.empty() && program.settings.LoadDefaultFormat;
     if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         return;
     }
+    const bool format = program.format.FormatOpen;
     LeaveBackup(program);
     if (!format) {
         modTitles::SetPageHeading(program, "Contract Proposal");
@@ -189,7 +205,8 @@ void mnuFileDelete_Click(Program& program) {
         return;
     }
     if (questions.MsgBox("Are you sure you want to delete this file?", Buttons::YesNo,
-                         "Preparing to Delete File.") != Answer::Yes) {
+                         "Preparing to Delete File.") != Answer::Yes ||
+        !MayLeaveFormat(program)) {
         return;
     }
     try {

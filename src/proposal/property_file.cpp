@@ -13,7 +13,13 @@ namespace modFile {
 
 namespace {
 
-void ClearLabelMarks(Program& program) {
+/// Every property is in its file.
+void ClearMarks(Program& program) {
+    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+        for (TextChangeRecord& record : program.format.PropTextChanges[page]) {
+            record.Dirty = false;
+        }
+    }
     for (auto& page : program.format.LabelSavedState) {
         for (LabelChangeRecord& label : page) {
             label.Changed = false;
@@ -40,7 +46,7 @@ SaveResult SavePropertyFile(Program& program) {
         }
         const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
         files::WriteWhole(path, bytes);
-        ClearLabelMarks(program);
+        ClearMarks(program);
     });
     return done ? SaveResult::Saved : SaveResult::NotSaved;
 }

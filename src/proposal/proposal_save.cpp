@@ -73,34 +73,18 @@ bool NameIsSettled(Program& program) {
     return true;
 }
 
-void ClearLabelMarks(Program& program) {
-    for (auto& page : program.format.LabelSavedState) {
-        for (LabelChangeRecord& label : page) {
-            label.Changed = false;
-        }
-    }
-}
-
 /// The properties, when one has changed.
 SaveResult SaveProperties(Program& program) {
-    if (!PropertiesChanged(program)) {
+    // What a client was sent must print the same when the format is another one.
+    const bool firstUnderFormat = program.format.FormatOpen && !program.document.FileExists;
+    if (!PropertiesChanged(program) && !firstUnderFormat) {
         return SaveResult::Saved;
     }
     if (program.hooks.AssignPropChanges) {
         program.hooks.AssignPropChanges(program);
-        return SavePropertyFile(program);
     }
-    // Nobody writes new lines: what was read goes back as it came.
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
-        for (TextChangeRecord& record : program.format.PropTextChanges[page]) {
-            record.Dirty = false;
-        }
-    }
-    if (!program.format.PropertyLines.empty()) {
-        return SavePropertyFile(program);
-    }
-    ClearLabelMarks(program);
-    return SaveResult::Saved;
+    // Where nobody writes new lines, what was read goes back as it came.
+    return SavePropertyFile(program);
 }
 
 std::string MakeBytes(const Program& program) {
@@ -130,6 +114,9 @@ void WriteFile(Program& program) {
 
 void SavingSteps(Program& program, SaveResult& result) {
     DocumentState& document = program.document;
+    if (program.hooks.CloseLabelWindow && !document.BackingUp) {
+        program.hooks.CloseLabelWindow(program);
+    }
     CompareTotals(program);
     if (!NameIsSettled(program)) {
         return;

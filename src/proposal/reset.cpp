@@ -41,6 +41,7 @@ void ClearNames(Program& program) {
         document.FromBackup = false;
     }
     document.ClientCaption.clear();
+    document.TitleGiven = false;
     document.FileExists = false;
     program.main[CommandId::mnuFileDelete].Enabled = false;
     document.BaseName.clear();
@@ -132,16 +133,26 @@ void ZeroTotals(Program& program) {
 
 void TakeFormat(Program& program, bool loadDefault) {
     FormatRecords& format = program.format;
+    format.FormatTextChanges = {};
+    format.FormatLabelChanges = {};
+    format.InFile = {};
+    format.LogoChanged = false;
+    format.LogoPending = false;
+    format.Touched = false;
     if (loadDefault) {
         format.FormatFolder = paths::Folder(program.settings.DefaultFormatPath);
         format.FormatName = paths::Name(program.settings.DefaultFormatPath);
         format.FormatOpen = true;
     }
-    if (format.FormatOpen && program.hooks.OpenFormatFile) {
-        program.hooks.OpenFormatFile(program);
-        return;
-    }
+    // A format without a logo of its own leaves this one.
     modLogo::LoadLogo(program);
+    const RunState& run = program.run;
+    format.FontOfFile = {run.DefaultFontName, run.DefaultFontSize, run.DefaultFontColor,
+                         run.DefaultFontItalic};
+    if (format.FormatOpen && program.hooks.OpenFormatFile) {
+        format.LogoPath.clear();
+        program.hooks.OpenFormatFile(program);
+    }
 }
 
 void ResetSteps(Program& program) {
@@ -157,6 +168,7 @@ void ResetSteps(Program& program) {
     program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
     ResetPages(program);
     ResetFont(program);
+    modTitles::CentreFooters(program);
     program.totals.PageSum = {};
     program.totals.PageTaxable = {};
     EmptyTexts(program);
@@ -168,6 +180,9 @@ void ResetSteps(Program& program) {
 
 ResetResult StartNewFile(Program& program) {
     ResetResult result = ResetResult::Done;
+    if (program.hooks.CloseLabelWindow) {
+        program.hooks.CloseLabelWindow(program);
+    }
     Guarded(program, "StartNewFile", [&] {
         {
             const ScopedFlag active(program.guards.ResetActive);

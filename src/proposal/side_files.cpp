@@ -7,7 +7,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
-#include "proposal/proposal_file.h"
+#include "proposal/proposal_save.h"
 
 namespace modSideFile {
 

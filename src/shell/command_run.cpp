@@ -2,11 +2,25 @@
 
 #include "editing/area_mouse.h"
 #include "editing/selection.h"
+#include "format/frm_label_props.h"
 #include "program/program.h"
 #include "shell/command_table.h"
 #include "shell/preview_refusals.h"
 
 namespace commands {
+
+namespace {
+
+bool IsUnder(const Entry& entry, CommandId menu) {
+    for (CommandId at = entry.Parent; at != CommandId::Count; at = Find(at).Parent) {
+        if (at == menu) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
 
 void Run(Program& program, CommandId id) {
     const Entry& entry = Find(id);
@@ -28,6 +42,10 @@ void Run(Program& program, CommandId id) {
     }
     if (RefuseInPreview(program, id)) {
         return;
+    }
+    if (IsUnder(entry, CommandId::mnuFile) || IsUnder(entry, CommandId::mnuFileFormat)) {
+        // What is saved, printed or left behind holds what was typed in the label window.
+        modDesigner::CloseLabelWindow(program);
     }
     if (entry.Run != nullptr) {
         entry.Run(program);

@@ -202,11 +202,11 @@ TEST(AddressBook, ATextOverItsLimitTurnsRedAndIsCutOnlyAfterAYes) {
     EXPECT_EQ(window.txt[4].ToolTipText, "Maximum characters for this field = 20. Please adjust.");
     const std::string words =
         "These texts are longer than their place in the file and will be cut:\r\nHome Phone";
-    run.Questions().Expect(words, Answer::Cancel);
+    run.Questions().ExpectChoice(words, "Cancel");
     window.cmdSave_Click(run.program);
     EXPECT_EQ(run.ReadBook(), "");
     EXPECT_EQ(run.Text(4).size(), 21U);
-    run.Questions().Expect(words, Answer::Ok);
+    run.Questions().ExpectChoice(words, "Save Anyway");
     window.cmdSave_Click(run.program);
     EXPECT_EQ(run.ReadBook(), AddressRun::Record({"Ann Ash", "", "", "", std::string(20, '1')}));
 }

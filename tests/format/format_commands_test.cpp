@@ -217,9 +217,9 @@ TEST(ChooserKinds, APictureBecomesTheLogoAndAnythingElseIsRefused) {
     }
     const std::string picture = run.folder / "Proposals/b.BMP";
     run.surroundings.pictures.Known[picture] = {1500, 900};
-    run.program.document.FileFilter = "*.jpg;*.bmp;*.gif";
+    run.program.document.FileFilter = std::string(kPictureFiles);
     modWindows::Show(run.program, std::make_unique<frmFile>());
-    ASSERT_EQ(run.Chooser().FileList1.Items, (std::vector<std::string>{"a.jpg", "b.BMP", "c.gif"}));
+    ASSERT_EQ(run.Chooser().FileList1.Items, (std::vector<std::string>{"a.jpg", "b.BMP", "c.gif", "d.png"}));
     run.Chooser().FileList1_Click(run.program, 0);
     run.surroundings.questions.ExpectBox(
         {"The file a.jpg is not a picture that can be shown.", Buttons::Ok, ""}, Answer::Ok);
@@ -233,7 +233,7 @@ TEST(ChooserKinds, APictureBecomesTheLogoAndAnythingElseIsRefused) {
     EXPECT_EQ(logo.Picture.Path, picture);
     EXPECT_EQ(logo.Size.Width, 1500);
     EXPECT_EQ(run.program.settings.LogoFile, picture);
-    EXPECT_EQ(run.program.run.LogoPath, picture);
+    EXPECT_EQ(run.program.format.LogoPath, picture);
     EXPECT_TRUE(run.program.format.LogoChanged);
     EXPECT_EQ(run.program.document.FileFilter, "*.hef");
 }

@@ -88,7 +88,6 @@ TEST(Settings, EveryLineReachesItsValue) {
     EXPECT_EQ(inForce.DefaultFontSize, 9.75F);
     EXPECT_EQ(inForce.DefaultFontColor, 255U);
     EXPECT_TRUE(inForce.DefaultFontItalic);
-    EXPECT_EQ(inForce.LogoPath, run.folder / "logo.jpg");
     EXPECT_TRUE(inForce.TermsPinned);
     EXPECT_EQ(inForce.FUTFileName, "Mine.fut");
     EXPECT_FALSE(inForce.NoPrinter);
@@ -271,19 +270,6 @@ TEST(Settings, BooleansAreTheWordTrueInAnyCase) {
     EXPECT_FALSE(read.LoadDefaultFormat);
     EXPECT_FALSE(read.LoadFUT);
     EXPECT_FALSE(read.SavedFontItalic);
-}
-
-TEST(Settings, ALogoWithADriveOrFromTheRootStandsByItself) {
-    for (const std::string path : {"c:\\pictures\\a.jpg", "/srv/a.jpg"}) {
-        Settled run;
-        run.folder.Write("UserPreferences.txt", SettingsFile({{11, path}}));
-        modSettings::GetUserPreferences(run.program);
-        EXPECT_EQ(run.program.run.LogoPath, path);
-    }
-    Settled run;
-    run.folder.Write("UserPreferences.txt", SettingsFile({{11, "pictures/a.jpg"}}));
-    modSettings::GetUserPreferences(run.program);
-    EXPECT_EQ(run.program.run.LogoPath, run.folder / "pictures/a.jpg");
 }
 
 TEST(Settings, ATermsListIsPinnedOnlyWhenItIsNamedAndWanted) {
