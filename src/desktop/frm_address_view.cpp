@@ -71,7 +71,7 @@ FrmAddressView::FrmAddressView(Program& program, frmAddress& window, QWidget* ov
     bar_->setVisible(!company);
     const int letter = fontMetrics().averageCharWidth();
     const QSize wanted(letter * (company ? 70 : 118),
-                       stack_->sizeHint().height() + bar_->sizeHint().height());
+                       stack_->widget(0)->sizeHint().height() + bar_->sizeHint().height());
     const QSize room = screen()->availableSize() - QSize(24, 48); // of the window's own frame
     resize(wanted.boundedTo(room));
 }
@@ -80,7 +80,12 @@ void FrmAddressView::ConnectFields() {
     calls_.Edited = [this](int field, const std::string& text, int cursor) {
         Do([&] { address_.txt_Change(program_, field, text, cursor); });
     };
-    calls_.Focused = [this](int field) { address_.txt_GotFocus(program_, field); };
+    calls_.Focused = [this](int field) {
+        address_.txt_GotFocus(program_, field);
+        if (QWidget* shown = focusWidget()) {
+            scroll_->ensureWidgetVisible(shown);
+        }
+    };
     calls_.KeyUp = [this](int field, int cursor) { address_.txt_KeyUp(program_, field, cursor); };
     calls_.Converts = [this](int field) { return address_.Converts(program_, field); };
     calls_.Convert = [this](int field) {
@@ -159,7 +164,7 @@ QWidget* FrmAddressView::Names() {
     column->addWidget(heading);
     list_ = new NameListView(side, address_.lstNames);
     list_->setAccessibleName(convert::ToQString(address_.lblInfo[AddressWindow::kHeading].Caption));
-    list_->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
+    list_->setMinimumWidth(fontMetrics().averageCharWidth() * 18);
     list_->RowChosen = [this](int row) { Do([&] { address_.lstNames_Click(program_, row); }); };
     list_->LettersTyped = [this](const std::string& typed) {
         Do([&] { address_.lstNames_Typed(program_, typed); });
@@ -193,7 +198,7 @@ QWidget* FrmAddressView::Fields() {
             grid->setRowStretch(index, 1);
         } else {
             auto* line = new AddressLineView(side, index, calls_);
-            line->setMinimumWidth(fontMetrics().averageCharWidth() * 34);
+            line->setMinimumWidth(fontMetrics().averageCharWidth() * 22);
             lines_[static_cast<std::size_t>(index)] = line;
             field = line;
         }
