@@ -44,7 +44,6 @@ public:
     Answer Ask(std::string_view, Buttons buttons, std::string_view, const Manner&) override {
         return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
     }
-    std::size_t Choose(const Choice& choice) override { return choice.OnEscape; }
     std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
 };
 

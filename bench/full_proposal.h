@@ -13,7 +13,6 @@ public:
     Answer Ask(std::string_view, Buttons buttons, std::string_view, const Manner&) override {
         return buttons == Buttons::Ok ? Answer::Ok : Answer::Yes;
     }
-    std::size_t Choose(const Choice&) override { return 0; }
     std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
 };
 

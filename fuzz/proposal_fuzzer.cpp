@@ -20,7 +20,6 @@ namespace {
 class QuietQuestions : public Questions {
 public:
     Answer Ask(std::string_view, Buttons, std::string_view, const Manner&) override { return Answer::Ok; }
-    std::size_t Choose(const Choice&) override { return 0; }
     std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
 };
 

@@ -21,9 +21,9 @@ Consent AskToCut(Program& program, const std::vector<std::string>& captions) {
         words += text::kCrLf;
         words += caption;
     }
-    const std::size_t answer = program.platform.questions.Choose(
-        {.Text = words, .Title = "", .Answers = {"Save Anyway", "Cancel"}, .Default = 1, .OnEscape = 1});
-    return answer == 0 ? Consent::Given : Consent::Refused;
+    const Answer answer = program.platform.questions.MsgBox(
+        words, Buttons::YesNo, "", {.Default = Answer::No, .Words = {"Save Anyway", "Cancel"}});
+    return answer == Answer::Yes ? Consent::Given : Consent::Refused;
 }
 
 } // namespace modAddress

@@ -29,6 +29,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <array>
 
 #include <unistd.h>
 
@@ -134,6 +135,13 @@ Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view
     if (buttons == Buttons::YesNo) {
         box.setEscapeButton(QMessageBox::No); // closing the box must not be a Yes
     }
+    constexpr std::array kInOrder{QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
+    for (std::size_t index = 0; index < manner.Words.size() && index < kInOrder.size(); ++index) {
+        if (QAbstractButton* button = box.button(kInOrder[index])) {
+            button->setText(convert::ToQString(manner.Words[index]));
+            button->setIcon(QIcon());
+        }
+    }
     if (manner.Default) {
         box.setDefaultButton(ButtonOf(*manner.Default));
     }
@@ -147,30 +155,6 @@ Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view
     default:
         return buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
     }
-}
-
-std::size_t QtQuestions::Choose(const Choice& choice) {
-    if (BeforeAsking) {
-        BeforeAsking();
-    }
-    const OnLeaving back = GiveKeyboardBack();
-    QMessageBox box(QMessageBox::Question, TitleOf(choice.Title), ShownText(choice.Text),
-                    QMessageBox::NoButton, Below());
-    box.setObjectName(QStringLiteral("MsgBox"));
-    box.setTextFormat(Qt::PlainText);
-    std::vector<QPushButton*> buttons;
-    for (std::size_t index = 0; index < choice.Answers.size(); ++index) {
-        // The style orders the buttons by their part in the question.
-        const auto role = index == choice.OnEscape && choice.Answers.size() > 2 ? QMessageBox::RejectRole
-                          : index == 0                                          ? QMessageBox::YesRole
-                                                                                : QMessageBox::NoRole;
-        buttons.push_back(box.addButton(convert::ToQString(choice.Answers[index]), role));
-    }
-    box.setDefaultButton(buttons.at(choice.Default));
-    box.setEscapeButton(buttons.at(choice.OnEscape));
-    box.exec();
-    const auto pressed = std::find(buttons.begin(), buttons.end(), box.clickedButton());
-    return pressed == buttons.end() ? choice.OnEscape : static_cast<std::size_t>(pressed - buttons.begin());
 }
 
 std::string QtQuestions::InputBox(std::string_view prompt, std::string_view title, std::string_view initial) {

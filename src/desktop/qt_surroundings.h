@@ -16,7 +16,6 @@
 
 class QtQuestions : public Questions {
 public:
-    std::size_t Choose(const Choice& choice) override;
     std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
 
     /// Boxes stand over this window.

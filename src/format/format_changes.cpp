@@ -1,6 +1,5 @@
 #include "format/format_changes.h"
 
-#include "base/text.h"
 #include "format/format_lines.h"
 #include "format/format_save.h"
 #include "format/line_effects.h"
@@ -60,25 +59,20 @@ bool FileIsCurrent(Program& program) {
         return false;
     }
     return !modProposal::SomethingChanged(program) ||
-           LinesOf(program, TablesNow(program, Texts::LayoutAndTexts)).Lines ==
-               text::SplitLines(program.format.FormatBytes);
+           LinesOf(program, TablesNow(program, Texts::LayoutAndTexts)).Lines == program.format.FormatLines;
 }
 
 bool MayLeaveFormat(Program& program) {
     if (!FormatIsUnsaved(program)) {
         return true;
     }
-    enum : std::size_t { kSave, kDiscard, kCancel };
-    const std::size_t answer = program.platform.questions.Choose(
-        {"The format " + program.format.FormatName + " has changes that are not saved.",
-         "",
-         {"Save", "Discard", "Cancel"},
-         kCancel,
-         kCancel});
-    if (answer == kSave) {
+    const Answer answer = program.platform.questions.MsgBox(
+        "The format " + program.format.FormatName + " has changes that are not saved.", Buttons::YesNoCancel,
+        "", {.Default = Answer::Cancel, .Words = {"Save", "Discard", "Cancel"}});
+    if (answer == Answer::Yes) {
         return SaveFileFormat(program) == FormatSave::Saved;
     }
-    return answer == kDiscard;
+    return answer == Answer::No;
 }
 
 } // namespace modFormat

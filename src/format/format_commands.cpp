@@ -108,16 +108,12 @@ void mnuFileFormatDelete_Click(Program& program) {
     if (stopped) {
         return;
     }
-    enum : std::size_t { kYes, kNo };
     // People know the title by this spelling.
-    const std::size_t answer =
-        questions.Choose({text::Lines({"Are you sure you want to delete the shown Format?",
-                                       program.format.FormatName + " in " + program.format.FormatFolder}),
-                          "Deleting Format FIle",
-                          {"Yes", "No"},
-                          kNo,
-                          kNo});
-    if (answer != kYes) {
+    const Answer answer =
+        questions.MsgBox(text::Lines({"Are you sure you want to delete the shown Format?",
+                                      program.format.FormatName + " in " + program.format.FormatFolder}),
+                         Buttons::YesNo, "Deleting Format FIle", {.Default = Answer::No});
+    if (answer != Answer::Yes) {
         return;
     }
     const bool wasDefault = IsDefault(program);

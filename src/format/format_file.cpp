@@ -5,6 +5,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "editing/columns.h"
+#include "format/area_font.h"
 #include "format/format_figures.h"
 #include "format/label_looks.h"
 #include "format/line_effects.h"
@@ -165,6 +166,7 @@ void ParseFormatFile(Program& program) {
         }
         // A sign beside an amount has the areas' font, whatever its line said.
         modPages::ApplyPageFonts(program);
+        PaintAreasAnew(program);
     }
     modDesigner::LoadBaseLabels(program);
 }
@@ -176,14 +178,16 @@ void OpenFormatFile(Program& program) {
     format.FormatLabelChanges = {};
     format.InFile = {};
     format.Touched = false;
+    std::string bytes;
     try {
-        format.FormatBytes = files::ReadAll(paths::Join(format.FormatFolder, format.FormatName));
+        bytes = files::ReadAll(paths::Join(format.FormatFolder, format.FormatName));
     } catch (const std::exception& error) {
         Refuse(program, error);
         return;
     }
+    format.FormatSeen = files::SeenIn(bytes);
     Guarded(program, "OpenFormatFile", [&] {
-        format.FormatLines = text::SplitLines(format.FormatBytes);
+        format.FormatLines = text::SplitLines(bytes);
         if (!format.FormatLines.empty()) {
             LayLines(program);
         }

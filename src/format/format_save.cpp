@@ -15,6 +15,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/rewriting.h"
 #include "proposal/file_names.h"
 #include "settings/settings.h"
 
@@ -34,8 +35,8 @@ void Tell(Program& program, std::string_view words) {
 }
 
 bool Confirmed(Program& program, std::string_view question) {
-    enum : std::size_t { kYes, kNo };
-    return program.platform.questions.Choose({std::string(question), "", {"Yes", "No"}, kNo, kNo}) == kYes;
+    return program.platform.questions.MsgBox(question, Buttons::YesNo, "", {.Default = Answer::No}) ==
+           Answer::Yes;
 }
 
 std::string TargetFolder(const Program& program) {
@@ -72,25 +73,6 @@ std::optional<Name> SettleName(Program& program) {
     return Name{name + std::string(kExtension), true};
 }
 
-/// Whether the bytes that are about to be replaced are ours, or the person gives them up.
-bool MayOverwrite(Program& program, const std::string& path, bool asked) {
-    if (!files::Exists(path)) {
-        return true;
-    }
-    if (asked) {
-        return Confirmed(program, "File already exists. Overwrite?");
-    }
-    std::optional<std::string> there;
-    try {
-        there = files::ReadAll(path);
-    } catch (const std::exception&) {
-        there.reset(); // what cannot be read is nothing that we know
-    }
-    return there == program.format.FormatBytes ||
-           Confirmed(program, "The format " + program.format.FormatName +
-                                  " has been changed by another program since it was read. Overwrite?");
-}
-
 bool HoldsText(const std::string& value, std::string_view placeholder) {
     const std::string_view trimmed = text::Trim(value);
     return !trimmed.empty() && trimmed != placeholder;
@@ -123,17 +105,14 @@ std::optional<Texts> SettleTexts(Program& program) {
     if (!HoldsClientData(program)) {
         return Texts::LayoutAndTexts;
     }
-    enum : std::size_t { kLayoutOnly, kBoth, kCancel };
-    const std::size_t answer = program.platform.questions.Choose(
-        {"Shall the texts of this proposal become part of the format? New proposals will start with them.",
-         "",
-         {"Layout Only", "Layout and Texts", "Cancel"},
-         kLayoutOnly,
-         kCancel});
-    if (answer == kCancel) {
+    const Answer answer = program.platform.questions.MsgBox(
+        "Shall the texts of this proposal become part of the format? New proposals will start with them.",
+        Buttons::YesNoCancel, "",
+        {.Default = Answer::Yes, .Words = {"Layout Only", "Layout and Texts", "Cancel"}});
+    if (answer != Answer::Yes && answer != Answer::No) {
         return std::nullopt;
     }
-    return answer == kBoth ? Texts::LayoutAndTexts : Texts::LayoutOnly;
+    return answer == Answer::No ? Texts::LayoutAndTexts : Texts::LayoutOnly;
 }
 
 std::string BytesOf(const std::vector<std::string>& lines) {
@@ -146,7 +125,7 @@ std::string BytesOf(const std::vector<std::string>& lines) {
 }
 
 /// What the file holds now is no change any more.
-void TakeAsSaved(Program& program, std::string bytes) {
+void TakeAsSaved(Program& program) {
     FormatRecords& format = program.format;
     for (auto& page : format.FormatLabelChanges) {
         for (LabelChangeRecord& label : page) {
@@ -163,7 +142,6 @@ void TakeAsSaved(Program& program, std::string bytes) {
     format.FontOfFile = FontInForce(program);
     format.LogoChanged = false;
     format.Touched = false;
-    format.FormatBytes = std::move(bytes);
 }
 
 void MarkProposalStale(Program& program) {
@@ -177,6 +155,21 @@ void MarkProposalStale(Program& program) {
     }
 }
 
+/// Writes the lines; false when the person refuses or it fails, which is reported.
+bool Written(Program& program, const std::string& path, bool agreed) {
+    FormatRecords& format = program.format;
+    files::Seen seen = agreed ? files::LookAt(path) : format.FormatSeen;
+    bool written = false;
+    Guarded(program, "SaveFileFormat", [&] {
+        written = modFile::Rewrite(program, path, BytesOf(format.FormatLines), seen, "format") ==
+                  modFile::Rewriting::Done;
+    });
+    if (written) {
+        format.FormatSeen = seen;
+    }
+    return written;
+}
+
 FormatSave SaveSteps(Program& program, const Name& name) {
     FormatRecords& format = program.format;
     modColumns::CollectQtyBoxes(program);
@@ -185,24 +178,26 @@ FormatSave SaveSteps(Program& program, const Name& name) {
         return FormatSave::NotSaved;
     }
     const std::string path = paths::Join(TargetFolder(program), name.File);
-    if (!MayOverwrite(program, path, name.Asked)) {
-        return FormatSave::NotSaved;
+    if (name.Asked && files::Exists(path)) {
+        if (!Confirmed(program, "File already exists. Overwrite?")) {
+            return FormatSave::NotSaved;
+        }
     }
     const std::optional<Texts> texts = SettleTexts(program);
     if (!texts) {
         return FormatSave::NotSaved;
     }
+    std::vector<std::string> linesBefore = format.FormatLines;
     const AfterLast after = AssignFormatPropChanges(program, *texts);
     TellUnkeptFormat(program);
     modDesigner::LoadBaseLabels(program);
-    std::string bytes = BytesOf(format.FormatLines);
-    if (files::Exists(path)) {
-        files::ClearAttributes(path);
+    if (!Written(program, path, name.Asked)) {
+        format.FormatLines = std::move(linesBefore);
+        return FormatSave::NotSaved;
     }
-    files::WriteWhole(path, bytes);
     format.FormatFolder = TargetFolder(program);
     format.FormatName = name.File;
-    TakeAsSaved(program, std::move(bytes));
+    TakeAsSaved(program);
     if (after == AfterLast::Fails) {
         throw files::FileError(kSubscript, "Subscript out of range");
     }

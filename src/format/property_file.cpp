@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 #include "base/guard.h"
+#include "format/area_font.h"
 #include "format/label_looks.h"
 #include "format/line_effects.h"
 #include "format/unkept_values.h"
@@ -202,6 +203,7 @@ void ParsePropertyFile(Program& program) {
     const ScopedFlag silent(program.guards.Loading);
     Guarded(program, "ParsePropertyFile", [&] { TakeLines(program); });
     modPages::ApplyPageFonts(program);
+    PaintAreasAnew(program);
     TakeTitles(program);
     modDesigner::LoadBaseLabels(program);
 }

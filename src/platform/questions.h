@@ -18,17 +18,8 @@ struct Manner {
     /// overwritten or thrown away it is the harmless one.
     std::optional<Answer> Default;
     Came How = Came::OnRequest;
-};
-
-/// A question whose buttons have words of their own. Return presses the default one; Escape and the close box
-/// the other.
-struct Choice {
-    std::string Text;
-    std::string Title;
-    std::vector<std::string> Answers;
-    std::size_t Default = 0;
-    std::size_t OnEscape = 0;
-    bool operator==(const Choice&) const = default;
+    /// The words of the box's buttons in the order Yes, No, Cancel, where they are not these.
+    std::vector<std::string> Words = {};
 };
 
 /// Message and input boxes. Both wait for the person; texts hold CR LF between their lines.
@@ -42,8 +33,6 @@ public:
     Answer MsgBox(std::string_view text, Buttons buttons, std::string_view title, const Manner& manner) {
         return Ask(text, buttons, title, manner);
     }
-    /// Gives the index of the button pressed.
-    virtual std::size_t Choose(const Choice& choice) = 0;
     /// Returns the text; empty when the person cancelled.
     virtual std::string InputBox(std::string_view prompt, std::string_view title,
                                  std::string_view initial) = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/colors.h"
+#include "base/seen.h"
 
 #include <array>
 #include <optional>
@@ -86,14 +87,13 @@ struct FormatRecords {
     AreaFont FontOfFile;             ///< the font in force when the format was read or saved last
     /// A person has changed, since the format was read or saved last, what a save of it would keep.
     bool Touched = false;
-    std::string FormatBytes;   ///< of the file, as read or saved last
+    files::Seen FormatSeen;    ///< the file, as read or saved last
     bool RefusalTold = false;  ///< that a format could not be read; told once a run
     bool LogoLossTold = false; ///< that the logo of a format could not be shown; likewise
 
-    /// The property file as read or written last, so that nobody else's is overwritten unasked.
-    std::string PropertyPath;
-    std::string PropertyBytes;
-    /// Lines of it that were taken before a fault ended the reading; none when it was read whole.
+    std::string PropertyPath; ///< the property file read or written last, and what it held
+    files::Seen PropertySeen;
+    /// Its lines that were taken before a fault ended the reading; none when it was read whole.
     std::optional<int> PropertyLinesRead;
 
     float SnapTwips = 180; ///< the designer's step, an eighth of an inch

@@ -231,9 +231,17 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
         if (files::Exists(target)) {
             files::Delete(target);
         }
-        document.ClientCaption = "Proposal for " + document.BaseName;
-        modTitles::UpdateFooters(program);
+        if (!document.TitleGiven) {
+            document.ClientCaption = "Proposal for " + document.BaseName;
+            modTitles::UpdateFooters(program);
+        }
         files::WriteWhole(target, bytes);
+        const std::string layout = document.BaseName + ".hpf";
+        if (modFile::FileIsThere(document.FilePath, layout)) {
+            files::Copy(paths::Join(document.FilePath, layout), paths::Join(folder, layout));
+            program.format.PropertyPath = paths::Join(folder, layout);
+            program.format.PropertySeen = files::LookAt(program.format.PropertyPath);
+        }
         document.FilePath = folder;
         program.main.lblDir.Caption = "Current Folder = " + document.FilePath;
         program.main.imgFootNotes.Picture = modFile::FileIsThere(folder, document.FootnoteFile) ? 1 : 0;

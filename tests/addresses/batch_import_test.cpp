@@ -229,7 +229,7 @@ TEST(BatchImport, AnImportedTextOverItsLimitIsRedBeforeItIsCut) {
     frmAddress& window = run.Begin(kCommas);
     EXPECT_EQ(window.txt[1].BackColor, colors::kOverLimit);
     EXPECT_EQ(window.txt[0].BackColor, colors::kWhite);
-    run.Questions().ExpectChoice("will be cut:\r\nAddress 1", "Cancel");
+    run.Questions().Expect("will be cut:\r\nAddress 1", Answer::No);
     run.Save();
     EXPECT_EQ(run.Text(1).size(), 41U);
     EXPECT_EQ(run.ReadBook(), "");

@@ -269,7 +269,8 @@ TEST(AddressWindow, CanBeUsedWithoutAMouseAndBeSpoken) {
         }
     }
     EXPECT_GE(wanted.size(), 14U);
-    for (std::size_t step = 0; step < 2 * wanted.size(); ++step) {
+    const std::size_t presses = 2 * wanted.size();
+    for (std::size_t step = 0; step < presses; ++step) {
         wanted.erase(QApplication::focusWidget());
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     }

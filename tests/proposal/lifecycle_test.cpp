@@ -346,8 +346,9 @@ TEST(SaveAs, AsksForANameAndSavesUnderIt) {
     EXPECT_EQ(run.program.document.TextFileName, "Second.txt");
     EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Second.hef");
     EXPECT_FALSE(run.program.document.SaveAsActive);
-    // A proposal without properties gets an empty file of them.
-    EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"), "");
+    // A proposal without properties of its own keeps the font it was written in.
+    EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"),
+              "UDP.FontName=Times New Roman .FontSize=10 .FontColor=0 .FontItalic=False\r\n");
 }
 
 TEST(SaveAs, WithoutANameNothingIsSaved) {

@@ -278,14 +278,17 @@ TEST(Backup, ThatCannotBeWrittenIsReportedAndEndsWithTheSave) {
     EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 110, 13), "14 Oak Street");
 }
 
-TEST(PropertyFile, IsNotMadeByASaveWithoutProperties) {
+TEST(PropertyFile, IsNotMadeByASaveWithoutChangedProperties) {
     RunningProgram run;
     SaveAnn(run);
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_FALSE(run.folder.Has("Proposals/Ann.hpf"));
     run.program.format.PropTextChanges[1][3].Dirty = true;
     run.program.format.LabelSavedState[0][3].Changed = true;
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
-    EXPECT_FALSE(run.folder.Has("Proposals/Ann.hpf"));
+    EXPECT_TRUE(run.folder.Has("Proposals/Ann.hpf"));
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
 }
 

@@ -30,14 +30,6 @@ void ScriptedQuestions::ExpectInput(std::string title, std::string reply) {
     script_.push_back(std::move(step));
 }
 
-void ScriptedQuestions::ExpectChoice(std::string text, std::string pressed) {
-    Step step;
-    step.IsChoice = true;
-    step.Part = std::move(text);
-    step.Reply = std::move(pressed);
-    script_.push_back(std::move(step));
-}
-
 void ScriptedQuestions::Done() {
     for (const Step& step : script_) {
         ADD_FAILURE() << "never asked: " << (step.Exact ? step.Exact->Text : step.Part);
@@ -53,7 +45,7 @@ Answer ScriptedQuestions::Ask(std::string_view text, Buttons buttons, std::strin
     if (takeAll_ && script_.empty()) {
         return takeAllBy_;
     }
-    if (script_.empty() || script_.front().IsInput || script_.front().IsChoice) {
+    if (script_.empty() || script_.front().IsInput) {
         ADD_FAILURE() << "unexpected box [" << title << "]: " << text;
         return buttons == Buttons::Ok ? Answer::Ok : Answer::Cancel;
     }
@@ -68,27 +60,6 @@ Answer ScriptedQuestions::Ask(std::string_view text, Buttons buttons, std::strin
             << "expected words: " << step.Part << "\nshown: " << shown.Text;
     }
     return step.Give;
-}
-
-std::size_t ScriptedQuestions::Choose(const Choice& choice) {
-    Choices.push_back(choice);
-    if (takeAll_ && script_.empty()) {
-        return choice.Default;
-    }
-    if (script_.empty() || !script_.front().IsChoice) {
-        ADD_FAILURE() << "unexpected choice [" << choice.Title << "]: " << choice.Text;
-        return choice.OnEscape;
-    }
-    const Step step = std::move(script_.front());
-    script_.pop_front();
-    EXPECT_NE(choice.Text.find(step.Part), std::string::npos)
-        << "expected words: " << step.Part << "\nshown: " << choice.Text;
-    const auto found = std::find(choice.Answers.begin(), choice.Answers.end(), step.Reply);
-    if (found == choice.Answers.end()) {
-        ADD_FAILURE() << "no button " << step.Reply << " in: " << choice.Text;
-        return choice.OnEscape;
-    }
-    return static_cast<std::size_t>(found - choice.Answers.begin());
 }
 
 std::string ScriptedQuestions::InputBox(std::string_view prompt, std::string_view title,

@@ -29,8 +29,6 @@ public:
     void Expect(std::string text, Answer answer = Answer::Ok);
     /// The next box must be this one to the letter.
     void ExpectBox(Box box, Answer answer);
-    /// The next box asks these words with buttons of its own; the one so captioned is pressed.
-    void ExpectChoice(std::string text, std::string pressed);
     /// The next input box: its title, and what the person types (empty for Cancel).
     void ExpectInput(std::string title, std::string reply);
     /// Fails if an expected box was not shown.
@@ -41,12 +39,10 @@ public:
         takeAllBy_ = answer;
     }
 
-    std::size_t Choose(const Choice& choice) override;
     std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
 
     std::vector<Box> Shown;
-    std::vector<Manner> Manners; ///< one for each box shown
-    std::vector<Choice> Choices;
+    std::vector<Manner> Manners;       ///< one for each box shown
     std::vector<std::string> Prompts;  ///< of input boxes
     std::vector<std::string> Initials; ///< what stood in input boxes at first
 
@@ -58,7 +54,6 @@ private:
         std::optional<Box> Exact;
         std::string Part;
         bool IsInput = false;
-        bool IsChoice = false;
         Answer Give = Answer::Ok;
         std::string Reply;
     };
