@@ -19,7 +19,7 @@ struct Manner {
     std::optional<Answer> Default;
     Came How = Came::OnRequest;
     /// The words of the box's buttons in the order Yes, No, Cancel, where they are not these.
-    std::vector<std::string> Words;
+    std::vector<std::string> Words = {};
 };
 
 /// Message and input boxes. Both wait for the person; texts hold CR LF between their lines.
