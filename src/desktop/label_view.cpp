@@ -13,10 +13,11 @@ LabelView::LabelView(PageContext& page, QWidget& paper, FieldKind kind, int inde
     setTextFormat(Qt::PlainText);
 }
 
-void LabelView::Follow(const PageLabel& record) {
+LabelView::Caption LabelView::Follow(const PageLabel& record) {
     if (built_ && record == shown_) {
-        return;
+        return Caption::Same;
     }
+    const Caption caption = built_ && record.Caption == shown_.Caption ? Caption::Same : Caption::Changed;
     shown_ = record;
     built_ = true;
     setText(convert::ToQString(record.Caption));
@@ -26,6 +27,7 @@ void LabelView::Follow(const PageLabel& record) {
                                static_cast<double>(page_.measure.Width(record.Caption, font)) + 30,
                                static_cast<double>(page_.measure.Height(font))));
     update();
+    return caption;
 }
 
 void LabelView::paintEvent(QPaintEvent*) {

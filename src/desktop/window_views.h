@@ -32,6 +32,7 @@ protected:
         after();
     }
     void reject() override;
+    void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void changeEvent(QEvent* event) override;
     Program& program_;
