@@ -271,6 +271,15 @@ PageView& FrmMainView::PageOf(PageId page) {
             }
         };
     }
+    const auto popUp = [this](CommandId id) {
+        return [this, id](QPoint at) {
+            if (QMenu* menu = menus_->Menu(id)) {
+                menu->popup(at);
+            }
+        };
+    };
+    view->Context().AskForLabelMenu = popUp(CommandId::mnuEditLabel);
+    view->Context().AskForLogoMenu = popUp(CommandId::mnuEditLogo);
     return *view;
 }
 
@@ -301,6 +310,14 @@ void FrmMainView::Follow() {
         return;
     }
     const ScopedFlag following(following_);
+    if (busy_ != program_.main.Busy) {
+        busy_ = program_.main.Busy;
+        if (busy_) {
+            QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+        } else {
+            QGuiApplication::restoreOverrideCursor();
+        }
+    }
     const QString title = convert::ToQString(program_.main.Caption);
     if (windowTitle() != title) {
         setWindowTitle(title);
@@ -315,6 +332,20 @@ void FrmMainView::Follow() {
         }
     }
     windows_->Follow();
+    if (program_.main.BringUp) {
+        program_.main.BringUp = false;
+        TakeKeyboard();
+    }
+}
+
+void FrmMainView::TakeKeyboard() {
+    raise();
+    activateWindow();
+    if (program_.main.Focus && program_.main.Focus->Page == program_.main.PageInFront) {
+        PageOf(program_.main.PageInFront).FollowFocus();
+    } else {
+        desk_->setFocus();
+    }
 }
 
 void FrmMainView::FollowLabels() {
@@ -413,7 +444,7 @@ void FrmMainView::FollowPages() {
         view.show();
         view.raise();
     }
-    if (!windows_->ModalOpen()) {
+    if (!windows_->ModalOpen() && !windows_->KeyboardWithin()) {
         view.FollowFocus();
         const QWidget* keyboard = focusWidget();
         if ((!program_.main.Focus || program_.main.Focus->Page != front) &&

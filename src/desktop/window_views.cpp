@@ -37,6 +37,11 @@ void WindowView::Follow() {
     if (isVisible() && isMinimized() != window_.Minimised) {
         window_.Minimised ? showMinimized() : showNormal();
     }
+    if (frontCalls_ != window_.FrontCalls) {
+        frontCalls_ = window_.FrontCalls;
+        raise();
+        activateWindow();
+    }
 }
 
 void WindowView::showEvent(QShowEvent* event) {
@@ -54,6 +59,18 @@ void WindowView::moveEvent(QMoveEvent* event) {
     const float twips = static_cast<float>(paper::kTwipsPerInch) / static_cast<float>(logicalDpiX());
     window_.Left = static_cast<float>(x()) * twips;
     window_.Top = static_cast<float>(y()) * twips;
+}
+
+void WindowView::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    const float twips = static_cast<float>(paper::kTwipsPerInch) / static_cast<float>(logicalDpiX());
+    window_.Width = static_cast<float>(width()) * twips;
+    window_.Height = static_cast<float>(height()) * twips;
+}
+
+void WindowView::TakeKeyboard() {
+    raise();
+    activateWindow();
 }
 
 void WindowView::changeEvent(QEvent* event) {
@@ -91,6 +108,12 @@ void WindowViews::TakeClosed(std::vector<std::unique_ptr<Window>> closed) {
     std::erase_if(leaving_, [](const auto& entry) { return entry.second.isNull(); });
 }
 
+bool WindowViews::KeyboardWithin() const {
+    return over_.isActiveWindow() && std::any_of(views_.begin(), views_.end(), [](const auto& entry) {
+               return entry.second->HasKeyboard();
+           });
+}
+
 void WindowViews::Follow() {
     const auto& open = program_.windows.Open;
     for (auto at = views_.begin(); at != views_.end();) {
@@ -105,8 +128,8 @@ void WindowViews::Follow() {
         WindowView* view = at->second.release();
         leaving_[at->first] = view;
         at = views_.erase(at);
-        const bool active = view->isActiveWindow();
-        view->hide();
+        const bool active = view->HasKeyboard();
+        view->Leave();
         view->deleteLater();
         if (active) {
             over_.activateWindow(); // the keyboard goes back to the page, also where no window manager sees
@@ -124,7 +147,11 @@ void WindowViews::Follow() {
         }
         view->Follow();
         if (fresh) {
-            view->show();
+            view->Open();
+        }
+        if (window->BringUp) {
+            window->BringUp = false;
+            view->TakeKeyboard();
         }
     }
 }

@@ -72,7 +72,7 @@ void mnuFileFormatNew_Click(Program& program) {
                                           Buttons::YesNo, "Beginning New File Format") != Answer::Yes) {
         return;
     }
-    if (MayLeaveFormat(program)) {
+    if (modWindows::MayLeave(program, Leaving::Proposal) && MayLeaveFormat(program)) {
         ClearFormat(program);
     }
 }
@@ -100,6 +100,9 @@ void mnuFileFormatDelete_Click(Program& program) {
     Questions& questions = program.platform.questions;
     if (!program.format.FormatOpen) {
         questions.MsgBox("There's no Format File open.", Buttons::Ok, "");
+        return;
+    }
+    if (!modWindows::MayLeave(program, Leaving::Proposal)) {
         return;
     }
     modProposal::AskToSave(program);
