@@ -4,6 +4,7 @@
 #include "base/dates.h"
 #include "base/paths.h"
 #include "desktop/convert.h"
+#include "desktop/message_box.h"
 #include "desktop/paper_surface.h"
 
 #include <QApplication>
@@ -20,7 +21,6 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSaveFile>
 #include <QScreen>
@@ -88,6 +88,18 @@ QMessageBox::StandardButton ButtonOf(Answer answer) {
     return QMessageBox::Ok;
 }
 
+constexpr int kInputWidth = 420;
+
+/// As wide as the longest line of a text, where that is neither narrow nor wider than a page is read.
+int WidthOf(const QLabel& label, const QString& text) {
+    constexpr int kWidest = 640;
+    int widest = 0;
+    for (const QString& line : text.split(u'\n')) {
+        widest = qMax(widest, label.fontMetrics().horizontalAdvance(line));
+    }
+    return qBound(kInputWidth - 40, widest, kWidest);
+}
+
 /// A lock file that names nobody is left from a crash in the middle of its writing, or from a full disk; the
 /// lock itself knows whether somebody still holds it.
 bool TakeUnreadable(QLockFile& lock) {
@@ -107,15 +119,28 @@ QWidget* QtQuestions::Below() const {
     return Over != nullptr && Over->isVisible() ? Over : QApplication::activeWindow();
 }
 
+OnLeaving<std::function<void()>> QtQuestions::GiveKeyboardBack() {
+    // Between two questions no window is active yet: the one before the first counts.
+    if (QWidget* active = QApplication::activeWindow()) {
+        asking_ = active;
+    }
+    return OnLeaving<std::function<void()>>([this] {
+        if (asking_ != nullptr && asking_->isVisible()) {
+            asking_->activateWindow();
+        }
+    });
+}
+
 Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view title,
                         const Manner& manner) {
     if (BeforeAsking) {
         BeforeAsking();
     }
-    QMessageBox box(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question, TitleOf(title),
-                    ShownText(text), ButtonsOf(buttons), Below());
-    box.setObjectName(QStringLiteral("MsgBox"));
-    box.setTextFormat(Qt::PlainText);
+    const OnLeaving back = GiveKeyboardBack();
+    MessageBox box(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question, TitleOf(title),
+                   ShownText(text), ButtonsOf(buttons), Below(),
+                   manner.How == Manner::Came::Unasked ? MessageBox::Came::Unasked
+                                                       : MessageBox::Came::OnRequest);
     if (title == "Program Error") {
         box.setIcon(QMessageBox::Warning);
     }
@@ -148,6 +173,7 @@ std::string QtQuestions::InputBox(std::string_view prompt, std::string_view titl
     if (BeforeAsking) {
         BeforeAsking();
     }
+    const OnLeaving back = GiveKeyboardBack();
     QInputDialog dialog(Below());
     dialog.setObjectName(QStringLiteral("InputBox"));
     dialog.setWindowTitle(TitleOf(title));
@@ -155,6 +181,8 @@ std::string QtQuestions::InputBox(std::string_view prompt, std::string_view titl
     dialog.setTextValue(convert::ToQString(initial));
     for (QLabel* label : dialog.findChildren<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        label->setMinimumWidth(WidthOf(*label, ShownText(prompt)));
     }
     // What cannot be kept is refused where it is typed, not dropped from what was confirmed.
     QObject::connect(
@@ -166,7 +194,7 @@ std::string QtQuestions::InputBox(std::string_view prompt, std::string_view titl
                 dialog.setTextValue(convert::ToQString(incoming.Text));
             }
         });
-    dialog.resize(420, dialog.sizeHint().height());
+    dialog.resize(qMax(kInputWidth, dialog.sizeHint().width()), dialog.sizeHint().height());
     return dialog.exec() == QDialog::Accepted ? convert::ToModel(dialog.textValue()) : std::string();
 }
 

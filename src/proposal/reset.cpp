@@ -97,6 +97,7 @@ void EmptyTexts(Program& program) {
         for (TextArea& area : program.pages[page].txt) {
             area.Text.clear();
             area.BackColor = colors::kResting;
+            area.ToolTipText.clear();
         }
     }
     constexpr auto kFinal = static_cast<std::size_t>(kEditedPageCount - 1);
