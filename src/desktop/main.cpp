@@ -5,6 +5,7 @@
 #include "program/program.h"
 #include "shell/start_up.h"
 #include "shell/wiring.h"
+#include "spelling/spelling_service.h"
 
 #include <QApplication>
 
@@ -22,6 +23,7 @@ int Run() {
     FrmMainView window(program, surroundings.measure);
     surroundings.questions.Over = &window;
     surroundings.questions.BeforeAsking = [&] { window.Follow(); };
+    surroundings.words.MakeSpelling = [&] { return modSpelling::MakeService(program); };
     surroundings.events.Follow = [&] { window.Follow(); };
     if (modMain::Main(program) != modMain::StartResult::Running) {
         return 0;

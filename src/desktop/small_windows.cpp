@@ -1,6 +1,8 @@
 #include "desktop/dialog_parts.h"
 #include "desktop/frm_file_view.h"
+#include "desktop/frm_spelling_view.h"
 #include "desktop/frm_splash_view.h"
+#include "desktop/frm_text_file_view.h"
 #include "desktop/settings_views.h"
 #include "desktop/window_views.h"
 #include "output/frm_dialog.h"
@@ -49,6 +51,7 @@ constexpr std::array kViews{
     ViewOf<frmACStart, FrmACStartView>,   ViewOf<frmPOffsets, FrmPOffsetsView>,
     ViewOf<frmPrinters, FrmPrintersView>, ViewOf<frmDialog, FrmDialogView>,
     ViewOf<frmFile, FrmFileView>,         ViewOf<frmSplash, FrmSplashView>,
+    ViewOf<frmSpelling, FrmSpellingView>, ViewOf<frmTextFile, FrmTextFileView>,
 };
 
 } // namespace

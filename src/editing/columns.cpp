@@ -8,15 +8,13 @@
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "pages/page_setup.h"
+#include "pages/quantity_row.h"
 #include "program/errors.h"
 #include "program/program.h"
 
 namespace modColumns {
 
 namespace {
-
-constexpr std::string_view kQuantityPlaceholder = "Qty.";
-constexpr std::string_view kPricePlaceholder = "Amt.";
 
 FieldRef Quantity(PageId page, int row) {
     return {page, FieldKind::txtQty, row};
@@ -126,8 +124,8 @@ void ToggleColumns(Program& program) {
     if (on) {
         modPages::PlaceColumns(program, page, row, modPages::Columns::On);
         FollowSelection(program, page, row);
-        modFields::SetText(program, Quantity(page, row), kQuantityPlaceholder);
-        modFields::SetText(program, Price(page, row), kPricePlaceholder);
+        modFields::SetText(program, Quantity(page, row), quantity_row::kQuantityPlaceholder);
+        modFields::SetText(program, Price(page, row), quantity_row::kPricePlaceholder);
         StoreRow(program, page, row);
         modFields::GiveFocus(program, Quantity(page, row));
         TextArea& box = modFields::Area(program, Quantity(page, row));
@@ -191,8 +189,8 @@ Taken Box_KeyDown(Program& program, const FieldRef& field, int keyCode, int shif
 }
 
 void ClearPlaceholder(Program& program, const FieldRef& field) {
-    const std::string_view placeholder =
-        field.Kind == FieldKind::txtQty ? kQuantityPlaceholder : kPricePlaceholder;
+    const std::string_view placeholder = field.Kind == FieldKind::txtQty ? quantity_row::kQuantityPlaceholder
+                                                                         : quantity_row::kPricePlaceholder;
     if (modFields::Area(program, field).Text == placeholder) {
         modFields::SetText(program, field, "");
     }

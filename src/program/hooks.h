@@ -17,10 +17,11 @@ struct Hooks {
     FieldCall LostFocus; ///< a field is about to lose it
 
     std::function<void(Program&, int)> UpdatePageButtons; ///< change the page, 0 to 6
-    Call CollectQtyBoxes;                                 ///< bring the stores up to what the row fields show
-    Call DeSelectAllControls;                             ///< end a block selection on all pages
-    std::function<void(Program&, int)> PageKey;           ///< a page-up (33) or page-down (34) key
-    Call UpdateTextMenu;                                  ///< the states of the text area's commands
+    FieldCall ShowField;      ///< brings a field into the visible part, its page to the front
+    Call CollectQtyBoxes;     ///< bring the stores up to what the row fields show
+    Call DeSelectAllControls; ///< end a block selection on all pages
+    std::function<void(Program&, int)> PageKey;   ///< a page-up (33) or page-down (34) key
+    Call UpdateTextMenu;                          ///< the states of the text area's commands
     std::function<void(Program&, int)> MoveBlock; ///< an up (38) or down (40) key while areas are selected
     std::function<void(Program&, int)> TermsKey;  ///< F5 (116) or F6 (117) on a line page
     Call ReadFrequentlyUsedTerms;

@@ -4,11 +4,13 @@
 #include "program/change_records.h"
 #include "program/document_records.h"
 #include "program/editing_records.h"
+#include "program/export_records.h"
 #include "program/hooks.h"
 #include "program/main_window_records.h"
 #include "program/page_records.h"
 #include "program/print_records.h"
 #include "program/settings_records.h"
+#include "program/spelling_records.h"
 #include "program/totals_records.h"
 #include "program/window.h"
 
@@ -31,6 +33,8 @@ struct Program {
     FormatRecords format;
     EditingState editing;
     PrintRecords printing;
+    ExportState exporting;
+    SpellingState spelling;
     MainWindow main;
     WindowCollection windows;
 };

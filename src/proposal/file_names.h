@@ -14,6 +14,8 @@ namespace modMain {
 /// Asks whether the file of that name in `document.FilePath` may be replaced. Yes deletes it; No says "File
 /// not saved." and sets `document.Cancelled`. Reports as "ShowDuplicateFileOptions".
 void ShowDuplicateFileOptions(Program& program, std::string_view name);
+/// The same for a file of another folder.
+void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::string_view name);
 
 /// The side files' names after a new file name.
 void SetBaseName(Program& program, std::string_view baseName);

@@ -1,0 +1,5 @@
+#pragma once
+struct Program;
+namespace modFigures {
+void TakeFresh(Program& program);
+}
