@@ -6,7 +6,8 @@
 #include "output/print_page.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
+#include "pages/text_width.h"
 #include "program/program.h"
 #include "shell/main_load.h"
 #include "shell/page_switch.h"
@@ -40,7 +41,7 @@ double Milliseconds(Clock::duration span) {
 
 class Agreeing : public Questions {
 public:
-    Answer MsgBox(std::string_view, Buttons buttons, std::string_view) override {
+    Answer Ask(std::string_view, Buttons buttons, std::string_view, const Manner&) override {
         return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
     }
     std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }

@@ -1,9 +1,8 @@
-#include "full_proposal.h"
-
 #include "editing/block_moves.h"
 #include "editing/selection.h"
-#include "editing/text_areas.h"
-#include "pages/page_setup.h"
+#include "editing/typing.h"
+#include "full_proposal.h"
+#include "pages/row_fields.h"
 #include "shell/input.h"
 #include "shell/page_switch.h"
 

@@ -1,10 +1,11 @@
-#include "full_proposal.h"
-
 #include "base/files.h"
-#include "editing/text_areas.h"
+#include "editing/typing.h"
+#include "full_proposal.h"
 #include "money/totals.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
 #include "proposal/proposal_layout.h"
+#include "proposal/proposal_open.h"
+#include "proposal/proposal_save.h"
 #include "proposal/reset.h"
 #include "shell/input.h"
 #include "support/scratch_folder.h"
@@ -98,7 +99,7 @@ BENCHMARK(ReadTheSameBytesRaw)->Unit(benchmark::kMicrosecond);
 void ResetOfAllPages(benchmark::State& state) {
     FullProposal full;
     for (auto _ : state) {
-        benchmark::DoNotOptimize(modMain::StartNewFile(full.program));
+        benchmark::DoNotOptimize(modReset::StartNewFile(full.program));
     }
 }
 BENCHMARK(ResetOfAllPages)->Unit(benchmark::kMicrosecond);

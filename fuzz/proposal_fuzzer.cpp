@@ -1,7 +1,8 @@
 #include "program/program.h"
-#include "proposal/proposal_file.h"
 #include "proposal/proposal_layout.h"
+#include "proposal/proposal_open.h"
 #include "proposal/reset.h"
+#include "proposal/slot_widths.h"
 #include "shell/main_load.h"
 #include "shell/wiring.h"
 #include "support/recording_platform.h"
@@ -18,7 +19,7 @@ namespace {
 /// Answers every box and never complains: a fuzzer has no script.
 class QuietQuestions : public Questions {
 public:
-    Answer MsgBox(std::string_view, Buttons, std::string_view) override { return Answer::Ok; }
+    Answer Ask(std::string_view, Buttons, std::string_view, const Manner&) override { return Answer::Ok; }
     std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
 };
 
@@ -77,7 +78,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         Require(second.Slots == first.Slots);
     }
 
-    static_cast<void>(modMain::StartNewFile(program));
+    static_cast<void>(modReset::StartNewFile(program));
     program.document.FilePath = "/nonexistent/";
     modFile::ShowProposal(program, "Fuzz.hef", {bytes, size});
     for (const auto& row : program.totals.AmountTable) {

@@ -1,3 +1,5 @@
+#include "base/version.h"
+#include "desktop/convert.h"
 #include "desktop/frm_main_view.h"
 #include "desktop/icons.h"
 #include "desktop/qt_platform.h"
@@ -25,7 +27,7 @@ int Run() {
     surroundings.questions.BeforeAsking = [&] { window.Follow(); };
     surroundings.words.MakeSpelling = [&] { return modSpelling::MakeService(program); };
     surroundings.events.Follow = [&] { window.Follow(); };
-    if (modMain::Main(program) != modMain::StartResult::Running) {
+    if (modStart::Main(program) != modStart::StartResult::Running) {
         return 0;
     }
     window.AfterEvent(); // a click may have come while the splash was still busy
@@ -37,7 +39,8 @@ int Run() {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillbrook"));
-    QApplication::setApplicationVersion(QStringLiteral(QUILLBROOK_VERSION));
+    QApplication::setApplicationVersion(convert::ToQString(version::Number()));
+    QApplication::setDesktopFileName(QStringLiteral("quillbrook"));
     QApplication::setWindowIcon(icons::Program());
     QApplication::setQuitOnLastWindowClosed(false); // the model says when the run ends
     QApplication::setStyle(QStringLiteral("Fusion"));

@@ -4,6 +4,7 @@
 #include "base/dates.h"
 #include "base/paths.h"
 #include "desktop/convert.h"
+#include "desktop/paper_surface.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -21,6 +22,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPushButton>
 #include <QSaveFile>
 #include <QScreen>
 #include <QStandardPaths>
@@ -28,12 +30,11 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <array>
 
 #include <unistd.h>
 
 namespace {
-
-constexpr double kTwipsPerInch = 1440;
 
 QString Native(std::string_view path) {
     return QString::fromStdString(ansi::ToUtf8(path));
@@ -68,7 +69,23 @@ QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
         return QMessageBox::Yes | QMessageBox::No;
     case Buttons::YesNoCancel:
         return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case Buttons::SaveAnywayCancel:
+        return QMessageBox::Yes | QMessageBox::Cancel;
     case Buttons::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::StandardButton ButtonOf(Answer answer) {
+    switch (answer) {
+    case Answer::Yes:
+        return QMessageBox::Yes;
+    case Answer::No:
+        return QMessageBox::No;
+    case Answer::Cancel:
+        return QMessageBox::Cancel;
+    case Answer::Ok:
         break;
     }
     return QMessageBox::Ok;
@@ -93,7 +110,8 @@ QWidget* QtQuestions::Below() const {
     return Over != nullptr && Over->isVisible() ? Over : QApplication::activeWindow();
 }
 
-Answer QtQuestions::MsgBox(std::string_view text, Buttons buttons, std::string_view title) {
+Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view title,
+                        const Manner& manner) {
     if (BeforeAsking) {
         BeforeAsking();
     }
@@ -104,8 +122,22 @@ Answer QtQuestions::MsgBox(std::string_view text, Buttons buttons, std::string_v
     if (title == "Program Error") {
         box.setIcon(QMessageBox::Warning);
     }
+    if (buttons == Buttons::SaveAnywayCancel) {
+        box.button(QMessageBox::Yes)->setText(QObject::tr("&Save Anyway"));
+        box.setDefaultButton(QMessageBox::Cancel); // what would be lost is not lost by a key pressed too soon
+    }
     if (buttons == Buttons::YesNo) {
         box.setEscapeButton(QMessageBox::No); // closing the box must not be a Yes
+    }
+    constexpr std::array kInOrder{QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
+    for (std::size_t index = 0; index < manner.Words.size() && index < kInOrder.size(); ++index) {
+        if (QAbstractButton* button = box.button(kInOrder[index])) {
+            button->setText(convert::ToQString(manner.Words[index]));
+            button->setIcon(QIcon());
+        }
+    }
+    if (manner.Default) {
+        box.setDefaultButton(ButtonOf(*manner.Default));
     }
     switch (box.exec()) {
     case QMessageBox::Yes:
@@ -176,8 +208,8 @@ int QtScreen::HeightInPixels() const {
 float QtScreen::TwipsPerPixel() const {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen == nullptr ? 15
-                             : static_cast<float>(kTwipsPerInch / (screen->logicalDotsPerInchX() *
-                                                                   screen->devicePixelRatio()));
+                             : static_cast<float>(paper::kTwipsPerInch / (screen->logicalDotsPerInchX() *
+                                                                          screen->devicePixelRatio()));
 }
 
 void QtClipboard::Clear() {

@@ -2,6 +2,7 @@
 
 #include "desktop/convert.h"
 #include "desktop/icons.h"
+#include "desktop/paper_surface.h"
 #include "program/program.h"
 #include "shell/frm_main.h"
 #include "shell/tool_buttons.h"
@@ -22,13 +23,13 @@ QColor Mixed(const QColor& one, const QColor& other, float share) {
 
 /// The frame of a tool button: raised under the pointer, sunken while pressed; and a ring when it has the
 /// keyboard.
-void PaintFrame(QPainter& painter, const QAbstractButton& button, modMain::ButtonFrame which) {
+void PaintFrame(QPainter& painter, const QAbstractButton& button, modToolButtons::ButtonFrame which) {
     const QPalette& palette = button.palette();
     const QRectF frame = QRectF(button.rect()).adjusted(1.5, 1.5, -1.5, -1.5);
     const QColor base = palette.color(QPalette::Window);
     const QColor ink = palette.color(QPalette::WindowText);
-    if (button.isEnabled() && which != modMain::ButtonFrame::None) {
-        const bool sunken = which == modMain::ButtonFrame::Sunken;
+    if (button.isEnabled() && which != modToolButtons::ButtonFrame::None) {
+        const bool sunken = which == modToolButtons::ButtonFrame::Sunken;
         painter.setPen(QPen(Mixed(base, ink, sunken ? 0.45F : 0.28F), 1));
         painter.setBrush(Mixed(base, ink, sunken ? 0.16F : 0.06F));
         painter.drawRoundedRect(frame, 4, 4);
@@ -79,7 +80,7 @@ bool ToolImage::event(QEvent* event) {
     return QAbstractButton::event(event);
 }
 
-void ToolImage::Follow(const ImageButton& record, modMain::ButtonFrame frame) {
+void ToolImage::Follow(const ImageButton& record, modToolButtons::ButtonFrame frame) {
     if (frame != frame_) {
         frame_ = frame;
         update();
@@ -100,7 +101,7 @@ void ToolImage::paintEvent(QPaintEvent*) {
     PaintFrame(painter, *this, frame_);
     QRect place(0, 0, 22, 22);
     place.moveCenter(rect().center());
-    if (frame_ == modMain::ButtonFrame::Sunken) {
+    if (frame_ == modToolButtons::ButtonFrame::Sunken) {
         place.translate(1, 1);
     }
     icons_[shown_.Picture == 1 ? 1 : 0].paint(&painter, place, Qt::AlignCenter,
@@ -141,9 +142,9 @@ void PageSwitchButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     PaintFrame(painter, *this,
-               isDown()       ? modMain::ButtonFrame::Sunken
-               : underMouse() ? modMain::ButtonFrame::Raised
-                              : modMain::ButtonFrame::None);
+               isDown()       ? modToolButtons::ButtonFrame::Sunken
+               : underMouse() ? modToolButtons::ButtonFrame::Raised
+                              : modToolButtons::ButtonFrame::None);
     const auto look = shown_.Picture == 1 ? icons::PageLook::Selected : icons::PageLook::Normal;
     const QColor ink = Mixed(palette().color(QPalette::WindowText), palette().color(QPalette::Window), 0.35F);
     const QPixmap picture =
@@ -214,21 +215,21 @@ void ToolStrip::AddImage(std::string_view name, const QString& accessibleName, I
                          std::function<void()> chosen) {
     auto* button = new ToolImage(name, accessibleName, this);
     button->Hovered = [this, &record](bool over) {
-        over ? modMain::HoverToolButton(program_, record) : modMain::LeaveToolButton(program_);
+        over ? modToolButtons::HoverToolButton(program_, record) : modToolButtons::LeaveToolButton(program_);
         FollowImages();
     };
     connect(button, &QAbstractButton::pressed, this, [this, &record] {
-        modMain::PressToolButton(program_, record);
+        modToolButtons::PressToolButton(program_, record);
         FollowImages();
     });
     connect(button, &QAbstractButton::released, this, [this] {
-        modMain::ReleaseToolButton(program_);
+        modToolButtons::ReleaseToolButton(program_);
         FollowImages();
     });
     // A button works when it is let go over it, as everywhere on the desktop; its frame goes with that.
     connect(button, &QAbstractButton::clicked, this, [this, chosen = std::move(chosen)] {
         chosen();
-        modMain::ReleaseToolButton(program_);
+        modToolButtons::ReleaseToolButton(program_);
         afterEvent_();
     });
     row_->addWidget(button);
@@ -303,7 +304,7 @@ void ToolStrip::PlaceCommands() {
 }
 
 void ToolStrip::KeepPlace(const QWidget& widget, ImageButton& record) const {
-    const float twips = 1440.0F / static_cast<float>(logicalDpiX());
+    const float twips = static_cast<float>(paper::kTwipsPerInch) / static_cast<float>(logicalDpiX());
     record.Left = static_cast<float>(widget.x()) * twips;
     record.Top = static_cast<float>(widget.y()) * twips;
     record.Width = static_cast<float>(widget.width()) * twips;
@@ -313,7 +314,7 @@ void ToolStrip::KeepPlace(const QWidget& widget, ImageButton& record) const {
 void ToolStrip::FollowImages() {
     for (const auto& [widget, record] : images_) {
         KeepPlace(*widget, *record);
-        widget->Follow(*record, modMain::FrameOf(program_, *record));
+        widget->Follow(*record, modToolButtons::FrameOf(program_, *record));
     }
 }
 

@@ -24,7 +24,7 @@ class ToolImage : public QAbstractButton {
     Q_OBJECT
 public:
     ToolImage(std::string_view controlName, const QString& accessibleName, QWidget* parent);
-    void Follow(const ImageButton& record, modMain::ButtonFrame frame);
+    void Follow(const ImageButton& record, modToolButtons::ButtonFrame frame);
     [[nodiscard]] QSize sizeHint() const override { return {34, 34}; }
     /// The pointer came or went.
     std::function<void(bool)> Hovered;
@@ -38,7 +38,7 @@ private:
     void MakeIcons();
     std::string_view name_;
     ImageButton shown_;
-    modMain::ButtonFrame frame_ = modMain::ButtonFrame::None;
+    modToolButtons::ButtonFrame frame_ = modToolButtons::ButtonFrame::None;
     std::array<QIcon, 2> icons_;
 };
 

@@ -2,7 +2,7 @@
 
 #include "base/guard.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
+#include "pages/text_width.h"
 #include "program/program.h"
 
 #include <optional>

@@ -16,4 +16,7 @@ void mnuEditTextSelLCase_Click(Program& program);
 void mnuEditTextSelPCase_Click(Program& program);
 void mnuEditTextSelUCase_Click(Program& program);
 
+/// Says "ok" and does nothing else.
+void mnuEditTextCenter_Click(Program& program);
+
 } // namespace modText

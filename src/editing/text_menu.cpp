@@ -1,7 +1,7 @@
 #include "editing/text_menu.h"
 
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "program/program.h"
 
 #include <array>

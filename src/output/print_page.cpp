@@ -1,7 +1,7 @@
 #include "output/print_page.h"
 
 #include "base/guard.h"
-#include "money/totals.h"
+#include "editing/fresh_figures.h"
 #include "pages/page_geometry.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -119,10 +119,7 @@ void DrawPage(const Program& program, DrawingSurface& surface, PageId page) {
 }
 
 void PrepareDrawing(Program& program) {
-    if (program.main.cmdReCalc.BackColor == colors::kOverLimit) {
-        modTotals::RecalculateAll(program);
-        modTotals::UpdateRunningTotals(program);
-    }
+    modFigures::TakeFresh(program);
     Page& active = program.pages[program.main.ActivePage];
     active.CenterLines.clear();
     active.GridPoints.clear();

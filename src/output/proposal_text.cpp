@@ -2,7 +2,7 @@
 
 #include "base/text.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "pages/quantity_row.h"
 #include "program/program.h"
 

@@ -79,7 +79,7 @@ void TakeFigures(Program& program) {
 bool NameIsSettled(Program& program, const std::string& folder) {
     DocumentState& document = program.document;
     const std::string& name = program.exporting.ExportFileName;
-    if (modMain::IllegalFileName(program, name)) {
+    if (modNames::IllegalFileName(program, name)) {
         GoToClientName(program);
         return false;
     }
@@ -90,7 +90,7 @@ bool NameIsSettled(Program& program, const std::string& folder) {
         return false;
     }
     if (modFile::FileIsThere(folder, name)) {
-        modMain::ShowDuplicateFileOptions(program, folder, name);
+        modNames::ShowDuplicateFileOptions(program, folder, name);
         if (document.Cancelled) {
             document.Cancelled = false;
             return false;

@@ -1,14 +1,17 @@
+#include "pages/page_defaults.h"
+
 #include "base/files.h"
 #include "base/guard.h"
+#include "pages/label_records.h"
+#include "pages/logo.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
 #include "pages/page_tables.h"
+#include "pages/text_width.h"
 #include "program/program.h"
 
 #include <array>
 #include <string>
 
-/// What every page says and where it says it before anybody has typed.
 namespace modPages {
 
 namespace {
@@ -268,7 +271,7 @@ void CreateFields(Program& program, PageId id) {
         page.lblEach.resize(1);
         page.txtQty[0].Text = "Qty.";
         page.txtAmt[0].Text = "Amt.";
-        page.lblAt[0].Caption = id == PageId::frmP1 ? "@ $" : "@ " + program.settings.CurrencySymbol;
+        page.lblAt[0].Caption = "@ " + program.settings.CurrencySymbol;
         page.lblEach[0].Caption = "ea.";
         for (auto* labels : {&page.lblAt, &page.lblEach}) {
             labels->front().BackColor = colors::kRestingRowField;
@@ -340,7 +343,7 @@ void SetUpPage(Program& program, PageId page) {
     PlaceLines(program, record);
     PlaceMarks(record);
     if (page == PageId::frmP1 && !program.settings.LogoFile.empty()) {
-        LoadLogo(program);
+        modLogo::LoadLogo(program);
     }
     ApplyPageDefaults(program, page);
 }

@@ -109,9 +109,13 @@ std::string_view KindOf(std::string_view tag) {
     return text::Left(tag, 4);
 }
 
+std::string_view LimitText(std::string_view tag) {
+    return text::Right(tag, 3);
+}
+
 int LimitOf(std::string_view tag) {
     int limit = 0;
-    for (const char character : text::Right(tag, 3)) {
+    for (const char character : LimitText(tag)) {
         if (character < '0' || character > '9') {
             break;
         }

@@ -41,8 +41,9 @@ inline constexpr float kColumnsWidth = 6270;
 [[nodiscard]] std::string_view PageTitle(int index);
 /// Whether an area's text ends at its right edge, on screen as on paper.
 [[nodiscard]] bool RightAligned(PageId page, int index);
-/// First four characters of a Tag, and the number in its last three.
+/// First four characters of a Tag, its last three, and the number in them: the area's kind and limit.
 [[nodiscard]] std::string_view KindOf(std::string_view tag);
+[[nodiscard]] std::string_view LimitText(std::string_view tag);
 [[nodiscard]] int LimitOf(std::string_view tag);
 
 } // namespace geometry

@@ -18,6 +18,7 @@ struct DocumentState {
     bool FromBackup = false;
     bool BackingUp = false;
     std::string ClientCaption; ///< "Proposal for " and the client; also called ProposalTitle
+    bool TitleGiven = false;   ///< a person gave the title its words; a client's name no longer makes it
     std::string DocumentKind = "Event";
     std::string PageHeading; ///< the running heading of the pages, also called the header prefix
     bool Cancelled = false;

@@ -18,7 +18,9 @@ struct Hooks {
 
     std::function<void(Program&, int)> UpdatePageButtons; ///< change the page, 0 to 6
     FieldCall ShowField;      ///< brings a field into the visible part, its page to the front
-    Call CollectQtyBoxes;     ///< bring the stores up to what the row fields show
+    Call CollectQtyBoxes;                                 ///< bring the stores up to what the row fields show
+    Call TakeFreshFigures;    ///< what is being typed is settled and everything summed, before others see it
+    Call TakeCompletion;      ///< a standing word completion is taken, as leaving its area takes it
     Call DeSelectAllControls; ///< end a block selection on all pages
     std::function<void(Program&, int)> PageKey;   ///< a page-up (33) or page-down (34) key
     Call UpdateTextMenu;                          ///< the states of the text area's commands
@@ -28,12 +30,13 @@ struct Hooks {
     std::function<void(Program&, const std::string&)> ReadTextFile; ///< shows a text file, by its full path
     Call ShowTermsWindow;
     Call ShowCalculator;
-    Call CloseFootnotes;
     Call ReadEventDates;
     /// The assignment language of format and property files.
     Call OpenFormatFile;
     Call ParsePropertyFile;
     Call AssignPropChanges;
-    std::function<bool(Program&)> FormatHasChanges; ///< whether the open format differs from its file
-    Call SaveFileFormat;
+    /// Whether what the open format has not saved may be lost; asks and saves. No answer: it may.
+    std::function<bool(Program&)> MayLeaveFormat;
+    Call CloseLabelWindow; ///< as OK, on its own page
+    Call SetPageNumbers;   ///< headings and page numbers into the labels
 };

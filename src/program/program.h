@@ -1,7 +1,10 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "program/address_records.h"
+#include "program/calendar_records.h"
 #include "program/change_records.h"
+#include "program/designer_records.h"
 #include "program/document_records.h"
 #include "program/editing_records.h"
 #include "program/export_records.h"
@@ -31,10 +34,13 @@ struct Program {
     GuardFlags guards;
     TotalsRecords totals;
     FormatRecords format;
+    DesignerRecords designer;
     EditingState editing;
     PrintRecords printing;
     ExportState exporting;
     SpellingState spelling;
+    CalendarRecords calendar;
+    AddressRecords addresses;
     MainWindow main;
     WindowCollection windows;
 };

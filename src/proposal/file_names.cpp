@@ -1,5 +1,6 @@
 #include "proposal/file_names.h"
 
+#include "base/ansi.h"
 #include "base/dates.h"
 #include "base/files.h"
 #include "base/paths.h"
@@ -7,12 +8,30 @@
 #include "program/errors.h"
 #include "program/program.h"
 
-namespace modMain {
+namespace modNames {
+
+namespace {
+
+/// A file system takes names of 255 bytes; a file's other names, beside it and on the way to it, need some.
+constexpr std::size_t kLongestName = 230;
+
+bool IsTooLong(Program& program, std::string_view name) {
+    if (ansi::ToUtf8(name).size() <= kLongestName) {
+        return false;
+    }
+    program.platform.questions.MsgBox(
+        text::Lines({"Action Cancelled. The name is too long for a file.",
+                     "Please shorten the client's name or save under another."}),
+        Buttons::Ok, "");
+    return true;
+}
+
+} // namespace
 
 bool IllegalFileName(Program& program, std::string_view name) {
     constexpr std::string_view kIllegal = "/\\:*?<>|";
     if (name.find_first_of(kIllegal) == std::string_view::npos) {
-        return false;
+        return IsTooLong(program, name);
     }
     program.platform.questions.MsgBox(text::Lines({"Action Cancelled. File Name cannot include any of ",
                                                    "the following characters: / \\ : * ? < > |"}),
@@ -33,8 +52,7 @@ void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::st
                          dates::GeneralDate(files::ModifiedSerial(path)), "", "with this one?"});
         if (program.platform.questions.MsgBox(question, Buttons::YesNo, "Duplicate File Name on Record") ==
             Answer::Yes) {
-            files::Delete(path);
-            return;
+            return; // the new bytes replace the file in one step
         }
         program.platform.questions.MsgBox("File not saved.", Buttons::Ok, "");
         program.document.Cancelled = true;
@@ -51,4 +69,4 @@ void SetBaseName(Program& program, std::string_view baseName) {
     program.document.DepositFile = program.document.BaseName + ".dep";
 }
 
-} // namespace modMain
+} // namespace modNames

@@ -4,13 +4,15 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
+#include "pages/logo.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "proposal/delete_files.h"
 #include "proposal/file_names.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_open.h"
 #include "proposal/reset.h"
 
 #include <algorithm>
@@ -19,7 +21,6 @@ namespace {
 
 constexpr std::string_view kUp = "..";
 constexpr std::string_view kFormats = "*.fmt";
-constexpr std::string_view kPictures = "*.jpg;*.bmp;*.gif";
 constexpr std::string_view kTerms = "*.fut";
 constexpr std::string_view kTexts = "*.txt";
 
@@ -61,6 +62,7 @@ void frmFile::Form_Load(Program& program) {
 void frmFile::Form_Unload(Program& program) {
     program.document.FileFilter = "*.hef";
     program.document.DeleteMode = false;
+    program.document.IgnoreProperties = false; // a choice for the file that was chosen here
     if (!done_) {
         // A folder that was only looked at must not become the place where the open proposal is saved.
         program.document.FilePath = filePathBefore_;
@@ -158,7 +160,7 @@ void frmFile::cmdOpenOK_Click(Program& program) {
         OpenProposal(program);
     } else if (program.document.FileFilter == kFormats) {
         OpenFormat(program);
-    } else if (program.document.FileFilter == kPictures) {
+    } else if (program.document.FileFilter == kPictureFiles) {
         OpenLogo(program);
     } else if (program.document.FileFilter == kTerms) {
         program.run.FUTFileName = selected_;
@@ -191,7 +193,7 @@ void frmFile::OpenFormat(Program& program) {
     format.FormatName = selected_;
     format.FormatOpen = true;
     program.settings.LoadDefaultFormat = false;
-    if (modMain::StartNewFile(program) == modMain::ResetResult::Refused) {
+    if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         format = before;
         program.settings.LoadDefaultFormat = loadDefault;
         return;
@@ -202,14 +204,24 @@ void frmFile::OpenFormat(Program& program) {
 
 void frmFile::OpenLogo(Program& program) {
     const std::string path = paths::Join(Folder, selected_);
-    if (!modPages::ShowLogo(program, path)) {
+    const std::optional<PictureSize> size = modLogo::ShowLogo(program, path);
+    if (!size) {
         program.platform.questions.MsgBox("The file " + selected_ + " is not a picture that can be shown.",
                                           Buttons::Ok, "");
         return;
     }
+    const PagePicture& logo = program.pages[PageId::frmP1].pic;
+    FormatRecords& format = program.format;
     program.settings.LogoFile = path;
-    program.format.LogoChanged = true;
+    format.LogoPath = path;
+    format.LogoLeft = logo.Left;
+    format.LogoTop = logo.Top;
+    format.LogoChanged = true;
+    format.Touched = true;
     Finish(program);
+    if (const auto message = modLogo::ScaledMessage(*size)) {
+        program.platform.questions.MsgBox(*message, Buttons::Ok, "");
+    }
 }
 
 void frmFile::OpenProposal(Program& program) {
@@ -224,7 +236,7 @@ void frmFile::OpenProposal(Program& program) {
     }
     const bool existed = document.FileExists;
     document.FileExists = true;
-    if (modMain::StartNewFile(program) == modMain::ResetResult::Refused) {
+    if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         document.FileExists = existed;
         return;
     }
@@ -247,7 +259,7 @@ void frmFile::DeleteSelected(Program& program) {
         return;
     }
     try {
-        modMain::DeleteProposalFiles(Folder, selected_);
+        modFile::DeleteProposalFiles(Folder, selected_);
     } catch (const std::exception& error) {
         questions.MsgBox("An Error occurred trying to delete the file.", Buttons::Ok, "");
         ReportError(program, "frmFile", error);

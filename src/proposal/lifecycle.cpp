@@ -7,32 +7,25 @@
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
 #include "pages/titles.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "proposal/delete_files.h"
 #include "proposal/file_names.h"
 #include "proposal/frm_file.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_save.h"
 #include "proposal/reset.h"
+#include "proposal/side_files.h"
 
 #include <algorithm>
 #include <array>
 
-namespace modMain {
+namespace modProposal {
 
 namespace {
-
-/// Copies a side file of the old name to the new one in the data folder.
-void CopySideFile(Program& program, std::string_view from, std::string_view to) {
-    if (text::EqualNoCase(from, to)) {
-        return;
-    }
-    const std::string folder = modFolders::DataFolder(program);
-    files::Copy(paths::Join(folder, from), paths::Join(folder, to));
-}
 
 /// An empty proposal is none from the backups, and must not be saved among them.
 void LeaveBackup(Program& program) {
@@ -56,7 +49,7 @@ void SaveAsSteps(Program& program) {
         return;
     }
     const ScopedFlag active(document.SaveAsActive);
-    if (IllegalFileName(program, name)) {
+    if (modNames::IllegalFileName(program, name)) {
         return;
     }
     const std::string fileName = name + ".hef";
@@ -71,29 +64,32 @@ void SaveAsSteps(Program& program) {
         return;
     }
     const DocumentState before = document;
-    const std::string folder = modFolders::DataFolder(program);
-    const bool footnotes = modFile::FileIsThere(folder, before.FootnoteFile);
-    const bool deposits = modFile::FileIsThere(folder, before.DepositFile);
-    SetBaseName(program, name);
+    modNames::SetBaseName(program, name);
     document.FileName = fileName;
     document.FileExists = true;
+    if (!document.TitleGiven) {
+        document.ClientCaption = "Proposal for " + document.BaseName;
+        modTitles::UpdateFooters(program);
+    }
     if (modFile::SaveEventFile(program) == modFile::SaveResult::NotSaved) {
         // The proposal keeps the name under which it is on the disk.
-        SetBaseName(program, before.BaseName);
+        modNames::SetBaseName(program, before.BaseName);
         document.FootnoteFile = before.FootnoteFile;
         document.DepositFile = before.DepositFile;
         document.FileName = before.FileName;
         document.FileExists = before.FileExists;
+        document.ClientCaption = before.ClientCaption;
+        modTitles::UpdateFooters(program);
         return;
     }
+    if (program.hooks.AssignPropChanges) {
+        program.hooks.AssignPropChanges(program);
+    }
     modFile::SavePropertyFile(program);
-    if (footnotes) {
-        CopySideFile(program, before.FootnoteFile, document.FootnoteFile);
-    }
-    if (deposits) {
-        CopySideFile(program, before.DepositFile, document.DepositFile);
-    }
-    UpdateEventNameLabels(program);
+    modSideFile::FollowSaveAs(program, before);
+    program.main.imgFootNotes.Picture =
+        modFile::FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile) ? 1 : 0;
+    modTitles::UpdateEventNameLabels(program);
 }
 
 } // namespace
@@ -117,6 +113,9 @@ bool SomethingChanged(Program& program) {
 }
 
 void AskToSave(Program& program) {
+    if (program.hooks.CloseLabelWindow) {
+        program.hooks.CloseLabelWindow(program); // what was typed there counts
+    }
     if (!SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
         return;
     }
@@ -132,10 +131,18 @@ void AskToSave(Program& program) {
 }
 
 bool MayGoOn(Program& program) {
+    // What lies beside the proposal first: a deposit that is saved there still reaches the proposal's file.
+    if (!modWindows::MayLeave(program, Leaving::Proposal)) {
+        return false;
+    }
     AskToSave(program);
     const bool goOn = !program.document.Cancelled;
     program.document.Cancelled = false;
-    return goOn;
+    return goOn && MayLeaveFormat(program);
+}
+
+bool MayLeaveFormat(Program& program) {
+    return !program.hooks.MayLeaveFormat || program.hooks.MayLeaveFormat(program);
 }
 
 void SaveEventFileAs(Program& program) {
@@ -148,13 +155,13 @@ void mnuFileNew_Click(Program& program) {
     }
     DocumentState& document = program.document;
     document.DocumentKind = "Event";
-    const bool format = !program.settings.DefaultFormatPath.empty() && program.settings.LoadDefaultFormat;
-    if (StartNewFile(program) == ResetResult::Refused) {
+    if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         return;
     }
+    const bool format = program.format.FormatOpen;
     LeaveBackup(program);
     if (!format) {
-        SetPageHeading(program, "Contract Proposal");
+        modTitles::SetPageHeading(program, "Contract Proposal");
         Page& page = program.pages[PageId::frmP1];
         page.lbl[9].Caption = "Event Date";
         page.lbl[10].Caption = "Event Time";
@@ -181,6 +188,13 @@ void mnuFileOpenEvent_Click(Program& program) {
     modWindows::Show(program, std::move(window));
 }
 
+void mnuFileOpenTextFile_Click(Program& program) {
+    program.document.FileFilter = "*.txt";
+    auto window = std::make_unique<frmFile>();
+    window->Caption = "Opening Text File";
+    modWindows::Show(program, std::move(window));
+}
+
 void mnuFileSaveEvent_Click(Program& program) {
     modFile::SaveEventFile(program);
 }
@@ -198,17 +212,18 @@ void mnuFileDelete_Click(Program& program) {
         return;
     }
     if (questions.MsgBox("Are you sure you want to delete this file?", Buttons::YesNo,
-                         "Preparing to Delete File.") != Answer::Yes) {
+                         "Preparing to Delete File.") != Answer::Yes ||
+        !MayLeaveFormat(program)) {
         return;
     }
     try {
-        DeleteProposalFiles(document.FilePath, document.FileName);
+        modFile::DeleteProposalFiles(document.FilePath, document.FileName);
     } catch (const std::exception& error) {
         questions.MsgBox("An Error occurred trying to delete the file.", Buttons::Ok, "");
         ReportError(program, "mnuFileDelete_Click", error);
         return;
     }
-    if (StartNewFile(program) == ResetResult::Done) {
+    if (modReset::StartNewFile(program) == modReset::ResetResult::Done) {
         LeaveBackup(program);
     }
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
@@ -223,9 +238,17 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
         if (files::Exists(target)) {
             files::Delete(target);
         }
-        document.ClientCaption = "Proposal for " + document.BaseName;
-        UpdateFooters(program);
+        if (!document.TitleGiven) {
+            document.ClientCaption = "Proposal for " + document.BaseName;
+            modTitles::UpdateFooters(program);
+        }
         files::WriteWhole(target, bytes);
+        const std::string layout = document.BaseName + ".hpf";
+        if (modFile::FileIsThere(document.FilePath, layout)) {
+            files::Copy(paths::Join(document.FilePath, layout), paths::Join(folder, layout));
+            program.format.PropertyPath = paths::Join(folder, layout);
+            program.format.PropertySeen = files::LookAt(program.format.PropertyPath);
+        }
         document.FilePath = folder;
         program.main.lblDir.Caption = "Current Folder = " + document.FilePath;
         program.main.imgFootNotes.Picture = modFile::FileIsThere(folder, document.FootnoteFile) ? 1 : 0;
@@ -234,4 +257,4 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
     });
 }
 
-} // namespace modMain
+} // namespace modProposal

@@ -1,16 +1,21 @@
+#include "proposal/proposal_save.h"
+
 #include "base/files.h"
 #include "base/guard.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "money/totals.h"
 #include "pages/fields.h"
-#include "pages/page_geometry.h"
 #include "pages/titles.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
 #include "proposal/file_names.h"
-#include "proposal/proposal_file.h"
+#include "proposal/long_texts.h"
+#include "proposal/property_file.h"
+#include "proposal/slot_widths.h"
+
+#include <string>
 
 namespace modFile {
 
@@ -26,15 +31,12 @@ void GoToClientName(Program& program) {
 }
 
 void CompareTotals(Program& program) {
-    if (program.document.BackingUp) {
-        // A backup comes in the middle of typing: an amount that is not left yet is no discrepancy to tell
-        // of.
-        for (const PageId page : kLinePages) {
-            modTotals::CalculateMyTotals(program, page);
-        }
+    // A backup comes in the middle of typing and leaves the text under the cursor as it stands.
+    if (program.hooks.TakeFreshFigures && !program.document.BackingUp) {
+        program.hooks.TakeFreshFigures(program);
+    } else {
+        modTotals::SumAgain(program);
     }
-    modTotals::RecalculateAll(program);
-    modTotals::UpdateRunningTotals(program);
     if (modTotals::TotalsDiffer(program)) {
         program.main.cmdReCalc.BackColor = colors::kOverLimit;
         program.platform.questions.MsgBox(modTotals::DiscrepancyMessage(), Buttons::Ok, "");
@@ -47,7 +49,7 @@ bool NameIsSettled(Program& program) {
     if (document.FilePath.empty()) {
         document.FilePath = modFolders::DataFolder(program);
     }
-    if (!document.SaveAsActive && modMain::IllegalFileName(program, document.FileName)) {
+    if (!document.SaveAsActive && modNames::IllegalFileName(program, document.FileName)) {
         GoToClientName(program);
         return false;
     }
@@ -61,7 +63,7 @@ bool NameIsSettled(Program& program) {
         return false;
     }
     if (FileIsThere(document.FilePath, document.FileName)) {
-        modMain::ShowDuplicateFileOptions(program, document.FileName);
+        modNames::ShowDuplicateFileOptions(program, document.FileName);
         if (document.Cancelled) {
             document.Cancelled = false;
             return false;
@@ -70,34 +72,18 @@ bool NameIsSettled(Program& program) {
     return true;
 }
 
-void ClearLabelMarks(Program& program) {
-    for (auto& page : program.format.LabelSavedState) {
-        for (LabelChangeRecord& label : page) {
-            label.Changed = false;
-        }
-    }
-}
-
 /// The properties, when one has changed.
 SaveResult SaveProperties(Program& program) {
-    if (!PropertiesChanged(program)) {
+    // What a client was sent must print the same when the format is another one.
+    const bool firstUnderFormat = program.format.FormatOpen && !program.document.FileExists;
+    if (!PropertiesChanged(program) && !firstUnderFormat) {
         return SaveResult::Saved;
     }
     if (program.hooks.AssignPropChanges) {
         program.hooks.AssignPropChanges(program);
-        return SavePropertyFile(program);
     }
-    // Nobody writes new lines: what was read goes back as it came.
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
-        for (TextChangeRecord& record : program.format.PropTextChanges[page]) {
-            record.Dirty = false;
-        }
-    }
-    if (!program.format.PropertyLines.empty()) {
-        return SavePropertyFile(program);
-    }
-    ClearLabelMarks(program);
-    return SaveResult::Saved;
+    // Where nobody writes new lines, what was read goes back as it came.
+    return SavePropertyFile(program);
 }
 
 std::string MakeBytes(const Program& program) {
@@ -106,8 +92,10 @@ std::string MakeBytes(const Program& program) {
         const auto& texts = program.document.CurrentTextBuf[page];
         fields[page].reserve(texts.size());
         for (std::size_t index = 0; index < texts.size(); ++index) {
-            const bool marked =
-                page < kLinePageCount && program.format.PropTextChanges[page][index].TaxExempt;
+            // A mark beside nothing says nothing and would come back as a text.
+            const bool marked = page < kLinePageCount &&
+                                program.format.PropTextChanges[page][index].TaxExempt &&
+                                !text::Trim(texts[index]).empty();
             fields[page].push_back({texts[index], marked});
         }
     }
@@ -127,12 +115,18 @@ void WriteFile(Program& program) {
 
 void SavingSteps(Program& program, SaveResult& result) {
     DocumentState& document = program.document;
+    if (program.hooks.CloseLabelWindow && !document.BackingUp) {
+        program.hooks.CloseLabelWindow(program);
+    }
     CompareTotals(program);
     if (!NameIsSettled(program)) {
         return;
     }
     if (program.hooks.CollectQtyBoxes) {
         program.hooks.CollectQtyBoxes(program);
+    }
+    if (!document.BackingUp && !MayCutLongTexts(program)) {
+        return;
     }
     // Should a write fail, the properties still count as unsaved.
     const bool properties = PropertiesChanged(program);
@@ -146,33 +140,13 @@ void SavingSteps(Program& program, SaveResult& result) {
     document.SavedStateStale = propertiesLost;
     result = SaveResult::Saved;
     program.main[CommandId::mnuFileDelete].Enabled = true;
-    modMain::UpdateEventNameLabels(program);
+    modTitles::UpdateEventNameLabels(program);
     if (!document.BackingUp) {
         program.platform.questions.MsgBox("File was saved as " + document.FileName, Buttons::Ok, "");
     }
 }
 
-std::string PropertyFolder(const Program& program) {
-    return program.document.FromBackup ? modFolders::DataFolder(program) : program.document.FilePath;
-}
-
-std::string PropertyName(const Program& program) {
-    return program.document.BaseName + ".hpf";
-}
-
 } // namespace
-
-proposal::Widths SlotWidths(const Program& program) {
-    proposal::Widths widths;
-    for (const PageId page : kEditedPages) {
-        auto& list = widths[static_cast<std::size_t>(IndexOf(page))];
-        list.reserve(program.pages[page].txt.size());
-        for (const TextArea& area : program.pages[page].txt) {
-            list.push_back(geometry::LimitOf(area.Tag));
-        }
-    }
-    return widths;
-}
 
 SaveResult SaveEventFile(Program& program) {
     SaveResult result = SaveResult::NotSaved;
@@ -195,56 +169,6 @@ void BackupThisFile(Program& program) {
         program.document.BackingUp = true;
         SaveEventFile(program);
     });
-}
-
-SaveResult SavePropertyFile(Program& program) {
-    const bool done = Guarded(program, "SavePropertyFile", [&] {
-        std::string bytes;
-        for (const std::string& line : program.format.PropertyLines) {
-            bytes += line;
-            bytes += text::kCrLf;
-        }
-        const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
-        if (files::Exists(path)) {
-            files::Delete(path);
-        }
-        files::WriteWhole(path, bytes);
-        ClearLabelMarks(program);
-    });
-    return done ? SaveResult::Saved : SaveResult::NotSaved;
-}
-
-void ReadFileProperties(Program& program) {
-    Guarded(program, "ReadFileProperties", [&] {
-        program.format.PropertyLines.clear();
-        const std::string folder = PropertyFolder(program);
-        if (!FileIsThere(folder, PropertyName(program))) {
-            return;
-        }
-        program.format.PropertyLines =
-            text::SplitLines(files::ReadAll(paths::Join(folder, PropertyName(program))));
-        if (!program.format.PropertyLines.empty() && program.hooks.ParsePropertyFile) {
-            program.hooks.ParsePropertyFile(program);
-        }
-    });
-}
-
-bool PropertiesChanged(const Program& program) {
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
-        for (const TextChangeRecord& record : program.format.PropTextChanges[page]) {
-            if (record.Dirty) {
-                return true;
-            }
-        }
-    }
-    for (const auto& page : program.format.LabelSavedState) {
-        for (const LabelChangeRecord& label : page) {
-            if (label.Changed) {
-                return true;
-            }
-        }
-    }
-    return program.document.SavedStateStale;
 }
 
 bool ClientNameChanged(const Program& program) {

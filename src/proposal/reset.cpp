@@ -3,16 +3,21 @@
 #include "base/files.h"
 #include "base/guard.h"
 #include "base/paths.h"
+#include "money/totals.h"
+#include "pages/logo.h"
+#include "pages/page_defaults.h"
+#include "pages/page_fonts.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
 #include "pages/titles.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/windows.h"
 #include "proposal/file_names.h"
 
 #include <array>
 
-namespace modMain {
+namespace modReset {
 
 namespace {
 
@@ -37,6 +42,7 @@ void ClearNames(Program& program) {
         document.FromBackup = false;
     }
     document.ClientCaption.clear();
+    document.TitleGiven = false;
     document.FileExists = false;
     program.main[CommandId::mnuFileDelete].Enabled = false;
     document.BaseName.clear();
@@ -97,11 +103,19 @@ void EmptyTexts(Program& program) {
     for (int index = kLinePageCount - 1; index >= 0; --index) {
         Page& page = program.pages[PageAt(index)];
         const auto at = static_cast<std::size_t>(index);
+        for (auto* boxes : {&page.txtQty, &page.txtAmt}) {
+            for (TextArea& box : *boxes) {
+                box.ToolTipText.clear();
+            }
+        }
         document.CurrentTextBuf[at].resize(page.txt.size());
         document.SavedTextBuf[at].resize(page.txt.size());
         for (std::size_t area = 0; area < page.txt.size(); ++area) {
             page.txt[area].BackColor = colors::kResting;
             page.txt[area].FontBold = false;
+            if (page.txt[area].ToolTipText == modTotals::kNoNumberTip) {
+                page.txt[area].ToolTipText.clear();
+            }
             if (program.format.FormatTextChanges[at][area].FormatText) {
                 continue;
             }
@@ -128,16 +142,26 @@ void ZeroTotals(Program& program) {
 
 void TakeFormat(Program& program, bool loadDefault) {
     FormatRecords& format = program.format;
+    format.FormatTextChanges = {};
+    format.FormatLabelChanges = {};
+    format.InFile = {};
+    format.LogoChanged = false;
+    format.LogoPending = false;
+    format.Touched = false;
     if (loadDefault) {
         format.FormatFolder = paths::Folder(program.settings.DefaultFormatPath);
         format.FormatName = paths::Name(program.settings.DefaultFormatPath);
         format.FormatOpen = true;
     }
+    // A format without a logo of its own leaves this one.
+    modLogo::LoadLogo(program);
+    const RunState& run = program.run;
+    format.FontOfFile = {run.DefaultFontName, run.DefaultFontSize, run.DefaultFontColor,
+                         run.DefaultFontItalic};
     if (format.FormatOpen && program.hooks.OpenFormatFile) {
+        format.LogoPath.clear();
         program.hooks.OpenFormatFile(program);
-        return;
     }
-    modPages::LoadLogo(program);
 }
 
 void ResetSteps(Program& program) {
@@ -146,13 +170,14 @@ void ResetSteps(Program& program) {
                              program.settings.LoadDefaultFormat &&
                              static_cast<bool>(program.hooks.OpenFormatFile);
     ClearNames(program);
-    SetPageHeading(program, "Event Proposal");
-    UpdateEventNameLabels(program);
+    modTitles::SetPageHeading(program, "Event Proposal");
+    modTitles::UpdateEventNameLabels(program);
     program.main.Caption = "Quillbrook";
     program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled = false;
     program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
     ResetPages(program);
     ResetFont(program);
+    modTitles::CentreFooters(program);
     program.totals.PageSum = {};
     program.totals.PageTaxable = {};
     EmptyTexts(program);
@@ -164,22 +189,24 @@ void ResetSteps(Program& program) {
 
 ResetResult StartNewFile(Program& program) {
     ResetResult result = ResetResult::Done;
+    if (program.hooks.CloseLabelWindow) {
+        program.hooks.CloseLabelWindow(program);
+    }
     Guarded(program, "StartNewFile", [&] {
         {
             const ScopedFlag active(program.guards.ResetActive);
-            if (program.hooks.CloseFootnotes) {
-                program.hooks.CloseFootnotes(program);
-            }
             if (FormatEditingGoesOn(program)) {
                 result = ResetResult::Refused;
                 return;
             }
+            // Whoever leaves the proposal has been asked about them already.
+            modWindows::CloseProposalWindows(program);
             ResetSteps(program);
         }
         if (program.hooks.UpdatePageButtons) {
             program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
         }
-        UpdateFooters(program);
+        modTitles::UpdateFooters(program);
         if (program.document.CompanyBlockPending) {
             program.document.CompanyBlockPending = false;
             modPages::SizeRemittanceBox(program);
@@ -191,16 +218,4 @@ ResetResult StartNewFile(Program& program) {
     return result;
 }
 
-void DeleteProposalFiles(std::string_view folder, std::string_view fileName) {
-    // By the name that was chosen, not by one put together: names may differ in nothing but their case.
-    files::Delete(paths::Join(folder, fileName));
-    const std::string base = paths::Join(folder, paths::BaseOf(fileName));
-    for (const std::string_view extension : {".hpf", ".txt", ".hxt", ".dep"}) {
-        const std::string side = base + std::string(extension);
-        if (files::Exists(side)) {
-            files::Delete(side);
-        }
-    }
-}
-
-} // namespace modMain
+} // namespace modReset

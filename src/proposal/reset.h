@@ -1,10 +1,8 @@
 #pragma once
 
-#include <string_view>
-
 struct Program;
 
-namespace modMain {
+namespace modReset {
 
 enum class ResetResult { Done, Refused };
 
@@ -12,7 +10,4 @@ enum class ResetResult { Done, Refused };
 /// "StartNewFile".
 ResetResult StartNewFile(Program& program);
 
-/// Deletes a proposal and the files of its base name beside it. Throws files::FileError.
-void DeleteProposalFiles(std::string_view folder, std::string_view fileName);
-
-} // namespace modMain
+} // namespace modReset

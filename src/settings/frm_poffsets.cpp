@@ -4,19 +4,31 @@
 #include "base/text.h"
 #include "program/program.h"
 #include "program/windows.h"
-#include "settings/settings.h"
+#include "settings/printer_offsets.h"
+
+#include <cmath>
+#include <string_view>
+
+namespace {
+
+float TwipsTyped(const TextBox& box) {
+    const float twips = numbers::ToSingle(text::Trim(box.Text)).value_or(0) * modOffsets::kTwipsPerInch;
+    return std::isfinite(twips) ? twips : 0;
+}
+
+} // namespace
 
 void frmPOffsets::Form_Load(Program& program) {
     Caption = "Printer Offsets";
     // The boxes begin with what is in force, so that one of them can be changed alone.
-    txtX.Text = modSettings::InchesOf(program.printing.PrinterOffsetX);
-    txtY.Text = modSettings::InchesOf(program.printing.PrinterOffsetY);
+    txtX.Text = modOffsets::InchesOf(program.printing.PrinterOffsetX);
+    txtY.Text = modOffsets::InchesOf(program.printing.PrinterOffsetY);
     ShowValues(program);
 }
 
 void frmPOffsets::ShowValues(const Program& program) {
     const auto inches = [](float twips) {
-        return numbers::FormatSingle(twips / modSettings::kTwipsPerInch, "#0.00") + "\"";
+        return numbers::FormatSingle(twips / modOffsets::kTwipsPerInch, "#0.00") + "\"";
     };
     lblX.Caption =
         "Printer X Offset (Horizontal) - Current Value = " + inches(program.printing.PrinterOffsetX);
@@ -32,15 +44,29 @@ int frmPOffsets::txt_KeyPress(int keyAscii) {
     return passes ? keyAscii : 0;
 }
 
-void frmPOffsets::cmdOK_Click(Program& program) {
-    program.printing.PrinterOffsetX = modSettings::TwipsOf(txtX.Text);
-    program.printing.PrinterOffsetY = modSettings::TwipsOf(txtY.Text);
+frmPOffsets::Numbers frmPOffsets::Take(Program& program) {
+    for (const TextBox* box : {&txtX, &txtY}) {
+        const std::string_view typed = text::Trim(box->Text);
+        if (!typed.empty() && !numbers::IsNumeric(typed)) {
+            program.platform.questions.MsgBox(numbers::NoNumberMessage(typed), Buttons::Ok, "");
+            return Numbers::Refused;
+        }
+    }
+    program.printing.PrinterOffsetX = TwipsTyped(txtX);
+    program.printing.PrinterOffsetY = TwipsTyped(txtY);
     ShowValues(program);
+    return Numbers::Taken;
+}
+
+void frmPOffsets::cmdOK_Click(Program& program) {
+    static_cast<void>(Take(program));
 }
 
 void frmPOffsets::cmdSavePrinterOffsets_Click(Program& program) {
-    cmdOK_Click(program);
-    modSettings::SavePrinterOffsets(program);
+    if (Take(program) == Numbers::Refused) {
+        return;
+    }
+    modOffsets::SavePrinterOffsets(program);
     modWindows::Close(program, *this);
 }
 

@@ -43,7 +43,7 @@ void frmPrinters::Form_Cancel(Program& program) {
     modWindows::Close(program, *this);
 }
 
-namespace modMain {
+namespace modPrinters {
 
 void mnuOptPrinter_Click(Program& program) {
     if (program.printing.CommandRunning) {
@@ -56,4 +56,4 @@ void mnuOptPrinter_Click(Program& program) {
     modWindows::Show(program, std::make_unique<frmPrinters>());
 }
 
-} // namespace modMain
+} // namespace modPrinters

@@ -23,9 +23,9 @@ private:
     void ListPrinters(Program& program);
 };
 
-namespace modMain {
+namespace modPrinters {
 
 /// Shows the window, or says that there is no printer. Nothing while pages are being printed.
 void mnuOptPrinter_Click(Program& program);
 
-} // namespace modMain
+} // namespace modPrinters

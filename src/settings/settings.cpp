@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "settings/printer_offsets.h"
 
 #include <array>
 #include <cmath>
@@ -104,16 +105,20 @@ void Distribute(Program& program) {
     settings.CompanyWebsite = textOf(Key::CompanyWebsite);
     settings.CompanyEmail = textOf(Key::CompanyEmail);
     settings.PageTitle = textOf(Key::PageTitle);
-    settings.LogoFile = textOf(Key::LogoFile);
-    settings.LogoLeft = number(Key::LogoLeft);
-    settings.LogoTop = number(Key::LogoTop);
     settings.AutoCompleteWord = flag(Key::AutoCompleteWord);
     settings.AutoStartPosition = ToInteger(textOf(Key::AutoStartPosition));
     settings.ShowFUT = flag(Key::ShowFUT);
     settings.MinimizeFUT = flag(Key::MinimizeFUT);
     settings.ShowCalc = flag(Key::ShowCalc);
     settings.DefaultFormatPath = textOf(Key::DefaultFileFormat);
-    settings.LoadDefaultFormat = flag(Key::LoadDefaultFormat);
+    if (!settings.PrefsRead) {
+        // The run's own from then on.
+        settings.LoadDefaultFormat = flag(Key::LoadDefaultFormat);
+        settings.LogoFile = textOf(Key::LogoFile);
+        settings.LogoLeft = number(Key::LogoLeft);
+        settings.LogoTop = number(Key::LogoTop);
+        settings.LogoVisible = flag(Key::LogoVisible);
+    }
     settings.DefaultPrinter = textOf(Key::DefaultPrinter);
     settings.CurrencySymbol = textOf(Key::CurrencySymbol);
     settings.FrequentTermsFile = textOf(Key::FrequentTermsFile);
@@ -126,7 +131,6 @@ void Distribute(Program& program) {
     settings.SavedFontSize = number(Key::FontSize);
     settings.SavedFontColor = static_cast<Color>(ToInteger(textOf(Key::FontColor)));
     settings.SavedFontItalic = flag(Key::FontItalic);
-    settings.LogoVisible = flag(Key::LogoVisible);
     if (shorter) {
         ReportError(
             program, "GetUserPreferences",
@@ -138,24 +142,20 @@ void Distribute(Program& program) {
 void PutInForce(Program& program) {
     const SettingsRecords& settings = program.settings;
     RunState& run = program.run;
-    // Reading the settings again must not bring back a font that the start has found missing.
-    run.DefaultFontName =
-        run.FontsLoaded && !run.DefaultFontFound ? "Times New Roman" : settings.SavedFontName;
-    run.DefaultFontSize = settings.SavedFontSize;
-    run.DefaultFontColor = settings.SavedFontColor;
-    run.DefaultFontItalic = settings.SavedFontItalic;
-    if (!settings.PageTitles.empty()) {
-        program.document.PageHeading = settings.PageTitles;
-    }
-    if (!settings.LogoFile.empty()) {
-        const bool whole =
-            settings.LogoFile.find(':') != std::string::npos || paths::IsAbsolute(settings.LogoFile);
-        run.LogoPath =
-            whole ? settings.LogoFile : paths::Join(program.folders.InstallFolder, settings.LogoFile);
-    }
-    run.TermsPinned = !settings.FrequentTermsFile.empty() && settings.LoadFUT;
-    if (run.TermsPinned) {
-        run.FUTFileName = settings.FrequentTermsFile;
+    if (!settings.PrefsRead) {
+        // Read again in mid-run, for another printer or currency, the settings leave alone what the open
+        // proposal, its format and the person have in force.
+        run.DefaultFontName = settings.SavedFontName;
+        run.DefaultFontSize = settings.SavedFontSize;
+        run.DefaultFontColor = settings.SavedFontColor;
+        run.DefaultFontItalic = settings.SavedFontItalic;
+        if (!settings.PageTitles.empty()) {
+            program.document.PageHeading = settings.PageTitles;
+        }
+        run.TermsPinned = !settings.FrequentTermsFile.empty() && settings.LoadFUT;
+        if (run.TermsPinned) {
+            run.FUTFileName = settings.FrequentTermsFile;
+        }
     }
     Printers& printers = program.platform.printers;
     run.NoPrinter = printers.Names().empty();
@@ -244,9 +244,9 @@ void EnsureFolders(Program& program) {
     }
 }
 
-/// Makes way for the file as it will be. One that could not be read is not thrown away: what it holds is
-/// nowhere else.
-void KeepUnread(const Program& program, const std::string& path) {
+/// Deletes the file that stands. One that could not be read is set aside instead: what it holds is nowhere
+/// else.
+void MakeWayForFile(const Program& program, const std::string& path) {
     if (program.settings.PrefsRead || program.settings.ReadingPrefs || files::IsFolder(path)) {
         files::Delete(path);
         return;
@@ -280,7 +280,7 @@ void GetUserPreferences(Program& program) {
             SaveUserPreferences(program);
         }
         EnsureFolders(program);
-        ReadPrinterOffsets(program);
+        modOffsets::ReadPrinterOffsets(program);
         settings.PrefsRead = true;
     });
 }
@@ -295,7 +295,7 @@ bool SaveUserPreferences(Program& program) {
             bytes += text::kCrLf;
         }
         if (files::Exists(path)) {
-            KeepUnread(program, path);
+            MakeWayForFile(program, path);
         }
         files::WriteWhole(path, bytes);
     });
@@ -308,39 +308,6 @@ void SetLine(Program& program, Key key, std::string_view value) {
         lines.emplace_back(kKeys[lines.size()]);
     }
     lines[at] = std::string(KeyText(key)) + std::string(value);
-}
-
-void RequestNetworkSharePath(Program& program) {
-    const std::string prompt =
-        "Please enter the network share DRIVE LETTER now, singularly without symbols... i.e., c, d, e, f, g, "
-        "etc."
-        "\r\n\r\n"
-        "The network share drive is the drive where the Proposal Files will now reside to be shared within "
-        "the network. "
-        "If this install is on a stand alone system (non-network), the drive letter will likely be \"c\", "
-        "otherwise it "
-        "could be \"f\" or \"g\" or any other letter."
-        "\r\n\r\n"
-        "If you're unsure of the network share drive, press Cancel to resume the current Proposal Folder.";
-    const std::string reply = program.platform.questions.InputBox(prompt, "Proposal Directory Setup", "");
-    if (reply.empty()) {
-        return;
-    }
-    const char first = reply.front();
-    const bool letter =
-        reply.size() == 1 && ((first >= 'A' && first <= 'Z') || (first >= 'a' && first <= 'z'));
-    if (!letter && !paths::IsSeparator(first)) {
-        program.platform.questions.MsgBox(
-            text::Lines({"You have not entered a valid Drive Letter. Please",
-                         "contact the Help File for assistance in setting up", "a network share path."}),
-            Buttons::Ok, "");
-        return;
-    }
-    const std::string folder = letter ? reply + ":\\" : paths::WithSeparator(reply);
-    SetLine(program, Key::SharedDirectory, folder);
-    SaveUserPreferences(program);
-    GetUserPreferences(program);
-    program.document.FilePath = program.folders.ProposalsFolder;
 }
 
 } // namespace modSettings

@@ -60,22 +60,4 @@ bool SaveUserPreferences(Program& program);
 /// Replaces one line in memory, growing the lines when the file was short.
 void SetLine(Program& program, Key key, std::string_view value);
 
-/// Asks for the shared drive or folder.
-void RequestNetworkSharePath(Program& program);
-
-/// Reads the tax rate; a rate of zero asks whether to change it. Reports as "GetTaxRate".
-void GetTaxRate(Program& program);
-
-/// Writes the five characters and tells the new rate. Reports as "SaveTaxRate".
-void SaveTaxRate(Program& program, std::string_view rateText);
-
-inline constexpr float kTwipsPerInch = 1440;
-/// An offset as typed or read, in inches, and back as plain text. What is no number counts as 0.
-[[nodiscard]] float TwipsOf(std::string_view inches);
-[[nodiscard]] std::string InchesOf(float twips);
-
-/// A missing file means offsets of 0.
-void ReadPrinterOffsets(Program& program);
-void SavePrinterOffsets(Program& program);
-
 } // namespace modSettings

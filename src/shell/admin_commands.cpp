@@ -8,7 +8,7 @@
 #include <memory>
 #include <string>
 
-namespace modMain {
+namespace modAdmin {
 
 namespace {
 
@@ -58,4 +58,4 @@ void mnuAdminConvert_Click(Program& program) {
     program.main.ConversionAsked = true;
 }
 
-} // namespace modMain
+} // namespace modAdmin

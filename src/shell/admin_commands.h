@@ -3,7 +3,7 @@
 struct Program;
 
 /// The administrator's commands. Their menu never shows.
-namespace modMain {
+namespace modAdmin {
 
 /// The file chooser, for deleting.
 void mnuAdminDelete_Click(Program& program);
@@ -15,4 +15,4 @@ void mnuAdminLogon_Click(Program& program);
 void mnuToolsAdminShowAllLabels_Click(Program& program);
 void mnuAdminConvert_Click(Program& program);
 
-} // namespace modMain
+} // namespace modAdmin

@@ -1,12 +1,14 @@
 #include "shell/closing.h"
 
 #include "editing/selection.h"
+#include "format/format_changes.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_save.h"
 
-namespace modMain {
+namespace modClosing {
 
 void mnuFileExit_Click(Program& program) {
     if (MDIForm_QueryUnload(program)) {
@@ -20,8 +22,15 @@ bool MDIForm_QueryUnload(Program& program) {
     }
     // The window may be closed with an arrow still held; what it has moved counts as changed text.
     modBlocks::FinishMove(program);
-    if (program.main.Closing || (!SomethingChanged(program) && !modFile::PropertiesChanged(program))) {
+    if (program.main.Closing) {
         return true;
+    }
+    // The windows beside the proposal first: a deposit that is saved there still reaches the proposal's file.
+    if (!modWindows::MayLeave(program, Leaving::Run)) {
+        return false;
+    }
+    if (!modProposal::SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
+        return modFormat::MayLeaveFormat(program);
     }
     const Answer answer = program.platform.questions.MsgBox(
         "The file has been changed. Do you want to save it?", Buttons::YesNoCancel, "Text has been Changed");
@@ -30,7 +39,7 @@ bool MDIForm_QueryUnload(Program& program) {
         modFile::SaveEventFile(program);
         return false;
     }
-    return answer == Answer::No;
+    return answer == Answer::No && modFormat::MayLeaveFormat(program);
 }
 
 void MDIForm_Unload(Program& program) {
@@ -43,4 +52,4 @@ void MDIForm_Unload(Program& program) {
     program.platform.events.Quit();
 }
 
-} // namespace modMain
+} // namespace modClosing

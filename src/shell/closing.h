@@ -3,7 +3,7 @@
 struct Program;
 
 /// The end of a run.
-namespace modMain {
+namespace modClosing {
 
 /// The close box or Exit: asks about unsaved changes. True when the window may close. Yes saves and keeps the
 /// program open.
@@ -15,4 +15,4 @@ void MDIForm_Unload(Program& program);
 /// Starts the closing, with its question.
 void mnuFileExit_Click(Program& program);
 
-} // namespace modMain
+} // namespace modClosing

@@ -1,6 +1,7 @@
 #include "shell/frm_main.h"
 
 #include "base/numbers.h"
+#include "editing/navigation.h"
 #include "editing/selection.h"
 #include "money/totals.h"
 #include "output/preview.h"
@@ -43,21 +44,21 @@ void frmMain::lblTextNum_DblClick() {
 
 // Wanted: this button shows its pressed look and starts nothing; a new proposal starts from the menu.
 void frmMain::imgNew_MouseDown() {
-    modMain::PressToolButton(program_, program_.main.imgNew);
+    modToolButtons::PressToolButton(program_, program_.main.imgNew);
 }
 
 void frmMain::imgOpen_MouseDown() {
-    modMain::PressToolButton(program_, program_.main.imgOpen);
+    modToolButtons::PressToolButton(program_, program_.main.imgOpen);
     commands::Run(program_, CommandId::mnuFileOpenEvent);
 }
 
 void frmMain::imgFootNotes_MouseDown() {
-    modMain::PressToolButton(program_, program_.main.imgFootNotes);
+    modToolButtons::PressToolButton(program_, program_.main.imgFootNotes);
     commands::Run(program_, CommandId::mnuFileOpenFootnotes);
 }
 
 void frmMain::imgPrint_Click() {
-    modMain::PressToolButton(program_, program_.main.imgPrint);
+    modToolButtons::PressToolButton(program_, program_.main.imgPrint);
     commands::Run(program_, CommandId::mnuFilePrintAll);
 }
 
@@ -89,6 +90,6 @@ void frmMain::imgPage_Click(int index) {
     if (page == PageId::frmP6_1) {
         modFields::DropFocus(program_);
     } else {
-        modFields::GiveFocus(program_, {page, FieldKind::txt, page == PageId::frmP6 ? kDeposit : 0});
+        modNavigate::Arrive(program_, {page, FieldKind::txt, page == PageId::frmP6 ? kDeposit : 0});
     }
 }

@@ -67,8 +67,8 @@ void frmSplash::GatherFourCorners(Program& program) {
         program.platform.events.LetEventsRun(); // the splash shows before anything takes time
         modSettings::GetUserPreferences(program);
         Animate(program);
-        modMain::LoadTheFonts(program, &Picture);
-        modMain::SettleDefaultFont(program);
+        modFonts::LoadTheFonts(program, &Picture);
+        modFonts::SettleDefaultFont(program);
         splash::PrintCentred(Picture, program.platform.measure, "Click anywhere to exit this screen.",
                              kMessageTop);
         program.platform.events.LetEventsRun();

@@ -4,7 +4,7 @@
 #include "program/program.h"
 #include "shell/splash_picture.h"
 
-namespace modMain {
+namespace modFonts {
 
 void LoadTheFonts(Program& program, SplashPicture* splash) {
     Guarded(program, "LoadTheFonts", [&] {
@@ -31,4 +31,4 @@ void SettleDefaultFont(Program& program) {
     }
 }
 
-} // namespace modMain
+} // namespace modFonts

@@ -3,7 +3,7 @@
 struct Program;
 struct SplashPicture;
 
-namespace modMain {
+namespace modFonts {
 
 /// Reads the screen's fonts into FontList, letting events run between them. The first time it is told on the
 /// splash, if there is one. Reports as "LoadTheFonts".
@@ -12,4 +12,4 @@ void LoadTheFonts(Program& program, SplashPicture* splash = nullptr);
 /// A font of the settings that is not installed gives way to the one the pages are designed in.
 void SettleDefaultFont(Program& program);
 
-} // namespace modMain
+} // namespace modFonts

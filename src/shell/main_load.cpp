@@ -1,22 +1,22 @@
 #include "shell/main_load.h"
 
-#include "base/files.h"
 #include "base/guard.h"
-#include "base/paths.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
+#include "pages/label_records.h"
+#include "pages/page_defaults.h"
+#include "pages/page_fonts.h"
+#include "pages/row_fields.h"
 #include "pages/titles.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
-#include "proposal/file_names.h"
+#include "proposal/old_files.h"
 #include "proposal/reset.h"
+#include "settings/frm_tax.h"
 #include "settings/settings.h"
 #include "shell/command_table.h"
 #include "shell/load_fonts.h"
 #include "shell/tool_buttons.h"
-
-#include <optional>
 
 namespace modMain {
 
@@ -51,10 +51,10 @@ void LoadSteps(Program& program) {
         modSettings::GetUserPreferences(program);
     }
     if (!program.run.FontsLoaded) {
-        LoadTheFonts(program);
+        modFonts::LoadTheFonts(program);
     }
-    SettleDefaultFont(program);
-    modSettings::GetTaxRate(program);
+    modFonts::SettleDefaultFont(program);
+    modTax::GetTaxRate(program);
     program.document.FileFilter = "*.hef";
     program.document.DocumentKind = "Event";
     program.format.PropTextChanges = {};
@@ -67,13 +67,13 @@ void LoadSteps(Program& program) {
         DisableAtStart(program);
         program.run.ACEnabled = program.settings.AutoCompleteWord;
         program.run.ACStartLen = program.settings.AutoStartPosition;
-        SetPageHeading(program, "Event Proposal");
-        ConvertOldFiles(program);
+        modTitles::SetPageHeading(program, "Event Proposal");
+        modFile::ConvertOldFiles(program);
         for (const PageId page : kAllPages) {
             modPages::SetUpPage(program, page);
         }
         modPages::ApplyPageFonts(program);
-        static_cast<void>(StartNewFile(program));
+        static_cast<void>(modReset::StartNewFile(program));
         modPages::SnapshotLabels(program);
         if (!program.run.TermsPinned) {
             program.run.FUTFileName = "Default Terms.fut";
@@ -102,37 +102,12 @@ void MDIForm_Load(Program& program) {
     const ScopedFlag starting(program.guards.StartingUp);
     commands::LoadDesignState(program);
     program.main.imgPage[0].Pointer = MousePointer::Hand;
-    LoadPageButtonCursors(program);
+    modToolButtons::LoadPageButtonCursors(program);
     program.main.State = WindowState::Maximised;
     if (!Guarded(program, "MDIForm_Load", [&] { LoadSteps(program); })) {
         program.platform.questions.MsgBox("Error encountered during Load Process.", Buttons::Ok, "");
     }
     program.main.Loaded = true;
-}
-
-void ConvertOldFiles(Program& program) {
-    Guarded(program, "ConvertOldFiles", [&] {
-        const std::string folder = modFolders::DataFolder(program);
-        if (!files::IsFolder(folder)) {
-            return;
-        }
-        // One that stays as it is does not keep the others; the first failure is told at the end.
-        std::optional<files::FileError> failure;
-        for (const std::string& name : files::List(folder, "*.hwf")) {
-            const std::string to = paths::Join(folder, std::string(paths::BaseOf(name)) + ".hef");
-            try {
-                if (files::Exists(to)) {
-                    throw files::FileError(files::kAlreadyExists, "File already exists: " + to);
-                }
-                files::Rename(paths::Join(folder, name), to);
-            } catch (const files::FileError& error) {
-                failure = failure.value_or(error);
-            }
-        }
-        if (failure) {
-            throw files::FileError(*failure);
-        }
-    });
 }
 
 } // namespace modMain

@@ -9,7 +9,4 @@ namespace modMain {
 /// fails is reported as "MDIForm_Load" and told of besides, and the run goes on with what is there.
 void MDIForm_Load(Program& program);
 
-/// Renames every old "*.hwf" of the proposals folder to ".hef". Reports as "ConvertOldFiles".
-void ConvertOldFiles(Program& program);
-
 } // namespace modMain

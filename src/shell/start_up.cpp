@@ -12,7 +12,7 @@
 #include <algorithm>
 #include <memory>
 
-namespace modMain {
+namespace modStart {
 
 namespace {
 
@@ -79,4 +79,4 @@ StartResult Main(Program& program) {
     return result;
 }
 
-} // namespace modMain
+} // namespace modStart

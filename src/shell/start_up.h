@@ -2,7 +2,7 @@
 
 struct Program;
 
-namespace modMain {
+namespace modStart {
 
 enum class StartResult { Running, Ended };
 
@@ -10,4 +10,4 @@ enum class StartResult { Running, Ended };
 /// up; a click on it brings the main window.
 StartResult Main(Program& program);
 
-} // namespace modMain
+} // namespace modStart

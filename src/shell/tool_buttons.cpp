@@ -4,7 +4,7 @@
 
 #include <array>
 
-namespace modMain {
+namespace modToolButtons {
 
 namespace {
 
@@ -89,4 +89,4 @@ void ClearButtonBorders(Program& program) {
     Hide(program, kSunken);
 }
 
-} // namespace modMain
+} // namespace modToolButtons

@@ -6,7 +6,7 @@ struct Program;
 
 /// The frames of the tool strip's image buttons: raised under the pointer, sunken while pressed. The button's
 /// record tells its place in the strip.
-namespace modMain {
+namespace modToolButtons {
 
 /// The pointer is over a button. Nothing while one is pressed.
 void HoverToolButton(Program& program, const ImageButton& button);
@@ -23,4 +23,4 @@ void LoadPageButtonCursors(Program& program);
 /// Hides both frames.
 void ClearButtonBorders(Program& program);
 
-} // namespace modMain
+} // namespace modToolButtons

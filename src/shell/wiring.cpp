@@ -1,10 +1,19 @@
 #include "shell/wiring.h"
 
+#include "calendar/read_event_dates.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
+#include "editing/fresh_figures.h"
+#include "editing/leaving.h"
 #include "editing/selection.h"
-#include "editing/text_areas.h"
 #include "editing/text_menu.h"
+#include "editing/typing.h"
+#include "format/format_changes.h"
+#include "format/format_file.h"
+#include "format/frm_label_props.h"
+#include "format/property_file.h"
+#include "output/page_count.h"
+#include "output/text_file.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
 
@@ -53,6 +62,15 @@ void Wire(Program& program) {
     hooks.PageKey = modScroll::PageKey;
     hooks.UpdateTextMenu = modBlocks::UpdateTextMenu;
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
+    hooks.ReadTextFile = modExport::ReadTextFile;
     hooks.MoveBlock = modBlocks::MoveBlockByKey;
+    hooks.TakeFreshFigures = modFigures::TakeFresh;
+    hooks.ReadEventDates = modCalendar::ReadEventDatesAtStart;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
+    hooks.OpenFormatFile = modFormat::OpenFormatFile;
+    hooks.ParsePropertyFile = modFormat::ParsePropertyFile;
+    hooks.AssignPropChanges = modFormat::AssignPropChanges;
+    hooks.MayLeaveFormat = modFormat::MayLeaveFormat;
+    hooks.CloseLabelWindow = modDesigner::CloseLabelWindow;
+    hooks.SetPageNumbers = modPrint::SetPageNumbers;
 }

@@ -1,5 +1,4 @@
 #include "desktop/desktop_run.h"
-
 #include "desktop/convert.h"
 #include "desktop/tool_strip.h"
 #include "pages/fields.h"
@@ -21,9 +20,10 @@ DesktopRun::DesktopRun() {
     program.folders.Drives.Home = folder / "Home/";
     printers.MakeCurrent("Print to PDF");
     Wire(program);
+    program.hooks.ReadEventDates = nullptr; // a folder without proposals is told of at the start
     window = std::make_unique<FrmMainView>(program, measure);
     events.Follow = [this] { window->Follow(); };
-    EXPECT_EQ(modMain::Main(program), modMain::StartResult::Running);
+    EXPECT_EQ(modStart::Main(program), modStart::StartResult::Running);
     PassSplash(program);
     window->AfterEvent();
     window->showNormal();

@@ -398,7 +398,7 @@ TEST(SplashWindow, FillsItsSheetAndAClickBringsTheMainWindow) {
     Wire(program);
     FrmMainView window(program, measure);
     events.Follow = [&] { window.Follow(); };
-    ASSERT_EQ(modMain::Main(program), modMain::StartResult::Running);
+    ASSERT_EQ(modStart::Main(program), modStart::StartResult::Running);
     FrmSplashView* splash = nullptr;
     for (QWidget* widget : QApplication::topLevelWidgets()) {
         if (auto* found = qobject_cast<FrmSplashView*>(widget)) {

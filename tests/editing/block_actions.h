@@ -3,7 +3,7 @@
 #include "editing/area_contents.h"
 #include "editing/selection.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "shell/command_run.h"
 #include "shell/page_switch.h"
 #include "support/running_program.h"

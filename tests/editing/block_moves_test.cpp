@@ -1,5 +1,6 @@
 #include "editing/block_actions.h"
 #include "editing/block_moves.h"
+#include "pages/page_marks.h"
 #include "shell/closing.h"
 #include "shell/frm_main.h"
 #include "shell/input.h"
@@ -452,7 +453,7 @@ TEST(MoveByKey, IsFinishedByWhateverComesNext) {
         run.surroundings.questions.ExpectBox({"The file has been changed. Do you want to save it?",
                                               Buttons::YesNoCancel, "Text has been Changed"},
                                              Answer::Cancel);
-        EXPECT_FALSE(modMain::MDIForm_QueryUnload(run.program)) << "closing the window";
+        EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program)) << "closing the window";
         EXPECT_FALSE(run.program.editing.MoveInProgress) << "or amounts would be saved in their old rows";
     }
     for (const CommandId id : {CommandId::mnuEditTextCopy, CommandId::mnuEditTextCut,

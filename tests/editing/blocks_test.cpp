@@ -2,6 +2,8 @@
 #include "editing/blocks.h"
 #include "editing/columns.h"
 #include "money/totals.h"
+#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "proposal/reset.h"
 
 namespace {
@@ -365,7 +367,7 @@ TEST(Undo, EndsWithTheProposal) {
     run.Put(kSecond, 3, "Chairs");
     run.Band(kSecond, 3, 3);
     run.Choose(CommandId::mnuEditTextDelete);
-    EXPECT_EQ(modMain::StartNewFile(run.program), modMain::ResetResult::Done);
+    EXPECT_EQ(modReset::StartNewFile(run.program), modReset::ResetResult::Done);
     EXPECT_FALSE(run.program.editing.UndoAvailable);
     EXPECT_FALSE(run.Enabled(CommandId::mnuEditTextUndo));
     run.Choose(CommandId::mnuEditTextUndo);
@@ -375,7 +377,7 @@ TEST(Undo, EndsWithTheProposal) {
 TEST(NewProposal, EndsTheSelection) {
     BlockRun run;
     run.Band(kSecond, 3, 3);
-    EXPECT_EQ(modMain::StartNewFile(run.program), modMain::ResetResult::Done);
+    EXPECT_EQ(modReset::StartNewFile(run.program), modReset::ResetResult::Done);
     EXPECT_FALSE(run.program.editing.BlockMode);
     EXPECT_TRUE(run.BlueAreas(kSecond).empty());
     EXPECT_EQ(run.program.main.lblDir.BackColor, colors::kButtonFace);

@@ -1,7 +1,7 @@
 #include "editing/columns.h"
 #include "editing/keys.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "shell/command_run.h"
 #include "shell/input.h"
 #include "support/running_program.h"
@@ -102,7 +102,7 @@ TEST(ColumnsCommand, SaysWhatItWillDo) {
     EXPECT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Remove Columns");
 }
 
-TEST(Boxes, TakeDigitsAndThePointAlone) {
+TEST(Boxes, TakeDigitsPointAndCommaAlone) {
     RunningProgram run;
     Typist typist(run.program);
     modPages::PlaceColumns(run.program, kSecond, 0, modPages::Columns::On);
@@ -110,7 +110,7 @@ TEST(Boxes, TakeDigitsAndThePointAlone) {
     for (const FieldRef& box : {Quantity(0), Price(0)}) {
         typist.Click(box);
         for (int byte = 1; byte < 256; ++byte) {
-            const bool passes = byte == 8 || byte == '.' || (byte >= '0' && byte <= '9');
+            const bool passes = byte == 8 || byte == '.' || byte == ',' || (byte >= '0' && byte <= '9');
             EXPECT_EQ(modInput::KeyPress(run.program, byte), passes ? byte : 0) << byte;
         }
         run.program.editing.BlockMode = true;

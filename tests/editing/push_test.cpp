@@ -1,6 +1,6 @@
 #include "editing/row_texts.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "shell/input.h"
 #include "support/running_program.h"
 #include "support/typist.h"

@@ -2,6 +2,7 @@
 #include "base/text.h"
 #include "editing/block_actions.h"
 #include "pages/page_geometry.h"
+#include "pages/row_fields.h"
 #include "shell/frm_main.h"
 #include "shell/input.h"
 

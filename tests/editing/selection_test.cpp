@@ -1,5 +1,7 @@
+#include "editing/area_mouse.h"
 #include "editing/block_actions.h"
-#include "editing/text_areas.h"
+#include "editing/keys.h"
+#include "pages/row_fields.h"
 #include "shell/frm_main.h"
 
 namespace {
@@ -421,7 +423,7 @@ TEST(BlockMode, KeepsBlueAreasBlueWhenTheFocusComesAndGoes) {
 
 TEST(RightClick, RepaintsWhatIsOverItsLimitOutsideTheModeOnly) {
     BlockRun run;
-    run.PutRow(kSecond, 4, std::string(40, '1'), "Row", "x");
+    run.PutRow(kSecond, 4, std::string(40, '1'), "Row", "2");
     run.Area(kFirst, 12).Text = std::string(87, 'x'); // 8700 of 8640 twips
     run.Front(kSecond);
     modText::txt_MouseDown(run.program, kSecond, 8, 2, 0);

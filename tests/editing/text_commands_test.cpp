@@ -1,7 +1,6 @@
-#include "editing/text_commands.h"
-
+#include "editing/area_mouse.h"
 #include "editing/block_actions.h"
-#include "editing/text_areas.h"
+#include "editing/text_commands.h"
 #include "editing/text_menu.h"
 
 #include <map>

@@ -1,9 +1,11 @@
 #include "editing/columns.h"
 #include "editing/keys.h"
 #include "editing/row_texts.h"
-#include "editing/text_areas.h"
+#include "editing/typing.h"
+#include "editing/word_marking.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "shell/input.h"
 #include "shell/page_switch.h"
 #include "support/running_program.h"
@@ -83,17 +85,23 @@ TEST(ChangePipeline, ATypedAmountFillsTheTablesAndTurnsTheButtonRed) {
     EXPECT_FALSE(run.Label(kSecond, 8).Visible);
 }
 
-TEST(ChangePipeline, TextThatIsNoNumberChangesNoTable) {
-    for (const char* text : {"-", ",", ".", "1e39", "1-2"}) {
+TEST(ChangePipeline, TextThatIsNoNumberCountsAsNothing) {
+    for (const char* text : {"-", ",", ".", "1e39", "1-2", "12,50", "1.250,00", "1,2,3"}) {
         RunningProgram run;
         run.program.totals.AmountTable[20][0] = 7;
         run.Area(kFirst, 20).Text = "7";
         PutText(run, kFirst, 20, text);
-        EXPECT_EQ(run.program.totals.AmountTable[20][0], 7.0F) << text;
+        EXPECT_EQ(run.program.totals.AmountTable[20][0], 0) << text;
+        EXPECT_EQ(run.TextOf(kFirst, 20), text);
+        EXPECT_FALSE(run.Label(kFirst, 21).Visible);
+        EXPECT_EQ(run.Area(kFirst, 20).BackColor, colors::kOverLimit);
+        EXPECT_EQ(run.Area(kFirst, 20).ToolTipText, "This is not a number and counts as nothing.");
+        PutText(run, kFirst, 20, "8");
+        EXPECT_EQ(run.Area(kFirst, 20).ToolTipText, "");
     }
     RunningProgram run;
-    PutText(run, kFirst, 20, "1,2,3");
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 123.0F);
+    PutText(run, kFirst, 20, "1,234");
+    EXPECT_EQ(run.program.totals.AmountTable[20][0], 1234.0F);
     PutText(run, kFirst, 20, "1e-50");
     EXPECT_EQ(run.program.totals.AmountTable[20][0], 0.0F);
 }
@@ -393,13 +401,45 @@ class DoubleClick : public testing::TestWithParam<Conversion> {};
 TEST_P(DoubleClick, ConvertsTheArea) {
     RunningProgram run;
     PutText(run, kFirst, GetParam().Area, GetParam().From);
-    modInput::FieldDblClick(run.program, Text(kFirst, GetParam().Area));
+    modInput::FieldDblClick(run.program, Text(kFirst, GetParam().Area), 0);
     EXPECT_EQ(run.TextOf(kFirst, GetParam().Area), GetParam().To);
     EXPECT_EQ(run.program.document.CurrentTextBuf[0][static_cast<std::size_t>(GetParam().Area)],
               GetParam().To);
+    const bool converted = std::string_view(GetParam().From) != GetParam().To;
     EXPECT_EQ(run.Area(kFirst, GetParam().Area).SelStart,
-              static_cast<int>(run.TextOf(kFirst, GetParam().Area).size()));
+              converted ? static_cast<int>(run.TextOf(kFirst, GetParam().Area).size()) : 0);
     EXPECT_EQ(run.program.editing.CurrentArea, GetParam().Area);
+}
+
+TEST(DoubleClick, MarksTheWordAtItsPlaceWhereNothingIsConverted) {
+    RunningProgram run;
+    PutText(run, kSecond, 40, "it's 12 pm");
+    modScroll::UpdatePageButtons(run.program, 1);
+    modFields::GiveFocus(run.program, Text(kSecond, 40));
+    const auto marked = [&](int position) {
+        modInput::FieldDblClick(run.program, Text(kSecond, 40), position);
+        const TextArea& area = run.Area(kSecond, 40);
+        return area.Text.substr(static_cast<std::size_t>(area.SelStart),
+                                static_cast<std::size_t>(area.SelLength));
+    };
+    EXPECT_EQ(marked(0), "it's");
+    EXPECT_EQ(marked(2), "it's");
+    EXPECT_EQ(marked(4), "it's");
+    EXPECT_EQ(marked(6), "12");
+    EXPECT_EQ(marked(10), "pm");
+    EXPECT_EQ(marked(99), "pm"); // behind the text
+}
+
+TEST(DoubleClick, MarksNoWordInADescriptionOrBesideAWord) {
+    RunningProgram run;
+    PutText(run, kSecond, 5, "chair covers");
+    modScroll::UpdatePageButtons(run.program, 1);
+    modFields::GiveFocus(run.program, Text(kSecond, 5));
+    modInput::FieldDblClick(run.program, Text(kSecond, 5), 8);
+    EXPECT_EQ(run.Area(kSecond, 5).SelLength, 0);
+    EXPECT_EQ(modText::WordAt("a , b", 2).Length, 0);
+    EXPECT_EQ(modText::WordAt("a , b", 2).Start, 2);
+    EXPECT_EQ(modText::WordAt("\xE9t\xE9", 1).Length, 3); // letters with accents are letters
 }
 
 TEST(DoubleClick, TogglesTheColumnsOfADescriptionAndNothingElse) {
@@ -409,7 +449,7 @@ TEST(DoubleClick, TogglesTheColumnsOfADescriptionAndNothingElse) {
         const int last = page == kFirst ? 29 : 65;
         for (int index = page == kFirst ? 9 : 0; index <= last; ++index) {
             modFields::GiveFocus(run.program, Text(page, index));
-            modInput::FieldDblClick(run.program, Text(page, index));
+            modInput::FieldDblClick(run.program, Text(page, index), 0);
             const bool line = page == kFirst ? index >= 10 && index <= 19 : index <= 32;
             EXPECT_EQ(run.Area(page, index).Width == 6270, line) << index;
             EXPECT_EQ(run.program.editing.CurrentArea, index);
@@ -549,8 +589,8 @@ TEST(Columns, TurnARowIntoAPricedLineAndBack) {
     EXPECT_EQ(run.program.main.Focus, Text(kSecond, 4));
     EXPECT_EQ(run.Area(kSecond, 4).SelStart, 0);
     typist.Press(keys::kEnter);
-    typist.Type("19.9,9-");
-    EXPECT_EQ(page.txtAmt[4].Text, "19.99") << "no comma and no minus";
+    typist.Type("19.99-");
+    EXPECT_EQ(page.txtAmt[4].Text, "19.99") << "no minus";
     EXPECT_EQ(run.TextOf(kSecond, 37), "59.97");
     EXPECT_EQ(run.program.totals.PageSum[1], 59.97F);
     typist.Press(keys::kEnter);
@@ -638,7 +678,7 @@ TEST(Columns, AQuantityAloneCountsAsUnsaved) {
     EXPECT_NE(run.program.document.CurrentTextBuf[1][0], run.program.document.SavedTextBuf[1][0]);
 }
 
-TEST(TaxMarks, SetByTheMenuLeaveTheTotalToTheLeaving) {
+TEST(TaxMarks, SetByTheMenuChangeTheTotalAtOnce) {
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kSecond, 33);
@@ -651,12 +691,12 @@ TEST(TaxMarks, SetByTheMenuLeaveTheTotalToTheLeaving) {
     EXPECT_TRUE(run.program.pages[kSecond].imgNoTax[33].Visible);
     EXPECT_EQ(run.program.pages[kSecond].imgNoTax[33].Tag, "");
     EXPECT_TRUE(run.program.format.FormatTextChanges[1][33].TaxExempt);
-    EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "0.00");
+    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
     typist.Click(kSecond, 34);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "0.00");
     typist.Click(kSecond, 33);
     modColumns::mnuEditTextTaxable_Click(run.program);
-    typist.Click(kSecond, 34);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
     typist.Click(kSecond, 0);
     run.program.hooks.UpdateTextMenu(run.program);

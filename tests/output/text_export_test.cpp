@@ -3,7 +3,7 @@
 #include "base/files.h"
 #include "output/proposal_text.h"
 #include "editing/keys.h"
-#include "pages/page_setup.h"
+#include "pages/row_fields.h"
 #include "program/program.h"
 #include "support/running_program.h"
 #include "support/typist.h"

@@ -1,5 +1,6 @@
+#include "pages/page_fonts.h"
 #include "pages/page_geometry.h"
-#include "pages/page_setup.h"
+#include "pages/page_marks.h"
 #include "pages/titles.h"
 #include "proposal/reset.h"
 #include "support/running_program.h"
@@ -148,11 +149,11 @@ TEST(PageModel, RowFieldsStandOnTheirRowWithTheirPlaceholders) {
     }
 }
 
-TEST(PageModel, TheAtLabelTakesTheSymbolButNotOnTheClientPage) {
+TEST(PageModel, TheAtLabelTakesTheSymbolOnEveryPage) {
     RunningProgram run(RunningProgram::Begin::NotStarted);
     run.Setting("Currency Symbol:", "\x80");
     run.Start();
-    EXPECT_EQ(run.program.pages[PageId::frmP1].lblAt[15].Caption, "@ $");
+    EXPECT_EQ(run.program.pages[PageId::frmP1].lblAt[15].Caption, "@ \x80");
     EXPECT_EQ(run.program.pages[PageId::frmP2].lblAt[32].Caption, "@ \x80");
 }
 
@@ -353,7 +354,7 @@ TEST(PageModel, TheAlternateLetterheadBringsTheContractWordingAndStaysForTheRun)
               "can not be any major changes made to this event.");
     EXPECT_EQ(run.Label(PageId::frmP6, 43).Caption, "");
     std::filesystem::remove(run.folder / "Proposals/SNF Settings.txt");
-    static_cast<void>(modMain::StartNewFile(run.program));
+    static_cast<void>(modReset::StartNewFile(run.program));
     EXPECT_EQ(run.Label(PageId::frmP1, 0).Caption, "");
 }
 
@@ -363,7 +364,7 @@ TEST(PageModel, AResetHidesALabelThatReadsLikeTheSymbolWhoeverTypedIt) {
     modPages::HideOptionalFields(run.program);
     EXPECT_FALSE(run.Label(PageId::frmP1, 9).Visible);
     EXPECT_EQ(run.Label(PageId::frmP1, 9).Tag, "Hide");
-    static_cast<void>(modMain::StartNewFile(run.program));
+    static_cast<void>(modReset::StartNewFile(run.program));
     EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Event Date");
     EXPECT_TRUE(run.Label(PageId::frmP1, 9).Visible);
 }
@@ -374,7 +375,7 @@ TEST(PageModel, AResetBringsBackWhatWasMovedAndReworded) {
     label.Left = 1;
     label.Caption = "Other";
     label.ForeColor = 0xFF;
-    static_cast<void>(modMain::StartNewFile(run.program));
+    static_cast<void>(modReset::StartNewFile(run.program));
     EXPECT_EQ(label.Left, 3130);
     EXPECT_EQ(label.Caption, "Acme Events - Event Proposal - Page 2");
     EXPECT_EQ(label.ForeColor, 0U);
@@ -392,7 +393,7 @@ TEST(PageModel, FontsGoToAreasRowLabelsAndSignsAndBoldComesBack) {
     program.run.DefaultFontColor = 0x123456;
     program.run.DefaultFontItalic = true;
     program.format.PropTextChanges[1][3].FontBold = true;
-    program.format.FormatTextChanges[5][4].FontBold = true;
+    program.format.PropTextChanges[5][4].FontBold = true;
     modPages::ApplyPageFonts(program);
     for (const PageId page : kAllPages) {
         EXPECT_EQ(program.pages[page].FontName, "Arial");
@@ -440,21 +441,21 @@ TEST(PageModel, StartUpKeepsTheLabelsPlacesAndAResetEmptiesThem) {
     RunningProgram run;
     EXPECT_EQ(run.program.format.PropLabelChanges[0][9].Left, 1080);
     EXPECT_EQ(run.program.format.PropLabelChanges[5][64].Top, 15030);
-    static_cast<void>(modMain::StartNewFile(run.program));
+    static_cast<void>(modReset::StartNewFile(run.program));
     EXPECT_EQ(run.program.format.PropLabelChanges[0][9].Left, 0);
 }
 
 TEST(PageModel, TitlesAreCentredOnEveryPage) {
     RunningProgram run;
     run.program.document.ClientCaption = "Proposal for Jane Roe"; // 21 characters
-    modMain::UpdateEventNameLabels(run.program);
+    modTitles::UpdateEventNameLabels(run.program);
     EXPECT_EQ(run.Label(PageId::frmP1, 33).Left, 6120 - 1050);
     EXPECT_EQ(run.Label(PageId::frmP5, 36).Caption, "Proposal for Jane Roe");
     EXPECT_EQ(run.Label(PageId::frmP6, 64).Caption, "Proposal for Jane Roe - Our Copy"); // 32 characters
     EXPECT_EQ(run.Label(PageId::frmP6, 64).Left, 6120 - 1600);
     EXPECT_EQ(run.Label(PageId::frmP6_1, 64).Caption, "Proposal for Jane Roe - Client's Copy");
     EXPECT_EQ(run.program.main.lblEvent.Caption, "Proposal for Jane Roe");
-    modMain::LayTitles(run.program);
+    modTitles::LayTitles(run.program);
     EXPECT_EQ(run.program.format.PropLabelChanges[0][33].Caption, "Proposal for Jane Roe");
 }
 

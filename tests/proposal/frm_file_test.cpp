@@ -1,8 +1,6 @@
-#include "proposal/frm_file.h"
-
 #include "program/windows.h"
+#include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
-#include "proposal/proposal_file.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -27,7 +25,7 @@ struct Choosing : RunningProgram {
         folder.MakeFolder("Proposals/2008");
     }
     frmFile& Show() {
-        modMain::mnuFileOpenEvent_Click(program);
+        modProposal::mnuFileOpenEvent_Click(program);
         return dynamic_cast<frmFile&>(*modWindows::Find(program, "frmFile"));
     }
     frmFile& ShowToDelete() {
@@ -104,7 +102,7 @@ TEST(Chooser, OkReadsTheProposalAndCloses) {
     EXPECT_EQ(run.TextOf(PageId::frmP6, 3), "1,504.37");
     EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + run.Data());
     EXPECT_TRUE(run.program.main[CommandId::mnuFileDelete].Enabled);
-    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
 }
 
 TEST(Chooser, AnOldExtensionCountsAsAProposal) {
@@ -276,7 +274,7 @@ TEST(Chooser, HostileFilesOpenAsProposalsOfBlanks) {
         modWindows::Sweep(run.program);
         EXPECT_EQ(run.program.document.FileName, name);
         EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "");
-        EXPECT_FALSE(modMain::SomethingChanged(run.program)) << name;
+        EXPECT_FALSE(modProposal::SomethingChanged(run.program)) << name;
     }
 }
 

@@ -1,9 +1,8 @@
-#include "proposal/lifecycle.h"
-
 #include "program/windows.h"
 #include "proposal/file_names.h"
 #include "proposal/frm_file.h"
-#include "proposal/proposal_file.h"
+#include "proposal/lifecycle.h"
+#include "proposal/proposal_save.h"
 #include "proposal/reset.h"
 #include "support/running_program.h"
 #include "support/typist.h"
@@ -11,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <memory>
 #include <string>
 
 namespace {
@@ -30,7 +30,7 @@ struct Living : RunningProgram {
     void SaveAs(const std::string& client) {
         TypeClient(client);
         surroundings.questions.Expect("File was saved as " + client + ".hef");
-        modMain::mnuFileSaveEvent_Click(program);
+        modProposal::mnuFileSaveEvent_Click(program);
     }
     void Touch() {
         Typist typist(program);
@@ -40,7 +40,7 @@ struct Living : RunningProgram {
     [[nodiscard]] std::string Data() const { return folder / "Proposals/"; }
     [[nodiscard]] frmFile& Chooser() { return dynamic_cast<frmFile&>(*modWindows::Find(program, "frmFile")); }
     void Open(const std::string& name) {
-        modMain::mnuFileOpenEvent_Click(program);
+        modProposal::mnuFileOpenEvent_Click(program);
         frmFile& chooser = Chooser();
         for (std::size_t index = 0; index < chooser.FileList1.Items.size(); ++index) {
             if (chooser.FileList1.Items[index] == name) {
@@ -51,7 +51,7 @@ struct Living : RunningProgram {
         modWindows::Sweep(program);
     }
     void OpenBackup(const std::string& name) {
-        modMain::mnuFileOpenEvent_Click(program);
+        modProposal::mnuFileOpenEvent_Click(program);
         frmFile& chooser = Chooser();
         for (std::size_t index = 0; index < chooser.Dir1.Items.size(); ++index) {
             if (chooser.Dir1.Items[index] == "Backup") {
@@ -69,7 +69,7 @@ struct Living : RunningProgram {
 
 TEST(Dirty, AnEmptyProposalIsClean) {
     Living run;
-    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
 }
 
 TEST(Dirty, EveryAreaOfTheEditedPagesCounts) {
@@ -82,11 +82,11 @@ TEST(Dirty, EveryAreaOfTheEditedPagesCounts) {
         for (std::string& text : texts) {
             const std::string before = text;
             text = "changed";
-            EXPECT_TRUE(modMain::SomethingChanged(run.program));
+            EXPECT_TRUE(modProposal::SomethingChanged(run.program));
             text = before;
         }
     }
-    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
 }
 
 TEST(Dirty, BlanksAroundTheFiguresOfTheFinalPageDoNotCount) {
@@ -94,12 +94,12 @@ TEST(Dirty, BlanksAroundTheFiguresOfTheFinalPageDoNotCount) {
     run.program.hooks.CollectQtyBoxes = nullptr; // it would bring the texts back to what the fields show
     run.program.document.CurrentTextBuf[5][3] = "  1.00";
     run.program.document.SavedTextBuf[5][3] = "1.00 ";
-    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
     run.program.document.CurrentTextBuf[1][3] = "a";
     run.program.document.SavedTextBuf[1][3] = "a";
-    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
     run.program.document.CurrentTextBuf[1][3] = "a ";
-    EXPECT_TRUE(modMain::SomethingChanged(run.program));
+    EXPECT_TRUE(modProposal::SomethingChanged(run.program));
 }
 
 TEST(Dirty, TheRowFieldsAreCollectedBeforeTheComparison) {
@@ -112,20 +112,20 @@ TEST(Dirty, TheRowFieldsAreCollectedBeforeTheComparison) {
                                                 "Chairs\xA7"
                                                 "1.00";
     };
-    EXPECT_TRUE(modMain::SomethingChanged(run.program));
+    EXPECT_TRUE(modProposal::SomethingChanged(run.program));
     EXPECT_EQ(collected, 1);
 }
 
 TEST(AskingToSave, SaysNothingWhenNothingChanged) {
     Living run;
-    EXPECT_TRUE(modMain::MayGoOn(run.program));
+    EXPECT_TRUE(modProposal::MayGoOn(run.program));
 }
 
 TEST(AskingToSave, AChangedPropertyAsksToo) {
     Living run;
     run.program.format.PropTextChanges[0][10].Dirty = true;
     run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::No);
-    EXPECT_TRUE(modMain::MayGoOn(run.program));
+    EXPECT_TRUE(modProposal::MayGoOn(run.program));
 }
 
 TEST(AskingToSave, NewWithCancelChangesNothing) {
@@ -133,7 +133,7 @@ TEST(AskingToSave, NewWithCancelChangesNothing) {
     run.SaveAs("Jane Roe");
     run.Touch();
     run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::Cancel);
-    modMain::mnuFileNew_Click(run.program);
+    modProposal::mnuFileNew_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
     EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "x");
     EXPECT_EQ(run.program.document.FileName, "Jane Roe.hef");
@@ -144,9 +144,9 @@ TEST(AskingToSave, NewWithNoDropsTheText) {
     Living run;
     run.Touch();
     run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::No);
-    modMain::mnuFileNew_Click(run.program);
+    modProposal::mnuFileNew_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "");
-    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
 }
 
 TEST(AskingToSave, NewWithYesSavesFirst) {
@@ -154,7 +154,7 @@ TEST(AskingToSave, NewWithYesSavesFirst) {
     run.TypeClient("Jane Roe");
     run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::Yes);
     run.surroundings.questions.ExpectBox({"File was saved as Jane Roe.hef", Buttons::Ok, ""}, Answer::Ok);
-    modMain::mnuFileNew_Click(run.program);
+    modProposal::mnuFileNew_Click(run.program);
     EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hef"));
     EXPECT_EQ(run.program.document.FileName, "");
 }
@@ -162,7 +162,7 @@ TEST(AskingToSave, NewWithYesSavesFirst) {
 TEST(AskingToSave, YesWithoutAClientsNameKeepsTheTextAndStopsTheCommand) {
     Living run;
     run.Touch();
-    for (const auto command : {modMain::mnuFileNew_Click, modMain::mnuFileOpenEvent_Click}) {
+    for (const auto command : {modProposal::mnuFileNew_Click, modProposal::mnuFileOpenEvent_Click}) {
         run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::Yes);
         run.surroundings.questions.Expect("Please enter the client's name in the appropriate area");
         command(run.program);
@@ -178,7 +178,7 @@ TEST(AskingToSave, AWriteThatFailsKeepsTheTextAndStopsTheCommand) {
     run.folder.MakeFolder("Proposals/Jane Roe.hef");
     run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::Yes);
     run.surroundings.questions.Expect("An error occurred in SaveEventFile.");
-    modMain::mnuFileNew_Click(run.program);
+    modProposal::mnuFileNew_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
     EXPECT_FALSE(run.program.document.FileExists);
 }
@@ -190,7 +190,7 @@ TEST(AskingToSave, NoAtTheDuplicateQuestionStopsTheCommand) {
     run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::Yes);
     run.surroundings.questions.Expect("A file with this name (Jane Roe.hef)", Answer::No);
     run.surroundings.questions.ExpectBox({"File not saved.", Buttons::Ok, ""}, Answer::Ok);
-    modMain::mnuFileNew_Click(run.program);
+    modProposal::mnuFileNew_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
     EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), "somebody's");
 }
@@ -198,7 +198,7 @@ TEST(AskingToSave, NoAtTheDuplicateQuestionStopsTheCommand) {
 TEST(New, LaysTheContractsHeadingAndTheTwoLabels) {
     Living run;
     run.Label(PageId::frmP1, 9).Caption = "other";
-    modMain::mnuFileNew_Click(run.program);
+    modProposal::mnuFileNew_Click(run.program);
     EXPECT_EQ(run.program.document.PageHeading, "Acme Events - Contract Proposal - ");
     // The labels were laid before; they follow when the page numbers are set.
     EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Acme Events - Event Proposal - Page 2");
@@ -215,7 +215,7 @@ TEST(New, TheSettingForPageTitlesStandsBeforeAnyHeading) {
     run.Start();
     EXPECT_EQ(run.program.document.PageHeading, "Our own: ");
     EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Our own: Page 2");
-    modMain::mnuFileNew_Click(run.program);
+    modProposal::mnuFileNew_Click(run.program);
     EXPECT_EQ(run.program.document.PageHeading, "Our own: ");
 }
 
@@ -225,13 +225,13 @@ TEST(New, ReadsTheTermsUnlessAListIsPinnedAndShowsTheCalculatorWhenWanted) {
     int calculators = 0;
     run.program.hooks.ReadFrequentlyUsedTerms = [&](Program&) { ++terms; };
     run.program.hooks.ShowCalculator = [&](Program&) { ++calculators; };
-    modMain::mnuFileNew_Click(run.program);
+    modProposal::mnuFileNew_Click(run.program);
     EXPECT_EQ(terms, 1);
     EXPECT_EQ(calculators, 0);
     run.program.settings.ShowCalc = true;
     run.program.run.TermsPinned = true;
     run.program.run.FUTFileName = "Mine.fut";
-    modMain::mnuFileNew_Click(run.program);
+    modProposal::mnuFileNew_Click(run.program);
     EXPECT_EQ(terms, 1);
     EXPECT_EQ(calculators, 1);
     EXPECT_EQ(run.program.run.FUTFileName, "Mine.fut");
@@ -246,7 +246,7 @@ TEST(Reset, EmptiesNamesTextsTotalsAndMarks) {
     run.program.format.PropTextChanges[0][20].TaxExempt = true;
     run.program.format.PropertyLines = {"a"};
     run.program.main.imgFootNotes.Picture = 1;
-    ASSERT_EQ(modMain::StartNewFile(run.program), modMain::ResetResult::Done);
+    ASSERT_EQ(modReset::StartNewFile(run.program), modReset::ResetResult::Done);
     const DocumentState& document = run.program.document;
     EXPECT_EQ(document.FileName, "");
     EXPECT_EQ(document.BaseName, "");
@@ -275,16 +275,30 @@ TEST(Reset, EmptiesNamesTextsTotalsAndMarks) {
 TEST(Reset, GuardsAreNestedInTheOnesThatStand) {
     Living run;
     run.program.guards.ResetActive = true;
-    static_cast<void>(modMain::StartNewFile(run.program));
+    static_cast<void>(modReset::StartNewFile(run.program));
     EXPECT_TRUE(run.program.guards.ResetActive);
 }
 
-TEST(Reset, TheFootnotesWindowIsAskedToCloseFirst) {
+/// A window about the proposal that keeps in mind under which name it closed.
+class BesideWindow : public Window {
+public:
+    explicit BesideWindow(std::string& nameThen) : nameThen_(nameThen) {}
+    [[nodiscard]] std::string_view Name() const override { return "frmBeside"; }
+    [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }
+    [[nodiscard]] bool BelongsToProposal() const override { return true; }
+    void Form_Cancel(Program&) override {}
+    void Form_Unload(Program& program) override { nameThen_ = program.document.FileName; }
+
+private:
+    std::string& nameThen_;
+};
+
+TEST(Reset, WindowsAboutTheProposalCloseBeforeItsNameGoes) {
     Living run;
-    std::string nameThen = "not asked";
+    std::string nameThen = "not closed";
     run.program.document.FileName = "Jane Roe.hef";
-    run.program.hooks.CloseFootnotes = [&](Program& program) { nameThen = program.document.FileName; };
-    static_cast<void>(modMain::StartNewFile(run.program));
+    modWindows::Show(run.program, std::make_unique<BesideWindow>(nameThen));
+    static_cast<void>(modReset::StartNewFile(run.program));
     EXPECT_EQ(nameThen, "Jane Roe.hef");
 }
 
@@ -296,12 +310,12 @@ TEST(Reset, GoingOnWithAFormatStopsItAndLeavesNoGuardBehind) {
     Living run;
     run.SaveAs("Jane Roe");
     run.program.format.EditingFormat = true;
-    bool footnotesClosed = false;
-    run.program.hooks.CloseFootnotes = [&](Program&) { footnotesClosed = true; };
+    std::string nameThen = "not closed";
+    modWindows::Show(run.program, std::make_unique<BesideWindow>(nameThen));
     run.surroundings.questions.ExpectBox(kFormatQuestion, Answer::No);
     run.surroundings.questions.ExpectBox({"Resume Editing.", Buttons::Ok, ""}, Answer::Ok);
-    EXPECT_EQ(modMain::StartNewFile(run.program), modMain::ResetResult::Refused);
-    EXPECT_TRUE(footnotesClosed); // they close before the question
+    EXPECT_EQ(modReset::StartNewFile(run.program), modReset::ResetResult::Refused);
+    EXPECT_EQ(nameThen, "not closed"); // everything is as it was
     EXPECT_EQ(run.program.document.FileName, "Jane Roe.hef");
     EXPECT_TRUE(run.program.format.EditingFormat);
     EXPECT_FALSE(run.program.guards.ResetActive);
@@ -312,7 +326,7 @@ TEST(Reset, EndingTheFormatEmptiesTheProposal) {
     run.SaveAs("Jane Roe");
     run.program.format.EditingFormat = true;
     run.surroundings.questions.ExpectBox(kFormatQuestion, Answer::Yes);
-    EXPECT_EQ(modMain::StartNewFile(run.program), modMain::ResetResult::Done);
+    EXPECT_EQ(modReset::StartNewFile(run.program), modReset::ResetResult::Done);
     EXPECT_EQ(run.program.document.FileName, "");
     EXPECT_FALSE(run.program.format.EditingFormat);
 }
@@ -322,7 +336,7 @@ TEST(SaveAs, AsksForANameAndSavesUnderIt) {
     run.SaveAs("Jane Roe");
     run.surroundings.questions.ExpectInput("Saving File As...", "  Second  ");
     run.surroundings.questions.ExpectBox({"File was saved as Second.hef", Buttons::Ok, ""}, Answer::Ok);
-    modMain::mnuFileSaveAs_Click(run.program);
+    modProposal::mnuFileSaveAs_Click(run.program);
     EXPECT_EQ(run.surroundings.questions.Prompts.back(), "Please input the File Name below.");
     EXPECT_EQ(run.surroundings.questions.Initials.back(), "Jane Roe");
     EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hef"));
@@ -332,8 +346,9 @@ TEST(SaveAs, AsksForANameAndSavesUnderIt) {
     EXPECT_EQ(run.program.document.TextFileName, "Second.txt");
     EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Second.hef");
     EXPECT_FALSE(run.program.document.SaveAsActive);
-    // A proposal without properties gets an empty file of them.
-    EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"), "");
+    // A proposal without properties of its own keeps the font it was written in.
+    EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"),
+              "UDP.FontName=Times New Roman .FontSize=10 .FontColor=0 .FontItalic=False\r\n");
 }
 
 TEST(SaveAs, WithoutANameNothingIsSaved) {
@@ -342,7 +357,7 @@ TEST(SaveAs, WithoutANameNothingIsSaved) {
         run.surroundings.questions.ExpectInput("Saving File As...", reply);
         run.surroundings.questions.ExpectBox({"No name entered. File not saved.", Buttons::Ok, ""},
                                              Answer::Ok);
-        modMain::SaveEventFileAs(run.program);
+        modProposal::SaveEventFileAs(run.program);
         EXPECT_FALSE(run.program.document.FileExists);
     }
 }
@@ -351,7 +366,7 @@ TEST(SaveAs, AnIllegalNameIsRefused) {
     Living run;
     run.surroundings.questions.ExpectInput("Saving File As...", "a/b");
     run.surroundings.questions.Expect("Action Cancelled. File Name cannot include any of ");
-    modMain::SaveEventFileAs(run.program);
+    modProposal::SaveEventFileAs(run.program);
     EXPECT_FALSE(run.program.document.SaveAsActive);
     EXPECT_EQ(run.program.document.FileName, "");
 }
@@ -368,8 +383,8 @@ TEST(SaveAs, OverTheOpenFileItselfAsksToo) {
         run.surroundings.questions.ExpectBox(kOverwrite, answer);
         run.surroundings.questions.ExpectBox({"Action Cancelled. File not saved.", Buttons::Ok, ""},
                                              Answer::Ok);
-        modMain::SaveEventFileAs(run.program);
-        EXPECT_TRUE(modMain::SomethingChanged(run.program));
+        modProposal::SaveEventFileAs(run.program);
+        EXPECT_TRUE(modProposal::SomethingChanged(run.program));
     }
     Living run;
     run.SaveAs("Jane Roe");
@@ -377,8 +392,8 @@ TEST(SaveAs, OverTheOpenFileItselfAsksToo) {
     run.surroundings.questions.ExpectInput("Saving File As...", "Jane Roe");
     run.surroundings.questions.ExpectBox(kOverwrite, Answer::Yes);
     run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
-    modMain::SaveEventFileAs(run.program);
-    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+    modProposal::SaveEventFileAs(run.program);
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
 }
 
 TEST(SaveAs, WithAChangedClientAsksTwice) {
@@ -389,7 +404,7 @@ TEST(SaveAs, WithAChangedClientAsksTwice) {
     run.surroundings.questions.ExpectBox(kOverwrite, Answer::Yes);
     run.surroundings.questions.Expect("A file with this name (Jane Roe.hef)", Answer::No);
     run.surroundings.questions.Expect("File not saved.");
-    modMain::SaveEventFileAs(run.program);
+    modProposal::SaveEventFileAs(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), "older");
     // The names are those of before.
     EXPECT_EQ(run.program.document.FileName, "Ann.hef");
@@ -403,7 +418,7 @@ TEST(SaveAs, FootnotesAndDepositsGoWithTheProposal) {
     run.folder.Write("Proposals/Jane Roe.dep", "deposits");
     run.surroundings.questions.ExpectInput("Saving File As...", "Second");
     run.surroundings.questions.Expect("File was saved as Second.hef");
-    modMain::SaveEventFileAs(run.program);
+    modProposal::SaveEventFileAs(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/Second.hxt"), "notes");
     EXPECT_EQ(run.folder.Read("Proposals/Second.dep"), "deposits");
     EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hxt"), "notes");
@@ -414,7 +429,7 @@ TEST(SaveAs, ADoubleQuoteIsLegalInAName) {
     Living run;
     run.surroundings.questions.ExpectInput("Saving File As...", "The \"Roe\" party");
     run.surroundings.questions.Expect("File was saved as The \"Roe\" party.hef");
-    modMain::SaveEventFileAs(run.program);
+    modProposal::SaveEventFileAs(run.program);
     EXPECT_TRUE(run.folder.Has("Proposals/The \"Roe\" party.hef"));
 }
 
@@ -425,24 +440,24 @@ TEST(FileNames, EightCharactersAreRefusedWithOneMessage) {
                                          Buttons::Ok, ""};
     for (const char character : std::string("/\\:*?<>|")) {
         run.surroundings.questions.ExpectBox(refusal, Answer::Ok);
-        EXPECT_TRUE(modMain::IllegalFileName(run.program, std::string("a") + character + "b"));
+        EXPECT_TRUE(modNames::IllegalFileName(run.program, std::string("a") + character + "b"));
     }
-    EXPECT_FALSE(modMain::IllegalFileName(run.program, "a\"b"));
-    EXPECT_FALSE(modMain::IllegalFileName(run.program, ""));
+    EXPECT_FALSE(modNames::IllegalFileName(run.program, "a\"b"));
+    EXPECT_FALSE(modNames::IllegalFileName(run.program, ""));
 }
 
-TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesIt) {
+TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesNothing) {
     Living run;
     run.folder.Write("Proposals/Jane Roe.hef", "older");
     run.surroundings.questions.Expect("A file with this name (Jane Roe.hef)\r\n"
                                       "already exists. Do you want to replace the\r\n"
                                       "existing file, created on:\r\n",
                                       Answer::Yes);
-    modMain::ShowDuplicateFileOptions(run.program, "Jane Roe.hef");
+    modNames::ShowDuplicateFileOptions(run.program, "Jane Roe.hef");
     const ScriptedQuestions::Box& box = run.surroundings.questions.Shown.back();
     EXPECT_EQ(box.Title, "Duplicate File Name on Record");
     EXPECT_TRUE(box.Text.ends_with("\r\n\r\nwith this one?"));
-    EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe.hef"));
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), "older");
     EXPECT_FALSE(run.program.document.Cancelled);
 }
 
@@ -450,7 +465,7 @@ TEST(Delete, AsksAndLeavesEverythingOnNo) {
     Living run;
     run.SaveAs("Jane Roe");
     run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::No);
-    modMain::mnuFileDelete_Click(run.program);
+    modProposal::mnuFileDelete_Click(run.program);
     EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hef"));
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
 }
@@ -463,7 +478,7 @@ TEST(Delete, TakesTheFilesOfItsNameAndStartsAnew) {
     }
     run.folder.Write("Proposals/Jane Roes.hpf", "x");
     run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::Yes);
-    modMain::mnuFileDelete_Click(run.program);
+    modProposal::mnuFileDelete_Click(run.program);
     for (const std::string extension : {".hef", ".hpf", ".txt", ".hxt", ".dep"}) {
         EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe" + extension)) << extension;
     }
@@ -478,7 +493,7 @@ TEST(Delete, WithoutAFileSaysSoAndNothingElse) {
     run.TypeClient("Jane Roe");
     run.surroundings.questions.ExpectBox(
         {"No such file exists. Select New to start a new proposal (Ctrl + N).", Buttons::Ok, ""}, Answer::Ok);
-    modMain::mnuFileDelete_Click(run.program);
+    modProposal::mnuFileDelete_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
 }
 
@@ -490,7 +505,7 @@ TEST(Delete, AFileThatHasGoneMeanwhileIsToldAndTheTextStays) {
     run.surroundings.questions.ExpectBox({"An Error occurred trying to delete the file.", Buttons::Ok, ""},
                                          Answer::Ok);
     run.surroundings.questions.Expect("An error occurred in mnuFileDelete_Click.");
-    modMain::mnuFileDelete_Click(run.program);
+    modProposal::mnuFileDelete_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
 }
 
@@ -501,7 +516,7 @@ TEST(Delete, OfABackupLeavesTheBackupsBehind) {
     run.OpenBackup("Jane Roe.hef");
     ASSERT_TRUE(run.program.document.FromBackup);
     run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::Yes);
-    modMain::mnuFileDelete_Click(run.program);
+    modProposal::mnuFileDelete_Click(run.program);
     EXPECT_FALSE(run.folder.Has("Proposals/Backup/Jane Roe.hef"));
     EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hef"));
     EXPECT_FALSE(run.program.document.FromBackup);
@@ -529,7 +544,7 @@ TEST(Backup, NewAfterOneWorksInTheDataFolderAgain) {
     run.SaveAs("Jane Roe");
     modFile::BackupThisFile(run.program);
     run.OpenBackup("Jane Roe.hef");
-    modMain::mnuFileNew_Click(run.program);
+    modProposal::mnuFileNew_Click(run.program);
     EXPECT_FALSE(run.program.document.FromBackup);
     EXPECT_FALSE(run.RestoreEnabled());
     EXPECT_EQ(run.program.document.FilePath, run.Data());
@@ -543,7 +558,7 @@ TEST(Backup, RestoringPutsTheFileBackInPlaceOfTheOther) {
     run.folder.Write("Proposals/Jane Roe.hef", "spoilt");
     run.folder.Write("Proposals/Jane Roe.hxt", "notes");
     run.OpenBackup("Jane Roe.hef");
-    modMain::mnuFileRestoreFromBackup_Click(run.program);
+    modProposal::mnuFileRestoreFromBackup_Click(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), backup);
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Jane Roe.hef"), backup);
     EXPECT_EQ(run.program.document.FilePath, run.Data());
@@ -561,7 +576,7 @@ TEST(Backup, OneThatHasGoneMeanwhileLeavesTheOtherFile) {
     run.OpenBackup("Jane Roe.hef");
     std::filesystem::remove(run.folder / "Proposals/Backup/Jane Roe.hef");
     run.surroundings.questions.Expect("An error occurred in mnuFileRestoreFromBackup_Click.");
-    modMain::mnuFileRestoreFromBackup_Click(run.program);
+    modProposal::mnuFileRestoreFromBackup_Click(run.program);
     EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hef"));
     EXPECT_TRUE(run.program.document.FromBackup);
 }
@@ -587,7 +602,7 @@ TEST(Titles, AFormatStandsBeforeTheFileName) {
     run.program.format.FormatName = "Mine.fmt";
     run.Touch();
     run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
-    modMain::mnuFileSaveEvent_Click(run.program);
+    modProposal::mnuFileSaveEvent_Click(run.program);
     EXPECT_EQ(run.program.main.Caption, "Quillbrook: Format File = Mine.fmt - File Name = Jane Roe.hef");
 }
 

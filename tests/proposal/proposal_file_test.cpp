@@ -1,12 +1,15 @@
 #include "base/files.h"
 #include "money/totals.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
 #include "pages/quantity_row.h"
+#include "pages/row_fields.h"
 #include "proposal/lifecycle.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
 #include "proposal/proposal_layout.h"
+#include "proposal/proposal_open.h"
+#include "proposal/proposal_save.h"
 #include "proposal/reset.h"
+#include "proposal/slot_widths.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -35,7 +38,7 @@ std::string FileWith(std::initializer_list<std::pair<std::size_t, std::string>> 
 
 modFile::OpenResult Open(RunningProgram& run, const std::string& bytes, const char* name = "A.hef") {
     run.folder.Write(std::string("Proposals/") + name, bytes);
-    static_cast<void>(modMain::StartNewFile(run.program));
+    static_cast<void>(modReset::StartNewFile(run.program));
     return modFile::OpenEventFile(run.program, name);
 }
 
@@ -326,7 +329,7 @@ TEST(SavingAProposal, UnderATakenNameAsksFirst) {
 TEST(SavingAProposal, OnAFullDiskIsToldAndTheTextStaysUnsaved) {
     RunningProgram run;
     run.program.document.FileName = "Ann.hef";
-    run.program.document.CurrentTextBuf[0][3] = "12 Elm Street";
+    run.Area(PageId::frmP1, 3).Text = "12 Elm Street";
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
@@ -475,13 +478,17 @@ TEST(OpeningAProposal, AMarkedAmountLosesTheBlanksAroundItAndIsNotTaxed) {
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
 }
 
-TEST(OpeningAProposal, AFormatsTextStaysAndItsAmountCounts) {
+TEST(OpeningAProposal, AFormatsProtectedTextStaysOnlyWhereTheFileHasNone) {
     RunningProgram run;
-    run.program.format.FormatTextChanges[0][10].FormatText = true;
-    run.Area(PageId::frmP1, 10).Text = "Every event includes";
-    ASSERT_EQ(Open(run, FileWith({{530, "Something else"}, {650, "A row"}})), modFile::OpenResult::Opened);
-    EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "Every event includes");
-    EXPECT_EQ(run.TextOf(PageId::frmP1, 11), "A row");
+    for (const std::size_t row : {10U, 11U}) {
+        run.program.format.FormatTextChanges[0][row].FormatText = true;
+        run.Area(PageId::frmP1, static_cast<int>(row)).Text = "Every event includes";
+    }
+    ASSERT_EQ(Open(run, FileWith({{530, "Something else"}})), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "Something else");
+    EXPECT_FALSE(run.program.format.FormatTextChanges[0][10].FormatText);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 11), "Every event includes");
+    EXPECT_TRUE(run.program.format.FormatTextChanges[0][11].FormatText);
 }
 
 TEST(OpeningAProposal, AQuantityRowCutByItsSlotIsPlainText) {
@@ -499,6 +506,7 @@ TEST(OpeningAProposal, OtherProposalsShowTheLogoAsTheSettingSays) {
     RunningProgram run;
     run.program.settings.LogoVisible = true;
     run.program.pages[PageId::frmP1].pic.Tag = "Hide";
+    run.program.pages[PageId::frmP1].pic.Picture = {PictureRef::Source::File, "logo.png"};
     ASSERT_EQ(Open(run, FileWith({}), "Jane Doe.hef"), modFile::OpenResult::Opened);
     EXPECT_TRUE(run.program.settings.LogoVisible);
     EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Tag, "");
@@ -513,7 +521,7 @@ TEST(OpeningAProposal, WithHiddenTotalsWritesTheDepositAloneAndIsUnchanged) {
     EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "30.00");
     EXPECT_EQ(run.TextOf(PageId::frmP6_1, 4), "30.00");
     EXPECT_FALSE(modTotals::TotalsDiffer(run.program));
-    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
 }
 
 TEST(OpeningAProposal, FiresNoHandlerOfAPageAndPutsItsFlagDown) {

@@ -4,7 +4,8 @@
 #include "program/windows.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
-#include "proposal/proposal_file.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_save.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -32,7 +33,7 @@ struct Sample : RunningProgram {
         folder.Write("Proposals/SalesTax.txt", Shipped("SalesTax.txt"));
         folder.Write(std::string("Proposals/") + kSample, Shipped(kSample));
         Start();
-        modMain::mnuFileOpenEvent_Click(program);
+        modProposal::mnuFileOpenEvent_Click(program);
         auto& chooser = dynamic_cast<frmFile&>(*modWindows::Find(program, "frmFile"));
         EXPECT_EQ(chooser.FileList1.Items, std::vector<std::string>{kSample});
         chooser.FileList1_Click(program, 0);
@@ -94,7 +95,7 @@ TEST(SampleProposal, OpensWithoutAWordAndUnchanged) {
     EXPECT_FALSE(run.folder.Has("Error.log"));
     EXPECT_EQ(run.program.document.FileName, kSample);
     EXPECT_EQ(run.program.document.DocumentKind, "Event");
-    EXPECT_FALSE(modMain::SomethingChanged(run.program));
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
 }
 

@@ -1,9 +1,10 @@
 #include "base/files.h"
+#include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/fields.h"
-#include "pages/page_setup.h"
-#include "proposal/proposal_file.h"
-#include "proposal/reset.h"
+#include "pages/row_fields.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_save.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -12,6 +13,7 @@
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <sys/resource.h>
@@ -60,9 +62,19 @@ private:
     rlimit before_{};
 };
 
+/// Amounts that add differently in singles. By field 16777216 + 1 + 1 stays 16777216, by page 16777216 +
+/// (1 + 1) is 16777218; all exempt.
+void PutWhatAddsDifferently(RunningProgram& run) {
+    for (const auto& [page, index, text] :
+         {std::tuple{PageId::frmP1, 20, "16777216"}, {PageId::frmP2, 33, "1"}, {PageId::frmP2, 34, "1"}}) {
+        modFields::SetText(run.program, {page, FieldKind::txt, index}, text);
+        modTotals::SetTax(run.program, page, index, modTotals::Tax::Exempt);
+    }
+}
+
 TEST(Saving, TellsOfTheTotalsBeforeItAsksForTheName) {
     RunningProgram run;
-    Put(run, PageId::frmP1, 20, "10"); // on the page, but not in the tables: the two totals differ
+    PutWhatAddsDifferently(run);
     run.surroundings.questions.Expect("A descrepancy has occurred in calculating the totals.");
     run.surroundings.questions.Expect(
         "Please enter the client's name in the appropriate area and save again.");
@@ -109,14 +121,16 @@ TEST(Saving, AReadOnlyFileIsReplaced) {
     EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 110, 13), "14 Oak Street");
 }
 
-TEST(Saving, AFileWhoseNameDiffersInCaseAloneIsTheSameFile) {
+TEST(Saving, AFileWhoseNameDiffersInCaseAloneIsAnotherFile) {
     RunningProgram run;
     SaveAnn(run);
     std::filesystem::rename(run.folder / "Proposals/Ann.hef", run.folder / "Proposals/ANN.HEF");
+    const std::string other = run.folder.Read("Proposals/ANN.HEF");
+    ChangeStreet(run);
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
-    EXPECT_FALSE(std::filesystem::exists(run.folder / "Proposals/ANN.HEF"));
-    EXPECT_TRUE(std::filesystem::exists(run.folder / "Proposals/Ann.hef"));
+    EXPECT_EQ(run.folder.Read("Proposals/ANN.HEF"), other);
+    EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 110, 13), "14 Oak Street");
 }
 
 TEST(Saving, AChangedClientAsksAboutTheProposalsOwnFile) {
@@ -167,6 +181,10 @@ TEST(Saving, ATextLongerThanItsSlotIsCutInTheFileAlone) {
     RunningProgram run;
     const std::string street(70, 's');
     modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 4}, street);
+    run.surroundings.questions.ExpectBox(
+        {"These texts are longer than their place in the file and will be cut:\r\nPage 1, Text Area 5",
+         Buttons::SaveAnywayCancel, ""},
+        Answer::Yes);
     SaveAnn(run);
     const std::string bytes = run.folder.Read("Proposals/Ann.hef");
     EXPECT_EQ(Slot(bytes, 170, 60), std::string(60, 's'));
@@ -208,7 +226,7 @@ TEST(Saving, QuantityRowsAreGatheredBeforePropertiesAndBytes) {
 TEST(Saving, ADiscrepancyIsToldAndTheFileIsWrittenAllTheSame) {
     RunningProgram run;
     modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
-    Put(run, PageId::frmP2, 33, "10");
+    PutWhatAddsDifferently(run);
     run.surroundings.questions.Expect("A descrepancy has occurred in calculating the totals.");
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
@@ -276,14 +294,17 @@ TEST(Backup, ThatCannotBeWrittenIsReportedAndEndsWithTheSave) {
     EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 110, 13), "14 Oak Street");
 }
 
-TEST(PropertyFile, IsNotMadeByASaveWithoutProperties) {
+TEST(PropertyFile, IsNotMadeByASaveWithoutChangedProperties) {
     RunningProgram run;
     SaveAnn(run);
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_FALSE(run.folder.Has("Proposals/Ann.hpf"));
     run.program.format.PropTextChanges[1][3].Dirty = true;
     run.program.format.LabelSavedState[0][3].Changed = true;
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
-    EXPECT_FALSE(run.folder.Has("Proposals/Ann.hpf"));
+    EXPECT_TRUE(run.folder.Has("Proposals/Ann.hpf"));
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
 }
 

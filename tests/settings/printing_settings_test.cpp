@@ -1,6 +1,7 @@
 #include "program/windows.h"
 #include "settings/frm_poffsets.h"
 #include "settings/frm_printers.h"
+#include "settings/printer_offsets.h"
 #include "settings/settings.h"
 #include "support/settled.h"
 
@@ -17,7 +18,7 @@ struct Offset : Settled {
     }
     void Read(std::string_view bytes) {
         folder.Write("Proposals/PrinterOffsets.txt", bytes);
-        modSettings::ReadPrinterOffsets(program);
+        modOffsets::ReadPrinterOffsets(program);
     }
     [[nodiscard]] float X() const { return program.printing.PrinterOffsetX; }
     [[nodiscard]] float Y() const { return program.printing.PrinterOffsetY; }
@@ -33,7 +34,7 @@ TEST(PrinterOffsets, AreInchesInTheFileAndTwipsInTheProgram) {
 TEST(PrinterOffsets, AMissingFileMeansNoneAndIsNotTold) {
     Offset run;
     run.program.printing.PrinterOffsetX = 5;
-    modSettings::ReadPrinterOffsets(run.program);
+    modOffsets::ReadPrinterOffsets(run.program);
     EXPECT_EQ(run.X(), 0.0F);
     EXPECT_EQ(run.Y(), 0.0F);
 }
@@ -57,7 +58,7 @@ TEST(PrinterOffsets, AreWrittenBackToBack) {
     Offset run;
     run.program.printing.PrinterOffsetX = -360;
     run.program.printing.PrinterOffsetY = 0;
-    modSettings::SavePrinterOffsets(run.program);
+    modOffsets::SavePrinterOffsets(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/PrinterOffsets.txt"), "Printer X Offset:-0.25Printer Y Offset:0");
 }
 
@@ -65,7 +66,7 @@ TEST(PrinterOffsets, FailuresAreToldUnderTheRoutinesNames) {
     Offset run;
     run.folder.MakeFolder("Proposals/PrinterOffsets.txt");
     run.ExpectReport("SavePrinterOffsets");
-    modSettings::SavePrinterOffsets(run.program);
+    modOffsets::SavePrinterOffsets(run.program);
 }
 
 TEST(PrinterOffsets, AreReadWithTheSettings) {
@@ -197,10 +198,10 @@ TEST(FrmPrinters, APrinterThatHasGoneLeavesTheListAndTheSettings) {
 TEST(FrmPrinters, DoNotOpenWhilePagesAreBeingPrinted) {
     Settled run;
     run.program.printing.CommandRunning = true;
-    modMain::mnuOptPrinter_Click(run.program);
+    modPrinters::mnuOptPrinter_Click(run.program);
     EXPECT_EQ(modWindows::Find(run.program, "frmPrinters"), nullptr);
     run.program.printing.CommandRunning = false;
-    modMain::mnuOptPrinter_Click(run.program);
+    modPrinters::mnuOptPrinter_Click(run.program);
     EXPECT_NE(modWindows::Find(run.program, "frmPrinters"), nullptr);
 }
 
@@ -209,10 +210,10 @@ TEST(FrmPrinters, WithoutAnyPrinterTheCommandSaysSo) {
     run.surroundings.printers.Devices.clear();
     run.surroundings.questions.ExpectBox({"Printer Error 482. No printers found.", Buttons::Ok, ""},
                                          Answer::Ok);
-    modMain::mnuOptPrinter_Click(run.program);
+    modPrinters::mnuOptPrinter_Click(run.program);
     EXPECT_TRUE(run.program.windows.Open.empty());
     run.surroundings.printers.Devices = {"Office Laser"};
-    modMain::mnuOptPrinter_Click(run.program);
+    modPrinters::mnuOptPrinter_Click(run.program);
     EXPECT_NE(modWindows::Find(run.program, "frmPrinters"), nullptr);
 }
 

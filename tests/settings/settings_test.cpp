@@ -1,4 +1,7 @@
+#include "settings/frm_tax.h"
+#include "settings/network_share.h"
 #include "settings/settings.h"
+#include "settings/tax_rate.h"
 #include "support/settled.h"
 
 #include <gtest/gtest.h>
@@ -85,7 +88,6 @@ TEST(Settings, EveryLineReachesItsValue) {
     EXPECT_EQ(inForce.DefaultFontSize, 9.75F);
     EXPECT_EQ(inForce.DefaultFontColor, 255U);
     EXPECT_TRUE(inForce.DefaultFontItalic);
-    EXPECT_EQ(inForce.LogoPath, run.folder / "logo.jpg");
     EXPECT_TRUE(inForce.TermsPinned);
     EXPECT_EQ(inForce.FUTFileName, "Mine.fut");
     EXPECT_FALSE(inForce.NoPrinter);
@@ -270,19 +272,6 @@ TEST(Settings, BooleansAreTheWordTrueInAnyCase) {
     EXPECT_FALSE(read.SavedFontItalic);
 }
 
-TEST(Settings, ALogoWithADriveOrFromTheRootStandsByItself) {
-    for (const std::string path : {"c:\\pictures\\a.jpg", "/srv/a.jpg"}) {
-        Settled run;
-        run.folder.Write("UserPreferences.txt", SettingsFile({{11, path}}));
-        modSettings::GetUserPreferences(run.program);
-        EXPECT_EQ(run.program.run.LogoPath, path);
-    }
-    Settled run;
-    run.folder.Write("UserPreferences.txt", SettingsFile({{11, "pictures/a.jpg"}}));
-    modSettings::GetUserPreferences(run.program);
-    EXPECT_EQ(run.program.run.LogoPath, run.folder / "pictures/a.jpg");
-}
-
 TEST(Settings, ATermsListIsPinnedOnlyWhenItIsNamedAndWanted) {
     Settled named;
     named.folder.Write("UserPreferences.txt", SettingsFile({{23, "Mine.fut"}, {24, "False"}}));
@@ -305,14 +294,39 @@ TEST(Settings, APrinterIsMatchedExactlyAndNoneIsNoted) {
     EXPECT_TRUE(run.program.run.NoPrinter);
 }
 
-TEST(Settings, AFontFoundMissingDoesNotComeBackWhenTheSettingsAreReadAgain) {
+TEST(Settings, ReadAgainInMidRunLeaveAloneWhatIsInForce) {
     Settled run;
-    run.folder.Write("UserPreferences.txt", SettingsFile({{27, "Nowhere Script"}}));
+    run.folder.Write("UserPreferences.txt", SettingsFile({{11, "a.png"},
+                                                          {19, "House.fmt"},
+                                                          {20, "True"},
+                                                          {23, "Mine.fut"},
+                                                          {24, "True"},
+                                                          {25, "Kept - "},
+                                                          {27, "Nowhere Script"},
+                                                          {28, "9"},
+                                                          {31, "True"}}));
     modSettings::GetUserPreferences(run.program);
     EXPECT_EQ(run.program.run.DefaultFontName, "Nowhere Script");
-    run.program.run.FontsLoaded = true;
+    EXPECT_EQ(run.program.document.PageHeading, "Kept - ");
+    run.program.run.DefaultFontName = "Times New Roman";
+    run.program.run.DefaultFontSize = 8;
+    run.program.run.FUTFileName = "Other.fut";
+    run.program.run.ACEnabled = true;
+    run.program.run.ACStartLen = 3;
+    run.program.document.PageHeading = "Typed - ";
+    run.program.settings.LoadDefaultFormat = false;
+    run.program.settings.LogoFile = "chosen.png";
+    run.program.settings.LogoVisible = false;
     modSettings::GetUserPreferences(run.program);
     EXPECT_EQ(run.program.run.DefaultFontName, "Times New Roman");
+    EXPECT_EQ(run.program.run.DefaultFontSize, 8);
+    EXPECT_EQ(run.program.run.FUTFileName, "Other.fut");
+    EXPECT_TRUE(run.program.run.ACEnabled);
+    EXPECT_EQ(run.program.run.ACStartLen, 3);
+    EXPECT_EQ(run.program.document.PageHeading, "Typed - ");
+    EXPECT_FALSE(run.program.settings.LoadDefaultFormat);
+    EXPECT_EQ(run.program.settings.LogoFile, "chosen.png");
+    EXPECT_FALSE(run.program.settings.LogoVisible);
     EXPECT_EQ(run.program.settings.SavedFontName, "Nowhere Script");
 }
 
@@ -390,7 +404,7 @@ TEST(SharedFolder, IsMadeAndFilledOnYesWithTheTaxFileUnderItsOtherName) {
     EXPECT_EQ(run.program.folders.ProposalsFolder, run.folder / "share/Proposals/");
     // The rate of the new folder is asked for afresh.
     run.surroundings.questions.Expect("The current sales tax rate is 0%.", Answer::No);
-    modSettings::GetTaxRate(run.program);
+    modTax::GetTaxRate(run.program);
     EXPECT_EQ(run.folder.Read("share/Proposals/SalesTax.txt"), "");
 }
 
@@ -439,7 +453,7 @@ TEST(DrivePrompt, IsWordedAsPeopleKnowItAndCancelChangesNothing) {
     Settled run;
     run.folder.Write("UserPreferences.txt", SettingsFile({}));
     run.surroundings.questions.ExpectInput("Proposal Directory Setup", "");
-    modSettings::RequestNetworkSharePath(run.program);
+    modShare::RequestNetworkSharePath(run.program);
     ASSERT_EQ(run.surroundings.questions.Prompts.size(), 1U);
     EXPECT_EQ(run.surroundings.questions.Prompts[0],
               "Please enter the network share DRIVE LETTER now, singularly without symbols... i.e., c, d, e, "
@@ -462,7 +476,7 @@ TEST(DrivePrompt, RefusesWhatIsNoSingleLetter) {
                                               "a network share path.",
                                               Buttons::Ok, ""},
                                              Answer::Ok);
-        modSettings::RequestNetworkSharePath(run.program);
+        modShare::RequestNetworkSharePath(run.program);
         EXPECT_EQ(run.folder.Read("UserPreferences.txt"), SettingsFile({})) << reply;
     }
 }
@@ -474,7 +488,7 @@ TEST(DrivePrompt, ALetterIsKeptAsADriveAndTheHomeFolderStandsForC) {
     modSettings::GetUserPreferences(run.program);
     run.program.document.FileName = "Jane Roe.hef";
     run.surroundings.questions.ExpectInput("Proposal Directory Setup", "c");
-    modSettings::RequestNetworkSharePath(run.program);
+    modShare::RequestNetworkSharePath(run.program);
     EXPECT_EQ(run.folder.Read("UserPreferences.txt"), SettingsFile({{1, "c:\\"}}));
     EXPECT_EQ(run.program.settings.SharedDirectory, "c:\\");
     EXPECT_EQ(run.program.folders.ProposalsFolder, run.folder / "Home/Proposals/");
@@ -488,7 +502,7 @@ TEST(DrivePrompt, AMountedVolumeStandsForItsLetter) {
     run.folder.Write("UserPreferences.txt", SettingsFile({}));
     modSettings::GetUserPreferences(run.program);
     run.surroundings.questions.ExpectInput("Proposal Directory Setup", "F");
-    modSettings::RequestNetworkSharePath(run.program);
+    modShare::RequestNetworkSharePath(run.program);
     EXPECT_EQ(run.program.settings.SharedDirectory, "F:\\");
     EXPECT_EQ(run.program.folders.ProposalsFolder, run.folder / "mnt/f/Proposals/");
 }
@@ -499,7 +513,7 @@ TEST(DrivePrompt, APathFromTheRootIsTakenWithASeparator) {
     run.folder.Write("UserPreferences.txt", SettingsFile({}));
     modSettings::GetUserPreferences(run.program);
     run.surroundings.questions.ExpectInput("Proposal Directory Setup", run.folder / "share");
-    modSettings::RequestNetworkSharePath(run.program);
+    modShare::RequestNetworkSharePath(run.program);
     EXPECT_EQ(run.program.settings.SharedDirectory, run.folder / "share/");
     EXPECT_EQ(run.program.folders.ProposalsFolder, run.folder / "share/Proposals/");
 }

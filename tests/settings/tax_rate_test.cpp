@@ -1,6 +1,6 @@
 #include "program/windows.h"
 #include "settings/frm_tax.h"
-#include "settings/settings.h"
+#include "settings/tax_rate.h"
 #include "support/settled.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ TEST(TaxRate, IsTheLeadingNumberOfFiveCharacters) {
                                       {"12345678", 12345.0F}}) {
         Taxed run;
         run.folder.Write("Proposals/SalesTax.txt", bytes);
-        modSettings::GetTaxRate(run.program);
+        modTax::GetTaxRate(run.program);
         EXPECT_EQ(run.program.totals.TaxRate, rate) << bytes;
     }
 }
@@ -38,18 +38,18 @@ TEST(TaxRate, IsTheLeadingNumberOfFiveCharacters) {
 TEST(TaxRate, AMissingFileIsMadeEmptyAndZeroAsksEveryTime) {
     Taxed run;
     run.surroundings.questions.ExpectBox(kZeroQuestion, Answer::No);
-    modSettings::GetTaxRate(run.program);
+    modTax::GetTaxRate(run.program);
     EXPECT_EQ(run.File(), "");
     EXPECT_TRUE(run.program.windows.Open.empty());
     run.surroundings.questions.ExpectBox(kZeroQuestion, Answer::No);
-    modSettings::GetTaxRate(run.program);
+    modTax::GetTaxRate(run.program);
 }
 
 TEST(TaxRate, YesToTheQuestionShowsTheWindow) {
     Taxed run;
     run.folder.Write("Proposals/SalesTax.txt", std::string(5, '\0'));
     run.surroundings.questions.ExpectBox(kZeroQuestion, Answer::Yes);
-    modSettings::GetTaxRate(run.program);
+    modTax::GetTaxRate(run.program);
     EXPECT_EQ(run.program.totals.TaxRate, 0.0F);
     EXPECT_NE(modWindows::Find(run.program, "frmTax"), nullptr);
 }
@@ -59,14 +59,14 @@ TEST(TaxRate, AFolderInTheFilesPlaceIsTold) {
     run.folder.MakeFolder("Proposals/SalesTax.txt");
     run.ExpectReport("GetTaxRate");
     run.surroundings.questions.ExpectBox(kZeroQuestion, Answer::No);
-    modSettings::GetTaxRate(run.program);
+    modTax::GetTaxRate(run.program);
 }
 
 TEST(TaxRate, WithoutSettingsTheProgramsOwnFolderHoldsIt) {
     Taxed run;
     run.program.folders.ProposalsFolder.clear();
     run.folder.Write("Proposals/SalesTax.txt", "5.00 ");
-    modSettings::GetTaxRate(run.program);
+    modTax::GetTaxRate(run.program);
     EXPECT_EQ(run.program.totals.TaxRate, 5.0F);
 }
 
@@ -74,33 +74,37 @@ TEST(TaxRate, IsWrittenInFiveCharactersAndTold) {
     Taxed run;
     run.folder.Write("Proposals/SalesTax.txt", "8.25 and more");
     run.surroundings.questions.ExpectBox({"New Sales Tax Rate is 9.50 %", Buttons::Ok, ""}, Answer::Ok);
-    modSettings::SaveTaxRate(run.program, "9.50");
+    modTax::SaveTaxRate(run.program, "9.50");
     EXPECT_EQ(run.File(), "9.50 ");
     EXPECT_EQ(run.program.totals.TaxRate, 9.5F);
     EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
 }
 
-TEST(TaxRate, WithAmountsTheRecalculationIsAskedForInRed) {
+TEST(TaxRate, ANewOneIsInTheOpenProposalsFiguresAtOnce) {
     Taxed run;
+    int fresh = 0;
+    run.program.hooks.TakeFreshFigures = [&](Program& program) {
+        ++fresh;
+        EXPECT_EQ(program.totals.TaxRate, fresh == 1 ? 8.25F : 0.0F);
+    };
+    run.surroundings.questions.Expect("New Sales Tax Rate is 7.00 %");
+    modTax::SaveTaxRate(run.program, "7.00");
+    EXPECT_EQ(fresh, 0) << "nothing to tax";
     run.program.totals.AmountTable[38][1] = -5;
     run.surroundings.questions.Expect("New Sales Tax Rate is 8.25 %");
-    run.surroundings.questions.ExpectBox({"Please click Recalculate to update the totals.", Buttons::Ok, ""},
-                                         Answer::Ok);
-    modSettings::SaveTaxRate(run.program, "8.25");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
-    EXPECT_EQ(run.program.main.cmdTaxRate.BackColor, colors::kButtonFace);
-    // A rate of zero asks for nothing.
-    run.program.main.cmdReCalc.BackColor = colors::kButtonFace;
+    modTax::SaveTaxRate(run.program, "8.25");
+    EXPECT_EQ(fresh, 1);
     run.surroundings.questions.Expect("New Sales Tax Rate is .00 %");
-    modSettings::SaveTaxRate(run.program, ".00");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    modTax::SaveTaxRate(run.program, ".00");
+    EXPECT_EQ(fresh, 2);
+    EXPECT_EQ(run.program.main.cmdTaxRate.BackColor, colors::kButtonFace);
 }
 
 TEST(TaxRate, AFileThatCannotBeWrittenIsToldAndNoNewRateIsClaimed) {
     Taxed run;
     run.folder.MakeFolder("Proposals/SalesTax.txt");
     run.ExpectReport("SaveTaxRate");
-    modSettings::SaveTaxRate(run.program, "8.25");
+    modTax::SaveTaxRate(run.program, "8.25");
     EXPECT_EQ(run.surroundings.questions.Shown.size(), 1U);
 }
 
@@ -114,9 +118,9 @@ TEST(FrmTax, ShowsTheRateInForce) {
     EXPECT_EQ(window.Mode(), Modality::Modal);
 }
 
-TEST(FrmTax, LetsDigitsPointBackspaceAndTabPass) {
+TEST(FrmTax, LetsDigitsPointCommaBackspaceAndTabPass) {
     for (int key = 0; key < 256; ++key) {
-        const bool passes = (key >= 48 && key <= 57) || key == 46 || key == 8 || key == 9;
+        const bool passes = (key >= 48 && key <= 57) || key == 46 || key == 44 || key == 8 || key == 9;
         EXPECT_EQ(frmTax::txtTaxRate_KeyPress(key), passes ? key : 0) << key;
     }
 }
@@ -126,17 +130,51 @@ TEST(FrmTax, OkStoresTwoDecimalsInFiveCharacters) {
                                         {"7.125", "7.13 "},
                                         {"0.5", ".50  "},
                                         {"0", ".00  "},
-                                        {"", ".00  "},
-                                        {".", ".00  "},
-                                        {"1.2.3", "1.20 "},
                                         {"100", "100.0"}}) {
         Taxed run;
+        run.program.totals.TaxRate = 5;
         auto& window = dynamic_cast<frmTax&>(modWindows::Show(run.program, std::make_unique<frmTax>()));
         window.txtTaxRate.Text = typed;
         run.surroundings.questions.Expect("New Sales Tax Rate is ");
         window.cmdOK_Click(run.program);
         EXPECT_EQ(run.File(), stored) << typed;
         EXPECT_TRUE(window.Closing);
+    }
+}
+
+TEST(FrmTax, OpensWithTheRateInForceAllSelected) {
+    Taxed run;
+    run.program.totals.TaxRate = 8.875F;
+    const auto& window = dynamic_cast<frmTax&>(modWindows::Show(run.program, std::make_unique<frmTax>()));
+    EXPECT_EQ(window.txtTaxRate.Text, "8.875");
+    EXPECT_EQ(window.txtTaxRate.SelStart, 0);
+    EXPECT_EQ(window.txtTaxRate.SelLength, 5);
+}
+
+TEST(FrmTax, ALookAndOkChangeNothing) {
+    for (const char* left : {"8.875", "", "  "}) {
+        Taxed run;
+        run.folder.Write("Proposals/SalesTax.txt", "8.875");
+        run.program.totals.TaxRate = 8.875F;
+        auto& window = dynamic_cast<frmTax&>(modWindows::Show(run.program, std::make_unique<frmTax>()));
+        window.txtTaxRate.Text = left;
+        window.cmdOK_Click(run.program);
+        EXPECT_TRUE(window.Closing);
+        EXPECT_EQ(run.program.totals.TaxRate, 8.875F);
+        EXPECT_EQ(run.File(), "8.875");
+    }
+}
+
+TEST(FrmTax, WhatIsNoNumberIsToldAndTheWindowStays) {
+    for (const char* typed : {"8,25", ".", "1.2.3"}) {
+        Taxed run;
+        run.program.totals.TaxRate = 8.25F;
+        auto& window = dynamic_cast<frmTax&>(modWindows::Show(run.program, std::make_unique<frmTax>()));
+        window.txtTaxRate.Text = typed;
+        run.surroundings.questions.Expect(std::string(typed) + " is not a number and was not taken.");
+        window.cmdOK_Click(run.program);
+        EXPECT_FALSE(window.Closing);
+        EXPECT_EQ(run.program.totals.TaxRate, 8.25F);
     }
 }
 

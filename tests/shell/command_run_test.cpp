@@ -1,12 +1,11 @@
-#include "shell/command_run.h"
-
 #include "base/version.h"
+#include "editing/text_commands.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/frm_file.h"
 #include "shell/closing.h"
+#include "shell/command_run.h"
 #include "shell/command_table.h"
-#include "shell/small_commands.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -69,7 +68,7 @@ TEST(Commands, MenusSeparatorsAndIdleEntriesDoNothing) {
 TEST(Commands, AnEntryWhoseRoomIsNotBuiltDoesNothing) {
     RunningProgram run;
     for (const commands::Entry& entry : commands::Table()) {
-        if (entry.State == commands::Built::Pending) {
+        if (entry.Pending()) {
             run.program.main[entry.Id].Enabled = true;
             Choose(run, entry.Id);
         }
@@ -153,7 +152,7 @@ TEST(VersionFile, ThatCannotBeWrittenIsReported) {
 }
 
 TEST(Version, IsTheOneThatIsBuilt) {
-    const std::string expected = "project(Quillbrook VERSION " + std::string(version::kNumber) + " ";
+    const std::string expected = "project(Quillbrook VERSION " + std::string(version::Number()) + " ";
     EXPECT_NE(ReadTestData("../../CMakeLists.txt").find(expected), std::string::npos);
 }
 
@@ -272,7 +271,7 @@ TEST(Centre, SaysOkAndIsOutOfReach) {
     Choose(run, CommandId::mnuEditTextCenter);
     EXPECT_TRUE(run.surroundings.questions.Shown.empty());
     ExpectTold(run, "ok");
-    modMain::mnuEditTextCenter_Click(run.program);
+    modText::mnuEditTextCenter_Click(run.program);
 }
 
 TEST(Administrator, LogonMatchesWithAnEmptyAnswer) {
@@ -370,9 +369,9 @@ TEST(Commands, WaitWhilePagesAreBeingPrinted) {
     commands::Run(run.program, CommandId::mnuFileOpenEvent);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "Hall");
     EXPECT_TRUE(run.program.windows.Open.empty());
-    EXPECT_FALSE(modMain::MDIForm_QueryUnload(run.program));
+    EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program));
     run.program.printing.CommandRunning = false;
-    EXPECT_TRUE(modMain::MDIForm_QueryUnload(run.program));
+    EXPECT_TRUE(modClosing::MDIForm_QueryUnload(run.program));
 }
 
 } // namespace

@@ -1,6 +1,5 @@
-#include "shell/frm_splash.h"
-
 #include "program/windows.h"
+#include "shell/frm_splash.h"
 #include "shell/start_up.h"
 #include "support/running_program.h"
 
@@ -14,7 +13,7 @@ namespace {
 
 struct Splash : RunningProgram {
     Splash() : RunningProgram(Begin::NotStarted) {}
-    void Begin() { EXPECT_EQ(modMain::Main(program), modMain::StartResult::Running); }
+    void Begin() { EXPECT_EQ(modStart::Main(program), modStart::StartResult::Running); }
     [[nodiscard]] frmSplash* Window() {
         return dynamic_cast<frmSplash*>(modWindows::Find(program, "frmSplash"));
     }

@@ -1,8 +1,7 @@
-#include "shell/start_up.h"
-
 #include "pages/page_geometry.h"
 #include "program/windows.h"
 #include "shell/closing.h"
+#include "shell/start_up.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -18,9 +17,9 @@ namespace {
 struct Starting : RunningProgram {
     Starting() : RunningProgram(Begin::NotStarted) {}
     /// The entry routine, and a click on the splash if it came to that.
-    modMain::StartResult Main() {
-        const modMain::StartResult result = modMain::Main(program);
-        if (result == modMain::StartResult::Running) {
+    modStart::StartResult Main() {
+        const modStart::StartResult result = modStart::Main(program);
+        if (result == modStart::StartResult::Running) {
             PassSplash(program);
         }
         return result;
@@ -42,7 +41,7 @@ TEST(StartUp, ASecondInstanceEndsAtItsMessageAndReadsNoFile) {
     run.surroundings.instance.Answer = SingleInstance::Result::Taken;
     run.surroundings.questions.ExpectBox(
         {"Another instance of this application is already running.", Buttons::Ok, ""}, Answer::Ok);
-    EXPECT_EQ(run.Main(), modMain::StartResult::Ended);
+    EXPECT_EQ(run.Main(), modStart::StartResult::Ended);
     EXPECT_EQ(run.surroundings.instance.Asked, std::vector<std::string>{run.folder.Path()});
     EXPECT_TRUE(run.program.settings.Lines.empty());
     EXPECT_FALSE(run.program.main.Loaded);
@@ -60,25 +59,25 @@ TEST(StartUp, TheFirstStartRecommendsTheTutorialAndTheSecondDoesNot) {
          "is HIGHLY RECOMMENDED you explore the Quick Start Tutorial under Help.",
          Buttons::Ok, ""},
         Answer::Ok);
-    EXPECT_EQ(run.Main(), modMain::StartResult::Running);
+    EXPECT_EQ(run.Main(), modStart::StartResult::Running);
     RecordingPlatform again;
     Program second(again.platform);
     second.folders = run.program.folders;
-    EXPECT_EQ(modMain::Main(second), modMain::StartResult::Running);
+    EXPECT_EQ(modStart::Main(second), modStart::StartResult::Running);
     EXPECT_TRUE(again.questions.Shown.empty());
 }
 
 TEST(StartUp, TheFontIsFoundWithoutRegardToCase) {
     Starting run;
     run.surroundings.screen.FontNames = {"Arial", "TIMES new roman"};
-    EXPECT_EQ(run.Main(), modMain::StartResult::Running);
+    EXPECT_EQ(run.Main(), modStart::StartResult::Running);
 }
 
 TEST(StartUp, NoAtTheFontQuestionEndsWithNothingReadAndNothingShown) {
     Starting run;
     run.surroundings.screen.FontNames = {"Arial"};
     run.surroundings.questions.ExpectBox(kFontQuestion, Answer::No);
-    EXPECT_EQ(run.Main(), modMain::StartResult::Ended);
+    EXPECT_EQ(run.Main(), modStart::StartResult::Ended);
     EXPECT_FALSE(run.program.main.Loaded);
     EXPECT_TRUE(run.program.settings.Lines.empty());
 }
@@ -87,13 +86,13 @@ TEST(StartUp, YesAtTheFontQuestionGoesOn) {
     Starting run;
     run.surroundings.screen.FontNames = {"Arial"};
     run.surroundings.questions.ExpectBox(kFontQuestion, Answer::Yes);
-    EXPECT_EQ(run.Main(), modMain::StartResult::Running);
+    EXPECT_EQ(run.Main(), modStart::StartResult::Running);
     EXPECT_TRUE(run.program.main.Loaded);
 }
 
 TEST(StartUp, EndsInAnEmptyProposalWithTheMainButtonsOn) {
     Starting run;
-    ASSERT_EQ(run.Main(), modMain::StartResult::Running);
+    ASSERT_EQ(run.Main(), modStart::StartResult::Running);
     const MainWindow& main = run.program.main;
     EXPECT_TRUE(main.cmdPreview.Enabled);
     EXPECT_TRUE(main.cmdReCalc.Enabled);
@@ -125,7 +124,7 @@ TEST(StartUp, EndsInAnEmptyProposalWithTheMainButtonsOn) {
 
 TEST(StartUp, TheLabelsPlacesAreNotedAfterTheFirstReset) {
     Starting run;
-    ASSERT_EQ(run.Main(), modMain::StartResult::Running);
+    ASSERT_EQ(run.Main(), modStart::StartResult::Running);
     for (const PageId page : kEditedPages) {
         for (int index = 0; index <= geometry::LastLabel(page); ++index) {
             const auto at = static_cast<std::size_t>(index);
@@ -154,7 +153,7 @@ TEST(StartUp, RoomsAreCalledInOrderAndTheEventListLast) {
         EXPECT_TRUE(program.pages[PageId::frmP5].RowFieldsMade);
         calls.emplace_back("events");
     };
-    ASSERT_EQ(run.Main(), modMain::StartResult::Running);
+    ASSERT_EQ(run.Main(), modStart::StartResult::Running);
     EXPECT_EQ(calls, (std::vector<std::string>{"terms", "calculator", "events"}));
 }
 
@@ -164,7 +163,7 @@ TEST(StartUp, NoFieldsChangeHandlerRunsBeforeTheProposalStands) {
     run.program.hooks.Change = [&](Program& program, const FieldRef&) {
         changes += program.guards.HandlersSilent() ? 0 : 1;
     };
-    ASSERT_EQ(run.Main(), modMain::StartResult::Running);
+    ASSERT_EQ(run.Main(), modStart::StartResult::Running);
     EXPECT_EQ(changes, 0);
 }
 
@@ -182,7 +181,7 @@ TEST(StartUp, TheScreensWidthDecidesOverTheTermsAndTheCompletion) {
         run.surroundings.screen.Pixels = one.Pixels;
         int shown = 0;
         run.program.hooks.ShowTermsWindow = [&](Program&) { ++shown; };
-        ASSERT_EQ(run.Main(), modMain::StartResult::Running);
+        ASSERT_EQ(run.Main(), modStart::StartResult::Running);
         EXPECT_EQ(shown, one.Shown) << one.Pixels << one.ShowFUT;
         EXPECT_EQ(run.program.run.ACEnabled, one.Completes) << one.Pixels << one.ShowFUT;
         EXPECT_EQ(run.program.run.ACStartLen, 2);
@@ -193,7 +192,7 @@ TEST(StartUp, APinnedTermsListStays) {
     Starting run;
     run.Setting("Frequent Terms File:", "Mine.fut");
     run.Setting("Load FUT:", "True");
-    ASSERT_EQ(run.Main(), modMain::StartResult::Running);
+    ASSERT_EQ(run.Main(), modStart::StartResult::Running);
     EXPECT_EQ(run.program.run.FUTFileName, "Mine.fut");
 }
 
@@ -201,7 +200,7 @@ TEST(StartUp, AFontThatIsNotThereGivesWayForTheRunOnly) {
     for (const std::string name : {"", "Nowhere Script", "times new roman"}) {
         Starting run;
         run.Setting("Font Name:", name);
-        ASSERT_EQ(run.Main(), modMain::StartResult::Running);
+        ASSERT_EQ(run.Main(), modStart::StartResult::Running);
         EXPECT_FALSE(run.program.run.DefaultFontFound) << name;
         EXPECT_EQ(run.program.run.DefaultFontName, "Times New Roman");
         EXPECT_EQ(run.Area(PageId::frmP1, 10).FontName, "Times New Roman");
@@ -210,7 +209,7 @@ TEST(StartUp, AFontThatIsNotThereGivesWayForTheRunOnly) {
     }
     Starting run;
     run.Setting("Font Name:", "Arial");
-    ASSERT_EQ(run.Main(), modMain::StartResult::Running);
+    ASSERT_EQ(run.Main(), modStart::StartResult::Running);
     EXPECT_TRUE(run.program.run.DefaultFontFound);
     EXPECT_EQ(run.Area(PageId::frmP1, 10).FontName, "Arial");
     EXPECT_EQ(run.program.run.FontList, (std::vector<std::string>{"Arial", "Times New Roman"}));
@@ -222,7 +221,7 @@ TEST(StartUp, WithoutSettingsItTellsAndStandsBeforeAnEmptyProposal) {
     // Once under the splash, and again when the main window still finds them unread.
     run.surroundings.questions.Expect("An error occurred in GetUserPreferences.");
     run.surroundings.questions.Expect("An error occurred in GetUserPreferences.");
-    EXPECT_EQ(run.Main(), modMain::StartResult::Running);
+    EXPECT_EQ(run.Main(), modStart::StartResult::Running);
     EXPECT_TRUE(run.program.main.Loaded);
     EXPECT_EQ(run.program.folders.ProposalsFolder, "");
     EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + run.folder.Path() + "Proposals/");
@@ -240,7 +239,7 @@ TEST(StartUp, SettingsOfGarbageAreToldOnceAndNeverStopIt) {
         Starting run;
         run.folder.Write("UserPreferences.txt", bytes);
         run.surroundings.questions.Expect("An error occurred in GetUserPreferences.");
-        EXPECT_EQ(run.Main(), modMain::StartResult::Running);
+        EXPECT_EQ(run.Main(), modStart::StartResult::Running);
         EXPECT_TRUE(run.program.main.Loaded);
         EXPECT_EQ(run.program.folders.ProposalsFolder, run.folder / "Proposals/");
     }
@@ -250,7 +249,7 @@ TEST(StartUp, ARateOfZeroIsAskedForAtEveryStart) {
     Starting run;
     run.folder.Write("Proposals/SalesTax.txt", ".00  ");
     run.surroundings.questions.Expect("The current sales tax rate is 0%.", Answer::Yes);
-    EXPECT_EQ(run.Main(), modMain::StartResult::Running);
+    EXPECT_EQ(run.Main(), modStart::StartResult::Running);
     // The window stands open over the finished start; nothing waits for it.
     EXPECT_NE(modWindows::Find(run.program, "frmTax"), nullptr);
     EXPECT_TRUE(run.program.main.Loaded);
@@ -262,7 +261,7 @@ TEST(StartUp, AFailureOfTheLoadIsReportedAndToldAndTheWindowStands) {
     run.surroundings.questions.Expect("An error occurred in MDIForm_Load.");
     run.surroundings.questions.ExpectBox({"Error encountered during Load Process.", Buttons::Ok, ""},
                                          Answer::Ok);
-    ASSERT_EQ(run.Main(), modMain::StartResult::Running);
+    ASSERT_EQ(run.Main(), modStart::StartResult::Running);
     EXPECT_TRUE(run.program.main.Loaded);
     EXPECT_FALSE(run.program.guards.StartingUp);
 }
@@ -272,7 +271,7 @@ TEST(OldFiles, AreRenamedAtTheStart) {
     run.folder.Write("Proposals/Ann.hwf", "ann");
     run.folder.Write("Proposals/BOB.HWF", "bob");
     run.folder.Write("Proposals/Carl.hwf.bak", "carl");
-    ASSERT_EQ(run.Main(), modMain::StartResult::Running);
+    ASSERT_EQ(run.Main(), modStart::StartResult::Running);
     EXPECT_EQ(run.folder.Read("Proposals/Ann.hef"), "ann");
     EXPECT_EQ(run.folder.Read("Proposals/BOB.hef"), "bob");
     EXPECT_FALSE(run.folder.Has("Proposals/Ann.hwf"));
@@ -287,7 +286,7 @@ TEST(OldFiles, OneWhoseNameIsTakenStaysAndIsToldOnce) {
     }
     run.folder.Write("Proposals/Carl.hwf", "old");
     run.surroundings.questions.Expect("An error occurred in ConvertOldFiles.\r\nError Number: 58");
-    ASSERT_EQ(run.Main(), modMain::StartResult::Running);
+    ASSERT_EQ(run.Main(), modStart::StartResult::Running);
     EXPECT_EQ(run.folder.Read("Proposals/Ann.hwf"), "old");
     EXPECT_EQ(run.folder.Read("Proposals/Ann.hef"), "new");
     EXPECT_EQ(run.folder.Read("Proposals/Carl.hef"), "old");
@@ -306,7 +305,7 @@ const ScriptedQuestions::Box kExitQuestion{"The file has been changed. Do you wa
 
 TEST(Exit, AnUntouchedProposalClosesWithoutAQuestion) {
     Closing run;
-    modMain::mnuFileExit_Click(run.program);
+    modClosing::mnuFileExit_Click(run.program);
     EXPECT_TRUE(run.surroundings.events.QuitAsked);
     EXPECT_TRUE(run.program.run.ProgramClosing);
 }
@@ -316,10 +315,10 @@ TEST(Exit, YesSavesAndStaysOpenSoThatThePersonClosesAgain) {
     run.Touch();
     run.surroundings.questions.ExpectBox(kExitQuestion, Answer::Yes);
     run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
-    modMain::mnuFileExit_Click(run.program);
+    modClosing::mnuFileExit_Click(run.program);
     EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hef"));
     EXPECT_FALSE(run.surroundings.events.QuitAsked);
-    modMain::mnuFileExit_Click(run.program);
+    modClosing::mnuFileExit_Click(run.program);
     EXPECT_TRUE(run.surroundings.events.QuitAsked);
 }
 
@@ -327,11 +326,11 @@ TEST(Exit, NoClosesAndCancelStays) {
     Closing run;
     run.Touch();
     run.surroundings.questions.ExpectBox(kExitQuestion, Answer::Cancel);
-    modMain::mnuFileExit_Click(run.program);
+    modClosing::mnuFileExit_Click(run.program);
     EXPECT_FALSE(run.surroundings.events.QuitAsked);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
     run.surroundings.questions.ExpectBox(kExitQuestion, Answer::No);
-    modMain::mnuFileExit_Click(run.program);
+    modClosing::mnuFileExit_Click(run.program);
     EXPECT_TRUE(run.surroundings.events.QuitAsked);
     EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe.hef"));
 }
@@ -340,7 +339,7 @@ TEST(Exit, AChangedPropertyAsksToo) {
     Closing run;
     run.program.format.LabelSavedState[0][3].Changed = true;
     run.surroundings.questions.ExpectBox(kExitQuestion, Answer::Cancel);
-    EXPECT_FALSE(modMain::MDIForm_QueryUnload(run.program));
+    EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program));
 }
 
 } // namespace

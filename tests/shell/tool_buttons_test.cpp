@@ -1,8 +1,7 @@
-#include "shell/tool_buttons.h"
-
 #include "program/program.h"
 #include "program/windows.h"
 #include "shell/frm_main.h"
+#include "shell/tool_buttons.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +27,7 @@ void ExpectFrame(const MainWindow& main, std::size_t frame, bool visible) {
 
 TEST(ToolButtons, AHoveredOneHasARaisedFrameThirtyOutside) {
     Strip run;
-    modMain::HoverToolButton(run.program, run.Main().imgNew);
+    modToolButtons::HoverToolButton(run.program, run.Main().imgNew);
     EXPECT_EQ(run.Main().lneLeft[0], (FrameLine{970, 70, 970, 610, true}));
     EXPECT_EQ(run.Main().lneRight[0], (FrameLine{1540, 70, 1540, 610, true}));
     EXPECT_EQ(run.Main().lneTop[0], (FrameLine{970, 70, 1270, 70, true})) << "300 long, whatever the width";
@@ -38,23 +37,23 @@ TEST(ToolButtons, AHoveredOneHasARaisedFrameThirtyOutside) {
 
 TEST(ToolButtons, APressedOneHasASunkenFrameUntilItIsLetGo) {
     Strip run;
-    modMain::HoverToolButton(run.program, run.Main().imgNew);
-    modMain::PressToolButton(run.program, run.Main().imgNew);
+    modToolButtons::HoverToolButton(run.program, run.Main().imgNew);
+    modToolButtons::PressToolButton(run.program, run.Main().imgNew);
     ExpectFrame(run.Main(), 0, false);
     ExpectFrame(run.Main(), 1, true);
     EXPECT_EQ(run.Main().lneTop[1], (FrameLine{970, 70, 1270, 70, true}));
-    modMain::HoverToolButton(run.program, run.Main().imgOpen);
+    modToolButtons::HoverToolButton(run.program, run.Main().imgOpen);
     ExpectFrame(run.Main(), 0, false);
     ExpectFrame(run.Main(), 1, true);
-    modMain::ReleaseToolButton(run.program);
+    modToolButtons::ReleaseToolButton(run.program);
     ExpectFrame(run.Main(), 1, false);
     EXPECT_FALSE(run.Main().ToolButtonPressed);
 }
 
 TEST(ToolButtons, TheRaisedFrameGoesWithThePointer) {
     Strip run;
-    modMain::HoverToolButton(run.program, run.Main().imgNew);
-    modMain::LeaveToolButton(run.program);
+    modToolButtons::HoverToolButton(run.program, run.Main().imgNew);
+    modToolButtons::LeaveToolButton(run.program);
     ExpectFrame(run.Main(), 0, false);
 }
 
@@ -70,15 +69,17 @@ TEST(ToolButtons, NewShowsItsPressedLookAndStartsNothing) {
 
 TEST(ToolButtons, OnlyTheOneUnderThePointerHasTheFrame) {
     Strip run;
-    using modMain::ButtonFrame;
-    const auto frame = [&](const ImageButton& button) { return modMain::FrameOf(run.program, button); };
+    using modToolButtons::ButtonFrame;
+    const auto frame = [&](const ImageButton& button) {
+        return modToolButtons::FrameOf(run.program, button);
+    };
     EXPECT_EQ(frame(run.Main().imgNew), ButtonFrame::None);
-    modMain::HoverToolButton(run.program, run.Main().imgNew);
+    modToolButtons::HoverToolButton(run.program, run.Main().imgNew);
     EXPECT_EQ(frame(run.Main().imgNew), ButtonFrame::Raised);
     EXPECT_EQ(frame(run.Main().imgOpen), ButtonFrame::None);
-    modMain::PressToolButton(run.program, run.Main().imgNew);
+    modToolButtons::PressToolButton(run.program, run.Main().imgNew);
     EXPECT_EQ(frame(run.Main().imgNew), ButtonFrame::Sunken);
-    modMain::ClearButtonBorders(run.program);
+    modToolButtons::ClearButtonBorders(run.program);
     EXPECT_EQ(frame(run.Main().imgNew), ButtonFrame::None);
 }
 
@@ -91,7 +92,7 @@ TEST(ToolButtons, EveryImageHasThePointerOfTheFirstPageButton) {
         EXPECT_EQ(image->Pointer, MousePointer::Hand);
     }
     main.imgPage[0].Pointer = MousePointer::Arrow;
-    modMain::LoadPageButtonCursors(run.program);
+    modToolButtons::LoadPageButtonCursors(run.program);
     EXPECT_EQ(main.imgTime.Pointer, MousePointer::Arrow);
     EXPECT_EQ(main.imgPage[6].Pointer, MousePointer::Arrow);
 }

@@ -1,5 +1,5 @@
+#include "editing/area_mouse.h"
 #include "editing/keys.h"
-#include "editing/text_areas.h"
 #include "shell/command_run.h"
 #include "shell/frm_main.h"
 #include "support/running_program.h"

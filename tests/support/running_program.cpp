@@ -1,5 +1,4 @@
 #include "support/running_program.h"
-
 #include "editing/keys.h"
 #include "program/windows.h"
 #include "shell/command_run.h"
@@ -30,13 +29,14 @@ RunningProgram::RunningProgram(Begin begin) {
     program.main.ClientHeight = 9000;
     program.main.ClientWidth = 14000;
     Wire(program);
+    program.hooks.ReadEventDates = nullptr; // a folder without proposals is told of at the start
     if (begin == Begin::Started) {
         Start();
     }
 }
 
 void RunningProgram::Start() {
-    if (modMain::Main(program) != modMain::StartResult::Running) {
+    if (modStart::Main(program) != modStart::StartResult::Running) {
         throw std::runtime_error("the program did not start");
     }
     PassSplash(program);

@@ -1,0 +1,117 @@
+#include "pages/row_fields.h"
+
+#include "base/guard.h"
+#include "pages/page_geometry.h"
+#include "program/program.h"
+
+#include <string>
+
+namespace modPages {
+
+namespace {
+
+/// The arrays of a line page's row fields, as one set.
+struct RowFields {
+    TextArea& Quantity;
+    TextArea& Amount;
+    PageLabel& At;
+    PageLabel& Each;
+};
+
+RowFields RowOf(Page& page, int row) {
+    const auto at = static_cast<std::size_t>(row);
+    return {page.txtQty[at], page.txtAmt[at], page.lblAt[at], page.lblEach[at]};
+}
+
+/// Places and texts of one row's fields as designed.
+void PlaceRowFields(Page& page, int row) {
+    constexpr float kQuantityLeft = 900, kAtLeft = 7710, kAmountLeft = 8145, kEachLeft = 9165;
+    constexpr float kQuantityWidth = 540, kAmountWidth = 1020;
+    const RowFields fields = RowOf(page, row);
+    const float top = page.txt[static_cast<std::size_t>(row)].Top;
+    fields.Quantity.Left = kQuantityLeft;
+    fields.Quantity.Width = kQuantityWidth;
+    fields.Amount.Left = kAmountLeft;
+    fields.Amount.Width = kAmountWidth;
+    fields.At.Left = kAtLeft;
+    fields.Each.Left = kEachLeft;
+    fields.Each.Caption = "ea.";
+    for (TextArea* box : {&fields.Quantity, &fields.Amount}) {
+        box->Top = top;
+        box->Tag = kHide;
+        box->BackColor = colors::kRestingRowField;
+        box->Visible = false;
+    }
+    fields.Quantity.Text = "Qty.";
+    fields.Amount.Text = "Amt.";
+    for (PageLabel* label : {&fields.At, &fields.Each}) {
+        label->Top = top;
+        label->Tag = kHide;
+        label->Visible = false;
+    }
+}
+
+/// How many elements the row arrays have on a line page.
+int RowCount(PageId page) {
+    return geometry::LastRow(page) + 1;
+}
+
+} // namespace
+
+void PlaceColumns(Program& program, PageId page, int row, Columns columns) {
+    Page& record = program.pages[page];
+    TextArea& area = record.txt[static_cast<std::size_t>(row)];
+    const bool on = columns == Columns::On;
+    area.Left = on ? geometry::kColumnsLeft : geometry::kPlainLeft;
+    area.Width = on ? geometry::kColumnsWidth : geometry::kPlainWidth;
+    const RowFields fields = RowOf(record, row);
+    for (TextArea* box : {&fields.Quantity, &fields.Amount}) {
+        box->Visible = on;
+        box->Tag = on ? "" : kHide;
+    }
+    for (PageLabel* label : {&fields.At, &fields.Each}) {
+        label->Visible = on;
+        label->Tag = on ? "" : kHide;
+    }
+}
+
+bool ColumnsOn(const Program& program, PageId page, int row) {
+    const Page& record = program.pages[page];
+    return row >= 0 && static_cast<std::size_t>(row) < record.txtQty.size() &&
+           record.txtQty[static_cast<std::size_t>(row)].Visible;
+}
+
+void EnsureRowFields(Program& program, PageId page) {
+    Page& record = program.pages[page];
+    if (record.RowFieldsMade || !IsLinePage(page)) {
+        return;
+    }
+    const ScopedFlag silent(program.guards.ResetActive);
+    if (page == PageId::frmP1) {
+        record.txtQty[0].Text.clear();
+        record.txtAmt[0].Text.clear();
+    }
+    const auto count = static_cast<std::size_t>(RowCount(page));
+    record.txtQty.resize(count, record.txtQty[0]);
+    record.txtAmt.resize(count, record.txtAmt[0]);
+    record.lblAt.resize(count, record.lblAt[0]);
+    record.lblEach.resize(count, record.lblEach[0]);
+    for (int row = 0; row < RowCount(page); ++row) {
+        const std::string quantity = record.txtQty[static_cast<std::size_t>(row)].Text;
+        const std::string amount = record.txtAmt[static_cast<std::size_t>(row)].Text;
+        PlaceRowFields(record, row);
+        record.txtQty[static_cast<std::size_t>(row)].Text = quantity;
+        record.txtAmt[static_cast<std::size_t>(row)].Text = amount;
+    }
+    record.RowFieldsMade = true;
+}
+
+void ShowCurrency(Program& program) {
+    for (const PageId page : kLinePages) {
+        for (PageLabel& label : program.pages[page].lblAt) {
+            label.Caption = "@ " + program.settings.CurrencySymbol;
+        }
+    }
+}
+
+} // namespace modPages

@@ -1,0 +1,10 @@
+#pragma once
+
+struct Program;
+
+namespace modFile {
+
+/// Renames every old "*.hwf" of the proposals folder to ".hef". Reports as "ConvertOldFiles".
+void ConvertOldFiles(Program& program);
+
+} // namespace modFile

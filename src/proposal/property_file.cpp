@@ -1,0 +1,107 @@
+#include "proposal/property_file.h"
+
+#include "base/files.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "program/data_folders.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "program/rewriting.h"
+
+#include <string>
+
+namespace modFile {
+
+namespace {
+
+/// Every property is in its file.
+void ClearMarks(Program& program) {
+    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+        for (TextChangeRecord& record : program.format.PropTextChanges[page]) {
+            record.Dirty = false;
+        }
+    }
+    for (auto& page : program.format.LabelSavedState) {
+        for (LabelChangeRecord& label : page) {
+            label.Changed = false;
+        }
+    }
+}
+
+std::string PropertyFolder(const Program& program) {
+    return program.document.FromBackup ? modFolders::DataFolder(program) : program.document.FilePath;
+}
+
+std::string PropertyName(const Program& program) {
+    return program.document.BaseName + ".hpf";
+}
+
+} // namespace
+
+SaveResult SavePropertyFile(Program& program) {
+    bool written = false;
+    const bool done = Guarded(program, "SavePropertyFile", [&] {
+        std::string bytes;
+        for (const std::string& line : program.format.PropertyLines) {
+            bytes += line;
+            bytes += text::kCrLf;
+        }
+        const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
+        FormatRecords& format = program.format;
+        // Under another name, whoever chose that name has agreed to what it replaces.
+        files::Seen seen = path == format.PropertyPath ? format.PropertySeen : files::LookAt(path);
+        written = Rewrite(program, path, bytes, seen, "layout of the proposal") == Rewriting::Done;
+        if (written) {
+            format.PropertyPath = path;
+            format.PropertySeen = seen;
+            format.PropertyLinesRead.reset();
+            ClearMarks(program);
+        }
+    });
+    return done && written ? SaveResult::Saved : SaveResult::NotSaved;
+}
+
+void ReadFileProperties(Program& program) {
+    Guarded(program, "ReadFileProperties", [&] {
+        FormatRecords& format = program.format;
+        format.PropertyLines.clear();
+        format.PropertyLinesRead.reset();
+        // A backup may have its own layout beside it; what is saved goes to the data folder all the same.
+        const std::string folder = PropertyFolder(program);
+        const bool own =
+            program.document.FromBackup && FileIsThere(program.document.FilePath, PropertyName(program));
+        const std::string path = paths::Join(own ? program.document.FilePath : folder, PropertyName(program));
+        format.PropertyPath = path;
+        format.PropertySeen = files::LookAt(path);
+        if (!files::Exists(path)) {
+            return;
+        }
+        format.PropertyLines = text::SplitLines(files::ReadAll(path));
+        if (!format.PropertyLines.empty() && program.hooks.ParsePropertyFile) {
+            program.hooks.ParsePropertyFile(program);
+        }
+        if (format.PropertyLinesRead) {
+            format.PropertySeen.Was = files::Seen::What::Unread; // kept when it is replaced
+        }
+    });
+}
+
+bool PropertiesChanged(const Program& program) {
+    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+        for (const TextChangeRecord& record : program.format.PropTextChanges[page]) {
+            if (record.Dirty) {
+                return true;
+            }
+        }
+    }
+    for (const auto& page : program.format.LabelSavedState) {
+        for (const LabelChangeRecord& label : page) {
+            if (label.Changed) {
+                return true;
+            }
+        }
+    }
+    return program.document.SavedStateStale;
+}
+
+} // namespace modFile

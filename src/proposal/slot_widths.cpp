@@ -1,0 +1,20 @@
+#include "proposal/slot_widths.h"
+
+#include "pages/page_geometry.h"
+#include "program/program.h"
+
+namespace modFile {
+
+proposal::Widths SlotWidths(const Program& program) {
+    proposal::Widths widths;
+    for (const PageId page : kEditedPages) {
+        auto& list = widths[static_cast<std::size_t>(IndexOf(page))];
+        list.reserve(program.pages[page].txt.size());
+        for (const TextArea& area : program.pages[page].txt) {
+            list.push_back(geometry::LimitOf(area.Tag));
+        }
+    }
+    return widths;
+}
+
+} // namespace modFile

@@ -1,0 +1,68 @@
+#include "settings/printer_offsets.h"
+
+#include "base/files.h"
+#include "base/numbers.h"
+#include "base/paths.h"
+#include "program/data_folders.h"
+#include "program/errors.h"
+#include "program/program.h"
+
+#include <cmath>
+
+namespace modOffsets {
+
+namespace {
+
+constexpr std::string_view kOffsetsFile = "PrinterOffsets.txt";
+constexpr std::string_view kXKey = "Printer X Offset:";
+constexpr std::string_view kYKey = "Printer Y Offset:";
+
+std::string PathOf(const Program& program) {
+    return paths::Join(modFolders::DataFolder(program), kOffsetsFile);
+}
+
+} // namespace
+
+float TwipsOf(std::string_view inches) {
+    const float twips = numbers::ValSingle(inches) * kTwipsPerInch;
+    return std::isfinite(twips) ? twips : 0;
+}
+
+std::string InchesOf(float twips) {
+    return numbers::PlainNumber(twips / kTwipsPerInch);
+}
+
+void ReadPrinterOffsets(Program& program) {
+    program.printing.PrinterOffsetX = 0;
+    program.printing.PrinterOffsetY = 0;
+    const std::string path = PathOf(program);
+    if (!files::Exists(path)) {
+        return;
+    }
+    Guarded(program, "ReadPrinterOffsets", [&] {
+        const std::string bytes = files::ReadAll(path);
+        const std::size_t x = bytes.find(kXKey);
+        const std::size_t y = bytes.find(kYKey);
+        if (x != std::string::npos) {
+            const std::size_t from = x + kXKey.size();
+            const std::size_t to = y == std::string::npos || y < from ? bytes.size() : y;
+            program.printing.PrinterOffsetX = TwipsOf(std::string_view(bytes).substr(from, to - from));
+        }
+        if (y != std::string::npos) {
+            program.printing.PrinterOffsetY = TwipsOf(std::string_view(bytes).substr(y + kYKey.size()));
+        }
+    });
+}
+
+void SavePrinterOffsets(Program& program) {
+    Guarded(program, "SavePrinterOffsets", [&] {
+        std::string bytes(kXKey);
+        bytes += InchesOf(program.printing.PrinterOffsetX);
+        bytes += kYKey;
+        bytes += InchesOf(program.printing.PrinterOffsetY);
+        const std::string path = PathOf(program);
+        files::WriteWhole(path, bytes);
+    });
+}
+
+} // namespace modOffsets

@@ -1,0 +1,54 @@
+#include "shell/help_commands.h"
+
+#include "base/files.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "base/version.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "shell/web_pages.h"
+
+#include <string>
+#include <string_view>
+
+namespace modHelp {
+
+namespace {
+
+void Tell(Program& program, std::string_view message) {
+    program.platform.questions.MsgBox(message, Buttons::Ok, "");
+}
+
+} // namespace
+
+void mnuHelpAbout_Click(Program& program) {
+    const std::string title = std::string(version::kTitle) + " Version " + std::string(version::Number());
+    Tell(program, text::Lines({title, version::kMaker, version::kWebLine}));
+}
+
+void mnuHelpContents_Click(Program& program) {
+    modWeb::OpenHelpPage(program, "index.htm");
+}
+
+void mnuHelpTutorial_Click(Program& program) {
+    modWeb::OpenHelpPage(program, "tutorial.htm");
+}
+
+void mnuHelpFAQ_Click(Program& program) {
+    modWeb::OpenWebPage(program, "/quillbrook/faq.htm");
+}
+
+void mnuHelpVersion_Click(Program& program) {
+    const std::string words = text::Lines({version::kTitle, "Version: " + std::string(version::Number()),
+                                           "Comments: " + std::string(version::kComments)});
+    Tell(program, words);
+    Guarded(program, "mnuHelpVersion", [&] {
+        const std::string path = paths::ResolveDrive("c:\\QBPVersion.txt", program.folders.Drives);
+        if (files::Exists(path)) {
+            files::Delete(path); // also one that may only be read
+        }
+        files::WriteWhole(path, words);
+    });
+}
+
+} // namespace modHelp
