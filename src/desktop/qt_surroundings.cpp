@@ -121,6 +121,9 @@ Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view
     if (buttons == Buttons::YesNo) {
         box.setEscapeButton(QMessageBox::No); // closing the box must not be a Yes
     }
+    if (!manner.Lost.empty()) {
+        box.setInformativeText(ShownText(manner.Lost));
+    }
     if (manner.Default) {
         box.setDefaultButton(ButtonOf(*manner.Default));
     }

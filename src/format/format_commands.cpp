@@ -89,8 +89,7 @@ void mnuFileFormatDefault_Click(Program& program) {
     }
     // Wanted: also a format that was refused a moment ago is loaded by new proposals from now on.
     program.settings.LoadDefaultFormat = true;
-    modSettings::SetLine(program, modSettings::Key::LoadDefaultFormat, "True");
-    modSettings::SaveUserPreferences(program);
+    static_cast<void>(modSettings::Store(program, {{modSettings::Key::LoadDefaultFormat, "True"}}));
 }
 
 } // namespace modFormat

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/seen.h"
 #include "program/page_records.h"
 
 #include <array>
@@ -16,7 +17,6 @@ struct DocumentState {
     std::string DepositFile;
     bool FileExists = false;
     bool FromBackup = false;
-    bool BackingUp = false;
     std::string ClientCaption; ///< "Proposal for " and the client; also called ProposalTitle
     std::string DocumentKind = "Event";
     std::string PageHeading; ///< the running heading of the pages, also called the header prefix
@@ -26,6 +26,11 @@ struct DocumentState {
     std::string FileFilter = "*.hef";
     bool DeleteMode = false;
     bool IgnoreProperties = false;
+    bool PropertiesIgnored = false; ///< the open proposal came without its properties
+    /// What the proposal's file and its property file held when they were read or written last.
+    files::Seen SavedFile;
+    files::Seen SavedProperties;
+    std::string BackupTrouble;    ///< why the last backup was not written; told once
     bool SavedStateStale = false; ///< a format was saved since; counts as a changed property
     bool CompanyBlockPending = false;
 

@@ -8,6 +8,7 @@
 #include "program/main_window_records.h"
 #include "program/page_records.h"
 #include "program/print_records.h"
+#include "program/recovery_records.h"
 #include "program/settings_records.h"
 #include "program/totals_records.h"
 #include "program/window.h"
@@ -26,6 +27,7 @@ struct Program {
     RunState run;
     PageSet pages;
     DocumentState document;
+    RecoveryRecords recovery;
     GuardFlags guards;
     TotalsRecords totals;
     FormatRecords format;

@@ -6,6 +6,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/rewriting.h"
 
 #include <string>
 
@@ -31,32 +32,51 @@ std::string PropertyName(const Program& program) {
 
 } // namespace
 
+std::string BytesOfLines(const std::vector<std::string>& lines) {
+    std::string bytes;
+    for (const std::string& line : lines) {
+        bytes += line;
+        bytes += text::kCrLf;
+    }
+    return bytes;
+}
+
 SaveResult SavePropertyFile(Program& program) {
+    DocumentState& document = program.document;
+    bool written = false;
     const bool done = Guarded(program, "SavePropertyFile", [&] {
-        std::string bytes;
-        for (const std::string& line : program.format.PropertyLines) {
-            bytes += line;
-            bytes += text::kCrLf;
-        }
         const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
-        files::WriteWhole(path, bytes);
-        ClearLabelMarks(program);
+        if (document.PropertiesIgnored && files::ExistsExactly(path)) {
+            program.main.Notice =
+                PropertyName(program) + " was left as it is: the proposal was opened without it.";
+            written = true;
+            return;
+        }
+        written = Rewrite(program, path, BytesOfLines(program.format.PropertyLines), document.SavedProperties,
+                          "property file") == Rewriting::Done;
+        if (written) {
+            ClearLabelMarks(program);
+        }
     });
-    return done ? SaveResult::Saved : SaveResult::NotSaved;
+    return done && written ? SaveResult::Saved : SaveResult::NotSaved;
+}
+
+void TakeProperties(Program& program, const std::string& path) {
+    program.format.PropertyLines.clear();
+    if (!files::Exists(path)) {
+        return;
+    }
+    program.format.PropertyLines = text::SplitLines(files::ReadAll(path));
+    if (!program.format.PropertyLines.empty() && program.hooks.ParsePropertyFile) {
+        program.hooks.ParsePropertyFile(program);
+    }
 }
 
 void ReadFileProperties(Program& program) {
     Guarded(program, "ReadFileProperties", [&] {
-        program.format.PropertyLines.clear();
-        const std::string folder = PropertyFolder(program);
-        if (!FileIsThere(folder, PropertyName(program))) {
-            return;
-        }
-        program.format.PropertyLines =
-            text::SplitLines(files::ReadAll(paths::Join(folder, PropertyName(program))));
-        if (!program.format.PropertyLines.empty() && program.hooks.ParsePropertyFile) {
-            program.hooks.ParsePropertyFile(program);
-        }
+        const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
+        program.document.SavedProperties = files::LookAt(path);
+        TakeProperties(program, path);
     });
 }
 

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 struct Program;
 
 /// The properties beside a proposal.
@@ -8,8 +11,17 @@ namespace modFile {
 enum class SaveResult { Saved, NotSaved };
 
 /// Writes the property lines beside the proposal; for one that was opened from the backups, into the data
-/// folder. Then no label counts as changed. Reports as "SavePropertyFile".
-SaveResult SavePropertyFile(Program& program);
+/// folder. Then no label counts as changed. The person is asked about one that another program has changed; a
+/// file that could not be read is kept as ".unread", and one that the person did not want read stays as it
+/// is. Reports as "SavePropertyFile".
+[[nodiscard]] SaveResult SavePropertyFile(Program& program);
+
+/// The bytes of a file of lines.
+[[nodiscard]] std::string BytesOfLines(const std::vector<std::string>& lines);
+
+/// Reads the property lines from a file, when it is there, and hands them to the language of formats. Throws
+/// files::FileError.
+void TakeProperties(Program& program, const std::string& path);
 
 /// Reads the property lines and hands them to the language of formats. Reports as "ReadFileProperties".
 void ReadFileProperties(Program& program);

@@ -3,9 +3,12 @@
 #include "editing/selection.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "proposal/backup.h"
+#include "proposal/file_names.h"
 #include "proposal/lifecycle.h"
 #include "proposal/property_file.h"
 #include "proposal/proposal_save.h"
+#include "proposal/run_marker.h"
 
 namespace modClosing {
 
@@ -26,22 +29,42 @@ bool MDIForm_QueryUnload(Program& program) {
         return true;
     }
     const Answer answer = program.platform.questions.MsgBox(
-        "The file has been changed. Do you want to save it?", Buttons::YesNoCancel, "Text has been Changed");
+        "The file has been changed. Do you want to save it?", Buttons::YesNoCancel, "Text has been Changed",
+        {.Default = Answer::Yes, .Lost = modNames::UnsavedChanges(program)});
     if (answer == Answer::Yes) {
         // Saving keeps the program open; the person closes a second time.
-        modFile::SaveEventFile(program);
+        static_cast<void>(modFile::SaveEventFile(program));
         return false;
     }
     return answer == Answer::No;
+}
+
+void EndRun(Program& program) {
+    program.main.Closing = true;
+    program.run.ProgramClosing = true;
+    modWindows::UnloadAll(program);
+    program.platform.events.Quit();
 }
 
 void MDIForm_Unload(Program& program) {
     if (program.main.Closing) {
         return;
     }
+    modRecovery::TakeMarkerAway(program);
+    EndRun(program);
+}
+
+void Interrupted(Program& program) {
+    if (program.main.Closing) {
+        return;
+    }
+    if (program.main.Loaded &&
+        (modProposal::SomethingChanged(program) || modFile::PropertiesChanged(program))) {
+        modFile::BackupThisFile(program); // the marker stays: the next start offers it
+    } else {
+        modRecovery::TakeMarkerAway(program);
+    }
     program.main.Closing = true;
-    program.run.ProgramClosing = true;
-    modWindows::UnloadAll(program);
     program.platform.events.Quit();
 }
 

@@ -12,6 +12,13 @@ namespace modClosing {
 /// Closes all windows and ends the run. A second call does nothing.
 void MDIForm_Unload(Program& program);
 
+/// Closes all windows and ends the run that did not get as far as a window, or that has been asked.
+void EndRun(Program& program);
+
+/// The system ends the program: a signal, the end of the desktop session. Asks nothing; unsaved changes are
+/// written into the backup, and the next start offers them.
+void Interrupted(Program& program);
+
 /// Starts the closing, with its question.
 void mnuFileExit_Click(Program& program);
 
