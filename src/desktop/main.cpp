@@ -1,8 +1,12 @@
+#include "base/version.h"
+#include "desktop/convert.h"
+#include "desktop/end_signals.h"
 #include "desktop/frm_main_view.h"
 #include "desktop/icons.h"
 #include "desktop/qt_platform.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "shell/closing.h"
 #include "shell/start_up.h"
 #include "shell/wiring.h"
 
@@ -23,7 +27,9 @@ int Run() {
     surroundings.questions.Over = &window;
     surroundings.questions.BeforeAsking = [&] { window.Follow(); };
     surroundings.events.Follow = [&] { window.Follow(); };
-    if (modStart::Main(program) != modStart::StartResult::Running) {
+    const EndSignals signals([&] { modClosing::Interrupted(program); },
+                             [&] { modClosing::KeepUnsaved(program); });
+    if (modStart::Main(program) != modStart::StartResult::Running || program.main.Closing) {
         return 0;
     }
     window.AfterEvent(); // a click may have come while the splash was still busy
@@ -35,7 +41,8 @@ int Run() {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillbrook"));
-    QApplication::setApplicationVersion(QStringLiteral(QUILLBROOK_VERSION));
+    QApplication::setApplicationVersion(convert::ToQString(version::Number()));
+    QApplication::setDesktopFileName(QStringLiteral("quillbrook"));
     QApplication::setWindowIcon(icons::Program());
     QApplication::setQuitOnLastWindowClosed(false); // the model says when the run ends
     QApplication::setStyle(QStringLiteral("Fusion"));

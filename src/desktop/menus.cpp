@@ -52,7 +52,7 @@ Menus::Menus(QMenuBar& bar, QWidget& window, const std::function<void(CommandId)
             action->setShortcutContext(Qt::WindowShortcut);
             window.addAction(action);
         }
-        if (entry.State == commands::Built::Pending) {
+        if (entry.Pending()) {
             action->setStatusTip(convert::ToQString(commands::kNotBuilt));
         }
         const CommandId id = entry.Id;

@@ -4,6 +4,8 @@
 #include "base/dates.h"
 #include "base/paths.h"
 #include "desktop/convert.h"
+#include "desktop/message_box.h"
+#include "desktop/paper_surface.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -13,6 +15,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QImageReader>
@@ -20,6 +23,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSaveFile>
 #include <QScreen>
 #include <QStandardPaths>
@@ -27,12 +31,11 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <array>
 
 #include <unistd.h>
 
 namespace {
-
-constexpr double kTwipsPerInch = 1440;
 
 QString Native(std::string_view path) {
     return QString::fromStdString(ansi::ToUtf8(path));
@@ -111,10 +114,10 @@ Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view
     if (BeforeAsking) {
         BeforeAsking();
     }
-    QMessageBox box(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question, TitleOf(title),
-                    ShownText(text), ButtonsOf(buttons), Below());
-    box.setObjectName(QStringLiteral("MsgBox"));
-    box.setTextFormat(Qt::PlainText);
+    MessageBox box(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question, TitleOf(title),
+                   ShownText(text), ButtonsOf(buttons), Below(),
+                   manner.How == Manner::Came::Unasked ? MessageBox::Came::Unasked
+                                                       : MessageBox::Came::OnRequest);
     if (title == "Program Error") {
         box.setIcon(QMessageBox::Warning);
     }
@@ -123,6 +126,13 @@ Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view
     }
     if (!manner.Lost.empty()) {
         box.setInformativeText(ShownText(manner.Lost));
+    }
+    constexpr std::array kInOrder{QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
+    for (std::size_t index = 0; index < manner.Words.size() && index < kInOrder.size(); ++index) {
+        if (QAbstractButton* button = box.button(kInOrder[index])) {
+            button->setText(convert::ToQString(manner.Words[index]));
+            button->setIcon(QIcon());
+        }
     }
     if (manner.Default) {
         box.setDefaultButton(ButtonOf(*manner.Default));
@@ -196,8 +206,8 @@ int QtScreen::HeightInPixels() const {
 float QtScreen::TwipsPerPixel() const {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen == nullptr ? 15
-                             : static_cast<float>(kTwipsPerInch / (screen->logicalDotsPerInchX() *
-                                                                   screen->devicePixelRatio()));
+                             : static_cast<float>(paper::kTwipsPerInch / (screen->logicalDotsPerInchX() *
+                                                                          screen->devicePixelRatio()));
 }
 
 void QtClipboard::Clear() {
@@ -254,10 +264,13 @@ double QtClock::Now() const {
 }
 
 SingleInstance::Result QtSingleInstance::Claim(std::string_view installFolder) {
-    const QByteArray key = QCryptographicHash::hash(QByteArray::fromStdString(std::string(installFolder)),
-                                                    QCryptographicHash::Sha1)
-                               .toHex()
-                               .left(16);
+    // One folder may be reached by several names.
+    const QString given = Native(installFolder);
+    const QString real = QFileInfo(given).canonicalFilePath();
+    const QByteArray key =
+        QCryptographicHash::hash((real.isEmpty() ? given : real).toUtf8(), QCryptographicHash::Sha1)
+            .toHex()
+            .left(16);
     // The folder for temporary files is shared by all users of the machine; the lock there carries the name.
     const QString user = QString::number(::getuid());
     const QStringList places{QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +

@@ -251,11 +251,9 @@ void CollectQtyBoxes(Program& program) {
     Guarded(program, "SaveTextBoxFeatures", [&] {
         for (const PageId page : kLinePages) {
             const Page& record = program.pages[page];
-            if (!record.RowFieldsMade) {
-                continue;
-            }
             const auto at = static_cast<std::size_t>(IndexOf(page));
-            for (int row = geometry::FirstRow(page); row <= geometry::LastRow(page); ++row) {
+            for (int row = geometry::FirstRow(page); record.RowFieldsMade && row <= geometry::LastRow(page);
+                 ++row) {
                 const auto index = static_cast<std::size_t>(row);
                 const bool on = record.txt[index].Width == geometry::kColumnsWidth;
                 for (TextChangeTable* table :
@@ -266,7 +264,10 @@ void CollectQtyBoxes(Program& program) {
                     props.QtyValue = record.txtQty[index].Text;
                     props.AmtValue = record.txtAmt[index].Text;
                 }
-                program.document.CurrentTextBuf[at][index] = modFields::ComposeLine(program, page, row);
+            }
+            for (std::size_t index = 0; index < record.txt.size(); ++index) {
+                program.document.CurrentTextBuf[at][index] =
+                    modFields::ComposeLine(program, page, static_cast<int>(index));
             }
         }
     });

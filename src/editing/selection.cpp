@@ -93,6 +93,12 @@ std::vector<AreaContents> ContentsOfRun(const Program& program, PageId page, std
     return contents;
 }
 
+void RefuseAmountsAlone(Program& program) {
+    program.platform.questions.MsgBox("Cannot select Amount Areas only. Please copy Description Areas also.",
+                                      Buttons::Ok, "");
+    DeSelectAllControls(program);
+}
+
 } // namespace
 
 void SettleCompletion(Program& program, PageId page) {
@@ -189,9 +195,7 @@ Selection ReadSelectionRuns(Program& program) {
     const bool left = ReadRun(program, page, rows, 0);
     block.HasRightRun = ReadRun(program, page, {rows.Last + 1, geometry::LastText(page)}, 1);
     if (!left && block.HasRightRun) {
-        program.platform.questions.MsgBox(
-            "Cannot select Amount Areas only. Please copy Description Areas also.", Buttons::Ok, "");
-        DeSelectAllControls(program);
+        RefuseAmountsAlone(program);
         return Selection::Refused;
     }
     if (!left) {

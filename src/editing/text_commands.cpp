@@ -32,12 +32,13 @@ void SetWeight(Program& program, Weight weight) {
     program.format.PropTextChanges[page][index].FontBold = bold;
     program.format.PropTextChanges[page][index].Dirty = true;
     program.format.FormatTextChanges[page][index].FontBold = bold;
+    program.format.Touched = true;
     modFields::GiveFocus(program, field);
 }
 
-using Conversion = std::string (*)(std::string_view);
+using Converter = std::string (*)(std::string_view);
 
-void ConvertSelection(Program& program, Conversion convert) {
+void ConvertSelection(Program& program, Converter convert) {
     const FieldRef field = Target(program);
     if (!modFields::Exists(program, field)) {
         return;

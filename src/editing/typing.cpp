@@ -60,6 +60,11 @@ void TakeEditingState(Program& program, PageId page, int index) {
         // The format's own text is taken when a format is saved, not as it is typed.
         props.Text = area.Text;
     }
+    if (area.Text.empty()) {
+        // A text that a person has taken out leaves the format with the next save of it.
+        program.format.FormatTextChanges[at][row].Text.clear();
+        program.format.InFile[at][row].Text.clear();
+    }
     editing.CurrentWidth = area.Width;
 }
 
@@ -72,7 +77,9 @@ void TakeClientName(Program& program) {
     document.BaseName = name;
     document.FootnoteFile = name + ".hxt";
     document.DepositFile = name + ".dep";
-    document.ClientCaption = "Proposal for " + name;
+    if (!document.TitleGiven) {
+        document.ClientCaption = "Proposal for " + name;
+    }
     if (!name.empty()) {
         document.TextFileName = name + ".txt";
     }

@@ -3,10 +3,13 @@
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "format/format_changes.h"
+#include "format/format_save.h"
 #include "pages/fields.h"
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "proposal/file_names.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
 #include "proposal/property_file.h"
@@ -28,6 +31,7 @@ void ClearFormat(Program& program) {
     program.format.FormatTextChanges = {};
     program.format.FormatLabelChanges = {};
     program.format.FormatLines.clear();
+    program.format.LogoPath.clear();
     if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         program.format = before;
         program.settings.LoadDefaultFormat = loadDefault;
@@ -36,22 +40,43 @@ void ClearFormat(Program& program) {
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }
 
-bool FormatHasChanges(Program& program) {
-    return program.hooks.FormatHasChanges && program.hooks.FormatHasChanges(program);
+bool IsDefault(const Program& program) {
+    const std::string path = paths::Join(program.format.FormatFolder, program.format.FormatName);
+    return text::EqualNoCase(program.settings.DefaultFormatPath, path);
+}
+
+/// The format that new proposals began with is gone; without this each of them would ask for it.
+void ForgetDefault(Program& program) {
+    using modSettings::Key;
+    program.settings.DefaultFormatPath.clear();
+    program.settings.LoadDefaultFormat = false;
+    modSettings::SetLine(program, Key::DefaultFileFormat, "");
+    modSettings::SetLine(program, Key::LoadDefaultFormat, "False");
+    if (modSettings::SaveUserPreferences(program)) {
+        program.platform.questions.MsgBox(
+            "This was the default format. New proposals start without a format from now on.", Buttons::Ok,
+            "");
+    }
 }
 
 } // namespace
 
 void mnuFileFormatNew_Click(Program& program) {
+    if (program.hooks.CloseLabelWindow) {
+        program.hooks.CloseLabelWindow(program);
+    }
     const bool asks = FormatHasChanges(program) || modProposal::SomethingChanged(program) ||
                       modFile::PropertiesChanged(program);
-    if (asks &&
-        program.platform.questions.MsgBox(text::Lines({"This action will clear all current data if",
-                                                       "the data hasn't already been saved. Continue?"}),
-                                          Buttons::YesNo, "Beginning New File Format") != Answer::Yes) {
+    if (asks && program.platform.questions.MsgBox(
+                    text::Lines({"This action will clear all current data if",
+                                 "the data hasn't already been saved. Continue?"}),
+                    Buttons::YesNo, "Beginning New File Format",
+                    {.Default = Answer::No, .Lost = modNames::UnsavedChanges(program)}) != Answer::Yes) {
         return;
     }
-    ClearFormat(program);
+    if (MayLeaveFormat(program)) {
+        ClearFormat(program);
+    }
 }
 
 void mnuFileFormatOpen_Click(Program& program) {
@@ -64,32 +89,62 @@ void mnuFileFormatOpen_Click(Program& program) {
     modWindows::Show(program, std::move(window));
 }
 
+void mnuFileFormatSave_Click(Program& program) {
+    SaveFileFormat(program);
+}
+
+void mnuFileFormatSaveAs_Click(Program& program) {
+    program.format.FormatSaveAs = true;
+    SaveFileFormat(program);
+}
+
 void mnuFileFormatDelete_Click(Program& program) {
     Questions& questions = program.platform.questions;
     if (!program.format.FormatOpen) {
         questions.MsgBox("There's no Format File open.", Buttons::Ok, "");
         return;
     }
-    // People know the title by this spelling.
-    if (questions.MsgBox("Are you sure you want to delete the shown Format?", Buttons::YesNo,
-                         "Deleting Format FIle") != Answer::Yes) {
+    modProposal::AskToSave(program);
+    const bool stopped = program.document.Cancelled;
+    program.document.Cancelled = false;
+    if (stopped) {
         return;
     }
+    // People know the title by this spelling.
+    const Answer answer =
+        questions.MsgBox(text::Lines({"Are you sure you want to delete the shown Format?",
+                                      program.format.FormatName + " in " + program.format.FormatFolder}),
+                         Buttons::YesNo, "Deleting Format FIle", {.Default = Answer::No});
+    if (answer != Answer::Yes) {
+        return;
+    }
+    const bool wasDefault = IsDefault(program);
     const bool deleted = Guarded(program, "mnuFileFormatDelete_Click", [&] {
         files::Delete(paths::Join(program.format.FormatFolder, program.format.FormatName));
     });
-    if (deleted) {
-        ClearFormat(program);
+    if (!deleted) {
+        return;
     }
+    if (wasDefault) {
+        ForgetDefault(program);
+    }
+    ClearFormat(program);
 }
 
 void mnuFileFormatDefault_Click(Program& program) {
-    if (program.hooks.SaveFileFormat) {
-        program.hooks.SaveFileFormat(program);
+    const FormatRecords& format = program.format;
+    if (program.hooks.CloseLabelWindow) {
+        program.hooks.CloseLabelWindow(program);
     }
-    // Wanted: also a format that was refused a moment ago is loaded by new proposals from now on.
-    program.settings.LoadDefaultFormat = true;
-    static_cast<void>(modSettings::Store(program, {{modSettings::Key::LoadDefaultFormat, "True"}}));
+    const bool onDisk = format.FormatOpen &&
+                        files::Exists(paths::Join(format.FormatFolder, format.FormatName)) &&
+                        FileIsCurrent(program);
+    if (onDisk) {
+        static_cast<void>(MakeDefault(program));
+        return;
+    }
+    program.format.FormatMakeDefault = true;
+    SaveFileFormat(program);
 }
 
 } // namespace modFormat

@@ -4,6 +4,15 @@
 
 namespace modPages {
 
+namespace {
+
+LabelBase StateOf(const PageLabel& label) {
+    return {label.Left,     label.Top,       label.Caption,    label.FontName,     label.FontSize,
+            label.FontBold, label.ForeColor, label.FontItalic, label.FontUnderline};
+}
+
+} // namespace
+
 void SnapshotLabels(Program& program) {
     for (const PageId page : kEditedPages) {
         const Page& record = program.pages[page];
@@ -20,9 +29,7 @@ void LoadBaseLabels(Program& program, PageId page) {
     Page& record = program.pages[page];
     record.LabelBaseState.clear();
     for (const PageLabel& label : record.lbl) {
-        record.LabelBaseState.push_back({label.Left, label.Top, label.Caption, label.FontName, label.FontSize,
-                                         label.FontBold, label.ForeColor, label.FontItalic,
-                                         label.FontUnderline});
+        record.LabelBaseState.push_back(StateOf(label));
     }
 }
 

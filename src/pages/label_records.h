@@ -10,7 +10,7 @@ namespace modPages {
 /// Copies Left and Top of all labels of the six edited pages into the proposal's label table.
 void SnapshotLabels(Program& program);
 
-/// Copies a page's labels into its LabelBaseState.
+/// Keeps a page's labels, as they stand, in its LabelBaseState; the page is not changed.
 void LoadBaseLabels(Program& program, PageId page);
 
 } // namespace modPages

@@ -1,5 +1,6 @@
 #include "pages/page_show.h"
 
+#include "pages/logo.h"
 #include "program/program.h"
 
 namespace modPages {
@@ -11,11 +12,11 @@ void ShowPage(Program& program, PageId page) {
         TextArea& area = record.txt[index];
         area.Visible = true;
         area.Enabled = true;
+        const auto at = static_cast<std::size_t>(IndexOf(page));
+        if (IsLinePage(page)) {
+            area.Locked = program.format.FormatOpen && program.format.FormatTextChanges[at][index].FormatText;
+        }
         if (edited && program.format.FormatOpen) {
-            const auto at = static_cast<std::size_t>(IndexOf(page));
-            if (IsLinePage(page)) {
-                area.Locked = program.format.FormatTextChanges[at][index].FormatText;
-            }
             if (program.format.PropTextChanges[at][index].FontBold) {
                 area.FontBold = true;
             }
@@ -27,9 +28,8 @@ void ShowPage(Program& program, PageId page) {
     for (PageLine& line : record.lne) {
         line.Visible = true;
     }
-    if (record.HasLogo && program.settings.LogoVisible &&
-        record.pic.Picture.From != PictureRef::Source::None) {
-        record.pic.Visible = record.pic.Tag != kHide;
+    if (record.HasLogo) {
+        modLogo::SettleLogoVisibility(program);
     }
 }
 

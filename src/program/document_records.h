@@ -17,7 +17,9 @@ struct DocumentState {
     std::string DepositFile;
     bool FileExists = false;
     bool FromBackup = false;
+    bool BackingUp = false; ///< nothing may be asked or told
     std::string ClientCaption; ///< "Proposal for " and the client; also called ProposalTitle
+    bool TitleGiven = false;   ///< a person gave the title its words; a client's name no longer makes it
     std::string DocumentKind = "Event";
     std::string PageHeading; ///< the running heading of the pages, also called the header prefix
     bool Cancelled = false;
@@ -27,9 +29,8 @@ struct DocumentState {
     bool DeleteMode = false;
     bool IgnoreProperties = false;
     bool PropertiesIgnored = false; ///< the open proposal came without its properties
-    /// What the proposal's file and its property file held when they were read or written last.
+    /// What the proposal's file held when it was read or written last.
     files::Seen SavedFile;
-    files::Seen SavedProperties;
     std::string BackupTrouble;    ///< why the last backup was not written; told once
     bool SavedStateStale = false; ///< a format was saved since; counts as a changed property
     bool CompanyBlockPending = false;

@@ -27,12 +27,13 @@ struct Hooks {
     std::function<void(Program&, const std::string&)> ReadTextFile; ///< shows a text file, by its full path
     Call ShowTermsWindow;
     Call ShowCalculator;
-    Call CloseFootnotes;
     Call ReadEventDates;
     /// The assignment language of format and property files.
     Call OpenFormatFile;
     Call ParsePropertyFile;
     Call AssignPropChanges;
-    std::function<bool(Program&)> FormatHasChanges; ///< whether the open format differs from its file
-    Call SaveFileFormat;
+    /// Whether what the open format has not saved may be lost; asks and saves. No answer: it may.
+    std::function<bool(Program&)> MayLeaveFormat;
+    Call CloseLabelWindow; ///< as OK, on its own page
+    Call SetPageNumbers;   ///< headings and page numbers into the labels
 };

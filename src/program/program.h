@@ -1,7 +1,10 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "program/address_records.h"
+#include "program/calendar_records.h"
 #include "program/change_records.h"
+#include "program/designer_records.h"
 #include "program/document_records.h"
 #include "program/editing_records.h"
 #include "program/hooks.h"
@@ -31,8 +34,11 @@ struct Program {
     GuardFlags guards;
     TotalsRecords totals;
     FormatRecords format;
+    DesignerRecords designer;
     EditingState editing;
     PrintRecords printing;
+    CalendarRecords calendar;
+    AddressRecords addresses;
     MainWindow main;
     WindowCollection windows;
 };

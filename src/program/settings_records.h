@@ -80,7 +80,6 @@ struct RunState {
     float DefaultFontSize = 10;
     Color DefaultFontColor = 0;
     bool DefaultFontItalic = false;
-    std::string LogoPath;       ///< the logo in force; settings.LogoFile is the one kept
     bool AltLetterhead = false; ///< once on it stays on for the run
     /// The terms list in use; pinned means that a document's kind does not change it.
     std::string FUTFileName;

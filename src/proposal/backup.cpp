@@ -33,7 +33,8 @@ std::string PropertiesOf(std::string_view name) {
 std::string PropertyBytes(Program& program) {
     const FormatRecords before = program.format;
     const OnLeaving restore([&] { program.format = before; });
-    if (PropertiesChanged(program) && program.hooks.AssignPropChanges) {
+    const ScopedFlag silent(program.document.BackingUp);
+    if (PropertiesWanted(program) && program.hooks.AssignPropChanges) {
         program.hooks.AssignPropChanges(program);
     }
     return BytesOfLines(program.format.PropertyLines);

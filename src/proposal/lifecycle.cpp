@@ -19,6 +19,7 @@
 #include "proposal/property_file.h"
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
+#include "proposal/side_files.h"
 
 #include <algorithm>
 #include <array>
@@ -26,15 +27,6 @@
 namespace modProposal {
 
 namespace {
-
-/// Copies a side file of the old name to the new one in the data folder.
-void CopySideFile(Program& program, std::string_view from, std::string_view to) {
-    if (text::EqualNoCase(from, to)) {
-        return;
-    }
-    const std::string folder = modFolders::DataFolder(program);
-    files::Copy(paths::Join(folder, from), paths::Join(folder, to));
-}
 
 /// An empty proposal is none from the backups, and must not be saved among them.
 void LeaveBackup(Program& program) {
@@ -71,12 +63,13 @@ void SaveAsSteps(Program& program) {
         return;
     }
     const DocumentState before = document;
-    const std::string folder = modFolders::DataFolder(program);
-    const bool footnotes = modFile::FileIsThere(folder, before.FootnoteFile);
-    const bool deposits = modFile::FileIsThere(folder, before.DepositFile);
     modNames::SetBaseName(program, name);
     document.FileName = fileName;
     document.FileExists = true;
+    if (!document.TitleGiven) {
+        document.ClientCaption = "Proposal for " + document.BaseName;
+        modTitles::UpdateFooters(program);
+    }
     if (modFile::SaveEventFile(program) == modFile::SaveResult::NotSaved) {
         // The proposal keeps the name under which it is on the disk.
         modNames::SetBaseName(program, before.BaseName);
@@ -84,18 +77,19 @@ void SaveAsSteps(Program& program) {
         document.DepositFile = before.DepositFile;
         document.FileName = before.FileName;
         document.FileExists = before.FileExists;
-        document.SavedProperties = before.SavedProperties;
+        document.ClientCaption = before.ClientCaption;
+        modTitles::UpdateFooters(program);
         return;
+    }
+    if (program.hooks.AssignPropChanges) {
+        program.hooks.AssignPropChanges(program);
     }
     if (modFile::SavePropertyFile(program) == modFile::SaveResult::NotSaved) {
         document.SavedStateStale = true; // they are asked about again when the proposal is left
     }
-    if (footnotes) {
-        CopySideFile(program, before.FootnoteFile, document.FootnoteFile);
-    }
-    if (deposits) {
-        CopySideFile(program, before.DepositFile, document.DepositFile);
-    }
+    modSideFile::FollowSaveAs(program, before);
+    program.main.imgFootNotes.Picture =
+        modFile::FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile) ? 1 : 0;
     modTitles::UpdateEventNameLabels(program);
 }
 
@@ -120,6 +114,9 @@ bool SomethingChanged(Program& program) {
 }
 
 void AskToSave(Program& program) {
+    if (program.hooks.CloseLabelWindow) {
+        program.hooks.CloseLabelWindow(program); // what was typed there counts
+    }
     if (!SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
         return;
     }
@@ -136,10 +133,18 @@ void AskToSave(Program& program) {
 }
 
 bool MayGoOn(Program& program) {
+    // What lies beside the proposal first: a deposit that is saved there still reaches the proposal's file.
+    if (!modWindows::MayLeave(program, Leaving::Proposal)) {
+        return false;
+    }
     AskToSave(program);
     const bool goOn = !program.document.Cancelled;
     program.document.Cancelled = false;
-    return goOn;
+    return goOn && MayLeaveFormat(program);
+}
+
+bool MayLeaveFormat(Program& program) {
+    return !program.hooks.MayLeaveFormat || program.hooks.MayLeaveFormat(program);
 }
 
 void SaveEventFileAs(Program& program) {
@@ -152,10 +157,10 @@ void mnuFileNew_Click(Program& program) {
     }
     DocumentState& document = program.document;
     document.DocumentKind = "Event";
-    const bool format = !program.settings.DefaultFormatPath.empty() && program.settings.LoadDefaultFormat;
     if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         return;
     }
+    const bool format = program.format.FormatOpen;
     LeaveBackup(program);
     if (!format) {
         modTitles::SetPageHeading(program, "Contract Proposal");
@@ -204,7 +209,8 @@ void mnuFileDelete_Click(Program& program) {
     if (questions.MsgBox(
             "Are you sure you want to delete this file?", Buttons::YesNo, "Preparing to Delete File.",
             {.Default = Answer::No,
-             .Lost = modFile::FilesOfProposal(document.FilePath, document.FileName)}) != Answer::Yes) {
+             .Lost = modFile::FilesOfProposal(document.FilePath, document.FileName)}) != Answer::Yes ||
+        !MayLeaveFormat(program)) {
         return;
     }
     try {
@@ -229,8 +235,16 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
         files::Seen seen = files::LookAt(target);
         modFile::WriteOver(target, bytes, seen);
         document.SavedFile = seen;
-        document.ClientCaption = "Proposal for " + document.BaseName;
-        modTitles::UpdateFooters(program);
+        if (!document.TitleGiven) {
+            document.ClientCaption = "Proposal for " + document.BaseName;
+            modTitles::UpdateFooters(program);
+        }
+        const std::string layout = document.BaseName + ".hpf";
+        if (modFile::FileIsThere(document.FilePath, layout)) {
+            files::Copy(paths::Join(document.FilePath, layout), paths::Join(folder, layout));
+            program.format.PropertyPath = paths::Join(folder, layout);
+            program.format.PropertySeen = files::LookAt(program.format.PropertyPath);
+        }
         document.FilePath = folder;
         program.main.lblDir.Caption = "Current Folder = " + document.FilePath;
         program.main.imgFootNotes.Picture = modFile::FileIsThere(folder, document.FootnoteFile) ? 1 : 0;

@@ -14,7 +14,13 @@ namespace modFile {
 
 namespace {
 
-void ClearLabelMarks(Program& program) {
+/// Every property is in its file.
+void ClearMarks(Program& program) {
+    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+        for (TextChangeRecord& record : program.format.PropTextChanges[page]) {
+            record.Dirty = false;
+        }
+    }
     for (auto& page : program.format.LabelSavedState) {
         for (LabelChangeRecord& label : page) {
             label.Changed = false;
@@ -42,42 +48,60 @@ std::string BytesOfLines(const std::vector<std::string>& lines) {
 }
 
 SaveResult SavePropertyFile(Program& program) {
-    DocumentState& document = program.document;
     bool written = false;
     const bool done = Guarded(program, "SavePropertyFile", [&] {
         const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
-        if (document.PropertiesIgnored && files::ExistsExactly(path)) {
+        if (program.document.PropertiesIgnored && files::ExistsExactly(path)) {
             program.main.Notice =
                 PropertyName(program) + " was left as it is: the proposal was opened without it.";
             written = true;
             return;
         }
-        written = Rewrite(program, path, BytesOfLines(program.format.PropertyLines), document.SavedProperties,
-                          "property file") == Rewriting::Done;
+        FormatRecords& format = program.format;
+        const std::string bytes = BytesOfLines(format.PropertyLines);
+        // Under another name, whoever chose that name has agreed to what it replaces.
+        files::Seen seen = path == format.PropertyPath ? format.PropertySeen : files::LookAt(path);
+        written = Rewrite(program, path, bytes, seen, "layout of the proposal") == Rewriting::Done;
         if (written) {
-            ClearLabelMarks(program);
+            format.PropertyPath = path;
+            format.PropertySeen = seen;
+            format.PropertyLinesRead.reset();
+            ClearMarks(program);
         }
     });
     return done && written ? SaveResult::Saved : SaveResult::NotSaved;
 }
 
 void TakeProperties(Program& program, const std::string& path) {
-    program.format.PropertyLines.clear();
+    FormatRecords& format = program.format;
+    format.PropertyLines.clear();
+    format.PropertyLinesRead.reset();
+    format.PropertyPath = path;
+    format.PropertySeen = files::LookAt(path);
     if (!files::Exists(path)) {
         return;
     }
-    program.format.PropertyLines = text::SplitLines(files::ReadAll(path));
-    if (!program.format.PropertyLines.empty() && program.hooks.ParsePropertyFile) {
+    format.PropertyLines = text::SplitLines(files::ReadAll(path));
+    if (!format.PropertyLines.empty() && program.hooks.ParsePropertyFile) {
         program.hooks.ParsePropertyFile(program);
+    }
+    if (format.PropertyLinesRead) {
+        format.PropertySeen.Was = files::Seen::What::Unread; // kept when it is replaced
     }
 }
 
 void ReadFileProperties(Program& program) {
     Guarded(program, "ReadFileProperties", [&] {
-        const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
-        program.document.SavedProperties = files::LookAt(path);
-        TakeProperties(program, path);
+        // A backup may have its own layout beside it; what is saved goes to the data folder all the same.
+        const bool own =
+            program.document.FromBackup && FileIsThere(program.document.FilePath, PropertyName(program));
+        TakeProperties(program, paths::Join(own ? program.document.FilePath : PropertyFolder(program),
+                                            PropertyName(program)));
     });
+}
+
+bool PropertiesWanted(const Program& program) {
+    return PropertiesChanged(program) || (program.format.FormatOpen && !program.document.FileExists);
 }
 
 bool PropertiesChanged(const Program& program) {

@@ -26,6 +26,10 @@ void TakeProperties(Program& program, const std::string& path);
 /// Reads the property lines and hands them to the language of formats. Reports as "ReadFileProperties".
 void ReadFileProperties(Program& program);
 
+/// Whether a save writes the property file: when a property has changed, and with the first save under a
+/// format. What a client was sent must look the same when the format is another one.
+[[nodiscard]] bool PropertiesWanted(const Program& program);
+
 /// Whether any property differs from what was last saved: a dirty text record, a changed label, a stale
 /// state.
 [[nodiscard]] bool PropertiesChanged(const Program& program);

@@ -6,6 +6,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "money/totals.h"
+#include "pages/logo.h"
 #include "pages/page_geometry.h"
 #include "pages/page_marks.h"
 #include "pages/quantity_row.h"
@@ -16,6 +17,7 @@
 #include "program/program.h"
 #include "proposal/file_names.h"
 #include "proposal/property_file.h"
+#include "proposal/side_files.h"
 #include "proposal/slot_widths.h"
 
 #include <algorithm>
@@ -34,6 +36,13 @@ std::uintmax_t BytesNeeded(const proposal::Widths& widths) {
     return std::max<std::uintmax_t>(needed, proposal::kFileLength);
 }
 
+/// What both tables say of an area once it was read.
+template <typename Change> void InBothTables(Program& program, PageId page, int index, Change change) {
+    for (TextChangeTable* table : {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
+        change((*table)[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)]);
+    }
+}
+
 void TakeQuantityRow(Program& program, PageId page, int index, const quantity_row::QuantityRow& row) {
     modPages::EnsureRowFields(program, page);
     Page& record = program.pages[page];
@@ -42,28 +51,52 @@ void TakeQuantityRow(Program& program, PageId page, int index, const quantity_ro
     record.txtAmt[at].Text = row.Amount;
     record.txt[at].Text = row.Description;
     modPages::PlaceColumns(program, page, index, modPages::Columns::On);
-    for (TextChangeTable* table : {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
-        TextChangeRecord& props = (*table)[static_cast<std::size_t>(IndexOf(page))][at];
-        props.QtyBox = true;
-        props.QtyValue = row.Quantity;
-        props.AmtValue = row.Amount;
+    InBothTables(program, page, index, [&](TextChangeRecord& kept) {
+        kept.Text = row.Description;
+        kept.QtyBox = true;
+        kept.QtyValue = row.Quantity;
+        kept.AmtValue = row.Amount;
+    });
+}
+
+/// Columns that a format has laid are none of this proposal's.
+void TakePlainRow(Program& program, PageId page, int index) {
+    Page& record = program.pages[page];
+    const auto at = static_cast<std::size_t>(index);
+    if (record.RowFieldsMade) {
+        const bool client = page == PageId::frmP1;
+        modPages::PlaceColumns(program, page, index, modPages::Columns::Off);
+        record.txtQty[at].Text = client ? "" : "Qty.";
+        record.txtAmt[at].Text = client ? "" : "Amt.";
     }
+    InBothTables(program, page, index, [](TextChangeRecord& kept) {
+        kept.QtyBox = false;
+        kept.QtyValue.clear();
+        kept.AmtValue.clear();
+    });
 }
 
 void TakeText(Program& program, PageId page, int index, std::string_view slot) {
     const auto at = static_cast<std::size_t>(index);
     const auto pageAt = static_cast<std::size_t>(IndexOf(page));
-    if (program.format.FormatTextChanges[pageAt][at].FormatText) {
-        return;
-    }
     const std::string_view value = text::RTrim(slot);
+    TextChangeRecord& format = program.format.FormatTextChanges[pageAt][at];
+    if (format.FormatText && value.empty()) {
+        return; // protected, and the proposal has nothing to put in its place
+    }
+    format.FormatText = false;
     program.document.SavedTextBuf[pageAt][at] = value;
     program.document.CurrentTextBuf[pageAt][at] = value;
     const quantity_row::QuantityRow row = quantity_row::Split(value);
-    if (row.IsRow && geometry::IsDescription(page, index)) {
+    const bool description = geometry::IsDescription(page, index);
+    if (row.IsRow && description) {
         TakeQuantityRow(program, page, index, row);
-    } else if (!value.empty()) {
-        program.pages[page].txt[at].Text = value;
+        return;
+    }
+    program.pages[page].txt[at].Text = value;
+    InBothTables(program, page, index, [&](TextChangeRecord& kept) { kept.Text = value; });
+    if (description) {
+        TakePlainRow(program, page, index);
     }
 }
 
@@ -71,6 +104,11 @@ void TakeAmount(Program& program, PageId page, int index) {
     const auto at = static_cast<std::size_t>(index);
     const auto pageAt = static_cast<std::size_t>(IndexOf(page));
     std::string& current = program.document.CurrentTextBuf[pageAt][at];
+    program.totals.AmountTable[at][pageAt] = 0;
+    program.totals.TaxableTable[at][pageAt] = 0;
+    modPages::SetNoTaxMark(program, page, index, modPages::Mark::Hidden);
+    modPages::SetCurrencySign(program, page, index, modPages::Mark::Hidden);
+    InBothTables(program, page, index, [](TextChangeRecord& kept) { kept.TaxExempt = false; });
     if (text::Trim(current).empty()) {
         return;
     }
@@ -86,7 +124,7 @@ void TakeAmount(Program& program, PageId page, int index) {
     program.totals.AmountTable[at][pageAt] = *value;
     program.totals.TaxableTable[at][pageAt] = marked ? 0 : *value;
     if (marked) {
-        program.format.PropTextChanges[pageAt][at].TaxExempt = true;
+        InBothTables(program, page, index, [](TextChangeRecord& kept) { kept.TaxExempt = true; });
         program.document.SavedTextBuf[pageAt][at] = current;
         program.pages[page].txt[at].Text = trimmed;
         modPages::SetNoTaxMark(program, page, index, modPages::Mark::Shown);
@@ -132,10 +170,7 @@ void SettleLogo(Program& program) {
         program.main[CommandId::mnuEditLogoVisible].Checked = false;
         return;
     }
-    logo.Visible = program.settings.LogoVisible && logo.Picture.From != PictureRef::Source::None;
-    if (program.settings.LogoVisible) {
-        logo.Tag.clear();
-    }
+    modLogo::SettleLogoVisibility(program);
 }
 
 } // namespace
@@ -179,7 +214,7 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
     document.ClientCaption = "Proposal for " + document.BaseName;
     TakeKind(program);
     program.main.imgFootNotes.Picture =
-        FileIsThere(modFolders::DataFolder(program), document.FootnoteFile) ? 1 : 0;
+        FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile) ? 1 : 0;
     if (program.settings.ShowFUT && program.hooks.ReadFrequentlyUsedTerms) {
         program.hooks.ReadFrequentlyUsedTerms(program);
     }

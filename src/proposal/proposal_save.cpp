@@ -71,34 +71,16 @@ bool NameIsSettled(Program& program) {
     return true;
 }
 
-void ClearLabelMarks(Program& program) {
-    for (auto& page : program.format.LabelSavedState) {
-        for (LabelChangeRecord& label : page) {
-            label.Changed = false;
-        }
-    }
-}
-
 /// The properties, when one has changed.
 SaveResult SaveProperties(Program& program) {
-    if (!PropertiesChanged(program)) {
+    if (!PropertiesWanted(program)) {
         return SaveResult::Saved;
     }
     if (program.hooks.AssignPropChanges) {
         program.hooks.AssignPropChanges(program);
-        return SavePropertyFile(program);
     }
-    // Nobody writes new lines: what was read goes back as it came.
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
-        for (TextChangeRecord& record : program.format.PropTextChanges[page]) {
-            record.Dirty = false;
-        }
-    }
-    if (!program.format.PropertyLines.empty()) {
-        return SavePropertyFile(program);
-    }
-    ClearLabelMarks(program);
-    return SaveResult::Saved;
+    // Where nobody writes new lines, what was read goes back as it came.
+    return SavePropertyFile(program);
 }
 
 /// Where a proposal is written: never among the backups, and one from there as a proposal that has no file
@@ -140,6 +122,9 @@ private:
 
 void SavingSteps(Program& program, SaveResult& result) {
     DocumentState& document = program.document;
+    if (program.hooks.CloseLabelWindow) {
+        program.hooks.CloseLabelWindow(program);
+    }
     CompareTotals(program);
     Place place(program);
     if (!NameIsSettled(program)) {
@@ -149,10 +134,6 @@ void SavingSteps(Program& program, SaveResult& result) {
         program.hooks.CollectQtyBoxes(program);
     }
     const std::string path = paths::Join(document.FilePath, document.FileName);
-    if (!document.FileExists || document.SaveAsActive) {
-        // What lies under the name was settled with the name itself.
-        document.SavedProperties = files::LookAt(paths::Join(document.FilePath, document.BaseName + ".hpf"));
-    }
     // Should a write fail, the properties still count as unsaved.
     const bool properties = PropertiesChanged(program);
     const bool propertiesLost = SaveProperties(program) == SaveResult::NotSaved;

@@ -36,16 +36,16 @@ std::optional<std::string> BytesOf(const std::string& path) {
 
 bool SayTheSame(const Program& program, const UnsavedWork& work) {
     const std::string backups = modFolders::BackupFolder(program);
+    const std::optional<std::string> properties =
+        BytesOf(paths::Join(backups, PropertiesBeside(work.Backup)));
     return BytesOf(paths::Join(work.Folder, work.FileName)) == BytesOf(paths::Join(backups, work.Backup)) &&
-           BytesOf(paths::Join(work.Folder, PropertiesBeside(work.FileName))) ==
-               BytesOf(paths::Join(backups, PropertiesBeside(work.Backup)));
+           (!properties || properties == BytesOf(paths::Join(work.Folder, PropertiesBeside(work.FileName))));
 }
 
 /// Whatever stands in a field counts as unsaved where it differs from the proposal's own file.
 struct SavedState {
     bool Exists = false;
     files::Seen File;
-    files::Seen Properties;
     decltype(DocumentState::SavedTextBuf) Texts;
 };
 
@@ -55,12 +55,8 @@ SavedState ShowSaved(Program& program, const UnsavedWork& work) {
     document.FilePath = work.Folder;
     if (files::ExistsExactly(paths::Join(work.Folder, work.FileName))) {
         saved.Exists = modFile::OpenEventFile(program, work.FileName) == modFile::OpenResult::Opened;
-        if (saved.Exists) {
-            modFile::ReadFileProperties(program);
-        }
     }
     saved.File = document.SavedFile;
-    saved.Properties = document.SavedProperties;
     saved.Texts = document.SavedTextBuf;
     return saved;
 }
@@ -79,7 +75,8 @@ void ShowBackup(Program& program, const UnsavedWork& work, const modFile::RawPro
     document.FileExists = saved.Exists;
     program.main[CommandId::mnuFileDelete].Enabled = saved.Exists;
     document.SavedFile = saved.File;
-    document.SavedProperties = saved.Properties;
+    program.format.PropertyPath = paths::Join(work.Folder, PropertiesBeside(work.FileName));
+    program.format.PropertySeen = files::LookAt(program.format.PropertyPath);
     document.SavedTextBuf = saved.Texts;
     document.SavedStateStale = !program.format.PropertyLines.empty();
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});

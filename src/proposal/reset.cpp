@@ -11,6 +11,7 @@
 #include "pages/titles.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/windows.h"
 #include "proposal/file_names.h"
 #include "proposal/run_marker.h"
 
@@ -41,6 +42,7 @@ void ClearNames(Program& program) {
         document.FromBackup = false;
     }
     document.ClientCaption.clear();
+    document.TitleGiven = false;
     document.FileExists = false;
     program.main[CommandId::mnuFileDelete].Enabled = false;
     document.BaseName.clear();
@@ -50,7 +52,6 @@ void ClearNames(Program& program) {
     document.DepositFile.clear();
     document.SavedStateStale = false;
     document.SavedFile = {};
-    document.SavedProperties = {};
     document.PropertiesIgnored = false;
     document.BackupTrouble.clear();
     if (!program.guards.StartingUp) {
@@ -139,16 +140,26 @@ void ZeroTotals(Program& program) {
 
 void TakeFormat(Program& program, bool loadDefault) {
     FormatRecords& format = program.format;
+    format.FormatTextChanges = {};
+    format.FormatLabelChanges = {};
+    format.InFile = {};
+    format.LogoChanged = false;
+    format.LogoPending = false;
+    format.Touched = false;
     if (loadDefault) {
         format.FormatFolder = paths::Folder(program.settings.DefaultFormatPath);
         format.FormatName = paths::Name(program.settings.DefaultFormatPath);
         format.FormatOpen = true;
     }
-    if (format.FormatOpen && program.hooks.OpenFormatFile) {
-        program.hooks.OpenFormatFile(program);
-        return;
-    }
+    // A format without a logo of its own leaves this one.
     modLogo::LoadLogo(program);
+    const RunState& run = program.run;
+    format.FontOfFile = {run.DefaultFontName, run.DefaultFontSize, run.DefaultFontColor,
+                         run.DefaultFontItalic};
+    if (format.FormatOpen && program.hooks.OpenFormatFile) {
+        format.LogoPath.clear();
+        program.hooks.OpenFormatFile(program);
+    }
 }
 
 void ResetSteps(Program& program) {
@@ -164,6 +175,7 @@ void ResetSteps(Program& program) {
     program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
     ResetPages(program);
     ResetFont(program);
+    modTitles::CentreFooters(program);
     program.totals.PageSum = {};
     program.totals.PageTaxable = {};
     EmptyTexts(program);
@@ -175,16 +187,18 @@ void ResetSteps(Program& program) {
 
 ResetResult StartNewFile(Program& program) {
     ResetResult result = ResetResult::Done;
+    if (program.hooks.CloseLabelWindow) {
+        program.hooks.CloseLabelWindow(program);
+    }
     Guarded(program, "StartNewFile", [&] {
         {
             const ScopedFlag active(program.guards.ResetActive);
-            if (program.hooks.CloseFootnotes) {
-                program.hooks.CloseFootnotes(program);
-            }
             if (FormatEditingGoesOn(program)) {
                 result = ResetResult::Refused;
                 return;
             }
+            // Whoever leaves the proposal has been asked about them already.
+            modWindows::CloseProposalWindows(program);
             ResetSteps(program);
         }
         if (program.hooks.UpdatePageButtons) {

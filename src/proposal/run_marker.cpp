@@ -75,6 +75,7 @@ void TakeMarkerAway(Program& program) {
     }
     program.recovery.Marked = false;
     try {
+        program.recovery.Told.reset();
         files::Delete(MarkerOf(program));
     } catch (const std::exception& error) {
         LogError(program, "Main", error);

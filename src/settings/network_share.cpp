@@ -18,7 +18,6 @@ void ComeWithoutFile(Program& program) {
     document.FileExists = false;
     document.FromBackup = false;
     document.SavedFile = {};
-    document.SavedProperties = {};
     program.main[CommandId::mnuFileDelete].Enabled = false;
     program.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
     program.main.lblDir.Caption = "Current Folder = " + document.FilePath;

@@ -141,16 +141,20 @@ void Distribute(Program& program) {
     settings.CompanyWebsite = textOf(Key::CompanyWebsite);
     settings.CompanyEmail = textOf(Key::CompanyEmail);
     settings.PageTitle = textOf(Key::PageTitle);
-    settings.LogoFile = textOf(Key::LogoFile);
-    settings.LogoLeft = number(Key::LogoLeft);
-    settings.LogoTop = number(Key::LogoTop);
     settings.AutoCompleteWord = flag(Key::AutoCompleteWord);
     settings.AutoStartPosition = ToInteger(textOf(Key::AutoStartPosition));
     settings.ShowFUT = flag(Key::ShowFUT);
     settings.MinimizeFUT = flag(Key::MinimizeFUT);
     settings.ShowCalc = flag(Key::ShowCalc);
     settings.DefaultFormatPath = textOf(Key::DefaultFileFormat);
-    settings.LoadDefaultFormat = flag(Key::LoadDefaultFormat);
+    if (!settings.PrefsRead) {
+        // The run's own from then on.
+        settings.LoadDefaultFormat = flag(Key::LoadDefaultFormat);
+        settings.LogoFile = textOf(Key::LogoFile);
+        settings.LogoLeft = number(Key::LogoLeft);
+        settings.LogoTop = number(Key::LogoTop);
+        settings.LogoVisible = flag(Key::LogoVisible);
+    }
     settings.DefaultPrinter = textOf(Key::DefaultPrinter);
     settings.CurrencySymbol = textOf(Key::CurrencySymbol);
     settings.FrequentTermsFile = textOf(Key::FrequentTermsFile);
@@ -163,7 +167,6 @@ void Distribute(Program& program) {
     settings.SavedFontSize = number(Key::FontSize);
     settings.SavedFontColor = static_cast<Color>(ToInteger(textOf(Key::FontColor)));
     settings.SavedFontItalic = flag(Key::FontItalic);
-    settings.LogoVisible = flag(Key::LogoVisible);
     if (shorter) {
         ReportError(
             program, "GetUserPreferences",
@@ -175,24 +178,20 @@ void Distribute(Program& program) {
 void PutInForce(Program& program) {
     const SettingsRecords& settings = program.settings;
     RunState& run = program.run;
-    // Reading the settings again must not bring back a font that the start has found missing.
-    run.DefaultFontName =
-        run.FontsLoaded && !run.DefaultFontFound ? "Times New Roman" : settings.SavedFontName;
-    run.DefaultFontSize = settings.SavedFontSize;
-    run.DefaultFontColor = settings.SavedFontColor;
-    run.DefaultFontItalic = settings.SavedFontItalic;
-    if (!settings.PageTitles.empty()) {
-        program.document.PageHeading = settings.PageTitles;
-    }
-    if (!settings.LogoFile.empty()) {
-        const bool whole =
-            settings.LogoFile.find(':') != std::string::npos || paths::IsAbsolute(settings.LogoFile);
-        run.LogoPath =
-            whole ? settings.LogoFile : paths::Join(program.folders.InstallFolder, settings.LogoFile);
-    }
-    run.TermsPinned = !settings.FrequentTermsFile.empty() && settings.LoadFUT;
-    if (run.TermsPinned) {
-        run.FUTFileName = settings.FrequentTermsFile;
+    if (!settings.PrefsRead) {
+        // Read again in mid-run, for another printer or currency, the settings leave alone what the open
+        // proposal, its format and the person have in force.
+        run.DefaultFontName = settings.SavedFontName;
+        run.DefaultFontSize = settings.SavedFontSize;
+        run.DefaultFontColor = settings.SavedFontColor;
+        run.DefaultFontItalic = settings.SavedFontItalic;
+        if (!settings.PageTitles.empty()) {
+            program.document.PageHeading = settings.PageTitles;
+        }
+        run.TermsPinned = !settings.FrequentTermsFile.empty() && settings.LoadFUT;
+        if (run.TermsPinned) {
+            run.FUTFileName = settings.FrequentTermsFile;
+        }
     }
     Printers& printers = program.platform.printers;
     run.NoPrinter = printers.Names().empty();

@@ -1,6 +1,7 @@
 #include "shell/closing.h"
 
 #include "editing/selection.h"
+#include "format/format_changes.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/backup.h"
@@ -24,9 +25,15 @@ bool MDIForm_QueryUnload(Program& program) {
     }
     // The window may be closed with an arrow still held; what it has moved counts as changed text.
     modBlocks::FinishMove(program);
-    if (program.main.Closing ||
-        (!modProposal::SomethingChanged(program) && !modFile::PropertiesChanged(program))) {
+    if (program.main.Closing) {
         return true;
+    }
+    // The windows beside the proposal first: a deposit that is saved there still reaches the proposal's file.
+    if (!modWindows::MayLeave(program, Leaving::Run)) {
+        return false;
+    }
+    if (!modProposal::SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
+        return modFormat::MayLeaveFormat(program);
     }
     const Answer answer = program.platform.questions.MsgBox(
         "The file has been changed. Do you want to save it?", Buttons::YesNoCancel, "Text has been Changed",
@@ -36,7 +43,7 @@ bool MDIForm_QueryUnload(Program& program) {
         static_cast<void>(modFile::SaveEventFile(program));
         return false;
     }
-    return answer == Answer::No;
+    return answer == Answer::No && modFormat::MayLeaveFormat(program);
 }
 
 void EndRun(Program& program) {
@@ -54,14 +61,23 @@ void MDIForm_Unload(Program& program) {
     EndRun(program);
 }
 
+void KeepUnsaved(Program& program) {
+    if (program.main.Closing || !program.main.Loaded) {
+        return;
+    }
+    if (modProposal::SomethingChanged(program) || modFile::PropertiesChanged(program)) {
+        modFile::BackupThisFile(program); // the marker stays: the next start offers it
+    } else {
+        modRecovery::NothingUnsaved(program);
+    }
+}
+
 void Interrupted(Program& program) {
     if (program.main.Closing) {
         return;
     }
-    if (program.main.Loaded &&
-        (modProposal::SomethingChanged(program) || modFile::PropertiesChanged(program))) {
-        modFile::BackupThisFile(program); // the marker stays: the next start offers it
-    } else {
+    KeepUnsaved(program);
+    if (program.main.Loaded && !program.recovery.Told) {
         modRecovery::TakeMarkerAway(program);
     }
     program.main.Closing = true;

@@ -15,8 +15,11 @@ void MDIForm_Unload(Program& program);
 /// Closes all windows and ends the run that did not get as far as a window, or that has been asked.
 void EndRun(Program& program);
 
-/// The system ends the program: a signal, the end of the desktop session. Asks nothing; unsaved changes are
-/// written into the backup, and the next start offers them.
+/// The desktop session ends and the program with it. Asks nothing; unsaved changes are written into the
+/// backup, and the next start offers them.
+void KeepUnsaved(Program& program);
+
+/// The system ends the program: the same, and the run is over.
 void Interrupted(Program& program);
 
 /// Starts the closing, with its question.

@@ -1,150 +1,36 @@
 #include "shell/command_run.h"
 
 #include "editing/area_mouse.h"
-#include "editing/block_moves.h"
-#include "editing/blocks.h"
-#include "editing/columns.h"
 #include "editing/selection.h"
-#include "editing/text_commands.h"
-#include "format/grid.h"
-#include "money/totals.h"
-#include "output/preview.h"
-#include "output/print.h"
+#include "format/frm_label_props.h"
 #include "program/program.h"
-#include "program/windows.h"
-#include "proposal/lifecycle.h"
-#include "settings/frm_acstart.h"
-#include "settings/frm_poffsets.h"
-#include "settings/frm_pref.h"
-#include "settings/frm_printers.h"
-#include "settings/frm_tax.h"
-#include "settings/network_share.h"
-#include "shell/admin_commands.h"
-#include "shell/closing.h"
 #include "shell/command_table.h"
-#include "shell/desktop_links.h"
-#include "shell/help_commands.h"
-#include "shell/option_commands.h"
 #include "shell/preview_refusals.h"
-#include "shell/support_commands.h"
-
-#include <algorithm>
-#include <array>
 
 namespace commands {
 
 namespace {
 
-using Handler = void (*)(Program&);
-
-template <PageId page> void PrintPage(Program& program) {
-    modPrint::mnuFilePrintPage_Click(program, page);
+bool IsUnder(const Entry& entry, CommandId menu) {
+    for (CommandId at = entry.Parent; at != CommandId::Count; at = Find(at).Parent) {
+        if (at == menu) {
+            return true;
+        }
+    }
+    return false;
 }
-
-template <typename Form> void ShowWindow(Program& program) {
-    modWindows::Show(program, std::make_unique<Form>());
-}
-
-template <CommandId id> void Toggle(Program& program) {
-    program.main[id].Checked = !program.main[id].Checked;
-}
-
-void ToggleUnderline(Program& program) {
-    Toggle<CommandId::mnuOptUnderline>(program);
-    program.printing.UnderlineCategories = program.main[CommandId::mnuOptUnderline].Checked;
-}
-
-void ToggleOverwrite(Program& program) {
-    constexpr CommandId kId = CommandId::mnuOptEnableOverwriteFmtTextBoxes;
-    Toggle<kId>(program);
-    program.format.OverwriteFormatText = program.main[kId].Checked;
-}
-
-struct Route {
-    CommandId Id;
-    Handler Run;
-};
-
-constexpr std::array kRoutes{
-    Route{CommandId::mnuFileNew, modProposal::mnuFileNew_Click},
-    Route{CommandId::mnuFileOpenEvent, modProposal::mnuFileOpenEvent_Click},
-    Route{CommandId::mnuFileSaveEvent, modProposal::mnuFileSaveEvent_Click},
-    Route{CommandId::mnuFileSaveAs, modProposal::mnuFileSaveAs_Click},
-    Route{CommandId::mnuFileRestoreFromBackup, modProposal::mnuFileRestoreFromBackup_Click},
-    Route{CommandId::mnuFileDelete, modProposal::mnuFileDelete_Click},
-    Route{CommandId::mnuFilePrintPreview, modPrint::TogglePreview},
-    Route{CommandId::mnuFileResume, modPrint::TogglePreview},
-    Route{CommandId::mnuFilePrintAll, modPrint::mnuFilePrintAll_Click},
-    Route{CommandId::mnuFilePrintPage1, PrintPage<PageId::frmP1>},
-    Route{CommandId::mnuFilePrintPage2, PrintPage<PageId::frmP2>},
-    Route{CommandId::mnuFilePrintPage3, PrintPage<PageId::frmP3>},
-    Route{CommandId::mnuFilePrintPage4, PrintPage<PageId::frmP4>},
-    Route{CommandId::mnuFilePrintPage5, PrintPage<PageId::frmP5>},
-    Route{CommandId::mnuFilePrintPage6, PrintPage<PageId::frmP6>},
-    Route{CommandId::mnuFilePrintPage6_1, PrintPage<PageId::frmP6_1>},
-    Route{CommandId::mnuFileExit, modClosing::mnuFileExit_Click},
-    Route{CommandId::mnuEditTextColumns, modColumns::ToggleColumns},
-    Route{CommandId::mnuEditTextBold, modText::mnuEditTextBold_Click},
-    Route{CommandId::mnuEditTextNormal, modText::mnuEditTextNormal_Click},
-    Route{CommandId::mnuEditTextSelLCase, modText::mnuEditTextSelLCase_Click},
-    Route{CommandId::mnuEditTextSelPCase, modText::mnuEditTextSelPCase_Click},
-    Route{CommandId::mnuEditTextSelUCase, modText::mnuEditTextSelUCase_Click},
-    Route{CommandId::mnuEditTextDelete, modBlocks::DeleteBlock},
-    Route{CommandId::mnuEditTextUndo, modBlocks::UndoDeleteBlock},
-    Route{CommandId::mnuEditTextCopy, modBlocks::CopyBlock},
-    Route{CommandId::mnuEditTextCut, modBlocks::CutBlock},
-    Route{CommandId::mnuEditTextPaste, modBlocks::PasteBlock},
-    Route{CommandId::mnuEditTextMoveDown, modBlocks::MoveBlockDown},
-    Route{CommandId::mnuEditTextMoveUp, modBlocks::MoveBlockUp},
-    Route{CommandId::mnuEditTextDeselect, modBlocks::DeSelectAllControls},
-    Route{CommandId::mnuEditTextCenter, modText::mnuEditTextCenter_Click},
-    Route{CommandId::mnuEditTextTaxExempt, modColumns::mnuEditTextTaxExempt_Click},
-    Route{CommandId::mnuEditTextTaxable, modColumns::mnuEditTextTaxable_Click},
-    Route{CommandId::mnuOptPrinter, modPrinters::mnuOptPrinter_Click},
-    Route{CommandId::mnuOptACStart, ShowWindow<frmACStart>},
-    Route{CommandId::mnuOptSalesTax, ShowWindow<frmTax>},
-    Route{CommandId::mnuOptNetwork, modShare::RequestNetworkSharePath},
-    Route{CommandId::mnuOptEnableOverwriteFmtTextBoxes, ToggleOverwrite},
-    Route{CommandId::mnuOptHideTotals, modTotals::mnuOptHideTotals_Click},
-    Route{CommandId::mnuOptUserPref, ShowWindow<frmPref>},
-    Route{CommandId::mnuOptUnderline, ToggleUnderline},
-    Route{CommandId::mnuToolsPrinterOffsets, ShowWindow<frmPOffsets>},
-    Route{CommandId::mnuToolsRecalculate, modTotals::mnuToolsRecalculate_Click},
-    Route{CommandId::mnuAdminCheckAddition, modTotals::mnuAdminCheckAddition_Click},
-    Route{CommandId::mnuOptCurrencySymbol, modOptions::mnuOptCurrencySymbol_Click},
-    Route{CommandId::mnuOptSetDefaultFonts, modOptions::mnuOptSetDefaultFonts_Click},
-    Route{CommandId::mnuOptEmptyBackup, modOptions::mnuOptEmptyBackup_Click},
-    Route{CommandId::mnuToolsDrawCenterLines, modDesigner::mnuToolsDrawCenterLines_Click},
-    Route{CommandId::mnuToolsClearCenterLines, modDesigner::mnuToolsClearCenterLines_Click},
-    Route{CommandId::mnuToolsCreateShorcut, modLinks::mnuToolsCreateShorcut_Click},
-    Route{CommandId::mnuToolsCreateShortcutUM, modLinks::mnuToolsCreateShortcutUM_Click},
-    Route{CommandId::mnuAdminDelete, modAdmin::mnuAdminDelete_Click},
-    Route{CommandId::mnuAdminDebug, modAdmin::mnuAdminDebug_Click},
-    Route{CommandId::mnuAdminLogon, modAdmin::mnuAdminLogon_Click},
-    Route{CommandId::mnuToolsAdminShowAllLabels, modAdmin::mnuToolsAdminShowAllLabels_Click},
-    Route{CommandId::mnuAdminConvert, modAdmin::mnuAdminConvert_Click},
-    Route{CommandId::mnuSupportUpdates, modSupport::mnuSupportUpdates_Click},
-    Route{CommandId::mnuSupportUpgrade, modLinks::mnuSupportUpgrade_Click},
-    Route{CommandId::mnuSupportFree, modSupport::mnuSupportFree_Click},
-    Route{CommandId::mnuFeedbackReportBug, modSupport::mnuFeedbackReportBug_Click},
-    Route{CommandId::mnuFeedbackSuggestions, modSupport::mnuFeedbackSuggestions_Click},
-    Route{CommandId::mnuHelpAbout, modHelp::mnuHelpAbout_Click},
-    Route{CommandId::mnuHelpTutorial, modHelp::mnuHelpTutorial_Click},
-    Route{CommandId::mnuHelpContents, modHelp::mnuHelpContents_Click},
-    Route{CommandId::mnuHelpFAQ, modHelp::mnuHelpFAQ_Click},
-    Route{CommandId::mnuHelpVersion, modHelp::mnuHelpVersion_Click},
-};
 
 } // namespace
 
 void Run(Program& program, CommandId id) {
+    const Entry& entry = Find(id);
     modBlocks::FinishMove(program); // an arrow still held: what moved must be stored before anything else
     modText::TextMenuClosed(program);
     // A shortcut must not act on the state of a field that has been left meanwhile.
-    if (Find(id).Parent == CommandId::mnuEditTextBox && program.hooks.UpdateTextMenu) {
+    if (entry.Parent == CommandId::mnuEditTextBox && program.hooks.UpdateTextMenu) {
         program.hooks.UpdateTextMenu(program);
     }
-    if (Find(id).State == Built::Pending) {
+    if (entry.Pending()) {
         program.main.Notice = kNotBuilt; // a tool button leads here, too
         return;
     }
@@ -157,10 +43,12 @@ void Run(Program& program, CommandId id) {
     if (RefuseInPreview(program, id)) {
         return;
     }
-    const auto* const route =
-        std::find_if(kRoutes.begin(), kRoutes.end(), [id](const Route& one) { return one.Id == id; });
-    if (route != kRoutes.end()) {
-        route->Run(program);
+    if (IsUnder(entry, CommandId::mnuFile) || IsUnder(entry, CommandId::mnuFileFormat)) {
+        // What is saved, printed or left behind holds what was typed in the label window.
+        modDesigner::CloseLabelWindow(program);
+    }
+    if (entry.Run != nullptr) {
+        entry.Run(program);
     }
 }
 

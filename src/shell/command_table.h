@@ -11,22 +11,24 @@ struct Program;
 namespace commands {
 
 enum class Kind { Menu, Item, Separator };
-/// Pending: the command's room is not built yet. Its state is kept like any other's, but it is never
-/// available, and its status tip says so.
-enum class Built { Yes, Pending };
+using Handler = void (*)(Program&);
 
+/// An entry that can be chosen and has no handler is pending: its room is not built yet. Its state is kept
+/// like any other's, but it is never available, and its status tip says so.
 struct Entry {
-    CommandId Id;
-    std::string_view Name;
-    std::string_view Caption;
-    std::string_view Shortcut; ///< "Ctrl+N", empty for none
-    CommandId Parent;          ///< CommandId::Count for a top-level menu
+    CommandId Id = CommandId::Count;
+    std::string_view Name = {};
+    std::string_view Caption = {};
+    CommandId Parent = CommandId::Count; ///< Count for a top-level menu
     Kind What = Kind::Item;
+    Handler Run = nullptr;
+    std::string_view Shortcut = {}; ///< "Ctrl+N", empty for none
     bool Visible = true;
     bool Enabled = true;
     bool Checked = false;
     bool Checkable = false;
-    Built State = Built::Yes;
+
+    [[nodiscard]] constexpr bool Pending() const { return What == Kind::Item && Run == nullptr; }
 };
 
 /// What is said of a pending command.

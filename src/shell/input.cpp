@@ -7,6 +7,9 @@
 #include "editing/columns.h"
 #include "editing/selection.h"
 #include "editing/typing.h"
+#include "editing/word_marking.h"
+#include "format/label_designer.h"
+#include "format/logo.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
@@ -216,6 +219,10 @@ void FieldMouseDown(Program& program, const FieldRef& field, int button, int shi
     }
     modBlocks::FinishMove(program);
     PutCursor(program, field, selStart, selLength);
+    if (program.designer.LabelMode) {
+        program.designer.FocusBefore.reset();
+        modLabelKeys::Leave(program);
+    }
     modFields::GiveFocus(program, field);
     PutCursor(program, field, selStart, selLength);
     if (IsText(field)) {
@@ -230,9 +237,14 @@ void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int sel
     }
 }
 
-void FieldDblClick(Program& program, const FieldRef& field) {
+void FieldDblClick(Program& program, const FieldRef& field, int position) {
+    const std::optional<FieldRef> focus = program.main.Focus;
+    const std::string before = modFields::Area(program, field).Text;
     if (IsText(field)) {
         modText::txt_DblClick(program, field.Page, field.Index);
+    }
+    if (program.main.Focus == focus && modFields::Area(program, field).Text == before) {
+        modText::MarkWordAt(program, field, position);
     }
 }
 
@@ -255,6 +267,45 @@ bool TextMenuOpens(const Program& program) {
 
 void TextMenuClosed(Program& program) {
     modText::TextMenuClosed(program);
+}
+
+void LabelMouseDown(Program& program, PageId page, int index, int button, float x, float y) {
+    modBlocks::FinishMove(program);
+    modDesigner::lbl_MouseDown(program, page, index, button, x, y);
+}
+
+bool LabelMouseMove(Program& program, PageId page, int index, float x, float y) {
+    return modDesigner::lbl_MouseMove(program, page, index, x, y);
+}
+
+void LabelMouseUp(Program& program, PageId page, int index) {
+    modDesigner::lbl_MouseUp(program, page, index);
+}
+
+void LabelDblClick(Program& program, PageId page, int index) {
+    modDesigner::lbl_DblClick(program, page, index);
+}
+
+void LogoMouseDown(Program& program, int button, float x, float y) {
+    modBlocks::FinishMove(program);
+    modLogo::pic_MouseDown(program, button, x, y);
+}
+
+bool LogoMouseMove(Program& program, float x, float y) {
+    return modLogo::pic_MouseMove(program, x, y);
+}
+
+void LogoMouseUp(Program& program) {
+    modLogo::pic_MouseUp(program);
+}
+
+void LogoDblClick(Program& program) {
+    modLogo::pic_DblClick(program);
+}
+
+modLabelKeys::Menu LabelKeyDown(Program& program, int keyCode, int shift) {
+    program.main.Notice.clear();
+    return modLabelKeys::KeyDown(program, keyCode, shift);
 }
 
 void NoTaxMarkClick(Program& program, PageId page, int index) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editing/keys.h"
+#include "format/label_keys.h"
 #include "program/page_records.h"
 
 #include <optional>
@@ -49,7 +50,8 @@ void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength
 void FieldMouseDown(Program& program, const FieldRef& field, int button, int shift, int selStart,
                     int selLength);
 void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int selLength);
-void FieldDblClick(Program& program, const FieldRef& field);
+/// Twice in a row; `position` is the character position that was meant.
+void FieldDblClick(Program& program, const FieldRef& field, int position);
 /// The mouse on a page's own surface, 1 for the left button, in twips from the page's corner.
 void PageMouseDown(Program& program, PageId page, int button, float x, float y);
 void PageMouseMove(Program& program, PageId page, int button, float x, float y);
@@ -58,6 +60,18 @@ void PageMouseUp(Program& program, PageId page, int button, float x, float y);
 [[nodiscard]] bool TextMenuOpens(const Program& program);
 /// The menu that a right press opens has closed.
 void TextMenuClosed(Program& program);
+/// The mouse on a label or the logo of a page, twips from its own corner; button 1 left, 2 right.
+void LabelMouseDown(Program& program, PageId page, int index, int button, float x, float y);
+/// True when the label moved: the pointer is on another place of it now, and the event is to come again.
+[[nodiscard]] bool LabelMouseMove(Program& program, PageId page, int index, float x, float y);
+void LabelMouseUp(Program& program, PageId page, int index);
+void LabelDblClick(Program& program, PageId page, int index);
+void LogoMouseDown(Program& program, int button, float x, float y);
+[[nodiscard]] bool LogoMouseMove(Program& program, float x, float y);
+void LogoMouseUp(Program& program);
+void LogoDblClick(Program& program);
+/// A key while labels have the keyboard.
+modLabelKeys::Menu LabelKeyDown(Program& program, int keyCode, int shift);
 void NoTaxMarkClick(Program& program, PageId page, int index);
 
 } // namespace modInput

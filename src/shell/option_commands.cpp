@@ -1,7 +1,6 @@
 #include "shell/option_commands.h"
 
 #include "base/files.h"
-#include "base/numbers.h"
 #include "base/text.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
@@ -9,6 +8,7 @@
 #include "proposal/backup.h"
 #include "proposal/lifecycle.h"
 #include "proposal/property_file.h"
+#include "settings/default_font.h"
 #include "settings/settings.h"
 
 #include <string>
@@ -21,6 +21,13 @@ namespace {
 
 void Tell(Program& program, std::string_view message) {
     program.platform.questions.MsgBox(message, Buttons::Ok, "");
+}
+
+/// Turns the check mark over and tells how it stands now.
+[[nodiscard]] bool Toggled(Program& program, CommandId id) {
+    bool& checked = program.main[id].Checked;
+    checked = !checked;
+    return checked;
 }
 
 } // namespace
@@ -44,19 +51,7 @@ void mnuOptCurrencySymbol_Click(Program& program) {
 }
 
 void mnuOptSetDefaultFonts_Click(Program& program) {
-    const RunState& run = program.run;
-    SettingsRecords& settings = program.settings;
-    using modSettings::Key;
-    if (!modSettings::Store(program, {{Key::FontName, run.DefaultFontName},
-                                      {Key::FontSize, numbers::PlainNumber(run.DefaultFontSize)},
-                                      {Key::FontColor, std::to_string(run.DefaultFontColor)},
-                                      {Key::FontItalic, run.DefaultFontItalic ? "True" : "False"}})) {
-        return;
-    }
-    settings.SavedFontName = run.DefaultFontName;
-    settings.SavedFontSize = run.DefaultFontSize;
-    settings.SavedFontColor = run.DefaultFontColor;
-    settings.SavedFontItalic = run.DefaultFontItalic;
+    modSettings::SaveFontInForce(program);
 }
 
 void mnuOptEmptyBackup_Click(Program& program) {
@@ -85,6 +80,14 @@ void mnuOptEmptyBackup_Click(Program& program) {
         }
         Tell(program, told);
     });
+}
+
+void mnuOptUnderline_Click(Program& program) {
+    program.printing.UnderlineCategories = Toggled(program, CommandId::mnuOptUnderline);
+}
+
+void mnuOptEnableOverwriteFmtTextBoxes_Click(Program& program) {
+    program.format.OverwriteFormatText = Toggled(program, CommandId::mnuOptEnableOverwriteFmtTextBoxes);
 }
 
 } // namespace modOptions

@@ -13,4 +13,8 @@ void mnuOptSetDefaultFonts_Click(Program& program);
 /// Asks, then deletes every proposal of the backup folder; other files stay. Reports as "mnuOptEmptyBackup".
 void mnuOptEmptyBackup_Click(Program& program);
 
+/// Check marks whose flags follow them.
+void mnuOptUnderline_Click(Program& program);
+void mnuOptEnableOverwriteFmtTextBoxes_Click(Program& program);
+
 } // namespace modOptions

@@ -1,11 +1,17 @@
 #include "shell/wiring.h"
 
+#include "calendar/read_event_dates.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
 #include "editing/leaving.h"
 #include "editing/selection.h"
 #include "editing/text_menu.h"
 #include "editing/typing.h"
+#include "format/format_changes.h"
+#include "format/format_file.h"
+#include "format/frm_label_props.h"
+#include "format/property_file.h"
+#include "output/page_count.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
 
@@ -55,5 +61,12 @@ void Wire(Program& program) {
     hooks.UpdateTextMenu = modBlocks::UpdateTextMenu;
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
     hooks.MoveBlock = modBlocks::MoveBlockByKey;
+    hooks.ReadEventDates = modCalendar::ReadEventDatesAtStart;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
+    hooks.OpenFormatFile = modFormat::OpenFormatFile;
+    hooks.ParsePropertyFile = modFormat::ParsePropertyFile;
+    hooks.AssignPropChanges = modFormat::AssignPropChanges;
+    hooks.MayLeaveFormat = modFormat::MayLeaveFormat;
+    hooks.CloseLabelWindow = modDesigner::CloseLabelWindow;
+    hooks.SetPageNumbers = modPrint::SetPageNumbers;
 }

@@ -141,7 +141,7 @@ TEST(Menus, ACommandThatIsNotBuiltSaysSoAndNothingElseDoes) {
     MenuRun run;
     const QLabel* line = run.Find<QLabel>("lblNotice");
     for (const commands::Entry& entry : commands::Table()) {
-        const bool pending = entry.State == commands::Built::Pending;
+        const bool pending = entry.Pending();
         const QString tip = run.Action(entry)->statusTip();
         EXPECT_EQ(tip, pending ? QStringLiteral("This command is not available in this version.") : QString())
             << entry.Name;

@@ -393,7 +393,7 @@ TEST(PageModel, FontsGoToAreasRowLabelsAndSignsAndBoldComesBack) {
     program.run.DefaultFontColor = 0x123456;
     program.run.DefaultFontItalic = true;
     program.format.PropTextChanges[1][3].FontBold = true;
-    program.format.FormatTextChanges[5][4].FontBold = true;
+    program.format.PropTextChanges[5][4].FontBold = true;
     modPages::ApplyPageFonts(program);
     for (const PageId page : kAllPages) {
         EXPECT_EQ(program.pages[page].FontName, "Arial");

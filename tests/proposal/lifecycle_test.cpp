@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <memory>
 #include <string>
 
 namespace {
@@ -279,11 +280,25 @@ TEST(Reset, GuardsAreNestedInTheOnesThatStand) {
     EXPECT_TRUE(run.program.guards.ResetActive);
 }
 
-TEST(Reset, TheFootnotesWindowIsAskedToCloseFirst) {
+/// A window about the proposal that keeps in mind under which name it closed.
+class BesideWindow : public Window {
+public:
+    explicit BesideWindow(std::string& nameThen) : nameThen_(nameThen) {}
+    [[nodiscard]] std::string_view Name() const override { return "frmBeside"; }
+    [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }
+    [[nodiscard]] bool BelongsToProposal() const override { return true; }
+    void Form_Cancel(Program&) override {}
+    void Form_Unload(Program& program) override { nameThen_ = program.document.FileName; }
+
+private:
+    std::string& nameThen_;
+};
+
+TEST(Reset, WindowsAboutTheProposalCloseBeforeItsNameGoes) {
     Living run;
-    std::string nameThen = "not asked";
+    std::string nameThen = "not closed";
     run.program.document.FileName = "Jane Roe.hef";
-    run.program.hooks.CloseFootnotes = [&](Program& program) { nameThen = program.document.FileName; };
+    modWindows::Show(run.program, std::make_unique<BesideWindow>(nameThen));
     static_cast<void>(modReset::StartNewFile(run.program));
     EXPECT_EQ(nameThen, "Jane Roe.hef");
 }
@@ -296,12 +311,12 @@ TEST(Reset, GoingOnWithAFormatStopsItAndLeavesNoGuardBehind) {
     Living run;
     run.SaveAs("Jane Roe");
     run.program.format.EditingFormat = true;
-    bool footnotesClosed = false;
-    run.program.hooks.CloseFootnotes = [&](Program&) { footnotesClosed = true; };
+    std::string nameThen = "not closed";
+    modWindows::Show(run.program, std::make_unique<BesideWindow>(nameThen));
     run.surroundings.questions.ExpectBox(kFormatQuestion, Answer::No);
     run.surroundings.questions.ExpectBox({"Resume Editing.", Buttons::Ok, ""}, Answer::Ok);
     EXPECT_EQ(modReset::StartNewFile(run.program), modReset::ResetResult::Refused);
-    EXPECT_TRUE(footnotesClosed); // they close before the question
+    EXPECT_EQ(nameThen, "not closed"); // everything is as it was
     EXPECT_EQ(run.program.document.FileName, "Jane Roe.hef");
     EXPECT_TRUE(run.program.format.EditingFormat);
     EXPECT_FALSE(run.program.guards.ResetActive);
@@ -332,8 +347,9 @@ TEST(SaveAs, AsksForANameAndSavesUnderIt) {
     EXPECT_EQ(run.program.document.TextFileName, "Second.txt");
     EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Second.hef");
     EXPECT_FALSE(run.program.document.SaveAsActive);
-    // A proposal without properties gets an empty file of them.
-    EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"), "");
+    // A proposal without properties of its own keeps the font it was written in.
+    EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"),
+              "UDP.FontName=Times New Roman .FontSize=10 .FontColor=0 .FontItalic=False\r\n");
 }
 
 TEST(SaveAs, WithoutANameNothingIsSaved) {

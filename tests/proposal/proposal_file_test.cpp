@@ -329,7 +329,7 @@ TEST(SavingAProposal, UnderATakenNameAsksFirst) {
 TEST(SavingAProposal, OnAFullDiskIsToldAndTheTextStaysUnsaved) {
     RunningProgram run;
     run.program.document.FileName = "Ann.hef";
-    run.program.document.CurrentTextBuf[0][3] = "12 Elm Street";
+    run.Area(PageId::frmP1, 3).Text = "12 Elm Street";
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
@@ -459,13 +459,17 @@ TEST(OpeningAProposal, AMarkedAmountLosesTheBlanksAroundItAndIsNotTaxed) {
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
 }
 
-TEST(OpeningAProposal, AFormatsTextStaysAndItsAmountCounts) {
+TEST(OpeningAProposal, AFormatsProtectedTextStaysOnlyWhereTheFileHasNone) {
     RunningProgram run;
-    run.program.format.FormatTextChanges[0][10].FormatText = true;
-    run.Area(PageId::frmP1, 10).Text = "Every event includes";
-    ASSERT_EQ(Open(run, FileWith({{530, "Something else"}, {650, "A row"}})), modFile::OpenResult::Opened);
-    EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "Every event includes");
-    EXPECT_EQ(run.TextOf(PageId::frmP1, 11), "A row");
+    for (const std::size_t row : {10U, 11U}) {
+        run.program.format.FormatTextChanges[0][row].FormatText = true;
+        run.Area(PageId::frmP1, static_cast<int>(row)).Text = "Every event includes";
+    }
+    ASSERT_EQ(Open(run, FileWith({{530, "Something else"}})), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "Something else");
+    EXPECT_FALSE(run.program.format.FormatTextChanges[0][10].FormatText);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 11), "Every event includes");
+    EXPECT_TRUE(run.program.format.FormatTextChanges[0][11].FormatText);
 }
 
 TEST(OpeningAProposal, AQuantityRowCutByItsSlotIsPlainText) {
@@ -483,6 +487,7 @@ TEST(OpeningAProposal, OtherProposalsShowTheLogoAsTheSettingSays) {
     RunningProgram run;
     run.program.settings.LogoVisible = true;
     run.program.pages[PageId::frmP1].pic.Tag = "Hide";
+    run.program.pages[PageId::frmP1].pic.Picture = {PictureRef::Source::File, "logo.png"};
     ASSERT_EQ(Open(run, FileWith({}), "Jane Doe.hef"), modFile::OpenResult::Opened);
     EXPECT_TRUE(run.program.settings.LogoVisible);
     EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Tag, "");

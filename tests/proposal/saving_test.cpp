@@ -227,14 +227,17 @@ TEST(Saving, HiddenTotalsRaiseNoDiscrepancy) {
     EXPECT_EQ(Slot(bytes, 20410 + 80, 20), "0.00                ");
 }
 
-TEST(PropertyFile, IsNotMadeByASaveWithoutProperties) {
+TEST(PropertyFile, IsNotMadeByASaveWithoutChangedProperties) {
     RunningProgram run;
     SaveAnn(run);
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_FALSE(run.folder.Has("Proposals/Ann.hpf"));
     run.program.format.PropTextChanges[1][3].Dirty = true;
     run.program.format.LabelSavedState[0][3].Changed = true;
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
-    EXPECT_FALSE(run.folder.Has("Proposals/Ann.hpf"));
+    EXPECT_TRUE(run.folder.Has("Proposals/Ann.hpf"));
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
 }
 

@@ -68,7 +68,7 @@ TEST(Commands, MenusSeparatorsAndIdleEntriesDoNothing) {
 TEST(Commands, AnEntryWhoseRoomIsNotBuiltDoesNothing) {
     RunningProgram run;
     for (const commands::Entry& entry : commands::Table()) {
-        if (entry.State == commands::Built::Pending) {
+        if (entry.Pending()) {
             run.program.main[entry.Id].Enabled = true;
             Choose(run, entry.Id);
         }
@@ -152,7 +152,7 @@ TEST(VersionFile, ThatCannotBeWrittenIsReported) {
 }
 
 TEST(Version, IsTheOneThatIsBuilt) {
-    const std::string expected = "project(Quillbrook VERSION " + std::string(version::kNumber) + " ";
+    const std::string expected = "project(Quillbrook VERSION " + std::string(version::Number()) + " ";
     EXPECT_NE(ReadTestData("../../CMakeLists.txt").find(expected), std::string::npos);
 }
 

@@ -97,7 +97,7 @@ TEST(CommandStates, AtTheStartSomeEntriesWait) {
 TEST(CommandStates, AnEntryWhoseRoomIsNotBuiltIsNeverAvailable) {
     RunningProgram run;
     for (const commands::Entry& entry : commands::Table()) {
-        if (entry.State == commands::Built::Pending) {
+        if (entry.Pending()) {
             run.program.main[entry.Id].Enabled = true;
             EXPECT_FALSE(commands::IsAvailable(run.program, entry.Id)) << entry.Name;
         }
