@@ -50,10 +50,6 @@ bool IsOfType(const std::string& nativeFolder, const std::string& name, fs::file
 
 namespace files {
 
-std::optional<std::string> OnDisk(std::string_view path) {
-    return file_places::Locate(path);
-}
-
 bool Exists(std::string_view path) {
     return fs::is_regular_file(StatusOf(path));
 }

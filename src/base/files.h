@@ -4,7 +4,6 @@
 #include "base/safe_write.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,8 +15,6 @@ namespace files {
 
 inline constexpr std::uintmax_t kTextLimit = 64U << 20U;
 
-/// The path of something that is on the disk as the system spells it; nothing when it is not there.
-[[nodiscard]] std::optional<std::string> OnDisk(std::string_view path);
 /// A regular file of that name. Folders, devices and pipes are none.
 [[nodiscard]] bool Exists(std::string_view path);
 /// The same, of exactly that name: the file that a write or a delete would meet. Never throws.

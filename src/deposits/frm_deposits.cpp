@@ -197,6 +197,10 @@ int frmDeposits::txtAmount_KeyPress(int keyAscii) {
     return passes ? keyAscii : 0;
 }
 
+int frmDeposits::txtAmount_Keep(int keyAscii) {
+    return keyAscii == ',' ? keyAscii : txtAmount_KeyPress(keyAscii);
+}
+
 void frmDeposits::txtAmount_Enter(Program& program) {
     if (!txtAmount.Text.empty()) {
         cmdSave_Click(program);

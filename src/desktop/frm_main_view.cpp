@@ -256,6 +256,15 @@ PageView& FrmMainView::PageOf(PageId page) {
             }
         };
     }
+    const auto popUp = [this](CommandId id) {
+        return [this, id](QPoint at) {
+            if (QMenu* menu = menus_->Menu(id)) {
+                menu->popup(at);
+            }
+        };
+    };
+    view->Context().AskForLabelMenu = popUp(CommandId::mnuEditLabel);
+    view->Context().AskForLogoMenu = popUp(CommandId::mnuEditLogo);
     return *view;
 }
 
@@ -277,7 +286,7 @@ void FrmMainView::ShowFirst() {
 }
 
 void FrmMainView::AfterEvent() {
-    modWindows::Sweep(program_);
+    windows_->TakeClosed(modWindows::Sweep(program_));
     Follow();
 }
 
@@ -286,6 +295,14 @@ void FrmMainView::Follow() {
         return;
     }
     const ScopedFlag following(following_);
+    if (busy_ != program_.main.Busy) {
+        busy_ = program_.main.Busy;
+        if (busy_) {
+            QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+        } else {
+            QGuiApplication::restoreOverrideCursor();
+        }
+    }
     const QString title = convert::ToQString(program_.main.Caption);
     if (windowTitle() != title) {
         setWindowTitle(title);

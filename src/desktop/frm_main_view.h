@@ -95,5 +95,6 @@ private:
     std::unique_ptr<WindowViews> windows_;
     bool following_ = false;
     bool shown_ = false;
+    bool busy_ = false; ///< the pointer shows it
     bool resizePending_ = false;
 };

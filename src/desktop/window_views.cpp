@@ -14,6 +14,13 @@ WindowView::WindowView(Program& program, Window& window, QWidget* over, std::fun
     setModal(window.Mode() == Modality::Modal);
 }
 
+WindowView::~WindowView() {
+    // What its parts still have to say while they go is heard by nobody.
+    for (QObject* part : findChildren<QObject*>()) {
+        part->disconnect(this);
+    }
+}
+
 void WindowView::Follow() {
     const QString caption = convert::ToQString(window_.Caption);
     if (windowTitle() != caption) {
@@ -21,6 +28,11 @@ void WindowView::Follow() {
     }
     if (isVisible() && isMinimized() != window_.Minimised) {
         window_.Minimised ? showMinimized() : showNormal();
+    }
+    if (frontCalls_ != window_.FrontCalls) {
+        frontCalls_ = window_.FrontCalls;
+        raise();
+        activateWindow();
     }
 }
 
@@ -52,6 +64,20 @@ bool WindowViews::ModalOpen() const {
                        [](const auto& entry) { return entry.second->isModal(); });
 }
 
+void WindowViews::TakeClosed(std::vector<std::unique_ptr<Window>> closed) {
+    for (std::unique_ptr<Window>& model : closed) {
+        const auto shown = views_.find(model.get());
+        const auto leaving = leaving_.find(model.get());
+        WindowView* view = shown != views_.end()       ? shown->second.get()
+                           : leaving != leaving_.end() ? leaving->second.data()
+                                                       : nullptr;
+        if (view != nullptr) {
+            view->KeepModel(std::move(model));
+        }
+    }
+    std::erase_if(leaving_, [](const auto& entry) { return entry.second.isNull(); });
+}
+
 void WindowViews::Follow() {
     const auto& open = program_.windows.Open;
     for (auto at = views_.begin(); at != views_.end();) {
@@ -64,6 +90,8 @@ void WindowViews::Follow() {
         }
         // Its own button may still be on the stack.
         WindowView* view = at->second.release();
+        leaving_[at->first] = view;
+        at = views_.erase(at);
         const bool active = view->isActiveWindow();
         view->hide();
         view->deleteLater();
@@ -71,7 +99,6 @@ void WindowViews::Follow() {
             over_.activateWindow(); // the keyboard goes back to the page, also where no window manager sees
                                     // to it
         }
-        at = views_.erase(at);
     }
     for (const std::unique_ptr<Window>& window : open) {
         if (window->Closing) {

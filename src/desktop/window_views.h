@@ -1,12 +1,16 @@
 #pragma once
 
+#include "program/window.h"
+
 #include <QDialog>
+#include <QPointer>
 
 #include <functional>
 #include <map>
 #include <memory>
+#include <utility>
+#include <vector>
 
-class Window;
 struct Program;
 
 /// A small window on screen. Made when its model opens, gone when that closes.
@@ -14,8 +18,11 @@ class WindowView : public QDialog {
     Q_OBJECT
 public:
     WindowView(Program& program, Window& window, QWidget* over, std::function<void()> afterEvent);
+    ~WindowView() override;
     /// Sets what differs from the records.
     virtual void Follow();
+    /// The model has been closed; it stays as long as something may still arrive for its view.
+    void KeepModel(std::unique_ptr<Window> model) { model_ = std::move(model); }
 
 protected:
     /// Runs an event: the call, then what ends every event.
@@ -32,6 +39,8 @@ protected:
 
 private:
     std::function<void()> afterEvent_;
+    int frontCalls_ = 0;
+    std::unique_ptr<Window> model_;
 };
 
 /// Keeps one view for each open window.
@@ -40,6 +49,8 @@ public:
     WindowViews(Program& program, QWidget& over, std::function<void()> afterEvent);
     ~WindowViews();
     void Follow();
+    /// Models that have left the program go to their views, and with them.
+    void TakeClosed(std::vector<std::unique_ptr<Window>> closed);
     [[nodiscard]] bool ModalOpen() const;
 
 private:
@@ -47,6 +58,8 @@ private:
     QWidget& over_;
     std::function<void()> afterEvent_;
     std::map<Window*, std::unique_ptr<WindowView>> views_;
+    /// Hidden, and gone as soon as no event of theirs is on its way.
+    std::map<Window*, QPointer<WindowView>> leaving_;
 };
 
 /// The view for a window, chosen by its name.

@@ -74,7 +74,7 @@ void mnuFileFormatNew_Click(Program& program) {
                     {.Default = Answer::No, .Lost = modNames::UnsavedChanges(program)}) != Answer::Yes) {
         return;
     }
-    if (MayLeaveFormat(program)) {
+    if (modWindows::MayLeave(program, Leaving::Proposal) && MayLeaveFormat(program)) {
         ClearFormat(program);
     }
 }
@@ -102,6 +102,9 @@ void mnuFileFormatDelete_Click(Program& program) {
     Questions& questions = program.platform.questions;
     if (!program.format.FormatOpen) {
         questions.MsgBox("There's no Format File open.", Buttons::Ok, "");
+        return;
+    }
+    if (!modWindows::MayLeave(program, Leaving::Proposal)) {
         return;
     }
     modProposal::AskToSave(program);

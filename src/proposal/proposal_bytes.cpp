@@ -1,5 +1,6 @@
 #include "proposal/proposal_bytes.h"
 
+#include "base/text.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"
@@ -18,7 +19,9 @@ std::string ProposalBytes(const Program& program) {
         for (std::size_t index = 0; index < texts.size(); ++index) {
             const int row = static_cast<int>(index);
             const bool columns = program.pages[page].RowFieldsMade && geometry::IsDescription(page, row);
-            const bool marked = at < kLinePageCount && program.format.PropTextChanges[at][index].TaxExempt;
+            // A mark beside nothing says nothing and would come back as a text.
+            const bool marked = at < kLinePageCount && program.format.PropTextChanges[at][index].TaxExempt &&
+                                !text::Trim(texts[index]).empty();
             fields[at].push_back(
                 {columns ? modFields::ComposeLine(program, page, row) : texts[index], marked});
         }

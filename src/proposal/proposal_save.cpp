@@ -10,6 +10,7 @@
 #include "program/program.h"
 #include "program/rewriting.h"
 #include "proposal/file_names.h"
+#include "proposal/long_texts.h"
 #include "proposal/property_file.h"
 #include "proposal/proposal_bytes.h"
 #include "proposal/run_marker.h"
@@ -30,8 +31,11 @@ void GoToClientName(Program& program) {
 }
 
 void CompareTotals(Program& program) {
-    modTotals::RecalculateAll(program);
-    modTotals::UpdateRunningTotals(program);
+    if (program.hooks.TakeFreshFigures) {
+        program.hooks.TakeFreshFigures(program);
+    } else {
+        modTotals::SumAgain(program);
+    }
     if (modTotals::TotalsDiffer(program)) {
         program.main.cmdReCalc.BackColor = colors::kOverLimit;
         program.platform.questions.MsgBox(modTotals::DiscrepancyMessage(), Buttons::Ok, "");
@@ -132,6 +136,9 @@ void SavingSteps(Program& program, SaveResult& result) {
     }
     if (program.hooks.CollectQtyBoxes) {
         program.hooks.CollectQtyBoxes(program);
+    }
+    if (!MayCutLongTexts(program)) {
+        return;
     }
     const std::string path = paths::Join(document.FilePath, document.FileName);
     // Should a write fail, the properties still count as unsaved.

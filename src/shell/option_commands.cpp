@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 #include "base/text.h"
+#include "pages/row_fields.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -42,6 +43,7 @@ void mnuOptCurrencySymbol_Click(Program& program) {
         return;
     }
     program.settings.CurrencySymbol = symbol;
+    modPages::ShowCurrency(program);
     if (!modSettings::Store(program, {{modSettings::Key::CurrencySymbol, symbol}})) {
         Tell(program, "Error encountered while creating new Currency Symbol.");
         return; // the symbol stands for this run; the file would only give the old one back

@@ -44,6 +44,7 @@ struct Runs {
         one.main.ClientHeight = 9000;
         one.main.ClientWidth = 14000;
         Wire(one);
+        one.hooks.ReadEventDates = nullptr; // a folder without proposals is told of at the start
         ASSERT_EQ(modStart::Main(one), modStart::StartResult::Running);
         PassSplash(one);
     }
