@@ -15,6 +15,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QImageReader>
@@ -146,6 +147,9 @@ Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view
     }
     if (buttons == Buttons::YesNo) {
         box.setEscapeButton(QMessageBox::No); // closing the box must not be a Yes
+    }
+    if (!manner.Lost.empty()) {
+        box.setInformativeText(ShownText(manner.Lost));
     }
     constexpr std::array kInOrder{QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
     for (std::size_t index = 0; index < manner.Words.size() && index < kInOrder.size(); ++index) {
@@ -287,10 +291,13 @@ double QtClock::Now() const {
 }
 
 SingleInstance::Result QtSingleInstance::Claim(std::string_view installFolder) {
-    const QByteArray key = QCryptographicHash::hash(QByteArray::fromStdString(std::string(installFolder)),
-                                                    QCryptographicHash::Sha1)
-                               .toHex()
-                               .left(16);
+    // One folder may be reached by several names.
+    const QString given = Native(installFolder);
+    const QString real = QFileInfo(given).canonicalFilePath();
+    const QByteArray key =
+        QCryptographicHash::hash((real.isEmpty() ? given : real).toUtf8(), QCryptographicHash::Sha1)
+            .toHex()
+            .left(16);
     // The folder for temporary files is shared by all users of the machine; the lock there carries the name.
     const QString user = QString::number(::getuid());
     const QStringList places{QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
