@@ -12,6 +12,7 @@
 #include <vector>
 
 class BandView;
+class FrameView;
 class LabelView;
 class LogoView;
 class MarkView;
@@ -39,15 +40,20 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    /// In the label mode the page itself has the keyboard.
+    void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     /// A band may begin on the desk beside the paper.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void FollowAreas(FieldKind kind, std::vector<TextAreaView*>& views, const std::vector<TextArea>& records);
     void FollowLabels(FieldKind kind, std::vector<LabelView*>& views, const std::vector<PageLabel>& records);
+    void RenameFields();
     void FollowMarks();
     void FollowPaper();
     void FollowLogo();
+    void FollowFrame();
     [[nodiscard]] float Twips(double pixels) const;
     void Done();
     void DrawFixed(QPainter& painter) const;
@@ -64,11 +70,13 @@ private:
     std::vector<LabelView*> lblEach_;
     std::vector<MarkView*> marks_;
     BandView* band_ = nullptr;
+    FrameView* frame_ = nullptr;
     /// What is painted on the paper itself, as last shown.
     std::vector<PageLine> lines_;
     std::vector<PageLine> centre_;
     std::vector<PagePoint> grid_;
     LogoView* logo_ = nullptr;
+    bool renamed_ = false; ///< a label that names a field says something else
     bool ink_ = false;
     int inkVersion_ = 0;
     PaperRecord preview_;

@@ -12,8 +12,11 @@
 #include "program/main_window_records.h"
 #include "program/page_records.h"
 #include "program/print_records.h"
+#include "program/recovery_records.h"
+#include "program/search_records.h"
 #include "program/settings_records.h"
 #include "program/spelling_records.h"
+#include "program/terms_records.h"
 #include "program/totals_records.h"
 #include "program/window.h"
 
@@ -31,6 +34,7 @@ struct Program {
     RunState run;
     PageSet pages;
     DocumentState document;
+    RecoveryRecords recovery;
     GuardFlags guards;
     TotalsRecords totals;
     FormatRecords format;
@@ -39,6 +43,8 @@ struct Program {
     PrintRecords printing;
     ExportState exporting;
     SpellingState spelling;
+    TermsRecords terms;
+    SearchRecords search;
     CalendarRecords calendar;
     AddressRecords addresses;
     MainWindow main;

@@ -2,6 +2,7 @@
 
 #include "base/colors.h"
 #include "base/paths.h"
+#include "base/seen.h"
 
 #include <string>
 #include <vector>
@@ -17,6 +18,10 @@ struct FutPosition {
 /// The values of UserPreferences.txt, one member a line, and the lines themselves.
 struct SettingsRecords {
     std::vector<std::string> Lines; ///< as read or changed; the file is rewritten from them
+    /// What the files held when they were read or written last.
+    files::Seen SettingsFile;
+    files::Seen TaxFile;
+    files::Seen OffsetsFile;
     bool PrefsRead = false;
     bool ReadingPrefs = false;
 
@@ -76,10 +81,12 @@ struct RunState {
     Color DefaultFontColor = 0;
     bool DefaultFontItalic = false;
     bool AltLetterhead = false; ///< once on it stays on for the run
-    /// The terms list in use; pinned means that a document's kind does not change it.
+    /// The terms list in use; pinned, by the settings or because the person opened it, means that a
+    /// document's kind does not change it.
     std::string FUTFileName;
     bool TermsPinned = false;
     bool FUTShown = false;
     bool ACEnabled = false;
     int ACStartLen = 0;
+    bool CalcShown = false;
 };

@@ -44,7 +44,9 @@ bool MayCutLongTexts(Program& program) {
         message += text::kCrLf;
         message += "and " + std::to_string(places.size() - kNamed) + " more";
     }
-    return program.platform.questions.MsgBox(message, Buttons::SaveAnywayCancel, "") == Answer::Yes;
+    return program.platform.questions.MsgBox(message, Buttons::YesNo, "",
+                                             {.Default = Answer::No, .Words = {"Save Anyway", "Cancel"}}) ==
+           Answer::Yes;
 }
 
 } // namespace modFile

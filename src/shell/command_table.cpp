@@ -1,6 +1,8 @@
 #include "shell/command_table.h"
 #include "spelling/spelling_walk.h"
 
+#include "addresses/address_commands.h"
+#include "calculator/frm_calc.h"
 #include "calendar/frm_dates.h"
 #include "contract/frm_editor.h"
 #include "contract/frm_notes.h"
@@ -35,9 +37,12 @@
 #include "shell/admin_commands.h"
 #include "shell/closing.h"
 #include "shell/desktop_links.h"
+#include "shell/find_command.h"
 #include "shell/help_commands.h"
 #include "shell/option_commands.h"
 #include "shell/support_commands.h"
+#include "terms/area_terms.h"
+#include "terms/frm_fut.h"
 
 #include <array>
 #include <memory>
@@ -86,6 +91,7 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Name = "mnuFileOpenAddressBook",
           .Caption = "Open Address Book",
           .Parent = mnuFileOpen,
+          .Run = modAddress::mnuFileOpenAddressBook_Click,
           .Shortcut = "Ctrl+B"},
     Entry{.Id = mnuFileOpenTextFile,
           .Name = "mnuFileOpenTextFile",
@@ -240,8 +246,11 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Parent = mnuFileFormat,
           .Run = modFormat::mnuFileFormatDelete_Click},
     Entry{.Id = mnuEdit, .Name = "mnuEdit", .Caption = "&Edit", .What = Kind::Menu},
-    Entry{
-        .Id = mnuEditCompInfo, .Name = "mnuEditCompInfo", .Caption = "Edit Company Info", .Parent = mnuEdit},
+    Entry{.Id = mnuEditCompInfo,
+          .Name = "mnuEditCompInfo",
+          .Caption = "Edit Company Info",
+          .Parent = mnuEdit,
+          .Run = modAddress::mnuEditCompInfo_Click},
     Entry{.Id = mnuEditTitles,
           .Name = "mnuEditTitles",
           .Caption = "Proposal Page Titles and Subtitles",
@@ -256,6 +265,7 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Name = "mnuEditFind",
           .Caption = "&Find",
           .Parent = mnuEdit,
+          .Run = modMain::mnuEditFind_Click,
           .Shortcut = "Ctrl+F"},
     Entry{.Id = mnuEditCtrl, .Name = "mnuEditCtrl", .Caption = "&Edit Control", .What = Kind::Menu},
     Entry{.Id = mnuEditTextBox,
@@ -320,15 +330,18 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Name = "mnuEditTextAddFUT",
           .Caption = "Add to Frequent Terms",
           .Parent = mnuEditTextBox,
+          .Run = modTerms::AddTermFromArea,
           .Shortcut = "F9"},
     Entry{.Id = mnuEditTextEditFUT,
           .Name = "mnuEditTextEditFUT",
           .Caption = "Edit this Frequent Term",
-          .Parent = mnuEditTextBox},
+          .Parent = mnuEditTextBox,
+          .Run = modTerms::mnuEditTextEditFUT_Click},
     Entry{.Id = mnuEditTextDeleteFUT,
           .Name = "mnuEditTextDeleteFUT",
           .Caption = "Remove from Frequent Terms",
-          .Parent = mnuEditTextBox},
+          .Parent = mnuEditTextBox,
+          .Run = modTerms::mnuEditTextDeleteFUT_Click},
     Entry{.Id = mnuEditTextBreak3,
           .Name = "mnuEditTextBreak3",
           .Caption = "-",
@@ -510,8 +523,16 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Parent = mnuManage,
           .Run = modContract::mnuManageEditor_Click},
     Entry{.Id = mnuOpt, .Name = "mnuOpt", .Caption = "Options", .What = Kind::Menu},
-    Entry{.Id = mnuOptFUT, .Name = "mnuOptFUT", .Caption = "Show &Frequently Used Terms", .Parent = mnuOpt},
-    Entry{.Id = mnuOptCalc, .Name = "mnuOptCalc", .Caption = "Show &Calculator", .Parent = mnuOpt},
+    Entry{.Id = mnuOptFUT,
+          .Name = "mnuOptFUT",
+          .Caption = "Show &Frequently Used Terms",
+          .Parent = mnuOpt,
+          .Run = modTerms::mnuOptFUT_Click},
+    Entry{.Id = mnuOptCalc,
+          .Name = "mnuOptCalc",
+          .Caption = "Show &Calculator",
+          .Parent = mnuOpt,
+          .Run = modCalculator::mnuOptCalc_Click},
     Entry{.Id = mnuOptPrinterOffset,
           .Name = "mnuOptPrinterOffset",
           .Caption = "Change Printer Offsets",
@@ -564,11 +585,13 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuOptCopyToPersonalAddressBook,
           .Name = "mnuOptCopyToPersonalAddressBook",
           .Caption = "Add Proposal Client to Personal Style Address Book",
-          .Parent = mnuOpt},
+          .Parent = mnuOpt,
+          .Run = modAddress::mnuOptCopyToPersonalAddressBook_Click},
     Entry{.Id = mnuOptCopyToBusinessAddressBook,
           .Name = "mnuOptCopyToBusinessAddressBook",
           .Caption = "Add Proposal Client to Business Style Address Book",
-          .Parent = mnuOpt},
+          .Parent = mnuOpt,
+          .Run = modAddress::mnuOptCopyToBusinessAddressBook_Click},
     Entry{.Id = mnuOptUnderline,
           .Name = "mnuOptUnderline",
           .Caption = "Underline Main Categories when Printing",

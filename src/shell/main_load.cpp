@@ -11,12 +11,16 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "proposal/old_files.h"
+#include "proposal/recovery.h"
 #include "proposal/reset.h"
 #include "settings/frm_tax.h"
 #include "settings/settings.h"
+#include "shell/closing.h"
 #include "shell/command_table.h"
 #include "shell/load_fonts.h"
 #include "shell/tool_buttons.h"
+#include "terms/list_files.h"
+#include "terms/term_list.h"
 
 namespace modMain {
 
@@ -78,7 +82,11 @@ void LoadSteps(Program& program) {
         if (!program.run.TermsPinned) {
             program.run.FUTFileName = "Default Terms.fut";
         }
+        modTerms::LayDownLists(program);
         OpenSideWindows(program);
+        if (!program.run.FUTShown) {
+            modTerms::TakeListInUse(program); // words are completed with the window closed, too
+        }
     }
     for (CommandButton* button :
          {&program.main.cmdPreview, &program.main.cmdReCalc, &program.main.cmdTaxRate}) {
@@ -97,17 +105,32 @@ void LoadSteps(Program& program) {
 
 } // namespace
 
-void MDIForm_Load(Program& program) {
+namespace {
+
+bool Load(Program& program) {
     const ScopedFlag keep(program.guards.KeepPageContent);
     const ScopedFlag starting(program.guards.StartingUp);
+    // Whatever fails below, nobody meets half a page.
+    for (const PageId page : kAllPages) {
+        modPages::BuildPage(program, page);
+    }
     commands::LoadDesignState(program);
     program.main.imgPage[0].Pointer = MousePointer::Hand;
     modToolButtons::LoadPageButtonCursors(program);
     program.main.State = WindowState::Maximised;
-    if (!Guarded(program, "MDIForm_Load", [&] { LoadSteps(program); })) {
+    return Guarded(program, "MDIForm_Load", [&] { LoadSteps(program); });
+}
+
+} // namespace
+
+void MDIForm_Load(Program& program) {
+    if (!Load(program)) {
         program.platform.questions.MsgBox("Error encountered during Load Process.", Buttons::Ok, "");
+        modClosing::EndRun(program);
+        return;
     }
     program.main.Loaded = true;
+    modRecovery::OfferWhatWasFound(program);
 }
 
 } // namespace modMain

@@ -281,6 +281,9 @@ TEST(FormatSave, AClientsDataAreAskedForAndLayoutOnlyWritesNoneOfThem) {
     run.Questions().Expect("Shall the texts", Answer::Yes);
     modFormat::mnuFileFormatSave_Click(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/House.fmt"), kHouse);
+    run.Questions().Expect("No properties have been changed.");
+    modFormat::mnuFileFormatSave_Click(run.program);
+    run.program.format.LogoChanged = true;
     run.Questions().Expect("Shall the texts", Answer::No);
     modFormat::mnuFileFormatSave_Click(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/House.fmt"),
@@ -368,7 +371,7 @@ TEST(FormatDefault, AnUnchangedFormatBecomesTheDefaultWithoutAWord) {
     EXPECT_TRUE(run.HasSetting("Default File Format:" + (run.folder / "Proposals/House.fmt")));
     EXPECT_TRUE(run.HasSetting("Load Default Format:True"));
     EXPECT_EQ(run.folder.Read("Proposals/House.fmt"), kHouse);
-    modFormat::mnuFileFormatNew_Click(run.program);
+    EXPECT_TRUE(run.program.settings.LoadDefaultFormat);
 }
 
 TEST(FormatDefault, ARefusedSaveLeavesTheSettings) {
@@ -404,8 +407,9 @@ TEST(ChooserKinds, ATermsListBecomesTheListInUseAndTheWorkingFolderStays) {
     int read = 0;
     run.program.hooks.ReadFrequentlyUsedTerms = [&](Program&) { ++read; };
     modWindows::Show(run.program, std::make_unique<frmFile>());
-    ASSERT_EQ(run.Chooser().FileList1.Items, std::vector<std::string>{"Garden.fut"});
-    run.Chooser().FileList1_Click(run.program, 0);
+    ASSERT_EQ(run.Chooser().FileList1.Items,
+              (std::vector<std::string>{"Default Terms.fut", "Garden.fut", "Wedding Terms.fut"}));
+    run.Chooser().FileList1_Click(run.program, 1);
     run.Chooser().cmdOpenOK_Click(run.program);
     EXPECT_EQ(read, 1);
     EXPECT_EQ(run.program.run.FUTFileName, "Garden.fut");

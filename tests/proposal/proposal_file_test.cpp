@@ -217,7 +217,7 @@ TEST(OpeningAProposal, AWeddingIsReadAndSavedAsAnEvent) {
     EXPECT_EQ(run.program.document.PageHeading, "Acme Events - Wedding Proposal - ");
     EXPECT_EQ(run.program.run.FUTFileName, "Wedding Terms.fut");
     run.surroundings.questions.Expect("File was saved as A.hef");
-    modFile::SaveEventFile(run.program);
+    EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
     EXPECT_EQ(run.folder.Read("Proposals/A.hef")[20628], ' ');
 }
 
@@ -354,25 +354,6 @@ TEST(SavingAProposal, IntoAFolderThatIsGoneIsReported) {
     EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::NotSaved);
 }
 
-TEST(Backups, AreWrittenQuietlyBelowTheProposals) {
-    RunningProgram run;
-    run.program.document.FileName = "Ann.hef";
-    run.program.document.BaseName = "Ann";
-    run.folder.Write("Proposals/Backup/Ann.hef", "old");
-    modFile::BackupThisFile(run.program);
-    EXPECT_EQ(run.folder.Read("Proposals/Backup/Ann.hef").size(), 20630U);
-    EXPECT_FALSE(run.folder.Has("Proposals/Ann.hef"));
-    EXPECT_FALSE(run.program.document.BackingUp);
-    EXPECT_TRUE(run.program.document.FileExists) << "the steps of saving run in full";
-}
-
-TEST(Backups, NeedAName) {
-    RunningProgram run;
-    run.program.document.FileName = ".hef";
-    modFile::BackupThisFile(run.program);
-    EXPECT_FALSE(run.folder.Has("Proposals/Backup/.hef"));
-}
-
 TEST(Properties, AreKeptAndWrittenBackUnchangedWhileNobodyReadsThem) {
     RunningProgram run;
     const std::string lines =
@@ -384,7 +365,7 @@ TEST(Properties, AreKeptAndWrittenBackUnchangedWhileNobodyReadsThem) {
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
     run.program.format.PropTextChanges[0][20].Dirty = true;
     run.surroundings.questions.Expect("File was saved as A.hef");
-    modFile::SaveEventFile(run.program);
+    EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
     EXPECT_EQ(run.folder.Read("Proposals/A.hpf"), lines);
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
 }
@@ -478,19 +459,6 @@ TEST(OpeningAProposal, AMarkedAmountLosesTheBlanksAroundItAndIsNotTaxed) {
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
 }
 
-TEST(OpeningAProposal, AFormatsProtectedTextStaysOnlyWhereTheFileHasNone) {
-    RunningProgram run;
-    for (const std::size_t row : {10U, 11U}) {
-        run.program.format.FormatTextChanges[0][row].FormatText = true;
-        run.Area(PageId::frmP1, static_cast<int>(row)).Text = "Every event includes";
-    }
-    ASSERT_EQ(Open(run, FileWith({{530, "Something else"}})), modFile::OpenResult::Opened);
-    EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "Something else");
-    EXPECT_FALSE(run.program.format.FormatTextChanges[0][10].FormatText);
-    EXPECT_EQ(run.TextOf(PageId::frmP1, 11), "Every event includes");
-    EXPECT_TRUE(run.program.format.FormatTextChanges[0][11].FormatText);
-}
-
 TEST(OpeningAProposal, AQuantityRowCutByItsSlotIsPlainText) {
     RunningProgram run;
     // The composed line was longer than 120 and has lost its price with the mark.
@@ -504,9 +472,11 @@ TEST(OpeningAProposal, AQuantityRowCutByItsSlotIsPlainText) {
 
 TEST(OpeningAProposal, OtherProposalsShowTheLogoAsTheSettingSays) {
     RunningProgram run;
+    const std::string picture = run.folder / "logo.png";
+    run.folder.Write("logo.png", "x");
+    run.surroundings.pictures.Known[picture] = {1500, 900};
+    run.program.settings.LogoFile = picture;
     run.program.settings.LogoVisible = true;
-    run.program.pages[PageId::frmP1].pic.Tag = "Hide";
-    run.program.pages[PageId::frmP1].pic.Picture = {PictureRef::Source::File, "logo.png"};
     ASSERT_EQ(Open(run, FileWith({}), "Jane Doe.hef"), modFile::OpenResult::Opened);
     EXPECT_TRUE(run.program.settings.LogoVisible);
     EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Tag, "");

@@ -183,7 +183,7 @@ TEST(Saving, ATextLongerThanItsSlotIsCutInTheFileAlone) {
     modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 4}, street);
     run.surroundings.questions.ExpectBox(
         {"These texts are longer than their place in the file and will be cut:\r\nPage 1, Text Area 5",
-         Buttons::SaveAnywayCancel, ""},
+         Buttons::YesNo, ""},
         Answer::Yes);
     SaveAnn(run);
     const std::string bytes = run.folder.Read("Proposals/Ann.hef");
@@ -243,57 +243,6 @@ TEST(Saving, HiddenTotalsRaiseNoDiscrepancy) {
     EXPECT_EQ(Slot(bytes, 20410 + 80, 20), "0.00                ");
 }
 
-TEST(Backup, IsForgottenWhenTheSaveStopsAtAQuestion) {
-    RunningProgram run;
-    run.folder.Write("Proposals/Ann.hef", "another's");
-    run.folder.Write("Proposals/Backup/Ann.hef", "older backup");
-    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
-    run.surroundings.questions.Expect("A file with this name (Ann.hef)", Answer::No);
-    run.surroundings.questions.Expect("File not saved.");
-    modFile::BackupThisFile(run.program);
-    EXPECT_FALSE(run.program.document.BackingUp);
-    EXPECT_FALSE(run.program.document.FileExists);
-    EXPECT_EQ(run.folder.Read("Proposals/Ann.hef"), "another's");
-    EXPECT_EQ(run.folder.Read("Proposals/Backup/Ann.hef"), "older backup")
-        << "a backup waits for its successor";
-}
-
-TEST(Backup, RefusesAnIllegalNameAsASaveDoes) {
-    RunningProgram run;
-    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "A?B");
-    run.surroundings.questions.Expect("Action Cancelled. File Name cannot include any of");
-    modFile::BackupThisFile(run.program);
-    EXPECT_FALSE(run.program.document.BackingUp);
-    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 2}));
-}
-
-TEST(Backup, ReplacesAReadOnlyOneAndTouchesNeitherFileNorItsName) {
-    RunningProgram run;
-    SaveAnn(run);
-    run.folder.Write("Proposals/Backup/Ann.hef", "older backup");
-    ASSERT_EQ(::chmod((run.folder / "Proposals/Backup/Ann.hef").c_str(), 0444), 0);
-    const std::string before = run.folder.Read("Proposals/Ann.hef");
-    ChangeStreet(run);
-    modFile::BackupThisFile(run.program);
-    EXPECT_EQ(run.folder.Read("Proposals/Ann.hef"), before);
-    EXPECT_EQ(Slot(run.folder.Read("Proposals/Backup/Ann.hef"), 110, 13), "14 Oak Street");
-    EXPECT_EQ(run.program.document.SavedTextBuf[0][3], "14 Oak Street") << "the steps of saving run in full";
-}
-
-TEST(Backup, ThatCannotBeWrittenIsReportedAndEndsWithTheSave) {
-    RunningProgram run;
-    SaveAnn(run);
-    std::filesystem::remove_all(run.folder / "Proposals/Backup");
-    ChangeStreet(run);
-    run.surroundings.questions.Expect("An error occurred in SaveEventFile.");
-    modFile::BackupThisFile(run.program);
-    EXPECT_FALSE(run.program.document.BackingUp);
-    EXPECT_EQ(run.program.document.SavedTextBuf[0][3], "12 Elm Street");
-    run.surroundings.questions.Expect("File was saved as Ann.hef");
-    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
-    EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 110, 13), "14 Oak Street");
-}
-
 TEST(PropertyFile, IsNotMadeByASaveWithoutChangedProperties) {
     RunningProgram run;
     SaveAnn(run);
@@ -344,18 +293,21 @@ TEST(PropertyFile, ThatCouldNotBeWrittenStillCountsAsChanged) {
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
 }
 
-TEST(PropertyFile, OfAProposalFromTheBackupsLiesAmongTheProposals) {
+TEST(PropertyFile, OfAProposalFromTheBackupsIsReadBesideItAndWrittenAmongTheProposals) {
     RunningProgram run;
     run.program.document.FilePath = run.folder / "Proposals/Backup/";
     run.program.document.FromBackup = true;
     run.program.document.BaseName = "Ann";
     run.folder.Write("Proposals/Ann.hpf", "frmP1.txt(10).FontBold=True\r\n");
-    run.folder.Write("Proposals/Backup/Ann.hpf", "not this one\r\n");
-    int parsed = 0;
-    run.program.hooks.ParsePropertyFile = [&](Program&) { ++parsed; };
+    run.folder.Write("Proposals/Backup/Ann.hpf", "frmP1.txt(11).FontBold=True\r\n");
+    modFile::ReadFileProperties(run.program);
+    EXPECT_EQ(run.program.format.PropertyLines, std::vector<std::string>{"frmP1.txt(11).FontBold=True"});
+    EXPECT_TRUE(run.Area(PageId::frmP1, 11).FontBold);
+    std::filesystem::remove(run.folder / "Proposals/Backup/Ann.hpf");
     modFile::ReadFileProperties(run.program);
     EXPECT_EQ(run.program.format.PropertyLines, std::vector<std::string>{"frmP1.txt(10).FontBold=True"});
-    EXPECT_EQ(parsed, 1);
+    EXPECT_TRUE(run.Area(PageId::frmP1, 10).FontBold);
+    run.folder.Write("Proposals/Backup/Ann.hpf", "not this one\r\n");
     run.program.format.PropertyLines = {"a", "b"};
     EXPECT_EQ(modFile::SavePropertyFile(run.program), SaveResult::Saved);
     EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "a\r\nb\r\n");
