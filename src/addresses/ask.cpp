@@ -21,9 +21,9 @@ Consent AskToCut(Program& program, const std::vector<std::string>& captions) {
         words += text::kCrLf;
         words += caption;
     }
-    const Answer answer =
-        program.platform.questions.MsgBox(words, Buttons::OkCancel, "", {.Default = Answer::Cancel});
-    return answer == Answer::Ok ? Consent::Given : Consent::Refused;
+    const Answer answer = program.platform.questions.MsgBox(
+        words, Buttons::YesNo, "", {.Default = Answer::No, .Words = {"Save Anyway", "Cancel"}});
+    return answer == Answer::Yes ? Consent::Given : Consent::Refused;
 }
 
 } // namespace modAddress

@@ -1,51 +1,62 @@
 #include "desktop/message_box.h"
 
-#include <QEvent>
+#include <QApplication>
 #include <QKeyEvent>
-#include <QWidget>
+#include <QLabel>
+#include <QScreen>
+
+namespace {
+
+constexpr qint64 kHalfSecond = 500;
+/// What icon, margins and frame take beside the text.
+constexpr int kBeside = 140;
+
+} // namespace
 
 MessageBox::MessageBox(Icon icon, const QString& title, const QString& text, StandardButtons buttons,
-                       QWidget* below, Came came)
-    : QMessageBox(icon, title, text, buttons, below), came_(came) {
+                       QWidget* over, Came came)
+    : QMessageBox(icon, title, text, buttons, over), came_(came) {
     setObjectName(QStringLiteral("MsgBox"));
     setTextFormat(Qt::PlainText);
+    if (came_ == Came::Unasked) {
+        QApplication::instance()->installEventFilter(this);
+    }
 }
 
-bool MessageBox::Deaf() const {
-    constexpr qint64 kMilliseconds = 500;
-    return came_ == Came::Unasked && (!shown_.isValid() || shown_.elapsed() < kMilliseconds);
+MessageBox::~MessageBox() {
+    QApplication::instance()->removeEventFilter(this);
+}
+
+void MessageBox::KeepLines() {
+    auto* label = findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    const QScreen* place = screen();
+    if (label == nullptr || place == nullptr) {
+        return;
+    }
+    int widest = 0;
+    for (const QString& line : text().split(u'\n')) {
+        widest = qMax(widest, label->fontMetrics().horizontalAdvance(line));
+    }
+    label->setMinimumWidth(qMin(widest + 2, place->availableGeometry().width() - kBeside));
 }
 
 void MessageBox::showEvent(QShowEvent* event) {
+    KeepLines();
+    stands_.start();
     QMessageBox::showEvent(event);
-    shown_.start();
-    if (came_ == Came::Unasked) {
-        installEventFilter(this);
-        for (QWidget* child : findChildren<QWidget*>()) {
-            child->installEventFilter(this);
-        }
-    }
 }
 
 bool MessageBox::eventFilter(QObject* watched, QEvent* event) {
-    switch (event->type()) {
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::Shortcut:
-        if (Deaf()) {
-            return true; // it was meant for what the box came over
-        }
-        break;
-    default:
-        break;
-    }
-    return QMessageBox::eventFilter(watched, event);
+    const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease ||
+                     event->type() == QEvent::ShortcutOverride;
+    return (key && stands_.isValid() && stands_.elapsed() < kHalfSecond) ||
+           QMessageBox::eventFilter(watched, event);
 }
 
 void MessageBox::keyPressEvent(QKeyEvent* event) {
-    const bool plain = (event->modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier)) == 0;
-    if (plain && !event->text().isEmpty() && event->text().at(0).isPrint()) {
-        event->accept(); // a letter is no answer
+    const Qt::KeyboardModifiers held = event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    if (held == Qt::NoModifier && !event->text().isEmpty() && event->text().front().isLetterOrNumber()) {
+        event->accept(); // a word typed on is no answer
         return;
     }
     QMessageBox::keyPressEvent(event);

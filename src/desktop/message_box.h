@@ -3,24 +3,23 @@
 #include <QElapsedTimer>
 #include <QMessageBox>
 
-/// A message box that nobody answers by mistake: plain letters press no button, and one that the person did
-/// not ask for takes no key in its first half second.
+/// A message box that is as wide as the lines of its text, as far as the screen goes. Plain letters press no
+/// button; a box that came unasked takes no key in its first half second.
 class MessageBox : public QMessageBox {
     Q_OBJECT
-
 public:
     enum class Came { OnRequest, Unasked };
-    MessageBox(Icon icon, const QString& title, const QString& text, StandardButtons buttons, QWidget* below,
+    MessageBox(Icon icon, const QString& title, const QString& text, StandardButtons buttons, QWidget* over,
                Came came);
-
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    ~MessageBox() override;
 
 protected:
-    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    [[nodiscard]] bool Deaf() const;
+    void KeepLines();
     Came came_;
-    QElapsedTimer shown_;
+    QElapsedTimer stands_;
 };

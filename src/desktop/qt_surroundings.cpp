@@ -22,7 +22,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QSaveFile>
 #include <QScreen>
@@ -90,6 +90,18 @@ QMessageBox::StandardButton ButtonOf(Answer answer) {
     return QMessageBox::Ok;
 }
 
+constexpr int kInputWidth = 420;
+
+/// As wide as the longest line of a text, where that is neither narrow nor wider than a page is read.
+int WidthOf(const QLabel& label, const QString& text) {
+    constexpr int kWidest = 640;
+    int widest = 0;
+    for (const QString& line : text.split(u'\n')) {
+        widest = qMax(widest, label.fontMetrics().horizontalAdvance(line));
+    }
+    return qBound(kInputWidth - 40, widest, kWidest);
+}
+
 /// A lock file that names nobody is left from a crash in the middle of its writing, or from a full disk; the
 /// lock itself knows whether somebody still holds it.
 bool TakeUnreadable(QLockFile& lock) {
@@ -109,11 +121,24 @@ QWidget* QtQuestions::Below() const {
     return Over != nullptr && Over->isVisible() ? Over : QApplication::activeWindow();
 }
 
+OnLeaving<std::function<void()>> QtQuestions::GiveKeyboardBack() {
+    // Between two questions no window is active yet: the one before the first counts.
+    if (QWidget* active = QApplication::activeWindow()) {
+        asking_ = active;
+    }
+    return OnLeaving<std::function<void()>>([this] {
+        if (asking_ != nullptr && asking_->isVisible()) {
+            asking_->activateWindow();
+        }
+    });
+}
+
 Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view title,
                         const Manner& manner) {
     if (BeforeAsking) {
         BeforeAsking();
     }
+    const OnLeaving back = GiveKeyboardBack();
     MessageBox box(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question, TitleOf(title),
                    ShownText(text), ButtonsOf(buttons), Below(),
                    manner.How == Manner::Came::Unasked ? MessageBox::Came::Unasked
@@ -153,6 +178,7 @@ std::string QtQuestions::InputBox(std::string_view prompt, std::string_view titl
     if (BeforeAsking) {
         BeforeAsking();
     }
+    const OnLeaving back = GiveKeyboardBack();
     QInputDialog dialog(Below());
     dialog.setObjectName(QStringLiteral("InputBox"));
     dialog.setWindowTitle(TitleOf(title));
@@ -160,6 +186,8 @@ std::string QtQuestions::InputBox(std::string_view prompt, std::string_view titl
     dialog.setTextValue(convert::ToQString(initial));
     for (QLabel* label : dialog.findChildren<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        label->setMinimumWidth(WidthOf(*label, ShownText(prompt)));
     }
     // What cannot be kept is refused where it is typed, not dropped from what was confirmed.
     QObject::connect(
@@ -171,7 +199,7 @@ std::string QtQuestions::InputBox(std::string_view prompt, std::string_view titl
                 dialog.setTextValue(convert::ToQString(incoming.Text));
             }
         });
-    dialog.resize(420, dialog.sizeHint().height());
+    dialog.resize(qMax(kInputWidth, dialog.sizeHint().width()), dialog.sizeHint().height());
     return dialog.exec() == QDialog::Accepted ? convert::ToModel(dialog.textValue()) : std::string();
 }
 
@@ -216,6 +244,20 @@ void QtClipboard::Clear() {
 
 void QtClipboard::SetText(std::string_view text) {
     QGuiApplication::clipboard()->setText(convert::ToQString(text));
+}
+
+void QtClipboard::SetTextAndTable(std::string_view text, std::string_view html) {
+    QString plain = convert::ToQString(text);
+    plain.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    auto data = std::make_unique<QMimeData>();
+    data->setText(plain);
+    data->setHtml(convert::ToQString(html));
+    QGuiApplication::clipboard()->setMimeData(data.release()); // the clipboard owns it from here on
+}
+
+void QtClipboard::SetUnicodeText(std::string_view utf8) {
+    QGuiApplication::clipboard()->setText(
+        QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
 }
 
 std::string QtClipboard::GetText() const {

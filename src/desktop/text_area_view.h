@@ -18,10 +18,15 @@ public:
     TextAreaView(PageContext& page, QWidget& paper, const FieldRef& field);
 
     void Follow(const TextArea& record);
+    /// The caption that the field is called by has changed.
+    void Rename();
     [[nodiscard]] const FieldRef& Field() const { return field_; }
     /// Left edge and width of the text as drawn, in twips from the page's corner.
     [[nodiscard]] double TextLeft() const;
     [[nodiscard]] double TextWidth() const;
+    /// Where a caret at a position stands, in the widget's pixels.
+    [[nodiscard]] QRectF CaretBox(int position) const;
+    [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
 protected:
     bool event(QEvent* event) override;
@@ -33,6 +38,8 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -56,6 +63,10 @@ private:
     void TakeIn(const QString& text);
     /// The record's text becomes the widget's in the same way.
     void TakeRecord();
+    /// A completion comes behind what was typed, as one edit that can be undone.
+    [[nodiscard]] bool TakeCompletion(const TextArea& record, const QString& wanted);
+    /// Whether a term or result under the pointer may be let go here.
+    [[nodiscard]] bool TakesTerm() const;
     void KeyTyped(QKeyEvent* event, int code);
     void TextTyped(QKeyEvent* event);
     void OfferMarkedText() const;

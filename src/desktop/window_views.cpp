@@ -5,8 +5,16 @@
 #include "program/program.h"
 
 #include <QEvent>
+#include <QScreen>
 
 #include <algorithm>
+
+namespace {
+
+/// About what a title bar and borders take.
+constexpr QSize kFrame(16, 48);
+
+} // namespace
 
 WindowView::WindowView(Program& program, Window& window, QWidget* over, std::function<void()> afterEvent)
     : QDialog(over), program_(program), window_(window), afterEvent_(std::move(afterEvent)) {
@@ -36,11 +44,33 @@ void WindowView::Follow() {
     }
 }
 
+void WindowView::showEvent(QShowEvent* event) {
+    const bool framed = !windowFlags().testFlag(Qt::FramelessWindowHint);
+    if (const QScreen* place = screen(); framed && place != nullptr) {
+        const QSize room = place->availableSize() - kFrame;
+        setMaximumSize(maximumSize().boundedTo(room));
+        resize(size().boundedTo(room));
+    }
+    QDialog::showEvent(event);
+}
+
 void WindowView::moveEvent(QMoveEvent* event) {
     QDialog::moveEvent(event);
     const float twips = static_cast<float>(paper::kTwipsPerInch) / static_cast<float>(logicalDpiX());
     window_.Left = static_cast<float>(x()) * twips;
     window_.Top = static_cast<float>(y()) * twips;
+}
+
+void WindowView::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    const float twips = static_cast<float>(paper::kTwipsPerInch) / static_cast<float>(logicalDpiX());
+    window_.Width = static_cast<float>(width()) * twips;
+    window_.Height = static_cast<float>(height()) * twips;
+}
+
+void WindowView::TakeKeyboard() {
+    raise();
+    activateWindow();
 }
 
 void WindowView::changeEvent(QEvent* event) {
@@ -78,6 +108,12 @@ void WindowViews::TakeClosed(std::vector<std::unique_ptr<Window>> closed) {
     std::erase_if(leaving_, [](const auto& entry) { return entry.second.isNull(); });
 }
 
+bool WindowViews::KeyboardWithin() const {
+    return over_.isActiveWindow() && std::any_of(views_.begin(), views_.end(), [](const auto& entry) {
+               return entry.second->HasKeyboard();
+           });
+}
+
 void WindowViews::Follow() {
     const auto& open = program_.windows.Open;
     for (auto at = views_.begin(); at != views_.end();) {
@@ -92,8 +128,8 @@ void WindowViews::Follow() {
         WindowView* view = at->second.release();
         leaving_[at->first] = view;
         at = views_.erase(at);
-        const bool active = view->isActiveWindow();
-        view->hide();
+        const bool active = view->HasKeyboard();
+        view->Leave();
         view->deleteLater();
         if (active) {
             over_.activateWindow(); // the keyboard goes back to the page, also where no window manager sees
@@ -111,7 +147,11 @@ void WindowViews::Follow() {
         }
         view->Follow();
         if (fresh) {
-            view->show();
+            view->Open();
+        }
+        if (window->BringUp) {
+            window->BringUp = false;
+            view->TakeKeyboard();
         }
     }
 }

@@ -23,6 +23,11 @@ public:
     virtual void Follow();
     /// The model has been closed; it stays as long as something may still arrive for its view.
     void KeepModel(std::unique_ptr<Window> model) { model_ = std::move(model); }
+    /// Shows it for the first time, and takes it from the screen for good.
+    virtual void Open() { show(); }
+    virtual void Leave() { hide(); }
+    virtual void TakeKeyboard();
+    [[nodiscard]] virtual bool HasKeyboard() const { return isActiveWindow(); }
 
 protected:
     /// Runs an event: the call, then what ends every event.
@@ -32,7 +37,9 @@ protected:
         after();
     }
     void reject() override;
+    void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     Program& program_;
     Window& window_;
@@ -52,6 +59,8 @@ public:
     /// Models that have left the program go to their views, and with them.
     void TakeClosed(std::vector<std::unique_ptr<Window>> closed);
     [[nodiscard]] bool ModalOpen() const;
+    /// Whether a window that stands within the main one has the keyboard.
+    [[nodiscard]] bool KeyboardWithin() const;
 
 private:
     Program& program_;

@@ -164,12 +164,12 @@ void frmFile::cmdOpenOK_Click(Program& program) {
         OpenLogo(program);
     } else if (program.document.FileFilter == kTerms) {
         program.run.FUTFileName = selected_;
+        program.run.TermsPinned = true;
         Finish(program);
         if (program.hooks.ReadFrequentlyUsedTerms) {
             program.hooks.ReadFrequentlyUsedTerms(program);
         }
     } else if (program.document.FileFilter == kTexts) {
-        program.document.TextFileName = selected_;
         const std::string file = paths::Join(Folder, selected_);
         Finish(program);
         if (program.hooks.ReadTextFile) {

@@ -170,7 +170,7 @@ void mnuFileNew_Click(Program& program) {
         page.lbl[10].Left = 10080;
         if (!program.run.TermsPinned) {
             program.run.FUTFileName = "Default Terms.fut";
-            if (program.settings.ShowFUT && program.hooks.ReadFrequentlyUsedTerms) {
+            if (program.hooks.ReadFrequentlyUsedTerms) {
                 program.hooks.ReadFrequentlyUsedTerms(program);
             }
         }
@@ -187,6 +187,13 @@ void mnuFileOpenEvent_Click(Program& program) {
     }
     auto window = std::make_unique<frmFile>();
     window->Caption = "Opening Proposal File";
+    modWindows::Show(program, std::move(window));
+}
+
+void mnuFileOpenTextFile_Click(Program& program) {
+    program.document.FileFilter = "*.txt";
+    auto window = std::make_unique<frmFile>();
+    window->Caption = "Opening Text File";
     modWindows::Show(program, std::move(window));
 }
 

@@ -67,6 +67,9 @@ void ResetPages(Program& program) {
     program.main.Focus.reset();
     program.main.CurrentPage = 0;
     program.editing.ACActive.fill(false);
+    if (Window* results = modWindows::Find(program, "frmSR")) {
+        modWindows::Close(program, *results); // its hits are those of the proposal that goes
+    }
     // What was deleted from one proposal is not put back into another.
     program.editing.Block.UndoMemory.clear();
     program.editing.UndoAvailable = false;
@@ -101,6 +104,7 @@ void EmptyTexts(Program& program) {
         for (TextArea& area : program.pages[page].txt) {
             area.Text.clear();
             area.BackColor = colors::kResting;
+            area.ToolTipText.clear();
         }
     }
     constexpr auto kFinal = static_cast<std::size_t>(kEditedPageCount - 1);
@@ -156,8 +160,10 @@ void TakeFormat(Program& program, bool loadDefault) {
     format.LogoPending = false;
     format.Touched = false;
     if (loadDefault) {
-        format.FormatFolder = paths::Folder(program.settings.DefaultFormatPath);
-        format.FormatName = paths::Name(program.settings.DefaultFormatPath);
+        const std::string path =
+            paths::ResolveDrive(program.settings.DefaultFormatPath, program.folders.Drives);
+        format.FormatFolder = paths::Folder(path);
+        format.FormatName = paths::Name(path);
         format.FormatOpen = true;
     }
     // A format without a logo of its own leaves this one.

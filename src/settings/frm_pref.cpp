@@ -1,5 +1,6 @@
 #include "settings/frm_pref.h"
 
+#include "base/text.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "settings/settings.h"
@@ -14,7 +15,9 @@ void frmPref::Form_Load(Program& program) {
     chkMinimizeFUT.Value = settings.MinimizeFUT;
     chkACStart.Value = settings.AutoStartPosition != 0;
     chkACEnable.Value = !settings.AutoCompleteWord;
-    chkLoadDefaultFormat.Value = !settings.LoadDefaultFormat;
+    // The run may go without the default format; what is shown here is what the next start will do.
+    chkLoadDefaultFormat.Value = !text::EqualNoCase(
+        text::Trim(modSettings::StoredValue(program, modSettings::Key::LoadDefaultFormat)), "True");
     chkLoadFUT.Value = settings.LoadFUT;
 }
 
@@ -37,7 +40,6 @@ void frmPref::cmdSave_Click(Program& program) {
     settings.MinimizeFUT = chkMinimizeFUT.Value;
     settings.AutoStartPosition = start;
     settings.AutoCompleteWord = !chkACEnable.Value;
-    settings.LoadDefaultFormat = !chkLoadDefaultFormat.Value;
     settings.LoadFUT = chkLoadFUT.Value;
     program.platform.questions.MsgBox("These changes will take effect on your next start.", Buttons::Ok, "");
     modWindows::Close(program, *this);

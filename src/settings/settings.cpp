@@ -351,6 +351,9 @@ void GetUserPreferences(Program& program) {
         }
         modOffsets::ReadPrinterOffsets(program);
         settings.PrefsRead = true;
+        if (program.hooks.ReadFrequentlyUsedTerms) {
+            program.hooks.ReadFrequentlyUsedTerms(program); // the folder may be another one
+        }
     });
 }
 
@@ -377,13 +380,22 @@ bool Store(Program& program, std::initializer_list<Change> changes) {
     return true;
 }
 
+std::string StoredValue(const Program& program, Key key) {
+    bool shorter = false;
+    return ValueOf(program.settings, key, shorter);
+}
+
 void SetLine(Program& program, Key key, std::string_view value) {
     std::vector<std::string>& lines = program.settings.Lines;
     const auto at = static_cast<std::size_t>(key);
     while (lines.size() <= at) {
         lines.emplace_back(kKeys[lines.size()]);
     }
-    lines[at] = std::string(KeyText(key)) + std::string(value);
+    std::string line = std::string(KeyText(key)) + std::string(value);
+    // A line is told by its place: one that fell in two would shift all that follow.
+    std::erase_if(line,
+                  [](char character) { return character == '\r' || character == '\n' || character == '\0'; });
+    lines[at] = std::move(line);
 }
 
 } // namespace modSettings

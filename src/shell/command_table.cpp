@@ -1,5 +1,8 @@
 #include "shell/command_table.h"
+#include "spelling/spelling_walk.h"
 
+#include "addresses/address_commands.h"
+#include "calculator/frm_calc.h"
 #include "calendar/frm_dates.h"
 #include "contract/frm_editor.h"
 #include "contract/frm_notes.h"
@@ -21,6 +24,7 @@
 #include "money/totals.h"
 #include "output/preview.h"
 #include "output/print.h"
+#include "output/text_export.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
@@ -33,9 +37,12 @@
 #include "shell/admin_commands.h"
 #include "shell/closing.h"
 #include "shell/desktop_links.h"
+#include "shell/find_command.h"
 #include "shell/help_commands.h"
 #include "shell/option_commands.h"
 #include "shell/support_commands.h"
+#include "terms/area_terms.h"
+#include "terms/frm_fut.h"
 
 #include <array>
 #include <memory>
@@ -84,11 +91,13 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Name = "mnuFileOpenAddressBook",
           .Caption = "Open Address Book",
           .Parent = mnuFileOpen,
+          .Run = modAddress::mnuFileOpenAddressBook_Click,
           .Shortcut = "Ctrl+B"},
     Entry{.Id = mnuFileOpenTextFile,
           .Name = "mnuFileOpenTextFile",
           .Caption = "Open Text File",
-          .Parent = mnuFileOpen},
+          .Parent = mnuFileOpen,
+          .Run = modProposal::mnuFileOpenTextFile_Click},
     Entry{.Id = mnuFileSaveEvent,
           .Name = "mnuFileSaveEvent",
           .Caption = "&Save Proposal Fi&le",
@@ -103,15 +112,18 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuFileSaveAsText,
           .Name = "mnuFileSaveAsText",
           .Caption = "Save Proposal as Simple &Text File",
-          .Parent = mnuFile},
+          .Parent = mnuFile,
+          .Run = modExport::mnuFileSaveAsText_Click},
     Entry{.Id = mnuFileSaveToWord,
           .Name = "mnuFileSaveToWord",
           .Caption = "Export Proposal to &Word for Formatting",
-          .Parent = mnuFile},
+          .Parent = mnuFile,
+          .Run = modExport::mnuFileSaveToWord_Click},
     Entry{.Id = mnuFileCopyProposal,
           .Name = "mnuFileCopyProposal",
           .Caption = "Copy Proposal to Memory (to Paste Elsewhere)",
-          .Parent = mnuFile},
+          .Parent = mnuFile,
+          .Run = modExport::mnuFileCopyProposal_Click},
     Entry{.Id = mnuFileConvertRTF,
           .Name = "mnuFileConvertRTF",
           .Caption = "Convert Proposal to Rich Text Format",
@@ -234,8 +246,11 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Parent = mnuFileFormat,
           .Run = modFormat::mnuFileFormatDelete_Click},
     Entry{.Id = mnuEdit, .Name = "mnuEdit", .Caption = "&Edit", .What = Kind::Menu},
-    Entry{
-        .Id = mnuEditCompInfo, .Name = "mnuEditCompInfo", .Caption = "Edit Company Info", .Parent = mnuEdit},
+    Entry{.Id = mnuEditCompInfo,
+          .Name = "mnuEditCompInfo",
+          .Caption = "Edit Company Info",
+          .Parent = mnuEdit,
+          .Run = modAddress::mnuEditCompInfo_Click},
     Entry{.Id = mnuEditTitles,
           .Name = "mnuEditTitles",
           .Caption = "Proposal Page Titles and Subtitles",
@@ -244,11 +259,13 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuEditSpellCheck,
           .Name = "mnuEditSpellCheck",
           .Caption = "Chec&k Spelling",
-          .Parent = mnuEdit},
+          .Parent = mnuEdit,
+          .Run = modSpelling::mnuEditSpellCheck_Click},
     Entry{.Id = mnuEditFind,
           .Name = "mnuEditFind",
           .Caption = "&Find",
           .Parent = mnuEdit,
+          .Run = modMain::mnuEditFind_Click,
           .Shortcut = "Ctrl+F"},
     Entry{.Id = mnuEditCtrl, .Name = "mnuEditCtrl", .Caption = "&Edit Control", .What = Kind::Menu},
     Entry{.Id = mnuEditTextBox,
@@ -313,15 +330,18 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Name = "mnuEditTextAddFUT",
           .Caption = "Add to Frequent Terms",
           .Parent = mnuEditTextBox,
+          .Run = modTerms::AddTermFromArea,
           .Shortcut = "F9"},
     Entry{.Id = mnuEditTextEditFUT,
           .Name = "mnuEditTextEditFUT",
           .Caption = "Edit this Frequent Term",
-          .Parent = mnuEditTextBox},
+          .Parent = mnuEditTextBox,
+          .Run = modTerms::mnuEditTextEditFUT_Click},
     Entry{.Id = mnuEditTextDeleteFUT,
           .Name = "mnuEditTextDeleteFUT",
           .Caption = "Remove from Frequent Terms",
-          .Parent = mnuEditTextBox},
+          .Parent = mnuEditTextBox,
+          .Run = modTerms::mnuEditTextDeleteFUT_Click},
     Entry{.Id = mnuEditTextBreak3,
           .Name = "mnuEditTextBreak3",
           .Caption = "-",
@@ -503,8 +523,16 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Parent = mnuManage,
           .Run = modContract::mnuManageEditor_Click},
     Entry{.Id = mnuOpt, .Name = "mnuOpt", .Caption = "Options", .What = Kind::Menu},
-    Entry{.Id = mnuOptFUT, .Name = "mnuOptFUT", .Caption = "Show &Frequently Used Terms", .Parent = mnuOpt},
-    Entry{.Id = mnuOptCalc, .Name = "mnuOptCalc", .Caption = "Show &Calculator", .Parent = mnuOpt},
+    Entry{.Id = mnuOptFUT,
+          .Name = "mnuOptFUT",
+          .Caption = "Show &Frequently Used Terms",
+          .Parent = mnuOpt,
+          .Run = modTerms::mnuOptFUT_Click},
+    Entry{.Id = mnuOptCalc,
+          .Name = "mnuOptCalc",
+          .Caption = "Show &Calculator",
+          .Parent = mnuOpt,
+          .Run = modCalculator::mnuOptCalc_Click},
     Entry{.Id = mnuOptPrinterOffset,
           .Name = "mnuOptPrinterOffset",
           .Caption = "Change Printer Offsets",
@@ -557,11 +585,13 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuOptCopyToPersonalAddressBook,
           .Name = "mnuOptCopyToPersonalAddressBook",
           .Caption = "Add Proposal Client to Personal Style Address Book",
-          .Parent = mnuOpt},
+          .Parent = mnuOpt,
+          .Run = modAddress::mnuOptCopyToPersonalAddressBook_Click},
     Entry{.Id = mnuOptCopyToBusinessAddressBook,
           .Name = "mnuOptCopyToBusinessAddressBook",
           .Caption = "Add Proposal Client to Business Style Address Book",
-          .Parent = mnuOpt},
+          .Parent = mnuOpt,
+          .Run = modAddress::mnuOptCopyToBusinessAddressBook_Click},
     Entry{.Id = mnuOptUnderline,
           .Name = "mnuOptUnderline",
           .Caption = "Underline Main Categories when Printing",
