@@ -256,6 +256,15 @@ PageView& FrmMainView::PageOf(PageId page) {
             }
         };
     }
+    const auto popUp = [this](CommandId id) {
+        return [this, id](QPoint at) {
+            if (QMenu* menu = menus_->Menu(id)) {
+                menu->popup(at);
+            }
+        };
+    };
+    view->Context().AskForLabelMenu = popUp(CommandId::mnuEditLabel);
+    view->Context().AskForLogoMenu = popUp(CommandId::mnuEditLogo);
     return *view;
 }
 

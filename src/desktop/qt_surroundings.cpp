@@ -286,9 +286,10 @@ SingleInstance::Result QtSingleInstance::Claim(std::string_view installFolder) {
 }
 
 std::optional<PictureSize> QtPictures::Load(std::string_view path) {
-    const QImageReader reader(Native(path));
-    const QSize size = reader.size();
-    if (!reader.canRead() || size.isEmpty()) {
+    // Unpacked now and kept: one that is cut short or has a false name is refused here, not found out when it
+    // is drawn.
+    const QSize size = paper::LogoPicture(std::string(path)).size();
+    if (size.isEmpty()) {
         return std::nullopt;
     }
     constexpr float kTwipsPerPixel = 15; // pictures count as drawn at 96 dots to the inch

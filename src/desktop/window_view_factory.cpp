@@ -3,6 +3,7 @@
 #include "contract/frm_notes.h"
 #include "deposits/frm_deposits.h"
 #include "desktop/dialog_parts.h"
+#include "desktop/format_views.h"
 #include "desktop/frm_dates_view.h"
 #include "desktop/frm_deposits_view.h"
 #include "desktop/frm_editor_view.h"
@@ -11,6 +12,11 @@
 #include "desktop/frm_splash_view.h"
 #include "desktop/settings_views.h"
 #include "desktop/window_views.h"
+#include "format/frm_label_props.h"
+#include "format/frm_rgb.h"
+#include "format/frm_snap.h"
+#include "format/frm_text_props.h"
+#include "format/frm_title.h"
 #include "output/frm_dialog.h"
 #include "program/program.h"
 #include "settings/frm_acstart.h"
@@ -53,12 +59,23 @@ std::unique_ptr<WindowView> ViewOf(Program& program, Window& window, QWidget* ov
 }
 
 constexpr std::array kViews{
-    ViewOf<frmTax, FrmTaxView>,           ViewOf<frmPref, FrmPrefView>,
-    ViewOf<frmACStart, FrmACStartView>,   ViewOf<frmPOffsets, FrmPOffsetsView>,
-    ViewOf<frmPrinters, FrmPrintersView>, ViewOf<frmDialog, FrmDialogView>,
-    ViewOf<frmFile, FrmFileView>,         ViewOf<frmSplash, FrmSplashView>,
-    ViewOf<frmDeposits, FrmDepositsView>, ViewOf<frmNotes, FrmNotesView>,
-    ViewOf<frmDates, FrmDatesView>,       ViewOf<frmEditor, FrmEditorView>,
+    ViewOf<frmTax, FrmTaxView>,
+    ViewOf<frmPref, FrmPrefView>,
+    ViewOf<frmACStart, FrmACStartView>,
+    ViewOf<frmPOffsets, FrmPOffsetsView>,
+    ViewOf<frmPrinters, FrmPrintersView>,
+    ViewOf<frmDialog, FrmDialogView>,
+    ViewOf<frmLabelProps, FrmLabelPropsView>,
+    ViewOf<frmTextProps, FrmTextPropsView>,
+    ViewOf<frmRGB, FrmRGBView>,
+    ViewOf<frmSnap, FrmSnapView>,
+    ViewOf<frmTitle, FrmTitleView>,
+    ViewOf<frmFile, FrmFileView>,
+    ViewOf<frmSplash, FrmSplashView>,
+    ViewOf<frmDeposits, FrmDepositsView>,
+    ViewOf<frmNotes, FrmNotesView>,
+    ViewOf<frmDates, FrmDatesView>,
+    ViewOf<frmEditor, FrmEditorView>,
 };
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "editing/navigation.h"
 #include "editing/push.h"
 #include "editing/status_line.h"
+#include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
@@ -86,10 +87,10 @@ void TakeClientName(Program& program) {
 }
 
 void TakeAmount(Program& program, PageId page, int index) {
-    if (!EmptyOrNumeric(program, Area(program, page, index).Text)) {
-        return;
-    }
     static_cast<void>(modTotals::StoreAmount(program, page, index));
+    if (!program.editing.RefireMode) {
+        modTotals::NoteEmptied(program, page, index);
+    }
     program.main.cmdReCalc.BackColor = colors::kOverLimit;
     if (program.editing.RefireMode) {
         modTotals::CalculateMyTotals(program, page);
@@ -122,7 +123,8 @@ void LinePageChange(Program& program, PageId page, int index) {
     // The area's own text and width, but the limit is whatever the innermost change left.
     TextArea& area = Area(program, page, index);
     if (modPages::MeasureTextWidth(program, page, area.Text) >= area.Width ||
-        static_cast<double>(area.Text.size()) > numbers::Val(editing.CurrentLimit)) {
+        static_cast<double>(area.Text.size()) > numbers::Val(editing.CurrentLimit) ||
+        modTotals::IsNoNumber(program, area)) {
         area.BackColor = colors::kOverLimit;
     }
 }
@@ -177,6 +179,10 @@ Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int
     if (completing && Area(program, page, index).SelLength == 0) {
         completing = false;
     }
+    if (!completing && keyCode == keys::kTab && shift == keys::kShiftState) {
+        modNavigate::MoveBack(program, Field(page, index));
+        return Taken::Yes;
+    }
     if (!completing && (keyCode == keys::kEnter || keyCode == keys::kTab)) {
         modNavigate::Move(program, page, index, modNavigate::Step::Enter);
         return Taken::Yes;
@@ -223,6 +229,10 @@ Taken txt_KeyDown(Program& program, PageId page, int index, int keyCode, int shi
     if (IsFinal(page)) {
         if (IsPaste(keyCode, shift)) {
             PasteNumber(program, page, index);
+            return Taken::Yes;
+        }
+        if (keyCode == keys::kTab && shift == keys::kShiftState) {
+            modNavigate::MoveBack(program, Field(page, index));
             return Taken::Yes;
         }
         return Taken::No;

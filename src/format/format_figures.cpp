@@ -3,6 +3,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "editing/columns.h"
+#include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/page_geometry.h"
 #include "pages/row_fields.h"

@@ -38,6 +38,8 @@ struct BlockState {
     bool AtTop = false;
     bool AtBottom = false;
 
+    int KeyAnchor = -1; ///< the row from which a selection by key grows; -1 is none
+
     float BandStartX = 0; ///< twips on the page
     float BandStartY = 0;
     float BandEndX = 0;
@@ -87,6 +89,8 @@ struct EditingState {
     int SavedSelStart = 0;      ///< text selection remembered for the case commands
     int SavedSelLength = 0;
     BlockState Block;
+    /// The amount whose text the person has taken away and not left yet: another may be typed in its place.
+    std::optional<FieldRef> EmptiedAmount;
     /// A suggested completion stands selected in the area; per page frmP1 to frmP5.
     std::array<bool, kLinePageCount> ACActive{};
 };

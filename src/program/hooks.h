@@ -18,9 +18,11 @@ struct Hooks {
 
     std::function<void(Program&, int)> UpdatePageButtons; ///< change the page, 0 to 6
     Call CollectQtyBoxes;                                 ///< bring the stores up to what the row fields show
-    Call DeSelectAllControls;                             ///< end a block selection on all pages
-    std::function<void(Program&, int)> PageKey;           ///< a page-up (33) or page-down (34) key
-    Call UpdateTextMenu;                                  ///< the states of the text area's commands
+    Call TakeFreshFigures;    ///< what is being typed is settled and everything summed, before others see it
+    Call TakeCompletion;      ///< a standing word completion is taken, as leaving its area takes it
+    Call DeSelectAllControls; ///< end a block selection on all pages
+    std::function<void(Program&, int)> PageKey;   ///< a page-up (33) or page-down (34) key
+    Call UpdateTextMenu;                          ///< the states of the text area's commands
     std::function<void(Program&, int)> MoveBlock; ///< an up (38) or down (40) key while areas are selected
     std::function<void(Program&, int)> TermsKey;  ///< F5 (116) or F6 (117) on a line page
     Call ReadFrequentlyUsedTerms;

@@ -112,23 +112,33 @@ void TakeAmount(Program& program, PageId page, int index) {
     if (text::Trim(current).empty()) {
         return;
     }
+    TextArea& area = program.pages[page].txt[at];
     const bool marked = current.front() == proposal::kExemptMark;
     if (marked) {
         current.erase(0, 1);
     }
-    const std::string_view trimmed = text::Trim(current);
-    const std::optional<float> value = numbers::ToSingle(trimmed, program.settings.CurrencySymbol);
-    if (!value) {
+    const std::string bare(text::Trim(current));
+    if (bare.empty()) {
+        // A mark beside nothing: an empty amount.
+        current.clear();
+        program.document.SavedTextBuf[pageAt][at].clear();
+        area.Text.clear();
         return;
     }
-    program.totals.AmountTable[at][pageAt] = *value;
-    program.totals.TaxableTable[at][pageAt] = marked ? 0 : *value;
+    const std::optional<float> value = numbers::ToSingle(bare, program.settings.CurrencySymbol);
+    if (!value) {
+        modTotals::TellNoNumber(program, area);
+        area.BackColor = colors::kOverLimit;
+        return;
+    }
     if (marked) {
         InBothTables(program, page, index, [](TextChangeRecord& kept) { kept.TaxExempt = true; });
         program.document.SavedTextBuf[pageAt][at] = current;
-        program.pages[page].txt[at].Text = trimmed;
+        area.Text = bare;
         modPages::SetNoTaxMark(program, page, index, modPages::Mark::Shown);
     }
+    program.totals.AmountTable[at][pageAt] = *value;
+    program.totals.TaxableTable[at][pageAt] = marked ? 0 : *value;
     modPages::SetCurrencySign(program, page, index, modPages::Mark::Shown);
 }
 

@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "base/guard.h"
 #include "base/paths.h"
+#include "money/totals.h"
 #include "pages/logo.h"
 #include "pages/page_defaults.h"
 #include "pages/page_fonts.h"
@@ -102,11 +103,19 @@ void EmptyTexts(Program& program) {
     for (int index = kLinePageCount - 1; index >= 0; --index) {
         Page& page = program.pages[PageAt(index)];
         const auto at = static_cast<std::size_t>(index);
+        for (auto* boxes : {&page.txtQty, &page.txtAmt}) {
+            for (TextArea& box : *boxes) {
+                box.ToolTipText.clear();
+            }
+        }
         document.CurrentTextBuf[at].resize(page.txt.size());
         document.SavedTextBuf[at].resize(page.txt.size());
         for (std::size_t area = 0; area < page.txt.size(); ++area) {
             page.txt[area].BackColor = colors::kResting;
             page.txt[area].FontBold = false;
+            if (page.txt[area].ToolTipText == modTotals::kNoNumberTip) {
+                page.txt[area].ToolTipText.clear();
+            }
             if (program.format.FormatTextChanges[at][area].FormatText) {
                 continue;
             }

@@ -646,8 +646,10 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Caption = "Logon",
           .Parent = mnuToolsAdmin,
           .Run = modAdmin::mnuAdminLogon_Click},
-    Entry{
-        .Id = mnuAdminTestCode, .Name = "mnuAdminTestCode", .Caption = "Test Code", .Parent = mnuToolsAdmin},
+    Entry{.Id = mnuAdminTestCode,
+          .Name = "mnuAdminTestCode",
+          .Caption = "Test Code",
+          .Parent = mnuToolsAdmin},
     Entry{.Id = mnuToolsAdminShowAllLabels,
           .Name = "mnuToolsAdminShowAllLabels",
           .Caption = "Show All Labels",

@@ -5,12 +5,13 @@
 #include "editing/area_mouse.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
+#include "editing/navigation.h"
 #include "editing/selection.h"
 #include "editing/typing.h"
 #include "editing/word_marking.h"
 #include "format/label_designer.h"
 #include "format/logo.h"
-#include "money/totals.h"
+#include "money/amounts.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"
@@ -49,7 +50,7 @@ void Call(const std::function<void(Program&, int)>& hook, Program& program, int 
 }
 
 /// The page's own keys come before the field's.
-Taken Form_KeyDown(Program& program, int keyCode) {
+Taken Form_KeyDown(Program& program, int keyCode, int shift) {
     if (keyCode != keys::kUp && keyCode != keys::kDown) {
         modBlocks::FinishMove(program); // another key while the arrow is still held, or was let go elsewhere
     }
@@ -60,6 +61,12 @@ Taken Form_KeyDown(Program& program, int keyCode) {
     const std::optional<FieldRef> field = TypingField(program);
     if (!field || !IsLinePage(field->Page)) {
         return Taken::No;
+    }
+    if (shift == keys::kShiftState && (keyCode == keys::kUp || keyCode == keys::kDown) &&
+        modBlocks::ExtendByKey(program, *field,
+                               keyCode == keys::kUp ? modBlocks::Toward::Up : modBlocks::Toward::Down) ==
+            Taken::Yes) {
+        return Taken::Yes;
     }
     if (program.editing.BlockMode && (keyCode == keys::kUp || keyCode == keys::kDown)) {
         // The block moves; the focus stays where it is.
@@ -76,6 +83,19 @@ void PutCursor(Program& program, const FieldRef& field, int selStart, int selLen
     modFields::SetCursor(modFields::Area(program, field), selStart, selLength);
 }
 
+/// The caret's label follows every move of the cursor, by whatever key or hand.
+void ShowCaret(Program& program) {
+    if (program.main.Focus) {
+        program.main.lblCurPos.Caption =
+            "Cursor Location = " + std::to_string(modFields::Area(program, *program.main.Focus).SelStart);
+    }
+}
+
+Taken FieldKeyDown(Program& program, const FieldRef& field, int keyCode, int shift) {
+    return IsText(field) ? modText::txt_KeyDown(program, field.Page, field.Index, keyCode, shift)
+                         : modColumns::Box_KeyDown(program, field, keyCode, shift);
+}
+
 } // namespace
 
 Taken KeyDown(Program& program, int keyCode, int shift, int selStart, int selLength) {
@@ -83,16 +103,18 @@ Taken KeyDown(Program& program, int keyCode, int shift, int selStart, int selLen
     if (program.main.Focus) {
         PutCursor(program, *program.main.Focus, selStart, selLength);
     }
-    if (Form_KeyDown(program, keyCode) == Taken::Yes) {
+    if (Form_KeyDown(program, keyCode, shift) == Taken::Yes) {
         return Taken::Yes;
     }
     const std::optional<FieldRef> focus = TypingField(program);
     if (!focus) {
         return Taken::No;
     }
-    const FieldRef field = *focus;
-    return IsText(field) ? modText::txt_KeyDown(program, field.Page, field.Index, keyCode, shift)
-                         : modColumns::Box_KeyDown(program, field, keyCode, shift);
+    const Taken taken = FieldKeyDown(program, *focus, keyCode, shift);
+    if (taken == Taken::Yes) {
+        ShowCaret(program);
+    }
+    return taken;
 }
 
 int KeyPress(Program& program, int keyAscii) {
@@ -116,6 +138,7 @@ bool MayEdit(Program& program, const FieldRef& field) {
 
 void Edited(Program& program, const FieldRef& field, std::string_view text, int selStart, int selLength) {
     modFields::TypeText(program, field, text, selStart, selLength);
+    ShowCaret(program);
 }
 
 void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view text, int selStart,
@@ -125,6 +148,7 @@ void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view 
         program.editing.LastKeyChar.clear();
     }
     modFields::TypeText(program, field, text, selStart, selLength);
+    ShowCaret(program);
 }
 
 void TellRefused(Program& program, int count) {
@@ -194,11 +218,13 @@ void MoveMarked(Program& program, const FieldRef& field, int to) {
 }
 
 void FieldEntered(Program& program, const FieldRef& field) {
-    modFields::GiveFocus(program, field);
+    modNavigate::Arrive(program, field);
+    ShowCaret(program);
 }
 
 void CursorMoved(Program& program, const FieldRef& field, int selStart, int selLength) {
     PutCursor(program, field, selStart, selLength);
+    ShowCaret(program);
 }
 
 void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength) {
@@ -210,6 +236,7 @@ void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength
         }
     }
     modBlocks::Form_KeyUp(program);
+    ShowCaret(program);
 }
 
 void FieldMouseDown(Program& program, const FieldRef& field, int button, int shift, int selStart,
@@ -228,6 +255,7 @@ void FieldMouseDown(Program& program, const FieldRef& field, int button, int shi
     if (IsText(field)) {
         modText::txt_MouseDown(program, field.Page, field.Index, button, shift);
     }
+    ShowCaret(program);
 }
 
 void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int selLength) {
@@ -235,6 +263,7 @@ void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int sel
     if (IsText(field)) {
         modText::txt_MouseUp(program, field.Page, field.Index);
     }
+    ShowCaret(program);
 }
 
 void FieldDblClick(Program& program, const FieldRef& field, int position) {

@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 #include "base/paths.h"
+#include "pages/row_fields.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -39,6 +40,7 @@ void mnuOptCurrencySymbol_Click(Program& program) {
         return;
     }
     program.settings.CurrencySymbol = symbol;
+    modPages::ShowCurrency(program);
     modSettings::SetLine(program, modSettings::Key::CurrencySymbol, symbol);
     if (!modSettings::SaveUserPreferences(program)) {
         Tell(program, "Error encountered while creating new Currency Symbol.");

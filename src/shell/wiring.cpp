@@ -3,6 +3,7 @@
 #include "calendar/read_event_dates.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
+#include "editing/fresh_figures.h"
 #include "editing/leaving.h"
 #include "editing/selection.h"
 #include "editing/text_menu.h"
@@ -61,6 +62,7 @@ void Wire(Program& program) {
     hooks.UpdateTextMenu = modBlocks::UpdateTextMenu;
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
     hooks.MoveBlock = modBlocks::MoveBlockByKey;
+    hooks.TakeFreshFigures = modFigures::TakeFresh;
     hooks.ReadEventDates = modCalendar::ReadEventDatesAtStart;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
     hooks.OpenFormatFile = modFormat::OpenFormatFile;

@@ -102,7 +102,7 @@ TEST(ColumnsCommand, SaysWhatItWillDo) {
     EXPECT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Remove Columns");
 }
 
-TEST(Boxes, TakeDigitsAndThePointAlone) {
+TEST(Boxes, TakeDigitsPointAndCommaAlone) {
     RunningProgram run;
     Typist typist(run.program);
     modPages::PlaceColumns(run.program, kSecond, 0, modPages::Columns::On);
@@ -110,7 +110,7 @@ TEST(Boxes, TakeDigitsAndThePointAlone) {
     for (const FieldRef& box : {Quantity(0), Price(0)}) {
         typist.Click(box);
         for (int byte = 1; byte < 256; ++byte) {
-            const bool passes = byte == 8 || byte == '.' || (byte >= '0' && byte <= '9');
+            const bool passes = byte == 8 || byte == '.' || byte == ',' || (byte >= '0' && byte <= '9');
             EXPECT_EQ(modInput::KeyPress(run.program, byte), passes ? byte : 0) << byte;
         }
         run.program.editing.BlockMode = true;

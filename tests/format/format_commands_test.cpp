@@ -281,6 +281,9 @@ TEST(FormatSave, AClientsDataAreAskedForAndLayoutOnlyWritesNoneOfThem) {
     run.Questions().Expect("Shall the texts", Answer::Yes);
     modFormat::mnuFileFormatSave_Click(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/House.fmt"), kHouse);
+    run.Questions().Expect("No properties have been changed.");
+    modFormat::mnuFileFormatSave_Click(run.program);
+    run.program.format.LogoChanged = true;
     run.Questions().Expect("Shall the texts", Answer::No);
     modFormat::mnuFileFormatSave_Click(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/House.fmt"),
@@ -368,7 +371,7 @@ TEST(FormatDefault, AnUnchangedFormatBecomesTheDefaultWithoutAWord) {
     EXPECT_TRUE(run.HasSetting("Default File Format:" + (run.folder / "Proposals/House.fmt")));
     EXPECT_TRUE(run.HasSetting("Load Default Format:True"));
     EXPECT_EQ(run.folder.Read("Proposals/House.fmt"), kHouse);
-    modFormat::mnuFileFormatNew_Click(run.program);
+    EXPECT_TRUE(run.program.settings.LoadDefaultFormat);
 }
 
 TEST(FormatDefault, ARefusedSaveLeavesTheSettings) {

@@ -149,11 +149,11 @@ TEST(PageModel, RowFieldsStandOnTheirRowWithTheirPlaceholders) {
     }
 }
 
-TEST(PageModel, TheAtLabelTakesTheSymbolButNotOnTheClientPage) {
+TEST(PageModel, TheAtLabelTakesTheSymbolOnEveryPage) {
     RunningProgram run(RunningProgram::Begin::NotStarted);
     run.Setting("Currency Symbol:", "\x80");
     run.Start();
-    EXPECT_EQ(run.program.pages[PageId::frmP1].lblAt[15].Caption, "@ $");
+    EXPECT_EQ(run.program.pages[PageId::frmP1].lblAt[15].Caption, "@ \x80");
     EXPECT_EQ(run.program.pages[PageId::frmP2].lblAt[32].Caption, "@ \x80");
 }
 

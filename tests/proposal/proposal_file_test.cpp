@@ -478,19 +478,6 @@ TEST(OpeningAProposal, AMarkedAmountLosesTheBlanksAroundItAndIsNotTaxed) {
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
 }
 
-TEST(OpeningAProposal, AFormatsProtectedTextStaysOnlyWhereTheFileHasNone) {
-    RunningProgram run;
-    for (const std::size_t row : {10U, 11U}) {
-        run.program.format.FormatTextChanges[0][row].FormatText = true;
-        run.Area(PageId::frmP1, static_cast<int>(row)).Text = "Every event includes";
-    }
-    ASSERT_EQ(Open(run, FileWith({{530, "Something else"}})), modFile::OpenResult::Opened);
-    EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "Something else");
-    EXPECT_FALSE(run.program.format.FormatTextChanges[0][10].FormatText);
-    EXPECT_EQ(run.TextOf(PageId::frmP1, 11), "Every event includes");
-    EXPECT_TRUE(run.program.format.FormatTextChanges[0][11].FormatText);
-}
-
 TEST(OpeningAProposal, AQuantityRowCutByItsSlotIsPlainText) {
     RunningProgram run;
     // The composed line was longer than 120 and has lost its price with the mark.
@@ -504,9 +491,11 @@ TEST(OpeningAProposal, AQuantityRowCutByItsSlotIsPlainText) {
 
 TEST(OpeningAProposal, OtherProposalsShowTheLogoAsTheSettingSays) {
     RunningProgram run;
+    const std::string picture = run.folder / "logo.png";
+    run.folder.Write("logo.png", "x");
+    run.surroundings.pictures.Known[picture] = {1500, 900};
+    run.program.settings.LogoFile = picture;
     run.program.settings.LogoVisible = true;
-    run.program.pages[PageId::frmP1].pic.Tag = "Hide";
-    run.program.pages[PageId::frmP1].pic.Picture = {PictureRef::Source::File, "logo.png"};
     ASSERT_EQ(Open(run, FileWith({}), "Jane Doe.hef"), modFile::OpenResult::Opened);
     EXPECT_TRUE(run.program.settings.LogoVisible);
     EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Tag, "");

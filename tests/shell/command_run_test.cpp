@@ -371,6 +371,7 @@ TEST(Commands, WaitWhilePagesAreBeingPrinted) {
     EXPECT_TRUE(run.program.windows.Open.empty());
     EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program));
     run.program.printing.CommandRunning = false;
+    run.Area(PageId::frmP1, 8).Text.clear();
     EXPECT_TRUE(modClosing::MDIForm_QueryUnload(run.program));
 }
 

@@ -31,6 +31,24 @@ std::string Trimmed(std::string_view text) {
     return std::string(text.substr(from, text.find_last_not_of(' ') - from + 1));
 }
 
+/// Between commas stand three digits, before the first one to three.
+bool GroupedByThree(std::string_view whole) {
+    std::size_t comma = whole.find(',');
+    if (comma == std::string_view::npos) {
+        return true;
+    }
+    if (comma < 1 || comma > 3) {
+        return false;
+    }
+    for (; comma < whole.size(); comma += 4) {
+        if (whole[comma] != ',' || whole.substr(comma + 1, 3).find(',') != std::string_view::npos ||
+            whole.size() < comma + 4) {
+            return false;
+        }
+    }
+    return true;
+}
+
 /// The number a text stands for, nothing when it is none or greater than a single holds.
 std::optional<double> Number(std::string_view whole) {
     std::string text = Trimmed(whole);
@@ -84,7 +102,7 @@ std::optional<double> Number(std::string_view whole) {
             break;
         }
     }
-    if (!digits) {
+    if (!digits || !GroupedByThree(text.substr(0, text.find_first_not_of("0123456789,")))) {
         return std::nullopt;
     }
     if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
@@ -252,7 +270,8 @@ ReferenceFlow::Field& ReferenceFlow::At(const FieldRef& field) {
 }
 
 bool ReferenceFlow::Over(const Field& field, int limit) const {
-    return measure_.Width(field.Text, {}) >= field.Width || Len(field.Text) > limit;
+    const bool noNumber = (field.Kind == "Amou" || field.Kind == "Depo") && !EmptyOrNumber(field.Text);
+    return measure_.Width(field.Text, {}) >= field.Width || Len(field.Text) > limit || noNumber;
 }
 
 bool ReferenceFlow::HasBoxes(const FieldRef& field) const {
@@ -456,17 +475,23 @@ void ReferenceFlow::MakeExempt(const FieldRef& target) {
             field.Back = Over(field, std::stoi(field.Limit)) ? kRed : kGrey;
         }
         for (std::size_t i = 0; i < sheet.qty.size(); ++i) {
-            sheet.qty[i].Back = measure_.Width(sheet.qty[i].Text, {}) >= 540 ? kRed : kLightGrey;
-            sheet.amt[i].Back = measure_.Width(sheet.amt[i].Text, {}) >= 1020 ? kRed : kLightGrey;
+            sheet.qty[i].Back =
+                measure_.Width(sheet.qty[i].Text, {}) >= 540 || sheet.qty[i].NoNumber ? kRed : kLightGrey;
+            sheet.amt[i].Back =
+                measure_.Width(sheet.amt[i].Text, {}) >= 1020 || sheet.amt[i].NoNumber ? kRed : kLightGrey;
         }
     }
     rightClick_ = true;
     CurrentArea = target.Index;
     // The area is shut while the menu opens and so is left; the command gives it the focus back.
     LostFocus(target);
-    Sheets[static_cast<std::size_t>(IndexOf(target.Page))]
-        .Rows[static_cast<std::size_t>(target.Index)]
-        .Exempt = true;
+    Row& row =
+        Sheets[static_cast<std::size_t>(IndexOf(target.Page))].Rows[static_cast<std::size_t>(target.Index)];
+    row.Exempt = true;
+    row.Taxable = 0;
+    SumPage(target.Page);
+    RunningTotals();
+    Stale = true;
     GotFocus(target);
 }
 
@@ -521,20 +546,20 @@ void ReferenceFlow::Walk(int keyCode) {
         if (i == 0) {
             return;
         }
-        GiveFocus(Txt(page, page == PageId::frmP1 && i == 20 ? 10 : i - 1));
+        Arrive(Txt(page, page == PageId::frmP1 && i == 20 ? 10 : i - 1));
     } else if (i == last) {
         const PageId next = PageAt(IndexOf(page) + 1);
         ToPage(next);
-        GiveFocus(Txt(next, 0));
+        Arrive(Txt(next, 0));
     } else if (keyCode == kDownKey) {
-        GiveFocus(Txt(page, i + 1));
+        Arrive(Txt(page, i + 1));
     } else if (page == PageId::frmP1 && i < 10) {
-        GiveFocus(Txt(page, i + 1));
+        Arrive(Txt(page, i + 1));
     } else if (IsLine(page, i)) {
-        GiveFocus(HasBoxes(from) ? FieldRef{page, FieldKind::txtAmt, i} : Txt(page, i + ToAmount(page)));
+        Arrive(HasBoxes(from) ? FieldRef{page, FieldKind::txtAmt, i} : Txt(page, i + ToAmount(page)));
     } else {
         const int next = i - ToAmount(page) + 1;
-        GiveFocus(HasBoxes(Txt(page, next)) ? FieldRef{page, FieldKind::txtQty, next} : Txt(page, next));
+        Arrive(HasBoxes(Txt(page, next)) ? FieldRef{page, FieldKind::txtQty, next} : Txt(page, next));
     }
 }
 
@@ -543,7 +568,7 @@ void ReferenceFlow::BoxKeyDown(int keyCode) {
     const Sheet& sheet = Sheets[static_cast<std::size_t>(IndexOf(box.Page))];
     if (keyCode == kEnterKey || keyCode == kTabKey) {
         if (box.Kind == FieldKind::txtAmt) {
-            GiveFocus(Txt(box.Page, box.Index + ToAmount(box.Page)));
+            Arrive(Txt(box.Page, box.Index + ToAmount(box.Page)));
             return;
         }
         GiveFocus(Txt(box.Page, box.Index));
@@ -563,7 +588,7 @@ void ReferenceFlow::BoxKeyDown(int keyCode) {
     if (step == 0 || next < 0 || next >= static_cast<int>(sheet.qty.size())) {
         return;
     }
-    GiveFocus(HasBoxes(Txt(box.Page, next)) ? FieldRef{box.Page, box.Kind, next} : Txt(box.Page, next));
+    Arrive(HasBoxes(Txt(box.Page, next)) ? FieldRef{box.Page, box.Kind, next} : Txt(box.Page, next));
 }
 
 void ReferenceFlow::ClearPlaceholder() {
@@ -580,14 +605,16 @@ bool ReferenceFlow::KeyPress(char character) {
         if (character > 13) {
             ClearPlaceholder();
         }
-        return figure || character == '.' || character == 8;
+        return figure || character == '.' || character == ',' || character == 8;
     }
     const Field& area = At(field);
     if (area.Locked) {
         return false;
     }
     if (IsFinal(field) && field.Index == 4 && (character == 13 || character == 9)) {
-        Assign(field, Money(Deposit, Zero::Written));
+        if (EmptyOrNumber(area.Text)) {
+            Assign(field, Money(Deposit, Zero::Written));
+        }
         RunningTotals();
         return false;
     }
@@ -682,8 +709,11 @@ void ReferenceFlow::LineChanged(PageId page, int index) {
         row.PropText = field.Text;
     }
     currentWidth_ = field.Width;
-    if (currentLimit_ == "020" && EmptyOrNumber(field.Text)) {
+    if (currentLimit_ == "020") {
         TakeAmount(page, index);
+        if (!refire_) {
+            row.Emptied = Trimmed(field.Text).empty() && Focus == ref;
+        }
         Stale = true;
         if (refire_) {
             SumPage(page);
@@ -703,7 +733,7 @@ void ReferenceFlow::LineChanged(PageId page, int index) {
 void ReferenceFlow::TakeAmount(PageId page, int index) {
     Row& row = Sheets[static_cast<std::size_t>(IndexOf(page))].Rows[static_cast<std::size_t>(index)];
     const std::string& text = At(Txt(page, index)).Text;
-    if (Trimmed(text).empty()) {
+    if (!Number(text)) {
         row.Amount = 0;
         row.Taxable = 0;
         row.Sign = false;
@@ -783,6 +813,7 @@ void ReferenceFlow::PushTheText(PageId page, int index) {
 // ------------------------------------------------------------------------------------------------
 
 void ReferenceFlow::BoxChanged(const FieldRef& box) {
+    ColourBox(box);
     StoreLine(box.Page, box.Index);
     Product(box.Page, box.Index);
 }
@@ -850,10 +881,32 @@ void ReferenceFlow::GiveFocus(const FieldRef& field) {
     GotFocus(field);
 }
 
+void ReferenceFlow::Arrive(const FieldRef& field) {
+    const bool figure = IsBox(field) || At(field).Limit == "020";
+    GiveFocus(field);
+    if (Focus == field && figure && !(IsFinal(field) && field.Index != 4)) {
+        At(field).Start = 0;
+        At(field).Length = Len(At(field).Text);
+    }
+}
+
+void ReferenceFlow::ColourBox(const FieldRef& box) {
+    Field& field = At(box);
+    const bool placeholder = field.Text == (box.Kind == FieldKind::txtQty ? "Qty." : "Amt.");
+    const bool was = field.NoNumber;
+    field.NoNumber = !placeholder && !EmptyOrNumber(field.Text);
+    if (field.NoNumber) {
+        field.Back = kRed;
+    } else if (was) {
+        field.Back = Focus == box ? kCyan : kLightGrey;
+    }
+}
+
 void ReferenceFlow::GotFocus(const FieldRef& ref) {
     Field& field = At(ref);
     if (IsBox(ref)) {
         field.Back = kCyan;
+        ColourBox(ref);
         return;
     }
     CurrentPage = IndexOf(ref.Page);
@@ -875,6 +928,7 @@ void ReferenceFlow::LostFocus(const FieldRef& ref) {
     Field& field = At(ref);
     if (IsBox(ref)) {
         field.Back = kLightGrey;
+        ColourBox(ref);
         if (ref.Kind == FieldKind::txtAmt) {
             if (const std::optional<double> value = Number(field.Text)) {
                 Assign(ref, Money(*value, Zero::Written));
@@ -886,14 +940,19 @@ void ReferenceFlow::LostFocus(const FieldRef& ref) {
     LastArea = ref.Index;
     if (IsFinal(ref)) {
         if (Deposit + SubTotal + SalesTax + TaxableTotal != 0) {
-            Assign(Txt(PageId::frmP6, 4), Money(Deposit, Zero::Written));
+            if (EmptyOrNumber(At(Txt(PageId::frmP6, 4)).Text)) {
+                Assign(Txt(PageId::frmP6, 4), Money(Deposit, Zero::Written));
+            }
             RunningTotals();
         }
         return;
     }
     field.Back = kGrey;
-    if (field.Limit == "020" && EmptyOrNumber(field.Text)) {
+    if (field.Limit == "020") {
         LeaveAmount(ref.Page, ref.Index);
+        if (!EmptyOrNumber(field.Text)) {
+            field.Back = kRed;
+        }
     }
     if (ref == Txt(PageId::frmP1, 0) && !field.Text.empty() && !warned_ &&
         !dates::IsDate(field.Text, thisYear_)) {
@@ -907,6 +966,11 @@ void ReferenceFlow::LeaveAmount(PageId page, int index) {
     TakeAmount(page, index);
     if (const std::optional<double> value = Number(At(ref).Text)) {
         Assign(ref, Money(*value, Zero::Written));
+    }
+    Row& row = Sheets[static_cast<std::size_t>(IndexOf(page))].Rows[static_cast<std::size_t>(index)];
+    if (row.Emptied) {
+        row.Exempt = false;
+        row.Emptied = false;
     }
     SumPage(page);
     RunningTotals();
@@ -953,7 +1017,7 @@ void ReferenceFlow::FinalChanged(int index) {
     Sheets[5].Rows[static_cast<std::size_t>(index)].Store = field.Text;
     field.Back = Over(field, std::stoi(field.Limit)) ? kRed : kGrey;
     if (running_ || (field.Kind != "Depo" && field.Kind != "AllT" && field.Kind != "Tax.") ||
-        !EmptyOrNumber(field.Text)) {
+        (field.Kind != "Depo" && !EmptyOrNumber(field.Text))) {
         return;
     }
     const float value = static_cast<float>(Number(field.Text).value_or(0));

@@ -25,6 +25,7 @@ public:
         Color Back = 0;
         bool Visible = true;
         bool Locked = false;
+        bool NoNumber = false; ///< of a box
     };
     /// What the stores and tables say of one text area.
     struct Row {
@@ -37,6 +38,7 @@ public:
         float Taxable = 0;
         bool Sign = false; ///< the currency mark beside an amount shows
         bool Exempt = false;
+        bool Emptied = false; ///< by the person who is still there
     };
     struct Sheet {
         std::vector<Field> txt;
@@ -110,6 +112,8 @@ private:
     void ToggleColumns(PageId page, int index);
 
     void GiveFocus(const FieldRef& field);
+    void Arrive(const FieldRef& field); ///< by key: a figure is marked whole
+    void ColourBox(const FieldRef& box);
     void GotFocus(const FieldRef& field);
     void LostFocus(const FieldRef& field);
     void LeaveAmount(PageId page, int index);
