@@ -286,7 +286,7 @@ void FrmMainView::ShowFirst() {
 }
 
 void FrmMainView::AfterEvent() {
-    modWindows::Sweep(program_);
+    windows_->TakeClosed(modWindows::Sweep(program_));
     Follow();
 }
 
@@ -317,6 +317,20 @@ void FrmMainView::Follow() {
         }
     }
     windows_->Follow();
+    if (program_.main.BringUp) {
+        program_.main.BringUp = false;
+        TakeKeyboard();
+    }
+}
+
+void FrmMainView::TakeKeyboard() {
+    raise();
+    activateWindow();
+    if (program_.main.Focus && program_.main.Focus->Page == program_.main.PageInFront) {
+        PageOf(program_.main.PageInFront).FollowFocus();
+    } else {
+        desk_->setFocus();
+    }
 }
 
 void FrmMainView::FollowLabels() {
@@ -406,7 +420,7 @@ void FrmMainView::FollowPages() {
         view.show();
         view.raise();
     }
-    if (!windows_->ModalOpen()) {
+    if (!windows_->ModalOpen() && !windows_->KeyboardWithin()) {
         view.FollowFocus();
         const QWidget* keyboard = focusWidget();
         if ((!program_.main.Focus || program_.main.Focus->Page != front) &&

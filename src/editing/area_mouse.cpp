@@ -4,6 +4,7 @@
 #include "editing/area_conversion.h"
 #include "editing/area_facts.h"
 #include "editing/columns.h"
+#include "editing/standing_completion.h"
 #include "editing/status_line.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
@@ -15,6 +16,12 @@ void txt_MouseDown(Program& program, PageId page, int index, int button, int shi
     static_cast<void>(shift);
     EditingState& editing = program.editing;
     TextArea& area = Area(program, page, index);
+    if (Completing(program, page)) {
+        const int start = area.SelStart;
+        const int length = area.SelLength;
+        SettleCompletion(program, page);
+        modFields::SetCursor(area, start, length);
+    }
     editing.CursorPos = area.SelStart;
     modStatus::ShowCursor(program);
     if (IsFinal(page)) {

@@ -5,6 +5,7 @@
 #include "editing/push.h"
 #include "editing/selection.h"
 #include "editing/text_menu.h"
+#include "editing/standing_completion.h"
 #include "money/totals.h"
 #include "pages/page_geometry.h"
 #include "program/errors.h"
@@ -175,7 +176,7 @@ void UndoDeleteBlock(Program& program) {
     }
     FinishMove(program);
     BlockState& block = program.editing.Block;
-    SettleCompletion(program, block.UndoPage);
+    modText::SettleCompletion(program, block.UndoPage);
     {
         const ScopedFlag refiring(program.editing.RefireMode);
         modText::ForgetKey(program);

@@ -24,6 +24,9 @@ void txt_GotFocus(Program& program, PageId page, int index) {
     program.main.CurrentPage = IndexOf(page);
     editing.CurrentArea = index;
     if (!IsFinal(page)) {
+        // No word is under way in an area that has just been entered.
+        editing.Words[static_cast<std::size_t>(IndexOf(page))].InWord = false;
+        editing.ACActive[static_cast<std::size_t>(IndexOf(page))] = false;
         editing.CurrentLimit = geometry::LimitText(area.Tag);
         editing.CurrentWidth = area.Width;
         modAreaColours::ColourArea(program, page, area);
@@ -51,6 +54,7 @@ void txt_LostFocus(Program& program, PageId page, int index) {
     // A completion that was neither taken nor overtyped stands on the screen; what stands there is stored.
     if (Completing(program, page)) {
         program.editing.ACActive[static_cast<std::size_t>(IndexOf(page))] = false;
+        editing.CursorPos = static_cast<int>(area.Text.size()); // it is taken whole and flows nowhere
         txt_Change(program, page, index);
         Area(program, page, index).BackColor = colors::kResting;
     }

@@ -2,6 +2,7 @@
 
 #include "editing/area_contents.h"
 #include "editing/settle_field.h"
+#include "editing/standing_completion.h"
 #include "editing/text_menu.h"
 #include "editing/typing.h"
 #include "pages/page_geometry.h"
@@ -109,21 +110,6 @@ void RefuseAmountsAlone(Program& program) {
 
 } // namespace
 
-void SettleCompletion(Program& program, PageId page) {
-    if (!IsLinePage(page)) {
-        return;
-    }
-    bool& completing = program.editing.ACActive[static_cast<std::size_t>(IndexOf(page))];
-    if (!completing) {
-        return;
-    }
-    completing = false;
-    const auto& focus = program.main.Focus;
-    if (focus && focus->Page == page && focus->Kind == FieldKind::txt) {
-        modText::txt_Change(program, page, focus->Index);
-    }
-}
-
 RowRange RowsOf(PageId page) {
     return IsLinePage(page) ? RowRange{geometry::FirstRow(page), geometry::LastRow(page)} : kFinalPageRows;
 }
@@ -149,7 +135,7 @@ void Form_MouseMove(Program& program, PageId page, int button, float x, float y)
             return;
         }
         FinishMove(program);
-        SettleCompletion(program, page);
+        modText::SettleCompletion(program, page);
         modFigures::SettleFocused(program); // leaving it later is silent while areas are selected
         block.BandDragging = true;
     }
@@ -202,7 +188,7 @@ Taken ExtendByKey(Program& program, const FieldRef& field, Toward toward) {
     int last = row;
     if (!program.editing.BlockMode) {
         FinishMove(program);
-        SettleCompletion(program, field.Page);
+        modText::SettleCompletion(program, field.Page);
         modFigures::SettleFocused(program);
         block.KeyAnchor = row;
     } else {

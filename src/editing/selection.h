@@ -52,10 +52,6 @@ void ShowModeSign(Program& program, ModeSign sign);
 /// "DeSelectAllControls".
 void DeSelectAllControls(Program& program);
 
-/// A completion that stands unanswered in the focused area of a page is taken for what the area holds: block
-/// work must not run into silent handlers.
-void SettleCompletion(Program& program, PageId page);
-
 /// Ends a move whose key was not let go: its page's handlers run. A failure is told and goes no further.
 void FinishMove(Program& program);
 /// The message of a move that failed.

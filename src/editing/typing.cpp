@@ -9,6 +9,7 @@
 #include "editing/columns.h"
 #include "editing/navigation.h"
 #include "editing/push.h"
+#include "editing/standing_completion.h"
 #include "editing/status_line.h"
 #include "money/amounts.h"
 #include "money/totals.h"
@@ -175,10 +176,10 @@ Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int
         modColumns::ToggleColumns(program);
         return Taken::Yes;
     }
-    bool& completing = program.editing.ACActive[static_cast<std::size_t>(IndexOf(page))];
-    if (completing && Area(program, page, index).SelLength == 0) {
-        completing = false;
+    if (Area(program, page, index).SelLength == 0) {
+        SettleCompletion(program, page);
     }
+    const bool completing = Completing(program, page);
     if (!completing && keyCode == keys::kTab && shift == keys::kShiftState) {
         modNavigate::MoveBack(program, Field(page, index));
         return Taken::Yes;
@@ -201,7 +202,9 @@ Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int
         }
         return Taken::Yes;
     }
-    return Taken::No;
+    const bool accepted = completing && program.hooks.CompletionKey &&
+                          program.hooks.CompletionKey(program, Field(page, index), keyCode, shift);
+    return accepted ? Taken::Yes : Taken::No;
 }
 
 constexpr std::string_view kKeydownNames[] = {"Page 1 Keydown", "Page 2 Keydown", "Page 3 Keydown",
@@ -268,8 +271,6 @@ void txt_KeyPress(Program& program, PageId page, int index, int& keyAscii) {
 }
 
 void txt_KeyUp(Program& program, PageId page, int index, int keyCode, int shift) {
-    static_cast<void>(keyCode);
-    static_cast<void>(shift);
     TextArea& area = Area(program, page, index);
     EditingState& editing = program.editing;
     if (IsFinal(page)) {
@@ -285,6 +286,9 @@ void txt_KeyUp(Program& program, PageId page, int index, int keyCode, int shift)
     editing.CurrentWidth = area.Width;
     modAreaColours::ColourArea(program, page, area);
     modStatus::ShowTextPosition(program, area);
+    if (program.hooks.CompleteWord) {
+        program.hooks.CompleteWord(program, Field(page, index), keyCode, shift);
+    }
 }
 
 void RefireTextChanges(Program& program, PageId page) {

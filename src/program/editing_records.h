@@ -3,6 +3,7 @@
 #include "program/page_records.h"
 
 #include <array>
+#include <bitset>
 #include <optional>
 #include <string>
 #include <vector>
@@ -65,6 +66,33 @@ private:
     }
 };
 
+/// The word at the cursor, as completion follows it; one a page.
+struct WordState {
+    int WordStart = 0; ///< where the word begins
+    int WordLen = 0;   ///< letters typed in it so far
+    bool NewWord = false;
+    bool InWord = false;
+    std::string TypedWord;
+    std::string MatchedTerm;
+    std::string MatchedAmount;
+};
+
+/// Which keys that are still down have put a character into which field. A key let go elsewhere, or one that
+/// only moved the cursor, completes nothing.
+struct TypedKeys {
+    std::optional<FieldRef> Field;
+    std::bitset<256> Codes;
+    int KeyDown = 0;        ///< the key being pressed
+    bool Character = false; ///< it has passed the field's filter
+
+    /// A sign may be let go under another code than it was pressed with, when Shift was let go first.
+    [[nodiscard]] static std::size_t PlaceOf(int keyCode) {
+        constexpr int kFirstDigit = 48, kLastDigit = 57, kSigns = 188, kOther = 192;
+        const bool sign = (keyCode >= kFirstDigit && keyCode <= kLastDigit) || keyCode >= kSigns;
+        return static_cast<std::size_t>(sign || keyCode < 0 ? kOther : keyCode);
+    }
+};
+
 /// One shared record, not one per page: nested changes of a push read and write it as it stands.
 struct EditingState {
     std::string CurrentText;
@@ -93,4 +121,6 @@ struct EditingState {
     std::optional<FieldRef> EmptiedAmount;
     /// A suggested completion stands selected in the area; per page frmP1 to frmP5.
     std::array<bool, kLinePageCount> ACActive{};
+    std::array<WordState, kLinePageCount> Words;
+    TypedKeys Typed;
 };

@@ -19,13 +19,17 @@ struct Hooks {
     std::function<void(Program&, int)> UpdatePageButtons; ///< change the page, 0 to 6
     Call CollectQtyBoxes;                                 ///< bring the stores up to what the row fields show
     Call TakeFreshFigures;    ///< what is being typed is settled and everything summed, before others see it
-    Call TakeCompletion;      ///< a standing word completion is taken, as leaving its area takes it
     Call DeSelectAllControls; ///< end a block selection on all pages
     std::function<void(Program&, int)> PageKey;   ///< a page-up (33) or page-down (34) key
     Call UpdateTextMenu;                          ///< the states of the text area's commands
     std::function<void(Program&, int)> MoveBlock; ///< an up (38) or down (40) key while areas are selected
     std::function<void(Program&, int)> TermsKey;  ///< F5 (116) or F6 (117) on a line page
+    /// The list in use may be another one now; it is read at once where it is needed.
     Call ReadFrequentlyUsedTerms;
+    /// A key let go in a text area of a line page: completes the word at the cursor.
+    std::function<void(Program&, const FieldRef&, int keyCode, int shift)> CompleteWord;
+    /// A key pressed while a completion stands: whether it has accepted it and is used up.
+    std::function<bool(Program&, const FieldRef&, int keyCode, int shift)> CompletionKey;
     std::function<void(Program&, const std::string&)> ReadTextFile; ///< shows a text file, by its full path
     Call ShowTermsWindow;
     Call ShowCalculator;

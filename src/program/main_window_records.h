@@ -75,6 +75,8 @@ struct MainWindow {
 
     /// The field that has the keyboard; none when it is elsewhere in the main window.
     std::optional<FieldRef> Focus;
+    /// A floating window has handed the keyboard back to the page; the front end gives it and clears this.
+    bool BringUp = false;
 
     CommandButton cmdClearMem{.Caption = "Clear Selected", .ToolTipText = "Shortcut = CTRL + D"};
     CommandButton cmdPreview{

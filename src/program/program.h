@@ -11,7 +11,9 @@
 #include "program/main_window_records.h"
 #include "program/page_records.h"
 #include "program/print_records.h"
+#include "program/search_records.h"
 #include "program/settings_records.h"
+#include "program/terms_records.h"
 #include "program/totals_records.h"
 #include "program/window.h"
 
@@ -35,6 +37,8 @@ struct Program {
     DesignerRecords designer;
     EditingState editing;
     PrintRecords printing;
+    TermsRecords terms;
+    SearchRecords search;
     CalendarRecords calendar;
     AddressRecords addresses;
     MainWindow main;

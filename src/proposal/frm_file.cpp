@@ -164,6 +164,7 @@ void frmFile::cmdOpenOK_Click(Program& program) {
         OpenLogo(program);
     } else if (program.document.FileFilter == kTerms) {
         program.run.FUTFileName = selected_;
+        program.run.TermsPinned = true;
         Finish(program);
         if (program.hooks.ReadFrequentlyUsedTerms) {
             program.hooks.ReadFrequentlyUsedTerms(program);

@@ -168,7 +168,7 @@ void mnuFileNew_Click(Program& program) {
         page.lbl[10].Left = 10080;
         if (!program.run.TermsPinned) {
             program.run.FUTFileName = "Default Terms.fut";
-            if (program.settings.ShowFUT && program.hooks.ReadFrequentlyUsedTerms) {
+            if (program.hooks.ReadFrequentlyUsedTerms) {
                 program.hooks.ReadFrequentlyUsedTerms(program);
             }
         }

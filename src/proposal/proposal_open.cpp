@@ -217,7 +217,7 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
     TakeKind(program);
     program.main.imgFootNotes.Picture =
         FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile) ? 1 : 0;
-    if (program.settings.ShowFUT && program.hooks.ReadFrequentlyUsedTerms) {
+    if (program.hooks.ReadFrequentlyUsedTerms) {
         program.hooks.ReadFrequentlyUsedTerms(program);
     }
     SettleLogo(program);

@@ -60,6 +60,9 @@ void ResetPages(Program& program) {
     program.main.Focus.reset();
     program.main.CurrentPage = 0;
     program.editing.ACActive.fill(false);
+    if (Window* results = modWindows::Find(program, "frmSR")) {
+        modWindows::Close(program, *results); // its hits are those of the proposal that goes
+    }
     // What was deleted from one proposal is not put back into another.
     program.editing.Block.UndoMemory.clear();
     program.editing.UndoAvailable = false;

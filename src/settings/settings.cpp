@@ -282,6 +282,9 @@ void GetUserPreferences(Program& program) {
         EnsureFolders(program);
         modOffsets::ReadPrinterOffsets(program);
         settings.PrefsRead = true;
+        if (program.hooks.ReadFrequentlyUsedTerms) {
+            program.hooks.ReadFrequentlyUsedTerms(program); // the folder may be another one
+        }
     });
 }
 

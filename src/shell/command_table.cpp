@@ -1,5 +1,6 @@
 #include "shell/command_table.h"
 
+#include "calculator/frm_calc.h"
 #include "calendar/frm_dates.h"
 #include "contract/frm_editor.h"
 #include "contract/frm_notes.h"
@@ -33,9 +34,12 @@
 #include "shell/admin_commands.h"
 #include "shell/closing.h"
 #include "shell/desktop_links.h"
+#include "shell/find_command.h"
 #include "shell/help_commands.h"
 #include "shell/option_commands.h"
 #include "shell/support_commands.h"
+#include "terms/area_terms.h"
+#include "terms/frm_fut.h"
 
 #include <array>
 #include <memory>
@@ -249,6 +253,7 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Name = "mnuEditFind",
           .Caption = "&Find",
           .Parent = mnuEdit,
+          .Run = modMain::mnuEditFind_Click,
           .Shortcut = "Ctrl+F"},
     Entry{.Id = mnuEditCtrl, .Name = "mnuEditCtrl", .Caption = "&Edit Control", .What = Kind::Menu},
     Entry{.Id = mnuEditTextBox,
@@ -313,15 +318,18 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Name = "mnuEditTextAddFUT",
           .Caption = "Add to Frequent Terms",
           .Parent = mnuEditTextBox,
+          .Run = modTerms::AddTermFromArea,
           .Shortcut = "F9"},
     Entry{.Id = mnuEditTextEditFUT,
           .Name = "mnuEditTextEditFUT",
           .Caption = "Edit this Frequent Term",
-          .Parent = mnuEditTextBox},
+          .Parent = mnuEditTextBox,
+          .Run = modTerms::mnuEditTextEditFUT_Click},
     Entry{.Id = mnuEditTextDeleteFUT,
           .Name = "mnuEditTextDeleteFUT",
           .Caption = "Remove from Frequent Terms",
-          .Parent = mnuEditTextBox},
+          .Parent = mnuEditTextBox,
+          .Run = modTerms::mnuEditTextDeleteFUT_Click},
     Entry{.Id = mnuEditTextBreak3,
           .Name = "mnuEditTextBreak3",
           .Caption = "-",
@@ -503,8 +511,16 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Parent = mnuManage,
           .Run = modContract::mnuManageEditor_Click},
     Entry{.Id = mnuOpt, .Name = "mnuOpt", .Caption = "Options", .What = Kind::Menu},
-    Entry{.Id = mnuOptFUT, .Name = "mnuOptFUT", .Caption = "Show &Frequently Used Terms", .Parent = mnuOpt},
-    Entry{.Id = mnuOptCalc, .Name = "mnuOptCalc", .Caption = "Show &Calculator", .Parent = mnuOpt},
+    Entry{.Id = mnuOptFUT,
+          .Name = "mnuOptFUT",
+          .Caption = "Show &Frequently Used Terms",
+          .Parent = mnuOpt,
+          .Run = modTerms::mnuOptFUT_Click},
+    Entry{.Id = mnuOptCalc,
+          .Name = "mnuOptCalc",
+          .Caption = "Show &Calculator",
+          .Parent = mnuOpt,
+          .Run = modCalculator::mnuOptCalc_Click},
     Entry{.Id = mnuOptPrinterOffset,
           .Name = "mnuOptPrinterOffset",
           .Caption = "Change Printer Offsets",

@@ -79,6 +79,27 @@ Taken Form_KeyDown(Program& program, int keyCode, int shift) {
     return Taken::No;
 }
 
+/// Which keys put characters into which field: completion asks when they are let go.
+void NoteKeyDown(Program& program, int keyCode) {
+    TypedKeys& typed = program.editing.Typed;
+    typed.KeyDown = keyCode;
+    typed.Character = false;
+    typed.Codes.reset(TypedKeys::PlaceOf(keyCode));
+}
+
+void NoteTyped(Program& program, const FieldRef& field) {
+    TypedKeys& typed = program.editing.Typed;
+    if (!typed.Character) {
+        return;
+    }
+    typed.Character = false;
+    if (typed.Field != field) {
+        typed.Codes.reset();
+        typed.Field = field;
+    }
+    typed.Codes.set(TypedKeys::PlaceOf(typed.KeyDown));
+}
+
 void PutCursor(Program& program, const FieldRef& field, int selStart, int selLength) {
     modFields::SetCursor(modFields::Area(program, field), selStart, selLength);
 }
@@ -100,6 +121,7 @@ Taken FieldKeyDown(Program& program, const FieldRef& field, int keyCode, int shi
 
 Taken KeyDown(Program& program, int keyCode, int shift, int selStart, int selLength) {
     program.main.Notice.clear();
+    NoteKeyDown(program, keyCode);
     if (program.main.Focus) {
         PutCursor(program, *program.main.Focus, selStart, selLength);
     }
@@ -129,6 +151,7 @@ int KeyPress(Program& program, int keyAscii) {
     } else {
         modColumns::Box_KeyPress(program, field, kept);
     }
+    program.editing.Typed.Character = kept >= keys::kBlank;
     return kept;
 }
 
@@ -137,12 +160,14 @@ bool MayEdit(Program& program, const FieldRef& field) {
 }
 
 void Edited(Program& program, const FieldRef& field, std::string_view text, int selStart, int selLength) {
+    NoteTyped(program, field);
     modFields::TypeText(program, field, text, selStart, selLength);
     ShowCaret(program);
 }
 
 void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view text, int selStart,
                       int selLength) {
+    program.editing.Typed.Character = false;
     if (IsText(field)) {
         program.editing.CursorPos = modFields::Area(program, field).SelStart;
         program.editing.LastKeyChar.clear();

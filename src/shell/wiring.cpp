@@ -1,5 +1,6 @@
 #include "shell/wiring.h"
 
+#include "calculator/frm_calc.h"
 #include "calendar/read_event_dates.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
@@ -15,6 +16,8 @@
 #include "output/page_count.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
+#include "terms/completion.h"
+#include "terms/frm_fut.h"
 
 namespace {
 
@@ -65,6 +68,12 @@ void Wire(Program& program) {
     hooks.TakeFreshFigures = modFigures::TakeFresh;
     hooks.ReadEventDates = modCalendar::ReadEventDatesAtStart;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
+    hooks.TermsKey = modTerms::TermsKey;
+    hooks.ReadFrequentlyUsedTerms = modTerms::ListInUseChanged;
+    hooks.CompleteWord = modTerms::CompleteWord;
+    hooks.CompletionKey = modTerms::CompletionKey;
+    hooks.ShowTermsWindow = modTerms::ShowTermsWindow;
+    hooks.ShowCalculator = modCalculator::ShowCalculator;
     hooks.OpenFormatFile = modFormat::OpenFormatFile;
     hooks.ParsePropertyFile = modFormat::ParsePropertyFile;
     hooks.AssignPropChanges = modFormat::AssignPropChanges;

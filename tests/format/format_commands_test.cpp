@@ -407,8 +407,9 @@ TEST(ChooserKinds, ATermsListBecomesTheListInUseAndTheWorkingFolderStays) {
     int read = 0;
     run.program.hooks.ReadFrequentlyUsedTerms = [&](Program&) { ++read; };
     modWindows::Show(run.program, std::make_unique<frmFile>());
-    ASSERT_EQ(run.Chooser().FileList1.Items, std::vector<std::string>{"Garden.fut"});
-    run.Chooser().FileList1_Click(run.program, 0);
+    ASSERT_EQ(run.Chooser().FileList1.Items,
+              (std::vector<std::string>{"Default Terms.fut", "Garden.fut", "Wedding Terms.fut"}));
+    run.Chooser().FileList1_Click(run.program, 1);
     run.Chooser().cmdOpenOK_Click(run.program);
     EXPECT_EQ(read, 1);
     EXPECT_EQ(run.program.run.FUTFileName, "Garden.fut");

@@ -167,7 +167,7 @@ TEST(AskingToSave, YesWithoutAClientsNameKeepsTheTextAndStopsTheCommand) {
         run.surroundings.questions.Expect("Please enter the client's name in the appropriate area");
         command(run.program);
         EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "x");
-        EXPECT_TRUE(run.program.windows.Open.empty());
+        EXPECT_EQ(modWindows::TopModal(run.program), nullptr);
         EXPECT_FALSE(run.program.document.Cancelled);
     }
 }

@@ -17,7 +17,7 @@ constexpr Color kCyan = 0xFFFF00;
 constexpr Color kRed = 0x0000FF;
 
 constexpr int kTabKey = 9, kEnterKey = 13, kEndKey = 35, kHomeKey = 36, kLeftKey = 37, kUpKey = 38,
-              kRightKey = 39, kDownKey = 40, kF8Key = 119;
+              kRightKey = 39, kDownKey = 40, kInsertKey = 45, kF8Key = 119;
 
 int Len(const std::string& text) {
     return static_cast<int>(text.size());
@@ -288,11 +288,14 @@ void ReferenceFlow::Character(char character) {
         return;
     }
     const unsigned char byte = static_cast<unsigned char>(character);
-    KeyDown(std::isalnum(byte) != 0 || byte == ' ' ? std::toupper(byte) : 190);
+    const int code = std::isalnum(byte) != 0 || byte == ' ' ? std::toupper(byte) : 190;
+    KeyDown(code);
+    std::optional<FieldRef> typedInto;
     if (KeyPress(character)) {
+        typedInto = Focus;
         Replace(std::string(1, character));
     }
-    KeyUp();
+    KeyUp(code, typedInto);
 }
 
 void ReferenceFlow::Backspace() {
@@ -310,7 +313,7 @@ void ReferenceFlow::Backspace() {
             Replace("");
         }
     }
-    KeyUp();
+    KeyUp(8);
 }
 
 void ReferenceFlow::Delete() {
@@ -327,7 +330,7 @@ void ReferenceFlow::Delete() {
             Replace("");
         }
     }
-    KeyUp();
+    KeyUp(46);
 }
 
 void ReferenceFlow::Key(int keyCode) {
@@ -352,7 +355,7 @@ void ReferenceFlow::Key(int keyCode) {
     if ((keyCode == kEnterKey || keyCode == kTabKey) && IsFinal(*Focus)) {
         static_cast<void>(KeyPress(static_cast<char>(keyCode)));
     }
-    KeyUp();
+    KeyUp(keyCode);
 }
 
 void ReferenceFlow::Commit(std::string_view text) {
@@ -390,7 +393,7 @@ void ReferenceFlow::PasteByKey(std::string_view clipboard) {
             Replace(Trimmed(clipboard));
         }
     }
-    KeyUp();
+    KeyUp('V');
 }
 
 void ReferenceFlow::PasteByMouse(const FieldRef& target, int at, std::string_view text) {
@@ -418,6 +421,9 @@ void ReferenceFlow::Drag(const FieldRef& target, int from, int to) {
         return;
     }
     Field& field = At(target);
+    if (!IsBox(target)) {
+        Settle(target.Page);
+    }
     const int first = std::clamp(std::min(from, to), 0, Len(field.Text));
     const int second = std::clamp(std::max(from, to), 0, Len(field.Text));
     field.Start = first;
@@ -529,12 +535,23 @@ void ReferenceFlow::KeyDown(int keyCode) {
         ToggleColumns(field.Page, field.Index);
         return;
     }
-    if (keyCode == kEnterKey || keyCode == kTabKey || keyCode == kUpKey || keyCode == kDownKey) {
+    if (At(field).Length == 0) {
+        Settle(field.Page);
+    }
+    const bool stands = WordOf(field.Page).Active;
+    if (((keyCode == kEnterKey || keyCode == kTabKey) && !stands) || keyCode == kUpKey ||
+        keyCode == kDownKey) {
         Walk(keyCode);
         return;
     }
     CursorPos = At(field).Start;
     lastKey_ = std::string(1, static_cast<char>(keyCode));
+    if (stands && (keyCode == kRightKey || keyCode == kInsertKey || keyCode == kEnterKey)) {
+        TakeWord(field.Page);
+        if (keyCode == kEnterKey) {
+            PlacePrice(field, WordOf(field.Page).Amount);
+        }
+    }
 }
 
 void ReferenceFlow::Walk(int keyCode) {
@@ -625,7 +642,7 @@ bool ReferenceFlow::KeyPress(char character) {
     return character != 13 && character != 9;
 }
 
-void ReferenceFlow::KeyUp() {
+void ReferenceFlow::KeyUp(int keyCode, const std::optional<FieldRef>& typedInto) {
     if (!Focus || IsBox(*Focus)) {
         return;
     }
@@ -636,6 +653,7 @@ void ReferenceFlow::KeyUp() {
     }
     currentWidth_ = field.Width;
     field.Back = Over(field, std::stoi(field.Limit)) ? kRed : kCyan;
+    CompletionKeyUp(keyCode, typedInto == Focus);
 }
 
 // ---- text
@@ -676,7 +694,7 @@ void ReferenceFlow::Changed(const FieldRef& field) {
         BoxChanged(field);
     } else if (IsFinal(field)) {
         FinalChanged(field.Index);
-    } else {
+    } else if (!WordOf(field.Page).Active) {
         LineChanged(field.Page, field.Index);
     }
 }
@@ -912,6 +930,8 @@ void ReferenceFlow::GotFocus(const FieldRef& ref) {
     CurrentPage = IndexOf(ref.Page);
     CurrentArea = ref.Index;
     if (!IsFinal(ref)) {
+        WordOf(ref.Page).Under = false;
+        WordOf(ref.Page).Active = false;
         currentLimit_ = field.Limit;
         currentWidth_ = field.Width;
         field.Back = Over(field, std::stoi(field.Limit)) ? kRed : kCyan;
@@ -946,6 +966,11 @@ void ReferenceFlow::LostFocus(const FieldRef& ref) {
             RunningTotals();
         }
         return;
+    }
+    if (WordOf(ref.Page).Active) {
+        WordOf(ref.Page).Active = false;
+        CursorPos = Len(field.Text);
+        Changed(ref);
     }
     field.Back = kGrey;
     if (field.Limit == "020") {
@@ -1030,4 +1055,154 @@ void ReferenceFlow::FinalChanged(int index) {
     }
     RunningTotals();
     Stale = true;
+}
+
+// ---- terms
+// --------------------------------------------------------------------------------------------------
+
+namespace {
+
+std::string LowerCase(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::tolower(c); });
+    return text;
+}
+
+} // namespace
+
+void ReferenceFlow::Settle(PageId page) {
+    if (!WordOf(page).Active) {
+        return;
+    }
+    WordOf(page).Active = false;
+    if (!Focus || Focus->Page != page || IsBox(*Focus)) {
+        return;
+    }
+    Field& field = At(*Focus);
+    CursorPos = Len(field.Text);
+    if (field.Length > 0) {
+        field.Start = Len(field.Text);
+        field.Length = 0;
+    }
+    Changed(*Focus);
+}
+
+void ReferenceFlow::TakeWord(PageId page) {
+    Settle(page);
+    Field& field = At(*Focus);
+    field.Start = Len(field.Text);
+    field.Length = 0;
+    CursorPos = field.Start;
+}
+
+void ReferenceFlow::CompletionKeyUp(int keyCode, bool typed) {
+    const FieldRef here = *Focus;
+    Field& field = At(here);
+    const bool atEnd = field.Start == Len(field.Text);
+    if (Terms.empty() || keyCode == 46 || keyCode == 8 || keyCode == 37 || keyCode == 16 || keyCode == 38 ||
+        (!atEnd && field.Length == 0)) {
+        return;
+    }
+    Word& word = WordOf(here.Page);
+    if (CursorPos == 1) {
+        word.Under = true;
+        word.Start = 0;
+    } else if (keyCode == ' ') {
+        word.Under = true;
+        word.Start = CursorPos;
+    }
+    if (!typed || !atEnd || field.Length != 0 || !word.Under || !IsLine(here.Page, here.Index)) {
+        return;
+    }
+    const int length = CursorPos - word.Start;
+    if (length < 1 || length <= StartLength) {
+        return;
+    }
+    const std::string head = field.Text.substr(0, static_cast<std::size_t>(word.Start));
+    const std::string stem = field.Text.substr(static_cast<std::size_t>(word.Start));
+    word.Amount.clear();
+    for (const std::string& line : Terms) {
+        const std::string term = line.substr(0, line.find('['));
+        const std::string begin = term.substr(0, stem.size());
+        if (LowerCase(begin) != LowerCase(stem)) {
+            continue;
+        }
+        const std::size_t open = line.find('[');
+        const std::size_t close = line.find(']', std::min(open, line.size()));
+        word.Amount = close == std::string::npos ? "" : line.substr(open + 1, close - open - 1);
+        word.Active = true;
+        ++Completions;
+        if (begin == stem) {
+            field.Text = head + term;
+        } else if (stem == LowerCase(stem)) {
+            field.Text = head + LowerCase(term);
+        } else if (stem == Proper(stem)) {
+            field.Text = head + Proper(term);
+        } else if (stem == Upper(stem)) {
+            field.Text = head + Upper(term);
+        }
+        field.Start = CursorPos;
+        field.Length = Len(field.Text) - CursorPos;
+        return;
+    }
+}
+
+void ReferenceFlow::TypedAndLeft(const FieldRef& field, const std::string& figure) {
+    Assign(field, figure);
+    if (IsBox(field)) {
+        if (field.Kind == FieldKind::txtAmt) {
+            Assign(field, Money(*Number(figure), Zero::Written));
+        }
+        Product(field.Page, field.Index);
+    } else if (IsFinal(field)) {
+        Assign(field, Money(Deposit, Zero::Written));
+        RunningTotals();
+        return;
+    } else {
+        Assign(field, Money(*Number(figure), Zero::Written));
+    }
+    SumPage(field.Page);
+    RunningTotals();
+}
+
+void ReferenceFlow::PlacePrice(const FieldRef& line, const std::string& amount) {
+    if (!Number(amount)) {
+        return;
+    }
+    const FieldRef target = HasBoxes(line) ? FieldRef{line.Page, FieldKind::txtAmt, line.Index}
+                                           : Txt(line.Page, line.Index + ToAmount(line.Page));
+    const std::string stands = Trimmed(At(target).Text);
+    if (stands.empty() || (IsBox(target) && At(target).Text == "Amt.")) {
+        ++PricesPlaced;
+        TypedAndLeft(target, Trimmed(amount));
+    }
+}
+
+void ReferenceFlow::DropTerm(const FieldRef& target, std::string_view line) {
+    ToPage(target.Page);
+    const Field& field = At(target);
+    const std::string text(line.substr(0, line.find('[')));
+    const bool figures = IsBox(target) || field.Limit == "020";
+    const bool computed = IsFinal(target) && target.Index != 4;
+    if (!field.Visible || field.Locked || computed || (figures ? !Number(text) : Trimmed(text).empty())) {
+        return;
+    }
+    Settle(target.Page);
+    if (figures) {
+        TypedAndLeft(target, Trimmed(text));
+    } else {
+        const std::string value = Trimmed(field.Text).empty() ? text : field.Text + " " + text;
+        CursorPos = Len(value);
+        lastKey_.clear();
+        Assign(target, value);
+        const std::size_t open = line.find('[');
+        const std::size_t close = line.find(']', std::min(open, line.size()));
+        if (IsLine(target.Page, target.Index) && close != std::string_view::npos) {
+            PlacePrice(target, std::string(line.substr(open + 1, close - open - 1)));
+        }
+    }
+    GiveFocus(target);
+    Field& dropped = At(target);
+    dropped.Start = Len(dropped.Text);
+    dropped.Length = 0;
+    CursorPos = dropped.Start;
 }
