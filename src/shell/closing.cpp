@@ -65,6 +65,7 @@ void KeepUnsaved(Program& program) {
     if (program.main.Closing || !program.main.Loaded) {
         return;
     }
+    modWindows::KeepUnsaved(program);
     if (modProposal::SomethingChanged(program) || modFile::PropertiesChanged(program)) {
         modFile::BackupThisFile(program); // the marker stays: the next start offers it
     } else {
