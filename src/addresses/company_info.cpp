@@ -80,7 +80,9 @@ Outcome SaveCompanyInfo(Program& program, AddressWindow& window) {
         return Outcome::Stopped;
     }
     ForgetChanges(program, window);
-    modPages::CompanyInfoChanged(program, before);
+    if (modPages::CompanyInfoChanged(program, before) == modPages::OpenFormat::AheadOfDisk) {
+        Tell(program, "The open format still carries the old lines on disk; save it.");
+    }
     return Outcome::Done;
 }
 

@@ -1,10 +1,12 @@
 #include "base/version.h"
 #include "desktop/convert.h"
+#include "desktop/end_signals.h"
 #include "desktop/frm_main_view.h"
 #include "desktop/icons.h"
 #include "desktop/qt_platform.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "shell/closing.h"
 #include "shell/start_up.h"
 #include "shell/wiring.h"
 
@@ -32,7 +34,9 @@ int Run() {
     surroundings.questions.Over = &window;
     surroundings.questions.BeforeAsking = [&] { window.Follow(); };
     surroundings.events.Follow = [&] { window.Follow(); };
-    if (modStart::Main(program) != modStart::StartResult::Running) {
+    const EndSignals endings([&] { modClosing::Interrupted(program); },
+                             [&] { modClosing::KeepUnsaved(program); });
+    if (modStart::Main(program) != modStart::StartResult::Running || program.main.Closing) {
         return 0;
     }
     window.AfterEvent(); // a click may have come while the splash was still busy

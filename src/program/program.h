@@ -12,6 +12,7 @@
 #include "program/page_records.h"
 #include "program/print_records.h"
 #include "program/search_records.h"
+#include "program/recovery_records.h"
 #include "program/settings_records.h"
 #include "program/terms_records.h"
 #include "program/totals_records.h"
@@ -31,6 +32,7 @@ struct Program {
     RunState run;
     PageSet pages;
     DocumentState document;
+    RecoveryRecords recovery;
     GuardFlags guards;
     TotalsRecords totals;
     FormatRecords format;

@@ -209,8 +209,8 @@ def starts(display, folder, **options):
     person.presses("Return")
     person.sees("Quillbrook")
     person.settles()
-    if not any((folder / "Proposals").glob("*.hef")):
-        person.presses("Return")  # the box that says that there are no events
+    if person.asks("text", "qt_msgbox_label") == "No Events Found":  # a folder without proposals
+        person.presses("Return")
         person.sees("Quillbrook")
     return program, person
 
