@@ -80,9 +80,7 @@ Outcome SaveCompanyInfo(Program& program, AddressWindow& window) {
         return Outcome::Stopped;
     }
     ForgetChanges(program, window);
-    if (modPages::CompanyInfoChanged(program, before) == modPages::OpenFormat::AheadOfDisk) {
-        Tell(program, "The open format still carries the old lines on disk; save it.");
-    }
+    modPages::CompanyInfoChanged(program, before);
     return Outcome::Done;
 }
 

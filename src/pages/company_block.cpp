@@ -6,7 +6,6 @@
 
 #include <array>
 #include <string>
-#include <string_view>
 
 namespace modPages {
 
@@ -24,75 +23,72 @@ constexpr std::size_t kRemittanceLines = 6;
 constexpr std::size_t kRepresentative = 51;
 constexpr float kRow = 270;
 
-/// Changes words and places on the pages, and what the proposal and the open format keep of them.
-class Rewriter {
-public:
-    Rewriter(Program& program, const SettingsRecords& before) : program_(program), before_(before) {}
-
-    void Reword(PageId page, std::size_t label, std::string_view lead, Value value) {
-        const std::string was = std::string(lead) + before_.*value;
-        const std::string is = std::string(lead) + program_.settings.*value;
-        if (was == is) {
-            return;
-        }
-        PageLabel& shown = program_.pages[page].lbl[label];
-        if (shown.Caption == was) {
-            shown.Caption = is;
-        }
-        if (page == PageId::frmP6_1) {
-            return; // rides on the final page in the records
-        }
-        LabelChangeRecord& kept = Kept(program_.format.PropLabelChanges, page, label);
-        if (kept.Changed && kept.Caption == was) {
-            kept.Caption = is;
-        }
-        FormatRecords& format = program_.format;
-        LabelChangeRecord& inFormat = Kept(format.FormatLabelChanges, page, label);
-        if (format.FormatOpen && inFormat.Changed && inFormat.Caption == was) {
-            inFormat.Caption = is;
-            inFormat.Saved = false;
-            format.Touched = true;
-            formatAhead_ = true;
-        }
+void Reword(PageLabel& label, const std::string& was, const std::string& is) {
+    if (label.Caption == was) {
+        label.Caption = is;
     }
+}
 
-    void FinalPage(PageId page) {
-        Reword(page, kRepresentative, "Representative for ", &SettingsRecords::CompanyName);
-        for (std::size_t line = 0; line < kRemittanceLines; ++line) {
-            Reword(page, kRemittance + line, "", kLetterhead[line]);
-        }
-        const bool has = !program_.settings.CompanyAddress2.empty();
-        if (has == !before_.CompanyAddress2.empty()) {
-            return;
-        }
-        for (std::size_t label = 60; label <= 62; ++label) {
-            program_.pages[page].lbl[label].Top += has ? kRow : -kRow;
-        }
+void FinalPage(Page& page, const SettingsRecords& before, const SettingsRecords& now) {
+    const std::string representative = "Representative for ";
+    Reword(page.lbl[kRepresentative], representative + before.CompanyName, representative + now.CompanyName);
+    for (std::size_t line = 0; line < kRemittanceLines; ++line) {
+        Reword(page.lbl[kRemittance + line], before.*kLetterhead[line], now.*kLetterhead[line]);
     }
-
-    [[nodiscard]] bool FormatAhead() const { return formatAhead_; }
-
-private:
-    static LabelChangeRecord& Kept(LabelChangeTable& table, PageId page, std::size_t label) {
-        return table[static_cast<std::size_t>(IndexOf(page))][label];
+    if (before.CompanyAddress2.empty() == now.CompanyAddress2.empty()) {
+        return;
     }
+    const float down = now.CompanyAddress2.empty() ? -kRow : kRow;
+    for (std::size_t label = 60; label <= 62; ++label) {
+        page.lbl[label].Top += down;
+    }
+}
 
-    Program& program_;
-    const SettingsRecords& before_;
-    bool formatAhead_ = false;
-};
+/// The open format's own records of those labels; true when one of them had the old words.
+bool RewordInFormat(Program& program, PageId page, std::size_t index, const std::string& was,
+                    const std::string& is) {
+    LabelChangeRecord& record =
+        program.format.FormatLabelChanges[static_cast<std::size_t>(IndexOf(page))][index];
+    if (was == is || !record.Changed || record.Caption != was) {
+        return false;
+    }
+    record.Caption = is;
+    record.Saved = false;
+    record.FromFormat = false;
+    return true;
+}
+
+bool RewordFormat(Program& program, const SettingsRecords& before, const SettingsRecords& now) {
+    bool any = false;
+    for (std::size_t line = 0; line < kLetterhead.size(); ++line) {
+        any =
+            RewordInFormat(program, PageId::frmP1, line, before.*kLetterhead[line], now.*kLetterhead[line]) ||
+            any;
+    }
+    const std::string representative = "Representative for ";
+    any = RewordInFormat(program, PageId::frmP6, kRepresentative, representative + before.CompanyName,
+                         representative + now.CompanyName) ||
+          any;
+    for (std::size_t line = 0; line < kRemittanceLines; ++line) {
+        any = RewordInFormat(program, PageId::frmP6, kRemittance + line, before.*kLetterhead[line],
+                             now.*kLetterhead[line]) ||
+              any;
+    }
+    return any;
+}
 
 } // namespace
 
-OpenFormat CompanyInfoChanged(Program& program, const SettingsRecords& before) {
-    Rewriter rewriter(program, before);
+void CompanyInfoChanged(Program& program, const SettingsRecords& before) {
+    const SettingsRecords& now = program.settings;
     if (!program.run.AltLetterhead) {
+        Page& client = program.pages[PageId::frmP1];
         for (std::size_t line = 0; line < kLetterhead.size(); ++line) {
-            rewriter.Reword(PageId::frmP1, line, "", kLetterhead[line]);
+            Reword(client.lbl[line], before.*kLetterhead[line], now.*kLetterhead[line]);
         }
     }
     for (const PageId page : {PageId::frmP6, PageId::frmP6_1}) {
-        rewriter.FinalPage(page);
+        FinalPage(program.pages[page], before, now);
     }
     SizeRemittanceBox(program);
     program.document.CompanyBlockPending = true;
