@@ -9,6 +9,7 @@
 #include "shell/closing.h"
 #include "shell/start_up.h"
 #include "shell/wiring.h"
+#include "spelling/spelling_service.h"
 
 #ifdef QUILLBROOK_HAS_TEST_HOOK
 #include "desktop/test_hook.h"
@@ -33,6 +34,7 @@ int Run() {
     FrmMainView window(program, surroundings.measure);
     surroundings.questions.Over = &window;
     surroundings.questions.BeforeAsking = [&] { window.Follow(); };
+    surroundings.words.MakeSpelling = [&] { return modSpelling::MakeService(program); };
     surroundings.events.Follow = [&] { window.Follow(); };
     const EndSignals endings([&] { modClosing::Interrupted(program); },
                              [&] { modClosing::KeepUnsaved(program); });

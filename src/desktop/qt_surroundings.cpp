@@ -22,6 +22,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPushButton>
 #include <QSaveFile>
 #include <QScreen>
@@ -243,6 +244,20 @@ void QtClipboard::Clear() {
 
 void QtClipboard::SetText(std::string_view text) {
     QGuiApplication::clipboard()->setText(convert::ToQString(text));
+}
+
+void QtClipboard::SetTextAndTable(std::string_view text, std::string_view html) {
+    QString plain = convert::ToQString(text);
+    plain.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    auto data = std::make_unique<QMimeData>();
+    data->setText(plain);
+    data->setHtml(convert::ToQString(html));
+    QGuiApplication::clipboard()->setMimeData(data.release()); // the clipboard owns it from here on
+}
+
+void QtClipboard::SetUnicodeText(std::string_view utf8) {
+    QGuiApplication::clipboard()->setText(
+        QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
 }
 
 std::string QtClipboard::GetText() const {

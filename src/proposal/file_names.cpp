@@ -44,8 +44,12 @@ bool IllegalFileName(Program& program, std::string_view name) {
 }
 
 void ShowDuplicateFileOptions(Program& program, std::string_view name) {
+    ShowDuplicateFileOptions(program, program.document.FilePath, name);
+}
+
+void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::string_view name) {
     const bool done = Guarded(program, "ShowDuplicateFileOptions", [&] {
-        const std::string path = paths::Join(program.document.FilePath, name);
+        const std::string path = paths::Join(folder, name);
         const std::string question =
             text::Lines({"A file with this name (" + std::string(name) + ")",
                          "already exists. Do you want to replace the", "existing file, created on:",

@@ -17,6 +17,8 @@ namespace modNames {
 /// Asks whether the file of that name in `document.FilePath` may be replaced. Yes deletes nothing; No says
 /// "File not saved." and sets `document.Cancelled`. Reports as "ShowDuplicateFileOptions".
 void ShowDuplicateFileOptions(Program& program, std::string_view name);
+/// The same for a file of another folder.
+void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::string_view name);
 
 /// What is lost when the changes of the proposal on show are not kept.
 [[nodiscard]] std::string UnsavedChanges(const Program& program);

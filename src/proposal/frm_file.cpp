@@ -170,7 +170,6 @@ void frmFile::cmdOpenOK_Click(Program& program) {
             program.hooks.ReadFrequentlyUsedTerms(program);
         }
     } else if (program.document.FileFilter == kTexts) {
-        program.document.TextFileName = selected_;
         const std::string file = paths::Join(Folder, selected_);
         Finish(program);
         if (program.hooks.ReadTextFile) {

@@ -190,6 +190,13 @@ void mnuFileOpenEvent_Click(Program& program) {
     modWindows::Show(program, std::move(window));
 }
 
+void mnuFileOpenTextFile_Click(Program& program) {
+    program.document.FileFilter = "*.txt";
+    auto window = std::make_unique<frmFile>();
+    window->Caption = "Opening Text File";
+    modWindows::Show(program, std::move(window));
+}
+
 void mnuFileSaveEvent_Click(Program& program) {
     static_cast<void>(modFile::SaveEventFile(program)); // it has told what came of it
 }
