@@ -119,11 +119,24 @@ QWidget* QtQuestions::Below() const {
     return Over != nullptr && Over->isVisible() ? Over : QApplication::activeWindow();
 }
 
+OnLeaving<std::function<void()>> QtQuestions::GiveKeyboardBack() {
+    // Between two questions no window is active yet: the one before the first counts.
+    if (QWidget* active = QApplication::activeWindow()) {
+        asking_ = active;
+    }
+    return OnLeaving<std::function<void()>>([this] {
+        if (asking_ != nullptr && asking_->isVisible()) {
+            asking_->activateWindow();
+        }
+    });
+}
+
 Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view title,
                         const Manner& manner) {
     if (BeforeAsking) {
         BeforeAsking();
     }
+    const OnLeaving back = GiveKeyboardBack();
     MessageBox box(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question, TitleOf(title),
                    ShownText(text), ButtonsOf(buttons), Below(),
                    manner.How == Manner::Came::Unasked ? MessageBox::Came::Unasked
@@ -160,6 +173,7 @@ std::string QtQuestions::InputBox(std::string_view prompt, std::string_view titl
     if (BeforeAsking) {
         BeforeAsking();
     }
+    const OnLeaving back = GiveKeyboardBack();
     QInputDialog dialog(Below());
     dialog.setObjectName(QStringLiteral("InputBox"));
     dialog.setWindowTitle(TitleOf(title));

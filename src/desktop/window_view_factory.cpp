@@ -1,3 +1,4 @@
+#include "addresses/frm_address.h"
 #include "calculator/frm_calc.h"
 #include "calendar/frm_dates.h"
 #include "contract/frm_editor.h"
@@ -5,6 +6,7 @@
 #include "deposits/frm_deposits.h"
 #include "desktop/dialog_parts.h"
 #include "desktop/format_views.h"
+#include "desktop/frm_address_view.h"
 #include "desktop/frm_calc_view.h"
 #include "desktop/frm_dates_view.h"
 #include "desktop/frm_deposits_view.h"
@@ -92,6 +94,7 @@ constexpr std::array kViews{
     ViewOf<frmCalc, FrmCalcView>,
     ViewOf<frmSearch, FrmSearchView>,
     ViewOf<frmSR, FrmSRView>,
+    ViewOf<frmAddress, FrmAddressView>,
 };
 
 } // namespace

@@ -351,7 +351,6 @@ void SetUpPage(Program& program, PageId page) {
 void SizeRemittanceBox(Program& program) {
     for (const PageId page : {PageId::frmP6, PageId::frmP6_1}) {
         PlaceLines(program, program.pages[page]);
-        RemittanceBlock(program, program.pages[page]);
     }
 }
 

@@ -97,6 +97,7 @@ void EmptyTexts(Program& program) {
         for (TextArea& area : program.pages[page].txt) {
             area.Text.clear();
             area.BackColor = colors::kResting;
+            area.ToolTipText.clear();
         }
     }
     constexpr auto kFinal = static_cast<std::size_t>(kEditedPageCount - 1);
@@ -152,8 +153,10 @@ void TakeFormat(Program& program, bool loadDefault) {
     format.LogoPending = false;
     format.Touched = false;
     if (loadDefault) {
-        format.FormatFolder = paths::Folder(program.settings.DefaultFormatPath);
-        format.FormatName = paths::Name(program.settings.DefaultFormatPath);
+        const std::string path =
+            paths::ResolveDrive(program.settings.DefaultFormatPath, program.folders.Drives);
+        format.FormatFolder = paths::Folder(path);
+        format.FormatName = paths::Name(path);
         format.FormatOpen = true;
     }
     // A format without a logo of its own leaves this one.

@@ -1,5 +1,6 @@
 #include "settings/frm_pref.h"
 
+#include "base/text.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "settings/settings.h"
@@ -12,7 +13,9 @@ void frmPref::Form_Load(Program& program) {
     chkMinimizeFUT.Value = settings.MinimizeFUT;
     chkACStart.Value = settings.AutoStartPosition != 0;
     chkACEnable.Value = !settings.AutoCompleteWord;
-    chkLoadDefaultFormat.Value = !settings.LoadDefaultFormat;
+    // The run may go without the default format; what is shown here is what the next start will do.
+    chkLoadDefaultFormat.Value = !text::EqualNoCase(
+        text::Trim(modSettings::StoredValue(program, modSettings::Key::LoadDefaultFormat)), "True");
     chkLoadFUT.Value = settings.LoadFUT;
 }
 
@@ -24,7 +27,6 @@ void frmPref::cmdSave_Click(Program& program) {
     settings.MinimizeFUT = chkMinimizeFUT.Value;
     settings.AutoStartPosition = chkACStart.Value ? program.run.ACStartLen : 0;
     settings.AutoCompleteWord = !chkACEnable.Value;
-    settings.LoadDefaultFormat = !chkLoadDefaultFormat.Value;
     settings.LoadFUT = chkLoadFUT.Value;
     const auto flag = [&](Key key, bool value) {
         modSettings::SetLine(program, key, value ? "True" : "False");
@@ -34,7 +36,7 @@ void frmPref::cmdSave_Click(Program& program) {
     flag(Key::MinimizeFUT, settings.MinimizeFUT);
     modSettings::SetLine(program, Key::AutoStartPosition, std::to_string(settings.AutoStartPosition));
     flag(Key::AutoCompleteWord, settings.AutoCompleteWord);
-    flag(Key::LoadDefaultFormat, settings.LoadDefaultFormat);
+    flag(Key::LoadDefaultFormat, !chkLoadDefaultFormat.Value);
     flag(Key::LoadFUT, settings.LoadFUT);
     if (!modSettings::SaveUserPreferences(program)) {
         return;

@@ -304,13 +304,22 @@ bool SaveUserPreferences(Program& program) {
     });
 }
 
+std::string StoredValue(const Program& program, Key key) {
+    bool shorter = false;
+    return ValueOf(program.settings, key, shorter);
+}
+
 void SetLine(Program& program, Key key, std::string_view value) {
     std::vector<std::string>& lines = program.settings.Lines;
     const auto at = static_cast<std::size_t>(key);
     while (lines.size() <= at) {
         lines.emplace_back(kKeys[lines.size()]);
     }
-    lines[at] = std::string(KeyText(key)) + std::string(value);
+    std::string line = std::string(KeyText(key)) + std::string(value);
+    // A line is told by its place: one that fell in two would shift all that follow.
+    std::erase_if(line,
+                  [](char character) { return character == '\r' || character == '\n' || character == '\0'; });
+    lines[at] = std::move(line);
 }
 
 } // namespace modSettings

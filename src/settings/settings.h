@@ -57,7 +57,10 @@ void GetUserPreferences(Program& program);
 /// "RequestNetworkSharePath", as the log has always had it.
 bool SaveUserPreferences(Program& program);
 
-/// Replaces one line in memory, growing the lines when the file was short.
+/// What a line says in the file, whatever the run has made of it since.
+[[nodiscard]] std::string StoredValue(const Program& program, Key key);
+
+/// Replaces one line in memory, growing the lines when the file was short. Line ends and NUL are left out.
 void SetLine(Program& program, Key key, std::string_view value);
 
 } // namespace modSettings

@@ -1,5 +1,6 @@
 #include "shell/command_table.h"
 
+#include "addresses/address_commands.h"
 #include "calculator/frm_calc.h"
 #include "calendar/frm_dates.h"
 #include "contract/frm_editor.h"
@@ -88,6 +89,7 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Name = "mnuFileOpenAddressBook",
           .Caption = "Open Address Book",
           .Parent = mnuFileOpen,
+          .Run = modAddress::mnuFileOpenAddressBook_Click,
           .Shortcut = "Ctrl+B"},
     Entry{.Id = mnuFileOpenTextFile,
           .Name = "mnuFileOpenTextFile",
@@ -238,8 +240,11 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Parent = mnuFileFormat,
           .Run = modFormat::mnuFileFormatDelete_Click},
     Entry{.Id = mnuEdit, .Name = "mnuEdit", .Caption = "&Edit", .What = Kind::Menu},
-    Entry{
-        .Id = mnuEditCompInfo, .Name = "mnuEditCompInfo", .Caption = "Edit Company Info", .Parent = mnuEdit},
+    Entry{.Id = mnuEditCompInfo,
+          .Name = "mnuEditCompInfo",
+          .Caption = "Edit Company Info",
+          .Parent = mnuEdit,
+          .Run = modAddress::mnuEditCompInfo_Click},
     Entry{.Id = mnuEditTitles,
           .Name = "mnuEditTitles",
           .Caption = "Proposal Page Titles and Subtitles",
@@ -573,11 +578,13 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuOptCopyToPersonalAddressBook,
           .Name = "mnuOptCopyToPersonalAddressBook",
           .Caption = "Add Proposal Client to Personal Style Address Book",
-          .Parent = mnuOpt},
+          .Parent = mnuOpt,
+          .Run = modAddress::mnuOptCopyToPersonalAddressBook_Click},
     Entry{.Id = mnuOptCopyToBusinessAddressBook,
           .Name = "mnuOptCopyToBusinessAddressBook",
           .Caption = "Add Proposal Client to Business Style Address Book",
-          .Parent = mnuOpt},
+          .Parent = mnuOpt,
+          .Run = modAddress::mnuOptCopyToBusinessAddressBook_Click},
     Entry{.Id = mnuOptUnderline,
           .Name = "mnuOptUnderline",
           .Caption = "Underline Main Categories when Printing",
