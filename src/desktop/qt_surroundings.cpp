@@ -15,12 +15,14 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QImageReader>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPushButton>
 #include <QSaveFile>
 #include <QScreen>
@@ -147,6 +149,9 @@ Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view
     if (buttons == Buttons::YesNo) {
         box.setEscapeButton(QMessageBox::No); // closing the box must not be a Yes
     }
+    if (!manner.Lost.empty()) {
+        box.setInformativeText(ShownText(manner.Lost));
+    }
     constexpr std::array kInOrder{QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
     for (std::size_t index = 0; index < manner.Words.size() && index < kInOrder.size(); ++index) {
         if (QAbstractButton* button = box.button(kInOrder[index])) {
@@ -241,6 +246,20 @@ void QtClipboard::SetText(std::string_view text) {
     QGuiApplication::clipboard()->setText(convert::ToQString(text));
 }
 
+void QtClipboard::SetTextAndTable(std::string_view text, std::string_view html) {
+    QString plain = convert::ToQString(text);
+    plain.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    auto data = std::make_unique<QMimeData>();
+    data->setText(plain);
+    data->setHtml(convert::ToQString(html));
+    QGuiApplication::clipboard()->setMimeData(data.release()); // the clipboard owns it from here on
+}
+
+void QtClipboard::SetUnicodeText(std::string_view utf8) {
+    QGuiApplication::clipboard()->setText(
+        QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
+}
+
 std::string QtClipboard::GetText() const {
     // Line ends stay: what to make of them is the caller's.
     std::string result;
@@ -287,10 +306,13 @@ double QtClock::Now() const {
 }
 
 SingleInstance::Result QtSingleInstance::Claim(std::string_view installFolder) {
-    const QByteArray key = QCryptographicHash::hash(QByteArray::fromStdString(std::string(installFolder)),
-                                                    QCryptographicHash::Sha1)
-                               .toHex()
-                               .left(16);
+    // One folder may be reached by several names.
+    const QString given = Native(installFolder);
+    const QString real = QFileInfo(given).canonicalFilePath();
+    const QByteArray key =
+        QCryptographicHash::hash((real.isEmpty() ? given : real).toUtf8(), QCryptographicHash::Sha1)
+            .toHex()
+            .left(16);
     // The folder for temporary files is shared by all users of the machine; the lock there carries the name.
     const QString user = QString::number(::getuid());
     const QStringList places{QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +

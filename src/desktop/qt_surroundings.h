@@ -47,6 +47,8 @@ class QtClipboard : public Clipboard {
 public:
     void Clear() override;
     void SetText(std::string_view text) override;
+    void SetTextAndTable(std::string_view text, std::string_view html) override;
+    void SetUnicodeText(std::string_view utf8) override;
     [[nodiscard]] std::string GetText() const override;
 };
 

@@ -14,7 +14,9 @@
 #include "desktop/frm_file_view.h"
 #include "desktop/frm_fut_view.h"
 #include "desktop/frm_notes_view.h"
+#include "desktop/frm_spelling_view.h"
 #include "desktop/frm_splash_view.h"
+#include "desktop/frm_text_file_view.h"
 #include "desktop/search_views.h"
 #include "desktop/settings_views.h"
 #include "desktop/term_views.h"
@@ -95,6 +97,8 @@ constexpr std::array kViews{
     ViewOf<frmSearch, FrmSearchView>,
     ViewOf<frmSR, FrmSRView>,
     ViewOf<frmAddress, FrmAddressView>,
+    ViewOf<frmSpelling, FrmSpellingView>,
+    ViewOf<frmTextFile, FrmTextFileView>,
 };
 
 } // namespace

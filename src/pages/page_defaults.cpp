@@ -335,13 +335,17 @@ void ApplyPageDefaults(Program& program, PageId page) {
     }
 }
 
-void SetUpPage(Program& program, PageId page) {
+void BuildPage(Program& program, PageId page) {
     const ScopedFlag silent(program.guards.ResetActive);
     CreateFields(program, page);
-    Page& record = program.pages[page];
-    PlaceAreas(record);
-    PlaceLines(program, record);
-    PlaceMarks(record);
+    PlaceAreas(program.pages[page]);
+    PlaceMarks(program.pages[page]);
+}
+
+void SetUpPage(Program& program, PageId page) {
+    const ScopedFlag silent(program.guards.ResetActive);
+    BuildPage(program, page);
+    PlaceLines(program, program.pages[page]);
     if (page == PageId::frmP1 && !program.settings.LogoFile.empty()) {
         modLogo::LoadLogo(program);
     }

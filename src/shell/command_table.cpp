@@ -1,4 +1,5 @@
 #include "shell/command_table.h"
+#include "spelling/spelling_walk.h"
 
 #include "addresses/address_commands.h"
 #include "calculator/frm_calc.h"
@@ -23,6 +24,7 @@
 #include "money/totals.h"
 #include "output/preview.h"
 #include "output/print.h"
+#include "output/text_export.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
@@ -94,7 +96,8 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuFileOpenTextFile,
           .Name = "mnuFileOpenTextFile",
           .Caption = "Open Text File",
-          .Parent = mnuFileOpen},
+          .Parent = mnuFileOpen,
+          .Run = modProposal::mnuFileOpenTextFile_Click},
     Entry{.Id = mnuFileSaveEvent,
           .Name = "mnuFileSaveEvent",
           .Caption = "&Save Proposal Fi&le",
@@ -109,15 +112,18 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuFileSaveAsText,
           .Name = "mnuFileSaveAsText",
           .Caption = "Save Proposal as Simple &Text File",
-          .Parent = mnuFile},
+          .Parent = mnuFile,
+          .Run = modExport::mnuFileSaveAsText_Click},
     Entry{.Id = mnuFileSaveToWord,
           .Name = "mnuFileSaveToWord",
           .Caption = "Export Proposal to &Word for Formatting",
-          .Parent = mnuFile},
+          .Parent = mnuFile,
+          .Run = modExport::mnuFileSaveToWord_Click},
     Entry{.Id = mnuFileCopyProposal,
           .Name = "mnuFileCopyProposal",
           .Caption = "Copy Proposal to Memory (to Paste Elsewhere)",
-          .Parent = mnuFile},
+          .Parent = mnuFile,
+          .Run = modExport::mnuFileCopyProposal_Click},
     Entry{.Id = mnuFileConvertRTF,
           .Name = "mnuFileConvertRTF",
           .Caption = "Convert Proposal to Rich Text Format",
@@ -253,7 +259,8 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuEditSpellCheck,
           .Name = "mnuEditSpellCheck",
           .Caption = "Chec&k Spelling",
-          .Parent = mnuEdit},
+          .Parent = mnuEdit,
+          .Run = modSpelling::mnuEditSpellCheck_Click},
     Entry{.Id = mnuEditFind,
           .Name = "mnuEditFind",
           .Caption = "&Find",
