@@ -1,7 +1,7 @@
 #include "shell/closing.h"
 
 #include "editing/selection.h"
-#include "format/format_changes.h"
+#include "format/format_save.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/backup.h"
