@@ -94,6 +94,7 @@ void OpenProposal(Program& program, const std::string& fileName) {
     document.FromBackup = false;
     program.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
     modFile::ShowProposal(program, fileName, *raw);
+    document.PropertiesIgnored = false;
     modFile::ReadFileProperties(program);
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }
