@@ -12,7 +12,7 @@ void ColourArea(Program& program, PageId page, TextArea& area) {
     if (area.BackColor == colors::kBlockSelected) {
         return;
     }
-    const Color within = modText::IsFinal(page) ? colors::kResting : colors::kFocused;
+    const Color within = IsFinalPage(page) ? colors::kResting : colors::kFocused;
     area.BackColor = OverLimit(program, page, area) ? colors::kOverLimit : within;
 }
 

@@ -17,7 +17,7 @@ void txt_MouseDown(Program& program, PageId page, int index, int button, int shi
     TextArea& area = Area(program, page, index);
     editing.CursorPos = area.SelStart;
     modStatus::ShowCursor(program);
-    if (IsFinal(page)) {
+    if (IsFinalPage(page)) {
         return;
     }
     modStatus::ShowTextPosition(program, area);

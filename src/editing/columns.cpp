@@ -32,12 +32,11 @@ FieldRef Description(PageId page, int row) {
 /// The row as the file will have it, and both tables with it. A quantity typed after the description must not
 /// wait for the description's next change to count as unsaved.
 void StoreRow(Program& program, PageId page, int row) {
-    const auto at = static_cast<std::size_t>(IndexOf(page));
     const auto index = static_cast<std::size_t>(row);
     const bool on = modPages::ColumnsOn(program, page, row);
-    program.document.CurrentTextBuf[at][index] = modFields::ComposeLine(program, page, row);
+    program.document.CurrentTextBuf[page][index] = modFields::ComposeLine(program, page, row);
     for (TextChangeTable* table : {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
-        TextChangeRecord& record = (*table)[at][index];
+        TextChangeRecord& record = (*table)[page][index];
         record.QtyBox = on;
         record.QtyValue = program.pages[page].txtQty[index].Text;
         record.AmtValue = program.pages[page].txtAmt[index].Text;
@@ -102,12 +101,11 @@ void SetExempt(Program& program, modPages::Mark mark) {
     if (!geometry::IsAmount(page, area)) {
         return;
     }
-    const auto at = static_cast<std::size_t>(IndexOf(page));
     const auto index = static_cast<std::size_t>(area);
     const bool exempt = mark == modPages::Mark::Shown;
-    program.format.PropTextChanges[at][index].TaxExempt = exempt;
-    program.format.PropTextChanges[at][index].Dirty = true;
-    program.format.FormatTextChanges[at][index].TaxExempt = exempt;
+    program.format.PropTextChanges[page][index].TaxExempt = exempt;
+    program.format.PropTextChanges[page][index].Dirty = true;
+    program.format.FormatTextChanges[page][index].TaxExempt = exempt;
     modPages::SetNoTaxMark(program, page, area, mark);
     modFields::GiveFocus(program, Description(page, area));
 }
@@ -254,19 +252,18 @@ void CollectQtyBoxes(Program& program) {
             if (!record.RowFieldsMade) {
                 continue;
             }
-            const auto at = static_cast<std::size_t>(IndexOf(page));
             for (int row = geometry::FirstRow(page); row <= geometry::LastRow(page); ++row) {
                 const auto index = static_cast<std::size_t>(row);
                 const bool on = record.txt[index].Width == geometry::kColumnsWidth;
                 for (TextChangeTable* table :
                      {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
-                    TextChangeRecord& props = (*table)[at][index];
+                    TextChangeRecord& props = (*table)[page][index];
                     props.QtyChanged = on;
                     props.QtyBox = on;
                     props.QtyValue = record.txtQty[index].Text;
                     props.AmtValue = record.txtAmt[index].Text;
                 }
-                program.document.CurrentTextBuf[at][index] = modFields::ComposeLine(program, page, row);
+                program.document.CurrentTextBuf[page][index] = modFields::ComposeLine(program, page, row);
             }
         }
     });

@@ -43,7 +43,7 @@ void txt_GotFocus(Program& program, PageId page, int index) {
     program.main.ActivePage = page;
     program.main.CurrentPage = IndexOf(page);
     editing.CurrentArea = index;
-    if (!IsFinal(page)) {
+    if (!IsFinalPage(page)) {
         editing.CurrentLimit = geometry::LimitText(area.Tag);
         editing.CurrentWidth = area.Width;
         modAreaColours::ColourArea(program, page, area);
@@ -58,7 +58,7 @@ void txt_LostFocus(Program& program, PageId page, int index) {
     EditingState& editing = program.editing;
     TextArea& area = Area(program, page, index);
     editing.LastArea = index;
-    if (IsFinal(page)) {
+    if (IsFinalPage(page)) {
         modTotals::FinalPageLostFocus(program, index);
         return;
     }
@@ -70,7 +70,7 @@ void txt_LostFocus(Program& program, PageId page, int index) {
     }
     // A completion that was neither taken nor overtyped stands on the screen; what stands there is stored.
     if (Completing(program, page)) {
-        program.editing.ACActive[static_cast<std::size_t>(IndexOf(page))] = false;
+        program.editing.ACActive[page] = false;
         txt_Change(program, page, index);
         Area(program, page, index).BackColor = colors::kResting;
     }

@@ -31,15 +31,14 @@ constexpr int kDepositArea = 4;
 
 /// The line goes to the store, and what is known of the row's columns to the tables.
 void StoreLine(Program& program, PageId page, int index) {
-    const auto at = static_cast<std::size_t>(IndexOf(page));
     const auto row = static_cast<std::size_t>(index);
-    program.document.CurrentTextBuf[at][row] = modFields::ComposeLine(program, page, index);
+    program.document.CurrentTextBuf[page][row] = modFields::ComposeLine(program, page, index);
     if (!geometry::IsDescription(page, index)) {
         return;
     }
     const bool on = modPages::ColumnsOn(program, page, index);
-    TextChangeRecord& baseline = program.format.FormatTextChanges[at][row];
-    program.format.PropTextChanges[at][row].QtyBox = on;
+    TextChangeRecord& baseline = program.format.FormatTextChanges[page][row];
+    program.format.PropTextChanges[page][row].QtyBox = on;
     baseline.QtyBox = on;
     baseline.QtyValue = on ? program.pages[page].txtQty[row].Text : std::string();
     baseline.AmtValue = on ? program.pages[page].txtAmt[row].Text : std::string();
@@ -51,11 +50,10 @@ void TakeEditingState(Program& program, PageId page, int index) {
     editing.CurrentText = area.Text;
     editing.CurrentKind = geometry::KindOf(area.Tag);
     editing.CurrentLimit = geometry::LimitText(area.Tag);
-    const auto at = static_cast<std::size_t>(IndexOf(page));
     const auto row = static_cast<std::size_t>(index);
-    TextChangeRecord& props = program.format.PropTextChanges[at][row];
+    TextChangeRecord& props = program.format.PropTextChanges[page][row];
     props.FontBold = area.FontBold;
-    program.format.FormatTextChanges[at][row].FontBold = area.FontBold;
+    program.format.FormatTextChanges[page][row].FontBold = area.FontBold;
     if (!IsAmountLimit(editing.CurrentLimit)) {
         // The format's own text is taken when a format is saved, not as it is typed.
         props.Text = area.Text;
@@ -166,7 +164,7 @@ Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int
         modColumns::ToggleColumns(program);
         return Taken::Yes;
     }
-    bool& completing = program.editing.ACActive[static_cast<std::size_t>(IndexOf(page))];
+    bool& completing = program.editing.ACActive[page];
     if (completing && Area(program, page, index).SelLength == 0) {
         completing = false;
     }
@@ -200,7 +198,7 @@ void txt_Change(Program& program, PageId page, int index) {
     if (page == PageId::frmP6_1) {
         return;
     }
-    if (IsFinal(page)) {
+    if (IsFinalPage(page)) {
         modTotals::FinalPageChange(program, index);
         if (!program.guards.HandlersSilent()) {
             modAreaColours::ColourArea(program, page, Area(program, page, index));
@@ -213,7 +211,7 @@ void txt_Change(Program& program, PageId page, int index) {
 }
 
 Taken txt_KeyDown(Program& program, PageId page, int index, int keyCode, int shift) {
-    if (IsFinal(page)) {
+    if (IsFinalPage(page)) {
         if (IsPaste(keyCode, shift)) {
             PasteNumber(program, page, index);
             return Taken::Yes;
@@ -232,7 +230,7 @@ void txt_KeyPress(Program& program, PageId page, int index, int& keyAscii) {
         keyAscii = 0;
         return;
     }
-    if (IsAmountLimit(geometry::LimitText(area.Tag)) || IsFinal(page)) {
+    if (IsAmountLimit(geometry::LimitText(area.Tag)) || IsFinalPage(page)) {
         const bool editing =
             keyAscii == keys::kBackspace || keyAscii == keys::kTab || keyAscii == keys::kEnter;
         const bool figure =
@@ -243,7 +241,7 @@ void txt_KeyPress(Program& program, PageId page, int index, int& keyAscii) {
     }
     if (keyAscii == keys::kEnter || keyAscii == keys::kTab) {
         keyAscii = 0;
-        if (IsFinal(page) && index == kDepositArea) {
+        if (IsFinalPage(page) && index == kDepositArea) {
             modTotals::RewriteDeposit(program);
             modTotals::UpdateRunningTotals(program);
         }
@@ -255,7 +253,7 @@ void txt_KeyUp(Program& program, PageId page, int index, int keyCode, int shift)
     static_cast<void>(shift);
     TextArea& area = Area(program, page, index);
     EditingState& editing = program.editing;
-    if (IsFinal(page)) {
+    if (IsFinalPage(page)) {
         editing.CursorPos = area.SelStart;
         modStatus::ShowCursor(program);
         return;

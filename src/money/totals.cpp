@@ -125,7 +125,7 @@ void WriteFullFigures(Program& program) {
 void ComputeRunning(TotalsRecords& totals) {
     totals.SubTotal = 0;
     totals.TaxableTotal = 0;
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+    for (const PageId page : kLinePages) {
         totals.SubTotal = Sum(totals.SubTotal, totals.PageSum[page]);
         totals.TaxableTotal = Sum(totals.TaxableTotal, totals.PageTaxable[page]);
     }
@@ -151,19 +151,18 @@ bool DepositIsBeingTyped(const Program& program) {
 
 void CalculateMyTotals(Program& program, PageId page) {
     TotalsRecords& totals = program.totals;
-    const auto at = static_cast<std::size_t>(IndexOf(page));
     const Page& record = program.pages[page];
     float sum = 0;
     float taxable = 0;
     for (std::size_t row = 0; row < record.txt.size(); ++row) {
-        const float amount = totals.AmountTable[row][at];
+        const float amount = totals.AmountTable[row][page];
         sum = Sum(sum, amount);
         if (!MarkVisible(record, row)) {
             taxable = Sum(taxable, amount);
         }
     }
-    totals.PageSum[at] = sum;
-    totals.PageTaxable[at] = taxable;
+    totals.PageSum[page] = sum;
+    totals.PageTaxable[page] = taxable;
 }
 
 void UpdateRunningTotals(Program& program) {
@@ -232,8 +231,8 @@ bool StoreAmount(Program& program, PageId page, int index) {
     const Page& record = program.pages[page];
     const auto row = static_cast<std::size_t>(index);
     const std::string_view value = text::Trim(record.txt[row].Text);
-    float& amount = program.totals.AmountTable[row][static_cast<std::size_t>(IndexOf(page))];
-    float& taxable = program.totals.TaxableTable[row][static_cast<std::size_t>(IndexOf(page))];
+    float& amount = program.totals.AmountTable[row][page];
+    float& taxable = program.totals.TaxableTable[row][page];
     if (value.empty()) {
         amount = 0;
         taxable = 0;
@@ -279,13 +278,12 @@ void mnuOptHideTotals_Click(Program& program) {
 
 void imgNoTax_Click(Program& program, PageId page, int row) {
     modPages::SetNoTaxMark(program, page, row, modPages::Mark::Hidden);
-    const auto at = static_cast<std::size_t>(IndexOf(page));
     const auto index = static_cast<std::size_t>(row);
-    TextChangeRecord& props = program.format.PropTextChanges[at][index];
+    TextChangeRecord& props = program.format.PropTextChanges[page][index];
     props.TaxExempt = false;
     props.Dirty = true;
-    program.format.FormatTextChanges[at][index].TaxExempt = false;
-    program.totals.TaxableTable[index][at] = program.totals.AmountTable[index][at];
+    program.format.FormatTextChanges[page][index].TaxExempt = false;
+    program.totals.TaxableTable[index][page] = program.totals.AmountTable[index][page];
     CalculateMyTotals(program, page);
     UpdateRunningTotals(program);
     program.main.cmdReCalc.BackColor = colors::kOverLimit;
@@ -315,7 +313,7 @@ void FinalPageChange(Program& program, int index) {
     const Page& page = program.pages[PageId::frmP6];
     const TextArea& area = page.txt[static_cast<std::size_t>(index)];
     TotalsRecords& totals = program.totals;
-    program.document.CurrentTextBuf[kEditedPageCount - 1][static_cast<std::size_t>(index)] = area.Text;
+    program.document.CurrentTextBuf[PageId::frmP6][static_cast<std::size_t>(index)] = area.Text;
     program.pages[PageId::frmP6_1].txt[static_cast<std::size_t>(index)].Text = area.Text;
     if (program.guards.HandlersSilent() || totals.InRecalculation || totals.InRunningUpdate) {
         return;
@@ -355,7 +353,7 @@ void FinalPageLostFocus(Program& program, int index) {
 
 void TotalsAfterReading(Program& program) {
     TotalsRecords& totals = program.totals;
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+    for (const PageId page : kLinePages) {
         totals.PageSum[page] = 0;
         totals.PageTaxable[page] = 0;
         for (std::size_t row = 0; row < kRowCount; ++row) {
@@ -367,7 +365,7 @@ void TotalsAfterReading(Program& program) {
     if (totals.TaxableTotal < 0) {
         totals.TaxableTotal = 0; // only here: a file's negative taxable amount earns no tax back
     }
-    auto& current = program.document.CurrentTextBuf[kEditedPageCount - 1];
+    auto& current = program.document.CurrentTextBuf[PageId::frmP6];
     const std::string stored(text::Trim(current[kDeposit]));
     const std::optional<float> deposit = stored.empty() ? std::optional(0.0F) : Numeric(program, stored);
     if (!deposit) {
@@ -397,7 +395,7 @@ void TotalsAfterReading(Program& program) {
     const Page& page = program.pages[PageId::frmP6];
     for (std::size_t figure = 0; figure < kFigureCount; ++figure) {
         current[figure] = page.txt[figure].Text;
-        program.document.SavedTextBuf[kEditedPageCount - 1][figure] = page.txt[figure].Text;
+        program.document.SavedTextBuf[PageId::frmP6][figure] = page.txt[figure].Text;
     }
 }
 

@@ -43,11 +43,10 @@ void ApplyPageFonts(Program& program) {
     }
     for (const PageId page : kEditedPages) {
         Page& record = program.pages[page];
-        const auto at = static_cast<std::size_t>(IndexOf(page));
         for (std::size_t index = 0; index < record.txt.size(); ++index) {
             // A bold that came with the format stays through a change of font, like the proposal's own.
-            if (program.format.PropTextChanges[at][index].FontBold ||
-                program.format.FormatTextChanges[at][index].FontBold) {
+            if (program.format.PropTextChanges[page][index].FontBold ||
+                program.format.FormatTextChanges[page][index].FontBold) {
                 record.txt[index].FontBold = true;
                 if (page == PageId::frmP6) {
                     program.pages[PageId::frmP6_1].txt[index].FontBold = true;

@@ -12,11 +12,10 @@ void ShowPage(Program& program, PageId page) {
         area.Visible = true;
         area.Enabled = true;
         if (edited && program.format.FormatOpen) {
-            const auto at = static_cast<std::size_t>(IndexOf(page));
             if (IsLinePage(page)) {
-                area.Locked = program.format.FormatTextChanges[at][index].FormatText;
+                area.Locked = program.format.FormatTextChanges[page][index].FormatText;
             }
-            if (program.format.PropTextChanges[at][index].FontBold) {
+            if (program.format.PropTextChanges[page][index].FontBold) {
                 area.FontBold = true;
             }
         }

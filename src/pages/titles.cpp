@@ -26,8 +26,7 @@ void LayLines(Program& program, Record record) {
         }
         label.Left = geometry::kPageCenter - modPages::LabelWidth(program, label) / 2;
         if (record == Record::Yes && page != PageId::frmP6_1) {
-            LabelChangeRecord& kept = program.format.PropLabelChanges[static_cast<std::size_t>(IndexOf(page))]
-                                                                     [static_cast<std::size_t>(index)];
+            LabelChangeRecord& kept = program.format.PropLabelChanges[page][static_cast<std::size_t>(index)];
             kept.Left = label.Left;
             kept.Top = label.Top;
             kept.Caption = label.Caption;

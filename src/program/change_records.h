@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/colors.h"
+#include "program/per_page.h"
 
 #include <array>
 #include <string>
@@ -34,8 +35,8 @@ struct LabelChangeRecord {
     bool FromFormat = false;
 };
 
-using TextChangeTable = std::array<std::array<TextChangeRecord, 66>, 6>;
-using LabelChangeTable = std::array<std::array<LabelChangeRecord, 65>, 6>;
+using TextChangeTable = PerEditedPage<std::array<TextChangeRecord, 66>>;
+using LabelChangeTable = PerEditedPage<std::array<LabelChangeRecord, 65>>;
 
 struct FormatRecords {
     TextChangeTable PropTextChanges;   ///< the proposal's; other places call it TextProps
@@ -47,6 +48,7 @@ struct FormatRecords {
     [[nodiscard]] TextChangeTable& TextProps() { return PropTextChanges; }
     [[nodiscard]] const TextChangeTable& TextProps() const { return PropTextChanges; }
     [[nodiscard]] LabelChangeTable& LabelProps() { return PropLabelChanges; }
+    [[nodiscard]] const LabelChangeTable& LabelProps() const { return PropLabelChanges; }
 
     std::vector<std::string> PropertyLines;
     std::vector<std::string> FormatLines;

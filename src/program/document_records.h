@@ -1,8 +1,7 @@
 #pragma once
 
-#include "program/page_records.h"
+#include "program/per_page.h"
 
-#include <array>
 #include <string>
 #include <vector>
 
@@ -33,8 +32,8 @@ struct DocumentState {
     [[nodiscard]] bool HasName() const { return !FileName.empty() && FileName != ".hef"; }
 
     /// Per edited page: the text of each area as the file is written from it, and as it was last saved.
-    std::array<std::vector<std::string>, kEditedPageCount> CurrentTextBuf;
-    std::array<std::vector<std::string>, kEditedPageCount> SavedTextBuf;
+    PerEditedPage<std::vector<std::string>> CurrentTextBuf;
+    PerEditedPage<std::vector<std::string>> SavedTextBuf;
 };
 
 /// Flags by which change handlers are kept quiet. Raise them with base/guard.h only.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "program/page_records.h"
+#include "program/per_page.h"
 
 #include <array>
 #include <optional>
@@ -88,5 +89,5 @@ struct EditingState {
     int SavedSelLength = 0;
     BlockState Block;
     /// A suggested completion stands selected in the area; per page frmP1 to frmP5.
-    std::array<bool, kLinePageCount> ACActive{};
+    PerLinePage<bool> ACActive;
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/page_records.h"
+#include "program/per_page.h"
 
 #include <algorithm>
 #include <array>
@@ -9,11 +9,11 @@ inline constexpr int kRowCount = 66;
 
 /// All money is single precision; formats round it for show only.
 struct TotalsRecords {
-    using RowTable = std::array<std::array<float, kLinePageCount>, kRowCount>;
+    using RowTable = std::array<PerLinePage<float>, kRowCount>;
     RowTable AmountTable{};  ///< [txt index of the amount][page]
     RowTable TaxableTable{}; ///< the same, 0 for an exempt row
-    std::array<float, kLinePageCount> PageSum{};
-    std::array<float, kLinePageCount> PageTaxable{};
+    PerLinePage<float> PageSum{};
+    PerLinePage<float> PageTaxable{};
 
     float SubTotal = 0;
     float TaxableTotal = 0;

@@ -104,13 +104,13 @@ bool SomethingChanged(Program& program) {
         program.hooks.CollectQtyBoxes(program);
     }
     const DocumentState& document = program.document;
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+    for (const PageId page : kLinePages) {
         if (document.CurrentTextBuf[page] != document.SavedTextBuf[page]) {
             return true;
         }
     }
-    const auto& current = document.CurrentTextBuf[kEditedPageCount - 1];
-    const auto& saved = document.SavedTextBuf[kEditedPageCount - 1];
+    const auto& current = document.CurrentTextBuf[PageId::frmP6];
+    const auto& saved = document.SavedTextBuf[PageId::frmP6];
     return !std::equal(current.begin(), current.end(), saved.begin(), saved.end(),
                        [](const std::string& one, const std::string& other) {
                            return text::Trim(one) == text::Trim(other);

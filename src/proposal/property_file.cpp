@@ -64,7 +64,7 @@ void ReadFileProperties(Program& program) {
 }
 
 bool PropertiesChanged(const Program& program) {
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+    for (const PageId page : kLinePages) {
         for (const TextChangeRecord& record : program.format.PropTextChanges[page]) {
             if (record.Dirty) {
                 return true;

@@ -43,7 +43,7 @@ void TakeQuantityRow(Program& program, PageId page, int index, const quantity_ro
     record.txt[at].Text = row.Description;
     modPages::PlaceColumns(program, page, index, modPages::Columns::On);
     for (TextChangeTable* table : {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
-        TextChangeRecord& props = (*table)[static_cast<std::size_t>(IndexOf(page))][at];
+        TextChangeRecord& props = (*table)[page][at];
         props.QtyBox = true;
         props.QtyValue = row.Quantity;
         props.AmtValue = row.Amount;
@@ -52,13 +52,12 @@ void TakeQuantityRow(Program& program, PageId page, int index, const quantity_ro
 
 void TakeText(Program& program, PageId page, int index, std::string_view slot) {
     const auto at = static_cast<std::size_t>(index);
-    const auto pageAt = static_cast<std::size_t>(IndexOf(page));
-    if (program.format.FormatTextChanges[pageAt][at].FormatText) {
+    if (program.format.FormatTextChanges[page][at].FormatText) {
         return;
     }
     const std::string_view value = text::RTrim(slot);
-    program.document.SavedTextBuf[pageAt][at] = value;
-    program.document.CurrentTextBuf[pageAt][at] = value;
+    program.document.SavedTextBuf[page][at] = value;
+    program.document.CurrentTextBuf[page][at] = value;
     const quantity_row::QuantityRow row = quantity_row::Split(value);
     if (row.IsRow && geometry::IsDescription(page, index)) {
         TakeQuantityRow(program, page, index, row);
@@ -69,8 +68,7 @@ void TakeText(Program& program, PageId page, int index, std::string_view slot) {
 
 void TakeAmount(Program& program, PageId page, int index) {
     const auto at = static_cast<std::size_t>(index);
-    const auto pageAt = static_cast<std::size_t>(IndexOf(page));
-    std::string& current = program.document.CurrentTextBuf[pageAt][at];
+    std::string& current = program.document.CurrentTextBuf[page][at];
     if (text::Trim(current).empty()) {
         return;
     }
@@ -83,11 +81,11 @@ void TakeAmount(Program& program, PageId page, int index) {
     if (!value) {
         return;
     }
-    program.totals.AmountTable[at][pageAt] = *value;
-    program.totals.TaxableTable[at][pageAt] = marked ? 0 : *value;
+    program.totals.AmountTable[at][page] = *value;
+    program.totals.TaxableTable[at][page] = marked ? 0 : *value;
     if (marked) {
-        program.format.PropTextChanges[pageAt][at].TaxExempt = true;
-        program.document.SavedTextBuf[pageAt][at] = current;
+        program.format.PropTextChanges[page][at].TaxExempt = true;
+        program.document.SavedTextBuf[page][at] = current;
         program.pages[page].txt[at].Text = trimmed;
         modPages::SetNoTaxMark(program, page, index, modPages::Mark::Shown);
     }
@@ -96,7 +94,7 @@ void TakeAmount(Program& program, PageId page, int index) {
 
 void TakeFields(Program& program, const proposal::Decoded& decoded) {
     for (const PageId page : kLinePages) {
-        const auto& slots = decoded.Slots[static_cast<std::size_t>(IndexOf(page))];
+        const auto& slots = decoded.Slots[page];
         for (int index = 0; index <= geometry::LastText(page); ++index) {
             TakeText(program, page, index, slots[static_cast<std::size_t>(index)]);
             if (geometry::IsAmount(page, index)) {
@@ -104,11 +102,10 @@ void TakeFields(Program& program, const proposal::Decoded& decoded) {
             }
         }
     }
-    constexpr auto kFinal = static_cast<std::size_t>(kEditedPageCount - 1);
-    for (std::size_t index = 0; index < decoded.Slots[kFinal].size(); ++index) {
-        const std::string_view value = text::Trim(decoded.Slots[kFinal][index]);
-        program.document.CurrentTextBuf[kFinal][index] = value;
-        program.document.SavedTextBuf[kFinal][index] = value;
+    for (std::size_t index = 0; index < decoded.Slots[PageId::frmP6].size(); ++index) {
+        const std::string_view value = text::Trim(decoded.Slots[PageId::frmP6][index]);
+        program.document.CurrentTextBuf[PageId::frmP6][index] = value;
+        program.document.SavedTextBuf[PageId::frmP6][index] = value;
     }
 }
 

@@ -91,7 +91,7 @@ SaveResult SaveProperties(Program& program) {
         return SavePropertyFile(program);
     }
     // Nobody writes new lines: what was read goes back as it came.
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+    for (const PageId page : kLinePages) {
         for (TextChangeRecord& record : program.format.PropTextChanges[page]) {
             record.Dirty = false;
         }
@@ -105,12 +105,11 @@ SaveResult SaveProperties(Program& program) {
 
 std::string MakeBytes(const Program& program) {
     proposal::Fields fields;
-    for (std::size_t page = 0; page < kEditedPageCount; ++page) {
+    for (const PageId page : kEditedPages) {
         const auto& texts = program.document.CurrentTextBuf[page];
         fields[page].reserve(texts.size());
         for (std::size_t index = 0; index < texts.size(); ++index) {
-            const bool marked =
-                page < kLinePageCount && program.format.PropTextChanges[page][index].TaxExempt;
+            const bool marked = IsLinePage(page) && program.format.PropTextChanges[page][index].TaxExempt;
             fields[page].push_back({texts[index], marked});
         }
     }
@@ -182,7 +181,8 @@ void BackupThisFile(Program& program) {
 
 bool ClientNameChanged(const Program& program) {
     const auto client = static_cast<std::size_t>(kClientName);
-    return program.document.CurrentTextBuf[0][client] != program.document.SavedTextBuf[0][client];
+    return program.document.CurrentTextBuf[PageId::frmP1][client] !=
+           program.document.SavedTextBuf[PageId::frmP1][client];
 }
 
 } // namespace modFile

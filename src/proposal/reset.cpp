@@ -56,7 +56,7 @@ void ResetPages(Program& program) {
     }
     program.main.Focus.reset();
     program.main.CurrentPage = 0;
-    program.editing.ACActive.fill(false);
+    program.editing.ACActive = {};
     // What was deleted from one proposal is not put back into another.
     program.editing.Block.UndoMemory.clear();
     program.editing.UndoAvailable = false;
@@ -93,26 +93,24 @@ void EmptyTexts(Program& program) {
             area.BackColor = colors::kResting;
         }
     }
-    constexpr auto kFinal = static_cast<std::size_t>(kEditedPageCount - 1);
     const std::size_t figures = program.pages[PageId::frmP6].txt.size();
-    document.CurrentTextBuf[kFinal].assign(figures, " ");
-    document.SavedTextBuf[kFinal].assign(figures, " ");
-    for (int index = kLinePageCount - 1; index >= 0; --index) {
-        Page& page = program.pages[PageAt(index)];
-        const auto at = static_cast<std::size_t>(index);
-        document.CurrentTextBuf[at].resize(page.txt.size());
-        document.SavedTextBuf[at].resize(page.txt.size());
+    document.CurrentTextBuf[PageId::frmP6].assign(figures, " ");
+    document.SavedTextBuf[PageId::frmP6].assign(figures, " ");
+    for (const PageId id : kLinePages) {
+        Page& page = program.pages[id];
+        document.CurrentTextBuf[id].resize(page.txt.size());
+        document.SavedTextBuf[id].resize(page.txt.size());
         for (std::size_t area = 0; area < page.txt.size(); ++area) {
             page.txt[area].BackColor = colors::kResting;
             page.txt[area].FontBold = false;
-            if (program.format.FormatTextChanges[at][area].FormatText) {
+            if (program.format.FormatTextChanges[id][area].FormatText) {
                 continue;
             }
             page.txt[area].Text.clear();
             page.txt[area].SelStart = 0;
             page.txt[area].SelLength = 0;
-            document.CurrentTextBuf[at][area].clear();
-            document.SavedTextBuf[at][area].clear();
+            document.CurrentTextBuf[id][area].clear();
+            document.SavedTextBuf[id][area].clear();
         }
     }
 }

@@ -46,9 +46,7 @@ TEST_P(BadFigures, AreTakenWholeOrNotAtAll) {
         Typist typist(run.program);
         typist.Click(page, index);
         typist.PasteByKey(figure.Text, run.surroundings.clipboard.Text);
-        EXPECT_EQ(run.program.totals
-                      .AmountTable[static_cast<std::size_t>(index)][static_cast<std::size_t>(IndexOf(page))],
-                  figure.Value);
+        EXPECT_EQ(run.program.totals.AmountTable[static_cast<std::size_t>(index)][page], figure.Value);
         EXPECT_EQ(run.TextOf(page, index).empty(), !figure.Pasted);
         typist.Click(page, page == PageId::frmP1 ? 3 : 0);
         EXPECT_EQ(run.TextOf(page, index), figure.Left);
@@ -100,7 +98,7 @@ TEST(BadFigures, AProductBeyondASingleReachesNoTable) {
     modPages::PlaceColumns(run.program, kSecond, 0, modPages::Columns::On);
     modFields::SetText(run.program, {kSecond, FieldKind::txtQty, 0}, "3e38");
     modFields::SetText(run.program, {kSecond, FieldKind::txtAmt, 0}, "3e38");
-    EXPECT_EQ(run.program.totals.AmountTable[33][1], 0.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[33][PageId::frmP2], 0.0F);
     ExpectFinite(run.program, "product");
 }
 
@@ -188,7 +186,7 @@ TEST(BadText, TheMarksOfAPricedLineCanBeTyped) {
     typist.Click(kSecond, 0);
     typist.Type("\xA5\xA5\xA7");
     EXPECT_EQ(run.TextOf(kSecond, 0), "\xA5\xA5\xA7");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "\xA5\xA5\xA7");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "\xA5\xA5\xA7");
 }
 
 TEST(Locked, AreasTakeNothing) {

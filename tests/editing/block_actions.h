@@ -75,8 +75,7 @@ public:
         return blue;
     }
     [[nodiscard]] const std::string& Stored(PageId page, int index) {
-        return program.document
-            .CurrentTextBuf[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)];
+        return program.document.CurrentTextBuf[page][static_cast<std::size_t>(index)];
     }
     [[nodiscard]] bool Enabled(CommandId id) { return program.main[id].Enabled; }
     void ExpectTold(std::string words) {

@@ -83,14 +83,14 @@ TEST(Move, ByMenuBringsStoreTablesAndTotalsAlongAtOnce) {
                                       "Chair covers\xA7"
                                       "19.99");
     EXPECT_EQ(run.Stored(kSecond, 5), "Linen");
-    EXPECT_EQ(run.program.totals.AmountTable[36][1], 0.0F);
-    EXPECT_EQ(run.program.totals.AmountTable[37][1], 59.97F);
-    EXPECT_EQ(run.program.totals.TaxableTable[37][1], 0.0F);
-    EXPECT_EQ(run.program.totals.PageSum[1], 59.97F + 40.0F);
-    EXPECT_EQ(run.program.totals.PageTaxable[1], 40.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[36][PageId::frmP2], 0.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[37][PageId::frmP2], 59.97F);
+    EXPECT_EQ(run.program.totals.TaxableTable[37][PageId::frmP2], 0.0F);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 59.97F + 40.0F);
+    EXPECT_EQ(run.program.totals.PageTaxable[PageId::frmP2], 40.0F);
     EXPECT_FALSE(run.Label(kSecond, 4).Visible) << "the currency sign of amount 36";
     EXPECT_TRUE(run.Label(kSecond, 6).Visible);
-    const auto& props = run.program.format.PropTextChanges[1];
+    const auto& props = run.program.format.PropTextChanges[PageId::frmP2];
     EXPECT_TRUE(props[37].TaxExempt);
     EXPECT_FALSE(props[36].TaxExempt);
     EXPECT_TRUE(props[5].FontBold);
@@ -278,15 +278,15 @@ TEST(Move, MakesEveryPricedRowsAmountItsProductAgain) {
     run.Band(kSecond, 3, 3);
     run.Choose(kDown);
     EXPECT_EQ(run.TextOf(kSecond, 43), "10.00");
-    EXPECT_EQ(run.program.totals.PageSum[1], 10.0F);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 10.0F);
 }
 
 TEST(Move, AnAreaThatReadsTestIsNotRunAgain) {
     BlockRun run;
     run.Put(kFirst, 3, "Test");
     run.Put(kFirst, 4, "Text");
-    run.program.document.CurrentTextBuf[0][3] = "stale";
-    run.program.document.CurrentTextBuf[0][4] = "stale";
+    run.program.document.CurrentTextBuf[PageId::frmP1][3] = "stale";
+    run.program.document.CurrentTextBuf[PageId::frmP1][4] = "stale";
     run.Put(kFirst, 12, "Row");
     run.Band(kFirst, 12, 12);
     run.Choose(kDown);

@@ -218,7 +218,7 @@ TEST(Product, SumsItsPageAtOnceAndTheFinalPageOnLeaving) {
     typist.Click(Price(0));
     typist.Type("19.99");
     EXPECT_EQ(run.TextOf(kSecond, 33), "59.97");
-    EXPECT_EQ(run.program.totals.PageSum[1], 59.97F + 1.0F);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 59.97F + 1.0F);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "1.00");
     EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
     typist.Press(keys::kEnter);
@@ -255,7 +255,7 @@ TEST(PricedLine, IsStoredWithItsBoxesAsSoonAsAnyOfThemChanges) {
     typist.Click(kSecond, 2);
     typist.Type(" Chairs ");
     typist.Press(keys::kF8);
-    const auto& stored = run.program.document.CurrentTextBuf[1][2];
+    const auto& stored = run.program.document.CurrentTextBuf[PageId::frmP2][2];
     EXPECT_EQ(stored, "\xA5Qty.\xA5"
                       "Chairs\xA7"
                       "Amt.");
@@ -264,9 +264,9 @@ TEST(PricedLine, IsStoredWithItsBoxesAsSoonAsAnyOfThemChanges) {
                       "3\xA5"
                       "Chairs\xA7"
                       "Amt.");
-    EXPECT_TRUE(run.program.format.PropTextChanges[1][2].QtyBox);
-    EXPECT_EQ(run.program.format.FormatTextChanges[1][2].QtyValue, "3");
-    EXPECT_EQ(run.program.format.FormatTextChanges[1][2].AmtValue, "Amt.");
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP2][2].QtyBox);
+    EXPECT_EQ(run.program.format.FormatTextChanges[PageId::frmP2][2].QtyValue, "3");
+    EXPECT_EQ(run.program.format.FormatTextChanges[PageId::frmP2][2].AmtValue, "Amt.");
     typist.Click(Price(2));
     typist.Type("5");
     typist.Press(keys::kEnter);
@@ -277,8 +277,8 @@ TEST(PricedLine, IsStoredWithItsBoxesAsSoonAsAnyOfThemChanges) {
     typist.Click(kSecond, 2);
     typist.Press(keys::kF8);
     EXPECT_EQ(stored, "Chairs");
-    EXPECT_FALSE(run.program.format.PropTextChanges[1][2].QtyBox);
-    EXPECT_EQ(run.program.format.FormatTextChanges[1][2].QtyValue, "");
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP2][2].QtyBox);
+    EXPECT_EQ(run.program.format.FormatTextChanges[PageId::frmP2][2].QtyValue, "");
     EXPECT_EQ(run.TextOf(kSecond, 2), " Chairs ") << "the area keeps its blanks";
 }
 
@@ -291,14 +291,14 @@ TEST(TaxMark, ByAClickRecalculatesAtOnceAndTurnsTheButtonRed) {
     commands::Run(run.program, CommandId::mnuEditTextTaxExempt);
     typist.Click(kSecond, 5);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "0.00");
-    EXPECT_EQ(run.program.totals.TaxableTable[33][1], 0.0F);
+    EXPECT_EQ(run.program.totals.TaxableTable[33][PageId::frmP2], 0.0F);
     modInput::NoTaxMarkClick(run.program, kSecond, 33);
     EXPECT_FALSE(run.program.pages[kSecond].imgNoTax[33].Visible);
     EXPECT_EQ(run.program.pages[kSecond].imgNoTax[33].Tag, "Hide");
-    EXPECT_FALSE(run.program.format.PropTextChanges[1][33].TaxExempt);
-    EXPECT_FALSE(run.program.format.FormatTextChanges[1][33].TaxExempt);
-    EXPECT_TRUE(run.program.format.PropTextChanges[1][33].Dirty);
-    EXPECT_EQ(run.program.totals.TaxableTable[33][1], 100.0F);
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP2][33].TaxExempt);
+    EXPECT_FALSE(run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP2][33].Dirty);
+    EXPECT_EQ(run.program.totals.TaxableTable[33][PageId::frmP2], 100.0F);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
     EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
     EXPECT_EQ(run.program.main.Focus, Text(kSecond, 33));

@@ -30,7 +30,7 @@ TEST(FinalPage, TakesADepositAsItIsTypedAndWritesItOnLeaving) {
     typist.Type("20.5");
     EXPECT_EQ(run.TextOf(kFinal, 4), "20.5");
     EXPECT_EQ(run.TextOf(PageId::frmP6_1, 4), "20.5");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[5][4], "20.5");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP6][4], "20.5");
     EXPECT_EQ(run.TextOf(kFinal, 5), "87.75") << "100 and 8.25 % tax, less 20.5";
     EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
     typist.Click(kFinal, 1);

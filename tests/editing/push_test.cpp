@@ -254,7 +254,7 @@ TEST(Limits, ATagWithTheAmountsLimitMakesAnAmountWhateverItsKind) {
     typist.Click(kSecond, 5);
     typist.Type("1x2");
     EXPECT_EQ(run.TextOf(kSecond, 5), "12");
-    EXPECT_EQ(run.program.totals.AmountTable[5][1], 12.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[5][PageId::frmP2], 12.0F);
     typist.Click(kSecond, 6);
     EXPECT_EQ(run.TextOf(kSecond, 5), "12.00");
     run.Area(kFirst, 5).Tag = "Name.020";

@@ -281,11 +281,11 @@ TEST(Band, AClickOnThePageChangesNothing) {
 TEST(Band, TakesWhatACompletionShowsForWhatTheAreaHolds) {
     BlockRun run;
     Typist(run.program).Click(kSecond, 2);
-    run.program.editing.ACActive[1] = true;
+    run.program.editing.ACActive[PageId::frmP2] = true;
     run.Put(kSecond, 2, "Chair covers");
     EXPECT_EQ(run.Stored(kSecond, 2), "");
     run.Band(kSecond, 2, 2);
-    EXPECT_FALSE(run.program.editing.ACActive[1]);
+    EXPECT_FALSE(run.program.editing.ACActive[PageId::frmP2]);
     EXPECT_EQ(run.Stored(kSecond, 2), "Chair covers");
 }
 

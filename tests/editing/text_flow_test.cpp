@@ -108,7 +108,7 @@ struct Pair {
             Reference.At(field).Text = modFields::Area(Run.program, field).Text;
             Reference.At(field).Back = modFields::Area(Run.program, field).BackColor;
             Reference.Sheets[5].Rows[static_cast<std::size_t>(i)].Store =
-                Run.program.document.CurrentTextBuf[5][static_cast<std::size_t>(i)];
+                Run.program.document.CurrentTextBuf[PageId::frmP6][static_cast<std::size_t>(i)];
         }
         Reference.Focus = Run.program.main.Focus;
         Reference.TextNum = Run.program.main.lblTextNum.Caption;

@@ -37,9 +37,10 @@ TEST(ChangePipeline, StoresTheTrimmedTextAndKeepsTheAreasBlanks) {
     typist.Click(kFirst, 3);
     typist.Type("  Elm ");
     EXPECT_EQ(run.TextOf(kFirst, 3), "  Elm ");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][3], "Elm");
-    EXPECT_EQ(run.program.format.PropTextChanges[0][3].Text, "  Elm ");
-    EXPECT_EQ(run.program.format.FormatTextChanges[0][3].Text, "") << "a format takes texts when it is saved";
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][3], "Elm");
+    EXPECT_EQ(run.program.format.PropTextChanges[PageId::frmP1][3].Text, "  Elm ");
+    EXPECT_EQ(run.program.format.FormatTextChanges[PageId::frmP1][3].Text, "")
+        << "a format takes texts when it is saved";
     EXPECT_EQ(run.program.editing.CurrentKind, "Name");
     EXPECT_EQ(run.program.editing.CurrentLimit, "060");
     EXPECT_EQ(run.program.editing.CurrentWidth, 6120);
@@ -71,15 +72,15 @@ TEST(ChangePipeline, ATypedAmountFillsTheTablesAndTurnsTheButtonRed) {
     Typist typist(run.program);
     typist.Click(kSecond, 40);
     typist.Type("12");
-    EXPECT_EQ(run.program.totals.AmountTable[40][1], 12.0F);
-    EXPECT_EQ(run.program.totals.TaxableTable[40][1], 12.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[40][PageId::frmP2], 12.0F);
+    EXPECT_EQ(run.program.totals.TaxableTable[40][PageId::frmP2], 12.0F);
     EXPECT_EQ(run.Label(kSecond, 8).Tag, "");
     EXPECT_TRUE(run.Label(kSecond, 8).Visible);
     EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "") << "totals follow on leaving";
     typist.Press(keys::kBackspace);
     typist.Press(keys::kBackspace);
-    EXPECT_EQ(run.program.totals.AmountTable[40][1], 0.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[40][PageId::frmP2], 0.0F);
     EXPECT_EQ(run.Label(kSecond, 8).Tag, "Hide");
     EXPECT_FALSE(run.Label(kSecond, 8).Visible);
 }
@@ -87,24 +88,24 @@ TEST(ChangePipeline, ATypedAmountFillsTheTablesAndTurnsTheButtonRed) {
 TEST(ChangePipeline, TextThatIsNoNumberChangesNoTable) {
     for (const char* text : {"-", ",", ".", "1e39", "1-2"}) {
         RunningProgram run;
-        run.program.totals.AmountTable[20][0] = 7;
+        run.program.totals.AmountTable[20][PageId::frmP1] = 7;
         run.Area(kFirst, 20).Text = "7";
         PutText(run, kFirst, 20, text);
-        EXPECT_EQ(run.program.totals.AmountTable[20][0], 7.0F) << text;
+        EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 7.0F) << text;
     }
     RunningProgram run;
     PutText(run, kFirst, 20, "1,2,3");
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 123.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 123.0F);
     PutText(run, kFirst, 20, "1e-50");
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 0.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 0.0F);
 }
 
 TEST(ChangePipeline, AnExemptAmountIsNotTaxable) {
     RunningProgram run;
     modPages::SetNoTaxMark(run.program, kFirst, 20, modPages::Mark::Shown);
     PutText(run, kFirst, 20, "50");
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 50.0F);
-    EXPECT_EQ(run.program.totals.TaxableTable[20][0], 0.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 50.0F);
+    EXPECT_EQ(run.program.totals.TaxableTable[20][PageId::frmP1], 0.0F);
 }
 
 TEST(ChangePipeline, LimitsAreShownAndNeverEnforced) {
@@ -127,24 +128,24 @@ TEST(ChangePipeline, IsSilentWhileFilesAreReadAndPagesAreBuilt) {
         run.program.guards.*flag = true;
         PutText(run, kFirst, 3, "x");
         run.program.guards.*flag = false;
-        EXPECT_EQ(run.program.document.CurrentTextBuf[0][3], "");
+        EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][3], "");
         PutText(run, kFirst, 3, "");
     }
     run.program.editing.MoveInProgress = true;
     PutText(run, kFirst, 3, "x");
     run.program.editing.MoveInProgress = false;
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][3], "");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][3], "");
     run.program.editing.BlockMode = true;
     PutText(run, kFirst, 4, "x");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][4], "");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][4], "");
     run.program.editing.RefireMode = true;
     PutText(run, kFirst, 5, "x");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][5], "x");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][5], "x");
     run.program.editing.BlockMode = false;
     run.program.editing.RefireMode = false;
-    run.program.editing.ACActive[0] = true;
+    run.program.editing.ACActive[PageId::frmP1] = true;
     PutText(run, kFirst, 6, "x");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][6], "");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][6], "");
 }
 
 TEST(Push, ABlankAtTheEndOfATooLongLineMovesTheLastWordAndTheCursorFollows) {
@@ -160,8 +161,8 @@ TEST(Push, ABlankAtTheEndOfATooLongLineMovesTheLastWordAndTheCursorFollows) {
     EXPECT_EQ(run.TextOf(kFirst, 11), "jklmnopq ");
     EXPECT_EQ(run.program.main.Focus, Text(kFirst, 11));
     EXPECT_EQ(run.Area(kFirst, 11).SelStart, 9);
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][10], Words(8).substr(0, 79));
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][11], "jklmnopq");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][10], Words(8).substr(0, 79));
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][11], "jklmnopq");
     EXPECT_EQ(run.Area(kFirst, 10).BackColor, colors::kResting);
 }
 
@@ -340,7 +341,7 @@ TEST(Leaving, AnAmountIsWrittenUnderItsPatternAndTotalled) {
     typist.Type("1234.5");
     typist.Click(kFirst, 3);
     EXPECT_EQ(run.TextOf(kFirst, 20), "1,234.50");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][20], "1,234.50");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][20], "1,234.50");
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "1,234.50");
     EXPECT_EQ(run.Area(kFirst, 20).BackColor, colors::kResting);
     EXPECT_EQ(run.program.editing.LastArea, 20);
@@ -396,7 +397,7 @@ TEST_P(DoubleClick, ConvertsTheArea) {
     PutText(run, kFirst, GetParam().Area, GetParam().From);
     modInput::FieldDblClick(run.program, Text(kFirst, GetParam().Area));
     EXPECT_EQ(run.TextOf(kFirst, GetParam().Area), GetParam().To);
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][static_cast<std::size_t>(GetParam().Area)],
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][static_cast<std::size_t>(GetParam().Area)],
               GetParam().To);
     EXPECT_EQ(run.Area(kFirst, GetParam().Area).SelStart,
               static_cast<int>(run.TextOf(kFirst, GetParam().Area).size()));
@@ -553,13 +554,13 @@ TEST(Columns, TurnARowIntoAPricedLineAndBack) {
     typist.Type("19.9,9-");
     EXPECT_EQ(page.txtAmt[4].Text, "19.99") << "no comma and no minus";
     EXPECT_EQ(run.TextOf(kSecond, 37), "59.97");
-    EXPECT_EQ(run.program.totals.PageSum[1], 59.97F);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 59.97F);
     typist.Press(keys::kEnter);
     EXPECT_EQ(run.program.main.Focus, Text(kSecond, 37));
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][4], "\xA5"
-                                                         "3\xA5"
-                                                         "Chairs\xA7"
-                                                         "19.99");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][4], "\xA5"
+                                                                     "3\xA5"
+                                                                     "Chairs\xA7"
+                                                                     "19.99");
     typist.Click(kSecond, 4);
     typist.Press(keys::kF8);
     EXPECT_EQ(run.Area(kSecond, 4).Left, 900);
@@ -568,7 +569,7 @@ TEST(Columns, TurnARowIntoAPricedLineAndBack) {
     EXPECT_EQ(page.txtQty[4].Tag, "Hide");
     EXPECT_EQ(page.txtQty[4].Text, "");
     EXPECT_EQ(run.TextOf(kSecond, 37), "59.97") << "the amount stays";
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][4], "Chairs");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][4], "Chairs");
 }
 
 struct Product {
@@ -636,7 +637,8 @@ TEST(Columns, AQuantityAloneCountsAsUnsaved) {
     modPages::PlaceColumns(run.program, kSecond, 0, modPages::Columns::On);
     run.program.document.SavedTextBuf = run.program.document.CurrentTextBuf;
     modFields::SetText(run.program, {kSecond, FieldKind::txtQty, 0}, "5");
-    EXPECT_NE(run.program.document.CurrentTextBuf[1][0], run.program.document.SavedTextBuf[1][0]);
+    EXPECT_NE(run.program.document.CurrentTextBuf[PageId::frmP2][0],
+              run.program.document.SavedTextBuf[PageId::frmP2][0]);
 }
 
 TEST(TaxMarks, SetByTheMenuLeaveTheTotalToTheLeaving) {
@@ -651,7 +653,7 @@ TEST(TaxMarks, SetByTheMenuLeaveTheTotalToTheLeaving) {
     modColumns::mnuEditTextTaxExempt_Click(run.program);
     EXPECT_TRUE(run.program.pages[kSecond].imgNoTax[33].Visible);
     EXPECT_EQ(run.program.pages[kSecond].imgNoTax[33].Tag, "");
-    EXPECT_TRUE(run.program.format.FormatTextChanges[1][33].TaxExempt);
+    EXPECT_TRUE(run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
     typist.Click(kSecond, 34);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "0.00");
@@ -669,8 +671,8 @@ TEST(Refire, RunsEveryHandlerWithTheRealText) {
     run.Area(kSecond, 0).Text = "Chairs";
     run.Area(kSecond, 33).Text = "25";
     modText::RefireTextChanges(run.program, kSecond);
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "Chairs");
-    EXPECT_EQ(run.program.totals.PageSum[1], 25.0F);
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "Chairs");
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 25.0F);
     EXPECT_FALSE(run.program.editing.RefireMode);
     run.program.document.FileName.clear();
     modText::RefireTextChanges(run.program, kFirst);

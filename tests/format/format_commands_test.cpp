@@ -28,16 +28,16 @@ struct Formats : RunningProgram {
         program.format.FormatName = "House.fmt";
         program.format.FormatFolder = folder / "Proposals/";
         program.format.FormatLines = {"one"};
-        program.format.FormatTextChanges[0][3].FormatText = true;
-        program.format.FormatLabelChanges[0][3].Changed = true;
+        program.format.FormatTextChanges[PageId::frmP1][3].FormatText = true;
+        program.format.FormatLabelChanges[PageId::frmP1][3].Changed = true;
         program.settings.LoadDefaultFormat = true;
     }
     void ExpectNoFormat() {
         EXPECT_FALSE(program.format.FormatOpen);
         EXPECT_EQ(program.format.FormatName, "");
         EXPECT_TRUE(program.format.FormatLines.empty());
-        EXPECT_FALSE(program.format.FormatTextChanges[0][3].FormatText);
-        EXPECT_FALSE(program.format.FormatLabelChanges[0][3].Changed);
+        EXPECT_FALSE(program.format.FormatTextChanges[PageId::frmP1][3].FormatText);
+        EXPECT_FALSE(program.format.FormatLabelChanges[PageId::frmP1][3].Changed);
         EXPECT_FALSE(program.settings.LoadDefaultFormat);
         EXPECT_EQ(program.main.Caption, "Quillbrook");
     }
@@ -76,7 +76,7 @@ TEST(FormatNew, AChangedFormatOrPropertyAsksToo) {
     run.surroundings.questions.ExpectBox(kClearQuestion, Answer::No);
     modFormat::mnuFileFormatNew_Click(run.program);
     run.program.hooks.FormatHasChanges = [](Program&) { return false; };
-    run.program.format.LabelSavedState[0][3].Changed = true;
+    run.program.format.LabelSavedState[PageId::frmP1][3].Changed = true;
     run.surroundings.questions.ExpectBox(kClearQuestion, Answer::No);
     modFormat::mnuFileFormatNew_Click(run.program);
 }

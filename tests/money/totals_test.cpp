@@ -43,7 +43,7 @@ TEST(RunningTotals, FollowAnAmountThatIsLeft) {
     EXPECT_EQ(Figures(run, PageId::frmP6_1), Figures(run));
     EXPECT_EQ(run.program.main.lblTotal.Caption, "Running Sub-Total = $ 1,234.50");
     EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
-    EXPECT_EQ(run.program.totals.PageSum[2], 234.5F);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP3], 234.5F);
 }
 
 TEST(RunningTotals, AnExemptRowStillCountsInTheSubtotal) {
@@ -138,8 +138,7 @@ TEST(Discrepancy, TwoWaysOfAddingSinglesThatReallyDifferAreTold) {
     for (const auto& [page, index, value] :
          {std::tuple{PageId::frmP1, 20, 16777216.0F}, {PageId::frmP2, 33, 1.0F}, {PageId::frmP2, 34, 1.0F}}) {
         run.Area(page, index).Text = value > 1 ? "16777216" : "1";
-        run.program.totals
-            .AmountTable[static_cast<std::size_t>(index)][static_cast<std::size_t>(IndexOf(page))] = value;
+        run.program.totals.AmountTable[static_cast<std::size_t>(index)][page] = value;
         modPages::SetNoTaxMark(run.program, page, index, modPages::Mark::Shown);
     }
     modTotals::CalculateMyTotals(run.program, PageId::frmP1);
@@ -162,19 +161,19 @@ TEST(Discrepancy, TwoWaysOfAddingSinglesThatReallyDifferAreTold) {
 TEST(ExemptMark, AClickTakesTheRowBackAtOnce) {
     RunningProgram run;
     Amount(run, PageId::frmP2, 33, "100");
-    run.program.format.PropTextChanges[1][33].TaxExempt = true;
-    run.program.format.FormatTextChanges[1][33].TaxExempt = true;
+    run.program.format.PropTextChanges[PageId::frmP2][33].TaxExempt = true;
+    run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt = true;
     modPages::SetNoTaxMark(run.program, PageId::frmP2, 33, modPages::Mark::Shown);
     modTotals::CalculateMyTotals(run.program, PageId::frmP2);
     modTotals::UpdateRunningTotals(run.program);
     EXPECT_EQ(Figures(run)[1], "0.00");
     modTotals::imgNoTax_Click(run.program, PageId::frmP2, 33);
     EXPECT_EQ(Figures(run)[1], "100.00");
-    EXPECT_EQ(run.program.totals.TaxableTable[33][1], 100.0F);
+    EXPECT_EQ(run.program.totals.TaxableTable[33][PageId::frmP2], 100.0F);
     EXPECT_EQ(run.program.pages[PageId::frmP2].imgNoTax[33].Tag, "Hide");
-    EXPECT_FALSE(run.program.format.PropTextChanges[1][33].TaxExempt);
-    EXPECT_FALSE(run.program.format.FormatTextChanges[1][33].TaxExempt);
-    EXPECT_TRUE(run.program.format.PropTextChanges[1][33].Dirty);
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP2][33].TaxExempt);
+    EXPECT_FALSE(run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP2][33].Dirty);
     EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
     EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP2, FieldKind::txt, 33}));
 }
@@ -391,7 +390,7 @@ TEST(RunningTotals, AnAmountThatNoSingleHoldsIsNone) {
     RunningProgram run;
     run.Area(PageId::frmP2, 33).Text = "1e39";
     EXPECT_FALSE(modTotals::StoreAmount(run.program, PageId::frmP2, 33));
-    EXPECT_EQ(run.program.totals.AmountTable[33][1], 0);
+    EXPECT_EQ(run.program.totals.AmountTable[33][PageId::frmP2], 0);
     EXPECT_FALSE(run.Label(PageId::frmP2, 1).Visible);
 }
 

@@ -9,9 +9,7 @@
 namespace {
 
 void SetLine(RunningProgram& run, PageId page, int index, std::string text) {
-    run.program.document
-        .CurrentTextBuf[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)] =
-        std::move(text);
+    run.program.document.CurrentTextBuf[page][static_cast<std::size_t>(index)] = std::move(text);
 }
 
 TEST(PagesInUse, IsTheHighestPageWithALineAndTheFinalPage) {
@@ -49,7 +47,7 @@ TEST(PagesInUse, TakesBlanksForNoLine) {
 
 TEST(PagesInUse, GoesByTheTextsOnThePagesAndNotByThoseLastSaved) {
     RunningProgram run;
-    run.program.document.SavedTextBuf[4][0] = "saved long ago";
+    run.program.document.SavedTextBuf[PageId::frmP5][0] = "saved long ago";
     SetLine(run, PageId::frmP2, 0, "now");
     modPrint::CountPagesInUse(run.program);
     EXPECT_EQ(run.program.document.PagesInUse, 3);
@@ -96,7 +94,7 @@ TEST(Headings, AreCentredAndKeptWithTheProposal) {
     run.program.document.PageHeading = "Acme - ";
     modPrint::SetPageNumbers(run.program);
     EXPECT_EQ(run.Label(PageId::frmP2, 0).Left, 5470);
-    const LabelChangeRecord& kept = run.program.format.PropLabelChanges[1][0];
+    const LabelChangeRecord& kept = run.program.format.PropLabelChanges[PageId::frmP2][0];
     EXPECT_TRUE(kept.Changed);
     EXPECT_EQ(kept.Caption, "Acme - Page 2");
     EXPECT_EQ(kept.Left, 5470);
@@ -105,7 +103,7 @@ TEST(Headings, AreCentredAndKeptWithTheProposal) {
     // "Acme - Page 6": as long.
     EXPECT_EQ(run.Label(PageId::frmP6, 0).Left, 5470);
     EXPECT_EQ(run.Label(PageId::frmP6_1, 0).Left, 5470);
-    EXPECT_EQ(run.program.format.PropLabelChanges[5][0].Caption, "Acme - Page 6");
+    EXPECT_EQ(run.program.format.PropLabelChanges[PageId::frmP6][0].Caption, "Acme - Page 6");
 }
 
 TEST(PageNumbers, AreKeptWithTheProposalAsTheyLook) {
@@ -121,7 +119,7 @@ TEST(PageNumbers, AreKeptWithTheProposalAsTheyLook) {
     number.FontUnderline = true;
     number.ForeColor = 0x0000FF;
     modPrint::SetPageNumbers(run.program);
-    const LabelChangeRecord& kept = run.program.format.PropLabelChanges[0][31];
+    const LabelChangeRecord& kept = run.program.format.PropLabelChanges[PageId::frmP1][31];
     EXPECT_TRUE(kept.Changed);
     EXPECT_EQ(kept.Caption, "Page 1 of 3");
     EXPECT_EQ(kept.Left, 1000);
@@ -137,8 +135,9 @@ TEST(PageNumbers, AreKeptWithTheProposalAsTheyLook) {
         EXPECT_TRUE(run.program.format.PropLabelChanges[static_cast<std::size_t>(page)][34].Changed);
         EXPECT_TRUE(run.program.format.PropLabelChanges[static_cast<std::size_t>(page)][0].Changed);
     }
-    EXPECT_EQ(run.program.format.PropLabelChanges[5][63].Caption, "Page 3 of 3");
-    EXPECT_FALSE(run.program.format.PropLabelChanges[0][0].Changed) << "page 1 has no running heading";
+    EXPECT_EQ(run.program.format.PropLabelChanges[PageId::frmP6][63].Caption, "Page 3 of 3");
+    EXPECT_FALSE(run.program.format.PropLabelChanges[PageId::frmP1][0].Changed)
+        << "page 1 has no running heading";
 }
 
 TEST(Footers, SayOfSixUntilAPrintCommandHasRun) {

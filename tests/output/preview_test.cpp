@@ -124,7 +124,7 @@ TEST(Preview, RefusesTheCommandsThatEditThePage) {
 
 TEST(Preview, IsDrawnAnewWhenAPageIsPrintedMeanwhile) {
     RunningProgram run;
-    run.program.document.CurrentTextBuf[0][2] = "Jane";
+    run.program.document.CurrentTextBuf[PageId::frmP1][2] = "Jane";
     modPrint::TogglePreview(run.program);
     const int drawn = run.program.pages[PageId::frmP1].InkVersion;
     run.surroundings.events.OnYield = [&] {

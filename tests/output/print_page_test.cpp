@@ -368,7 +368,7 @@ TEST(PrintTheForm, WhatIsTypedWhileEventsRunReachesTheProposal) {
     };
     modPrint::PrintTheForm(run.program, PageId::frmP1);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "Hall");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][8], "Hall");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][8], "Hall");
 }
 
 /// A thousand at 8.25 % makes 1082.5; the running figures write it with a comma and two decimals.
@@ -406,7 +406,7 @@ TEST(PrintEntries, PrintTheirOwnPage) {
 
 TEST(PrintEntries, TheToolButtonPrintsAllPages) {
     RunningProgram run;
-    run.program.document.CurrentTextBuf[0][2] = "Jane";
+    run.program.document.CurrentTextBuf[PageId::frmP1][2] = "Jane";
     frmMain(run.program).imgPrint_Click();
     EXPECT_EQ(run.surroundings.printers.Named.size(), 3U);
 }

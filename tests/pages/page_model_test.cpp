@@ -392,8 +392,8 @@ TEST(PageModel, FontsGoToAreasRowLabelsAndSignsAndBoldComesBack) {
     program.run.DefaultFontSize = 8;
     program.run.DefaultFontColor = 0x123456;
     program.run.DefaultFontItalic = true;
-    program.format.PropTextChanges[1][3].FontBold = true;
-    program.format.FormatTextChanges[5][4].FontBold = true;
+    program.format.PropTextChanges[PageId::frmP2][3].FontBold = true;
+    program.format.FormatTextChanges[PageId::frmP6][4].FontBold = true;
     modPages::ApplyPageFonts(program);
     for (const PageId page : kAllPages) {
         EXPECT_EQ(program.pages[page].FontName, "Arial");
@@ -439,10 +439,10 @@ TEST(PageModel, ToolTipsTellOfTheDoubleClick) {
 
 TEST(PageModel, StartUpKeepsTheLabelsPlacesAndAResetEmptiesThem) {
     RunningProgram run;
-    EXPECT_EQ(run.program.format.PropLabelChanges[0][9].Left, 1080);
-    EXPECT_EQ(run.program.format.PropLabelChanges[5][64].Top, 15030);
+    EXPECT_EQ(run.program.format.PropLabelChanges[PageId::frmP1][9].Left, 1080);
+    EXPECT_EQ(run.program.format.PropLabelChanges[PageId::frmP6][64].Top, 15030);
     static_cast<void>(modReset::StartNewFile(run.program));
-    EXPECT_EQ(run.program.format.PropLabelChanges[0][9].Left, 0);
+    EXPECT_EQ(run.program.format.PropLabelChanges[PageId::frmP1][9].Left, 0);
 }
 
 TEST(PageModel, TitlesAreCentredOnEveryPage) {
@@ -456,7 +456,7 @@ TEST(PageModel, TitlesAreCentredOnEveryPage) {
     EXPECT_EQ(run.Label(PageId::frmP6_1, 64).Caption, "Proposal for Jane Roe - Client's Copy");
     EXPECT_EQ(run.program.main.lblEvent.Caption, "Proposal for Jane Roe");
     modTitles::LayTitles(run.program);
-    EXPECT_EQ(run.program.format.PropLabelChanges[0][33].Caption, "Proposal for Jane Roe");
+    EXPECT_EQ(run.program.format.PropLabelChanges[PageId::frmP1][33].Caption, "Proposal for Jane Roe");
 }
 
 TEST(Geometry, PairsAmountsWithTheirRowsAndSigns) {

@@ -75,8 +75,7 @@ TEST(Dirty, EveryAreaOfTheEditedPagesCounts) {
     Living run;
     run.program.hooks.CollectQtyBoxes = nullptr; // it would bring the texts back to what the fields show
     for (const PageId page : kEditedPages) {
-        const auto at = static_cast<std::size_t>(IndexOf(page));
-        auto& texts = run.program.document.CurrentTextBuf[at];
+        auto& texts = run.program.document.CurrentTextBuf[page];
         ASSERT_EQ(texts.size(), page == PageId::frmP1 ? 30U : page == PageId::frmP6 ? 6U : 66U);
         for (std::string& text : texts) {
             const std::string before = text;
@@ -91,13 +90,13 @@ TEST(Dirty, EveryAreaOfTheEditedPagesCounts) {
 TEST(Dirty, BlanksAroundTheFiguresOfTheFinalPageDoNotCount) {
     Living run;
     run.program.hooks.CollectQtyBoxes = nullptr; // it would bring the texts back to what the fields show
-    run.program.document.CurrentTextBuf[5][3] = "  1.00";
-    run.program.document.SavedTextBuf[5][3] = "1.00 ";
+    run.program.document.CurrentTextBuf[PageId::frmP6][3] = "  1.00";
+    run.program.document.SavedTextBuf[PageId::frmP6][3] = "1.00 ";
     EXPECT_FALSE(modProposal::SomethingChanged(run.program));
-    run.program.document.CurrentTextBuf[1][3] = "a";
-    run.program.document.SavedTextBuf[1][3] = "a";
+    run.program.document.CurrentTextBuf[PageId::frmP2][3] = "a";
+    run.program.document.SavedTextBuf[PageId::frmP2][3] = "a";
     EXPECT_FALSE(modProposal::SomethingChanged(run.program));
-    run.program.document.CurrentTextBuf[1][3] = "a ";
+    run.program.document.CurrentTextBuf[PageId::frmP2][3] = "a ";
     EXPECT_TRUE(modProposal::SomethingChanged(run.program));
 }
 
@@ -106,10 +105,10 @@ TEST(Dirty, TheRowFieldsAreCollectedBeforeTheComparison) {
     int collected = 0;
     run.program.hooks.CollectQtyBoxes = [&](Program& program) {
         ++collected;
-        program.document.CurrentTextBuf[1][0] = "\xA5"
-                                                "3\xA5"
-                                                "Chairs\xA7"
-                                                "1.00";
+        program.document.CurrentTextBuf[PageId::frmP2][0] = "\xA5"
+                                                            "3\xA5"
+                                                            "Chairs\xA7"
+                                                            "1.00";
     };
     EXPECT_TRUE(modProposal::SomethingChanged(run.program));
     EXPECT_EQ(collected, 1);
@@ -122,7 +121,7 @@ TEST(AskingToSave, SaysNothingWhenNothingChanged) {
 
 TEST(AskingToSave, AChangedPropertyAsksToo) {
     Living run;
-    run.program.format.PropTextChanges[0][10].Dirty = true;
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
     run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::No);
     EXPECT_TRUE(modProposal::MayGoOn(run.program));
 }
@@ -239,10 +238,10 @@ TEST(New, ReadsTheTermsUnlessAListIsPinnedAndShowsTheCalculatorWhenWanted) {
 TEST(Reset, EmptiesNamesTextsTotalsAndMarks) {
     Living run;
     run.SaveAs("Jane Roe");
-    run.program.totals.AmountTable[20][0] = 5;
+    run.program.totals.AmountTable[20][PageId::frmP1] = 5;
     run.program.totals.Deposit = 7;
     run.program.document.PagesInUse = 2;
-    run.program.format.PropTextChanges[0][20].TaxExempt = true;
+    run.program.format.PropTextChanges[PageId::frmP1][20].TaxExempt = true;
     run.program.format.PropertyLines = {"a"};
     run.program.main.imgFootNotes.Picture = 1;
     ASSERT_EQ(modReset::StartNewFile(run.program), modReset::ResetResult::Done);
@@ -256,10 +255,10 @@ TEST(Reset, EmptiesNamesTextsTotalsAndMarks) {
     EXPECT_EQ(document.ClientCaption, "Proposal for (Client's Name)");
     EXPECT_EQ(document.PageHeading, "Acme Events - Event Proposal - ");
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "");
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 0.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 0.0F);
     EXPECT_EQ(run.program.totals.Deposit, 0.0F);
     EXPECT_EQ(run.program.totals.TaxRate, 8.25F);
-    EXPECT_FALSE(run.program.format.PropTextChanges[0][20].TaxExempt);
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP1][20].TaxExempt);
     EXPECT_TRUE(run.program.format.PropertyLines.empty());
     EXPECT_EQ(run.program.main.Caption, "Quillbrook");
     EXPECT_EQ(run.program.main.imgFootNotes.Picture, 0);

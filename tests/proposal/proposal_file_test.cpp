@@ -73,8 +73,8 @@ TEST(ProposalLayout, AFullWidthMarkedAmountLosesItsLastCharacter) {
     for (std::size_t page = 0; page < widths.size(); ++page) {
         fields[page].resize(widths[page].size());
     }
-    fields[0][20] = {"12345678901234567890", true};
-    fields[0][21] = {"7", false};
+    fields[PageId::frmP1][20] = {"12345678901234567890", true};
+    fields[PageId::frmP1][21] = {"7", false};
     const std::string bytes = proposal::Encode(fields, widths);
     EXPECT_EQ(bytes.size(), 20630U);
     EXPECT_EQ(bytes.substr(kFirstAmountOffset, 21), "\xD8"
@@ -113,8 +113,8 @@ TEST(OpeningAProposal, ReadsBackWhatWasTyped) {
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
     EXPECT_EQ(run.TextOf(PageId::frmP1, 21), "75.50");
     EXPECT_TRUE(run.program.pages[PageId::frmP1].imgNoTax[21].Visible);
-    EXPECT_TRUE(run.program.format.PropTextChanges[0][21].TaxExempt);
-    EXPECT_EQ(run.program.totals.TaxableTable[21][0], 0);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP1][21].TaxExempt);
+    EXPECT_EQ(run.program.totals.TaxableTable[21][PageId::frmP1], 0);
     EXPECT_EQ(run.TextOf(PageId::frmP2, 0), "Chair covers");
     EXPECT_EQ(run.program.pages[PageId::frmP2].txtQty[0].Text, "3");
     EXPECT_EQ(run.program.pages[PageId::frmP2].txtAmt[0].Text, "19.99");
@@ -169,7 +169,7 @@ TEST(OpeningAProposal, AMarkedTextThatIsNoNumberShowsItsMarkUntilEdited) {
     EXPECT_EQ(Current(run, 0, 20), "abc");
     EXPECT_EQ(Saved(run, 0, 20), "\xD8"
                                  "abc");
-    EXPECT_FALSE(run.program.format.PropTextChanges[0][20].TaxExempt);
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP1][20].TaxExempt);
 }
 
 TEST(OpeningAProposal, AQuantityRowWithAMarkMissingIsPlainText) {
@@ -329,7 +329,7 @@ TEST(SavingAProposal, UnderATakenNameAsksFirst) {
 TEST(SavingAProposal, OnAFullDiskIsToldAndTheTextStaysUnsaved) {
     RunningProgram run;
     run.program.document.FileName = "Ann.hef";
-    run.program.document.CurrentTextBuf[0][3] = "12 Elm Street";
+    run.program.document.CurrentTextBuf[PageId::frmP1][3] = "12 Elm Street";
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
@@ -382,7 +382,7 @@ TEST(Properties, AreKeptAndWrittenBackUnchangedWhileNobodyReadsThem) {
     modFile::ReadFileProperties(run.program);
     EXPECT_EQ(run.program.format.PropertyLines.size(), 2U);
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
-    run.program.format.PropTextChanges[0][20].Dirty = true;
+    run.program.format.PropTextChanges[PageId::frmP1][20].Dirty = true;
     run.surroundings.questions.Expect("File was saved as A.hef");
     modFile::SaveEventFile(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/A.hpf"), lines);
@@ -425,8 +425,8 @@ TEST(ProposalLayout, ASlotOfNulsThatTheFilesEndCutsIsBlank) {
     RunningProgram run;
     const proposal::Widths widths = modFile::SlotWidths(run.program);
     const proposal::Decoded decoded = proposal::Decode(std::string(60, '\0'), 60, widths);
-    EXPECT_EQ(decoded.Slots[0][0], std::string(25, ' '));
-    EXPECT_EQ(decoded.Slots[0][2], std::string(60, ' '));
+    EXPECT_EQ(decoded.Slots[PageId::frmP1][0], std::string(25, ' '));
+    EXPECT_EQ(decoded.Slots[PageId::frmP1][2], std::string(60, ' '));
 }
 
 TEST(ProposalLayout, AnOldSizeReadAsTwentyRunsThroughTheFileAtOtherOffsets) {
@@ -452,7 +452,7 @@ TEST(OpeningAProposal, BlanksBeforeATextStayAndThoseOfTheFinalPageGo) {
               modFile::OpenResult::Opened);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "  Ann");
     EXPECT_EQ(run.TextOf(PageId::frmP1, 20), "   5");
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 5);
+    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 5);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "30.00");
 }
 
@@ -462,7 +462,7 @@ TEST(OpeningAProposal, AMarkBehindABlankIsNoMark) {
                                          "5"}})),
               modFile::OpenResult::Opened);
     EXPECT_FALSE(run.program.pages[PageId::frmP1].imgNoTax[20].Visible);
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 0);
+    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 0);
 }
 
 TEST(OpeningAProposal, AMarkedAmountLosesTheBlanksAroundItAndIsNotTaxed) {
@@ -480,7 +480,7 @@ TEST(OpeningAProposal, AMarkedAmountLosesTheBlanksAroundItAndIsNotTaxed) {
 
 TEST(OpeningAProposal, AFormatsTextStaysAndItsAmountCounts) {
     RunningProgram run;
-    run.program.format.FormatTextChanges[0][10].FormatText = true;
+    run.program.format.FormatTextChanges[PageId::frmP1][10].FormatText = true;
     run.Area(PageId::frmP1, 10).Text = "Every event includes";
     ASSERT_EQ(Open(run, FileWith({{530, "Something else"}, {650, "A row"}})), modFile::OpenResult::Opened);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "Every event includes");

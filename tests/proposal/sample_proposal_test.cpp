@@ -43,7 +43,7 @@ struct Sample : RunningProgram {
 
     [[nodiscard]] std::vector<int> ExemptAreas(PageId page) const {
         std::vector<int> found;
-        const auto& records = program.format.PropTextChanges[static_cast<std::size_t>(IndexOf(page))];
+        const auto& records = program.format.PropTextChanges[page];
         const auto& marks = program.pages[page].imgNoTax;
         for (std::size_t index = 0; index < marks.size(); ++index) {
             EXPECT_EQ(marks[index].Visible, records[index].TaxExempt) << index;

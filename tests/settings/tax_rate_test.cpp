@@ -82,7 +82,7 @@ TEST(TaxRate, IsWrittenInFiveCharactersAndTold) {
 
 TEST(TaxRate, WithAmountsTheRecalculationIsAskedForInRed) {
     Taxed run;
-    run.program.totals.AmountTable[38][1] = -5;
+    run.program.totals.AmountTable[38][PageId::frmP2] = -5;
     run.surroundings.questions.Expect("New Sales Tax Rate is 8.25 %");
     run.surroundings.questions.ExpectBox({"Please click Recalculate to update the totals.", Buttons::Ok, ""},
                                          Answer::Ok);
