@@ -41,7 +41,7 @@ double Milliseconds(Clock::duration span) {
 
 class Agreeing : public Questions {
 public:
-    Answer MsgBox(std::string_view, Buttons buttons, std::string_view) override {
+    Answer Ask(std::string_view, Buttons buttons, std::string_view, const Manner&) override {
         return buttons == Buttons::Ok ? Answer::Ok : Answer::No;
     }
     std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }

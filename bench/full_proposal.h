@@ -10,7 +10,7 @@
 /// Says yes to everything, so that only the program's own work is measured.
 class Agreeing : public Questions {
 public:
-    Answer MsgBox(std::string_view, Buttons buttons, std::string_view) override {
+    Answer Ask(std::string_view, Buttons buttons, std::string_view, const Manner&) override {
         return buttons == Buttons::Ok ? Answer::Ok : Answer::Yes;
     }
     std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }

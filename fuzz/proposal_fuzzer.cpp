@@ -19,7 +19,7 @@ namespace {
 /// Answers every box and never complains: a fuzzer has no script.
 class QuietQuestions : public Questions {
 public:
-    Answer MsgBox(std::string_view, Buttons, std::string_view) override { return Answer::Ok; }
+    Answer Ask(std::string_view, Buttons, std::string_view, const Manner&) override { return Answer::Ok; }
     std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
 };
 

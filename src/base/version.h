@@ -6,8 +6,8 @@
 namespace version {
 
 inline constexpr std::string_view kTitle = "Quillbrook";
-/// Three parts; the same as in CMakeLists.txt.
-inline constexpr std::string_view kNumber = "1.0.0";
+/// Three parts, as in "1.0.0".
+[[nodiscard]] std::string_view Number();
 inline constexpr std::string_view kComments = "Proposals for events and catering. Build Date: 11/21/2026";
 inline constexpr std::string_view kMaker = "Made by Quillbrook Software";
 inline constexpr std::string_view kWebLine = "www.quillbrook.example";

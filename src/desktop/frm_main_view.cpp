@@ -4,6 +4,7 @@
 #include "desktop/convert.h"
 #include "desktop/icons.h"
 #include "desktop/page_view.h"
+#include "desktop/paper_surface.h"
 #include "desktop/tool_strip.h"
 #include "desktop/window_views.h"
 #include "pages/fields.h"
@@ -32,7 +33,6 @@ namespace {
 
 /// Room between a window's edge and a strip's texts.
 constexpr int kStripMargin = 10;
-constexpr double kTwipsPerInch = 1440;
 constexpr QRgb kDeskLight = 0xFFB9C2C9;
 constexpr QRgb kDeskDark = 0xFF33393F;
 
@@ -101,7 +101,7 @@ FrmMainView::FrmMainView(Program& program, const QtTextMeasure& measure)
 FrmMainView::~FrmMainView() = default;
 
 double FrmMainView::PixelsPerTwip() const {
-    return logicalDpiX() / kTwipsPerInch;
+    return static_cast<double>(logicalDpiX()) / paper::kTwipsPerInch;
 }
 
 void FrmMainView::BuildStrips() {

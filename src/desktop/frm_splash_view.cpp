@@ -2,6 +2,7 @@
 
 #include "desktop/convert.h"
 #include "desktop/icons.h"
+#include "desktop/paper_surface.h"
 #include "program/program.h"
 #include "shell/frm_splash.h"
 
@@ -13,7 +14,6 @@
 namespace {
 
 constexpr double kTwipsPerPoint = 20;
-constexpr double kTwipsPerInch = 1440;
 
 } // namespace
 
@@ -24,7 +24,7 @@ FrmSplashView::FrmSplashView(Program& program, frmSplash& window, QWidget*, std:
     setWindowIcon(icons::Program());
     setAccessibleName(tr("Quillbrook starts. Press Enter to continue."));
     setAttribute(Qt::WA_OpaquePaintEvent);
-    const double scale = logicalDpiX() / kTwipsPerInch;
+    const double scale = static_cast<double>(logicalDpiX()) / paper::kTwipsPerInch;
     setFixedSize(qRound(static_cast<double>(window.Picture.Width) * scale),
                  qRound(static_cast<double>(window.Picture.Height) * scale));
     if (const QScreen* screen = QGuiApplication::primaryScreen()) {
@@ -67,7 +67,7 @@ void FrmSplashView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     PaintGround(painter);
-    const double scale = logicalDpiX() / kTwipsPerInch;
+    const double scale = static_cast<double>(logicalDpiX()) / paper::kTwipsPerInch;
     painter.scale(scale, scale);
     QFont font(convert::ToQString(shown_.FontName));
     for (const SplashText& text : shown_.Texts) {

@@ -5,8 +5,8 @@
 
 #include <string_view>
 
-/// The program's own icons: one family of line drawings on a 24 by 24 grid, painted afresh for every size and
-/// pixel ratio, so that they are sharp at any scale.
+/// The program's own icons: one family of line drawings in src/desktop/icons, painted afresh for every size
+/// and pixel ratio, so that they are sharp at any scale.
 namespace icons {
 
 /// By the control's name ("imgOpen"); an unknown name gives an empty icon. Colours follow the palette.

@@ -1,3 +1,5 @@
+#include "base/version.h"
+#include "desktop/convert.h"
 #include "desktop/frm_main_view.h"
 #include "desktop/icons.h"
 #include "desktop/qt_platform.h"
@@ -35,7 +37,8 @@ int Run() {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Quillbrook"));
-    QApplication::setApplicationVersion(QStringLiteral(QUILLBROOK_VERSION));
+    QApplication::setApplicationVersion(convert::ToQString(version::Number()));
+    QApplication::setDesktopFileName(QStringLiteral("quillbrook"));
     QApplication::setWindowIcon(icons::Program());
     QApplication::setQuitOnLastWindowClosed(false); // the model says when the run ends
     QApplication::setStyle(QStringLiteral("Fusion"));

@@ -3,6 +3,7 @@
 #include "program/page_records.h"
 
 #include <QPoint>
+#include <QRect>
 #include <QString>
 
 #include <functional>
@@ -23,4 +24,7 @@ struct PageContext {
     std::function<void(QPoint)> AskForMenu;
     /// What is marked anywhere on the desktop, for the middle button; the desktop's own where not set.
     std::function<QString()> MarkedText;
+
+    /// The whole pixels that a place on the paper, in twips, touches.
+    [[nodiscard]] QRect OnScreen(double left, double top, double width, double height) const;
 };

@@ -2,8 +2,12 @@
 
 #include "desktop/band_view.h"
 #include "desktop/convert.h"
-#include "desktop/field_views.h"
+#include "desktop/label_view.h"
+#include "desktop/logo_view.h"
+#include "desktop/mark_view.h"
+#include "desktop/paper_surface.h"
 #include "desktop/paper_text.h"
+#include "desktop/text_area_view.h"
 #include "output/print_page.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"
@@ -17,9 +21,6 @@
 
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
-constexpr double kRuleWidth = 15;
-
 template <typename View> void ShowAs(View& view, bool visible) {
     if (view.isHidden() == visible) {
         view.setVisible(visible);
@@ -29,7 +30,10 @@ template <typename View> void ShowAs(View& view, bool visible) {
 } // namespace
 
 PageView::PageView(Program& program, PageId page, const QtTextMeasure& measure, QWidget* parent)
-    : QWidget(parent), context_{program, measure, page, parent->logicalDpiX() / kTwipsPerInch, {}, {}, {}},
+    : QWidget(parent), context_{program, measure,
+                                page,    static_cast<double>(parent->logicalDpiX()) / paper::kTwipsPerInch,
+                                {},      {},
+                                {}},
       program_(program), id_(page) {
     setObjectName(QString::fromLatin1(geometry::PageName(page).data(),
                                       static_cast<qsizetype>(geometry::PageName(page).size())));
@@ -201,7 +205,7 @@ void PageView::DrawGrid(QPainter& painter) const {
                                  std::round(static_cast<double>(point.Y) * scale) / scale));
     }
     painter.drawPoints(points);
-    painter.setPen(QPen(kGrid, kRuleWidth));
+    painter.setPen(QPen(kGrid, paper::kRuleWidth));
     for (const PageLine& line : centre_) {
         painter.drawLine(QPointF(static_cast<double>(line.X1), static_cast<double>(line.Y1)),
                          QPointF(static_cast<double>(line.X2), static_cast<double>(line.Y2)));
@@ -211,7 +215,7 @@ void PageView::DrawGrid(QPainter& painter) const {
 
 void PageView::DrawFixed(QPainter& painter) const {
     DrawGrid(painter);
-    painter.setPen(QPen(Qt::black, kRuleWidth));
+    painter.setPen(QPen(Qt::black, paper::kRuleWidth));
     for (const PageLine& line : lines_) {
         if (line.Visible) {
             painter.drawLine(QPointF(static_cast<double>(line.X1), static_cast<double>(line.Y1)),

@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr double kRuleWidth = 15; // twips
 constexpr double kTwipsPerPixel = 15;
 /// Far beyond any paper. Numbers much larger than that make a PDF that cannot be read.
 constexpr double kFarthest = 1e6;
@@ -82,7 +81,7 @@ void PaperRecord::Replay(QPainter& painter) const {
         if (!CanBeDrawn(rule.Line.p1()) || !CanBeDrawn(rule.Line.p2())) {
             continue;
         }
-        painter.setPen(QPen(convert::ToQColor(rule.Ink), kRuleWidth));
+        painter.setPen(QPen(convert::ToQColor(rule.Ink), paper::kRuleWidth));
         painter.drawLine(rule.Line);
     }
     for (const Image& image : Images) {

@@ -58,6 +58,10 @@ private:
 
 namespace paper {
 
+/// Lengths are twips.
+inline constexpr int kTwipsPerInch = 1440;
+inline constexpr double kRuleWidth = 15;
+
 /// The mark of a tax-exempt amount, in the square of a side in the painter's units.
 void DrawNoTaxMark(QPainter& painter, QPointF corner, double side);
 

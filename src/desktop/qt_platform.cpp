@@ -24,10 +24,12 @@ std::string Folder(const QString& path) {
     return known.empty() ? "/" : known;
 }
 
-/// What an installation ships: beside the installed program, or in the source tree it was built from.
+/// What an installation ships: beside the folder of the installed program, or in its own.
 QString Shipped() {
-    const QString installed = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/quillbrook");
-    return QDir(installed).exists() ? installed : QStringLiteral(QUILLBROOK_DATA_DIR);
+    const QString beside = QCoreApplication::applicationDirPath() + QStringLiteral("/../share/quillbrook");
+    return QDir(beside).exists()
+               ? beside
+               : QCoreApplication::applicationDirPath() + QStringLiteral("/share/quillbrook");
 }
 
 } // namespace

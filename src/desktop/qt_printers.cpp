@@ -9,12 +9,13 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLibrary>
 #include <QMessageBox>
 #include <QPageLayout>
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
+
+#include <cups/cups.h>
 
 #include <algorithm>
 #include <optional>
@@ -22,7 +23,6 @@
 namespace {
 
 constexpr std::string_view kToPdf = "Print to PDF";
-constexpr int kTwipsPerInch = 1440;
 
 QPageLayout Letter() {
     return QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait, QMarginsF(), QPageLayout::Inch);
@@ -76,17 +76,10 @@ QString AskPerson(const QString& suggested) {
 /// Why the print system did not take the job that was just sent. The toolkit hands it over and does not look
 /// at the answer; the system's own library keeps it.
 std::optional<std::string> Refusal() {
-    using LastError = int (*)();
-    using LastErrorText = const char* (*)();
-    constexpr int kCupsVersion = 2;
-    constexpr int kFirstRefusal = 0x400; // what is below tells of success
-    QLibrary system(QStringLiteral("cups"), kCupsVersion);
-    const auto lastError = reinterpret_cast<LastError>(system.resolve("cupsLastError"));
-    const auto text = reinterpret_cast<LastErrorText>(system.resolve("cupsLastErrorString"));
-    if (lastError == nullptr || text == nullptr || lastError() < kFirstRefusal) {
-        return std::nullopt; // there is no such library where printers are reached in another way
+    if (cupsLastError() < IPP_STATUS_ERROR_BAD_REQUEST) {
+        return std::nullopt;
     }
-    return ansi::FromUtf8(text()).value_or("The document was not taken.");
+    return ansi::FromUtf8(cupsLastErrorString()).value_or("The document was not taken.");
 }
 
 } // namespace
@@ -164,7 +157,7 @@ void QtPrinters::SendToPrinter(const std::vector<PaperRecord>& pages) const {
         }
         first = false;
         painter.save();
-        const double scale = static_cast<double>(printer.resolution()) / kTwipsPerInch;
+        const double scale = static_cast<double>(printer.resolution()) / paper::kTwipsPerInch;
         painter.scale(scale, scale);
         page.Replay(painter);
         painter.restore();
@@ -182,7 +175,7 @@ QByteArray QtPrinters::MakePdf(const std::vector<const PaperRecord*>& pages, con
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
-    writer.setResolution(kTwipsPerInch);
+    writer.setResolution(paper::kTwipsPerInch);
     writer.setPageLayout(Letter());
     writer.setTitle(title);
     writer.setCreator(QStringLiteral("Quillbrook"));

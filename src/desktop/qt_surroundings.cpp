@@ -4,6 +4,7 @@
 #include "base/dates.h"
 #include "base/paths.h"
 #include "desktop/convert.h"
+#include "desktop/paper_surface.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -31,8 +32,6 @@
 #include <unistd.h>
 
 namespace {
-
-constexpr double kTwipsPerInch = 1440;
 
 QString Native(std::string_view path) {
     return QString::fromStdString(ansi::ToUtf8(path));
@@ -73,6 +72,20 @@ QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
     return QMessageBox::Ok;
 }
 
+QMessageBox::StandardButton ButtonOf(Answer answer) {
+    switch (answer) {
+    case Answer::Yes:
+        return QMessageBox::Yes;
+    case Answer::No:
+        return QMessageBox::No;
+    case Answer::Cancel:
+        return QMessageBox::Cancel;
+    case Answer::Ok:
+        break;
+    }
+    return QMessageBox::Ok;
+}
+
 /// A lock file that names nobody is left from a crash in the middle of its writing, or from a full disk; the
 /// lock itself knows whether somebody still holds it.
 bool TakeUnreadable(QLockFile& lock) {
@@ -92,7 +105,8 @@ QWidget* QtQuestions::Below() const {
     return Over != nullptr && Over->isVisible() ? Over : QApplication::activeWindow();
 }
 
-Answer QtQuestions::MsgBox(std::string_view text, Buttons buttons, std::string_view title) {
+Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view title,
+                        const Manner& manner) {
     if (BeforeAsking) {
         BeforeAsking();
     }
@@ -105,6 +119,9 @@ Answer QtQuestions::MsgBox(std::string_view text, Buttons buttons, std::string_v
     }
     if (buttons == Buttons::YesNo) {
         box.setEscapeButton(QMessageBox::No); // closing the box must not be a Yes
+    }
+    if (manner.Default) {
+        box.setDefaultButton(ButtonOf(*manner.Default));
     }
     switch (box.exec()) {
     case QMessageBox::Yes:
@@ -175,8 +192,8 @@ int QtScreen::HeightInPixels() const {
 float QtScreen::TwipsPerPixel() const {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen == nullptr ? 15
-                             : static_cast<float>(kTwipsPerInch / (screen->logicalDotsPerInchX() *
-                                                                   screen->devicePixelRatio()));
+                             : static_cast<float>(paper::kTwipsPerInch / (screen->logicalDotsPerInchX() *
+                                                                          screen->devicePixelRatio()));
 }
 
 void QtClipboard::Clear() {

@@ -15,13 +15,15 @@ class QWidget;
 
 class QtQuestions : public Questions {
 public:
-    Answer MsgBox(std::string_view text, Buttons buttons, std::string_view title) override;
     std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
 
     /// Boxes stand over this window.
     QWidget* Over = nullptr;
     /// Runs before a box opens: what is on show then is what the records say.
     std::function<void()> BeforeAsking;
+
+protected:
+    Answer Ask(std::string_view text, Buttons buttons, std::string_view title, const Manner& manner) override;
 
 private:
     /// Before the main window shows, a box stands over whatever window does, or in the middle of the screen.

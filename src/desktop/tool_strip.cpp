@@ -2,6 +2,7 @@
 
 #include "desktop/convert.h"
 #include "desktop/icons.h"
+#include "desktop/paper_surface.h"
 #include "program/program.h"
 #include "shell/frm_main.h"
 #include "shell/tool_buttons.h"
@@ -303,7 +304,7 @@ void ToolStrip::PlaceCommands() {
 }
 
 void ToolStrip::KeepPlace(const QWidget& widget, ImageButton& record) const {
-    const float twips = 1440.0F / static_cast<float>(logicalDpiX());
+    const float twips = static_cast<float>(paper::kTwipsPerInch) / static_cast<float>(logicalDpiX());
     record.Left = static_cast<float>(widget.x()) * twips;
     record.Top = static_cast<float>(widget.y()) * twips;
     record.Width = static_cast<float>(widget.width()) * twips;

@@ -1,6 +1,7 @@
 #include "desktop/window_views.h"
 
 #include "desktop/convert.h"
+#include "desktop/paper_surface.h"
 #include "program/program.h"
 
 #include <QEvent>
@@ -25,8 +26,7 @@ void WindowView::Follow() {
 
 void WindowView::moveEvent(QMoveEvent* event) {
     QDialog::moveEvent(event);
-    constexpr float kTwipsPerInch = 1440;
-    const float twips = kTwipsPerInch / static_cast<float>(logicalDpiX());
+    const float twips = static_cast<float>(paper::kTwipsPerInch) / static_cast<float>(logicalDpiX());
     window_.Left = static_cast<float>(x()) * twips;
     window_.Top = static_cast<float>(y()) * twips;
 }

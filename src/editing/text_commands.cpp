@@ -34,9 +34,9 @@ void SetWeight(Program& program, Weight weight) {
     modFields::GiveFocus(program, field);
 }
 
-using Conversion = std::string (*)(std::string_view);
+using Converter = std::string (*)(std::string_view);
 
-void ConvertSelection(Program& program, Conversion convert) {
+void ConvertSelection(Program& program, Converter convert) {
     const FieldRef field = Target(program);
     if (!modFields::Exists(program, field)) {
         return;

@@ -1,18 +1,40 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class Answer { Ok, Cancel, Yes, No };
 
+/// How a box comes, where that is not as boxes mostly do.
+struct Manner {
+    enum class Came {
+        OnRequest, ///< the person has just done what it answers
+        Unasked    ///< in the middle of something else: it takes no key in its first half second
+    };
+    /// The button that Enter presses; the first one unless it is given. Where something is deleted,
+    /// overwritten or thrown away it is the harmless one.
+    std::optional<Answer> Default;
+    Came How = Came::OnRequest;
+};
+
 /// Message and input boxes. Both wait for the person; texts hold CR LF between their lines.
 class Questions {
 public:
     virtual ~Questions() = default;
     /// An empty title shows as "Quillbrook".
-    virtual Answer MsgBox(std::string_view text, Buttons buttons, std::string_view title) = 0;
+    Answer MsgBox(std::string_view text, Buttons buttons, std::string_view title) {
+        return Ask(text, buttons, title, {});
+    }
+    Answer MsgBox(std::string_view text, Buttons buttons, std::string_view title, const Manner& manner) {
+        return Ask(text, buttons, title, manner);
+    }
     /// Returns the text; empty when the person cancelled.
     virtual std::string InputBox(std::string_view prompt, std::string_view title,
                                  std::string_view initial) = 0;
+
+protected:
+    virtual Answer Ask(std::string_view text, Buttons buttons, std::string_view title,
+                       const Manner& manner) = 0;
 };

@@ -27,7 +27,6 @@ struct Hooks {
     std::function<void(Program&, const std::string&)> ReadTextFile; ///< shows a text file, by its full path
     Call ShowTermsWindow;
     Call ShowCalculator;
-    Call CloseFootnotes;
     Call ReadEventDates;
     /// The assignment language of format and property files.
     Call OpenFormatFile;

@@ -66,6 +66,7 @@ struct MainWindow {
     PageId PageInFront = PageId::frmP1; ///< what the person sees, the client's copy included
     bool ScrollChangeSuppressed = false;
     bool ToolButtonPressed = false;
+    bool Busy = false; ///< the pointer says that something takes its time
     bool Resizing = false; ///< events run within a resize
     float WindowHeightRatio = 0;
     int ScrollClientHeight = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "program/calendar_records.h"
 #include "program/change_records.h"
 #include "program/document_records.h"
 #include "program/editing_records.h"
@@ -31,6 +32,7 @@ struct Program {
     FormatRecords format;
     EditingState editing;
     PrintRecords printing;
+    CalendarRecords calendar;
     MainWindow main;
     WindowCollection windows;
 };

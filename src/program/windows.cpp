@@ -28,6 +28,9 @@ void Close(Program& program, Window& window) {
 void Sweep(Program& program) {
     std::erase_if(program.windows.Open,
                   [](const std::unique_ptr<Window>& window) { return window->Closing; });
+    for (const std::unique_ptr<Window>& window : program.windows.Open) {
+        window->Form_Follow(program);
+    }
 }
 
 Window* Find(Program& program, std::string_view name) {
@@ -45,6 +48,39 @@ Window* TopModal(Program& program) {
         return !window->Closing && window->Mode() == Modality::Modal;
     });
     return found == open.rend() ? nullptr : found->get();
+}
+
+void BringToFront(Window& window) {
+    window.Minimised = false;
+    ++window.FrontCalls;
+}
+
+bool MayLeave(Program& program, Leaving leaving) {
+    // By index: a save within may open a window of its own.
+    for (std::size_t index = program.windows.Open.size(); index-- > 0;) {
+        Window& window = *program.windows.Open[index];
+        const bool concerned = leaving == Leaving::Run || window.BelongsToProposal();
+        if (!window.Closing && concerned && !window.MayLeave(program, leaving)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void CloseProposalWindows(Program& program) {
+    for (std::size_t index = program.windows.Open.size(); index-- > 0;) {
+        if (program.windows.Open[index]->BelongsToProposal()) {
+            Close(program, *program.windows.Open[index]);
+        }
+    }
+}
+
+void KeepUnsaved(Program& program) {
+    for (const std::unique_ptr<Window>& window : program.windows.Open) {
+        if (!window->Closing) {
+            window->KeepUnsaved(program);
+        }
+    }
 }
 
 void UnloadAll(Program& program) {

@@ -26,6 +26,18 @@ void Sweep(Program& program);
 /// The modal window that takes all input, or null.
 [[nodiscard]] Window* TopModal(Program& program);
 
+/// An open window comes to the front as it stands.
+void BringToFront(Window& window);
+
+/// Asks every window that what is left concerns, the last opened first; ends at the first that must stay.
+[[nodiscard]] bool MayLeave(Program& program, Leaving leaving);
+
+/// Closes, without a question, the windows that are about the proposal on show.
+void CloseProposalWindows(Program& program);
+
+/// Unsaved work of every window into the backup folder.
+void KeepUnsaved(Program& program);
+
 /// Closes all windows from the last to the first.
 void UnloadAll(Program& program);
 

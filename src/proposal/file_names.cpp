@@ -29,8 +29,7 @@ void ShowDuplicateFileOptions(Program& program, std::string_view name) {
                          dates::GeneralDate(files::ModifiedSerial(path)), "", "with this one?"});
         if (program.platform.questions.MsgBox(question, Buttons::YesNo, "Duplicate File Name on Record") ==
             Answer::Yes) {
-            files::Delete(path);
-            return;
+            return; // the new bytes replace the file in one step
         }
         program.platform.questions.MsgBox("File not saved.", Buttons::Ok, "");
         program.document.Cancelled = true;

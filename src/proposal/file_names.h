@@ -11,8 +11,8 @@ namespace modNames {
 /// True, with a message, when the name holds one of / \ : * ? < > |.
 [[nodiscard]] bool IllegalFileName(Program& program, std::string_view name);
 
-/// Asks whether the file of that name in `document.FilePath` may be replaced. Yes deletes it; No says "File
-/// not saved." and sets `document.Cancelled`. Reports as "ShowDuplicateFileOptions".
+/// Asks whether the file of that name in `document.FilePath` may be replaced. Yes deletes nothing; No says
+/// "File not saved." and sets `document.Cancelled`. Reports as "ShowDuplicateFileOptions".
 void ShowDuplicateFileOptions(Program& program, std::string_view name);
 
 /// The side files' names after a new file name.

@@ -63,6 +63,7 @@ void frmFile::Form_Load(Program& program) {
 void frmFile::Form_Unload(Program& program) {
     program.document.FileFilter = "*.hef";
     program.document.DeleteMode = false;
+    program.document.IgnoreProperties = false; // a choice for the file that was chosen here
     if (!done_) {
         // A folder that was only looked at must not become the place where the open proposal is saved.
         program.document.FilePath = filePathBefore_;

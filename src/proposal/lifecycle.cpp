@@ -18,6 +18,7 @@
 #include "proposal/property_file.h"
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
+#include "proposal/side_files.h"
 
 #include <algorithm>
 #include <array>
@@ -25,15 +26,6 @@
 namespace modProposal {
 
 namespace {
-
-/// Copies a side file of the old name to the new one in the data folder.
-void CopySideFile(Program& program, std::string_view from, std::string_view to) {
-    if (text::EqualNoCase(from, to)) {
-        return;
-    }
-    const std::string folder = modFolders::DataFolder(program);
-    files::Copy(paths::Join(folder, from), paths::Join(folder, to));
-}
 
 /// An empty proposal is none from the backups, and must not be saved among them.
 void LeaveBackup(Program& program) {
@@ -72,9 +64,6 @@ void SaveAsSteps(Program& program) {
         return;
     }
     const DocumentState before = document;
-    const std::string folder = modFolders::DataFolder(program);
-    const bool footnotes = modFile::FileIsThere(folder, before.FootnoteFile);
-    const bool deposits = modFile::FileIsThere(folder, before.DepositFile);
     modNames::SetBaseName(program, name);
     document.FileName = fileName;
     document.FileExists = true;
@@ -88,12 +77,9 @@ void SaveAsSteps(Program& program) {
         return;
     }
     modFile::SavePropertyFile(program);
-    if (footnotes) {
-        CopySideFile(program, before.FootnoteFile, document.FootnoteFile);
-    }
-    if (deposits) {
-        CopySideFile(program, before.DepositFile, document.DepositFile);
-    }
+    modSideFile::FollowSaveAs(program, before);
+    program.main.imgFootNotes.Picture =
+        modFile::FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile) ? 1 : 0;
     modTitles::UpdateEventNameLabels(program);
 }
 
@@ -133,6 +119,10 @@ void AskToSave(Program& program) {
 }
 
 bool MayGoOn(Program& program) {
+    // What lies beside the proposal first: a deposit that is saved there still reaches the proposal's file.
+    if (!modWindows::MayLeave(program, Leaving::Proposal)) {
+        return false;
+    }
     AskToSave(program);
     const bool goOn = !program.document.Cancelled;
     program.document.Cancelled = false;

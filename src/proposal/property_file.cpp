@@ -39,9 +39,6 @@ SaveResult SavePropertyFile(Program& program) {
             bytes += text::kCrLf;
         }
         const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
-        if (files::Exists(path)) {
-            files::Delete(path);
-        }
         files::WriteWhole(path, bytes);
         ClearLabelMarks(program);
     });

@@ -16,6 +16,7 @@
 #include "program/program.h"
 #include "proposal/file_names.h"
 #include "proposal/property_file.h"
+#include "proposal/side_files.h"
 #include "proposal/slot_widths.h"
 
 #include <algorithm>
@@ -168,7 +169,7 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
     document.ClientCaption = "Proposal for " + document.BaseName;
     TakeKind(program);
     program.main.imgFootNotes.Picture =
-        FileIsThere(modFolders::DataFolder(program), document.FootnoteFile) ? 1 : 0;
+        FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile) ? 1 : 0;
     if (program.settings.ShowFUT && program.hooks.ReadFrequentlyUsedTerms) {
         program.hooks.ReadFrequentlyUsedTerms(program);
     }

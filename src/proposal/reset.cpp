@@ -11,6 +11,7 @@
 #include "pages/titles.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/windows.h"
 #include "proposal/file_names.h"
 
 #include <array>
@@ -168,13 +169,12 @@ ResetResult StartNewFile(Program& program) {
     Guarded(program, "StartNewFile", [&] {
         {
             const ScopedFlag active(program.guards.ResetActive);
-            if (program.hooks.CloseFootnotes) {
-                program.hooks.CloseFootnotes(program);
-            }
             if (FormatEditingGoesOn(program)) {
                 result = ResetResult::Refused;
                 return;
             }
+            // Whoever leaves the proposal has been asked about them already.
+            modWindows::CloseProposalWindows(program);
             ResetSteps(program);
         }
         if (program.hooks.UpdatePageButtons) {

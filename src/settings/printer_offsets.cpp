@@ -61,9 +61,6 @@ void SavePrinterOffsets(Program& program) {
         bytes += kYKey;
         bytes += InchesOf(program.printing.PrinterOffsetY);
         const std::string path = PathOf(program);
-        if (files::Exists(path)) {
-            files::Delete(path);
-        }
         files::WriteWhole(path, bytes);
     });
 }

@@ -40,9 +40,6 @@ void SaveTaxRate(Program& program, std::string_view rateText) {
         five.resize(kTaxLength, ' ');
         program.totals.TaxRate = numbers::ValSingle(five);
         const std::string path = PathOf(program);
-        if (files::Exists(path)) {
-            files::Delete(path);
-        }
         files::WriteWhole(path, five);
         Questions& questions = program.platform.questions;
         questions.MsgBox("New Sales Tax Rate is " + numbers::FormatSingle(program.totals.TaxRate, "##.00") +

@@ -21,8 +21,14 @@ bool MDIForm_QueryUnload(Program& program) {
     }
     // The window may be closed with an arrow still held; what it has moved counts as changed text.
     modBlocks::FinishMove(program);
-    if (program.main.Closing ||
-        (!modProposal::SomethingChanged(program) && !modFile::PropertiesChanged(program))) {
+    if (program.main.Closing) {
+        return true;
+    }
+    // The windows beside the proposal first: a deposit that is saved there still reaches the proposal's file.
+    if (!modWindows::MayLeave(program, Leaving::Run)) {
+        return false;
+    }
+    if (!modProposal::SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
         return true;
     }
     const Answer answer = program.platform.questions.MsgBox(

@@ -1,5 +1,9 @@
 #include "shell/command_table.h"
 
+#include "calendar/frm_dates.h"
+#include "contract/frm_editor.h"
+#include "contract/frm_notes.h"
+#include "deposits/frm_deposits.h"
 #include "editing/area_mouse.h"
 #include "editing/block_moves.h"
 #include "editing/blocks.h"
@@ -67,6 +71,7 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Name = "mnuFileOpenFootnotes",
           .Caption = "Open Foo&tnotes",
           .Parent = mnuFileOpen,
+          .Run = modNotes::mnuFileOpenFootnotes_Click,
           .Shortcut = "Ctrl+T"},
     Entry{.Id = mnuFileOpenAddressBook,
           .Name = "mnuFileOpenAddressBook",
@@ -443,25 +448,30 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuViewEventDates,
           .Name = "mnuViewEventDates",
           .Caption = "All Proposals by Date",
-          .Parent = mnuView},
+          .Parent = mnuView,
+          .Run = modCalendar::mnuViewEventDates_Click},
     Entry{.Id = mnuViewExpiredEvents,
           .Name = "mnuViewExpiredEvents",
           .Caption = "Show Expired Proposals",
-          .Parent = mnuView},
+          .Parent = mnuView,
+          .Run = modCalendar::mnuViewExpiredEvents_Click},
     Entry{.Id = mnuViewNewEvents,
           .Name = "mnuViewNewEvents",
           .Caption = "All Proposals within 10 days of Today",
-          .Parent = mnuView},
+          .Parent = mnuView,
+          .Run = modCalendar::mnuViewNewEvents_Click},
     Entry{.Id = mnuManage, .Name = "mnuManage", .Caption = "Manage", .What = Kind::Menu},
     Entry{.Id = mnuManageDeposits,
           .Name = "mnuManageDeposits",
           .Caption = "Open &Deposit Manager",
           .Parent = mnuManage,
+          .Run = modDeposits::mnuManageDeposits_Click,
           .Shortcut = "Ctrl+M"},
     Entry{.Id = mnuManageEditor,
           .Name = "mnuManageEditor",
           .Caption = "Open Contract Language Editor",
-          .Parent = mnuManage},
+          .Parent = mnuManage,
+          .Run = modContract::mnuManageEditor_Click},
     Entry{.Id = mnuOpt, .Name = "mnuOpt", .Caption = "Options", .What = Kind::Menu},
     Entry{.Id = mnuOptFUT, .Name = "mnuOptFUT", .Caption = "Show &Frequently Used Terms", .Parent = mnuOpt},
     Entry{.Id = mnuOptCalc, .Name = "mnuOptCalc", .Caption = "Show &Calculator", .Parent = mnuOpt},

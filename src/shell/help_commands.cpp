@@ -22,7 +22,7 @@ void Tell(Program& program, std::string_view message) {
 } // namespace
 
 void mnuHelpAbout_Click(Program& program) {
-    const std::string title = std::string(version::kTitle) + " Version " + std::string(version::kNumber);
+    const std::string title = std::string(version::kTitle) + " Version " + std::string(version::Number());
     Tell(program, text::Lines({title, version::kMaker, version::kWebLine}));
 }
 
@@ -39,7 +39,7 @@ void mnuHelpFAQ_Click(Program& program) {
 }
 
 void mnuHelpVersion_Click(Program& program) {
-    const std::string words = text::Lines({version::kTitle, "Version: " + std::string(version::kNumber),
+    const std::string words = text::Lines({version::kTitle, "Version: " + std::string(version::Number()),
                                            "Comments: " + std::string(version::kComments)});
     Tell(program, words);
     Guarded(program, "mnuHelpVersion", [&] {

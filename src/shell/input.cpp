@@ -7,6 +7,7 @@
 #include "editing/columns.h"
 #include "editing/selection.h"
 #include "editing/typing.h"
+#include "editing/word_marking.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
@@ -230,9 +231,14 @@ void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int sel
     }
 }
 
-void FieldDblClick(Program& program, const FieldRef& field) {
+void FieldDblClick(Program& program, const FieldRef& field, int position) {
+    const std::optional<FieldRef> focus = program.main.Focus;
+    const std::string before = modFields::Area(program, field).Text;
     if (IsText(field)) {
         modText::txt_DblClick(program, field.Page, field.Index);
+    }
+    if (program.main.Focus == focus && modFields::Area(program, field).Text == before) {
+        modText::MarkWordAt(program, field, position);
     }
 }
 

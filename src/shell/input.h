@@ -49,7 +49,8 @@ void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength
 void FieldMouseDown(Program& program, const FieldRef& field, int button, int shift, int selStart,
                     int selLength);
 void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int selLength);
-void FieldDblClick(Program& program, const FieldRef& field);
+/// Twice in a row; `position` is the character position that was meant.
+void FieldDblClick(Program& program, const FieldRef& field, int position);
 /// The mouse on a page's own surface, 1 for the left button, in twips from the page's corner.
 void PageMouseDown(Program& program, PageId page, int button, float x, float y);
 void PageMouseMove(Program& program, PageId page, int button, float x, float y);

@@ -19,7 +19,7 @@ void Tell(Program& program, std::string_view message) {
 } // namespace
 
 void mnuSupportUpdates_Click(Program& program) {
-    Tell(program, text::Lines({version::kTitle, "Current Version: " + std::string(version::kNumber)}));
+    Tell(program, text::Lines({version::kTitle, "Current Version: " + std::string(version::Number())}));
     modWeb::OpenWebPage(program, "/quillbrook/updates.htm");
 }
 

@@ -1,5 +1,6 @@
 #include "shell/wiring.h"
 
+#include "calendar/read_event_dates.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
 #include "editing/leaving.h"
@@ -55,5 +56,6 @@ void Wire(Program& program) {
     hooks.UpdateTextMenu = modBlocks::UpdateTextMenu;
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
     hooks.MoveBlock = modBlocks::MoveBlockByKey;
+    hooks.ReadEventDates = modCalendar::ReadEventDatesAtStart;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
 }

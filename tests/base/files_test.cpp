@@ -119,4 +119,50 @@ TEST(Files, AppendAndRenameAndCopy) {
     EXPECT_NE(NumberOf([&] { files::WriteWhole(folder.Path() + "a/b?" + std::string(300, 'x'), ""); }), 0);
 }
 
+TEST(Files, WhatDeletesTakesTheExactNameOnly) {
+    const ScratchFolder folder;
+    folder.Write("Jane.hef", "x");
+    EXPECT_EQ(NumberOf([&] { files::Delete(folder / "jane.hef"); }), files::kNotFound);
+    EXPECT_TRUE(folder.Has("Jane.hef"));
+    EXPECT_TRUE(files::Exists(folder / "jane.hef"));
+    EXPECT_FALSE(files::ExistsExactly(folder / "jane.hef"));
+    EXPECT_TRUE(files::ExistsExactly(folder / "Jane.hef"));
+    files::WriteWhole(folder / "jane.hef", "y");
+    EXPECT_EQ(folder.Read("Jane.hef"), "x");
+    EXPECT_EQ(folder.Read("jane.hef"), "y");
+}
+
+TEST(Files, NamesWithABackslashAreNotListed) {
+    const ScratchFolder folder;
+    folder.Write("Backup\\Jane.hef", "x");
+    folder.Write("Jane.hef", "x");
+    folder.MakeFolder("a\\b");
+    EXPECT_EQ(files::List(folder.Path(), "*.hef"), std::vector<std::string>{"Jane.hef"});
+    EXPECT_TRUE(files::Subfolders(folder.Path()).empty());
+}
+
+TEST(Files, PredicatesNeverThrow) {
+    const std::string hostile("a\0b", 3);
+    EXPECT_FALSE(files::Exists(hostile));
+    EXPECT_FALSE(files::ExistsExactly(hostile));
+    EXPECT_FALSE(files::IsFolder(hostile));
+    EXPECT_FALSE(files::IsFolder("/" + hostile + "/"));
+    EXPECT_FALSE(modFile::FileIsThere("/tmp", hostile));
+    EXPECT_FALSE(modFile::FolderExists(hostile, "x"));
+    EXPECT_FALSE(files::Exists(""));
+    EXPECT_FALSE(files::ExistsExactly("/none/of/these"));
+    EXPECT_FALSE(files::Exists("/tmp/" + std::string(5000, 'x')));
+}
+
+TEST(Files, WhatCouldNotBeReadIsKeptBesideItAndEarlierOnesToo) {
+    const ScratchFolder folder;
+    folder.Write("a.txt", "first");
+    EXPECT_EQ(files::KeepUnread(folder / "a.txt"), folder / "a.txt.unread");
+    folder.Write("a.txt", "second");
+    EXPECT_EQ(files::KeepUnread(folder / "a.txt"), folder / "a.txt.unread2");
+    EXPECT_FALSE(folder.Has("a.txt"));
+    EXPECT_EQ(folder.Read("a.txt.unread"), "first");
+    EXPECT_EQ(folder.Read("a.txt.unread2"), "second");
+}
+
 } // namespace

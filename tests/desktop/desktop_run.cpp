@@ -20,6 +20,7 @@ DesktopRun::DesktopRun() {
     program.folders.Drives.Home = folder / "Home/";
     printers.MakeCurrent("Print to PDF");
     Wire(program);
+    program.hooks.ReadEventDates = nullptr; // a folder without proposals is told of at the start
     window = std::make_unique<FrmMainView>(program, measure);
     events.Follow = [this] { window->Follow(); };
     EXPECT_EQ(modStart::Main(program), modStart::StartResult::Running);

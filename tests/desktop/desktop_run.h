@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/field_views.h"
+#include "desktop/text_area_view.h"
 #include "desktop/frm_main_view.h"
 #include "desktop/page_view.h"
 #include "desktop/paper_text.h"

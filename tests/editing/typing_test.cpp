@@ -2,6 +2,7 @@
 #include "editing/keys.h"
 #include "editing/row_texts.h"
 #include "editing/typing.h"
+#include "editing/word_marking.h"
 #include "pages/fields.h"
 #include "pages/page_marks.h"
 #include "pages/row_fields.h"
@@ -395,13 +396,45 @@ class DoubleClick : public testing::TestWithParam<Conversion> {};
 TEST_P(DoubleClick, ConvertsTheArea) {
     RunningProgram run;
     PutText(run, kFirst, GetParam().Area, GetParam().From);
-    modInput::FieldDblClick(run.program, Text(kFirst, GetParam().Area));
+    modInput::FieldDblClick(run.program, Text(kFirst, GetParam().Area), 0);
     EXPECT_EQ(run.TextOf(kFirst, GetParam().Area), GetParam().To);
     EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][static_cast<std::size_t>(GetParam().Area)],
               GetParam().To);
+    const bool converted = std::string_view(GetParam().From) != GetParam().To;
     EXPECT_EQ(run.Area(kFirst, GetParam().Area).SelStart,
-              static_cast<int>(run.TextOf(kFirst, GetParam().Area).size()));
+              converted ? static_cast<int>(run.TextOf(kFirst, GetParam().Area).size()) : 0);
     EXPECT_EQ(run.program.editing.CurrentArea, GetParam().Area);
+}
+
+TEST(DoubleClick, MarksTheWordAtItsPlaceWhereNothingIsConverted) {
+    RunningProgram run;
+    PutText(run, kSecond, 40, "it's 12 pm");
+    modScroll::UpdatePageButtons(run.program, 1);
+    modFields::GiveFocus(run.program, Text(kSecond, 40));
+    const auto marked = [&](int position) {
+        modInput::FieldDblClick(run.program, Text(kSecond, 40), position);
+        const TextArea& area = run.Area(kSecond, 40);
+        return area.Text.substr(static_cast<std::size_t>(area.SelStart),
+                                static_cast<std::size_t>(area.SelLength));
+    };
+    EXPECT_EQ(marked(0), "it's");
+    EXPECT_EQ(marked(2), "it's");
+    EXPECT_EQ(marked(4), "it's");
+    EXPECT_EQ(marked(6), "12");
+    EXPECT_EQ(marked(10), "pm");
+    EXPECT_EQ(marked(99), "pm"); // behind the text
+}
+
+TEST(DoubleClick, MarksNoWordInADescriptionOrBesideAWord) {
+    RunningProgram run;
+    PutText(run, kSecond, 5, "chair covers");
+    modScroll::UpdatePageButtons(run.program, 1);
+    modFields::GiveFocus(run.program, Text(kSecond, 5));
+    modInput::FieldDblClick(run.program, Text(kSecond, 5), 8);
+    EXPECT_EQ(run.Area(kSecond, 5).SelLength, 0);
+    EXPECT_EQ(modText::WordAt("a , b", 2).Length, 0);
+    EXPECT_EQ(modText::WordAt("a , b", 2).Start, 2);
+    EXPECT_EQ(modText::WordAt("\xE9t\xE9", 1).Length, 3); // letters with accents are letters
 }
 
 TEST(DoubleClick, TogglesTheColumnsOfADescriptionAndNothingElse) {
@@ -411,7 +444,7 @@ TEST(DoubleClick, TogglesTheColumnsOfADescriptionAndNothingElse) {
         const int last = page == kFirst ? 29 : 65;
         for (int index = page == kFirst ? 9 : 0; index <= last; ++index) {
             modFields::GiveFocus(run.program, Text(page, index));
-            modInput::FieldDblClick(run.program, Text(page, index));
+            modInput::FieldDblClick(run.program, Text(page, index), 0);
             const bool line = page == kFirst ? index >= 10 && index <= 19 : index <= 32;
             EXPECT_EQ(run.Area(page, index).Width == 6270, line) << index;
             EXPECT_EQ(run.program.editing.CurrentArea, index);

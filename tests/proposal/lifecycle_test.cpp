@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <memory>
 #include <string>
 
 namespace {
@@ -277,11 +278,25 @@ TEST(Reset, GuardsAreNestedInTheOnesThatStand) {
     EXPECT_TRUE(run.program.guards.ResetActive);
 }
 
-TEST(Reset, TheFootnotesWindowIsAskedToCloseFirst) {
+/// A window about the proposal that keeps in mind under which name it closed.
+class BesideWindow : public Window {
+public:
+    explicit BesideWindow(std::string& nameThen) : nameThen_(nameThen) {}
+    [[nodiscard]] std::string_view Name() const override { return "frmBeside"; }
+    [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }
+    [[nodiscard]] bool BelongsToProposal() const override { return true; }
+    void Form_Cancel(Program&) override {}
+    void Form_Unload(Program& program) override { nameThen_ = program.document.FileName; }
+
+private:
+    std::string& nameThen_;
+};
+
+TEST(Reset, WindowsAboutTheProposalCloseBeforeItsNameGoes) {
     Living run;
-    std::string nameThen = "not asked";
+    std::string nameThen = "not closed";
     run.program.document.FileName = "Jane Roe.hef";
-    run.program.hooks.CloseFootnotes = [&](Program& program) { nameThen = program.document.FileName; };
+    modWindows::Show(run.program, std::make_unique<BesideWindow>(nameThen));
     static_cast<void>(modReset::StartNewFile(run.program));
     EXPECT_EQ(nameThen, "Jane Roe.hef");
 }
@@ -294,12 +309,12 @@ TEST(Reset, GoingOnWithAFormatStopsItAndLeavesNoGuardBehind) {
     Living run;
     run.SaveAs("Jane Roe");
     run.program.format.EditingFormat = true;
-    bool footnotesClosed = false;
-    run.program.hooks.CloseFootnotes = [&](Program&) { footnotesClosed = true; };
+    std::string nameThen = "not closed";
+    modWindows::Show(run.program, std::make_unique<BesideWindow>(nameThen));
     run.surroundings.questions.ExpectBox(kFormatQuestion, Answer::No);
     run.surroundings.questions.ExpectBox({"Resume Editing.", Buttons::Ok, ""}, Answer::Ok);
     EXPECT_EQ(modReset::StartNewFile(run.program), modReset::ResetResult::Refused);
-    EXPECT_TRUE(footnotesClosed); // they close before the question
+    EXPECT_EQ(nameThen, "not closed"); // everything is as it was
     EXPECT_EQ(run.program.document.FileName, "Jane Roe.hef");
     EXPECT_TRUE(run.program.format.EditingFormat);
     EXPECT_FALSE(run.program.guards.ResetActive);
@@ -429,7 +444,7 @@ TEST(FileNames, EightCharactersAreRefusedWithOneMessage) {
     EXPECT_FALSE(modNames::IllegalFileName(run.program, ""));
 }
 
-TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesIt) {
+TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesNothing) {
     Living run;
     run.folder.Write("Proposals/Jane Roe.hef", "older");
     run.surroundings.questions.Expect("A file with this name (Jane Roe.hef)\r\n"
@@ -440,7 +455,7 @@ TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesIt) {
     const ScriptedQuestions::Box& box = run.surroundings.questions.Shown.back();
     EXPECT_EQ(box.Title, "Duplicate File Name on Record");
     EXPECT_TRUE(box.Text.ends_with("\r\n\r\nwith this one?"));
-    EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe.hef"));
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), "older");
     EXPECT_FALSE(run.program.document.Cancelled);
 }
 

@@ -109,14 +109,16 @@ TEST(Saving, AReadOnlyFileIsReplaced) {
     EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 110, 13), "14 Oak Street");
 }
 
-TEST(Saving, AFileWhoseNameDiffersInCaseAloneIsTheSameFile) {
+TEST(Saving, AFileWhoseNameDiffersInCaseAloneIsAnotherFile) {
     RunningProgram run;
     SaveAnn(run);
     std::filesystem::rename(run.folder / "Proposals/Ann.hef", run.folder / "Proposals/ANN.HEF");
+    const std::string other = run.folder.Read("Proposals/ANN.HEF");
+    ChangeStreet(run);
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
-    EXPECT_FALSE(std::filesystem::exists(run.folder / "Proposals/ANN.HEF"));
-    EXPECT_TRUE(std::filesystem::exists(run.folder / "Proposals/Ann.hef"));
+    EXPECT_EQ(run.folder.Read("Proposals/ANN.HEF"), other);
+    EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 110, 13), "14 Oak Street");
 }
 
 TEST(Saving, AChangedClientAsksAboutTheProposalsOwnFile) {

@@ -152,7 +152,7 @@ TEST(VersionFile, ThatCannotBeWrittenIsReported) {
 }
 
 TEST(Version, IsTheOneThatIsBuilt) {
-    const std::string expected = "project(Quillbrook VERSION " + std::string(version::kNumber) + " ";
+    const std::string expected = "project(Quillbrook VERSION " + std::string(version::Number()) + " ";
     EXPECT_NE(ReadTestData("../../CMakeLists.txt").find(expected), std::string::npos);
 }
 

@@ -37,9 +37,11 @@ void ScriptedQuestions::Done() {
     script_.clear();
 }
 
-Answer ScriptedQuestions::MsgBox(std::string_view text, Buttons buttons, std::string_view title) {
+Answer ScriptedQuestions::Ask(std::string_view text, Buttons buttons, std::string_view title,
+                              const Manner& manner) {
     const Box shown{std::string(text), buttons, std::string(title)};
     Shown.push_back(shown);
+    Manners.push_back(manner);
     if (takeAll_ && script_.empty()) {
         return takeAllBy_;
     }

@@ -39,12 +39,15 @@ public:
         takeAllBy_ = answer;
     }
 
-    Answer MsgBox(std::string_view text, Buttons buttons, std::string_view title) override;
     std::string InputBox(std::string_view prompt, std::string_view title, std::string_view initial) override;
 
     std::vector<Box> Shown;
+    std::vector<Manner> Manners;       ///< one for each box shown
     std::vector<std::string> Prompts;  ///< of input boxes
     std::vector<std::string> Initials; ///< what stood in input boxes at first
+
+protected:
+    Answer Ask(std::string_view text, Buttons buttons, std::string_view title, const Manner& manner) override;
 
 private:
     struct Step {

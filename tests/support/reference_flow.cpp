@@ -1,5 +1,6 @@
 #include "support/reference_flow.h"
 
+#include "base/ansi.h"
 #include "base/dates.h"
 
 #include <algorithm>
@@ -409,7 +410,11 @@ void ReferenceFlow::Drag(const FieldRef& target, int from, int to) {
 
 void ReferenceFlow::DoubleClick(const FieldRef& target) {
     Drag(target, 0, 0);
-    if (Focus != target || IsBox(target) || IsFinal(target)) {
+    if (Focus != target) {
+        return;
+    }
+    if (IsBox(target) || IsFinal(target)) {
+        MarkFirstWord(At(target));
         return;
     }
     CurrentArea = target.Index;
@@ -418,6 +423,7 @@ void ReferenceFlow::DoubleClick(const FieldRef& target) {
         return;
     }
     if (target.Page != PageId::frmP1 || target.Index > 9) {
+        MarkFirstWord(At(target));
         return;
     }
     Field& field = At(target);
@@ -429,7 +435,17 @@ void ReferenceFlow::DoubleClick(const FieldRef& target) {
     }
     if (field.Text != before) {
         field.Start = Len(field.Text);
+    } else {
+        MarkFirstWord(field);
     }
+}
+
+void ReferenceFlow::MarkFirstWord(Field& field) {
+    const auto end = std::find_if(field.Text.begin(), field.Text.end(), [](char byte) {
+        return !ansi::IsLetter(byte) && !ansi::IsDigit(byte) && byte != '\'';
+    });
+    field.Start = 0;
+    field.Length = static_cast<int>(end - field.Text.begin());
 }
 
 void ReferenceFlow::MakeExempt(const FieldRef& target) {

@@ -85,6 +85,7 @@ public:
     [[nodiscard]] Field& At(const FieldRef& field);
 
 private:
+    static void MarkFirstWord(Field& field);
     [[nodiscard]] bool Over(const Field& field, int limit) const;
     [[nodiscard]] bool HasBoxes(const FieldRef& field) const;
     void KeyDown(int keyCode);

@@ -29,6 +29,7 @@ RunningProgram::RunningProgram(Begin begin) {
     program.main.ClientHeight = 9000;
     program.main.ClientWidth = 14000;
     Wire(program);
+    program.hooks.ReadEventDates = nullptr; // a folder without proposals is told of at the start
     if (begin == Begin::Started) {
         Start();
     }

@@ -232,6 +232,6 @@ void Typist::Drag(const FieldRef& field, int from, int to) {
 void Typist::DoubleClick(const FieldRef& field) {
     Drag(field, 0, 0);
     if (program_.main.Focus == field) {
-        modInput::FieldDblClick(program_, field);
+        modInput::FieldDblClick(program_, field, 0);
     }
 }

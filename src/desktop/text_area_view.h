@@ -1,13 +1,12 @@
 #pragma once
 
-#include "platform/text_measure.h"
+#include "desktop/line_painter.h"
 #include "program/page_records.h"
 
-#include <QAbstractButton>
 #include <QBasicTimer>
-#include <QImage>
-#include <QLabel>
 #include <QLineEdit>
+
+#include <string>
 
 struct PageContext;
 
@@ -42,13 +41,13 @@ protected:
     bool focusNextPrevChild(bool) override { return false; }
 
 private:
-    [[nodiscard]] TextFont FontNow() const;
+    [[nodiscard]] Keyboard KeyboardNow() const;
     [[nodiscard]] std::string Model() const;
     [[nodiscard]] int Start() const;
     [[nodiscard]] int Length() const;
     [[nodiscard]] int PositionAt(double x) const;
-    /// Where the text begins, in twips from the field's own left edge.
-    [[nodiscard]] double Origin() const;
+    /// The field's corner on the paper, in pixels from the widget's, which stands on whole pixels.
+    [[nodiscard]] QPointF Corner() const;
     void PlaceCursor(const TextArea& record);
     void KeepCaretInView();
     void ReportEdit();
@@ -58,26 +57,18 @@ private:
     /// The record's text becomes the widget's in the same way.
     void TakeRecord();
     void KeyTyped(QKeyEvent* event, int code);
+    void TextTyped(QKeyEvent* event);
     void OfferMarkedText() const;
-    void SelectWordAt(int position);
-    /// Pixels from the edge to the middle of the ring that a field with the keyboard wears.
-    [[nodiscard]] double RingInside() const;
-    /// Where a caret that belongs at `x` (twips from the field's left) is drawn so that the ring leaves it
-    /// free.
-    [[nodiscard]] double CaretAt(double x) const;
-    /// What a caret behind the text takes at the right edge, in twips.
-    [[nodiscard]] double CaretRoom() const;
-    void DrawRing(QPainter& painter) const;
     void Done();
     void RestartCaret();
 
     PageContext& page_;
     FieldRef field_;
-    TextArea shown_;
+    LinePainter line_;
     bool built_ = false;
     bool byKey_ = false;
-    bool reported_ = false; ///< the edit under way has reached the model
-    bool silent_ = false;   ///< the widget follows the model
+    bool reported_ = false;  ///< the edit under way has reached the model
+    bool following_ = false; ///< the widget follows the model
     bool caretOn_ = false;
     bool pressedInMarked_ = false; ///< a drag of the marked text may begin
     bool dragging_ = false;
@@ -85,54 +76,6 @@ private:
     int dropAt_ = 0;
     double pressedAt_ = 0;
     int anchor_ = 0;
-    double scroll_ = 0;
     QString preedit_;
     QBasicTimer blink_;
-};
-
-/// A label, drawn in paper units.
-class LabelView : public QLabel {
-    Q_OBJECT
-public:
-    LabelView(PageContext& page, QWidget& paper, FieldKind kind, int index);
-    void Follow(const PageLabel& record);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    PageContext& page_;
-    PageLabel shown_;
-    bool built_ = false;
-};
-
-/// The logo in its natural size. Clicks go to the paper under it.
-class LogoView : public QWidget {
-    Q_OBJECT
-public:
-    LogoView(PageContext& page, QWidget& paper);
-    void Follow(const PagePicture& record);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    PageContext& page_;
-    PagePicture shown_;
-    QImage picture_;
-};
-
-/// The mark of a tax-exempt amount; a click makes the amount taxable again.
-class MarkView : public QAbstractButton {
-    Q_OBJECT
-public:
-    MarkView(PageContext& page, QWidget& paper, int index);
-    void Follow(const PageImage& record);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    PageContext& page_;
-    PageImage shown_;
 };

@@ -1,0 +1,134 @@
+#include "base/folder_scan.h"
+
+#include "base/ansi.h"
+#include "base/files.h"
+#include "base/guard.h"
+#include "base/text.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <optional>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace files {
+
+namespace {
+
+/// Names are bytes of UTF-8; the endings asked for are plain letters.
+bool EndsLike(std::string_view name, std::string_view ending) {
+    return name.size() >= ending.size() &&
+           text::EqualNoCase(name.substr(name.size() - ending.size()), ending);
+}
+
+bool IsRegular(int folder, const dirent& entry) {
+    if (entry.d_type == DT_REG) {
+        return true;
+    }
+    if (entry.d_type != DT_LNK && entry.d_type != DT_UNKNOWN) {
+        return false;
+    }
+    struct stat about {};
+    return ::fstatat(folder, entry.d_name, &about, 0) == 0 && S_ISREG(about.st_mode);
+}
+
+/// False when it cannot be read.
+bool ReadBeginning(int folder, const char* name, std::size_t most, std::string& bytes) {
+    // Should something else stand there by now, nothing waits for it.
+    const int file = ::openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (file < 0) {
+        return false;
+    }
+    bytes.resize(most);
+    std::size_t have = 0;
+    bool good = true;
+    while (have < most) {
+        const ssize_t count = ::read(file, bytes.data() + have, most - have);
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count <= 0) {
+            good = count == 0;
+            break;
+        }
+        have += static_cast<std::size_t>(count);
+    }
+    ::close(file);
+    bytes.resize(have);
+    return good;
+}
+
+[[noreturn]] void FailMove(int systemError, std::string_view from, std::string_view to) {
+    switch (systemError) {
+    case EEXIST:
+    case EISDIR:
+    case ENOTEMPTY:
+        throw FileError(kAlreadyExists, "File already exists: " + std::string(to));
+    case ENOENT:
+        throw FileError(kNotFound, "File not found: " + std::string(from));
+    case ENOSPC:
+    case EDQUOT:
+        throw FileError(kDiskFull, "Disk full: " + std::string(to));
+    case EACCES:
+    case EPERM:
+    case EROFS:
+        throw FileError(kPermissionDenied, "Permission denied: " + std::string(from));
+    default:
+        throw FileError(kDeviceError, "Device I/O error: " + std::string(from));
+    }
+}
+
+} // namespace
+
+void ScanHeads(std::string_view folder, std::string_view ending, std::size_t most,
+               const std::function<bool(FileHead&&)>& visit) {
+    const std::optional<std::string> native = OnDisk(folder);
+    DIR* listing = native ? ::opendir(native->c_str()) : nullptr;
+    if (listing == nullptr) {
+        const bool denied = native && errno == EACCES;
+        throw FileError(denied ? kPermissionDenied : kPathNotFound,
+                        (denied ? "Permission denied: " : "Path not found: ") + std::string(folder));
+    }
+    const OnLeaving close([listing] { ::closedir(listing); });
+    const int handle = ::dirfd(listing);
+    while (const dirent* entry = ::readdir(listing)) {
+        if (!EndsLike(entry->d_name, ending) || !IsRegular(handle, *entry)) {
+            continue;
+        }
+        std::optional<std::string> name = ansi::FromUtf8(entry->d_name);
+        if (!name) {
+            continue;
+        }
+        FileHead head;
+        head.Name = std::move(*name);
+        head.Readable = most == 0 || ReadBeginning(handle, entry->d_name, most, head.Bytes);
+        if (!visit(std::move(head))) {
+            return;
+        }
+    }
+}
+
+void MoveNew(std::string_view from, std::string_view to) {
+    const std::string source = ansi::ToUtf8(from);
+    const std::string target = ansi::ToUtf8(to);
+    if (::renameat2(AT_FDCWD, source.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE) == 0) {
+        return;
+    }
+    if (errno != EINVAL && errno != ENOSYS) {
+        FailMove(errno, from, to);
+    }
+    // A file system that knows no such move: a second name is only made where there is none.
+    if (::link(source.c_str(), target.c_str()) != 0) {
+        FailMove(errno, from, to);
+    }
+    if (::unlink(source.c_str()) != 0) {
+        const int failed = errno;
+        ::unlink(target.c_str()); // the file stays where it was, under one name
+        FailMove(failed, from, to);
+    }
+}
+
+} // namespace files

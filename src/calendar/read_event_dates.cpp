@@ -1,0 +1,243 @@
+#include "calendar/read_event_dates.h"
+
+#include "base/dates.h"
+#include "base/files.h"
+#include "base/folder_scan.h"
+#include "base/guard.h"
+#include "base/text.h"
+#include "program/data_folders.h"
+#include "program/errors.h"
+#include "program/program.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <utility>
+
+namespace modCalendar {
+
+namespace {
+
+constexpr std::string_view kProposals = ".hef";
+constexpr std::size_t kNamesTold = 10;
+
+std::string WeekdayOf(int day) {
+    constexpr std::array<const char*, 7> kDays{"Sat", "Sun", "Mon", "Tue", "Wed", "Thu", "Fri"};
+    const int within = ((day % 7) + 7) % 7; // day 0 was a Saturday
+    return kDays[static_cast<std::size_t>(within)];
+}
+
+/// Lets events run now and then, so that the windows answer while many files are read.
+class Breather {
+public:
+    explicit Breather(Program& program) : program_(program) { Breathe(); }
+    /// False when the rebuild is to end: a newer one has started, the window or the program has closed.
+    [[nodiscard]] bool GoOn(int rebuild) {
+        constexpr std::chrono::milliseconds kLongest(40);
+        if (std::chrono::steady_clock::now() - last_ >= kLongest) {
+            Breathe();
+        }
+        return program_.calendar.Rebuilds == rebuild && !program_.run.ProgramClosing;
+    }
+
+private:
+    void Breathe() {
+        program_.platform.events.LetEventsRun();
+        last_ = std::chrono::steady_clock::now();
+    }
+    Program& program_;
+    std::chrono::steady_clock::time_point last_;
+};
+
+/// What one rebuild gathers; the records take it when it is whole.
+struct Gathered {
+    std::vector<std::string> Files;
+    std::vector<std::string> Texts;
+    std::vector<std::int32_t> Days;
+    std::vector<bool> Dated;
+};
+
+bool Gather(Program& program, Breather& breather, int rebuild, Gathered& found) {
+    DayReader reader;
+    bool whole = true;
+    const std::string folder = modFolders::DataFolder(program);
+    if (!files::IsFolder(folder)) {
+        return breather.GoOn(rebuild); // no folder, no proposal
+    }
+    files::ScanHeads(folder, kProposals, kDateBytes, [&](files::FileHead&& head) {
+        whole = breather.GoOn(rebuild);
+        if (!whole) {
+            return false;
+        }
+        // A file too short for a date field has none.
+        const bool full = head.Readable && head.Bytes.size() == kDateBytes;
+        const std::optional<int> day = full ? reader.Read(head.Bytes) : std::nullopt;
+        found.Files.push_back(std::move(head.Name));
+        found.Texts.push_back(std::move(head.Bytes));
+        found.Days.push_back(day.value_or(0));
+        found.Dated.push_back(day.has_value());
+        return true;
+    });
+    return whole && breather.GoOn(rebuild);
+}
+
+/// Dates of the same day are many; each is written out once.
+const std::pair<std::string, std::string>&
+Written(std::unordered_map<int, std::pair<std::string, std::string>>& known, int day) {
+    const auto found = known.find(day);
+    if (found != known.end()) {
+        return found->second;
+    }
+    return known.emplace(day, std::pair(dates::FormatDate(day, "mmm/dd/yyyy"), WeekdayOf(day))).first->second;
+}
+
+std::vector<EventRow> Listed(const Gathered& found, View view, float today) {
+    struct Sorted {
+        std::string Key;
+        std::size_t At = 0;
+    };
+    std::unordered_map<int, std::pair<std::string, std::string>> written;
+    std::vector<Sorted> order;
+    order.reserve(found.Files.size());
+    for (std::size_t at = 0; at < found.Files.size(); ++at) {
+        if (found.Dated[at] && IsListed(view, found.Days[at], today)) {
+            const std::string& date = Written(written, found.Days[at]).first;
+            order.push_back({text::Upper(SortKey(found.Days[at]) + date + '\t' + found.Files[at]), at});
+        }
+    }
+    std::sort(order.begin(), order.end(), [&](const Sorted& one, const Sorted& other) {
+        const int compared = one.Key.compare(other.Key);
+        return compared != 0 ? compared < 0 : found.Files[one.At] < found.Files[other.At];
+    });
+    std::vector<EventRow> rows;
+    rows.reserve(order.size());
+    for (const Sorted& entry : order) {
+        const auto& [date, weekday] = Written(written, found.Days[entry.At]);
+        rows.push_back({found.Days[entry.At], date, weekday, found.Files[entry.At]});
+    }
+    return rows;
+}
+
+void Take(Program& program, Gathered&& found) {
+    CalendarRecords& calendar = program.calendar;
+    calendar.Rows = Listed(found, ViewOf(program), static_cast<float>(program.platform.clock.Now()));
+    calendar.Undated = 0;
+    calendar.UndatedNames.clear();
+    for (std::size_t at = 0; at < found.Files.size(); ++at) {
+        if (!found.Dated[at]) {
+            ++calendar.Undated;
+            calendar.UndatedNames.push_back(found.Files[at]);
+        }
+    }
+    std::sort(
+        calendar.UndatedNames.begin(), calendar.UndatedNames.end(),
+        [](const std::string& one, const std::string& other) { return text::CompareNoCase(one, other) < 0; });
+    if (calendar.UndatedNames.size() > kNamesTold) {
+        calendar.UndatedNames.resize(kNamesTold);
+    }
+    for (std::size_t at = 0; at < found.Files.size(); ++at) {
+        // The entry that held the bare name holds the row from now on.
+        found.Files[at] = found.Dated[at] ? DisplayRow(found.Days[at], found.Files[at]) : std::string();
+    }
+    calendar.EventFiles = std::move(found.Files);
+    calendar.EventDateText = std::move(found.Texts);
+    calendar.EventSerial = std::move(found.Days);
+}
+
+void Forget(CalendarRecords& calendar) {
+    calendar.EventFiles.clear();
+    calendar.EventDateText.clear();
+    calendar.EventSerial.clear();
+    calendar.Rows.clear();
+    calendar.Undated = 0;
+    calendar.UndatedNames.clear();
+}
+
+/// True when the folder was read to its end.
+bool Rebuild(Program& program) {
+    CalendarRecords& calendar = program.calendar;
+    const int rebuild = ++calendar.Rebuilds;
+    Forget(calendar);
+    ++calendar.Running;
+    const ScopedFlag busy(program.main.Busy);
+    const OnLeaving settle([&] { --calendar.Running; });
+    Breather breather(program);
+    Gathered found;
+    if (!Gather(program, breather, rebuild, found)) {
+        return false;
+    }
+    Take(program, std::move(found));
+    return true;
+}
+
+void SayNothingFound(Program& program) {
+    SetView(program, View::All);
+    program.platform.questions.MsgBox("No Events Found", Buttons::Ok, "");
+}
+
+} // namespace
+
+void SetView(Program& program, View view) {
+    program.calendar.EventListExpired = view == View::Expired;
+    program.calendar.EventListNew = view == View::New;
+}
+
+View ViewOf(const Program& program) {
+    return program.calendar.EventListExpired ? View::Expired
+           : program.calendar.EventListNew   ? View::New
+                                             : View::All;
+}
+
+std::string DisplayRow(int day, const std::string& file) {
+    return dates::FormatDate(day, "mmm/dd/yyyy") + '\t' + file;
+}
+
+void EndRebuild(Program& program) {
+    ++program.calendar.Rebuilds;
+}
+
+bool CanRestore(const Program& program) {
+    bool any = false;
+    const std::string folder = modFolders::BackupFolder(program);
+    if (!files::IsFolder(folder)) {
+        return false;
+    }
+    try {
+        files::ScanHeads(folder, ".hef.old", 0, [&](files::FileHead&&) {
+            any = true;
+            return false;
+        });
+    } catch (const files::FileError&) {
+        return false; // a folder that cannot be looked into gives nothing back
+    }
+    return any;
+}
+
+bool ReadEventDates(Program& program) {
+    bool whole = true;
+    const bool done = Guarded(program, "ReadEventDates", [&] { whole = Rebuild(program); });
+    program.calendar.CanRestore = CanRestore(program);
+    if (done && whole && program.calendar.EventFiles.empty()) {
+        SayNothingFound(program); // with the normal pointer, for the person is asked
+    }
+    return whole;
+}
+
+void ReadEventDatesAtStart(Program& program) {
+    SetView(program, View::All);
+    Guarded(program, "ReadEventDates", [&] {
+        bool any = false;
+        const std::string folder = modFolders::DataFolder(program);
+        if (files::IsFolder(folder)) {
+            files::ScanHeads(folder, kProposals, 0, [&](files::FileHead&&) {
+                any = true;
+                return false;
+            });
+        }
+        if (!any) {
+            SayNothingFound(program);
+        }
+    });
+}
+
+} // namespace modCalendar

@@ -1,0 +1,500 @@
+#include "desktop/text_area_view.h"
+
+#include "base/guard.h"
+#include "desktop/convert.h"
+#include "desktop/field_names.h"
+#include "desktop/key_codes.h"
+#include "desktop/key_kinds.h"
+#include "desktop/page_context.h"
+#include "desktop/paper_text.h"
+#include "pages/fields.h"
+#include "pages/page_geometry.h"
+#include "program/program.h"
+#include "shell/input.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleHints>
+
+namespace {
+
+LinePainter::Side SideOf(const FieldRef& field) {
+    const bool right = field.Kind == FieldKind::txt && geometry::RightAligned(field.Page, field.Index);
+    return right ? LinePainter::Side::Right : LinePainter::Side::Left;
+}
+
+} // namespace
+
+TextAreaView::TextAreaView(PageContext& page, QWidget& paper, const FieldRef& field)
+    : QLineEdit(&paper), page_(page), field_(field), line_(page, SideOf(field)) {
+    setObjectName(fieldnames::OfControl(field));
+    setAccessibleName(fieldnames::Spoken(field));
+    setFrame(false);
+    setTextMargins(0, 0, 0, 0);
+    setContextMenuPolicy(Qt::DefaultContextMenu);
+    const bool copy = field.Page == PageId::frmP6_1;
+    setFocusPolicy(copy ? Qt::NoFocus : Qt::ClickFocus);
+    setAttribute(Qt::WA_TransparentForMouseEvents, copy);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    connect(this, &QLineEdit::textEdited, this, [this] { ReportEdit(); });
+}
+
+std::string TextAreaView::Model() const {
+    return convert::ToModel(text());
+}
+int TextAreaView::Start() const {
+    return hasSelectedText() ? selectionStart() : cursorPosition();
+}
+int TextAreaView::Length() const {
+    return hasSelectedText() ? selectionLength() : 0;
+}
+
+void TextAreaView::Done() {
+    if (page_.AfterEvent) {
+        page_.AfterEvent();
+    }
+}
+
+void TextAreaView::PlaceCursor(const TextArea& record) {
+    if (Start() == record.SelStart && Length() == record.SelLength) {
+        return;
+    }
+    if (record.SelLength > 0) {
+        setSelection(record.SelStart, record.SelLength);
+    } else {
+        deselect();
+        setCursorPosition(record.SelStart);
+    }
+}
+
+void TextAreaView::Follow(const TextArea& record) {
+    // The record's cursor is compared with the widget's: it may have moved without the record's knowing.
+    const QString wanted = convert::ToQString(record.Text);
+    if (text() != wanted) {
+        setText(wanted);
+    }
+    if (hasFocus()) {
+        PlaceCursor(record);
+    }
+    if (built_ && record == line_.Shown()) {
+        return;
+    }
+    const TextArea& shown = line_.Shown();
+    const bool placed =
+        !built_ || record.Left != shown.Left || record.Top != shown.Top || record.Width != shown.Width;
+    const bool tip = !built_ || record.ToolTipText != shown.ToolTipText;
+    line_.Show(record);
+    built_ = true;
+    if (placed) {
+        setGeometry(page_.OnScreen(static_cast<double>(record.Left), static_cast<double>(record.Top),
+                                   static_cast<double>(record.Width), static_cast<double>(record.Height)));
+        setFont(paper::Face({record.FontName, qMax(1.0F, record.FontSize / 15), false, false}));
+    }
+    if (tip) {
+        setToolTip(convert::ToQString(record.ToolTipText));
+    }
+    if (isReadOnly() != record.Locked) {
+        setReadOnly(record.Locked);
+    }
+    if (isEnabled() != record.Enabled) {
+        setEnabled(record.Enabled);
+    }
+    KeepCaretInView();
+    update();
+}
+
+Keyboard TextAreaView::KeyboardNow() const {
+    return hasFocus() ? Keyboard::Here : Keyboard::Away;
+}
+
+double TextAreaView::TextWidth() const {
+    return line_.TextWidth();
+}
+
+double TextAreaView::TextLeft() const {
+    return static_cast<double>(line_.Shown().Left) + line_.Origin(KeyboardNow());
+}
+
+void TextAreaView::KeepCaretInView() {
+    line_.KeepInView(cursorPosition(), KeyboardNow());
+}
+
+QPointF TextAreaView::Corner() const {
+    const TextArea& area = line_.Shown();
+    return {static_cast<double>(area.Left) * page_.Scale - geometry().x(),
+            static_cast<double>(area.Top) * page_.Scale - geometry().y()};
+}
+
+int TextAreaView::PositionAt(double x) const {
+    return line_.PositionAt((x - Corner().x()) / page_.Scale, KeyboardNow());
+}
+
+void TextAreaView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), convert::ToQColor(line_.Shown().BackColor));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    LinePainter::Marks marks;
+    marks.Composed = preedit_;
+    marks.Cursor = cursorPosition();
+    if (hasFocus() || !isActiveWindow()) {
+        marks.Start = Start();
+        marks.Length = Length();
+    }
+    if (hasFocus() && caretOn_ && !isReadOnly()) {
+        marks.Caret = cursorPosition();
+    }
+    if (dragging_) {
+        marks.DropAt = dropAt_;
+    }
+    painter.save();
+    painter.translate(Corner());
+    painter.scale(page_.Scale, page_.Scale);
+    line_.Paint(painter, marks, KeyboardNow());
+    painter.restore();
+    if (hasFocus()) {
+        line_.PaintRing(painter, QRectF(rect()));
+    }
+}
+
+void TextAreaView::ReportEdit() {
+    if (following_) {
+        return;
+    }
+    reported_ = true;
+    const std::string now = Model();
+    if (byKey_) {
+        modInput::Edited(page_.program, field_, now, cursorPosition(), 0);
+    } else {
+        modInput::EditedWithoutKey(page_.program, field_, now, cursorPosition(), 0);
+    }
+}
+
+bool TextAreaView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        // The menu's shortcuts come before a line edit's own; only plain characters are claimed.
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        event->setAccepted(keykinds::ComesBeforeShortcuts(key));
+        return event->isAccepted();
+    }
+    return QLineEdit::event(event);
+}
+
+void TextAreaView::TakeIn(const QString& incomingText) {
+    const convert::Incoming incoming = convert::FromPerson(incomingText);
+    const auto taken = modInput::Accept(page_.program, field_, incoming.Text, incoming.Refused);
+    if (!taken) {
+        return;
+    }
+    // Also while another window has the keyboard, as it has during a drop.
+    const TextArea& record = modFields::Area(page_.program, field_);
+    Follow(record);
+    PlaceCursor(record);
+    reported_ = false;
+    insert(convert::ToQString(*taken));
+    if (!reported_) {
+        ReportEdit();
+    }
+}
+
+void TextAreaView::TakeRecord() {
+    const TextArea& record = modFields::Area(page_.program, field_);
+    const QString wanted = convert::ToQString(record.Text);
+    if (text() == wanted) {
+        return;
+    }
+    const ScopedFlag following(following_);
+    setSelection(0, static_cast<int>(text().size()));
+    insert(wanted);
+}
+
+void TextAreaView::Character(QKeyEvent* event, char byte) {
+    Program& program = page_.program;
+    if (modInput::KeyPress(program, static_cast<unsigned char>(byte)) == 0) {
+        return;
+    }
+    // The filter may have emptied a placeholder.
+    Follow(modFields::Area(program, field_));
+    QLineEdit::keyPressEvent(event);
+}
+
+void TextAreaView::keyPressEvent(QKeyEvent* event) {
+    Program& program = page_.program;
+    RestartCaret();
+    event->accept();
+    if (modInput::TextMenuOpens(program)) {
+        return; // the key that opens the menu arrives while it opens
+    }
+    if (program.main.Focus != field_) {
+        modInput::FieldEntered(program, field_);
+    }
+    const int code = keycodes::CodeOf(*event);
+    if (modInput::KeyDown(program, code, keycodes::ShiftOf(*event), Start(), Length()) == Taken::Yes) {
+        if (event->matches(QKeySequence::Paste)) {
+            TakeRecord();
+        }
+        Done();
+        return;
+    }
+    reported_ = false;
+    {
+        const ScopedFlag typed(byKey_);
+        KeyTyped(event, code);
+    }
+    // After an edit the cursor is where the model has left it.
+    if (!reported_ && program.main.Focus == field_) {
+        modInput::CursorMoved(program, field_, Start(), Length());
+    }
+    Done();
+}
+
+void TextAreaView::TextTyped(QKeyEvent* event) {
+    const std::optional<char> byte = convert::ToByte(event->text().front());
+    if (byte && event->text().size() == 1) {
+        Character(event, *byte);
+        return;
+    }
+    // More than one character from one key, or one that is more than one unit: as an input method's.
+    QInputMethodEvent several;
+    several.setCommitString(event->text());
+    inputMethodEvent(&several);
+}
+
+void TextAreaView::KeyTyped(QKeyEvent* event, int code) {
+    using keykinds::Kind;
+    switch (keykinds::KindOf(*event)) {
+    case Kind::Copy:
+        QLineEdit::keyPressEvent(event);
+        break;
+    case Kind::Paste:
+        TakeIn(QGuiApplication::clipboard()->text());
+        break;
+    case Kind::Text:
+        TextTyped(event);
+        break;
+    case Kind::Control:
+        Character(event, static_cast<char>(code));
+        break;
+    case Kind::Remove:
+        if (modInput::MayEdit(page_.program, field_)) {
+            QLineEdit::keyPressEvent(event);
+        }
+        break;
+    case Kind::Move:
+        QLineEdit::keyPressEvent(event);
+        event->accept();
+        break;
+    case Kind::Elsewhere:
+        break;
+    }
+}
+
+void TextAreaView::keyReleaseEvent(QKeyEvent* event) {
+    event->accept();
+    if (event->isAutoRepeat()) {
+        return;
+    }
+    Program& program = page_.program;
+    // The key may have led to another field, whose cursor this one does not know.
+    const bool here = program.main.Focus == field_;
+    const TextArea* const there =
+        program.main.Focus ? &modFields::Area(program, *program.main.Focus) : nullptr;
+    modInput::KeyUp(program, keycodes::CodeOf(*event), keycodes::ShiftOf(*event),
+                    here || there == nullptr ? Start() : there->SelStart,
+                    here || there == nullptr ? Length() : there->SelLength);
+    Done();
+}
+
+void TextAreaView::inputMethodEvent(QInputMethodEvent* event) {
+    Program& program = page_.program;
+    if (!modInput::MayEdit(program, field_)) {
+        event->accept(); // composing, too, would take away what is marked
+        if (!preedit_.isEmpty()) {
+            // Begun before the areas were selected; what was not yet entered goes.
+            preedit_.clear();
+            QInputMethodEvent nothing;
+            QLineEdit::inputMethodEvent(&nothing);
+            update();
+        }
+        return;
+    }
+    QString taken;
+    int refused = 0;
+    for (const QChar character : event->commitString()) {
+        const std::optional<char> byte = convert::ToByte(character);
+        if (!byte) {
+            refused += character.isLowSurrogate() ? 0 : 1;
+        } else if (modInput::KeyPress(program, static_cast<unsigned char>(*byte)) != 0) {
+            taken += character;
+        }
+    }
+    if (refused > 0) {
+        modInput::TellRefused(program, refused);
+    }
+    Follow(modFields::Area(program, field_));
+    QInputMethodEvent filtered(event->preeditString(), event->attributes());
+    filtered.setCommitString(taken, event->replacementStart(), event->replacementLength());
+    preedit_ = event->preeditString();
+    QLineEdit::inputMethodEvent(&filtered);
+    event->accept();
+    update();
+    Done();
+}
+
+void TextAreaView::mousePressEvent(QMouseEvent* event) {
+    const int position = PositionAt(event->position().x());
+    const bool extend = event->modifiers().testFlag(Qt::ShiftModifier) && hasFocus();
+    const bool right = event->button() == Qt::RightButton;
+    if (!extend) {
+        anchor_ = position;
+    } else if (Length() > 0) {
+        anchor_ = cursorPosition() == Start() ? Start() + Length() : Start();
+    } else {
+        anchor_ = cursorPosition();
+    }
+    pressedAt_ = event->position().x();
+    marking_ = extend;
+    int start = qMin(anchor_, position);
+    int length = qAbs(position - anchor_);
+    pressedInMarked_ = event->button() == Qt::LeftButton && !extend && hasFocus() && position > Start() &&
+                       position < Start() + Length();
+    if ((right && hasFocus()) || pressedInMarked_) {
+        // A marked text stays marked, for the menu's commands or to be dragged.
+        start = Start();
+        length = Length();
+    }
+    event->accept();
+    RestartCaret();
+    modInput::FieldMouseDown(page_.program, field_, right ? 2 : 1, 0, start, length);
+    Done();
+    if (modInput::TextMenuOpens(page_.program) && page_.AskForMenu) {
+        page_.AskForMenu(event->globalPosition().toPoint());
+    }
+}
+
+void TextAreaView::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    if (!event->buttons().testFlag(Qt::LeftButton)) {
+        return;
+    }
+    const int position = PositionAt(event->position().x());
+    const int moved = qAbs(qRound(event->position().x() - pressedAt_));
+    if (pressedInMarked_) {
+        dragging_ = dragging_ || moved >= QGuiApplication::styleHints()->startDragDistance();
+        dropAt_ = position;
+        update();
+        return;
+    }
+    // A clicking hand is never quite still, and a figure makes room for the caret as its field is entered.
+    constexpr int kStill = 4;
+    marking_ = marking_ || moved >= kStill;
+    if (!marking_) {
+        return;
+    }
+    modInput::CursorMoved(page_.program, field_, qMin(anchor_, position), qAbs(position - anchor_));
+    Done();
+}
+
+void TextAreaView::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    if (pressedInMarked_) {
+        pressedInMarked_ = false;
+        if (dragging_) {
+            dragging_ = false;
+            modInput::MoveMarked(page_.program, field_, dropAt_);
+            TakeRecord();
+        } else {
+            modInput::CursorMoved(page_.program, field_, PositionAt(event->position().x()), 0);
+        }
+        Done();
+    }
+    modInput::FieldMouseUp(page_.program, field_, Start(), Length());
+    if (event->button() == Qt::MiddleButton) {
+        TakeIn(page_.MarkedText ? page_.MarkedText()
+                                : QGuiApplication::clipboard()->text(QClipboard::Selection));
+    } else {
+        OfferMarkedText();
+    }
+    Done();
+}
+
+void TextAreaView::OfferMarkedText() const {
+    if (hasSelectedText() && QGuiApplication::clipboard()->supportsSelection()) {
+        QGuiApplication::clipboard()->setText(selectedText(), QClipboard::Selection);
+    }
+}
+
+void TextAreaView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        mousePressEvent(event); // pasting twice in a row is no double-click
+        return;
+    }
+    event->accept();
+    modInput::FieldDblClick(page_.program, field_, PositionAt(event->position().x()));
+    Done();
+}
+
+void TextAreaView::dropEvent(QDropEvent* event) {
+    const int position = PositionAt(event->position().x());
+    modInput::FieldMouseDown(page_.program, field_, 1, 0, position, 0);
+    Done(); // the widget has the keyboard and the cursor now
+    TakeIn(event->mimeData()->text());
+    event->acceptProposedAction();
+    Done();
+}
+
+void TextAreaView::focusInEvent(QFocusEvent* event) {
+    const int start = cursorPosition();
+    QLineEdit::focusInEvent(event);
+    RestartCaret();
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) {
+        deselect();
+        setCursorPosition(start);
+        modInput::FieldEntered(page_.program, field_);
+        Done();
+    }
+    KeepCaretInView();
+    update();
+}
+
+void TextAreaView::focusOutEvent(QFocusEvent* event) {
+    // Leaving is the model's affair; a window that loses the keyboard leaves no field.
+    QLineEdit::focusOutEvent(event);
+    blink_.stop();
+    caretOn_ = false;
+    KeepCaretInView();
+    update();
+}
+
+void TextAreaView::RestartCaret() {
+    caretOn_ = true;
+    const int flash = QGuiApplication::styleHints()->cursorFlashTime();
+    if (flash > 0) {
+        blink_.start(flash / 2, this);
+    }
+    update();
+}
+
+void TextAreaView::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == blink_.timerId()) {
+        caretOn_ = !caretOn_;
+        update();
+        return;
+    }
+    QLineEdit::timerEvent(event);
+}
+
+void TextAreaView::contextMenuEvent(QContextMenuEvent* event) {
+    event->accept();
+    // By mouse the press has opened it already; this is the keyboard's menu key.
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        modInput::FieldMouseDown(page_.program, field_, 2, 0, Start(), Length());
+        Done();
+        if (modInput::TextMenuOpens(page_.program) && page_.AskForMenu) {
+            page_.AskForMenu(mapToGlobal(rect().bottomLeft()));
+        }
+    }
+}

@@ -1,0 +1,117 @@
+#include "program/line_printing.h"
+
+#include "base/guard.h"
+#include "base/paths.h"
+#include "program/data_folders.h"
+#include "program/program.h"
+#include "program/text_wrap.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace modLines {
+
+namespace {
+
+class Paper {
+public:
+    Paper(Printer& printer, const TextMeasure& measure, const Sheet& sheet)
+        : printer_(printer), sheet_(sheet), advances_(measure, sheet.Font) {
+        SetFont();
+        printer_.CurrentX = sheet_.Left;
+        printer_.CurrentY = sheet_.Top;
+    }
+
+    void Put(std::string_view line) {
+        const float room = printer_.ScaleWidth - sheet_.Left - sheet_.Right;
+        if (line.find('\t') != std::string_view::npos) {
+            PutColumns(line);
+            return;
+        }
+        for (const modWrap::Piece& piece : modWrap::WrapParagraph(line, advances_, room)) {
+            PutAt(sheet_.Left, line.substr(piece.Start, piece.Length));
+            printer_.CurrentY += printer_.TextHeight();
+        }
+    }
+
+private:
+    void SetFont() {
+        printer_.Font = sheet_.Font.Name;
+        printer_.FontSize = sheet_.Font.Size;
+        printer_.FontBold = sheet_.Font.Bold;
+        printer_.FontItalic = sheet_.Font.Italic;
+        printer_.FontUnderline = false;
+        printer_.ForeColor = colors::kBlack;
+    }
+
+    /// Draws on the present line, which stays the present one.
+    void PutAt(float x, std::string_view text) {
+        if (printer_.CurrentY + printer_.TextHeight() > printer_.ScaleHeight - sheet_.Bottom) {
+            printer_.NewPage();
+            SetFont();
+            printer_.CurrentY = sheet_.Top;
+        }
+        const float y = printer_.CurrentY;
+        printer_.CurrentX = x;
+        printer_.Print(text);
+        printer_.CurrentX = x;
+        printer_.CurrentY = y;
+    }
+
+    /// Each tab goes to the next stop; what stands behind the last is wrapped within its own column.
+    void PutColumns(std::string_view line) {
+        float x = sheet_.Left;
+        std::size_t at = 0;
+        for (std::size_t tab = line.find('\t'); tab != std::string_view::npos; tab = line.find('\t', at)) {
+            const std::string_view words = line.substr(at, tab - at);
+            if (!words.empty()) {
+                PutAt(x, words);
+                x += printer_.TextWidth(words);
+            }
+            x = sheet_.Left + (std::floor((x - sheet_.Left) / sheet_.TabStop) + 1) * sheet_.TabStop;
+            at = tab + 1;
+        }
+        constexpr float kNarrowest = 2880;
+        const float room = std::max(kNarrowest, printer_.ScaleWidth - sheet_.Right - x);
+        const std::string_view rest = line.substr(at);
+        for (const modWrap::Piece& piece : modWrap::WrapParagraph(rest, advances_, room)) {
+            PutAt(x, rest.substr(piece.Start, piece.Length));
+            printer_.CurrentY += printer_.TextHeight();
+        }
+    }
+
+    Printer& printer_;
+    const Sheet& sheet_;
+    modWrap::Advances advances_;
+};
+
+} // namespace
+
+Printed PrintLines(Program& program, std::string_view name, const std::vector<std::string>& lines,
+                   const Sheet& sheet) {
+    if (program.printing.CommandRunning) {
+        return Printed::Refused;
+    }
+    Printers& printers = program.platform.printers;
+    if (program.run.NoPrinter || printers.Current().empty()) {
+        return Printed::NoPrinter;
+    }
+    const ScopedFlag running(program.printing.CommandRunning);
+    const DocumentState& document = program.document;
+    const std::string folder =
+        document.FilePath.empty() ? modFolders::DataFolder(program) : document.FilePath;
+    if (!printers.BeginCommand({paths::Join(folder, std::string(name) + ".pdf")})) {
+        return Printed::Refused;
+    }
+    printers.NameDocument(name, 0);
+    Printer& printer = printers.Device();
+    Paper paper(printer, program.platform.measure, sheet);
+    for (const std::string& line : lines) {
+        paper.Put(line);
+    }
+    printer.EndDoc();
+    printers.EndCommand();
+    return Printed::Done;
+}
+
+} // namespace modLines

@@ -1,0 +1,35 @@
+#include "program/rewriting.h"
+
+#include "base/files.h"
+#include "program/program.h"
+
+#include <string>
+
+namespace modFile {
+
+bool MayOverwrite(Program& program, std::string_view path, const files::Seen& seen, std::string_view what) {
+    // One that could not be read is no news to the person, and is kept.
+    if (seen.Was == files::Seen::What::Unread || !files::ChangedSince(path, seen)) {
+        return true;
+    }
+    return program.platform.questions.MsgBox(
+               "This " + std::string(what) +
+                   " was changed by another program since you opened it. Overwrite it?",
+               Buttons::YesNo, "", {.Default = Answer::No}) == Answer::Yes;
+}
+
+Rewriting Rewrite(Program& program, std::string_view path, std::string_view bytes, files::Seen& seen,
+                  std::string_view what) {
+    if (!MayOverwrite(program, path, seen, what)) {
+        return Rewriting::Refused;
+    }
+    if (files::ExistsExactly(path) &&
+        (seen.Was == files::Seen::What::Unread || files::LookAt(path).Was == files::Seen::What::Unread)) {
+        files::KeepUnread(path);
+    }
+    files::WriteWhole(path, bytes);
+    seen = files::SeenIn(bytes);
+    return Rewriting::Done;
+}
+
+} // namespace modFile

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "base/seen.h"
+
+#include <string_view>
+
+struct Program;
+
+/// The one way to overwrite a file that the program has read: a proposal, the settings, a terms list ...
+namespace modFile {
+
+/// Whether the file may be overwritten. Yes when it is as it was seen, and when it is not there; otherwise
+/// the person is asked: "This " and `what` ("proposal", "terms list") "was changed by another program since
+/// you opened it. Overwrite it?", No unless it is chosen.
+[[nodiscard]] bool MayOverwrite(Program& program, std::string_view path, const files::Seen& seen,
+                                std::string_view what);
+
+enum class Rewriting { Done, Refused };
+/// Asks as above, keeps a file that could not be read whole as ".unread", writes the new bytes in one step
+/// and takes them into `seen`. `seen` stays when the person refuses or the write fails. Throws
+/// files::FileError.
+[[nodiscard]] Rewriting Rewrite(Program& program, std::string_view path, std::string_view bytes,
+                                files::Seen& seen, std::string_view what);
+
+} // namespace modFile

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+struct Program;
+struct DocumentState;
+
+/// The files that lie beside a proposal under its base name: footnotes and deposits. They lie in the
+/// proposal's folder; of a proposal from the backups, and of one without a file, in the data folder.
+namespace modSideFile {
+
+[[nodiscard]] std::string FolderOf(const Program& program, const DocumentState& document);
+
+/// What is known of a side file since it was last read or written here.
+struct Known {
+    bool There = false;
+    std::string Bytes;
+    bool Locked = false; ///< it is there and could not be read; it is not to be written
+};
+
+/// Reads the file of the proposal on show; empty while the proposal has no file. One that cannot be read is
+/// reported under the procedure's name and comes back locked.
+[[nodiscard]] Known Read(Program& program, std::string_view name, std::string_view procedure);
+
+/// Replaces the file of the proposal on show. One that holds other bytes than are known is replaced only when
+/// the person agrees to `question`. False when nothing was written; failures are reported under the
+/// procedure's name.
+[[nodiscard]] bool Write(Program& program, Known& known, std::string_view name, std::string_view bytes,
+                         std::string_view question, std::string_view procedure);
+
+/// Gives a proposal without a file one, for what lies beside it must have something to lie beside. False when
+/// it was not saved.
+[[nodiscard]] bool ProposalHasFile(Program& program);
+
+/// Puts unsaved work beside the backup; nobody is asked or told. Failures go to the log alone.
+void KeepInBackup(Program& program, std::string_view name, std::string_view bytes);
+
+/// After Save As: the files of the proposal as it was go with it. Where it had none and another proposal's
+/// lie under the new name, those go into the backup folder.
+void FollowSaveAs(Program& program, const DocumentState& before);
+
+} // namespace modSideFile
