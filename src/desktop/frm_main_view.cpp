@@ -14,6 +14,7 @@
 #include "shell/command_run.h"
 #include "shell/frm_main.h"
 #include "shell/input.h"
+#include "shell/main_controls.h"
 #include "shell/page_switch.h"
 
 #include <QCloseEvent>
@@ -282,6 +283,7 @@ void FrmMainView::AfterEvent() {
 }
 
 void FrmMainView::Follow() {
+    modMain::WorkOutControls(program_);
     if (following_) {
         return;
     }

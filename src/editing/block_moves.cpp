@@ -2,11 +2,11 @@
 
 #include "base/text.h"
 #include "editing/area_contents.h"
-#include "editing/keys.h"
 #include "editing/navigation.h"
 #include "editing/selection.h"
 #include "editing/text_menu.h"
 #include "pages/page_geometry.h"
+#include "program/keys.h"
 #include "program/program.h"
 
 #include <exception>

@@ -81,7 +81,7 @@ void TakeAmount(Program& program, PageId page, int index) {
         return;
     }
     static_cast<void>(modTotals::StoreAmount(program, page, index));
-    program.main.cmdReCalc.BackColor = colors::kOverLimit;
+    program.totals.TotalsStale = true;
     if (program.editing.RefireMode) {
         modTotals::CalculateMyTotals(program, page);
     }
@@ -95,8 +95,7 @@ void LinePageChange(Program& program, PageId page, int index) {
         !editing.RefireMode) {
         TakeClientName(program);
     }
-    program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = true;
-    program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled = true;
+    program.document.HasClient = true;
     if (IsAmountLimit(editing.CurrentLimit)) {
         TakeAmount(program, page, index);
     }

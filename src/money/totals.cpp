@@ -40,13 +40,10 @@ void MirrorFigures(Program& program) {
     }
 }
 
-void ShowRunningLabel(Program& program, float subTotal) {
-    program.main.lblTotal.Caption =
-        "Running Sub-Total = " + program.settings.CurrencySymbol + " " + Shown(subTotal);
-}
-
-void ShowSettled(Program& program) {
-    program.main.cmdReCalc.BackColor = colors::kButtonFace;
+/// A pass has ended with that subtotal.
+void Settle(Program& program, float subTotal) {
+    program.totals.RunningSubTotal = program.settings.CurrencySymbol + " " + Shown(subTotal);
+    program.totals.TotalsStale = false;
 }
 
 /// What is too large for a single stays at the largest: a figure is always a number that can be shown.
@@ -183,10 +180,8 @@ void UpdateRunningTotals(Program& program) {
     WriteFigure(program, kTax, Shown(totals.SalesTax));
     WriteFigure(program, kTotal, Shown(totals.Total));
     WriteFigure(program, kBalance, Shown(totals.Balance));
-    ShowRunningLabel(program, totals.SubTotal);
-    ShowSettled(program);
+    Settle(program, totals.SubTotal);
     MirrorFigures(program);
-    totals.TotalsStale = false;
 }
 
 void RecalculateAll(Program& program) {
@@ -198,9 +193,7 @@ void RecalculateAll(Program& program) {
         AddAllFields(program);
         WriteFullFigures(program);
         MirrorFigures(program);
-        program.totals.TotalsStale = false;
-        ShowSettled(program);
-        ShowRunningLabel(program, program.totals.FullSubTotal);
+        Settle(program, program.totals.FullSubTotal);
     });
     if (!done) {
         program.platform.questions.MsgBox("Error encountered while recalculating totals.", Buttons::Ok, "");
@@ -259,11 +252,8 @@ void mnuToolsRecalculate_Click(Program& program) {
 }
 
 void mnuOptHideTotals_Click(Program& program) {
-    CommandState& entry = program.main[CommandId::mnuOptHideTotals];
-    entry.Checked = !entry.Checked;
     TotalsRecords& totals = program.totals;
-    totals.TotalsHidden = entry.Checked;
-    program.main.cmdReCalc.Visible = !totals.TotalsHidden;
+    totals.TotalsHidden = !totals.TotalsHidden;
     if (totals.TotalsHidden) {
         // Nothing keeps the two up to date while hidden; a save must not find them apart.
         totals.FullTotal = totals.Total;
@@ -286,7 +276,7 @@ void imgNoTax_Click(Program& program, PageId page, int row) {
     program.totals.TaxableTable[index][page] = program.totals.AmountTable[index][page];
     CalculateMyTotals(program, page);
     UpdateRunningTotals(program);
-    program.main.cmdReCalc.BackColor = colors::kOverLimit;
+    program.totals.TotalsStale = true;
     modFields::GiveFocus(program, {page, FieldKind::txt, row});
 }
 
@@ -333,7 +323,7 @@ void FinalPageChange(Program& program, int index) {
     }
     *figure = *number;
     UpdateRunningTotals(program);
-    program.main.cmdReCalc.BackColor = colors::kOverLimit;
+    program.totals.TotalsStale = true;
 }
 
 void RewriteDeposit(Program& program) {
@@ -386,8 +376,7 @@ void TotalsAfterReading(Program& program) {
         WriteFigure(program, kTax, Shown(totals.SalesTax));
         WriteFigure(program, kTotal, Shown(totals.Total));
         WriteFigure(program, kBalance, Shown(totals.Balance));
-        ShowRunningLabel(program, totals.SubTotal);
-        ShowSettled(program);
+        Settle(program, totals.SubTotal);
     }
     WriteFigure(program, kDeposit, Shown(totals.Deposit));
     MirrorFigures(program);

@@ -68,7 +68,7 @@ void SetPageNumbers(Program& program) {
         heading.Left = geometry::kPageCenter - modPages::LabelWidth(program, heading) / 2;
         Keep(program, page, 0);
     }
-    program.main.lblHighestPage.Caption = "Utilizing " + std::to_string(used) + " of 6 Available Pages";
+    program.document.PagesNumbered = used;
 }
 
 } // namespace modPrint

@@ -119,7 +119,7 @@ void DrawPage(const Program& program, DrawingSurface& surface, PageId page) {
 }
 
 void PrepareDrawing(Program& program) {
-    if (program.main.cmdReCalc.BackColor == colors::kOverLimit) {
+    if (program.totals.TotalsStale) {
         modTotals::RecalculateAll(program);
         modTotals::UpdateRunningTotals(program);
     }

@@ -9,21 +9,12 @@
 
 namespace modLogo {
 
-namespace {
-
-void SetLogoChecked(Program& program, bool checked) {
-    program.main[CommandId::mnuEditLogoVisible].Checked = checked;
-}
-
-} // namespace
-
 void LoadLogo(Program& program) {
     Page& page = program.pages[PageId::frmP1];
     const std::string& setting = program.settings.LogoFile;
     const auto hide = [&] {
         page.pic.Visible = false;
         page.pic.Picture = {};
-        SetLogoChecked(program, false);
     };
     if (setting.empty() || text::EqualNoCase(setting, "events.jpg")) {
         hide();
@@ -46,7 +37,6 @@ void LoadLogo(Program& program) {
     page.pic.Top = program.settings.LogoTop;
     page.pic.Visible = program.settings.LogoVisible;
     page.pic.Tag = program.settings.LogoVisible ? "" : kHide;
-    SetLogoChecked(program, program.settings.LogoVisible);
 }
 
 bool ShowLogo(Program& program, const std::string& path) {
@@ -61,7 +51,6 @@ bool ShowLogo(Program& program, const std::string& path) {
     picture.Visible = true;
     picture.Tag.clear();
     program.settings.LogoVisible = true;
-    SetLogoChecked(program, true);
     return true;
 }
 

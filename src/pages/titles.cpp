@@ -32,8 +32,6 @@ void LayLines(Program& program, Record record) {
             kept.Caption = label.Caption;
         }
     }
-    program.main.lblEvent.Caption = title;
-    program.main.lblEvent.Visible = true;
 }
 
 } // namespace
@@ -47,13 +45,6 @@ void UpdateFooters(Program& program) {
 
 void UpdateEventNameLabels(Program& program) {
     UpdateFooters(program);
-    program.main.Caption = "Quillbrook";
-    if (program.format.FormatOpen) {
-        program.main.Caption += ": Format File = " + program.format.FormatName;
-    }
-    if (program.document.HasName()) {
-        program.main.Caption += " - File Name = " + program.document.FileName;
-    }
 }
 
 void LayTitles(Program& program) {

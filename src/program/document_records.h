@@ -22,6 +22,10 @@ struct DocumentState {
     bool Cancelled = false;
     bool SaveAsActive = false;
     int PagesInUse = 6;
+    std::string FolderOnShow; ///< where the proposal was opened, as the strip tells it
+    int PagesNumbered = 0;    ///< pages in use when they were last numbered; 0 since the reset
+    bool HasNotes = false;    ///< footnotes lie beside the proposal
+    bool HasClient = false;   ///< opened, or typed in since the reset: its client can go into an address book
     std::string FileFilter = "*.hef";
     bool DeleteMode = false;
     bool IgnoreProperties = false;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 inline constexpr int kRowCount = 66;
 
@@ -31,7 +32,8 @@ struct TotalsRecords {
     bool TotalsHidden = false;
     bool InRecalculation = false;
     bool InRunningUpdate = false; ///< the running computation writes the final page
-    bool TotalsStale = false;
+    bool TotalsStale = false;     ///< the figures may be behind; shows as a red `cmdReCalc`
+    std::string RunningSubTotal;  ///< with its currency sign, as last shown
 
     /// Whether there are amounts: any that is not zero.
     [[nodiscard]] bool HasAmounts() const {

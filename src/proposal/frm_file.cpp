@@ -233,7 +233,6 @@ void frmFile::OpenProposal(Program& program) {
         return;
     }
     const bool backup = paths::SameFolder(document.FilePath, modFolders::BackupFolder(program));
-    program.main[CommandId::mnuFileRestoreFromBackup].Enabled = backup;
     document.FromBackup = backup;
     modFile::ShowProposal(program, name, *raw);
     if (!document.IgnoreProperties) {

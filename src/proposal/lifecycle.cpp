@@ -30,7 +30,6 @@ namespace {
 /// An empty proposal is none from the backups, and must not be saved among them.
 void LeaveBackup(Program& program) {
     program.document.FromBackup = false;
-    program.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
     if (paths::SameFolder(program.document.FilePath, modFolders::BackupFolder(program))) {
         program.document.FilePath = modFolders::DataFolder(program);
     }
@@ -78,8 +77,7 @@ void SaveAsSteps(Program& program) {
     }
     modFile::SavePropertyFile(program);
     modSideFile::FollowSaveAs(program, before);
-    program.main.imgFootNotes.Picture =
-        modFile::FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile) ? 1 : 0;
+    document.HasNotes = modFile::FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile);
     modTitles::UpdateEventNameLabels(program);
 }
 
@@ -218,10 +216,9 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
         modTitles::UpdateFooters(program);
         files::WriteWhole(target, bytes);
         document.FilePath = folder;
-        program.main.lblDir.Caption = "Current Folder = " + document.FilePath;
-        program.main.imgFootNotes.Picture = modFile::FileIsThere(folder, document.FootnoteFile) ? 1 : 0;
+        document.FolderOnShow = folder;
+        document.HasNotes = modFile::FileIsThere(folder, document.FootnoteFile);
         document.FromBackup = false;
-        program.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
     });
 }
 

@@ -127,7 +127,6 @@ void SettleLogo(Program& program) {
         logo.Visible = false;
         logo.Tag = kHide;
         program.settings.LogoVisible = false;
-        program.main[CommandId::mnuEditLogoVisible].Checked = false;
         return;
     }
     logo.Visible = program.settings.LogoVisible && logo.Picture.From != PictureRef::Source::None;
@@ -155,21 +154,19 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
     if (text::EqualNoCase(paths::ExtensionOf(fileName), "hef")) {
         document.DocumentKind = "Event";
     }
-    program.main.lblDir.Caption = "Current Folder = " + document.FilePath;
+    document.FolderOnShow = document.FilePath;
     {
         const ScopedFlag loading(program.guards.Loading);
         const proposal::Decoded decoded = proposal::Decode(raw.Bytes, raw.Length, SlotWidths(program));
         TakeFields(program, decoded);
         document.DocumentKind = decoded.Wedding ? "Wedding" : "Event";
         document.FileExists = true;
-        program.main[CommandId::mnuFileDelete].Enabled = true;
         modTotals::TotalsAfterReading(program);
     }
     modNames::SetBaseName(program, paths::BaseOf(fileName));
     document.ClientCaption = "Proposal for " + document.BaseName;
     TakeKind(program);
-    program.main.imgFootNotes.Picture =
-        FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile) ? 1 : 0;
+    document.HasNotes = FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile);
     if (program.settings.ShowFUT && program.hooks.ReadFrequentlyUsedTerms) {
         program.hooks.ReadFrequentlyUsedTerms(program);
     }
@@ -178,8 +175,7 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
     if (program.hooks.UpdatePageButtons) {
         program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
     }
-    program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled = true;
-    program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = true;
+    document.HasClient = true;
 }
 
 OpenResult OpenEventFile(Program& program, std::string_view fileName) {

@@ -39,7 +39,7 @@ void CompareTotals(Program& program) {
     modTotals::RecalculateAll(program);
     modTotals::UpdateRunningTotals(program);
     if (modTotals::TotalsDiffer(program)) {
-        program.main.cmdReCalc.BackColor = colors::kOverLimit;
+        program.totals.TotalsStale = true;
         program.platform.questions.MsgBox(modTotals::DiscrepancyMessage(), Buttons::Ok, "");
     }
 }
@@ -147,7 +147,6 @@ void SavingSteps(Program& program, SaveResult& result) {
     document.FileExists = true;
     document.SavedStateStale = propertiesLost;
     result = SaveResult::Saved;
-    program.main[CommandId::mnuFileDelete].Enabled = true;
     modTitles::UpdateEventNameLabels(program);
     if (!document.BackingUp) {
         program.platform.questions.MsgBox("File was saved as " + document.FileName, Buttons::Ok, "");

@@ -42,7 +42,6 @@ void ClearNames(Program& program) {
     }
     document.ClientCaption.clear();
     document.FileExists = false;
-    program.main[CommandId::mnuFileDelete].Enabled = false;
     document.BaseName.clear();
     document.FileName.clear();
     document.TextFileName.clear();
@@ -68,7 +67,9 @@ void ResetPages(Program& program) {
         }
     }
     program.document.PagesInUse = 6;
-    program.main.imgFootNotes.Picture = 0;
+    program.document.PagesNumbered = 0;
+    program.document.HasNotes = false;
+    program.document.HasClient = false;
     program.format.PropTextChanges = {};
     program.format.PropLabelChanges = {};
     program.format.LabelSavedState = {};
@@ -123,9 +124,7 @@ void ZeroTotals(Program& program) {
     totals = TotalsRecords{};
     totals.TaxRate = rate;
     totals.TotalsHidden = hidden;
-    program.main.lblTotal.Caption = "Running Sub-Total = " + program.settings.CurrencySymbol + " 0.00";
-    program.main.cmdReCalc.BackColor = colors::kButtonFace;
-    program.main.lblHighestPage.Caption = "Available Pages = " + std::to_string(program.document.PagesInUse);
+    totals.RunningSubTotal = program.settings.CurrencySymbol + " 0.00";
 }
 
 void TakeFormat(Program& program, bool loadDefault) {
@@ -150,9 +149,6 @@ void ResetSteps(Program& program) {
     ClearNames(program);
     modTitles::SetPageHeading(program, "Event Proposal");
     modTitles::UpdateEventNameLabels(program);
-    program.main.Caption = "Quillbrook";
-    program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled = false;
-    program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
     ResetPages(program);
     ResetFont(program);
     program.totals.PageSum = {};

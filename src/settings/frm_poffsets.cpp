@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "settings/printer_offsets.h"
@@ -26,9 +27,8 @@ void frmPOffsets::ShowValues(const Program& program) {
 }
 
 int frmPOffsets::txt_KeyPress(int keyAscii) {
-    constexpr int kBackspace = 8;
     const bool passes = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == ',' || keyAscii == '-' ||
-                        keyAscii == '.' || keyAscii == kBackspace;
+                        keyAscii == '.' || keyAscii == keys::kBackspace;
     return passes ? keyAscii : 0;
 }
 

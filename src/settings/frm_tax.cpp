@@ -1,6 +1,7 @@
 #include "settings/frm_tax.h"
 
 #include "base/numbers.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "settings/tax_rate.h"
@@ -12,9 +13,8 @@ void frmTax::Form_Load(Program& program) {
 }
 
 int frmTax::txtTaxRate_KeyPress(int keyAscii) {
-    constexpr int kBackspace = 8, kTab = 9;
-    const bool passes =
-        (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.' || keyAscii == kBackspace || keyAscii == kTab;
+    const bool passes = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.' ||
+                        keyAscii == keys::kBackspace || keyAscii == keys::kTab;
     return passes ? keyAscii : 0;
 }
 

@@ -46,7 +46,7 @@ void SaveTaxRate(Program& program, std::string_view rateText) {
                              " %",
                          Buttons::Ok, "");
         if (program.totals.TaxRate != 0 && program.totals.HasAmounts()) {
-            program.main.cmdReCalc.BackColor = colors::kOverLimit;
+            program.totals.TotalsStale = true;
             questions.MsgBox("Please click Recalculate to update the totals.", Buttons::Ok, "");
         }
     });

@@ -4,11 +4,13 @@
 #include "editing/selection.h"
 #include "program/program.h"
 #include "shell/command_table.h"
+#include "shell/main_controls.h"
 #include "shell/preview_refusals.h"
 
 namespace commands {
 
 void Run(Program& program, CommandId id) {
+    modMain::WorkOutControls(program);
     const Entry& entry = Find(id);
     modBlocks::FinishMove(program); // an arrow still held: what moved must be stored before anything else
     modText::TextMenuClosed(program);

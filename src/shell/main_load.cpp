@@ -16,6 +16,7 @@
 #include "settings/settings.h"
 #include "shell/command_table.h"
 #include "shell/load_fonts.h"
+#include "shell/main_controls.h"
 #include "shell/tool_buttons.h"
 
 namespace modMain {
@@ -24,10 +25,9 @@ namespace {
 
 void DisableAtStart(Program& program) {
     for (const CommandId id :
-         {CommandId::mnuOptCopyToBusinessAddressBook, CommandId::mnuOptCopyToPersonalAddressBook,
-          CommandId::mnuAdminConvert, CommandId::mnuAdminPrintAll, CommandId::mnuAdminRecalc,
+         {CommandId::mnuAdminConvert, CommandId::mnuAdminPrintAll, CommandId::mnuAdminRecalc,
           CommandId::mnuEditTextDeselect, CommandId::mnuEditTextMoveDown, CommandId::mnuEditTextMoveUp,
-          CommandId::mnuEditTextPaste, CommandId::mnuEditTextUndo, CommandId::mnuFileRestoreFromBackup}) {
+          CommandId::mnuEditTextPaste, CommandId::mnuEditTextUndo}) {
         program.main[id].Enabled = false;
     }
 }
@@ -84,7 +84,7 @@ void LoadSteps(Program& program) {
          {&program.main.cmdPreview, &program.main.cmdReCalc, &program.main.cmdTaxRate}) {
         button->Enabled = true;
     }
-    program.main.lblDir.Caption = "Current Folder = " + modFolders::DataFolder(program);
+    program.document.FolderOnShow = modFolders::DataFolder(program);
     for (const PageId page : {PageId::frmP2, PageId::frmP3, PageId::frmP4, PageId::frmP5, PageId::frmP1}) {
         modPages::EnsureRowFields(program, page);
     }
@@ -107,6 +107,7 @@ void MDIForm_Load(Program& program) {
     if (!Guarded(program, "MDIForm_Load", [&] { LoadSteps(program); })) {
         program.platform.questions.MsgBox("Error encountered during Load Process.", Buttons::Ok, "");
     }
+    WorkOutControls(program);
     program.main.Loaded = true;
 }
 

@@ -1,6 +1,6 @@
 #include "pages/fields.h"
 #include "pages/row_fields.h"
-#include "shell/input.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -171,10 +171,10 @@ TEST(BadText, CharactersWithoutAByteAreLeftOutAndThePersonIsTold) {
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kSecond, 0);
-    modInput::Insert(run.program, {kSecond, FieldKind::txt, 0}, "ab", 1, modInput::By::Mouse);
+    person::Insert(run.program, {kSecond, FieldKind::txt, 0}, "ab", 1, person::By::Mouse);
     EXPECT_EQ(run.TextOf(kSecond, 0), "ab");
     EXPECT_EQ(run.program.main.Notice, "One character was not taken: it cannot be kept in a proposal.");
-    modInput::Insert(run.program, {kSecond, FieldKind::txt, 0}, "", 7, modInput::By::Key);
+    person::Insert(run.program, {kSecond, FieldKind::txt, 0}, "", 7, person::By::Key);
     EXPECT_EQ(run.program.main.Notice, "7 characters were not taken: they cannot be kept in a proposal.");
     typist.Type("c");
     EXPECT_EQ(run.program.main.Notice, "") << "told until the next key";

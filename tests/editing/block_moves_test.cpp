@@ -1,9 +1,7 @@
 #include "editing/block_actions.h"
 #include "editing/block_moves.h"
 #include "pages/page_marks.h"
-#include "shell/closing.h"
-#include "shell/frm_main.h"
-#include "shell/input.h"
+#include "support/person.h"
 
 namespace {
 
@@ -352,7 +350,7 @@ TEST(MoveByKey, WaitsWithTheHandlersUntilTheKeyIsLetGo) {
     EXPECT_TRUE(run.program.editing.MoveInProgress);
     EXPECT_EQ(run.Stored(kSecond, 3), "Row");
     EXPECT_EQ(run.program.main.Focus, BlockRun::Text(kSecond, 8)) << "the focus stays";
-    modInput::KeyUp(run.program, keys::kDown, 0, 0, 0);
+    person::KeyUp(run.program, keys::kDown, 0, 0, 0);
     EXPECT_FALSE(run.program.editing.MoveInProgress);
     EXPECT_EQ(run.Stored(kSecond, 3), "");
     EXPECT_EQ(run.Stored(kSecond, 4), "Row");
@@ -436,14 +434,14 @@ TEST(MoveByKey, IsFinishedByWhateverComesNext) {
     {
         BlockRun run;
         held(run);
-        frmMain(run.program).imgPage_Click(2);
+        person::ClickPageButton(run.program, 2);
         EXPECT_EQ(run.Stored(kSecond, 4), "Row") << "another page";
         EXPECT_EQ(run.program.editing.CurrentArea, 0) << "where a paste would go";
     }
     {
         BlockRun run;
         held(run);
-        modInput::NoTaxMarkClick(run.program, kSecond, 40);
+        person::NoTaxMarkClick(run.program, kSecond, 40);
         EXPECT_EQ(run.Stored(kSecond, 4), "Row") << "a click on a mark";
     }
     {
@@ -453,7 +451,7 @@ TEST(MoveByKey, IsFinishedByWhateverComesNext) {
         run.surroundings.questions.ExpectBox({"The file has been changed. Do you want to save it?",
                                               Buttons::YesNoCancel, "Text has been Changed"},
                                              Answer::Cancel);
-        EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program)) << "closing the window";
+        EXPECT_FALSE(person::MayClose(run.program)) << "closing the window";
         EXPECT_FALSE(run.program.editing.MoveInProgress) << "or amounts would be saved in their old rows";
     }
     for (const CommandId id : {CommandId::mnuEditTextCopy, CommandId::mnuEditTextCut,

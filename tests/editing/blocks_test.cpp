@@ -38,7 +38,7 @@ const AreaContents kLinenAmount{"40.00", false, "", "", false, false};
 TEST(Contents, ReachBothTablesAndRunNoHandler) {
     BlockRun run;
     run.Put(kSecond, 41, "7");
-    run.program.main.cmdReCalc.BackColor = colors::kButtonFace;
+    run.program.totals.TotalsStale = false;
     modBlocks::PlaceContents(run.program, kSecond, 8, kCovers);
     modBlocks::PlaceContents(run.program, kSecond, 42, kCoversAmount);
     EXPECT_EQ(run.Contents(kSecond, 8), kCovers);
@@ -46,7 +46,7 @@ TEST(Contents, ReachBothTablesAndRunNoHandler) {
     EXPECT_EQ(run.Stored(kSecond, 8), "");
     EXPECT_EQ(run.Stored(kSecond, 42), "");
     EXPECT_EQ(run.TextOf(kSecond, 41), "7") << "no product";
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
     EXPECT_FALSE(run.program.editing.MoveInProgress);
     for (const auto* table : {&run.program.format.PropTextChanges, &run.program.format.FormatTextChanges}) {
         EXPECT_TRUE((*table)[1][8].QtyBox);
@@ -134,7 +134,7 @@ TEST(Delete, RunsTheTotals) {
     EXPECT_EQ(run.program.totals.AmountTable[36][PageId::frmP2], 0.0F);
     EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 100.0F);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "100.00");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
 }
 
 TEST(Delete, WithoutAmountsLeavesTheAmountsAndTheirMarks) {
@@ -430,7 +430,7 @@ TEST(Paste, RunsTheTotals) {
     EXPECT_EQ(run.program.totals.PageSum[PageId::frmP1], 59.97F + 40.0F);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "199.94");
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "80.00");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
     EXPECT_FALSE(run.program.editing.RefireMode);
     EXPECT_TRUE(run.program.editing.BlockMode);
 }

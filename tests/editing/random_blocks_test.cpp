@@ -3,8 +3,7 @@
 #include "editing/block_actions.h"
 #include "pages/page_geometry.h"
 #include "pages/row_fields.h"
-#include "shell/frm_main.h"
-#include "shell/input.h"
+#include "support/person.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -60,7 +59,7 @@ public:
             break;
         case 12:
             Log << "page\n";
-            frmMain(run_.program).imgPage_Click(Below(6));
+            person::ClickPageButton(run_.program, Below(6));
             break;
         case 13:
             Right();
@@ -129,18 +128,18 @@ private:
     void Right() {
         const FieldRef field = AField();
         Log << "right\n";
-        modInput::FieldMouseDown(run_.program, field, 2, 0, 0, 0);
+        person::FieldMouseDown(run_.program, field, 2, 0, 0, 0);
         if (Below(2) == 0) {
             Command();
         }
-        modInput::TextMenuClosed(run_.program);
+        person::TextMenuClosed(run_.program);
     }
     void Exempt() {
         const PageId page = Front();
         const int row = geometry::AmountOf(page, geometry::FirstRow(page) + Below(6));
         if (run_.program.pages[page].imgNoTax[static_cast<std::size_t>(row)].Visible) {
             Log << "mark " << row << "\n";
-            modInput::NoTaxMarkClick(run_.program, page, row);
+            person::NoTaxMarkClick(run_.program, page, row);
         }
     }
 

@@ -1,8 +1,8 @@
 #include "editing/area_mouse.h"
 #include "editing/block_actions.h"
-#include "editing/keys.h"
 #include "pages/row_fields.h"
-#include "shell/frm_main.h"
+#include "program/keys.h"
+#include "support/person.h"
 
 namespace {
 
@@ -181,7 +181,7 @@ TEST(Band, PaintsTheSignsOfItsMode) {
     };
     EXPECT_EQ(signs(), std::vector<Color>(6, 0xFF0000));
     EXPECT_EQ(main.lblTextPos.BackColor, colors::kButtonFace);
-    frmMain(run.program).cmdClearMem_Click();
+    person::ClickClearSelected(run.program);
     EXPECT_EQ(signs(), std::vector<Color>(6, colors::kButtonFace));
     EXPECT_FALSE(run.program.editing.BlockMode);
 }

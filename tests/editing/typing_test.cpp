@@ -1,13 +1,12 @@
 #include "editing/columns.h"
-#include "editing/keys.h"
 #include "editing/row_texts.h"
 #include "editing/typing.h"
 #include "editing/word_marking.h"
 #include "pages/fields.h"
 #include "pages/page_marks.h"
 #include "pages/row_fields.h"
-#include "shell/input.h"
-#include "shell/page_switch.h"
+#include "program/keys.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -45,7 +44,7 @@ TEST(ChangePipeline, StoresTheTrimmedTextAndKeepsTheAreasBlanks) {
     EXPECT_EQ(run.program.editing.CurrentKind, "Name");
     EXPECT_EQ(run.program.editing.CurrentLimit, "060");
     EXPECT_EQ(run.program.editing.CurrentWidth, 6120);
-    EXPECT_TRUE(run.program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled);
+    EXPECT_TRUE(run.Main()[CommandId::mnuOptCopyToBusinessAddressBook].Enabled);
 }
 
 TEST(ChangePipeline, TheClientsNameMakesTheFileNameUntilThereIsAFile) {
@@ -57,11 +56,11 @@ TEST(ChangePipeline, TheClientsNameMakesTheFileNameUntilThereIsAFile) {
     EXPECT_EQ(run.program.document.BaseName, "Al");
     EXPECT_EQ(run.program.document.TextFileName, "Al.txt");
     EXPECT_EQ(run.Label(kFirst, 33).Caption, "Proposal for Al");
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Al.hef");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook - File Name = Al.hef");
     typist.Press(keys::kBackspace);
     typist.Press(keys::kBackspace);
     EXPECT_EQ(run.program.document.FileName, ".hef");
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook");
     run.program.document.FileExists = true;
     run.program.document.FileName = "Kept.hef";
     typist.Type("X");
@@ -77,7 +76,7 @@ TEST(ChangePipeline, ATypedAmountFillsTheTablesAndTurnsTheButtonRed) {
     EXPECT_EQ(run.program.totals.TaxableTable[40][PageId::frmP2], 12.0F);
     EXPECT_EQ(run.Label(kSecond, 8).Tag, "");
     EXPECT_TRUE(run.Label(kSecond, 8).Visible);
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "") << "totals follow on leaving";
     typist.Press(keys::kBackspace);
     typist.Press(keys::kBackspace);
@@ -308,15 +307,15 @@ TEST(KeyFilter, AmountsTakeFiguresAndEditingKeysOnly) {
         for (int byte = 1; byte < 256; ++byte) {
             const bool passes =
                 byte == 8 || (byte >= '0' && byte <= '9') || byte == ',' || byte == '-' || byte == '.';
-            EXPECT_EQ(modInput::KeyPress(run.program, byte), passes ? byte : 0) << byte;
+            EXPECT_EQ(person::KeyPress(run.program, byte), passes ? byte : 0) << byte;
         }
     }
     typist.Click(kFirst, 3);
     for (int byte = 1; byte < 256; ++byte) {
-        EXPECT_EQ(modInput::KeyPress(run.program, byte), byte == 9 || byte == 13 ? 0 : byte);
+        EXPECT_EQ(person::KeyPress(run.program, byte), byte == 9 || byte == 13 ? 0 : byte);
     }
     run.program.editing.BlockMode = true;
-    EXPECT_EQ(modInput::KeyPress(run.program, 'a'), 0);
+    EXPECT_EQ(person::KeyPress(run.program, 'a'), 0);
 }
 
 TEST(Paste, IntoAnAmountIsTakenWholeAndNumeric) {
@@ -396,7 +395,7 @@ class DoubleClick : public testing::TestWithParam<Conversion> {};
 TEST_P(DoubleClick, ConvertsTheArea) {
     RunningProgram run;
     PutText(run, kFirst, GetParam().Area, GetParam().From);
-    modInput::FieldDblClick(run.program, Text(kFirst, GetParam().Area), 0);
+    person::FieldDblClick(run.program, Text(kFirst, GetParam().Area), 0);
     EXPECT_EQ(run.TextOf(kFirst, GetParam().Area), GetParam().To);
     EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][static_cast<std::size_t>(GetParam().Area)],
               GetParam().To);
@@ -409,10 +408,10 @@ TEST_P(DoubleClick, ConvertsTheArea) {
 TEST(DoubleClick, MarksTheWordAtItsPlaceWhereNothingIsConverted) {
     RunningProgram run;
     PutText(run, kSecond, 40, "it's 12 pm");
-    modScroll::UpdatePageButtons(run.program, 1);
+    person::TurnTo(run.program, 1);
     modFields::GiveFocus(run.program, Text(kSecond, 40));
     const auto marked = [&](int position) {
-        modInput::FieldDblClick(run.program, Text(kSecond, 40), position);
+        person::FieldDblClick(run.program, Text(kSecond, 40), position);
         const TextArea& area = run.Area(kSecond, 40);
         return area.Text.substr(static_cast<std::size_t>(area.SelStart),
                                 static_cast<std::size_t>(area.SelLength));
@@ -428,9 +427,9 @@ TEST(DoubleClick, MarksTheWordAtItsPlaceWhereNothingIsConverted) {
 TEST(DoubleClick, MarksNoWordInADescriptionOrBesideAWord) {
     RunningProgram run;
     PutText(run, kSecond, 5, "chair covers");
-    modScroll::UpdatePageButtons(run.program, 1);
+    person::TurnTo(run.program, 1);
     modFields::GiveFocus(run.program, Text(kSecond, 5));
-    modInput::FieldDblClick(run.program, Text(kSecond, 5), 8);
+    person::FieldDblClick(run.program, Text(kSecond, 5), 8);
     EXPECT_EQ(run.Area(kSecond, 5).SelLength, 0);
     EXPECT_EQ(modText::WordAt("a , b", 2).Length, 0);
     EXPECT_EQ(modText::WordAt("a , b", 2).Start, 2);
@@ -440,11 +439,11 @@ TEST(DoubleClick, MarksNoWordInADescriptionOrBesideAWord) {
 TEST(DoubleClick, TogglesTheColumnsOfADescriptionAndNothingElse) {
     for (const PageId page : kLinePages) {
         RunningProgram run;
-        modScroll::UpdatePageButtons(run.program, IndexOf(page));
+        person::TurnTo(run.program, IndexOf(page));
         const int last = page == kFirst ? 29 : 65;
         for (int index = page == kFirst ? 9 : 0; index <= last; ++index) {
             modFields::GiveFocus(run.program, Text(page, index));
-            modInput::FieldDblClick(run.program, Text(page, index), 0);
+            person::FieldDblClick(run.program, Text(page, index), 0);
             const bool line = page == kFirst ? index >= 10 && index <= 19 : index <= 32;
             EXPECT_EQ(run.Area(page, index).Width == 6270, line) << index;
             EXPECT_EQ(run.program.editing.CurrentArea, index);
@@ -467,11 +466,11 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Status, FollowsAPressOfTheMouse) {
     RunningProgram run;
     PutText(run, kSecond, 5, "abcdef");
-    modScroll::UpdatePageButtons(run.program, 1);
-    modInput::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 4, 0);
+    person::TurnTo(run.program, 1);
+    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 4, 0);
     EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 4");
     EXPECT_EQ(run.program.main.lblTextPos.Caption, "Printer Text Position = 400.");
-    modInput::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 0, 0);
+    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 0, 0);
     EXPECT_EQ(run.program.main.lblTextPos.Caption, "Printer Text Position = .");
 }
 
@@ -534,9 +533,9 @@ TEST(Focus, OfTheFinalPageHasNoCyan) {
 
 TEST(Focus, IsNeverTakenByTheClientsCopy) {
     RunningProgram run;
-    modScroll::UpdatePageButtons(run.program, 6);
+    person::TurnTo(run.program, 6);
     const auto before = run.program.main.Focus;
-    modInput::FieldMouseDown(run.program, {PageId::frmP6_1, FieldKind::txt, 1}, 1, 0, 0, 0);
+    person::FieldMouseDown(run.program, {PageId::frmP6_1, FieldKind::txt, 1}, 1, 0, 0, 0);
     EXPECT_EQ(run.program.main.Focus, before);
     EXPECT_EQ(run.program.main.CurrentPage, 0);
 }
@@ -648,7 +647,7 @@ TEST(Columns, ArrowsGoToTheSameBoxOfTheNextRowOrItsDescription) {
     for (const int row : {3, 4}) {
         modPages::PlaceColumns(run.program, kSecond, row, modPages::Columns::On);
     }
-    modScroll::UpdatePageButtons(run.program, 1);
+    person::TurnTo(run.program, 1);
     Typist typist(run.program);
     typist.Click({kSecond, FieldKind::txtQty, 3});
     typist.Press(keys::kDown);

@@ -39,7 +39,7 @@ struct Formats : RunningProgram {
         EXPECT_FALSE(program.format.FormatTextChanges[PageId::frmP1][3].FormatText);
         EXPECT_FALSE(program.format.FormatLabelChanges[PageId::frmP1][3].Changed);
         EXPECT_FALSE(program.settings.LoadDefaultFormat);
-        EXPECT_EQ(program.main.Caption, "Quillbrook");
+        EXPECT_EQ(Main().Caption, "Quillbrook");
     }
     void Type() {
         Typist typist(program);

@@ -82,7 +82,7 @@ TEST_P(NumberedPages, StandOnEveryPage) {
     EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Acme - Page 2");
     EXPECT_EQ(run.Label(PageId::frmP5, 0).Caption, "Acme - Page 5");
     EXPECT_EQ(run.Label(PageId::frmP2, 35).Caption, continued);
-    EXPECT_EQ(run.program.main.lblHighestPage.Caption,
+    EXPECT_EQ(run.Main().lblHighestPage.Caption,
               "Utilizing " + std::to_string(used) + " of 6 Available Pages");
 }
 

@@ -64,7 +64,7 @@ struct Living : RunningProgram {
         chooser.cmdOpenOK_Click(program);
         modWindows::Sweep(program);
     }
-    [[nodiscard]] bool RestoreEnabled() { return program.main[CommandId::mnuFileRestoreFromBackup].Enabled; }
+    [[nodiscard]] bool RestoreEnabled() { return Main()[CommandId::mnuFileRestoreFromBackup].Enabled; }
 };
 
 TEST(Dirty, AnEmptyProposalIsClean) {
@@ -244,7 +244,7 @@ TEST(Reset, EmptiesNamesTextsTotalsAndMarks) {
     run.program.document.PagesInUse = 2;
     run.program.format.PropTextChanges[PageId::frmP1][20].TaxExempt = true;
     run.program.format.PropertyLines = {"a"};
-    run.program.main.imgFootNotes.Picture = 1;
+    run.program.document.HasNotes = true;
     ASSERT_EQ(modReset::StartNewFile(run.program), modReset::ResetResult::Done);
     const DocumentState& document = run.program.document;
     EXPECT_EQ(document.FileName, "");
@@ -261,12 +261,12 @@ TEST(Reset, EmptiesNamesTextsTotalsAndMarks) {
     EXPECT_EQ(run.program.totals.TaxRate, 8.25F);
     EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP1][20].TaxExempt);
     EXPECT_TRUE(run.program.format.PropertyLines.empty());
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook");
-    EXPECT_EQ(run.program.main.imgFootNotes.Picture, 0);
-    EXPECT_EQ(run.program.main.lblTotal.Caption, "Running Sub-Total = $ 0.00");
-    EXPECT_EQ(run.program.main.lblHighestPage.Caption, "Available Pages = 6");
-    EXPECT_FALSE(run.program.main[CommandId::mnuFileDelete].Enabled);
-    EXPECT_FALSE(run.program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled);
+    EXPECT_EQ(run.Main().Caption, "Quillbrook");
+    EXPECT_EQ(run.Main().imgFootNotes.Picture, 0);
+    EXPECT_EQ(run.Main().lblTotal.Caption, "Running Sub-Total = $ 0.00");
+    EXPECT_EQ(run.Main().lblHighestPage.Caption, "Available Pages = 6");
+    EXPECT_FALSE(run.Main()[CommandId::mnuFileDelete].Enabled);
+    EXPECT_FALSE(run.Main()[CommandId::mnuOptCopyToBusinessAddressBook].Enabled);
     EXPECT_FALSE(run.program.guards.ResetActive);
     EXPECT_EQ(document.FilePath, run.Data());
 }
@@ -343,7 +343,7 @@ TEST(SaveAs, AsksForANameAndSavesUnderIt) {
     EXPECT_EQ(run.program.document.FileName, "Second.hef");
     EXPECT_EQ(run.program.document.BaseName, "Second");
     EXPECT_EQ(run.program.document.TextFileName, "Second.txt");
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Second.hef");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook - File Name = Second.hef");
     EXPECT_FALSE(run.program.document.SaveAsActive);
     // A proposal without properties gets an empty file of them.
     EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"), "");
@@ -560,9 +560,9 @@ TEST(Backup, RestoringPutsTheFileBackInPlaceOfTheOther) {
     EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), backup);
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Jane Roe.hef"), backup);
     EXPECT_EQ(run.program.document.FilePath, run.Data());
-    EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + run.Data());
+    EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + run.Data());
     EXPECT_EQ(run.program.document.ClientCaption, "Proposal for Jane Roe");
-    EXPECT_EQ(run.program.main.imgFootNotes.Picture, 1);
+    EXPECT_EQ(run.Main().imgFootNotes.Picture, 1);
     EXPECT_FALSE(run.program.document.FromBackup);
     EXPECT_FALSE(run.RestoreEnabled());
 }
@@ -589,8 +589,8 @@ TEST(Titles, TheClientsLineStandsOnEveryPageAndInTheStrip) {
     EXPECT_EQ(run.Label(PageId::frmP6_1, 64).Caption, "Proposal for Jane Roe - Client's Copy");
     // 21 characters of 100 twips each around the middle of the page.
     EXPECT_EQ(run.Label(PageId::frmP1, 33).Left, 6120.0F - 1050.0F);
-    EXPECT_EQ(run.program.main.lblEvent.Caption, "Proposal for Jane Roe");
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Jane Roe.hef");
+    EXPECT_EQ(run.Main().lblEvent.Caption, "Proposal for Jane Roe");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook - File Name = Jane Roe.hef");
 }
 
 TEST(Titles, AFormatStandsBeforeTheFileName) {
@@ -601,7 +601,7 @@ TEST(Titles, AFormatStandsBeforeTheFileName) {
     run.Touch();
     run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
     modProposal::mnuFileSaveEvent_Click(run.program);
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook: Format File = Mine.fmt - File Name = Jane Roe.hef");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook: Format File = Mine.fmt - File Name = Jane Roe.hef");
 }
 
 } // namespace

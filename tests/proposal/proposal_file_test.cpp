@@ -126,11 +126,11 @@ TEST(OpeningAProposal, ReadsBackWhatWasTyped) {
     EXPECT_EQ(run.Label(PageId::frmP5, 33).Tag, "");
     EXPECT_EQ(run.TextOf(PageId::frmP6, 3), "1,504.37");
     EXPECT_EQ(run.TextOf(PageId::frmP6_1, 5), "1,004.37");
-    EXPECT_EQ(run.program.main.lblTotal.Caption, "Running Sub-Total = $ 1,395.47");
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Jane Roe.hef");
+    EXPECT_EQ(run.Main().lblTotal.Caption, "Running Sub-Total = $ 1,395.47");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook - File Name = Jane Roe.hef");
     EXPECT_EQ(run.program.document.TextFileName, "Jane Roe.txt");
     EXPECT_EQ(run.program.document.ClientCaption, "Proposal for Jane Roe");
-    EXPECT_TRUE(run.program.main[CommandId::mnuFileDelete].Enabled);
+    EXPECT_TRUE(run.Main()[CommandId::mnuFileDelete].Enabled);
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
     run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
@@ -249,7 +249,7 @@ TEST(OpeningAProposal, TheSampleNeverShowsTheLogo) {
     ASSERT_EQ(Open(run, FileWith({}), "John Doe.hef"), modFile::OpenResult::Opened);
     EXPECT_FALSE(run.program.settings.LogoVisible);
     EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Tag, "Hide");
-    EXPECT_FALSE(run.program.main[CommandId::mnuEditLogoVisible].Checked);
+    EXPECT_FALSE(run.Main()[CommandId::mnuEditLogoVisible].Checked);
 }
 
 TEST(OpeningAProposal, OfAnyShortLengthIsReadAsFarAsItGoes) {
@@ -521,7 +521,7 @@ TEST(OpeningAProposal, WithHiddenTotalsWritesTheDepositAloneAndIsUnchanged) {
 
 TEST(OpeningAProposal, FiresNoHandlerOfAPageAndPutsItsFlagDown) {
     RunningProgram run;
-    run.program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
+    run.program.document.HasClient = false;
     const auto answer = run.program.hooks.Change;
     int loud = 0;
     run.program.hooks.Change = [&](Program& program, const FieldRef& field) {
@@ -532,8 +532,8 @@ TEST(OpeningAProposal, FiresNoHandlerOfAPageAndPutsItsFlagDown) {
     EXPECT_EQ(loud, 0);
     EXPECT_FALSE(run.program.guards.Loading);
     EXPECT_EQ(run.program.document.FileName, "A.hef") << "the client read from a file names no file";
-    EXPECT_TRUE(run.program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled);
-    EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + run.program.document.FilePath);
+    EXPECT_TRUE(run.Main()[CommandId::mnuOptCopyToPersonalAddressBook].Enabled);
+    EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + run.program.document.FilePath);
 }
 
 } // namespace

@@ -67,7 +67,7 @@ TEST(Saving, TellsOfTheTotalsBeforeItAsksForTheName) {
     run.surroundings.questions.Expect(
         "Please enter the client's name in the appropriate area and save again.");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::NotSaved);
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
 }
 
 TEST(Saving, TheTotalsAreWrittenUnderTheirPatterns) {
@@ -214,7 +214,7 @@ TEST(Saving, ADiscrepancyIsToldAndTheFileIsWrittenAllTheSame) {
     run.surroundings.questions.Expect("A descrepancy has occurred in calculating the totals.");
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
 }
 
 TEST(Saving, HiddenTotalsRaiseNoDiscrepancy) {

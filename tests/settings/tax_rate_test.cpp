@@ -77,7 +77,7 @@ TEST(TaxRate, IsWrittenInFiveCharactersAndTold) {
     modTax::SaveTaxRate(run.program, "9.50");
     EXPECT_EQ(run.File(), "9.50 ");
     EXPECT_EQ(run.program.totals.TaxRate, 9.5F);
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_FALSE(run.program.totals.TotalsStale);
 }
 
 TEST(TaxRate, WithAmountsTheRecalculationIsAskedForInRed) {
@@ -87,13 +87,13 @@ TEST(TaxRate, WithAmountsTheRecalculationIsAskedForInRed) {
     run.surroundings.questions.ExpectBox({"Please click Recalculate to update the totals.", Buttons::Ok, ""},
                                          Answer::Ok);
     modTax::SaveTaxRate(run.program, "8.25");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_TRUE(run.program.totals.TotalsStale);
     EXPECT_EQ(run.program.main.cmdTaxRate.BackColor, colors::kButtonFace);
     // A rate of zero asks for nothing.
-    run.program.main.cmdReCalc.BackColor = colors::kButtonFace;
+    run.program.totals.TotalsStale = false;
     run.surroundings.questions.Expect("New Sales Tax Rate is .00 %");
     modTax::SaveTaxRate(run.program, ".00");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_FALSE(run.program.totals.TotalsStale);
 }
 
 TEST(TaxRate, AFileThatCannotBeWrittenIsToldAndNoNewRateIsClaimed) {

@@ -1,7 +1,7 @@
 #include "shell/input.h"
 
-#include "editing/keys.h"
 #include "pages/fields.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
 #include "support/running_program.h"
