@@ -12,8 +12,7 @@ test:
 bench:
 	@scripts/install-packages
 	@cmake --preset dev >/dev/null && cmake --build --preset dev >/dev/null
-	@build/dev/bench_model
-	@QT_QPA_PLATFORM=offscreen build/dev/bench_desktop
+	@scripts/bench
 
 format:
 	@find src tests bench fuzz \( -name '*.h' -o -name '*.cpp' \) -print0 | xargs -0 clang-format -i

@@ -50,10 +50,6 @@ bool IsOfType(const std::string& nativeFolder, const std::string& name, fs::file
 
 namespace files {
 
-std::optional<std::string> OnDisk(std::string_view path) {
-    return file_places::Locate(path);
-}
-
 bool Exists(std::string_view path) {
     return fs::is_regular_file(StatusOf(path));
 }
@@ -249,6 +245,18 @@ std::vector<std::string> Subfolders(std::string_view folder) {
     std::erase_if(
         names, [&](const std::string& name) { return !IsOfType(*native, name, fs::file_type::directory); });
     return names;
+}
+
+std::string Native(std::string_view path) {
+    return file_places::MustLocate(path);
+}
+
+std::string NativePlace(std::string_view path) {
+    return file_places::PlaceFor(path);
+}
+
+void FailBySystem(int systemError, std::string_view path) {
+    Fail(systemError, path);
 }
 
 } // namespace files

@@ -4,7 +4,6 @@
 #include "base/safe_write.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,8 +15,6 @@ namespace files {
 
 inline constexpr std::uintmax_t kTextLimit = 64U << 20U;
 
-/// The path of something that is on the disk as the system spells it; nothing when it is not there.
-[[nodiscard]] std::optional<std::string> OnDisk(std::string_view path);
 /// A regular file of that name. Folders, devices and pipes are none.
 [[nodiscard]] bool Exists(std::string_view path);
 /// The same, of exactly that name: the file that a write or a delete would meet. Never throws.
@@ -59,6 +56,12 @@ void MakeFolder(std::string_view path);
 [[nodiscard]] std::vector<std::string> List(std::string_view folder, std::string_view patterns);
 [[nodiscard]] std::vector<std::string> Subfolders(std::string_view folder);
 [[nodiscard]] bool Matches(std::string_view name, std::string_view patterns);
+
+/// The path of an existing file as the system has it, and the path at which a new one would be made.
+[[nodiscard]] std::string Native(std::string_view path);
+[[nodiscard]] std::string NativePlace(std::string_view path);
+/// Throws the FileError that the log has for a number of the system.
+[[noreturn]] void FailBySystem(int systemError, std::string_view path);
 
 } // namespace files
 

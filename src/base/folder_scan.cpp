@@ -1,6 +1,7 @@
 #include "base/folder_scan.h"
 
 #include "base/ansi.h"
+#include "base/file_places.h"
 #include "base/files.h"
 #include "base/guard.h"
 #include "base/text.h"
@@ -85,7 +86,7 @@ bool ReadBeginning(int folder, const char* name, std::size_t most, std::string& 
 
 void ScanHeads(std::string_view folder, std::string_view ending, std::size_t most,
                const std::function<bool(FileHead&&)>& visit) {
-    const std::optional<std::string> native = OnDisk(folder);
+    const std::optional<std::string> native = file_places::Locate(folder);
     DIR* listing = native ? ::opendir(native->c_str()) : nullptr;
     if (listing == nullptr) {
         const bool denied = native && errno == EACCES;
@@ -99,8 +100,8 @@ void ScanHeads(std::string_view folder, std::string_view ending, std::size_t mos
             continue;
         }
         std::optional<std::string> name = ansi::FromUtf8(entry->d_name);
-        if (!name) {
-            continue;
+        if (!name || name->find('\\') != std::string::npos) {
+            continue; // or it would read as a path
         }
         FileHead head;
         head.Name = std::move(*name);

@@ -14,6 +14,29 @@ bool IsDigit(char character) {
     return character >= '0' && character <= '9';
 }
 
+/// The digits before a point: a comma stands between groups of three and nowhere else.
+class Groups {
+public:
+    /// False when the character cannot stand here.
+    [[nodiscard]] bool Take(char character) {
+        if (character != ',') {
+            ++digits_;
+            return !comma_ || digits_ <= kSize;
+        }
+        const bool fits = comma_ ? digits_ == kSize : digits_ > 0 && digits_ <= kSize;
+        comma_ = true;
+        digits_ = 0;
+        return fits;
+    }
+    /// Whether the number may end here or go on behind a point.
+    [[nodiscard]] bool Whole() const { return !comma_ || digits_ == kSize; }
+
+private:
+    static constexpr int kSize = 3;
+    int digits_ = 0;
+    bool comma_ = false;
+};
+
 /// Reads a numeric text from left to right; what is left at the end must be nothing.
 class Recogniser {
 public:
@@ -93,14 +116,20 @@ private:
     }
 
     bool Digits() {
-        bool any = false;
-        while (!rest_.empty() && (IsDigit(rest_.front()) || (rest_.front() == ',' && any))) {
+        Groups groups;
+        while (!rest_.empty() && (IsDigit(rest_.front()) || rest_.front() == ',')) {
+            if (!groups.Take(rest_.front())) {
+                return false;
+            }
             if (rest_.front() != ',') {
                 plain_ += rest_.front();
-                any = true;
             }
             rest_.remove_prefix(1);
         }
+        if (!groups.Whole()) {
+            return false;
+        }
+        bool any = !plain_.empty();
         if (Take('.')) {
             plain_ += plain_.empty() ? "0." : ".";
             while (!rest_.empty() && IsDigit(rest_.front())) {
@@ -178,20 +207,24 @@ std::optional<double> PlainDecimal(std::string_view text) {
     double scale = 1;
     int digits = 0;
     bool point = false;
+    Groups groups;
     for (const char character : text) {
+        if (!point && character != '.' && !groups.Take(character)) {
+            return std::nullopt;
+        }
         if (IsDigit(character)) {
             if (++digits > kExactDigits) {
                 return std::nullopt;
             }
             whole = whole * 10 + (character - '0');
             scale *= point ? 10 : 1;
-        } else if (character == '.' && !point) {
+        } else if (character == '.' && !point && groups.Whole()) {
             point = true;
         } else if (character != ',' || point || digits == 0) {
             return std::nullopt;
         }
     }
-    return digits > 0 ? std::optional(static_cast<double>(whole) / scale) : std::nullopt;
+    return digits > 0 && groups.Whole() ? std::optional(static_cast<double>(whole) / scale) : std::nullopt;
 }
 
 /// A number as digits and the place of its point: 0.d1d2d3... times ten to the exponent.
@@ -444,6 +477,11 @@ float ValSingle(std::string_view text) {
     return std::fabs(value) <= static_cast<double>(std::numeric_limits<float>::max())
                ? static_cast<float>(value)
                : 0;
+}
+
+std::string NoNumberMessage(std::string_view typed) {
+    return text::Lines({std::string(typed) + " is not a number and was not taken.",
+                        "Please type a point before decimals, as in 1.5."});
 }
 
 std::string Format(double value, std::string_view pattern) {

@@ -7,7 +7,8 @@
 /// Numbers as text under the rules of en-US, whatever the machine's locale.
 namespace numbers {
 
-/// Blanks around, one sign before or after, digits with commas before the point, a point, an exponent, the
+/// Blanks around, one sign before or after, digits with commas between groups of
+/// three before the point, a point, an exponent, the
 /// currency sign before or after, brackets for a negative. At least one digit. A value that a single cannot
 /// hold is no number.
 [[nodiscard]] bool IsNumeric(std::string_view text, std::string_view currency = "$");
@@ -19,6 +20,9 @@ namespace numbers {
 [[nodiscard]] double Val(std::string_view text);
 /// The same as a single; 0 for a number that a single cannot hold.
 [[nodiscard]] float ValSingle(std::string_view text);
+
+/// What a person is told of a text in a number box that is no number.
+[[nodiscard]] std::string NoNumberMessage(std::string_view typed);
 
 /// A number under a pattern of #, 0, comma, point and literal characters. Rounds half away from zero on the
 /// shortest decimal text that gives the number back. A value that shows as zero carries no minus sign.

@@ -1,6 +1,7 @@
 #include "calendar/move_proposals.h"
 
 #include "base/ansi.h"
+#include "base/file_places.h"
 #include "base/files.h"
 #include "base/folder_scan.h"
 #include "base/paths.h"
@@ -31,7 +32,7 @@ std::unordered_set<std::string> NamesIn(std::string_view folder) {
 
 /// A setting may spell the folder in other letters than the system does.
 std::string AsOnDisk(std::string_view folder) {
-    const std::optional<std::string> native = files::OnDisk(folder);
+    const std::optional<std::string> native = file_places::Locate(folder);
     const std::optional<std::string> known = native ? ansi::FromUtf8(*native) : std::nullopt;
     return paths::WithSeparator(known.value_or(std::string(folder)));
 }

@@ -308,9 +308,10 @@ void frmEditor::Run(Program& program, std::string_view name) {
 }
 
 bool frmEditor::MayLeave(Program& program, Leaving) {
-    return !EditorDirty || program.platform.questions.MsgBox(
-                               "The Contract Language has not been exported to the proposal. Exit anyway?",
-                               Buttons::YesNo, "Contract Language has been Changed") == Answer::Yes;
+    return !EditorDirty ||
+           program.platform.questions.MsgBox(
+               "The Contract Language has not been exported to the proposal. Exit anyway?", Buttons::YesNo,
+               "Contract Language has been Changed", {.Default = Answer::No}) == Answer::Yes;
 }
 
 void frmEditor::Form_Cancel(Program& program) {

@@ -197,6 +197,10 @@ int frmDeposits::txtAmount_KeyPress(int keyAscii) {
     return passes ? keyAscii : 0;
 }
 
+int frmDeposits::txtAmount_Keep(int keyAscii) {
+    return keyAscii == ',' ? keyAscii : txtAmount_KeyPress(keyAscii);
+}
+
 void frmDeposits::txtAmount_Enter(Program& program) {
     if (!txtAmount.Text.empty()) {
         cmdSave_Click(program);
@@ -372,7 +376,8 @@ void frmDeposits::PutTotalIntoProposal(Program& program) {
         const std::string question =
             "The deposit in the proposal is " + numbers::FormatSingle(standing, kRowPattern) +
             ". Replace it with the list's total, " + modDeposits::Shown(total_) + "?";
-        if (program.platform.questions.MsgBox(question, Buttons::YesNo, "") != Answer::Yes) {
+        if (program.platform.questions.MsgBox(question, Buttons::YesNo, "", {.Default = Answer::No}) !=
+            Answer::Yes) {
             return;
         }
     }

@@ -17,13 +17,24 @@ std::optional<char> ToByte(QChar character) {
     return ansi::FromCodePoint(character.unicode());
 }
 
+namespace {
+
+/// Every sign by which a text from elsewhere may end a line.
+bool EndsLine(QChar character) {
+    constexpr char16_t kNextLine = 0x85;
+    return character == u'\n' || character == u'\r' || character == u'\v' || character == u'\f' ||
+           character == kNextLine || character == QChar::LineSeparator ||
+           character == QChar::ParagraphSeparator;
+}
+
+} // namespace
+
 Incoming FromPerson(const QString& text) {
     Incoming incoming;
     incoming.Text.reserve(static_cast<std::size_t>(text.size()));
     bool afterReturn = false;
     for (const QChar character : text) {
-        const bool newline = character == u'\n' || character == u'\r' || character == QChar::LineSeparator ||
-                             character == QChar::ParagraphSeparator;
+        const bool newline = EndsLine(character);
         if (newline || character == u'\t') {
             if (!(afterReturn && character == u'\n')) {
                 incoming.Text += ' ';
@@ -33,7 +44,7 @@ Incoming FromPerson(const QString& text) {
         }
         afterReturn = false;
         const std::optional<char> byte = character.isLowSurrogate() ? std::nullopt : ToByte(character);
-        if (byte && *byte != '\0') {
+        if (byte && character.category() != QChar::Other_Control) {
             incoming.Text += *byte;
         } else if (!character.isLowSurrogate()) {
             ++incoming.Refused;
@@ -43,7 +54,14 @@ Incoming FromPerson(const QString& text) {
 }
 
 std::string ToModel(const QString& text) {
-    return FromPerson(text).Text;
+    std::string bytes;
+    bytes.reserve(static_cast<std::size_t>(text.size()));
+    for (const QChar character : text) {
+        if (const std::optional<char> byte = ToByte(character)) {
+            bytes += *byte;
+        }
+    }
+    return bytes;
 }
 
 QColor ToQColor(Color color) {

@@ -7,6 +7,7 @@
 #include "desktop/paper_surface.h"
 #include "desktop/tool_strip.h"
 #include "desktop/window_views.h"
+#include "editing/text_menu.h"
 #include "pages/fields.h"
 #include "program/program.h"
 #include "program/windows.h"
@@ -89,9 +90,7 @@ FrmMainView::FrmMainView(Program& program, const QtTextMeasure& measure)
             AfterEvent();
         },
         [this] {
-            if (program_.hooks.UpdateTextMenu) {
-                program_.hooks.UpdateTextMenu(program_);
-            }
+            modBlocks::UpdateTextMenu(program_);
             AfterEvent();
         });
     BuildStrips();
@@ -257,6 +256,15 @@ PageView& FrmMainView::PageOf(PageId page) {
             }
         };
     }
+    const auto popUp = [this](CommandId id) {
+        return [this, id](QPoint at) {
+            if (QMenu* menu = menus_->Menu(id)) {
+                menu->popup(at);
+            }
+        };
+    };
+    view->Context().AskForLabelMenu = popUp(CommandId::mnuEditLabel);
+    view->Context().AskForLogoMenu = popUp(CommandId::mnuEditLogo);
     return *view;
 }
 
@@ -278,7 +286,7 @@ void FrmMainView::ShowFirst() {
 }
 
 void FrmMainView::AfterEvent() {
-    modWindows::Sweep(program_);
+    windows_->TakeClosed(modWindows::Sweep(program_));
     Follow();
 }
 
@@ -288,6 +296,14 @@ void FrmMainView::Follow() {
         return;
     }
     const ScopedFlag following(following_);
+    if (busy_ != program_.main.Busy) {
+        busy_ = program_.main.Busy;
+        if (busy_) {
+            QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+        } else {
+            QGuiApplication::restoreOverrideCursor();
+        }
+    }
     const QString title = convert::ToQString(program_.main.Caption);
     if (windowTitle() != title) {
         setWindowTitle(title);
@@ -302,6 +318,20 @@ void FrmMainView::Follow() {
         }
     }
     windows_->Follow();
+    if (program_.main.BringUp) {
+        program_.main.BringUp = false;
+        TakeKeyboard();
+    }
+}
+
+void FrmMainView::TakeKeyboard() {
+    raise();
+    activateWindow();
+    if (program_.main.Focus && program_.main.Focus->Page == program_.main.PageInFront) {
+        PageOf(program_.main.PageInFront).FollowFocus();
+    } else {
+        desk_->setFocus();
+    }
 }
 
 void FrmMainView::FollowLabels() {
@@ -391,7 +421,7 @@ void FrmMainView::FollowPages() {
         view.show();
         view.raise();
     }
-    if (!windows_->ModalOpen()) {
+    if (!windows_->ModalOpen() && !windows_->KeyboardWithin()) {
         view.FollowFocus();
         const QWidget* keyboard = focusWidget();
         if ((!program_.main.Focus || program_.main.Focus->Page != front) &&

@@ -71,6 +71,8 @@ private:
     void ResizeSoon();
     void ResizeModel();
     void FollowPages();
+    /// A window beside the page hands the keyboard back.
+    void TakeKeyboard();
     /// Where the paper stands on the desk.
     [[nodiscard]] int PaperLeft(PageId front, int paperWidth) const;
     void KeepPlace();
@@ -95,5 +97,6 @@ private:
     std::unique_ptr<WindowViews> windows_;
     bool following_ = false;
     bool shown_ = false;
+    bool busy_ = false; ///< the pointer shows it
     bool resizePending_ = false;
 };

@@ -7,7 +7,7 @@
 
 struct PageContext;
 
-/// The logo in its natural size. Clicks go to the paper under it.
+/// The logo, which can be dragged.
 class LogoView : public QWidget {
     Q_OBJECT
 public:
@@ -16,9 +16,14 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
 
 private:
+    [[nodiscard]] QPointF OnPaper(const QMouseEvent& event) const;
+    void Done();
     PageContext& page_;
     PagePicture shown_;
-    QImage picture_;
 };

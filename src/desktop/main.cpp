@@ -8,6 +8,10 @@
 #include "shell/start_up.h"
 #include "shell/wiring.h"
 
+#ifdef QUILLBROOK_HAS_TEST_HOOK
+#include "desktop/test_hook.h"
+#endif
+
 #include <QApplication>
 
 #include <exception>
@@ -21,6 +25,9 @@ int Run() {
     if (!Guarded(program, "Main", [&] { desktop::SetFolders(program); })) {
         return 1; // no folder for the program's data: there is nowhere to work
     }
+#ifdef QUILLBROOK_HAS_TEST_HOOK
+    const TestHook hook;
+#endif
     FrmMainView window(program, surroundings.measure);
     surroundings.questions.Over = &window;
     surroundings.questions.BeforeAsking = [&] { window.Follow(); };

@@ -22,6 +22,9 @@ struct PageContext {
     std::function<void()> AfterEvent;
     /// A right click on a text area asks for the menu of its commands.
     std::function<void(QPoint)> AskForMenu;
+    /// The same for a label and for the logo.
+    std::function<void(QPoint)> AskForLabelMenu;
+    std::function<void(QPoint)> AskForLogoMenu;
     /// What is marked anywhere on the desktop, for the middle button; the desktop's own where not set.
     std::function<QString()> MarkedText;
 

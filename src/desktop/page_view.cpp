@@ -2,6 +2,8 @@
 
 #include "desktop/band_view.h"
 #include "desktop/convert.h"
+#include "desktop/frame_view.h"
+#include "desktop/key_codes.h"
 #include "desktop/label_view.h"
 #include "desktop/logo_view.h"
 #include "desktop/mark_view.h"
@@ -33,6 +35,7 @@ PageView::PageView(Program& program, PageId page, const QtTextMeasure& measure, 
     : QWidget(parent), context_{program, measure,
                                 page,    static_cast<double>(parent->logicalDpiX()) / paper::kTwipsPerInch,
                                 {},      {},
+                                {},      {},
                                 {}},
       program_(program), id_(page) {
     setObjectName(QString::fromLatin1(geometry::PageName(page).data(),
@@ -46,6 +49,7 @@ PageView::PageView(Program& program, PageId page, const QtTextMeasure& measure, 
     setPalette(paper);
     setAttribute(Qt::WA_OpaquePaintEvent);
     band_ = new BandView(*this);
+    frame_ = new FrameView(*this);
     parent->installEventFilter(this);
     const Page& record = program.pages[page];
     setFixedSize(qRound(static_cast<double>(record.Width) * context_.Scale),
@@ -162,6 +166,53 @@ void PageView::Follow() {
     FollowMarks();
     FollowLogo();
     band_->Follow(record.shpSelect, context_.Scale);
+    FollowFrame();
+}
+
+void PageView::FollowFrame() {
+    const DesignerRecords& designer = program_.designer;
+    if (!designer.LabelMode || !designer.Framed || program_.main.PageInFront != id_ || ink_) {
+        frame_->Follow({});
+        return;
+    }
+    const Page& record = program_.pages[id_];
+    if (*designer.Framed == kLogoInFrame) {
+        frame_->Follow(context_.OnScreen(
+            static_cast<double>(record.pic.Left), static_cast<double>(record.pic.Top),
+            static_cast<double>(record.pic.Size.Width), static_cast<double>(record.pic.Size.Height)));
+        return;
+    }
+    const PageLabel& label = record.lbl[static_cast<std::size_t>(*designer.Framed)];
+    const TextFont font{label.FontName, label.FontSize, label.FontBold, label.FontItalic};
+    frame_->Follow(context_.OnScreen(static_cast<double>(label.Left), static_cast<double>(label.Top),
+                                     static_cast<double>(context_.measure.Width(label.Caption, font)),
+                                     static_cast<double>(context_.measure.Height(font))));
+}
+
+void PageView::keyPressEvent(QKeyEvent* event) {
+    if (!program_.designer.LabelMode) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+    const bool page = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
+    if (page) {
+        event->ignore(); // the window scrolls
+        return;
+    }
+    const modLabelKeys::Menu menu =
+        modInput::LabelKeyDown(program_, keycodes::CodeOf(*event), keycodes::ShiftOf(*event));
+    Done();
+    const QPoint at = mapToGlobal(frame_->geometry().bottomLeft());
+    if (menu == modLabelKeys::Menu::Label && context_.AskForLabelMenu) {
+        context_.AskForLabelMenu(at);
+    } else if (menu == modLabelKeys::Menu::Logo && context_.AskForLogoMenu) {
+        context_.AskForLogoMenu(at);
+    }
+}
+
+bool PageView::focusNextPrevChild(bool next) {
+    return !program_.designer.LabelMode && QWidget::focusNextPrevChild(next);
 }
 
 float PageView::Twips(double pixels) const {
@@ -175,6 +226,12 @@ void PageView::Done() {
 }
 
 void PageView::FollowFocus() {
+    if (program_.designer.LabelMode && program_.main.PageInFront == id_) {
+        if (!hasFocus()) {
+            setFocus(Qt::OtherFocusReason);
+        }
+        return;
+    }
     if (!program_.main.Focus || program_.main.Focus->Page != id_) {
         return;
     }
@@ -191,20 +248,24 @@ void PageView::FollowFocus() {
 }
 
 void PageView::DrawGrid(QPainter& painter) const {
-    constexpr QColor kGrid(0x7A, 0x9C, 0xC6);
-    constexpr double kPoint = 22;
-    const double scale = context_.Scale;
+    constexpr QColor kGrid(0xC8, 0xC8, 0xC8);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(QPen(kGrid, kPoint, Qt::SolidLine, Qt::SquareCap));
+    // One pixel of the device each, whatever its scale: a point between two of them would be a smear.
+    const QTransform toDevice = painter.transform();
+    const double ratio = devicePixelRatioF();
+    painter.resetTransform();
+    painter.scale(1 / ratio, 1 / ratio);
+    painter.setPen(QPen(kGrid, 0));
     QPolygonF points;
     points.reserve(static_cast<qsizetype>(grid_.size()));
     for (const PagePoint& point : grid_) {
-        // Whole pixels: a point between two of them would be a smear.
-        points.push_back(QPointF(std::round(static_cast<double>(point.X) * scale) / scale,
-                                 std::round(static_cast<double>(point.Y) * scale) / scale));
+        const QPointF at =
+            toDevice.map(QPointF(static_cast<double>(point.X), static_cast<double>(point.Y))) * ratio;
+        points.push_back(QPointF(std::floor(at.x()), std::floor(at.y())));
     }
     painter.drawPoints(points);
+    painter.setTransform(toDevice);
     painter.setPen(QPen(kGrid, paper::kRuleWidth));
     for (const PageLine& line : centre_) {
         painter.drawLine(QPointF(static_cast<double>(line.X1), static_cast<double>(line.Y1)),

@@ -12,6 +12,7 @@
 #include <vector>
 
 class BandView;
+class FrameView;
 class LabelView;
 class LogoView;
 class MarkView;
@@ -39,6 +40,9 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    /// In the label mode the page itself has the keyboard.
+    void keyPressEvent(QKeyEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     /// A band may begin on the desk beside the paper.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -48,6 +52,7 @@ private:
     void FollowMarks();
     void FollowPaper();
     void FollowLogo();
+    void FollowFrame();
     [[nodiscard]] float Twips(double pixels) const;
     void Done();
     void DrawFixed(QPainter& painter) const;
@@ -64,6 +69,7 @@ private:
     std::vector<LabelView*> lblEach_;
     std::vector<MarkView*> marks_;
     BandView* band_ = nullptr;
+    FrameView* frame_ = nullptr;
     /// What is painted on the paper itself, as last shown.
     std::vector<PageLine> lines_;
     std::vector<PageLine> centre_;

@@ -1,12 +1,15 @@
 #include "desktop/paper_surface.h"
 
 #include "base/ansi.h"
+#include "base/paths.h"
+#include "base/text.h"
 #include "desktop/convert.h"
 #include "desktop/paper_text.h"
 
 #include <QDateTime>
 #include <QFileInfo>
 #include <QImage>
+#include <QImageReader>
 #include <QPainterPath>
 #include <QPixmapCache>
 
@@ -23,6 +26,58 @@ bool CanBeDrawn(QPointF point) {
 } // namespace
 
 namespace paper {
+
+namespace {
+
+bool MadeOfLines(const std::string& path) {
+    return text::EqualNoCase(paths::ExtensionOf(path), "svg");
+}
+
+/// The picture, of a size where it has none of its own.
+QImage ReadLogo(const std::string& path, const QSize& scaled) {
+    constexpr qint64 kMostPoints = 100'000'000;
+    constexpr int kMostSide = 20'000;
+    const QString file = QString::fromStdString(ansi::ToUtf8(path));
+    const QString size = scaled.isValid() ? QStringLiteral(" %1x%2 ").arg(scaled.width()).arg(scaled.height())
+                                          : QStringLiteral(" ");
+    const QString latest = QStringLiteral("logo") + size + file;
+    const QFileInfo info(file);
+    QPixmap kept;
+    if (!info.exists()) {
+        return QPixmapCache::find(latest, &kept) ? kept.toImage() : QImage();
+    }
+    const QString now = latest + info.lastModified().toString(Qt::ISODateWithMs);
+    if (QPixmapCache::find(now, &kept)) {
+        return kept.toImage();
+    }
+    constexpr int kMostMegabytes = 400; // a hundred million points of four bytes
+    QImageReader::setAllocationLimit(kMostMegabytes);
+    QImageReader reader(file);
+    reader.setDecideFormatFromContent(true);
+    // By its header, before a byte of it is unpacked.
+    const QSize natural = reader.size();
+    if (natural.isEmpty() || qint64{natural.width()} * natural.height() > kMostPoints ||
+        natural.width() > kMostPoints / qMax(1, natural.height())) {
+        return {};
+    }
+    if (scaled.isValid() && scaled.width() <= kMostSide && scaled.height() <= kMostSide) {
+        reader.setScaledSize(scaled);
+    }
+    const QImage picture = reader.read();
+    if (picture.isNull()) {
+        return {};
+    }
+    kept = QPixmap::fromImage(picture);
+    // A logo that does not fit would be unpacked again for every line of the page that is painted.
+    constexpr qsizetype kKilobyte = 1024;
+    const auto needed = static_cast<int>(2 * picture.sizeInBytes() / kKilobyte);
+    QPixmapCache::setCacheLimit(qMax(QPixmapCache::cacheLimit(), needed));
+    QPixmapCache::insert(now, kept);
+    QPixmapCache::insert(latest, kept);
+    return picture;
+}
+
+} // namespace
 
 void DrawNoTaxMark(QPainter& painter, QPointF corner, double side) {
     painter.save();
@@ -47,24 +102,16 @@ void DrawNoTaxMark(QPainter& painter, QPointF corner, double side) {
 }
 
 QImage LogoPicture(const std::string& path) {
-    const QString file = QString::fromStdString(ansi::ToUtf8(path));
-    const QString latest = QStringLiteral("logo ") + file;
-    const QFileInfo info(file);
-    QPixmap kept;
-    if (!info.exists()) {
-        return QPixmapCache::find(latest, &kept) ? kept.toImage() : QImage();
-    }
-    const QString now = latest + info.lastModified().toString(Qt::ISODateWithMs);
-    if (QPixmapCache::find(now, &kept)) {
-        return kept.toImage();
-    }
-    QImage picture(file);
+    return ReadLogo(path, {});
+}
+
+void DrawLogo(QPainter& painter, const std::string& path, const QRectF& place) {
+    const QSize device = painter.deviceTransform().mapRect(place).size().toSize();
+    const QImage picture = ReadLogo(path, MadeOfLines(path) ? device : QSize());
     if (!picture.isNull()) {
-        kept = QPixmap::fromImage(picture);
-        QPixmapCache::insert(now, kept);
-        QPixmapCache::insert(latest, kept);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(place, picture);
     }
-    return picture;
 }
 
 } // namespace paper
@@ -93,15 +140,11 @@ void PaperRecord::Replay(QPainter& painter) const {
                                  image.Size ? static_cast<double>(image.Size->Width) : 225);
             continue;
         }
-        const QImage picture = paper::LogoPicture(image.Picture.Path);
-        if (picture.isNull()) {
-            continue;
-        }
-        const QSizeF size = image.Size ? QSizeF(static_cast<double>(image.Size->Width),
-                                                static_cast<double>(image.Size->Height))
-                                       : QSizeF(picture.size()) * kTwipsPerPixel;
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(QRectF(image.Corner, size), picture);
+        const QSizeF size =
+            image.Size
+                ? QSizeF(static_cast<double>(image.Size->Width), static_cast<double>(image.Size->Height))
+                : QSizeF(paper::LogoPicture(image.Picture.Path).size()) * kTwipsPerPixel;
+        paper::DrawLogo(painter, image.Picture.Path, QRectF(image.Corner, size));
     }
 }
 

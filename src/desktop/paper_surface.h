@@ -65,8 +65,11 @@ inline constexpr double kRuleWidth = 15;
 /// The mark of a tax-exempt amount, in the square of a side in the painter's units.
 void DrawNoTaxMark(QPainter& painter, QPointF corner, double side);
 
-/// A picture file, kept once it was read: screen and paper show the same one, also when the file has gone
-/// since.
+/// A picture file as it is, kept once it was read, also when the file has gone since. Nothing for one that is
+/// no picture, is cut short, or has more than a hundred million points.
 [[nodiscard]] QImage LogoPicture(const std::string& path);
+
+/// Draws it into that place; one that is made of lines as sharp as the device can.
+void DrawLogo(QPainter& painter, const std::string& path, const QRectF& place);
 
 } // namespace paper

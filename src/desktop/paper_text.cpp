@@ -14,7 +14,27 @@ constexpr float kSmallest = 1;
 /// From the base line to the top of an underline, and its height, as parts of the type's size.
 constexpr double kUnderlineDrop = 0.1, kUnderlineWeight = 0.055;
 
+/// A control byte, as a file may bring it, has no shape that screen and paper would agree on: it stands as a
+/// blank.
+QChar Shape(QChar character) {
+    return character.category() == QChar::Other_Control ? QChar(u' ') : character;
+}
+
+QString Shapes(std::string_view text) {
+    QString words = convert::ToQString(text);
+    for (QChar& character : words) {
+        character = Shape(character);
+    }
+    return words;
+}
+
 } // namespace
+
+double AdvanceOf(const QFontMetricsF& metrics, char byte) {
+    const auto character = QChar(static_cast<char16_t>(ansi::ToCodePoint(byte)));
+    // As a text of one: a soft hyphen, as pasted texts have them, has a width of its own but is not drawn.
+    return metrics.horizontalAdvance(QString(Shape(character)));
+}
 
 QFont Face(const TextFont& font) {
     QFont face(convert::ToQString(font.Name));
@@ -38,7 +58,7 @@ void Draw(QPainter& painter, QPointF corner, std::string_view text, const TextFo
     }
     const QFont face = Face(font);
     const QFontMetricsF metrics(face);
-    const QString words = convert::ToQString(text);
+    const QString words = Shapes(text);
     const double base = corner.y() + metrics.ascent();
     painter.setFont(face);
     painter.drawText(QPointF(corner.x(), base), words);
@@ -62,11 +82,8 @@ const QtTextMeasure::Table& QtTextMeasure::TableFor(const TextFont& font) const 
         Table table;
         const QFontMetricsF metrics(paper::Face(font));
         for (int byte = 0; byte < 256; ++byte) {
-            const char32_t value = ansi::ToCodePoint(static_cast<char>(byte));
-            // As a text of one: a soft hyphen, as pasted texts have them, has a width of its own but is not
-            // drawn.
             table.Advance[static_cast<std::size_t>(byte)] =
-                static_cast<float>(metrics.horizontalAdvance(QString(QChar(static_cast<char16_t>(value)))));
+                static_cast<float>(paper::AdvanceOf(metrics, static_cast<char>(byte)));
         }
         table.Height = static_cast<float>(metrics.height());
         found = tables_.emplace(font, table).first;

@@ -3,6 +3,7 @@
 #include "platform/text_measure.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPainter>
 
 #include <array>
@@ -20,6 +21,9 @@ namespace paper {
 /// Draws with the upper left corner of the line at a point. The painter's unit is a twip.
 void Draw(QPainter& painter, QPointF corner, std::string_view text, const TextFont& font,
           bool underline = false);
+
+/// The width of one character of a line.
+[[nodiscard]] double AdvanceOf(const QFontMetricsF& metrics, char byte);
 
 /// From the top of a line to its base line.
 [[nodiscard]] double Ascent(const TextFont& font);

@@ -21,6 +21,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSaveFile>
 #include <QScreen>
 #include <QStandardPaths>
@@ -28,6 +29,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <array>
 
 #include <unistd.h>
 
@@ -119,6 +121,13 @@ Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view
     }
     if (buttons == Buttons::YesNo) {
         box.setEscapeButton(QMessageBox::No); // closing the box must not be a Yes
+    }
+    constexpr std::array kInOrder{QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
+    for (std::size_t index = 0; index < manner.Words.size() && index < kInOrder.size(); ++index) {
+        if (QAbstractButton* button = box.button(kInOrder[index])) {
+            button->setText(convert::ToQString(manner.Words[index]));
+            button->setIcon(QIcon());
+        }
     }
     if (manner.Default) {
         box.setDefaultButton(ButtonOf(*manner.Default));
@@ -277,9 +286,10 @@ SingleInstance::Result QtSingleInstance::Claim(std::string_view installFolder) {
 }
 
 std::optional<PictureSize> QtPictures::Load(std::string_view path) {
-    const QImageReader reader(Native(path));
-    const QSize size = reader.size();
-    if (!reader.canRead() || size.isEmpty()) {
+    // Unpacked now and kept: one that is cut short or has a false name is refused here, not found out when it
+    // is drawn.
+    const QSize size = paper::LogoPicture(std::string(path)).size();
+    if (size.isEmpty()) {
         return std::nullopt;
     }
     constexpr float kTwipsPerPixel = 15; // pictures count as drawn at 96 dots to the inch

@@ -72,6 +72,8 @@ FrmTaxView::FrmTaxView(Program& program, frmTax& window, QWidget* over, std::fun
     QPushButton* cancel = dialog::Button(this, "cmdCancel", window.cmdCancel);
     Foot(column, {ok, cancel});
     setMinimumWidth(360);
+    rate->setText(convert::ToQString(window.txtTaxRate.Text));
+    rate->setSelection(window.txtTaxRate.SelStart, window.txtTaxRate.SelLength);
     connect(rate, &QLineEdit::textChanged, this,
             [rate, &window] { window.txtTaxRate.Text = convert::ToModel(rate->text()); });
     connect(ok, &QPushButton::clicked, this, [this, &window] { Do([&] { window.cmdOK_Click(program_); }); });

@@ -7,10 +7,12 @@
 #include "desktop/key_kinds.h"
 #include "desktop/page_context.h"
 #include "desktop/paper_text.h"
+#include "desktop/term_drag.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"
 #include "shell/input.h"
+#include "terms/placing.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -73,7 +75,7 @@ void TextAreaView::PlaceCursor(const TextArea& record) {
 void TextAreaView::Follow(const TextArea& record) {
     // The record's cursor is compared with the widget's: it may have moved without the record's knowing.
     const QString wanted = convert::ToQString(record.Text);
-    if (text() != wanted) {
+    if (text() != wanted && !TakeCompletion(record, wanted)) {
         setText(wanted);
     }
     if (hasFocus()) {
@@ -104,6 +106,20 @@ void TextAreaView::Follow(const TextArea& record) {
     }
     KeepCaretInView();
     update();
+}
+
+bool TextAreaView::TakeCompletion(const TextArea& record, const QString& wanted) {
+    const auto typed = text().size();
+    if (!hasFocus() || record.SelLength == 0 || record.SelStart != typed || !wanted.startsWith(text()) ||
+        !preedit_.isEmpty()) {
+        return false;
+    }
+    const ScopedFlag following(following_);
+    // A cursor that has moved ends what one undo takes back: the typed letters stay.
+    setCursorPosition(0);
+    setCursorPosition(static_cast<int>(typed));
+    insert(wanted.mid(typed));
+    return text() == wanted;
 }
 
 Keyboard TextAreaView::KeyboardNow() const {
@@ -437,7 +453,43 @@ void TextAreaView::mouseDoubleClickEvent(QMouseEvent* event) {
     Done();
 }
 
+bool TextAreaView::TakesTerm() const {
+    return modTerms::TakesDrop(page_.program, field_, page_.program.terms.DraggedTerm);
+}
+
+void TextAreaView::dragEnterEvent(QDragEnterEvent* event) {
+    if (!termdrag::Is(event->mimeData())) {
+        QLineEdit::dragEnterEvent(event);
+    } else if (TakesTerm()) {
+        event->acceptProposedAction();
+    } else {
+        event->ignore(); // the pointer shows that it is refused
+    }
+}
+
+void TextAreaView::dragMoveEvent(QDragMoveEvent* event) {
+    if (!termdrag::Is(event->mimeData())) {
+        QLineEdit::dragMoveEvent(event);
+    } else if (TakesTerm()) {
+        event->acceptProposedAction();
+    } else {
+        event->ignore();
+    }
+}
+
 void TextAreaView::dropEvent(QDropEvent* event) {
+    if (termdrag::Is(event->mimeData())) {
+        Program& program = page_.program;
+        program.main.Notice.clear();
+        if (modTerms::txt_DragDrop(program, field_, program.terms.DraggedTerm)) {
+            program.main.BringUp = true;
+            event->acceptProposedAction();
+        } else {
+            event->ignore();
+        }
+        Done();
+        return;
+    }
     const int position = PositionAt(event->position().x());
     modInput::FieldMouseDown(page_.program, field_, 1, 0, position, 0);
     Done(); // the widget has the keyboard and the cursor now
@@ -455,6 +507,9 @@ void TextAreaView::focusInEvent(QFocusEvent* event) {
         setCursorPosition(start);
         modInput::FieldEntered(page_.program, field_);
         Done();
+    } else if (page_.program.main.Focus == field_ && event->reason() != Qt::MouseFocusReason) {
+        // Another window may have moved the cursor, a search for instance.
+        PlaceCursor(modFields::Area(page_.program, field_));
     }
     KeepCaretInView();
     update();

@@ -33,6 +33,8 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -56,6 +58,10 @@ private:
     void TakeIn(const QString& text);
     /// The record's text becomes the widget's in the same way.
     void TakeRecord();
+    /// A completion comes behind what was typed, as one edit that can be undone.
+    [[nodiscard]] bool TakeCompletion(const TextArea& record, const QString& wanted);
+    /// Whether a term or result under the pointer may be let go here.
+    [[nodiscard]] bool TakesTerm() const;
     void KeyTyped(QKeyEvent* event, int code);
     void TextTyped(QKeyEvent* event);
     void OfferMarkedText() const;

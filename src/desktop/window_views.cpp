@@ -14,6 +14,13 @@ WindowView::WindowView(Program& program, Window& window, QWidget* over, std::fun
     setModal(window.Mode() == Modality::Modal);
 }
 
+WindowView::~WindowView() {
+    // What its parts still have to say while they go is heard by nobody.
+    for (QObject* part : findChildren<QObject*>()) {
+        part->disconnect(this);
+    }
+}
+
 void WindowView::Follow() {
     const QString caption = convert::ToQString(window_.Caption);
     if (windowTitle() != caption) {
@@ -22,6 +29,11 @@ void WindowView::Follow() {
     if (isVisible() && isMinimized() != window_.Minimised) {
         window_.Minimised ? showMinimized() : showNormal();
     }
+    if (frontCalls_ != window_.FrontCalls) {
+        frontCalls_ = window_.FrontCalls;
+        raise();
+        activateWindow();
+    }
 }
 
 void WindowView::moveEvent(QMoveEvent* event) {
@@ -29,6 +41,18 @@ void WindowView::moveEvent(QMoveEvent* event) {
     const float twips = static_cast<float>(paper::kTwipsPerInch) / static_cast<float>(logicalDpiX());
     window_.Left = static_cast<float>(x()) * twips;
     window_.Top = static_cast<float>(y()) * twips;
+}
+
+void WindowView::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    const float twips = static_cast<float>(paper::kTwipsPerInch) / static_cast<float>(logicalDpiX());
+    window_.Width = static_cast<float>(width()) * twips;
+    window_.Height = static_cast<float>(height()) * twips;
+}
+
+void WindowView::TakeKeyboard() {
+    raise();
+    activateWindow();
 }
 
 void WindowView::changeEvent(QEvent* event) {
@@ -52,6 +76,26 @@ bool WindowViews::ModalOpen() const {
                        [](const auto& entry) { return entry.second->isModal(); });
 }
 
+void WindowViews::TakeClosed(std::vector<std::unique_ptr<Window>> closed) {
+    for (std::unique_ptr<Window>& model : closed) {
+        const auto shown = views_.find(model.get());
+        const auto leaving = leaving_.find(model.get());
+        WindowView* view = shown != views_.end()       ? shown->second.get()
+                           : leaving != leaving_.end() ? leaving->second.data()
+                                                       : nullptr;
+        if (view != nullptr) {
+            view->KeepModel(std::move(model));
+        }
+    }
+    std::erase_if(leaving_, [](const auto& entry) { return entry.second.isNull(); });
+}
+
+bool WindowViews::KeyboardWithin() const {
+    return over_.isActiveWindow() && std::any_of(views_.begin(), views_.end(), [](const auto& entry) {
+               return entry.second->HasKeyboard();
+           });
+}
+
 void WindowViews::Follow() {
     const auto& open = program_.windows.Open;
     for (auto at = views_.begin(); at != views_.end();) {
@@ -64,14 +108,15 @@ void WindowViews::Follow() {
         }
         // Its own button may still be on the stack.
         WindowView* view = at->second.release();
-        const bool active = view->isActiveWindow();
-        view->hide();
+        leaving_[at->first] = view;
+        at = views_.erase(at);
+        const bool active = view->HasKeyboard();
+        view->Leave();
         view->deleteLater();
         if (active) {
             over_.activateWindow(); // the keyboard goes back to the page, also where no window manager sees
                                     // to it
         }
-        at = views_.erase(at);
     }
     for (const std::unique_ptr<Window>& window : open) {
         if (window->Closing) {
@@ -84,7 +129,11 @@ void WindowViews::Follow() {
         }
         view->Follow();
         if (fresh) {
-            view->show();
+            view->Open();
+        }
+        if (window->BringUp) {
+            window->BringUp = false;
+            view->TakeKeyboard();
         }
     }
 }

@@ -1,12 +1,16 @@
 #pragma once
 
+#include "program/window.h"
+
 #include <QDialog>
+#include <QPointer>
 
 #include <functional>
 #include <map>
 #include <memory>
+#include <utility>
+#include <vector>
 
-class Window;
 struct Program;
 
 /// A small window on screen. Made when its model opens, gone when that closes.
@@ -14,8 +18,16 @@ class WindowView : public QDialog {
     Q_OBJECT
 public:
     WindowView(Program& program, Window& window, QWidget* over, std::function<void()> afterEvent);
+    ~WindowView() override;
     /// Sets what differs from the records.
     virtual void Follow();
+    /// The model has been closed; it stays as long as something may still arrive for its view.
+    void KeepModel(std::unique_ptr<Window> model) { model_ = std::move(model); }
+    /// Shows it for the first time, and takes it from the screen for good.
+    virtual void Open() { show(); }
+    virtual void Leave() { hide(); }
+    virtual void TakeKeyboard();
+    [[nodiscard]] virtual bool HasKeyboard() const { return isActiveWindow(); }
 
 protected:
     /// Runs an event: the call, then what ends every event.
@@ -26,12 +38,15 @@ protected:
     }
     void reject() override;
     void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     Program& program_;
     Window& window_;
 
 private:
     std::function<void()> afterEvent_;
+    int frontCalls_ = 0;
+    std::unique_ptr<Window> model_;
 };
 
 /// Keeps one view for each open window.
@@ -40,13 +55,19 @@ public:
     WindowViews(Program& program, QWidget& over, std::function<void()> afterEvent);
     ~WindowViews();
     void Follow();
+    /// Models that have left the program go to their views, and with them.
+    void TakeClosed(std::vector<std::unique_ptr<Window>> closed);
     [[nodiscard]] bool ModalOpen() const;
+    /// Whether a window that stands within the main one has the keyboard.
+    [[nodiscard]] bool KeyboardWithin() const;
 
 private:
     Program& program_;
     QWidget& over_;
     std::function<void()> afterEvent_;
     std::map<Window*, std::unique_ptr<WindowView>> views_;
+    /// Hidden, and gone as soon as no event of theirs is on its way.
+    std::map<Window*, QPointer<WindowView>> leaving_;
 };
 
 /// The view for a window, chosen by its name.

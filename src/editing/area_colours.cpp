@@ -1,7 +1,8 @@
 #include "editing/area_colours.h"
 
-#include "base/numbers.h"
 #include "editing/area_facts.h"
+#include "editing/columns.h"
+#include "money/totals.h"
 #include "pages/page_geometry.h"
 #include "pages/text_width.h"
 #include "program/program.h"
@@ -18,7 +19,8 @@ void ColourArea(Program& program, PageId page, TextArea& area) {
 
 bool OverLimit(const Program& program, PageId page, const TextArea& area) {
     return modPages::MeasureTextWidth(program, page, area.Text) >= area.Width ||
-           static_cast<double>(area.Text.size()) > numbers::Val(geometry::LimitText(area.Tag));
+           static_cast<int>(area.Text.size()) > geometry::LimitOf(area.Tag) ||
+           modTotals::IsNoNumber(program, area);
 }
 
 void ResetMyTextBoxColors(Program& program, PageId page) {
@@ -33,10 +35,10 @@ void ResetMyTextBoxColors(Program& program, PageId page) {
     for (TextArea& area : record.txt) {
         colour(area, OverLimit(program, page, area), colors::kResting);
     }
-    for (auto* boxes : {&record.txtQty, &record.txtAmt}) {
-        for (TextArea& box : *boxes) {
+    for (const FieldKind kind : {FieldKind::txtQty, FieldKind::txtAmt}) {
+        for (TextArea& box : kind == FieldKind::txtQty ? record.txtQty : record.txtAmt) {
             const bool over = box.Visible && modPages::MeasureTextWidth(program, page, box.Text) >= box.Width;
-            colour(box, over, colors::kRestingRowField);
+            colour(box, over || modColumns::IsNoNumber(program, kind, box), colors::kRestingRowField);
         }
     }
 }

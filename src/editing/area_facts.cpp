@@ -23,10 +23,6 @@ bool IsAmountLimit(std::string_view limit) {
     return limit == kAmountLimit;
 }
 
-bool EmptyOrNumeric(const Program& program, std::string_view value) {
-    return text::Trim(value).empty() || numbers::IsNumeric(value, program.settings.CurrencySymbol);
-}
-
 bool Completing(const Program& program, PageId page) {
     return IsLinePage(page) && program.editing.ACActive[page];
 }

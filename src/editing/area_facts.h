@@ -18,7 +18,6 @@ inline constexpr int kClientName = 2;
 
 /// Amounts are told by the limit, whatever the kind.
 [[nodiscard]] bool IsAmountLimit(std::string_view limit);
-[[nodiscard]] bool EmptyOrNumeric(const Program& program, std::string_view value);
 /// A suggested completion stands unanswered on the page.
 [[nodiscard]] bool Completing(const Program& program, PageId page);
 

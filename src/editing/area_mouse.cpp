@@ -4,7 +4,9 @@
 #include "editing/area_conversion.h"
 #include "editing/area_facts.h"
 #include "editing/columns.h"
+#include "editing/standing_completion.h"
 #include "editing/status_line.h"
+#include "editing/text_menu.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"
@@ -15,6 +17,12 @@ void txt_MouseDown(Program& program, PageId page, int index, int button, int shi
     static_cast<void>(shift);
     EditingState& editing = program.editing;
     TextArea& area = Area(program, page, index);
+    if (Completing(program, page)) {
+        const int start = area.SelStart;
+        const int length = area.SelLength;
+        SettleCompletion(program, page);
+        modFields::SetCursor(area, start, length);
+    }
     editing.CursorPos = area.SelStart;
     modStatus::ShowCursor(program);
     if (IsFinalPage(page)) {
@@ -35,9 +43,7 @@ void txt_MouseDown(Program& program, PageId page, int index, int button, int shi
     // The menu takes the keyboard: the area is left as by any other way, and entered again when the menu
     // goes.
     modFields::DropFocus(program);
-    if (program.hooks.UpdateTextMenu) {
-        program.hooks.UpdateTextMenu(program);
-    }
+    modBlocks::UpdateTextMenu(program);
     program.platform.events.LetEventsRun();
     editing.CurrentArea = index;
 }

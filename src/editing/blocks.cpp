@@ -4,6 +4,7 @@
 #include "editing/area_contents.h"
 #include "editing/push.h"
 #include "editing/selection.h"
+#include "editing/standing_completion.h"
 #include "editing/text_menu.h"
 #include "money/totals.h"
 #include "pages/page_geometry.h"
@@ -175,7 +176,7 @@ void UndoDeleteBlock(Program& program) {
     }
     FinishMove(program);
     BlockState& block = program.editing.Block;
-    SettleCompletion(program, block.UndoPage);
+    modText::SettleCompletion(program, block.UndoPage);
     {
         const ScopedFlag refiring(program.editing.RefireMode);
         modText::ForgetKey(program);

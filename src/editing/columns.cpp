@@ -2,9 +2,10 @@
 
 #include "base/guard.h"
 #include "base/numbers.h"
+#include "base/text.h"
 #include "editing/area_contents.h"
 #include "editing/navigation.h"
-#include "money/totals.h"
+#include "money/amounts.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "pages/page_marks.h"
@@ -18,6 +19,7 @@ namespace {
 
 constexpr std::string_view kQuantityPlaceholder = "Qty.";
 constexpr std::string_view kPricePlaceholder = "Amt.";
+constexpr std::string_view kNoNumberTip = "This is not a number. The amount stays as it is.";
 
 FieldRef Quantity(PageId page, int row) {
     return {page, FieldKind::txtQty, row};
@@ -67,10 +69,30 @@ void TakeProduct(Program& program, PageId page, int row) {
                        numbers::Format(product, "###,###.00"));
 }
 
-void BoxChange(Program& program, PageId page, int row) {
+bool HoldsPlaceholder(FieldKind kind, std::string_view value) {
+    return value == (kind == FieldKind::txtQty ? kQuantityPlaceholder : kPricePlaceholder);
+}
+
+void TellNoNumber(Program& program, const FieldRef& field) {
+    TextArea& box = modFields::Area(program, field);
+    if (IsNoNumber(program, field.Kind, box)) {
+        box.BackColor = colors::kOverLimit;
+        box.ToolTipText = kNoNumberTip;
+    } else if (box.ToolTipText == kNoNumberTip) {
+        box.BackColor = program.main.Focus == field ? colors::kFocused : colors::kRestingRowField;
+        box.ToolTipText.clear();
+    }
+}
+
+void BoxChange(Program& program, const FieldRef& field) {
     if (Silent(program)) {
         return;
     }
+    if (!program.editing.BlockMode) {
+        TellNoNumber(program, field);
+    }
+    const PageId page = field.Page;
+    const int row = field.Index;
     TakeProduct(program, page, row);
     StoreRow(program, page, row);
 }
@@ -83,7 +105,7 @@ void MoveToRow(Program& program, const FieldRef& field, int row) {
     const FieldRef target = modPages::ColumnsOn(program, field.Page, row)
                                 ? FieldRef{field.Page, field.Kind, row}
                                 : Description(field.Page, row);
-    modFields::GiveFocus(program, target);
+    modNavigate::Arrive(program, target);
     modNavigate::ScrollTest(program, field.Page, top,
                             down ? modNavigate::Direction::Down : modNavigate::Direction::Up);
 }
@@ -95,18 +117,13 @@ void FollowSelection(Program& program, PageId page, int row) {
     }
 }
 
-void SetExempt(Program& program, modPages::Mark mark) {
+void SetTax(Program& program, modTotals::Tax tax) {
     const PageId page = program.main.ActivePage;
     const int area = program.editing.CurrentArea;
     if (!geometry::IsAmount(page, area)) {
         return;
     }
-    const auto index = static_cast<std::size_t>(area);
-    const bool exempt = mark == modPages::Mark::Shown;
-    program.format.PropTextChanges[page][index].TaxExempt = exempt;
-    program.format.PropTextChanges[page][index].Dirty = true;
-    program.format.FormatTextChanges[page][index].TaxExempt = exempt;
-    modPages::SetNoTaxMark(program, page, area, mark);
+    modTotals::SetTax(program, page, area, tax);
     modFields::GiveFocus(program, Description(page, area));
 }
 
@@ -145,27 +162,36 @@ void ToggleColumns(Program& program) {
     }
 }
 
+bool IsNoNumber(const Program& program, FieldKind kind, const TextArea& box) {
+    const std::string_view value = text::Trim(box.Text);
+    return box.Visible && !value.empty() && !HoldsPlaceholder(kind, value) &&
+           !numbers::IsNumeric(value, program.settings.CurrencySymbol);
+}
+
 void txtQty_Change(Program& program, PageId page, int row) {
-    BoxChange(program, page, row);
+    BoxChange(program, Quantity(page, row));
 }
 
 void txtAmt_Change(Program& program, PageId page, int row) {
-    BoxChange(program, page, row);
+    BoxChange(program, Price(page, row));
 }
 
 Taken Box_KeyDown(Program& program, const FieldRef& field, int keyCode, int shift) {
-    static_cast<void>(shift);
     if (program.editing.BlockMode || program.guards.HandlersSilent()) {
         return Taken::No;
     }
     const int last = static_cast<int>(program.pages[field.Page].txtQty.size()) - 1;
+    if (keyCode == keys::kTab && shift == keys::kShiftState) {
+        modNavigate::MoveBack(program, field);
+        return Taken::Yes;
+    }
     if (keyCode == keys::kEnter || keyCode == keys::kTab) {
         if (field.Kind == FieldKind::txtQty) {
             modFields::SetCursor(modFields::Area(program, Description(field.Page, field.Index)), 0);
             modFields::GiveFocus(program, Description(field.Page, field.Index));
         } else {
-            modFields::GiveFocus(program,
-                                 Description(field.Page, geometry::AmountOf(field.Page, field.Index)));
+            modNavigate::Arrive(program,
+                                Description(field.Page, geometry::AmountOf(field.Page, field.Index)));
         }
         return Taken::Yes;
     }
@@ -190,9 +216,7 @@ Taken Box_KeyDown(Program& program, const FieldRef& field, int keyCode, int shif
 }
 
 void ClearPlaceholder(Program& program, const FieldRef& field) {
-    const std::string_view placeholder =
-        field.Kind == FieldKind::txtQty ? kQuantityPlaceholder : kPricePlaceholder;
-    if (modFields::Area(program, field).Text == placeholder) {
+    if (HoldsPlaceholder(field.Kind, modFields::Area(program, field).Text)) {
         modFields::SetText(program, field, "");
     }
 }
@@ -208,7 +232,8 @@ void Box_KeyPress(Program& program, const FieldRef& field, int& keyAscii) {
     if (keyAscii > keys::kEnter) {
         ClearPlaceholder(program, field);
     }
-    const bool figure = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.';
+    // A comma passes: dropped, it would make 15 of 1,5. What is no number with it stands red.
+    const bool figure = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.' || keyAscii == ',';
     if (!figure && keyAscii != keys::kBackspace) {
         keyAscii = 0; // Enter and Tab pass the filter and are cancelled after it
     }
@@ -219,6 +244,7 @@ void Box_GotFocus(Program& program, const FieldRef& field) {
         return;
     }
     modFields::Area(program, field).BackColor = colors::kFocused;
+    TellNoNumber(program, field);
     program.main.ActivePage = field.Page;
     program.main.CurrentPage = IndexOf(field.Page);
 }
@@ -227,10 +253,17 @@ void Box_LostFocus(Program& program, const FieldRef& field) {
     if (program.editing.BlockMode) {
         return;
     }
-    TextArea& box = modFields::Area(program, field);
-    box.BackColor = colors::kRestingRowField;
+    modFields::Area(program, field).BackColor = colors::kRestingRowField;
+    TellNoNumber(program, field);
+    SettleBox(program, field);
+}
+
+void SettleBox(Program& program, const FieldRef& field) {
+    const ScopedFlag refiring(program.editing.RefireMode,
+                              program.editing.RefireMode || program.editing.BlockMode);
     if (field.Kind == FieldKind::txtAmt) {
-        if (const auto price = numbers::ToDouble(box.Text, program.settings.CurrencySymbol)) {
+        if (const auto price =
+                numbers::ToDouble(modFields::Area(program, field).Text, program.settings.CurrencySymbol)) {
             modFields::SetText(program, field, numbers::Format(*price, "###,##0.00"));
         }
     }
@@ -238,21 +271,19 @@ void Box_LostFocus(Program& program, const FieldRef& field) {
 }
 
 void mnuEditTextTaxExempt_Click(Program& program) {
-    SetExempt(program, modPages::Mark::Shown);
+    SetTax(program, modTotals::Tax::Exempt);
 }
 
 void mnuEditTextTaxable_Click(Program& program) {
-    SetExempt(program, modPages::Mark::Hidden);
+    SetTax(program, modTotals::Tax::Taxable);
 }
 
 void CollectQtyBoxes(Program& program) {
     Guarded(program, "SaveTextBoxFeatures", [&] {
         for (const PageId page : kLinePages) {
             const Page& record = program.pages[page];
-            if (!record.RowFieldsMade) {
-                continue;
-            }
-            for (int row = geometry::FirstRow(page); row <= geometry::LastRow(page); ++row) {
+            for (int row = geometry::FirstRow(page); record.RowFieldsMade && row <= geometry::LastRow(page);
+                 ++row) {
                 const auto index = static_cast<std::size_t>(row);
                 const bool on = record.txt[index].Width == geometry::kColumnsWidth;
                 for (TextChangeTable* table :
@@ -263,7 +294,10 @@ void CollectQtyBoxes(Program& program) {
                     props.QtyValue = record.txtQty[index].Text;
                     props.AmtValue = record.txtAmt[index].Text;
                 }
-                program.document.CurrentTextBuf[page][index] = modFields::ComposeLine(program, page, row);
+            }
+            for (std::size_t index = 0; index < record.txt.size(); ++index) {
+                program.document.CurrentTextBuf[page][index] =
+                    modFields::ComposeLine(program, page, static_cast<int>(index));
             }
         }
     });

@@ -21,6 +21,13 @@ void Box_KeyPress(Program& program, const FieldRef& field, int& keyAscii);
 void Box_GotFocus(Program& program, const FieldRef& field);
 void Box_LostFocus(Program& program, const FieldRef& field);
 
+/// Whether a box holds a text that is no number and not its "Qty." or "Amt.". It leaves the amount as it was,
+/// stands red and says so in its tool tip.
+[[nodiscard]] bool IsNoNumber(const Program& program, FieldKind kind, const TextArea& box);
+
+/// What leaving a box does to its figures: the price under its pattern, and the row's amount.
+void SettleBox(Program& program, const FieldRef& field);
+
 void mnuEditTextTaxExempt_Click(Program& program);
 void mnuEditTextTaxable_Click(Program& program);
 

@@ -1,37 +1,18 @@
 #include "editing/leaving.h"
 
-#include "base/numbers.h"
 #include "editing/area_colours.h"
 #include "editing/area_facts.h"
 #include "editing/date_check.h"
 #include "editing/status_line.h"
+#include "editing/text_menu.h"
 #include "editing/typing.h"
+#include "money/amounts.h"
 #include "money/totals.h"
-#include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "pages/row_fields.h"
 #include "program/program.h"
 
-#include <string>
-
 namespace modText {
-
-namespace {
-
-void LeaveAmount(Program& program, PageId page, int index) {
-    const std::string value = Area(program, page, index).Text;
-    if (!EmptyOrNumeric(program, value)) {
-        return;
-    }
-    static_cast<void>(modTotals::StoreAmount(program, page, index));
-    if (const auto number = numbers::ToDouble(value, program.settings.CurrencySymbol)) {
-        modFields::SetText(program, Field(page, index), numbers::Format(*number, "###,##0.00"));
-    }
-    modTotals::CalculateMyTotals(program, page);
-    modTotals::UpdateRunningTotals(program);
-}
-
-} // namespace
 
 void txt_GotFocus(Program& program, PageId page, int index) {
     EditingState& editing = program.editing;
@@ -44,12 +25,15 @@ void txt_GotFocus(Program& program, PageId page, int index) {
     program.main.CurrentPage = IndexOf(page);
     editing.CurrentArea = index;
     if (!IsFinalPage(page)) {
+        // No word is under way in an area that has just been entered.
+        editing.Words[page].InWord = false;
+        editing.ACActive[page] = false;
         editing.CurrentLimit = geometry::LimitText(area.Tag);
         editing.CurrentWidth = area.Width;
         modAreaColours::ColourArea(program, page, area);
     }
-    if (editing.BlockMode && program.hooks.UpdateTextMenu) {
-        program.hooks.UpdateTextMenu(program);
+    if (editing.BlockMode) {
+        modBlocks::UpdateTextMenu(program);
     }
     modStatus::ShowAreaNumber(program, page, index);
 }
@@ -71,11 +55,15 @@ void txt_LostFocus(Program& program, PageId page, int index) {
     // A completion that was neither taken nor overtyped stands on the screen; what stands there is stored.
     if (Completing(program, page)) {
         program.editing.ACActive[page] = false;
+        editing.CursorPos = static_cast<int>(area.Text.size()); // it is taken whole and flows nowhere
         txt_Change(program, page, index);
         Area(program, page, index).BackColor = colors::kResting;
     }
     if (IsAmountLimit(geometry::LimitText(area.Tag))) {
-        LeaveAmount(program, page, index);
+        modTotals::LeaveAmount(program, page, index);
+        if (modTotals::IsNoNumber(program, area)) {
+            area.BackColor = colors::kOverLimit; // what counts as nothing is seen wherever the person is
+        }
     }
     if (page == PageId::frmP1) {
         CheckDate(program, index);

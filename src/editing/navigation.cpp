@@ -58,12 +58,46 @@ std::optional<FieldRef> TargetOf(const Program& program, PageId page, int index,
     return std::nullopt;
 }
 
-void ToFollowingPage(Program& program, PageId page) {
-    const PageId next = PageAt(IndexOf(page) + 1);
+void ToPage(Program& program, PageId page, int index) {
     if (program.hooks.UpdatePageButtons) {
-        program.hooks.UpdatePageButtons(program, IndexOf(next));
+        program.hooks.UpdatePageButtons(program, IndexOf(page));
     }
-    modFields::GiveFocus(program, {next, FieldKind::txt, 0});
+    Arrive(program, {page, FieldKind::txt, index});
+}
+
+bool HoldsFigure(const FieldRef& field) {
+    constexpr int kDeposit = 4;
+    return field.Kind != FieldKind::txt || geometry::IsAmount(field.Page, field.Index) ||
+           (field.Page == PageId::frmP6 && field.Index == kDeposit);
+}
+
+/// The amount of the row above a description's, or what stands before the first one on its page.
+std::optional<FieldRef> BeforeRow(PageId page, int row) {
+    if (row > geometry::FirstRow(page)) {
+        return FieldRef{page, FieldKind::txt, geometry::AmountOf(page, row - 1)};
+    }
+    return row > 0 ? std::optional(FieldRef{page, FieldKind::txt, row - 1}) : std::nullopt;
+}
+
+std::optional<FieldRef> FieldBefore(const Program& program, const FieldRef& field) {
+    const PageId page = field.Page;
+    const int index = field.Index;
+    if (field.Kind == FieldKind::txtAmt) {
+        return FieldRef{page, FieldKind::txt, index};
+    }
+    if (field.Kind == FieldKind::txtQty) {
+        return BeforeRow(page, index);
+    }
+    if (geometry::IsAmount(page, index)) {
+        const int row = geometry::DescriptionOf(page, index);
+        const bool columns = modPages::ColumnsOn(program, page, row);
+        return FieldRef{page, columns ? FieldKind::txtAmt : FieldKind::txt, row};
+    }
+    if (geometry::IsDescription(page, index)) {
+        return modPages::ColumnsOn(program, page, index) ? FieldRef{page, FieldKind::txtQty, index}
+                                                         : BeforeRow(page, index);
+    }
+    return index > 0 ? std::optional(FieldRef{page, FieldKind::txt, index - 1}) : std::nullopt;
 }
 
 } // namespace
@@ -86,7 +120,7 @@ void Move(Program& program, PageId page, int index, Step step) {
         return;
     }
     if (step != Step::Up && index == geometry::LastText(page)) {
-        ToFollowingPage(program, page);
+        ToPage(program, PageAt(IndexOf(page) + 1), 0);
         return;
     }
     const float top = program.pages[page].txt[static_cast<std::size_t>(index)].Top;
@@ -97,8 +131,36 @@ void Move(Program& program, PageId page, int index, Step step) {
         }
         return;
     }
-    modFields::GiveFocus(program, *target);
+    Arrive(program, *target);
     ScrollTest(program, page, top, step == Step::Up ? Direction::Up : Direction::Down);
+}
+
+void MoveBack(Program& program, const FieldRef& field) {
+    const bool first = field.Index == 0 && field.Kind != FieldKind::txtAmt;
+    if (field.Page == PageId::frmP6 && !first) {
+        return; // Tab does not lead from area to area there
+    }
+    const std::optional<FieldRef> target =
+        IsLinePage(field.Page) ? FieldBefore(program, field) : std::nullopt;
+    if (target) {
+        const float top = modFields::Area(program, field).Top;
+        Arrive(program, *target);
+        ScrollTest(program, field.Page, top, Direction::Up);
+    } else if (first && IndexOf(field.Page) > 0) {
+        const PageId before = PageAt(IndexOf(field.Page) - 1);
+        ToPage(program, before, geometry::LastText(before));
+    }
+}
+
+void Arrive(Program& program, const FieldRef& field) {
+    if (program.main.Focus == field) {
+        return;
+    }
+    modFields::GiveFocus(program, field);
+    if (program.main.Focus == field && HoldsFigure(field)) {
+        TextArea& area = modFields::Area(program, field);
+        modFields::SetCursor(area, 0, static_cast<int>(area.Text.size()));
+    }
 }
 
 } // namespace modNavigate

@@ -1,6 +1,8 @@
 #include "editing/selection.h"
 
 #include "editing/area_contents.h"
+#include "editing/settle_field.h"
+#include "editing/standing_completion.h"
 #include "editing/text_menu.h"
 #include "editing/typing.h"
 #include "pages/page_geometry.h"
@@ -93,6 +95,13 @@ std::vector<AreaContents> ContentsOfRun(const Program& program, PageId page, std
     return contents;
 }
 
+void TakeRuns(Program& program) {
+    if (ReadSelectionRuns(program) == Selection::Runs) {
+        CopyBlockToMemory(program);
+    }
+    UpdateTextMenu(program);
+}
+
 void RefuseAmountsAlone(Program& program) {
     program.platform.questions.MsgBox("Cannot select Amount Areas only. Please copy Description Areas also.",
                                       Buttons::Ok, "");
@@ -100,21 +109,6 @@ void RefuseAmountsAlone(Program& program) {
 }
 
 } // namespace
-
-void SettleCompletion(Program& program, PageId page) {
-    if (!IsLinePage(page)) {
-        return;
-    }
-    bool& completing = program.editing.ACActive[page];
-    if (!completing) {
-        return;
-    }
-    completing = false;
-    const auto& focus = program.main.Focus;
-    if (focus && focus->Page == page && focus->Kind == FieldKind::txt) {
-        modText::txt_Change(program, page, focus->Index);
-    }
-}
 
 RowRange RowsOf(PageId page) {
     return IsLinePage(page) ? RowRange{geometry::FirstRow(page), geometry::LastRow(page)} : kFinalPageRows;
@@ -141,7 +135,8 @@ void Form_MouseMove(Program& program, PageId page, int button, float x, float y)
             return;
         }
         FinishMove(program);
-        SettleCompletion(program, page);
+        modText::SettleCompletion(program, page);
+        modFigures::SettleFocused(program); // leaving it later is silent while areas are selected
         block.BandDragging = true;
     }
     program.pages[page].shpSelect = {std::min(x, block.BandStartX), std::min(y, block.BandStartY), width,
@@ -172,14 +167,49 @@ void SelectBandedAreas(Program& program, PageId page) {
         }
     }
     band.Visible = false;
+    program.editing.Block.KeyAnchor = -1;
     if (program.editing.Block.SelectedCount == 0) {
         DeSelectAllControls(program);
         return;
     }
-    if (ReadSelectionRuns(program) == Selection::Runs) {
-        CopyBlockToMemory(program);
+    TakeRuns(program);
+}
+
+Taken ExtendByKey(Program& program, const FieldRef& field, Toward toward) {
+    if (!IsLinePage(field.Page)) {
+        return Taken::No;
     }
-    UpdateTextMenu(program);
+    const bool amount = field.Kind == FieldKind::txt && geometry::IsAmount(field.Page, field.Index);
+    const int row = amount ? geometry::DescriptionOf(field.Page, field.Index) : field.Index;
+    if (!geometry::IsDescription(field.Page, row)) {
+        return Taken::No;
+    }
+    BlockState& block = program.editing.Block;
+    int last = row;
+    if (!program.editing.BlockMode) {
+        FinishMove(program);
+        modText::SettleCompletion(program, field.Page);
+        modFigures::SettleFocused(program);
+        block.KeyAnchor = row;
+    } else {
+        if (ReadSelectionRuns(program) != Selection::Runs) {
+            return Taken::Yes;
+        }
+        // A block that was moved, and one that a band made, grows from its top.
+        if (block.KeyAnchor != block.RunStart[0] && block.KeyAnchor != block.RunEnd[0]) {
+            block.KeyAnchor = block.RunStart[0];
+        }
+        last = block.KeyAnchor == block.RunStart[0] ? block.RunEnd[0] : block.RunStart[0];
+    }
+    const RowRange rows = RowsOf(field.Page);
+    last = std::clamp(last + (toward == Toward::Up ? -1 : 1), rows.First, rows.Last);
+    ClearSelectionColors(program);
+    for (int each = std::min(block.KeyAnchor, last); each <= std::max(block.KeyAnchor, last); ++each) {
+        Take(program, field.Page, each);
+        Take(program, field.Page, geometry::AmountOf(field.Page, each));
+    }
+    TakeRuns(program);
+    return Taken::Yes;
 }
 
 Selection ReadSelectionRuns(Program& program) {
@@ -257,7 +287,7 @@ void DeSelectAllControls(Program& program) {
 
 void FinishMove(Program& program) {
     EditingState& editing = program.editing;
-    editing.MoveInProgress = false;
+    editing.Block.Moving.reset();
     const std::optional<PageId> page = std::exchange(editing.Block.MovedPage, std::nullopt);
     if (!page) {
         return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "program/keys.h"
 #include "program/page_records.h"
 
 struct Program;
@@ -17,6 +18,12 @@ void Form_MouseUp(Program& program, PageId page, int button, float x, float y);
 /// Selects what the page's `shpSelect` wholly contains, edges included, and fills the memory with it. An
 /// earlier selection ends; a band that takes nothing ends the mode. Does nothing while `shpSelect` is hidden.
 void SelectBandedAreas(Program& program, PageId page);
+
+/// Shift with an arrow in a line: selects the line and its neighbour, description and amount, as a band over
+/// them does, and then extends or takes back by a line. A page's first or last row is the end. Taken unless
+/// the field is no line's.
+enum class Toward { Up, Down };
+[[nodiscard]] Taken ExtendByKey(Program& program, const FieldRef& field, Toward toward);
 
 /// First and last description row by page; the final page's range is a figure of the design that no area
 /// answers to.
@@ -44,10 +51,6 @@ void ShowModeSign(Program& program, ModeSign sign);
 /// Ends the selection on all pages and empties the memory; what can be undone stays. Reports as
 /// "DeSelectAllControls".
 void DeSelectAllControls(Program& program);
-
-/// A completion that stands unanswered in the focused area of a page is taken for what the area holds: block
-/// work must not run into silent handlers.
-void SettleCompletion(Program& program, PageId page);
 
 /// Ends a move whose key was not let go: its page's handlers run. A failure is told and goes no further.
 void FinishMove(Program& program);

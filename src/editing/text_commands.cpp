@@ -31,6 +31,7 @@ void SetWeight(Program& program, Weight weight) {
     program.format.PropTextChanges[field.Page][index].FontBold = bold;
     program.format.PropTextChanges[field.Page][index].Dirty = true;
     program.format.FormatTextChanges[field.Page][index].FontBold = bold;
+    program.format.Touched = true;
     modFields::GiveFocus(program, field);
 }
 

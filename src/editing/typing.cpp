@@ -9,7 +9,9 @@
 #include "editing/columns.h"
 #include "editing/navigation.h"
 #include "editing/push.h"
+#include "editing/standing_completion.h"
 #include "editing/status_line.h"
+#include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
@@ -58,6 +60,11 @@ void TakeEditingState(Program& program, PageId page, int index) {
         // The format's own text is taken when a format is saved, not as it is typed.
         props.Text = area.Text;
     }
+    if (area.Text.empty()) {
+        // A text that a person has taken out leaves the format with the next save of it.
+        program.format.FormatTextChanges[page][row].Text.clear();
+        program.format.InFile[page][row].Text.clear();
+    }
     editing.CurrentWidth = area.Width;
 }
 
@@ -69,7 +76,9 @@ void TakeClientName(Program& program) {
     document.BaseName = name;
     document.FootnoteFile = name + ".hxt";
     document.DepositFile = name + ".dep";
-    document.ClientCaption = "Proposal for " + name;
+    if (!document.TitleGiven) {
+        document.ClientCaption = "Proposal for " + name;
+    }
     if (!name.empty()) {
         document.TextFileName = name + ".txt";
     }
@@ -77,10 +86,10 @@ void TakeClientName(Program& program) {
 }
 
 void TakeAmount(Program& program, PageId page, int index) {
-    if (!EmptyOrNumeric(program, Area(program, page, index).Text)) {
-        return;
-    }
     static_cast<void>(modTotals::StoreAmount(program, page, index));
+    if (!program.editing.RefireMode) {
+        modTotals::NoteEmptied(program, page, index);
+    }
     program.totals.TotalsStale = true;
     if (program.editing.RefireMode) {
         modTotals::CalculateMyTotals(program, page);
@@ -112,7 +121,8 @@ void LinePageChange(Program& program, PageId page, int index) {
     // The area's own text and width, but the limit is whatever the innermost change left.
     TextArea& area = Area(program, page, index);
     if (modPages::MeasureTextWidth(program, page, area.Text) >= area.Width ||
-        static_cast<double>(area.Text.size()) > numbers::Val(editing.CurrentLimit)) {
+        static_cast<double>(area.Text.size()) > numbers::Val(editing.CurrentLimit) ||
+        modTotals::IsNoNumber(program, area)) {
         area.BackColor = colors::kOverLimit;
     }
 }
@@ -163,9 +173,13 @@ Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int
         modColumns::ToggleColumns(program);
         return Taken::Yes;
     }
-    bool& completing = program.editing.ACActive[page];
-    if (completing && Area(program, page, index).SelLength == 0) {
-        completing = false;
+    if (Area(program, page, index).SelLength == 0) {
+        SettleCompletion(program, page);
+    }
+    const bool completing = Completing(program, page);
+    if (!completing && keyCode == keys::kTab && shift == keys::kShiftState) {
+        modNavigate::MoveBack(program, Field(page, index));
+        return Taken::Yes;
     }
     if (!completing && (keyCode == keys::kEnter || keyCode == keys::kTab)) {
         modNavigate::Move(program, page, index, modNavigate::Step::Enter);
@@ -185,7 +199,9 @@ Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int
         }
         return Taken::Yes;
     }
-    return Taken::No;
+    const bool accepted = completing && program.hooks.CompletionKey &&
+                          program.hooks.CompletionKey(program, Field(page, index), keyCode, shift);
+    return accepted ? Taken::Yes : Taken::No;
 }
 
 constexpr std::string_view kKeydownNames[] = {"Page 1 Keydown", "Page 2 Keydown", "Page 3 Keydown",
@@ -213,6 +229,10 @@ Taken txt_KeyDown(Program& program, PageId page, int index, int keyCode, int shi
     if (IsFinalPage(page)) {
         if (IsPaste(keyCode, shift)) {
             PasteNumber(program, page, index);
+            return Taken::Yes;
+        }
+        if (keyCode == keys::kTab && shift == keys::kShiftState) {
+            modNavigate::MoveBack(program, Field(page, index));
             return Taken::Yes;
         }
         return Taken::No;
@@ -248,8 +268,6 @@ void txt_KeyPress(Program& program, PageId page, int index, int& keyAscii) {
 }
 
 void txt_KeyUp(Program& program, PageId page, int index, int keyCode, int shift) {
-    static_cast<void>(keyCode);
-    static_cast<void>(shift);
     TextArea& area = Area(program, page, index);
     EditingState& editing = program.editing;
     if (IsFinalPage(page)) {
@@ -265,6 +283,9 @@ void txt_KeyUp(Program& program, PageId page, int index, int keyCode, int shift)
     editing.CurrentWidth = area.Width;
     modAreaColours::ColourArea(program, page, area);
     modStatus::ShowTextPosition(program, area);
+    if (program.hooks.CompleteWord) {
+        program.hooks.CompleteWord(program, Field(page, index), keyCode, shift);
+    }
 }
 
 void RefireTextChanges(Program& program, PageId page) {

@@ -3,6 +3,10 @@
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "format/format_changes.h"
+#include "format/format_save.h"
+#include "format/frm_label_props.h"
+#include "format/leave_format.h"
 #include "pages/fields.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -28,6 +32,7 @@ void ClearFormat(Program& program) {
     program.format.FormatTextChanges = {};
     program.format.FormatLabelChanges = {};
     program.format.FormatLines.clear();
+    program.format.LogoPath.clear();
     if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         program.format = before;
         program.settings.LoadDefaultFormat = loadDefault;
@@ -36,13 +41,29 @@ void ClearFormat(Program& program) {
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }
 
-bool FormatHasChanges(Program& program) {
-    return program.hooks.FormatHasChanges && program.hooks.FormatHasChanges(program);
+bool IsDefault(const Program& program) {
+    const std::string path = paths::Join(program.format.FormatFolder, program.format.FormatName);
+    return text::EqualNoCase(program.settings.DefaultFormatPath, path);
+}
+
+/// The format that new proposals began with is gone; without this each of them would ask for it.
+void ForgetDefault(Program& program) {
+    using modSettings::Key;
+    program.settings.DefaultFormatPath.clear();
+    program.settings.LoadDefaultFormat = false;
+    modSettings::SetLine(program, Key::DefaultFileFormat, "");
+    modSettings::SetLine(program, Key::LoadDefaultFormat, "False");
+    if (modSettings::SaveUserPreferences(program)) {
+        program.platform.questions.MsgBox(
+            "This was the default format. New proposals start without a format from now on.", Buttons::Ok,
+            "");
+    }
 }
 
 } // namespace
 
 void mnuFileFormatNew_Click(Program& program) {
+    modDesigner::CloseLabelWindow(program);
     const bool asks = FormatHasChanges(program) || modProposal::SomethingChanged(program) ||
                       modFile::PropertiesChanged(program);
     if (asks &&
@@ -51,7 +72,9 @@ void mnuFileFormatNew_Click(Program& program) {
                                           Buttons::YesNo, "Beginning New File Format") != Answer::Yes) {
         return;
     }
-    ClearFormat(program);
+    if (modWindows::MayLeave(program, Leaving::Proposal) && MayLeaveFormat(program)) {
+        ClearFormat(program);
+    }
 }
 
 void mnuFileFormatOpen_Click(Program& program) {
@@ -64,33 +87,62 @@ void mnuFileFormatOpen_Click(Program& program) {
     modWindows::Show(program, std::move(window));
 }
 
+void mnuFileFormatSave_Click(Program& program) {
+    SaveFileFormat(program);
+}
+
+void mnuFileFormatSaveAs_Click(Program& program) {
+    program.format.FormatSaveAs = true;
+    SaveFileFormat(program);
+}
+
 void mnuFileFormatDelete_Click(Program& program) {
     Questions& questions = program.platform.questions;
     if (!program.format.FormatOpen) {
         questions.MsgBox("There's no Format File open.", Buttons::Ok, "");
         return;
     }
-    // People know the title by this spelling.
-    if (questions.MsgBox("Are you sure you want to delete the shown Format?", Buttons::YesNo,
-                         "Deleting Format FIle") != Answer::Yes) {
+    if (!modWindows::MayLeave(program, Leaving::Proposal)) {
         return;
     }
+    modProposal::AskToSave(program);
+    const bool stopped = program.document.Cancelled;
+    program.document.Cancelled = false;
+    if (stopped) {
+        return;
+    }
+    const Answer answer =
+        questions.MsgBox(text::Lines({"Are you sure you want to delete the shown Format?",
+                                      program.format.FormatName + " in " + program.format.FormatFolder}),
+                         Buttons::YesNo, "Deleting Format FIle", {.Default = Answer::No});
+    if (answer != Answer::Yes) {
+        return;
+    }
+    const bool wasDefault = IsDefault(program);
     const bool deleted = Guarded(program, "mnuFileFormatDelete_Click", [&] {
         files::Delete(paths::Join(program.format.FormatFolder, program.format.FormatName));
     });
-    if (deleted) {
-        ClearFormat(program);
+    if (!deleted) {
+        return;
     }
+    if (wasDefault) {
+        ForgetDefault(program);
+    }
+    ClearFormat(program);
 }
 
 void mnuFileFormatDefault_Click(Program& program) {
-    if (program.hooks.SaveFileFormat) {
-        program.hooks.SaveFileFormat(program);
+    const FormatRecords& format = program.format;
+    modDesigner::CloseLabelWindow(program);
+    const bool onDisk = format.FormatOpen &&
+                        files::Exists(paths::Join(format.FormatFolder, format.FormatName)) &&
+                        FileIsCurrent(program);
+    if (onDisk) {
+        static_cast<void>(MakeDefault(program));
+        return;
     }
-    // Wanted: also a format that was refused a moment ago is loaded by new proposals from now on.
-    program.settings.LoadDefaultFormat = true;
-    modSettings::SetLine(program, modSettings::Key::LoadDefaultFormat, "True");
-    modSettings::SaveUserPreferences(program);
+    program.format.FormatMakeDefault = true;
+    SaveFileFormat(program);
 }
 
 } // namespace modFormat

@@ -3,6 +3,8 @@
 #include "program/errors.h"
 #include "program/program.h"
 
+#include <cmath>
+
 namespace modDesigner {
 
 void DrawCenterLines(Program& program, PageId page) {
@@ -12,13 +14,18 @@ void DrawCenterLines(Program& program, PageId page) {
     record.CenterLines = {{x, 0, x, record.Height, true}, {0, y, record.Width, y, true}};
 }
 
+bool IsSnapStep(float twips) {
+    constexpr float kLeast = 14.4F, kMost = 5760, kRounding = 0.001F;
+    return std::isfinite(twips) && twips >= kLeast - kRounding && twips <= kMost + kRounding;
+}
+
 void DrawGrid(Program& program, PageId page) {
     Guarded(program, "DrawGrid", [&] {
         Page& record = program.pages[page];
         record.GridPoints.clear();
         const float snap = program.format.SnapTwips;
-        if (!(snap > 0)) {
-            return; // a step of nothing would never cross the page
+        if (!IsSnapStep(snap)) {
+            return;
         }
         for (float y = snap; y < record.Height - snap; y += snap) {
             for (float x = snap; x < record.Width - snap; x += snap) {

@@ -11,7 +11,11 @@ namespace modDesigner {
 /// Two lines through the centre of the page, from edge to edge.
 void DrawCenterLines(Program& program, PageId page);
 
-/// A point at every step of the snap, row by row, and a note of each. Reports as "DrawGrid".
+/// A step between 0.01 and 4 inches.
+[[nodiscard]] bool IsSnapStep(float twips);
+
+/// A point at every step of the snap, row by row, and a note of each; nothing for a step out of bounds.
+/// Reports as "DrawGrid".
 void DrawGrid(Program& program, PageId page);
 
 /// "Draw Grid": both, on the active page.

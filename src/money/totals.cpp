@@ -97,16 +97,23 @@ void AddAllFields(Program& program) {
     totals.FullTotal = totals.Total;
 }
 
+/// A deposit that is no number keeps its text, as an amount does: the person sees it red and mends it.
+void WriteDeposit(Program& program) {
+    if (!IsNoNumber(program, program.pages[PageId::frmP6].txt[kDeposit])) {
+        WriteFigure(program, kDeposit, Shown(program.totals.Deposit));
+    }
+}
+
 void WriteFullFigures(Program& program) {
     TotalsRecords& totals = program.totals;
+    totals.Balance = Sum(totals.Total, -totals.Deposit);
     if (totals.Total == 0) {
-        for (int figure = 0; figure < kFigureCount; ++figure) {
+        for (const int figure : {kSubTotal, kTaxable, kTax, kTotal}) {
             WriteFigure(program, figure, "0.00");
         }
-        // The deposit follows its field, or the next running update would bring it back against an empty
-        // total.
-        totals.Deposit = 0;
-        totals.Balance = 0;
+        // What a client has paid stands whatever is left of the proposal.
+        WriteDeposit(program);
+        WriteFigure(program, kBalance, Shown(totals.Balance));
         return;
     }
     WriteFigure(program, kSubTotal, Shown(totals.FullSubTotal));
@@ -114,8 +121,7 @@ void WriteFullFigures(Program& program) {
     WriteFigure(program, kTax, Shown(totals.SalesTax));
     // No pattern here: after a recalculation the total stands bare until the next running update.
     WriteFigure(program, kTotal, numbers::PlainNumber(totals.Total));
-    totals.Balance = Sum(totals.Total, -totals.Deposit);
-    WriteFigure(program, kDeposit, Shown(totals.Deposit));
+    WriteDeposit(program);
     WriteFigure(program, kBalance, Shown(totals.Balance));
 }
 
@@ -162,13 +168,38 @@ void CalculateMyTotals(Program& program, PageId page) {
     totals.PageTaxable[page] = taxable;
 }
 
+bool IsNoNumber(const Program& program, const TextArea& area) {
+    const std::string_view kind = geometry::KindOf(area.Tag);
+    if (kind != "Amou" && kind != "Depo") {
+        return false;
+    }
+    const std::string_view value = text::Trim(area.Text);
+    return !value.empty() && !Numeric(program, value);
+}
+
+void TellNoNumber(const Program& program, TextArea& area) {
+    if (IsNoNumber(program, area)) {
+        area.ToolTipText = kNoNumberTip;
+    } else if (area.ToolTipText == kNoNumberTip) {
+        area.ToolTipText.clear();
+    }
+}
+
+void SumAgain(Program& program) {
+    for (const PageId page : kLinePages) {
+        CalculateMyTotals(program, page);
+    }
+    RecalculateAll(program);
+    UpdateRunningTotals(program);
+}
+
 void UpdateRunningTotals(Program& program) {
     TotalsRecords& totals = program.totals;
     const ScopedFlag writing(totals.InRunningUpdate);
     if (totals.TotalsHidden) {
         // Written over after each digit, a deposit could not be typed at all; leaving the field writes it.
         if (!DepositIsBeingTyped(program)) {
-            WriteFigure(program, kDeposit, Shown(totals.Deposit));
+            WriteDeposit(program);
         }
         program.pages[PageId::frmP6_1].txt[kDeposit].Text = program.pages[PageId::frmP6].txt[kDeposit].Text;
         return;
@@ -220,28 +251,6 @@ std::string DiscrepancyMessage() {
                         "calculation without true verification. We apologize for the inconvenience."});
 }
 
-bool StoreAmount(Program& program, PageId page, int index) {
-    const Page& record = program.pages[page];
-    const auto row = static_cast<std::size_t>(index);
-    const std::string_view value = text::Trim(record.txt[row].Text);
-    float& amount = program.totals.AmountTable[row][page];
-    float& taxable = program.totals.TaxableTable[row][page];
-    if (value.empty()) {
-        amount = 0;
-        taxable = 0;
-        modPages::SetCurrencySign(program, page, index, modPages::Mark::Hidden);
-        return true;
-    }
-    const std::optional<float> number = Numeric(program, value);
-    if (!number) {
-        return false;
-    }
-    amount = *number;
-    taxable = MarkVisible(record, row) ? 0 : *number;
-    modPages::SetCurrencySign(program, page, index, modPages::Mark::Shown);
-    return true;
-}
-
 void cmdReCalc_Click(Program& program) {
     RecalculateAll(program);
     program.platform.questions.MsgBox(RecalculationMessage(program), Buttons::Ok, "");
@@ -266,30 +275,15 @@ void mnuOptHideTotals_Click(Program& program) {
     }
 }
 
-void imgNoTax_Click(Program& program, PageId page, int row) {
-    modPages::SetNoTaxMark(program, page, row, modPages::Mark::Hidden);
-    const auto index = static_cast<std::size_t>(row);
-    TextChangeRecord& props = program.format.PropTextChanges[page][index];
-    props.TaxExempt = false;
-    props.Dirty = true;
-    program.format.FormatTextChanges[page][index].TaxExempt = false;
-    program.totals.TaxableTable[index][page] = program.totals.AmountTable[index][page];
-    CalculateMyTotals(program, page);
-    UpdateRunningTotals(program);
-    program.totals.TotalsStale = true;
-    modFields::GiveFocus(program, {page, FieldKind::txt, row});
-}
-
 void mnuAdminCheckAddition_Click(Program& program) {
     const std::string value = program.platform.questions.InputBox("Please enter value", "", "");
-    const float number = numbers::ToSingle(value).value_or(0.0F);
+    const float number = Numeric(program, value).value_or(0.0F);
     constexpr int kFirst = 33, kLast = 65;
     const auto field = [](int index) { return FieldRef{PageId::frmP2, FieldKind::txt, index}; };
     for (int index = kFirst + 1; index <= kLast; ++index) {
         modFields::SetText(program, field(index), "");
     }
-    // The menu's own table tells of a growing sum in every row; the totals' account of it is the one that
-    // holds: the same value in each row, and the sum beside it.
+    // Wanted: the same value in each row, and the sum of them all beside it.
     std::array<float, 34> sums{};
     for (int index = kFirst; index <= kLast; ++index) {
         modFields::SetText(program, field(index), value);
@@ -303,6 +297,7 @@ void FinalPageChange(Program& program, int index) {
     const Page& page = program.pages[PageId::frmP6];
     const TextArea& area = page.txt[static_cast<std::size_t>(index)];
     TotalsRecords& totals = program.totals;
+    TellNoNumber(program, program.pages[PageId::frmP6].txt[static_cast<std::size_t>(index)]);
     program.document.CurrentTextBuf[PageId::frmP6][static_cast<std::size_t>(index)] = area.Text;
     program.pages[PageId::frmP6_1].txt[static_cast<std::size_t>(index)].Text = area.Text;
     if (program.guards.HandlersSilent() || totals.InRecalculation || totals.InRunningUpdate) {
@@ -317,7 +312,8 @@ void FinalPageChange(Program& program, int index) {
         return;
     }
     const std::string_view value = text::Trim(area.Text);
-    const std::optional<float> number = value.empty() ? std::optional(0.0F) : Numeric(program, value);
+    const std::optional<float> number =
+        value.empty() || IsNoNumber(program, area) ? std::optional(0.0F) : Numeric(program, value);
     if (!number) {
         return;
     }
@@ -328,7 +324,7 @@ void FinalPageChange(Program& program, int index) {
 
 void RewriteDeposit(Program& program) {
     // As typed: the figure that stands there from now on is the one that counts.
-    WriteFigure(program, kDeposit, Shown(program.totals.Deposit));
+    WriteDeposit(program);
 }
 
 void FinalPageLostFocus(Program& program, int index) {

@@ -3,6 +3,7 @@
 #include "program/page_records.h"
 
 #include <string>
+#include <string_view>
 
 struct Program;
 
@@ -30,16 +31,19 @@ void RecalculateAll(Program& program);
 /// The three lines shown when they do.
 [[nodiscard]] std::string DiscrepancyMessage();
 
-/// The tables' entries and the currency sign for an amount area whose text is empty or numeric; other text
-/// changes nothing. False when the text was neither.
-bool StoreAmount(Program& program, PageId page, int index);
+/// What an amount or the deposit shows when its text is no number.
+inline constexpr std::string_view kNoNumberTip = "This is not a number and counts as nothing.";
+/// Whether an amount or the deposit holds a text that is no number.
+[[nodiscard]] bool IsNoNumber(const Program& program, const TextArea& area);
+/// The tool tip follows whether the text is a number.
+void TellNoNumber(const Program& program, TextArea& area);
+
+/// Both computations over all pages, from the tables and from the fields, whatever colour `cmdReCalc` has.
+void SumAgain(Program& program);
 
 void cmdReCalc_Click(Program& program);
 void mnuToolsRecalculate_Click(Program& program);
 void mnuOptHideTotals_Click(Program& program);
-/// The person clicks the exempt mark of a row: the row is taxable again, totals follow at once, `cmdReCalc`
-/// red, focus to the row's area.
-void imgNoTax_Click(Program& program, PageId page, int row);
 void mnuAdminCheckAddition_Click(Program& program);
 
 /// The text of a final page's area has changed: mirrored to the copy, taken as a figure when it is one.

@@ -2,7 +2,7 @@
 
 #include "base/text.h"
 #include "pages/page_geometry.h"
-#include "pages/text_width.h"
+#include "pages/titles.h"
 #include "program/program.h"
 
 #include <algorithm>
@@ -58,14 +58,13 @@ void SetPageNumbers(Program& program) {
         const int index = geometry::PageNumberLabel(page);
         program.pages[page].lbl[static_cast<std::size_t>(index)].Caption =
             std::string(geometry::PageOfText(number)) + std::to_string(used);
-        Keep(program, page, index);
         if (page == PageId::frmP1) {
             continue;
         }
         PageLabel& heading = program.pages[page].lbl[0];
-        heading.Caption =
-            program.document.PageHeading + "Page " + std::to_string(final ? used : IndexOf(page) + 1);
-        heading.Left = geometry::kPageCenter - modPages::LabelWidth(program, heading) / 2;
+        modTitles::SetTitleWords(program, page, 0, heading,
+                                 program.document.PageHeading + "Page " +
+                                     std::to_string(final ? used : IndexOf(page) + 1));
         Keep(program, page, 0);
     }
     program.document.PagesNumbered = used;

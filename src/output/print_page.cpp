@@ -1,7 +1,7 @@
 #include "output/print_page.h"
 
 #include "base/guard.h"
-#include "money/totals.h"
+#include "editing/fresh_figures.h"
 #include "pages/page_geometry.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -113,16 +113,23 @@ void DrawPage(const Program& program, DrawingSurface& surface, PageId page) {
     }
     if (record.HasLogo && record.pic.Tag != kHide && record.pic.Picture.From != PictureRef::Source::None) {
         // The one field that the printer's offset does not move.
-        surface.PaintPicture(record.pic.Picture, record.pic.Left + surface.ScaleLeft,
-                             record.pic.Top + surface.ScaleTop);
+        const PagePicture& logo = record.pic;
+        const float left = logo.Left + surface.ScaleLeft;
+        const float top = logo.Top + surface.ScaleTop;
+        surface.PaintPicture(logo.Picture, left, top, logo.Size);
+        if (logo.BorderStyle != 0) {
+            const float right = left + logo.Size.Width;
+            const float bottom = top + logo.Size.Height;
+            surface.Line(left, top, right, top);
+            surface.Line(right, top, right, bottom);
+            surface.Line(left, bottom, right, bottom);
+            surface.Line(left, top, left, bottom);
+        }
     }
 }
 
 void PrepareDrawing(Program& program) {
-    if (program.totals.TotalsStale) {
-        modTotals::RecalculateAll(program);
-        modTotals::UpdateRunningTotals(program);
-    }
+    modFigures::TakeFresh(program);
     Page& active = program.pages[program.main.ActivePage];
     active.CenterLines.clear();
     active.GridPoints.clear();

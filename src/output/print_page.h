@@ -11,11 +11,11 @@ namespace modPrint {
 /// out, hidden fields without it are drawn. Text areas take the default text colour, not their own.
 void DrawPage(const Program& program, DrawingSurface& surface, PageId page);
 
-/// What comes before a page is drawn, on paper or on itself: totals first when `cmdReCalc` is red; what was
-/// drawn on the active page goes, and is drawn anew when a preview is up.
+/// What comes before a page is drawn, on paper or on itself: the figures are taken fresh; what was drawn on
+/// the active page goes, and is drawn anew when a preview is up.
 void PrepareDrawing(Program& program);
 
-/// One page onto the current printer as a document of its own: totals first when `cmdReCalc` is red, the
+/// One page onto the current printer as a document of its own: fresh figures, the
 /// printer's offsets, the page, EndDoc, and the printer's font put back. Reports as "PrintTheForm".
 void PrintTheForm(Program& program, PageId page);
 

@@ -1,57 +1,104 @@
 #include "pages/logo.h"
 
 #include "base/files.h"
+#include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "program/program.h"
 
-#include <optional>
+#include <algorithm>
 
 namespace modLogo {
 
-void LoadLogo(Program& program) {
-    Page& page = program.pages[PageId::frmP1];
-    const std::string& setting = program.settings.LogoFile;
-    const auto hide = [&] {
-        page.pic.Visible = false;
-        page.pic.Picture = {};
-    };
-    if (setting.empty() || text::EqualNoCase(setting, "events.jpg")) {
-        hide();
-        return;
-    }
-    std::string path = paths::ResolveDrive(setting, program.folders.Drives);
-    if (!paths::IsAbsolute(path)) {
-        path = paths::Join(program.folders.InstallFolder, path);
-    }
-    const std::optional<PictureSize> size =
-        files::Exists(path) ? program.platform.pictures.Load(path) : std::nullopt;
-    if (!size) {
-        hide();
-        return;
-    }
-    program.run.LogoPath = path;
-    page.pic.Picture = {PictureRef::Source::File, path};
-    page.pic.Size = *size;
-    page.pic.Left = program.settings.LogoLeft;
-    page.pic.Top = program.settings.LogoTop;
-    page.pic.Visible = program.settings.LogoVisible;
-    page.pic.Tag = program.settings.LogoVisible ? "" : kHide;
+namespace {
+
+PagePicture& Logo(Program& program) {
+    return program.pages[PageId::frmP1].pic;
 }
 
-bool ShowLogo(Program& program, const std::string& path) {
-    const std::optional<PictureSize> size = program.platform.pictures.Load(path);
-    if (!size) {
-        return false;
+bool Fits(const PictureSize& size) {
+    return size.Width <= kLogoMostWidth && size.Height <= kLogoMostHeight;
+}
+
+PictureSize Fitted(const PictureSize& size) {
+    if (Fits(size)) {
+        return size;
     }
-    PagePicture& picture = program.pages[PageId::frmP1].pic;
-    program.run.LogoPath = path;
-    picture.Picture = {PictureRef::Source::File, path};
-    picture.Size = *size;
-    picture.Visible = true;
-    picture.Tag.clear();
+    const float scale = std::min(kLogoMostWidth / size.Width, kLogoMostHeight / size.Height);
+    return {size.Width * scale, size.Height * scale};
+}
+
+} // namespace
+
+std::optional<std::string> ScaledMessage(const PictureSize& natural) {
+    if (Fits(natural)) {
+        return std::nullopt;
+    }
+    constexpr float kTwipsPerInch = 1440;
+    const auto inches = [](float twips) { return numbers::FormatSingle(twips / kTwipsPerInch, "0.0"); };
+    return "The picture is " + inches(natural.Width) + " by " + inches(natural.Height) +
+           " inches large. It is shown and printed scaled down to " + inches(kLogoMostWidth) + " by " +
+           inches(kLogoMostHeight) + " inches at most.";
+}
+
+bool IsBare(std::string_view path) {
+    return path.find_first_of("\\/:") == std::string_view::npos;
+}
+
+std::optional<PictureSize> PutLogo(Program& program, const std::string& path) {
+    const std::optional<PictureSize> size =
+        files::Exists(path) ? program.platform.pictures.Load(path) : std::nullopt;
+    if (size) {
+        Logo(program).Picture = {PictureRef::Source::File, path};
+        Logo(program).Size = Fitted(*size);
+        SettleLogoVisibility(program);
+        program.run.LogoChecked = program.settings.LogoVisible;
+    }
+    return size;
+}
+
+void HideLogo(Program& program) {
+    Logo(program).Picture = {};
+    SettleLogoVisibility(program);
+    program.run.LogoChecked = false;
+}
+
+void SettleLogoVisibility(Program& program) {
+    PagePicture& logo = Logo(program);
+    const bool shown = program.settings.LogoVisible && logo.Picture.From != PictureRef::Source::None;
+    logo.Visible = shown;
+    logo.Tag = shown ? "" : kHide;
+}
+
+void LoadLogo(Program& program) {
+    const SettingsRecords& settings = program.settings;
+    if (settings.LogoFile.empty() || text::EqualNoCase(settings.LogoFile, "events.jpg")) {
+        HideLogo(program);
+        return;
+    }
+    const std::string path = IsBare(settings.LogoFile)
+                                 ? paths::Join(program.folders.InstallFolder, settings.LogoFile)
+                                 : paths::ResolveDrive(settings.LogoFile, program.folders.Drives);
+    const std::optional<PictureSize> size = PutLogo(program, path);
+    if (!size) {
+        HideLogo(program);
+        return;
+    }
+    Logo(program).Left = settings.LogoLeft;
+    Logo(program).Top = settings.LogoTop;
+    if (const auto message = ScaledMessage(*size)) {
+        program.main.Notice = *message;
+    }
+}
+
+std::optional<PictureSize> ShowLogo(Program& program, const std::string& path) {
+    const bool before = program.settings.LogoVisible;
     program.settings.LogoVisible = true;
-    return true;
+    std::optional<PictureSize> size = PutLogo(program, path);
+    if (!size) {
+        program.settings.LogoVisible = before;
+    }
+    return size;
 }
 
 } // namespace modLogo

@@ -1,17 +1,41 @@
 #pragma once
 
+#include "platform/drawing_surface.h"
+
+#include <optional>
 #include <string>
+#include <string_view>
 
 struct Program;
 
-/// The logo on frmP1.
+/// The logo of frmP1: the picture on show, its place, and whether it is seen.
 namespace modLogo {
 
-/// Shows or hides the logo with its Tag; the picture comes from the file named by the settings or a format.
+/// No logo is shown larger; a larger picture is scaled into this box, on paper too.
+inline constexpr float kLogoMostWidth = 10800;
+inline constexpr float kLogoMostHeight = 4320;
+
+/// A picture by its size, whether it had to be scaled, in the words of a message; nothing when it fits.
+[[nodiscard]] std::optional<std::string> ScaledMessage(const PictureSize& natural);
+
+/// A name without a separator and a drive is looked for in the program folder.
+[[nodiscard]] bool IsBare(std::string_view path);
+
+/// Puts a picture in place of the one that stands, at its place. Its natural size, or nothing when it cannot
+/// be shown; then nothing changes.
+[[nodiscard]] std::optional<PictureSize> PutLogo(Program& program, const std::string& path);
+
+/// Takes the picture away.
+void HideLogo(Program& program);
+
+/// The logo is seen and printed when there is a picture and the setting says so.
+void SettleLogoVisibility(Program& program);
+
+/// The logo of the settings, at its place; hidden when there is none.
 void LoadLogo(Program& program);
 
-/// Puts a picture on frmP1 in place of the one that stands, at its place. False when it cannot be shown; then
-/// nothing changes.
-[[nodiscard]] bool ShowLogo(Program& program, const std::string& path);
+/// A picture that a person has chosen: put in place of the one that stands, and seen from now on. Its natural
+/// size, or nothing when it cannot be shown; then nothing changes.
+[[nodiscard]] std::optional<PictureSize> ShowLogo(Program& program, const std::string& path);
 
 } // namespace modLogo

@@ -271,7 +271,7 @@ void CreateFields(Program& program, PageId id) {
         page.lblEach.resize(1);
         page.txtQty[0].Text = "Qty.";
         page.txtAmt[0].Text = "Amt.";
-        page.lblAt[0].Caption = id == PageId::frmP1 ? "@ $" : "@ " + program.settings.CurrencySymbol;
+        page.lblAt[0].Caption = "@ " + program.settings.CurrencySymbol;
         page.lblEach[0].Caption = "ea.";
         for (auto* labels : {&page.lblAt, &page.lblEach}) {
             labels->front().BackColor = colors::kRestingRowField;

@@ -9,11 +9,8 @@ void ApplyPageFonts(Program& program) {
     const ScopedFlag silent(program.guards.ApplyingFonts);
     const RunState& run = program.run;
     const float size = run.DefaultFontSize == 0 ? 10 : run.DefaultFontSize;
-    // Laying "Arial" first makes a font of the same name take hold afresh.
     const auto layFont = [&](auto& field) {
-        field.FontName = "Arial";
         field.FontBold = false;
-        field.FontItalic = false;
         field.FontName = run.DefaultFontName;
         field.FontSize = size;
         field.FontItalic = run.DefaultFontItalic;
@@ -44,9 +41,7 @@ void ApplyPageFonts(Program& program) {
     for (const PageId page : kEditedPages) {
         Page& record = program.pages[page];
         for (std::size_t index = 0; index < record.txt.size(); ++index) {
-            // A bold that came with the format stays through a change of font, like the proposal's own.
-            if (program.format.PropTextChanges[page][index].FontBold ||
-                program.format.FormatTextChanges[page][index].FontBold) {
+            if (program.format.PropTextChanges[page][index].FontBold) {
                 record.txt[index].FontBold = true;
                 if (page == PageId::frmP6) {
                     program.pages[PageId::frmP6_1].txt[index].FontBold = true;

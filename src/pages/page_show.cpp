@@ -1,5 +1,6 @@
 #include "pages/page_show.h"
 
+#include "pages/logo.h"
 #include "program/program.h"
 
 namespace modPages {
@@ -11,10 +12,11 @@ void ShowPage(Program& program, PageId page) {
         TextArea& area = record.txt[index];
         area.Visible = true;
         area.Enabled = true;
+        if (IsLinePage(page)) {
+            area.Locked =
+                program.format.FormatOpen && program.format.FormatTextChanges[page][index].FormatText;
+        }
         if (edited && program.format.FormatOpen) {
-            if (IsLinePage(page)) {
-                area.Locked = program.format.FormatTextChanges[page][index].FormatText;
-            }
             if (program.format.PropTextChanges[page][index].FontBold) {
                 area.FontBold = true;
             }
@@ -26,9 +28,8 @@ void ShowPage(Program& program, PageId page) {
     for (PageLine& line : record.lne) {
         line.Visible = true;
     }
-    if (record.HasLogo && program.settings.LogoVisible &&
-        record.pic.Picture.From != PictureRef::Source::None) {
-        record.pic.Visible = record.pic.Tag != kHide;
+    if (record.HasLogo) {
+        modLogo::SettleLogoVisibility(program);
     }
 }
 

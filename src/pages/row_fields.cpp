@@ -106,4 +106,12 @@ void EnsureRowFields(Program& program, PageId page) {
     record.RowFieldsMade = true;
 }
 
+void ShowCurrency(Program& program) {
+    for (const PageId page : kLinePages) {
+        for (PageLabel& label : program.pages[page].lblAt) {
+            label.Caption = "@ " + program.settings.CurrencySymbol;
+        }
+    }
+}
+
 } // namespace modPages

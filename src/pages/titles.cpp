@@ -4,13 +4,35 @@
 #include "pages/text_width.h"
 #include "program/program.h"
 
+#include <cmath>
+#include <utility>
+
 namespace modTitles {
 
 namespace {
 
-enum class Record { No, Yes };
+float Centred(const Program& program, const PageLabel& label) {
+    return geometry::kPageCenter - modPages::LabelWidth(program, label) / 2;
+}
 
-void LayLines(Program& program, Record record) {
+/// Where pages are built with their title or their heading.
+float BuiltLeft(PageId page, int index) {
+    const bool final = !IsLinePage(page);
+    if (index == 0) {
+        return final ? 3060.0F : 3130.0F;
+    }
+    return final ? 5310.0F : 4860.0F;
+}
+
+std::string TitleOn(PageId page, const std::string& title) {
+    return page == PageId::frmP6     ? title + " - Our Copy"
+           : page == PageId::frmP6_1 ? title + " - Client's Copy"
+                                     : title;
+}
+
+enum class Place { Kept, Centred };
+
+void LayLines(Program& program, Place place) {
     std::string& title = program.document.ClientCaption;
     if (title.empty()) {
         title = "Proposal for (Client's Name)";
@@ -18,37 +40,70 @@ void LayLines(Program& program, Record record) {
     for (const PageId page : kAllPages) {
         const int index = geometry::TitleLabel(page);
         PageLabel& label = program.pages[page].lbl[static_cast<std::size_t>(index)];
-        label.Caption = title;
-        if (page == PageId::frmP6) {
-            label.Caption += " - Our Copy";
-        } else if (page == PageId::frmP6_1) {
-            label.Caption += " - Client's Copy";
-        }
-        label.Left = geometry::kPageCenter - modPages::LabelWidth(program, label) / 2;
-        if (record == Record::Yes && page != PageId::frmP6_1) {
-            LabelChangeRecord& kept = program.format.PropLabelChanges[page][static_cast<std::size_t>(index)];
-            kept.Left = label.Left;
-            kept.Top = label.Top;
-            kept.Caption = label.Caption;
+        SetTitleWords(program, page, index, label, TitleOn(page, title));
+        if (place == Place::Centred) {
+            label.Left = Centred(program, label);
         }
     }
+}
+
+bool PagesAreBuilt(const Program& program) {
+    return !program.pages[PageId::frmP1].lbl.empty() && !program.pages[PageId::frmP6_1].lbl.empty();
+}
+
+void Record(Program& program, PageId page) {
+    const auto index = static_cast<std::size_t>(geometry::TitleLabel(page));
+    const PageLabel& label = program.pages[page].lbl[index];
+    LabelChangeRecord& kept = program.format.PropLabelChanges[page][index];
+    static_cast<LabelLook&>(kept) = {label.Left,      label.Top,        label.Caption,
+                                     label.FontName,  label.FontSize,   label.FontBold,
+                                     label.ForeColor, label.FontItalic, label.FontUnderline};
+    kept.Changed = true;
 }
 
 } // namespace
 
-void UpdateFooters(Program& program) {
-    if (program.pages[PageId::frmP1].lbl.empty()) {
-        return; // the pages are not built yet
+void SetTitleWords(const Program& program, PageId page, int index, PageLabel& label, std::string words) {
+    constexpr float kTwip = 1;
+    const bool stood =
+        std::fabs(label.Left - Centred(program, label)) <= kTwip || label.Left == BuiltLeft(page, index);
+    if (label.Caption == words && label.Left != BuiltLeft(page, index)) {
+        return;
     }
-    LayLines(program, Record::No);
+    label.Caption = std::move(words);
+    if (stood) {
+        label.Left = Centred(program, label);
+    }
+}
+
+void UpdateFooters(Program& program) {
+    if (PagesAreBuilt(program)) {
+        LayLines(program, Place::Kept);
+    }
+}
+
+void CentreFooters(Program& program) {
+    if (PagesAreBuilt(program)) {
+        LayLines(program, Place::Centred);
+    }
 }
 
 void UpdateEventNameLabels(Program& program) {
     UpdateFooters(program);
+    program.document.WindowTitle = "Quillbrook";
+    if (program.format.FormatOpen) {
+        program.document.WindowTitle += ": Format File = " + program.format.FormatName;
+    }
+    if (program.document.HasName()) {
+        program.document.WindowTitle += " - File Name = " + program.document.FileName;
+    }
 }
 
 void LayTitles(Program& program) {
-    LayLines(program, Record::Yes);
+    UpdateFooters(program);
+    for (const PageId page : kEditedPages) {
+        Record(program, page);
+    }
 }
 
 void SetPageHeading(Program& program, const char* what) {

@@ -1,18 +1,30 @@
 #pragma once
 
+#include "program/page_records.h"
+
+#include <string>
+
 struct Program;
 
 namespace modTitles {
 
-/// Lays the client's line on all pages, centred, shows it in `lblEvent`, and writes the main window's title.
-/// An empty ClientCaption becomes "Proposal for (Client's Name)".
+/// Lays the client's line on all pages, shows it in `lblEvent`, and writes the main window's title. An empty
+/// ClientCaption becomes "Proposal for (Client's Name)".
 void UpdateEventNameLabels(Program& program);
 
-/// The lines alone, without the main window's title.
+/// The lines alone, without the main window's title. A line keeps its height, and its place unless it stood
+/// in the middle of the page or where pages are built with it.
 void UpdateFooters(Program& program);
 
-/// The same lines, and their new place and wording go to the proposal's label table.
+/// The same, all of them in the middle of the page: for pages just built.
+void CentreFooters(Program& program);
+
+/// The same lines as UpdateFooters, and their looks go to the proposal's label table as changed.
 void LayTitles(Program& program);
+
+/// Gives a title or a page's heading its words. It is centred anew when it stood centred, to a twip, or where
+/// pages are built with it; otherwise somebody has put it where it is.
+void SetTitleWords(const Program& program, PageId page, int index, PageLabel& label, std::string words);
 
 /// The running heading for a document kind: the setting when there is one, else company name, " - ", what, "
 /// - ".

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class Answer { Ok, Cancel, Yes, No };
@@ -17,6 +18,8 @@ struct Manner {
     /// overwritten or thrown away it is the harmless one.
     std::optional<Answer> Default;
     Came How = Came::OnRequest;
+    /// The words of the box's buttons in the order Yes, No, Cancel, where they are not these.
+    std::vector<std::string> Words;
 };
 
 /// Message and input boxes. Both wait for the person; texts hold CR LF between their lines.

@@ -80,6 +80,7 @@ enum class CommandId : int {
     mnuEditLabelProps,
     mnuEditLabelSelectAll,
     mnuEditLabelDeselectAll,
+    mnuEditLabelMode,
     mnuEditLogo,
     mnuEditLogoOpen,
     mnuEditLogoSave,

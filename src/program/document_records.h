@@ -17,11 +17,13 @@ struct DocumentState {
     bool FromBackup = false;
     bool BackingUp = false;
     std::string ClientCaption; ///< "Proposal for " and the client; also called ProposalTitle
+    bool TitleGiven = false;   ///< a person gave the title its words; a client's name no longer makes it
     std::string DocumentKind = "Event";
     std::string PageHeading; ///< the running heading of the pages, also called the header prefix
     bool Cancelled = false;
     bool SaveAsActive = false;
     int PagesInUse = 6;
+    std::string WindowTitle = "Quillbrook";
     std::string FolderOnShow; ///< where the proposal was opened, as the strip tells it
     int PagesNumbered = 0;    ///< pages in use when they were last numbered; 0 since the reset
     bool HasNotes = false;    ///< footnotes lie beside the proposal

@@ -1,9 +1,11 @@
 #pragma once
 
-#include "program/page_records.h"
+#include "base/guard.h"
 #include "program/per_page.h"
 
 #include <array>
+#include <bitset>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -39,6 +41,8 @@ struct BlockState {
     bool AtTop = false;
     bool AtBottom = false;
 
+    int KeyAnchor = -1; ///< the row from which a selection by key grows; -1 is none
+
     float BandStartX = 0; ///< twips on the page
     float BandStartY = 0;
     float BandEndX = 0;
@@ -55,12 +59,41 @@ struct BlockState {
     PageId UndoPage = PageId::frmP1;
     std::vector<ClearedArea> UndoMemory;
 
-    /// A move by key is not finished before the key is let go; the page that then runs its handlers.
+    /// A move by key is not finished before the key is let go: handlers are silent as long as it is held
+    /// here, and the page then runs them.
+    std::unique_ptr<ScopedFlag> Moving;
     std::optional<PageId> MovedPage;
 
 private:
     [[nodiscard]] static int LastIndex(const std::vector<AreaContents>& memory) {
         return memory.empty() ? 0 : static_cast<int>(memory.size()) - 1;
+    }
+};
+
+/// The word at the cursor, as completion follows it; one a page.
+struct WordState {
+    int WordStart = 0; ///< where the word begins
+    int WordLen = 0;   ///< letters typed in it so far
+    bool NewWord = false;
+    bool InWord = false;
+    std::string TypedWord;
+    std::string MatchedTerm;
+    std::string MatchedAmount;
+};
+
+/// Which keys that are still down have put a character into which field. A key let go elsewhere, or one that
+/// only moved the cursor, completes nothing.
+struct TypedKeys {
+    std::optional<FieldRef> Field;
+    std::bitset<256> Codes;
+    int KeyDown = 0;        ///< the key being pressed
+    bool Character = false; ///< it has passed the field's filter
+
+    /// A sign may be let go under another code than it was pressed with, when Shift was let go first.
+    [[nodiscard]] static std::size_t PlaceOf(int keyCode) {
+        constexpr int kFirstDigit = 48, kLastDigit = 57, kSigns = 188, kOther = 192;
+        const bool sign = (keyCode >= kFirstDigit && keyCode <= kLastDigit) || keyCode >= kSigns;
+        return static_cast<std::size_t>(sign || keyCode < 0 ? kOther : keyCode);
     }
 };
 
@@ -88,6 +121,10 @@ struct EditingState {
     int SavedSelStart = 0;      ///< text selection remembered for the case commands
     int SavedSelLength = 0;
     BlockState Block;
+    /// The amount whose text the person has taken away and not left yet: another may be typed in its place.
+    std::optional<FieldRef> EmptiedAmount;
     /// A suggested completion stands selected in the area; per page frmP1 to frmP5.
     PerLinePage<bool> ACActive;
+    PerLinePage<WordState> Words;
+    TypedKeys Typed;
 };

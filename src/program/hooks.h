@@ -6,8 +6,8 @@
 struct Program;
 struct FieldRef;
 
-/// Calls from the document level to rooms above it. The document never knows who answers; one wiring unit
-/// connects them. An empty hook means that nobody answers.
+/// Calls from a room to rooms above it. The lower room never knows who answers; one wiring unit connects
+/// them. An empty hook means that nobody answers.
 struct Hooks {
     using Call = std::function<void(Program&)>;
     using FieldCall = std::function<void(Program&, const FieldRef&)>;
@@ -18,12 +18,17 @@ struct Hooks {
 
     std::function<void(Program&, int)> UpdatePageButtons; ///< change the page, 0 to 6
     Call CollectQtyBoxes;                                 ///< bring the stores up to what the row fields show
-    Call DeSelectAllControls;                             ///< end a block selection on all pages
-    std::function<void(Program&, int)> PageKey;           ///< a page-up (33) or page-down (34) key
-    Call UpdateTextMenu;                                  ///< the states of the text area's commands
+    Call TakeFreshFigures;    ///< what is being typed is settled and everything summed, before others see it
+    Call DeSelectAllControls; ///< end a block selection on all pages
+    std::function<void(Program&, int)> PageKey;   ///< a page-up (33) or page-down (34) key
     std::function<void(Program&, int)> MoveBlock; ///< an up (38) or down (40) key while areas are selected
     std::function<void(Program&, int)> TermsKey;  ///< F5 (116) or F6 (117) on a line page
+    /// The list in use may be another one now; it is read at once where it is needed.
     Call ReadFrequentlyUsedTerms;
+    /// A key let go in a text area of a line page: completes the word at the cursor.
+    std::function<void(Program&, const FieldRef&, int keyCode, int shift)> CompleteWord;
+    /// A key pressed while a completion stands: whether it has accepted it and is used up.
+    std::function<bool(Program&, const FieldRef&, int keyCode, int shift)> CompletionKey;
     std::function<void(Program&, const std::string&)> ReadTextFile; ///< shows a text file, by its full path
     Call ShowTermsWindow;
     Call ShowCalculator;
@@ -32,6 +37,8 @@ struct Hooks {
     Call OpenFormatFile;
     Call ParsePropertyFile;
     Call AssignPropChanges;
-    std::function<bool(Program&)> FormatHasChanges; ///< whether the open format differs from its file
-    Call SaveFileFormat;
+    /// Whether what the open format has not saved may be lost; asks and saves. No answer: it may.
+    std::function<bool(Program&)> MayLeaveFormat;
+    Call CloseLabelWindow; ///< as OK, on its own page
+    Call SetPageNumbers;   ///< headings and page numbers into the labels
 };

@@ -66,7 +66,7 @@ struct MainWindow {
     PageId PageInFront = PageId::frmP1; ///< what the person sees, the client's copy included
     bool ScrollChangeSuppressed = false;
     bool ToolButtonPressed = false;
-    bool Busy = false; ///< the pointer says that something takes its time
+    bool Busy = false;     ///< the pointer says that something takes its time
     bool Resizing = false; ///< events run within a resize
     float WindowHeightRatio = 0;
     int ScrollClientHeight = 0;
@@ -75,6 +75,8 @@ struct MainWindow {
 
     /// The field that has the keyboard; none when it is elsewhere in the main window.
     std::optional<FieldRef> Focus;
+    /// A floating window has handed the keyboard back to the page; the front end gives it and clears this.
+    bool BringUp = false;
 
     CommandButton cmdClearMem{.Caption = "Clear Selected", .ToolTipText = "Shortcut = CTRL + D"};
     CommandButton cmdPreview{

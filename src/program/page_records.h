@@ -127,13 +127,14 @@ struct PagePoint {
     bool operator==(const PagePoint&) const = default;
 };
 
-/// The logo. `Size` is the picture's natural one.
+/// The logo. `Size` is the one on the page: the picture's own, or less for one too large.
 struct PagePicture {
     PictureRef Picture;
     float Left = 0;
     float Top = 0;
     PictureSize Size;
     std::string Tag;
+    std::string ToolTipText;
     int BorderStyle = 0;
     bool Visible = false;
     bool operator==(const PagePicture&) const = default;

@@ -1,15 +1,19 @@
 #pragma once
 
 #include "platform/platform.h"
+#include "program/address_records.h"
 #include "program/calendar_records.h"
 #include "program/change_records.h"
+#include "program/designer_records.h"
 #include "program/document_records.h"
 #include "program/editing_records.h"
 #include "program/hooks.h"
 #include "program/main_window_records.h"
 #include "program/page_records.h"
 #include "program/print_records.h"
+#include "program/search_records.h"
 #include "program/settings_records.h"
+#include "program/terms_records.h"
 #include "program/totals_records.h"
 #include "program/window.h"
 
@@ -30,9 +34,13 @@ struct Program {
     GuardFlags guards;
     TotalsRecords totals;
     FormatRecords format;
+    DesignerRecords designer;
     EditingState editing;
     PrintRecords printing;
+    TermsRecords terms;
+    SearchRecords search;
     CalendarRecords calendar;
+    AddressRecords addresses;
     MainWindow main;
     WindowCollection windows;
 };

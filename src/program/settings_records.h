@@ -75,12 +75,14 @@ struct RunState {
     float DefaultFontSize = 10;
     Color DefaultFontColor = 0;
     bool DefaultFontItalic = false;
-    std::string LogoPath;       ///< the logo in force; settings.LogoFile is the one kept
+    bool LogoChecked = false;   ///< the check mark of "Show Logo"
     bool AltLetterhead = false; ///< once on it stays on for the run
-    /// The terms list in use; pinned means that a document's kind does not change it.
+    /// The terms list in use; pinned, by the settings or because the person opened it, means that a
+    /// document's kind does not change it.
     std::string FUTFileName;
     bool TermsPinned = false;
     bool FUTShown = false;
     bool ACEnabled = false;
     int ACStartLen = 0;
+    bool CalcShown = false;
 };

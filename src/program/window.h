@@ -51,6 +51,10 @@ public:
     /// Place on the screen, twips; the front end keeps it true.
     float Left = 0;
     float Top = 0;
+    float Width = 0;
+    float Height = 0;
+    /// The window asks for the keyboard; the front end gives it and clears this.
+    bool BringUp = false;
 };
 
 /// Every open window but the main one, in the order of opening.

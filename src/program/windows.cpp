@@ -3,6 +3,8 @@
 #include "program/program.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 void Window::Form_Cancel(Program& program) {
     modWindows::Close(program, *this);
@@ -25,12 +27,17 @@ void Close(Program& program, Window& window) {
     window.Form_Unload(program);
 }
 
-void Sweep(Program& program) {
-    std::erase_if(program.windows.Open,
-                  [](const std::unique_ptr<Window>& window) { return window->Closing; });
-    for (const std::unique_ptr<Window>& window : program.windows.Open) {
+std::vector<std::unique_ptr<Window>> Sweep(Program& program) {
+    std::vector<std::unique_ptr<Window>>& open = program.windows.Open;
+    const auto closed = std::stable_partition(
+        open.begin(), open.end(), [](const std::unique_ptr<Window>& window) { return !window->Closing; });
+    std::vector<std::unique_ptr<Window>> swept(std::make_move_iterator(closed),
+                                               std::make_move_iterator(open.end()));
+    open.erase(closed, open.end());
+    for (const std::unique_ptr<Window>& window : open) {
         window->Form_Follow(program);
     }
+    return swept;
 }
 
 Window* Find(Program& program, std::string_view name) {

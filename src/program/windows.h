@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string_view>
+#include <vector>
 
 struct Program;
 
@@ -17,8 +18,9 @@ Window& Show(Program& program, std::unique_ptr<Window> window);
 void Close(Program& program, Window& window);
 
 /// Takes closed windows out of the collection. Called by the front end and the tests when an event has ended,
-/// never while a handler of the window may still be running.
-void Sweep(Program& program);
+/// never while a handler of the window may still be running. Whoever still shows one of them keeps it; the
+/// others may let them go.
+std::vector<std::unique_ptr<Window>> Sweep(Program& program);
 
 /// The open window of that name, or null.
 [[nodiscard]] Window* Find(Program& program, std::string_view name);

@@ -1,5 +1,6 @@
 #include "proposal/file_names.h"
 
+#include "base/ansi.h"
 #include "base/dates.h"
 #include "base/files.h"
 #include "base/paths.h"
@@ -9,10 +10,28 @@
 
 namespace modNames {
 
+namespace {
+
+/// A file system takes names of 255 bytes; a file's other names, beside it and on the way to it, need some.
+constexpr std::size_t kLongestName = 230;
+
+bool IsTooLong(Program& program, std::string_view name) {
+    if (ansi::ToUtf8(name).size() <= kLongestName) {
+        return false;
+    }
+    program.platform.questions.MsgBox(
+        text::Lines({"Action Cancelled. The name is too long for a file.",
+                     "Please shorten the client's name or save under another."}),
+        Buttons::Ok, "");
+    return true;
+}
+
+} // namespace
+
 bool IllegalFileName(Program& program, std::string_view name) {
     constexpr std::string_view kIllegal = "/\\:*?<>|";
     if (name.find_first_of(kIllegal) == std::string_view::npos) {
-        return false;
+        return IsTooLong(program, name);
     }
     program.platform.questions.MsgBox(text::Lines({"Action Cancelled. File Name cannot include any of ",
                                                    "the following characters: / \\ : * ? < > |"}),

@@ -21,7 +21,6 @@ namespace {
 
 constexpr std::string_view kUp = "..";
 constexpr std::string_view kFormats = "*.fmt";
-constexpr std::string_view kPictures = "*.jpg;*.bmp;*.gif";
 constexpr std::string_view kTerms = "*.fut";
 constexpr std::string_view kTexts = "*.txt";
 
@@ -161,10 +160,11 @@ void frmFile::cmdOpenOK_Click(Program& program) {
         OpenProposal(program);
     } else if (program.document.FileFilter == kFormats) {
         OpenFormat(program);
-    } else if (program.document.FileFilter == kPictures) {
+    } else if (program.document.FileFilter == kPictureFiles) {
         OpenLogo(program);
     } else if (program.document.FileFilter == kTerms) {
         program.run.FUTFileName = selected_;
+        program.run.TermsPinned = true;
         Finish(program);
         if (program.hooks.ReadFrequentlyUsedTerms) {
             program.hooks.ReadFrequentlyUsedTerms(program);
@@ -206,14 +206,24 @@ void frmFile::OpenFormat(Program& program) {
 
 void frmFile::OpenLogo(Program& program) {
     const std::string path = paths::Join(Folder, selected_);
-    if (!modLogo::ShowLogo(program, path)) {
+    const std::optional<PictureSize> size = modLogo::ShowLogo(program, path);
+    if (!size) {
         program.platform.questions.MsgBox("The file " + selected_ + " is not a picture that can be shown.",
                                           Buttons::Ok, "");
         return;
     }
+    const PagePicture& logo = program.pages[PageId::frmP1].pic;
+    FormatRecords& format = program.format;
     program.settings.LogoFile = path;
-    program.format.LogoChanged = true;
+    format.LogoPath = path;
+    format.LogoLeft = logo.Left;
+    format.LogoTop = logo.Top;
+    format.LogoChanged = true;
+    format.Touched = true;
     Finish(program);
+    if (const auto message = modLogo::ScaledMessage(*size)) {
+        program.platform.questions.MsgBox(*message, Buttons::Ok, "");
+    }
 }
 
 void frmFile::OpenProposal(Program& program) {

@@ -6,6 +6,9 @@
 #include <string>
 #include <string_view>
 
+/// The files that can be a logo.
+inline constexpr std::string_view kPictureFiles = "*.jpg;*.jpeg;*.bmp;*.gif;*.png;*.svg";
+
 /// The file chooser that all commands share. It opens, or in delete mode deletes, files of one pattern,
 /// `document.FileFilter`. A proposal opens as one by whatever pattern it was found; the other kinds go by the
 /// pattern.

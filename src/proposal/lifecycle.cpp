@@ -66,6 +66,10 @@ void SaveAsSteps(Program& program) {
     modNames::SetBaseName(program, name);
     document.FileName = fileName;
     document.FileExists = true;
+    if (!document.TitleGiven) {
+        document.ClientCaption = "Proposal for " + document.BaseName;
+        modTitles::UpdateFooters(program);
+    }
     if (modFile::SaveEventFile(program) == modFile::SaveResult::NotSaved) {
         // The proposal keeps the name under which it is on the disk.
         modNames::SetBaseName(program, before.BaseName);
@@ -73,7 +77,12 @@ void SaveAsSteps(Program& program) {
         document.DepositFile = before.DepositFile;
         document.FileName = before.FileName;
         document.FileExists = before.FileExists;
+        document.ClientCaption = before.ClientCaption;
+        modTitles::UpdateFooters(program);
         return;
+    }
+    if (program.hooks.AssignPropChanges) {
+        program.hooks.AssignPropChanges(program);
     }
     modFile::SavePropertyFile(program);
     modSideFile::FollowSaveAs(program, before);
@@ -102,6 +111,9 @@ bool SomethingChanged(Program& program) {
 }
 
 void AskToSave(Program& program) {
+    if (program.hooks.CloseLabelWindow) {
+        program.hooks.CloseLabelWindow(program); // what was typed there counts
+    }
     if (!SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
         return;
     }
@@ -124,7 +136,11 @@ bool MayGoOn(Program& program) {
     AskToSave(program);
     const bool goOn = !program.document.Cancelled;
     program.document.Cancelled = false;
-    return goOn;
+    return goOn && MayLeaveFormat(program);
+}
+
+bool MayLeaveFormat(Program& program) {
+    return !program.hooks.MayLeaveFormat || program.hooks.MayLeaveFormat(program);
 }
 
 void SaveEventFileAs(Program& program) {
@@ -137,10 +153,10 @@ void mnuFileNew_Click(Program& program) {
     }
     DocumentState& document = program.document;
     document.DocumentKind = "Event";
-    const bool format = !program.settings.DefaultFormatPath.empty() && program.settings.LoadDefaultFormat;
     if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         return;
     }
+    const bool format = program.format.FormatOpen;
     LeaveBackup(program);
     if (!format) {
         modTitles::SetPageHeading(program, "Contract Proposal");
@@ -150,7 +166,7 @@ void mnuFileNew_Click(Program& program) {
         page.lbl[10].Left = 10080;
         if (!program.run.TermsPinned) {
             program.run.FUTFileName = "Default Terms.fut";
-            if (program.settings.ShowFUT && program.hooks.ReadFrequentlyUsedTerms) {
+            if (program.hooks.ReadFrequentlyUsedTerms) {
                 program.hooks.ReadFrequentlyUsedTerms(program);
             }
         }
@@ -187,7 +203,8 @@ void mnuFileDelete_Click(Program& program) {
         return;
     }
     if (questions.MsgBox("Are you sure you want to delete this file?", Buttons::YesNo,
-                         "Preparing to Delete File.") != Answer::Yes) {
+                         "Preparing to Delete File.") != Answer::Yes ||
+        !MayLeaveFormat(program)) {
         return;
     }
     try {
@@ -212,9 +229,17 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
         if (files::Exists(target)) {
             files::Delete(target);
         }
-        document.ClientCaption = "Proposal for " + document.BaseName;
-        modTitles::UpdateFooters(program);
+        if (!document.TitleGiven) {
+            document.ClientCaption = "Proposal for " + document.BaseName;
+            modTitles::UpdateFooters(program);
+        }
         files::WriteWhole(target, bytes);
+        const std::string layout = document.BaseName + ".hpf";
+        if (modFile::FileIsThere(document.FilePath, layout)) {
+            files::Copy(paths::Join(document.FilePath, layout), paths::Join(folder, layout));
+            program.format.PropertyPath = paths::Join(folder, layout);
+            program.format.PropertySeen = files::LookAt(program.format.PropertyPath);
+        }
         document.FilePath = folder;
         document.FolderOnShow = folder;
         document.HasNotes = modFile::FileIsThere(folder, document.FootnoteFile);

@@ -11,8 +11,11 @@ namespace modProposal {
 
 /// Asks about unsaved changes; sets `document.Cancelled` on Cancel and when Yes could not save.
 void AskToSave(Program& program);
-/// AskToSave, and true when the command may go on; clears `Cancelled`.
+/// AskToSave, then the question about the open format, and true when the command may go on; clears
+/// `Cancelled`.
 [[nodiscard]] bool MayGoOn(Program& program);
+/// The question about the open format alone.
+[[nodiscard]] bool MayLeaveFormat(Program& program);
 
 void SaveEventFileAs(Program& program);
 

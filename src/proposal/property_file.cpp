@@ -6,6 +6,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/rewriting.h"
 
 #include <string>
 
@@ -13,7 +14,13 @@ namespace modFile {
 
 namespace {
 
-void ClearLabelMarks(Program& program) {
+/// Every property is in its file.
+void ClearMarks(Program& program) {
+    for (const PageId page : kLinePages) {
+        for (TextChangeRecord& record : program.format.PropTextChanges[page]) {
+            record.Dirty = false;
+        }
+    }
     for (auto& page : program.format.LabelSavedState) {
         for (LabelChangeRecord& label : page) {
             label.Changed = false;
@@ -32,6 +39,7 @@ std::string PropertyName(const Program& program) {
 } // namespace
 
 SaveResult SavePropertyFile(Program& program) {
+    bool written = false;
     const bool done = Guarded(program, "SavePropertyFile", [&] {
         std::string bytes;
         for (const std::string& line : program.format.PropertyLines) {
@@ -39,23 +47,41 @@ SaveResult SavePropertyFile(Program& program) {
             bytes += text::kCrLf;
         }
         const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
-        files::WriteWhole(path, bytes);
-        ClearLabelMarks(program);
+        FormatRecords& format = program.format;
+        // Under another name, whoever chose that name has agreed to what it replaces.
+        files::Seen seen = path == format.PropertyPath ? format.PropertySeen : files::LookAt(path);
+        written = Rewrite(program, path, bytes, seen, "layout of the proposal") == Rewriting::Done;
+        if (written) {
+            format.PropertyPath = path;
+            format.PropertySeen = seen;
+            format.PropertyLinesRead.reset();
+            ClearMarks(program);
+        }
     });
-    return done ? SaveResult::Saved : SaveResult::NotSaved;
+    return done && written ? SaveResult::Saved : SaveResult::NotSaved;
 }
 
 void ReadFileProperties(Program& program) {
     Guarded(program, "ReadFileProperties", [&] {
-        program.format.PropertyLines.clear();
+        FormatRecords& format = program.format;
+        format.PropertyLines.clear();
+        format.PropertyLinesRead.reset();
+        // A backup may have its own layout beside it; what is saved goes to the data folder all the same.
         const std::string folder = PropertyFolder(program);
-        if (!FileIsThere(folder, PropertyName(program))) {
+        const bool own =
+            program.document.FromBackup && FileIsThere(program.document.FilePath, PropertyName(program));
+        const std::string path = paths::Join(own ? program.document.FilePath : folder, PropertyName(program));
+        format.PropertyPath = path;
+        format.PropertySeen = files::LookAt(path);
+        if (!files::Exists(path)) {
             return;
         }
-        program.format.PropertyLines =
-            text::SplitLines(files::ReadAll(paths::Join(folder, PropertyName(program))));
-        if (!program.format.PropertyLines.empty() && program.hooks.ParsePropertyFile) {
+        format.PropertyLines = text::SplitLines(files::ReadAll(path));
+        if (!format.PropertyLines.empty() && program.hooks.ParsePropertyFile) {
             program.hooks.ParsePropertyFile(program);
+        }
+        if (format.PropertyLinesRead) {
+            format.PropertySeen.Was = files::Seen::What::Unread; // kept when it is replaced
         }
     });
 }

@@ -6,6 +6,7 @@
 #include "base/paths.h"
 #include "base/text.h"
 #include "money/totals.h"
+#include "pages/logo.h"
 #include "pages/page_geometry.h"
 #include "pages/page_marks.h"
 #include "pages/quantity_row.h"
@@ -35,6 +36,13 @@ std::uintmax_t BytesNeeded(const proposal::Widths& widths) {
     return std::max<std::uintmax_t>(needed, proposal::kKindOffset + 1);
 }
 
+/// What both tables say of an area once it was read.
+template <typename Change> void InBothTables(Program& program, PageId page, int index, Change change) {
+    for (TextChangeTable* table : {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
+        change((*table)[page][static_cast<std::size_t>(index)]);
+    }
+}
+
 void TakeQuantityRow(Program& program, PageId page, int index, const quantity_row::QuantityRow& row) {
     modPages::EnsureRowFields(program, page);
     Page& record = program.pages[page];
@@ -43,53 +51,92 @@ void TakeQuantityRow(Program& program, PageId page, int index, const quantity_ro
     record.txtAmt[at].Text = row.Amount;
     record.txt[at].Text = row.Description;
     modPages::PlaceColumns(program, page, index, modPages::Columns::On);
-    for (TextChangeTable* table : {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
-        TextChangeRecord& props = (*table)[page][at];
-        props.QtyBox = true;
-        props.QtyValue = row.Quantity;
-        props.AmtValue = row.Amount;
+    InBothTables(program, page, index, [&](TextChangeRecord& kept) {
+        kept.Text = row.Description;
+        kept.QtyBox = true;
+        kept.QtyValue = row.Quantity;
+        kept.AmtValue = row.Amount;
+    });
+}
+
+/// Columns that a format has laid are none of this proposal's.
+void TakePlainRow(Program& program, PageId page, int index) {
+    Page& record = program.pages[page];
+    const auto at = static_cast<std::size_t>(index);
+    if (record.RowFieldsMade) {
+        const bool client = page == PageId::frmP1;
+        modPages::PlaceColumns(program, page, index, modPages::Columns::Off);
+        record.txtQty[at].Text = client ? "" : "Qty.";
+        record.txtAmt[at].Text = client ? "" : "Amt.";
     }
+    InBothTables(program, page, index, [](TextChangeRecord& kept) {
+        kept.QtyBox = false;
+        kept.QtyValue.clear();
+        kept.AmtValue.clear();
+    });
 }
 
 void TakeText(Program& program, PageId page, int index, std::string_view slot) {
     const auto at = static_cast<std::size_t>(index);
-    if (program.format.FormatTextChanges[page][at].FormatText) {
-        return;
-    }
     const std::string_view value = text::RTrim(slot);
+    TextChangeRecord& format = program.format.FormatTextChanges[page][at];
+    if (format.FormatText && value.empty()) {
+        return; // protected, and the proposal has nothing to put in its place
+    }
+    format.FormatText = false;
     program.document.SavedTextBuf[page][at] = value;
     program.document.CurrentTextBuf[page][at] = value;
     const quantity_row::QuantityRow row = quantity_row::Split(value);
-    if (row.IsRow && geometry::IsDescription(page, index)) {
+    const bool description = geometry::IsDescription(page, index);
+    if (row.IsRow && description) {
         TakeQuantityRow(program, page, index, row);
-    } else if (!value.empty()) {
-        program.pages[page].txt[at].Text = value;
+        return;
+    }
+    program.pages[page].txt[at].Text = value;
+    InBothTables(program, page, index, [&](TextChangeRecord& kept) { kept.Text = value; });
+    if (description) {
+        TakePlainRow(program, page, index);
     }
 }
 
 void TakeAmount(Program& program, PageId page, int index) {
     const auto at = static_cast<std::size_t>(index);
     std::string& current = program.document.CurrentTextBuf[page][at];
+    program.totals.AmountTable[at][page] = 0;
+    program.totals.TaxableTable[at][page] = 0;
+    modPages::SetNoTaxMark(program, page, index, modPages::Mark::Hidden);
+    modPages::SetCurrencySign(program, page, index, modPages::Mark::Hidden);
+    InBothTables(program, page, index, [](TextChangeRecord& kept) { kept.TaxExempt = false; });
     if (text::Trim(current).empty()) {
         return;
     }
+    TextArea& area = program.pages[page].txt[at];
     const bool marked = current.front() == proposal::kExemptMark;
     if (marked) {
         current.erase(0, 1);
     }
-    const std::string_view trimmed = text::Trim(current);
-    const std::optional<float> value = numbers::ToSingle(trimmed, program.settings.CurrencySymbol);
-    if (!value) {
+    const std::string bare(text::Trim(current));
+    if (bare.empty()) {
+        // A mark beside nothing: an empty amount.
+        current.clear();
+        program.document.SavedTextBuf[page][at].clear();
+        area.Text.clear();
         return;
+    }
+    const std::optional<float> value = numbers::ToSingle(bare, program.settings.CurrencySymbol);
+    if (!value) {
+        modTotals::TellNoNumber(program, area);
+        area.BackColor = colors::kOverLimit;
+        return;
+    }
+    if (marked) {
+        InBothTables(program, page, index, [](TextChangeRecord& kept) { kept.TaxExempt = true; });
+        program.document.SavedTextBuf[page][at] = current;
+        area.Text = bare;
+        modPages::SetNoTaxMark(program, page, index, modPages::Mark::Shown);
     }
     program.totals.AmountTable[at][page] = *value;
     program.totals.TaxableTable[at][page] = marked ? 0 : *value;
-    if (marked) {
-        program.format.PropTextChanges[page][at].TaxExempt = true;
-        program.document.SavedTextBuf[page][at] = current;
-        program.pages[page].txt[at].Text = trimmed;
-        modPages::SetNoTaxMark(program, page, index, modPages::Mark::Shown);
-    }
     modPages::SetCurrencySign(program, page, index, modPages::Mark::Shown);
 }
 
@@ -127,12 +174,10 @@ void SettleLogo(Program& program) {
         logo.Visible = false;
         logo.Tag = kHide;
         program.settings.LogoVisible = false;
+        program.run.LogoChecked = false;
         return;
     }
-    logo.Visible = program.settings.LogoVisible && logo.Picture.From != PictureRef::Source::None;
-    if (program.settings.LogoVisible) {
-        logo.Tag.clear();
-    }
+    modLogo::SettleLogoVisibility(program);
 }
 
 } // namespace
@@ -167,7 +212,7 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
     document.ClientCaption = "Proposal for " + document.BaseName;
     TakeKind(program);
     document.HasNotes = FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile);
-    if (program.settings.ShowFUT && program.hooks.ReadFrequentlyUsedTerms) {
+    if (program.hooks.ReadFrequentlyUsedTerms) {
         program.hooks.ReadFrequentlyUsedTerms(program);
     }
     SettleLogo(program);

@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "base/guard.h"
 #include "base/paths.h"
+#include "base/text.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/titles.h"
@@ -10,6 +11,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "proposal/file_names.h"
+#include "proposal/long_texts.h"
 #include "proposal/property_file.h"
 #include "proposal/slot_widths.h"
 
@@ -29,15 +31,12 @@ void GoToClientName(Program& program) {
 }
 
 void CompareTotals(Program& program) {
-    if (program.document.BackingUp) {
-        // A backup comes in the middle of typing: an amount that is not left yet is no discrepancy to tell
-        // of.
-        for (const PageId page : kLinePages) {
-            modTotals::CalculateMyTotals(program, page);
-        }
+    // A backup comes in the middle of typing and leaves the text under the cursor as it stands.
+    if (program.hooks.TakeFreshFigures && !program.document.BackingUp) {
+        program.hooks.TakeFreshFigures(program);
+    } else {
+        modTotals::SumAgain(program);
     }
-    modTotals::RecalculateAll(program);
-    modTotals::UpdateRunningTotals(program);
     if (modTotals::TotalsDiffer(program)) {
         program.totals.TotalsStale = true;
         program.platform.questions.MsgBox(modTotals::DiscrepancyMessage(), Buttons::Ok, "");
@@ -73,34 +72,18 @@ bool NameIsSettled(Program& program) {
     return true;
 }
 
-void ClearLabelMarks(Program& program) {
-    for (auto& page : program.format.LabelSavedState) {
-        for (LabelChangeRecord& label : page) {
-            label.Changed = false;
-        }
-    }
-}
-
 /// The properties, when one has changed.
 SaveResult SaveProperties(Program& program) {
-    if (!PropertiesChanged(program)) {
+    // What a client was sent must print the same when the format is another one.
+    const bool firstUnderFormat = program.format.FormatOpen && !program.document.FileExists;
+    if (!PropertiesChanged(program) && !firstUnderFormat) {
         return SaveResult::Saved;
     }
     if (program.hooks.AssignPropChanges) {
         program.hooks.AssignPropChanges(program);
-        return SavePropertyFile(program);
     }
-    // Nobody writes new lines: what was read goes back as it came.
-    for (const PageId page : kLinePages) {
-        for (TextChangeRecord& record : program.format.PropTextChanges[page]) {
-            record.Dirty = false;
-        }
-    }
-    if (!program.format.PropertyLines.empty()) {
-        return SavePropertyFile(program);
-    }
-    ClearLabelMarks(program);
-    return SaveResult::Saved;
+    // Where nobody writes new lines, what was read goes back as it came.
+    return SavePropertyFile(program);
 }
 
 std::string MakeBytes(const Program& program) {
@@ -109,7 +92,9 @@ std::string MakeBytes(const Program& program) {
         const auto& texts = program.document.CurrentTextBuf[page];
         fields[page].reserve(texts.size());
         for (std::size_t index = 0; index < texts.size(); ++index) {
-            const bool marked = IsLinePage(page) && program.format.PropTextChanges[page][index].TaxExempt;
+            // A mark beside nothing says nothing and would come back as a text.
+            const bool marked = IsLinePage(page) && program.format.PropTextChanges[page][index].TaxExempt &&
+                                !text::Trim(texts[index]).empty();
             fields[page].push_back({texts[index], marked});
         }
     }
@@ -129,12 +114,18 @@ void WriteFile(Program& program) {
 
 void SavingSteps(Program& program, SaveResult& result) {
     DocumentState& document = program.document;
+    if (program.hooks.CloseLabelWindow && !document.BackingUp) {
+        program.hooks.CloseLabelWindow(program);
+    }
     CompareTotals(program);
     if (!NameIsSettled(program)) {
         return;
     }
     if (program.hooks.CollectQtyBoxes) {
         program.hooks.CollectQtyBoxes(program);
+    }
+    if (!document.BackingUp && !MayCutLongTexts(program)) {
+        return;
     }
     // Should a write fail, the properties still count as unsaved.
     const bool properties = PropertiesChanged(program);

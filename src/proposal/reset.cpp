@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "base/guard.h"
 #include "base/paths.h"
+#include "money/totals.h"
 #include "pages/logo.h"
 #include "pages/page_defaults.h"
 #include "pages/page_fonts.h"
@@ -41,6 +42,7 @@ void ClearNames(Program& program) {
         document.FromBackup = false;
     }
     document.ClientCaption.clear();
+    document.TitleGiven = false;
     document.FileExists = false;
     document.BaseName.clear();
     document.FileName.clear();
@@ -57,6 +59,9 @@ void ResetPages(Program& program) {
     program.main.Focus.reset();
     program.main.CurrentPage = 0;
     program.editing.ACActive = {};
+    if (Window* results = modWindows::Find(program, "frmSR")) {
+        modWindows::Close(program, *results); // its hits are those of the proposal that goes
+    }
     // What was deleted from one proposal is not put back into another.
     program.editing.Block.UndoMemory.clear();
     program.editing.UndoAvailable = false;
@@ -100,11 +105,19 @@ void EmptyTexts(Program& program) {
     document.SavedTextBuf[PageId::frmP6].assign(figures, " ");
     for (const PageId id : kLinePages) {
         Page& page = program.pages[id];
+        for (auto* boxes : {&page.txtQty, &page.txtAmt}) {
+            for (TextArea& box : *boxes) {
+                box.ToolTipText.clear();
+            }
+        }
         document.CurrentTextBuf[id].resize(page.txt.size());
         document.SavedTextBuf[id].resize(page.txt.size());
         for (std::size_t area = 0; area < page.txt.size(); ++area) {
             page.txt[area].BackColor = colors::kResting;
             page.txt[area].FontBold = false;
+            if (page.txt[area].ToolTipText == modTotals::kNoNumberTip) {
+                page.txt[area].ToolTipText.clear();
+            }
             if (program.format.FormatTextChanges[id][area].FormatText) {
                 continue;
             }
@@ -129,16 +142,26 @@ void ZeroTotals(Program& program) {
 
 void TakeFormat(Program& program, bool loadDefault) {
     FormatRecords& format = program.format;
+    format.FormatTextChanges = {};
+    format.FormatLabelChanges = {};
+    format.InFile = {};
+    format.LogoChanged = false;
+    format.LogoPending = false;
+    format.Touched = false;
     if (loadDefault) {
         format.FormatFolder = paths::Folder(program.settings.DefaultFormatPath);
         format.FormatName = paths::Name(program.settings.DefaultFormatPath);
         format.FormatOpen = true;
     }
-    if (format.FormatOpen && program.hooks.OpenFormatFile) {
-        program.hooks.OpenFormatFile(program);
-        return;
-    }
+    // A format without a logo of its own leaves this one.
     modLogo::LoadLogo(program);
+    const RunState& run = program.run;
+    format.FontOfFile = {run.DefaultFontName, run.DefaultFontSize, run.DefaultFontColor,
+                         run.DefaultFontItalic};
+    if (format.FormatOpen && program.hooks.OpenFormatFile) {
+        format.LogoPath.clear();
+        program.hooks.OpenFormatFile(program);
+    }
 }
 
 void ResetSteps(Program& program) {
@@ -149,8 +172,10 @@ void ResetSteps(Program& program) {
     ClearNames(program);
     modTitles::SetPageHeading(program, "Event Proposal");
     modTitles::UpdateEventNameLabels(program);
+    program.document.WindowTitle = "Quillbrook";
     ResetPages(program);
     ResetFont(program);
+    modTitles::CentreFooters(program);
     program.totals.PageSum = {};
     program.totals.PageTaxable = {};
     EmptyTexts(program);
@@ -162,6 +187,9 @@ void ResetSteps(Program& program) {
 
 ResetResult StartNewFile(Program& program) {
     ResetResult result = ResetResult::Done;
+    if (program.hooks.CloseLabelWindow) {
+        program.hooks.CloseLabelWindow(program);
+    }
     Guarded(program, "StartNewFile", [&] {
         {
             const ScopedFlag active(program.guards.ResetActive);

@@ -1,5 +1,6 @@
 #include "proposal/side_files.h"
 
+#include "base/file_places.h"
 #include "base/files.h"
 #include "base/folder_scan.h"
 #include "base/paths.h"
@@ -25,7 +26,7 @@ std::string MadeBackupFolder(const Program& program) {
 std::string FreeBackupName(const Program& program, std::string_view name) {
     const std::string first = paths::Join(MadeBackupFolder(program), std::string(name) + ".old");
     std::string free = first;
-    for (int number = 2; files::OnDisk(free); ++number) {
+    for (int number = 2; file_places::Locate(free); ++number) {
         free = first + std::to_string(number);
     }
     return free;
@@ -42,9 +43,6 @@ void FollowOne(Program& program, const DocumentState& before, std::string_view e
     const std::string target = paths::Join(to, is);
     if (before.FileExists && !before.BaseName.empty() && modFile::FileIsThere(from, was)) {
         const std::string bytes = files::ReadAll(paths::Join(from, was));
-        if (files::Exists(target)) {
-            files::ClearAttributes(target);
-        }
         files::WriteWhole(target, bytes);
     } else if (files::Exists(target)) {
         files::Rename(target, FreeBackupName(program, is));
@@ -69,6 +67,7 @@ Known Read(Program& program, std::string_view name, std::string_view procedure) 
         known.There = files::Exists(path);
         if (known.There) {
             known.Bytes = files::ReadAll(path);
+            known.Seen = files::SeenIn(known.Bytes);
         }
     });
     known.Locked = !done;
@@ -83,16 +82,14 @@ bool Write(Program& program, Known& known, std::string_view name, std::string_vi
     bool written = false;
     Guarded(program, procedure, [&] {
         const std::string path = paths::Join(FolderOf(program, program.document), name);
-        if (files::Exists(path)) {
-            const bool same = known.There && files::ReadAll(path) == known.Bytes;
-            if (!same && program.platform.questions.MsgBox(question, Buttons::YesNo, "") != Answer::Yes) {
-                return;
-            }
-            files::ClearAttributes(path);
+        if (files::ChangedSince(path, known.Seen) &&
+            program.platform.questions.MsgBox(question, Buttons::YesNo, "", {.Default = Answer::No}) !=
+                Answer::Yes) {
+            return;
         }
         files::WriteWhole(path, bytes);
         known.There = true;
-        known.Bytes = bytes;
+        known.Seen = files::SeenIn(bytes);
         written = true;
     });
     return written;

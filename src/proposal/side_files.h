@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/seen.h"
+
 #include <string>
 #include <string_view>
 
@@ -14,8 +16,9 @@ namespace modSideFile {
 
 /// What is known of a side file since it was last read or written here.
 struct Known {
+    files::Seen Seen;
     bool There = false;
-    std::string Bytes;
+    std::string Bytes;   ///< of the read
     bool Locked = false; ///< it is there and could not be read; it is not to be written
 };
 

@@ -7,6 +7,18 @@
 #include "program/windows.h"
 #include "settings/printer_offsets.h"
 
+#include <cmath>
+#include <string_view>
+
+namespace {
+
+float TwipsTyped(const TextBox& box) {
+    const float twips = numbers::ToSingle(text::Trim(box.Text)).value_or(0) * modOffsets::kTwipsPerInch;
+    return std::isfinite(twips) ? twips : 0;
+}
+
+} // namespace
+
 void frmPOffsets::Form_Load(Program& program) {
     Caption = "Printer Offsets";
     // The boxes begin with what is in force, so that one of them can be changed alone.
@@ -21,7 +33,7 @@ void frmPOffsets::ShowValues(const Program& program) {
     };
     lblX.Caption =
         "Printer X Offset (Horizontal) - Current Value = " + inches(program.printing.PrinterOffsetX);
-    // People know the second label by this wording.
+    // Wanted: the second label says "Horizontal" too; what its box moves is told by "Y".
     lblY.Caption =
         "Printer Y Offset (Horizontal) - Current Value = " + inches(program.printing.PrinterOffsetY);
 }
@@ -32,14 +44,28 @@ int frmPOffsets::txt_KeyPress(int keyAscii) {
     return passes ? keyAscii : 0;
 }
 
-void frmPOffsets::cmdOK_Click(Program& program) {
-    program.printing.PrinterOffsetX = modOffsets::TwipsOf(txtX.Text);
-    program.printing.PrinterOffsetY = modOffsets::TwipsOf(txtY.Text);
+frmPOffsets::Numbers frmPOffsets::Take(Program& program) {
+    for (const TextBox* box : {&txtX, &txtY}) {
+        const std::string_view typed = text::Trim(box->Text);
+        if (!typed.empty() && !numbers::IsNumeric(typed)) {
+            program.platform.questions.MsgBox(numbers::NoNumberMessage(typed), Buttons::Ok, "");
+            return Numbers::Refused;
+        }
+    }
+    program.printing.PrinterOffsetX = TwipsTyped(txtX);
+    program.printing.PrinterOffsetY = TwipsTyped(txtY);
     ShowValues(program);
+    return Numbers::Taken;
+}
+
+void frmPOffsets::cmdOK_Click(Program& program) {
+    static_cast<void>(Take(program));
 }
 
 void frmPOffsets::cmdSavePrinterOffsets_Click(Program& program) {
-    cmdOK_Click(program);
+    if (Take(program) == Numbers::Refused) {
+        return;
+    }
     modOffsets::SavePrinterOffsets(program);
     modWindows::Close(program, *this);
 }

@@ -21,12 +21,15 @@ public:
     /// Digits, comma, minus, point and backspace pass; 0 for anything else, enter and tab included. For both
     /// boxes.
     [[nodiscard]] static int txt_KeyPress(int keyAscii);
-    /// What the boxes hold is in force from now on. The window stays open.
+    /// What the boxes hold is in force from now on. The window stays open. What is no number is told, and
+    /// nothing changes.
     void cmdOK_Click(Program& program);
-    /// Puts the boxes in force, writes the file and closes.
+    /// Puts the boxes in force, writes the file and closes; stays open over what is no number.
     void cmdSavePrinterOffsets_Click(Program& program);
     static void mnuHelpPrinterOffsets_Click(Program& program);
 
 private:
+    enum class Numbers { Taken, Refused };
+    [[nodiscard]] Numbers Take(Program& program);
     void ShowValues(const Program& program);
 };

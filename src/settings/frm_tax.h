@@ -3,6 +3,8 @@
 #include "program/controls.h"
 #include "program/window.h"
 
+#include <string>
+
 /// "Sales Tax Rate": shows the rate in force and takes a new one.
 class frmTax : public Window {
 public:
@@ -16,10 +18,15 @@ public:
     void Form_Load(Program& program) override;
     void Form_Cancel(Program& program) override;
 
-    /// Digits, the point, backspace and tab pass; 0 for anything else.
+    /// Digits, point, comma, backspace and tab pass; 0 for anything else.
     [[nodiscard]] static int txtTaxRate_KeyPress(int keyAscii);
+    /// Saves what was typed. An empty box and the rate that is in force change nothing; what is no number is
+    /// told, and the window stays.
     void cmdOK_Click(Program& program);
     void cmdCancel_Click(Program& program);
+
+private:
+    std::string inForce_;
 };
 
 namespace modTax {

@@ -5,6 +5,7 @@
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
 #include "settings/printer_offsets.h"
@@ -105,16 +106,20 @@ void Distribute(Program& program) {
     settings.CompanyWebsite = textOf(Key::CompanyWebsite);
     settings.CompanyEmail = textOf(Key::CompanyEmail);
     settings.PageTitle = textOf(Key::PageTitle);
-    settings.LogoFile = textOf(Key::LogoFile);
-    settings.LogoLeft = number(Key::LogoLeft);
-    settings.LogoTop = number(Key::LogoTop);
     settings.AutoCompleteWord = flag(Key::AutoCompleteWord);
     settings.AutoStartPosition = ToInteger(textOf(Key::AutoStartPosition));
     settings.ShowFUT = flag(Key::ShowFUT);
     settings.MinimizeFUT = flag(Key::MinimizeFUT);
     settings.ShowCalc = flag(Key::ShowCalc);
     settings.DefaultFormatPath = textOf(Key::DefaultFileFormat);
-    settings.LoadDefaultFormat = flag(Key::LoadDefaultFormat);
+    if (!settings.PrefsRead) {
+        // The run's own from then on.
+        settings.LoadDefaultFormat = flag(Key::LoadDefaultFormat);
+        settings.LogoFile = textOf(Key::LogoFile);
+        settings.LogoLeft = number(Key::LogoLeft);
+        settings.LogoTop = number(Key::LogoTop);
+        settings.LogoVisible = flag(Key::LogoVisible);
+    }
     settings.DefaultPrinter = textOf(Key::DefaultPrinter);
     settings.CurrencySymbol = textOf(Key::CurrencySymbol);
     settings.FrequentTermsFile = textOf(Key::FrequentTermsFile);
@@ -127,7 +132,6 @@ void Distribute(Program& program) {
     settings.SavedFontSize = number(Key::FontSize);
     settings.SavedFontColor = static_cast<Color>(ToInteger(textOf(Key::FontColor)));
     settings.SavedFontItalic = flag(Key::FontItalic);
-    settings.LogoVisible = flag(Key::LogoVisible);
     if (shorter) {
         ReportError(
             program, "GetUserPreferences",
@@ -139,24 +143,20 @@ void Distribute(Program& program) {
 void PutInForce(Program& program) {
     const SettingsRecords& settings = program.settings;
     RunState& run = program.run;
-    // Reading the settings again must not bring back a font that the start has found missing.
-    run.DefaultFontName =
-        run.FontsLoaded && !run.DefaultFontFound ? "Times New Roman" : settings.SavedFontName;
-    run.DefaultFontSize = settings.SavedFontSize;
-    run.DefaultFontColor = settings.SavedFontColor;
-    run.DefaultFontItalic = settings.SavedFontItalic;
-    if (!settings.PageTitles.empty()) {
-        program.document.PageHeading = settings.PageTitles;
-    }
-    if (!settings.LogoFile.empty()) {
-        const bool whole =
-            settings.LogoFile.find(':') != std::string::npos || paths::IsAbsolute(settings.LogoFile);
-        run.LogoPath =
-            whole ? settings.LogoFile : paths::Join(program.folders.InstallFolder, settings.LogoFile);
-    }
-    run.TermsPinned = !settings.FrequentTermsFile.empty() && settings.LoadFUT;
-    if (run.TermsPinned) {
-        run.FUTFileName = settings.FrequentTermsFile;
+    if (!settings.PrefsRead) {
+        // Read again in mid-run, for another printer or currency, the settings leave alone what the open
+        // proposal, its format and the person have in force.
+        run.DefaultFontName = settings.SavedFontName;
+        run.DefaultFontSize = settings.SavedFontSize;
+        run.DefaultFontColor = settings.SavedFontColor;
+        run.DefaultFontItalic = settings.SavedFontItalic;
+        if (!settings.PageTitles.empty()) {
+            program.document.PageHeading = settings.PageTitles;
+        }
+        run.TermsPinned = !settings.FrequentTermsFile.empty() && settings.LoadFUT;
+        if (run.TermsPinned) {
+            run.FUTFileName = settings.FrequentTermsFile;
+        }
     }
     Printers& printers = program.platform.printers;
     run.NoPrinter = printers.Names().empty();
@@ -165,23 +165,18 @@ void PutInForce(Program& program) {
     }
 }
 
-std::string OwnProposals(const Program& program) {
-    return paths::WithSeparator(paths::Join(program.folders.InstallFolder, kProposals));
-}
-
 /// Copies the shared data of an installation into a new shared folder; what it does not hold is left out.
 void FillSharedFolder(Program& program, const std::string& folder) {
     struct Item {
         std::string_view From;
         std::string_view To;
     };
-    // The tax file's new name has always been written so; the rate of a new shared folder is asked for
-    // afresh.
+    // Wanted: the tax file gets a name that nothing reads, so that a new shared folder asks for its own rate.
     constexpr std::array<Item, 3> kItems{{{"Default Terms.fut", "Default Terms.fut"},
                                           {"Wedding Terms.fut", "Wedding Terms.fut"},
                                           {"SalesTax.txt", "SaleTax.txt"}}};
     for (const Item& item : kItems) {
-        const std::string from = paths::Join(OwnProposals(program), item.From);
+        const std::string from = paths::Join(modFolders::OwnFolder(program), item.From);
         if (files::Exists(from)) {
             files::Copy(from, paths::Join(folder, item.To));
         }
@@ -191,7 +186,7 @@ void FillSharedFolder(Program& program, const std::string& folder) {
 std::string ChooseFolder(Program& program) {
     Folders& folders = program.folders;
     if (program.settings.SharedDirectory.empty()) {
-        return OwnProposals(program);
+        return modFolders::OwnFolder(program);
     }
     folders.SharedFolder =
         paths::WithSeparator(paths::ResolveDrive(program.settings.SharedDirectory, folders.Drives));
@@ -206,7 +201,7 @@ std::string ChooseFolder(Program& program) {
                                       "files normally reside. Would you like to create the folder now?"}),
                          Buttons::YesNo, "Proposals Folder Not Found");
     if (answer != Answer::Yes) {
-        return OwnProposals(program);
+        return modFolders::OwnFolder(program);
     }
     try {
         files::MakeFolder(shared);
@@ -214,7 +209,7 @@ std::string ChooseFolder(Program& program) {
         FillSharedFolder(program, shared);
     } catch (const std::exception& error) {
         ReportError(program, "GetUserPreferences", error);
-        return files::IsFolder(shared) ? shared : OwnProposals(program);
+        return files::IsFolder(shared) ? shared : modFolders::OwnFolder(program);
     }
     return shared;
 }
@@ -283,11 +278,13 @@ void GetUserPreferences(Program& program) {
         EnsureFolders(program);
         modOffsets::ReadPrinterOffsets(program);
         settings.PrefsRead = true;
+        if (program.hooks.ReadFrequentlyUsedTerms) {
+            program.hooks.ReadFrequentlyUsedTerms(program); // the folder may be another one
+        }
     });
 }
 
 bool SaveUserPreferences(Program& program) {
-    // The log has always had this routine under the other's name.
     return Guarded(program, "RequestNetworkSharePath", [&] {
         const std::string path = paths::Join(program.folders.InstallFolder, kFileName);
         std::string bytes;

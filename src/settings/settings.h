@@ -54,7 +54,7 @@ enum class Key : int {
 void GetUserPreferences(Program& program);
 
 /// Rewrites the file from the lines; false when it could not be written. Reports as
-/// "RequestNetworkSharePath", as the log has always had it.
+/// "RequestNetworkSharePath": the log knows both writers of the file by one name.
 bool SaveUserPreferences(Program& program);
 
 /// Replaces one line in memory, growing the lines when the file was short.

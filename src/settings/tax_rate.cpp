@@ -41,14 +41,12 @@ void SaveTaxRate(Program& program, std::string_view rateText) {
         program.totals.TaxRate = numbers::ValSingle(five);
         const std::string path = PathOf(program);
         files::WriteWhole(path, five);
-        Questions& questions = program.platform.questions;
-        questions.MsgBox("New Sales Tax Rate is " + numbers::FormatSingle(program.totals.TaxRate, "##.00") +
-                             " %",
-                         Buttons::Ok, "");
-        if (program.totals.TaxRate != 0 && program.totals.HasAmounts()) {
-            program.totals.TotalsStale = true;
-            questions.MsgBox("Please click Recalculate to update the totals.", Buttons::Ok, "");
+        if (program.totals.HasAmounts() && program.hooks.TakeFreshFigures) {
+            program.hooks.TakeFreshFigures(program);
         }
+        program.platform.questions.MsgBox("New Sales Tax Rate is " +
+                                              numbers::FormatSingle(program.totals.TaxRate, "##.00") + " %",
+                                          Buttons::Ok, "");
     });
 }
 

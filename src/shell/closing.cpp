@@ -1,6 +1,7 @@
 #include "shell/closing.h"
 
 #include "editing/selection.h"
+#include "format/leave_format.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
@@ -29,7 +30,7 @@ bool MDIForm_QueryUnload(Program& program) {
         return false;
     }
     if (!modProposal::SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
-        return true;
+        return modFormat::MayLeaveFormat(program);
     }
     const Answer answer = program.platform.questions.MsgBox(
         "The file has been changed. Do you want to save it?", Buttons::YesNoCancel, "Text has been Changed");
@@ -38,7 +39,7 @@ bool MDIForm_QueryUnload(Program& program) {
         modFile::SaveEventFile(program);
         return false;
     }
-    return answer == Answer::No;
+    return answer == Answer::No && modFormat::MayLeaveFormat(program);
 }
 
 void MDIForm_Unload(Program& program) {

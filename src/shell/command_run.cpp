@@ -2,6 +2,8 @@
 
 #include "editing/area_mouse.h"
 #include "editing/selection.h"
+#include "editing/text_menu.h"
+#include "format/frm_label_props.h"
 #include "program/program.h"
 #include "shell/command_table.h"
 #include "shell/main_controls.h"
@@ -9,14 +11,27 @@
 
 namespace commands {
 
+namespace {
+
+bool IsUnder(const Entry& entry, CommandId menu) {
+    for (CommandId at = entry.Parent; at != CommandId::Count; at = Find(at).Parent) {
+        if (at == menu) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
 void Run(Program& program, CommandId id) {
     modMain::WorkOutControls(program);
     const Entry& entry = Find(id);
     modBlocks::FinishMove(program); // an arrow still held: what moved must be stored before anything else
     modText::TextMenuClosed(program);
     // A shortcut must not act on the state of a field that has been left meanwhile.
-    if (entry.Parent == CommandId::mnuEditTextBox && program.hooks.UpdateTextMenu) {
-        program.hooks.UpdateTextMenu(program);
+    if (entry.Parent == CommandId::mnuEditTextBox) {
+        modBlocks::UpdateTextMenu(program);
     }
     if (entry.Pending()) {
         program.main.Notice = kNotBuilt; // a tool button leads here, too
@@ -30,6 +45,10 @@ void Run(Program& program, CommandId id) {
     }
     if (RefuseInPreview(program, id)) {
         return;
+    }
+    if (IsUnder(entry, CommandId::mnuFile) || IsUnder(entry, CommandId::mnuFileFormat)) {
+        // What is saved, printed or left behind holds what was typed in the label window.
+        modDesigner::CloseLabelWindow(program);
     }
     if (entry.Run != nullptr) {
         entry.Run(program);

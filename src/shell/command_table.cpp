@@ -1,5 +1,6 @@
 #include "shell/command_table.h"
 
+#include "calculator/frm_calc.h"
 #include "calendar/frm_dates.h"
 #include "contract/frm_editor.h"
 #include "contract/frm_notes.h"
@@ -10,7 +11,14 @@
 #include "editing/columns.h"
 #include "editing/selection.h"
 #include "editing/text_commands.h"
+#include "format/format_commands.h"
+#include "format/frm_snap.h"
+#include "format/frm_text_props.h"
+#include "format/frm_title.h"
 #include "format/grid.h"
+#include "format/label_designer.h"
+#include "format/label_keys.h"
+#include "format/logo.h"
 #include "money/totals.h"
 #include "output/preview.h"
 #include "output/print.h"
@@ -26,9 +34,12 @@
 #include "shell/admin_commands.h"
 #include "shell/closing.h"
 #include "shell/desktop_links.h"
+#include "shell/find_command.h"
 #include "shell/help_commands.h"
 #include "shell/option_commands.h"
 #include "shell/support_commands.h"
+#include "terms/area_terms.h"
+#include "terms/frm_fut.h"
 
 #include <array>
 #include <memory>
@@ -199,34 +210,41 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuFileFormatNew,
           .Name = "mnuFileFormatNew",
           .Caption = "&Clear Current Format",
-          .Parent = mnuFileFormat},
+          .Parent = mnuFileFormat,
+          .Run = modFormat::mnuFileFormatNew_Click},
     Entry{.Id = mnuFileFormatOpen,
           .Name = "mnuFileFormatOpen",
           .Caption = "&Open Existing Format",
-          .Parent = mnuFileFormat},
+          .Parent = mnuFileFormat,
+          .Run = modFormat::mnuFileFormatOpen_Click},
     Entry{.Id = mnuFileFormatSave,
           .Name = "mnuFileFormatSave",
           .Caption = "&Save Current Format",
-          .Parent = mnuFileFormat},
+          .Parent = mnuFileFormat,
+          .Run = modFormat::mnuFileFormatSave_Click},
     Entry{.Id = mnuFileFormatSaveAs,
           .Name = "mnuFileFormatSaveAs",
           .Caption = "Save Current Format &As...",
-          .Parent = mnuFileFormat},
+          .Parent = mnuFileFormat,
+          .Run = modFormat::mnuFileFormatSaveAs_Click},
     Entry{.Id = mnuFileFormatDefault,
           .Name = "mnuFileFormatDefault",
           .Caption = "Se&t Current Format as Default",
-          .Parent = mnuFileFormat},
+          .Parent = mnuFileFormat,
+          .Run = modFormat::mnuFileFormatDefault_Click},
     Entry{.Id = mnuFileFormatDelete,
           .Name = "mnuFileFormatDelete",
           .Caption = "Delete This Format",
-          .Parent = mnuFileFormat},
+          .Parent = mnuFileFormat,
+          .Run = modFormat::mnuFileFormatDelete_Click},
     Entry{.Id = mnuEdit, .Name = "mnuEdit", .Caption = "&Edit", .What = Kind::Menu},
     Entry{
         .Id = mnuEditCompInfo, .Name = "mnuEditCompInfo", .Caption = "Edit Company Info", .Parent = mnuEdit},
     Entry{.Id = mnuEditTitles,
           .Name = "mnuEditTitles",
           .Caption = "Proposal Page Titles and Subtitles",
-          .Parent = mnuEdit},
+          .Parent = mnuEdit,
+          .Run = modTitleCommands::mnuEditTitles_Click},
     Entry{.Id = mnuEditSpellCheck,
           .Name = "mnuEditSpellCheck",
           .Caption = "Chec&k Spelling",
@@ -235,6 +253,7 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Name = "mnuEditFind",
           .Caption = "&Find",
           .Parent = mnuEdit,
+          .Run = modMain::mnuEditFind_Click,
           .Shortcut = "Ctrl+F"},
     Entry{.Id = mnuEditCtrl, .Name = "mnuEditCtrl", .Caption = "&Edit Control", .What = Kind::Menu},
     Entry{.Id = mnuEditTextBox,
@@ -299,15 +318,18 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Name = "mnuEditTextAddFUT",
           .Caption = "Add to Frequent Terms",
           .Parent = mnuEditTextBox,
+          .Run = modTerms::AddTermFromArea,
           .Shortcut = "F9"},
     Entry{.Id = mnuEditTextEditFUT,
           .Name = "mnuEditTextEditFUT",
           .Caption = "Edit this Frequent Term",
-          .Parent = mnuEditTextBox},
+          .Parent = mnuEditTextBox,
+          .Run = modTerms::mnuEditTextEditFUT_Click},
     Entry{.Id = mnuEditTextDeleteFUT,
           .Name = "mnuEditTextDeleteFUT",
           .Caption = "Remove from Frequent Terms",
-          .Parent = mnuEditTextBox},
+          .Parent = mnuEditTextBox,
+          .Run = modTerms::mnuEditTextDeleteFUT_Click},
     Entry{.Id = mnuEditTextBreak3,
           .Name = "mnuEditTextBreak3",
           .Caption = "-",
@@ -408,15 +430,25 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuEditLabelProps,
           .Name = "mnuEditLabelProps",
           .Caption = "Label &Properties",
-          .Parent = mnuEditLabel},
+          .Parent = mnuEditLabel,
+          .Run = modDesigner::mnuEditLabelProps_Click},
     Entry{.Id = mnuEditLabelSelectAll,
           .Name = "mnuEditLabelSelectAll",
           .Caption = "&Select All",
-          .Parent = mnuEditLabel},
+          .Parent = mnuEditLabel,
+          .Run = modDesigner::mnuEditLabelSelectAll_Click},
     Entry{.Id = mnuEditLabelDeselectAll,
           .Name = "mnuEditLabelDeselectAll",
           .Caption = "&DeSelect All",
-          .Parent = mnuEditLabel},
+          .Parent = mnuEditLabel,
+          .Run = modDesigner::mnuEditLabelDeselectAll_Click},
+    Entry{.Id = mnuEditLabelMode,
+          .Name = "mnuEditLabelMode",
+          .Caption = "Labels by &Keyboard",
+          .Parent = mnuEditLabel,
+          .Run = modLabelKeys::mnuEditLabelMode_Click,
+          .Shortcut = "Ctrl+L",
+          .Checkable = true},
     Entry{.Id = mnuEditLogo,
           .Name = "mnuEditLogo",
           .Caption = "Logo",
@@ -425,25 +457,31 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuEditLogoOpen,
           .Name = "mnuEditLogoOpen",
           .Caption = "Select Different Logo",
-          .Parent = mnuEditLogo},
+          .Parent = mnuEditLogo,
+          .Run = modLogo::mnuEditLogoOpen_Click},
     Entry{.Id = mnuEditLogoSave,
           .Name = "mnuEditLogoSave",
           .Caption = "Save this Logo as Default",
-          .Parent = mnuEditLogo},
+          .Parent = mnuEditLogo,
+          .Run = modLogo::mnuEditLogoSave_Click},
     Entry{.Id = mnuEditLogoVisible,
           .Name = "mnuEditLogoVisible",
           .Caption = "Show Logo",
           .Parent = mnuEditLogo,
+          .Run = modLogo::mnuEditLogoVisible_Click,
           .Checkable = true},
     Entry{.Id = mnuEditLogoBorder,
           .Name = "mnuEditLogoBorder",
           .Caption = "Show Logo with Border",
           .Parent = mnuEditLogo,
+          .Run = modLogo::mnuEditLogoBorder_Click,
+          .Checked = true,
           .Checkable = true},
     Entry{.Id = mnuEditAllTextFonts,
           .Name = "mnuEditAllTextFonts",
           .Caption = "Edit &All Text Area Fonts",
-          .Parent = mnuEditCtrl},
+          .Parent = mnuEditCtrl,
+          .Run = modFormat::mnuEditAllTextFonts_Click},
     Entry{.Id = mnuView, .Name = "mnuView", .Caption = "&View", .What = Kind::Menu},
     Entry{.Id = mnuViewEventDates,
           .Name = "mnuViewEventDates",
@@ -473,8 +511,16 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Parent = mnuManage,
           .Run = modContract::mnuManageEditor_Click},
     Entry{.Id = mnuOpt, .Name = "mnuOpt", .Caption = "Options", .What = Kind::Menu},
-    Entry{.Id = mnuOptFUT, .Name = "mnuOptFUT", .Caption = "Show &Frequently Used Terms", .Parent = mnuOpt},
-    Entry{.Id = mnuOptCalc, .Name = "mnuOptCalc", .Caption = "Show &Calculator", .Parent = mnuOpt},
+    Entry{.Id = mnuOptFUT,
+          .Name = "mnuOptFUT",
+          .Caption = "Show &Frequently Used Terms",
+          .Parent = mnuOpt,
+          .Run = modTerms::mnuOptFUT_Click},
+    Entry{.Id = mnuOptCalc,
+          .Name = "mnuOptCalc",
+          .Caption = "Show &Calculator",
+          .Parent = mnuOpt,
+          .Run = modCalculator::mnuOptCalc_Click},
     Entry{.Id = mnuOptPrinterOffset,
           .Name = "mnuOptPrinterOffset",
           .Caption = "Change Printer Offsets",
@@ -549,11 +595,16 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Parent = mnuOpt,
           .Run = modOptions::mnuOptEmptyBackup_Click},
     Entry{.Id = mnuTools, .Name = "mnuTools", .Caption = "&Tools", .What = Kind::Menu},
-    Entry{.Id = mnuToolsSnap, .Name = "mnuToolsSnap", .Caption = "Change Snap", .Parent = mnuTools},
+    Entry{.Id = mnuToolsSnap,
+          .Name = "mnuToolsSnap",
+          .Caption = "Change Snap",
+          .Parent = mnuTools,
+          .Run = modDesigner::mnuToolsSnap_Click},
     Entry{.Id = mnuToolsAlignWithSnap,
           .Name = "mnuToolsAlignWithSnap",
           .Caption = "Align Form to Snap",
-          .Parent = mnuTools},
+          .Parent = mnuTools,
+          .Run = modDesigner::mnuToolsAlignWithSnap_Click},
     Entry{.Id = mnuToolsDrawCenterLines,
           .Name = "mnuToolsDrawCenterLines",
           .Caption = "Draw Grid",
@@ -611,8 +662,10 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Caption = "Logon",
           .Parent = mnuToolsAdmin,
           .Run = modAdmin::mnuAdminLogon_Click},
-    Entry{
-        .Id = mnuAdminTestCode, .Name = "mnuAdminTestCode", .Caption = "Test Code", .Parent = mnuToolsAdmin},
+    Entry{.Id = mnuAdminTestCode,
+          .Name = "mnuAdminTestCode",
+          .Caption = "Test Code",
+          .Parent = mnuToolsAdmin},
     Entry{.Id = mnuToolsAdminShowAllLabels,
           .Name = "mnuToolsAdminShowAllLabels",
           .Caption = "Show All Labels",

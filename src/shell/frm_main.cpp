@@ -1,6 +1,7 @@
 #include "shell/frm_main.h"
 
 #include "base/numbers.h"
+#include "editing/navigation.h"
 #include "editing/selection.h"
 #include "money/totals.h"
 #include "output/preview.h"
@@ -89,6 +90,6 @@ void frmMain::imgPage_Click(int index) {
     if (page == PageId::frmP6_1) {
         modFields::DropFocus(program_);
     } else {
-        modFields::GiveFocus(program_, {page, FieldKind::txt, page == PageId::frmP6 ? kDeposit : 0});
+        modNavigate::Arrive(program_, {page, FieldKind::txt, page == PageId::frmP6 ? kDeposit : 0});
     }
 }

@@ -5,10 +5,13 @@
 #include "editing/area_mouse.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
+#include "editing/navigation.h"
 #include "editing/selection.h"
 #include "editing/typing.h"
 #include "editing/word_marking.h"
-#include "money/totals.h"
+#include "format/label_designer.h"
+#include "format/logo.h"
+#include "money/amounts.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"
@@ -47,7 +50,7 @@ void Call(const std::function<void(Program&, int)>& hook, Program& program, int 
 }
 
 /// The page's own keys come before the field's.
-Taken Form_KeyDown(Program& program, int keyCode) {
+Taken Form_KeyDown(Program& program, int keyCode, int shift) {
     if (keyCode != keys::kUp && keyCode != keys::kDown) {
         modBlocks::FinishMove(program); // another key while the arrow is still held, or was let go elsewhere
     }
@@ -58,6 +61,12 @@ Taken Form_KeyDown(Program& program, int keyCode) {
     const std::optional<FieldRef> field = TypingField(program);
     if (!field || !IsLinePage(field->Page)) {
         return Taken::No;
+    }
+    if (shift == keys::kShiftState && (keyCode == keys::kUp || keyCode == keys::kDown) &&
+        modBlocks::ExtendByKey(program, *field,
+                               keyCode == keys::kUp ? modBlocks::Toward::Up : modBlocks::Toward::Down) ==
+            Taken::Yes) {
+        return Taken::Yes;
     }
     if (program.editing.BlockMode && (keyCode == keys::kUp || keyCode == keys::kDown)) {
         // The block moves; the focus stays where it is.
@@ -70,27 +79,64 @@ Taken Form_KeyDown(Program& program, int keyCode) {
     return Taken::No;
 }
 
+/// Which keys put characters into which field: completion asks when they are let go.
+void NoteKeyDown(Program& program, int keyCode) {
+    TypedKeys& typed = program.editing.Typed;
+    typed.KeyDown = keyCode;
+    typed.Character = false;
+    typed.Codes.reset(TypedKeys::PlaceOf(keyCode));
+}
+
+void NoteTyped(Program& program, const FieldRef& field) {
+    TypedKeys& typed = program.editing.Typed;
+    if (!typed.Character) {
+        return;
+    }
+    typed.Character = false;
+    if (typed.Field != field) {
+        typed.Codes.reset();
+        typed.Field = field;
+    }
+    typed.Codes.set(TypedKeys::PlaceOf(typed.KeyDown));
+}
+
 void PutCursor(Program& program, const FieldRef& field, int selStart, int selLength) {
     modFields::SetCursor(modFields::Area(program, field), selStart, selLength);
+}
+
+/// The caret's label follows every move of the cursor, by whatever key or hand.
+void ShowCaret(Program& program) {
+    if (program.main.Focus) {
+        program.main.lblCurPos.Caption =
+            "Cursor Location = " + std::to_string(modFields::Area(program, *program.main.Focus).SelStart);
+    }
+}
+
+Taken FieldKeyDown(Program& program, const FieldRef& field, int keyCode, int shift) {
+    return IsText(field) ? modText::txt_KeyDown(program, field.Page, field.Index, keyCode, shift)
+                         : modColumns::Box_KeyDown(program, field, keyCode, shift);
 }
 
 } // namespace
 
 Taken KeyDown(Program& program, int keyCode, int shift, int selStart, int selLength) {
     program.main.Notice.clear();
+    NoteKeyDown(program, keyCode);
     if (program.main.Focus) {
         PutCursor(program, *program.main.Focus, selStart, selLength);
     }
-    if (Form_KeyDown(program, keyCode) == Taken::Yes) {
+    if (Form_KeyDown(program, keyCode, shift) == Taken::Yes) {
         return Taken::Yes;
     }
     const std::optional<FieldRef> focus = TypingField(program);
     if (!focus) {
         return Taken::No;
     }
-    const FieldRef field = *focus;
-    return IsText(field) ? modText::txt_KeyDown(program, field.Page, field.Index, keyCode, shift)
-                         : modColumns::Box_KeyDown(program, field, keyCode, shift);
+    const Taken taken = FieldKeyDown(program, *focus, keyCode, shift);
+    if (taken == Taken::Yes) {
+        ShowCaret(program);
+    }
+    return taken;
 }
 
 int KeyPress(Program& program, int keyAscii) {
@@ -105,6 +151,7 @@ int KeyPress(Program& program, int keyAscii) {
     } else {
         modColumns::Box_KeyPress(program, field, kept);
     }
+    program.editing.Typed.Character = kept >= keys::kBlank;
     return kept;
 }
 
@@ -113,16 +160,20 @@ bool MayEdit(Program& program, const FieldRef& field) {
 }
 
 void Edited(Program& program, const FieldRef& field, std::string_view text, int selStart, int selLength) {
+    NoteTyped(program, field);
     modFields::TypeText(program, field, text, selStart, selLength);
+    ShowCaret(program);
 }
 
 void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view text, int selStart,
                       int selLength) {
+    program.editing.Typed.Character = false;
     if (IsText(field)) {
         program.editing.CursorPos = modFields::Area(program, field).SelStart;
         program.editing.LastKeyChar.clear();
     }
     modFields::TypeText(program, field, text, selStart, selLength);
+    ShowCaret(program);
 }
 
 void TellRefused(Program& program, int count) {
@@ -192,11 +243,13 @@ void MoveMarked(Program& program, const FieldRef& field, int to) {
 }
 
 void FieldEntered(Program& program, const FieldRef& field) {
-    modFields::GiveFocus(program, field);
+    modNavigate::Arrive(program, field);
+    ShowCaret(program);
 }
 
 void CursorMoved(Program& program, const FieldRef& field, int selStart, int selLength) {
     PutCursor(program, field, selStart, selLength);
+    ShowCaret(program);
 }
 
 void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength) {
@@ -208,6 +261,7 @@ void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength
         }
     }
     modBlocks::Form_KeyUp(program);
+    ShowCaret(program);
 }
 
 void FieldMouseDown(Program& program, const FieldRef& field, int button, int shift, int selStart,
@@ -217,11 +271,16 @@ void FieldMouseDown(Program& program, const FieldRef& field, int button, int shi
     }
     modBlocks::FinishMove(program);
     PutCursor(program, field, selStart, selLength);
+    if (program.designer.LabelMode) {
+        program.designer.FocusBefore.reset();
+        modLabelKeys::Leave(program);
+    }
     modFields::GiveFocus(program, field);
     PutCursor(program, field, selStart, selLength);
     if (IsText(field)) {
         modText::txt_MouseDown(program, field.Page, field.Index, button, shift);
     }
+    ShowCaret(program);
 }
 
 void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int selLength) {
@@ -229,6 +288,7 @@ void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int sel
     if (IsText(field)) {
         modText::txt_MouseUp(program, field.Page, field.Index);
     }
+    ShowCaret(program);
 }
 
 void FieldDblClick(Program& program, const FieldRef& field, int position) {
@@ -261,6 +321,45 @@ bool TextMenuOpens(const Program& program) {
 
 void TextMenuClosed(Program& program) {
     modText::TextMenuClosed(program);
+}
+
+void LabelMouseDown(Program& program, PageId page, int index, int button, float x, float y) {
+    modBlocks::FinishMove(program);
+    modDesigner::lbl_MouseDown(program, page, index, button, x, y);
+}
+
+bool LabelMouseMove(Program& program, PageId page, int index, float x, float y) {
+    return modDesigner::lbl_MouseMove(program, page, index, x, y);
+}
+
+void LabelMouseUp(Program& program, PageId page, int index) {
+    modDesigner::lbl_MouseUp(program, page, index);
+}
+
+void LabelDblClick(Program& program, PageId page, int index) {
+    modDesigner::lbl_DblClick(program, page, index);
+}
+
+void LogoMouseDown(Program& program, int button, float x, float y) {
+    modBlocks::FinishMove(program);
+    modLogo::pic_MouseDown(program, button, x, y);
+}
+
+bool LogoMouseMove(Program& program, float x, float y) {
+    return modLogo::pic_MouseMove(program, x, y);
+}
+
+void LogoMouseUp(Program& program) {
+    modLogo::pic_MouseUp(program);
+}
+
+void LogoDblClick(Program& program) {
+    modLogo::pic_DblClick(program);
+}
+
+modLabelKeys::Menu LabelKeyDown(Program& program, int keyCode, int shift) {
+    program.main.Notice.clear();
+    return modLabelKeys::KeyDown(program, keyCode, shift);
 }
 
 void NoTaxMarkClick(Program& program, PageId page, int index) {

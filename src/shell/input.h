@@ -1,5 +1,6 @@
 #pragma once
 
+#include "format/label_keys.h"
 #include "program/keys.h"
 #include "program/page_records.h"
 
@@ -59,6 +60,18 @@ void PageMouseUp(Program& program, PageId page, int button, float x, float y);
 [[nodiscard]] bool TextMenuOpens(const Program& program);
 /// The menu that a right press opens has closed.
 void TextMenuClosed(Program& program);
+/// The mouse on a label or the logo of a page, twips from its own corner; button 1 left, 2 right.
+void LabelMouseDown(Program& program, PageId page, int index, int button, float x, float y);
+/// True when the label moved: the pointer is on another place of it now, and the event is to come again.
+[[nodiscard]] bool LabelMouseMove(Program& program, PageId page, int index, float x, float y);
+void LabelMouseUp(Program& program, PageId page, int index);
+void LabelDblClick(Program& program, PageId page, int index);
+void LogoMouseDown(Program& program, int button, float x, float y);
+[[nodiscard]] bool LogoMouseMove(Program& program, float x, float y);
+void LogoMouseUp(Program& program);
+void LogoDblClick(Program& program);
+/// A key while labels have the keyboard.
+modLabelKeys::Menu LabelKeyDown(Program& program, int keyCode, int shift);
 void NoTaxMarkClick(Program& program, PageId page, int index);
 
 } // namespace modInput

@@ -8,17 +8,6 @@ namespace modMain {
 
 namespace {
 
-std::string Title(const Program& program) {
-    std::string title = "Quillbrook";
-    if (program.format.FormatOpen) {
-        title += ": Format File = " + program.format.FormatName;
-    }
-    if (program.document.HasName()) {
-        title += " - File Name = " + program.document.FileName;
-    }
-    return title;
-}
-
 std::string PagesLine(const DocumentState& document) {
     return document.PagesNumbered == 0
                ? "Available Pages = " + std::to_string(kEditedPageCount)
@@ -28,7 +17,7 @@ std::string PagesLine(const DocumentState& document) {
 void WorkOutStrips(Program& program) {
     MainWindow& main = program.main;
     const DocumentState& document = program.document;
-    main.Caption = Title(program);
+    main.Caption = document.WindowTitle;
     main.lblEvent.Caption = document.ClientCaption;
     main.lblDir.Caption = "Current Folder = " + document.FolderOnShow;
     main.lblTotal.Caption = "Running Sub-Total = " + program.totals.RunningSubTotal;
@@ -46,9 +35,7 @@ void WorkOutCommands(Program& program) {
     main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled = document.HasClient;
     main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = document.HasClient;
     main[CommandId::mnuOptHideTotals].Checked = program.totals.TotalsHidden;
-    const PagePicture& logo = program.pages[PageId::frmP1].pic;
-    main[CommandId::mnuEditLogoVisible].Checked =
-        logo.Picture.From != PictureRef::Source::None && logo.Tag != kHide;
+    main[CommandId::mnuEditLogoVisible].Checked = program.run.LogoChecked;
 }
 
 } // namespace

@@ -18,6 +18,8 @@
 #include "shell/load_fonts.h"
 #include "shell/main_controls.h"
 #include "shell/tool_buttons.h"
+#include "terms/list_files.h"
+#include "terms/term_list.h"
 
 namespace modMain {
 
@@ -78,7 +80,11 @@ void LoadSteps(Program& program) {
         if (!program.run.TermsPinned) {
             program.run.FUTFileName = "Default Terms.fut";
         }
+        modTerms::LayDownLists(program);
         OpenSideWindows(program);
+        if (!program.run.FUTShown) {
+            modTerms::TakeListInUse(program); // words are completed with the window closed, too
+        }
     }
     for (CommandButton* button :
          {&program.main.cmdPreview, &program.main.cmdReCalc, &program.main.cmdTaxRate}) {

@@ -1,11 +1,12 @@
 #include "shell/option_commands.h"
 
 #include "base/files.h"
-#include "base/numbers.h"
 #include "base/paths.h"
+#include "pages/row_fields.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "settings/default_font.h"
 #include "settings/settings.h"
 
 #include <string>
@@ -39,6 +40,7 @@ void mnuOptCurrencySymbol_Click(Program& program) {
         return;
     }
     program.settings.CurrencySymbol = symbol;
+    modPages::ShowCurrency(program);
     modSettings::SetLine(program, modSettings::Key::CurrencySymbol, symbol);
     if (!modSettings::SaveUserPreferences(program)) {
         Tell(program, "Error encountered while creating new Currency Symbol.");
@@ -49,18 +51,7 @@ void mnuOptCurrencySymbol_Click(Program& program) {
 }
 
 void mnuOptSetDefaultFonts_Click(Program& program) {
-    const RunState& run = program.run;
-    SettingsRecords& settings = program.settings;
-    settings.SavedFontName = run.DefaultFontName;
-    settings.SavedFontSize = run.DefaultFontSize;
-    settings.SavedFontColor = run.DefaultFontColor;
-    settings.SavedFontItalic = run.DefaultFontItalic;
-    using modSettings::Key;
-    modSettings::SetLine(program, Key::FontName, run.DefaultFontName);
-    modSettings::SetLine(program, Key::FontSize, numbers::PlainNumber(run.DefaultFontSize));
-    modSettings::SetLine(program, Key::FontColor, std::to_string(run.DefaultFontColor));
-    modSettings::SetLine(program, Key::FontItalic, run.DefaultFontItalic ? "True" : "False");
-    modSettings::SaveUserPreferences(program);
+    modSettings::SaveFontInForce(program);
 }
 
 void mnuOptEmptyBackup_Click(Program& program) {

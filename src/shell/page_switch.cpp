@@ -1,6 +1,8 @@
 #include "shell/page_switch.h"
 
 #include "base/guard.h"
+#include "format/frm_label_props.h"
+#include "format/label_keys.h"
 #include "output/preview.h"
 #include "pages/page_geometry.h"
 #include "pages/page_show.h"
@@ -93,6 +95,7 @@ void TakePage(Program& program, PageId page) {
 
 void UpdatePageButtons(Program& program, int pageIndex) {
     MainWindow& main = program.main;
+    modDesigner::CloseLabelWindow(program);
     if (!program.guards.StartingUp && main.cmdPreview.Caption == "Resume Editing") {
         main.cmdPreview.Caption = "Print Preview";
         modPrint::ResumeEditing(program, main.ActivePage);
@@ -115,11 +118,12 @@ void UpdatePageButtons(Program& program, int pageIndex) {
     ReAdjustScrollBar(program, page);
     TakePage(program, page);
     for (const CommandId id : {CommandId::mnuEditLabelProps, CommandId::mnuEditLabelSelectAll,
-                               CommandId::mnuEditLabelDeselectAll}) {
+                               CommandId::mnuEditLabelDeselectAll, CommandId::mnuEditLabelMode}) {
         main[id].Enabled = page != PageId::frmP6_1;
     }
     program.pages[page].Visible = true;
     main.PageInFront = page;
+    modLabelKeys::PageChanged(program);
 }
 
 void ReAdjustScrollBar(Program& program, PageId page) {

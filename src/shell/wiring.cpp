@@ -1,14 +1,22 @@
 #include "shell/wiring.h"
 
+#include "calculator/frm_calc.h"
 #include "calendar/read_event_dates.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
+#include "editing/fresh_figures.h"
 #include "editing/leaving.h"
 #include "editing/selection.h"
-#include "editing/text_menu.h"
 #include "editing/typing.h"
+#include "format/format_file.h"
+#include "format/frm_label_props.h"
+#include "format/leave_format.h"
+#include "format/property_file.h"
+#include "output/page_count.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
+#include "terms/completion.h"
+#include "terms/frm_fut.h"
 
 namespace {
 
@@ -53,9 +61,21 @@ void Wire(Program& program) {
     hooks.LostFocus = LostFocus;
     hooks.UpdatePageButtons = modScroll::UpdatePageButtons;
     hooks.PageKey = modScroll::PageKey;
-    hooks.UpdateTextMenu = modBlocks::UpdateTextMenu;
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
     hooks.MoveBlock = modBlocks::MoveBlockByKey;
+    hooks.TakeFreshFigures = modFigures::TakeFresh;
     hooks.ReadEventDates = modCalendar::ReadEventDatesAtStart;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
+    hooks.TermsKey = modTerms::TermsKey;
+    hooks.ReadFrequentlyUsedTerms = modTerms::ListInUseChanged;
+    hooks.CompleteWord = modTerms::CompleteWord;
+    hooks.CompletionKey = modTerms::CompletionKey;
+    hooks.ShowTermsWindow = modTerms::ShowTermsWindow;
+    hooks.ShowCalculator = modCalculator::ShowCalculator;
+    hooks.OpenFormatFile = modFormat::OpenFormatFile;
+    hooks.ParsePropertyFile = modFormat::ParsePropertyFile;
+    hooks.AssignPropChanges = modFormat::AssignPropChanges;
+    hooks.MayLeaveFormat = modFormat::MayLeaveFormat;
+    hooks.CloseLabelWindow = modDesigner::CloseLabelWindow;
+    hooks.SetPageNumbers = modPrint::SetPageNumbers;
 }

@@ -27,22 +27,26 @@ TEST_P(NumericText, IsRecognisedAsAPersonWouldReadIt) {
 
 INSTANTIATE_TEST_SUITE_P(
     Table, NumericText,
-    testing::Values(Numeric{"1234.5", true, 1234.5}, Numeric{"1,234.50", true, 1234.5},
-                    Numeric{"  12 ", true, 12}, Numeric{"-5", true, -5}, Numeric{"5-", true, -5},
-                    Numeric{"+7", true, 7}, Numeric{".5", true, 0.5}, Numeric{"19.", true, 19},
-                    Numeric{"1,2,3", true, 123}, Numeric{"$ 1,500.00", true, 1500},
-                    Numeric{"1500 $", true, 1500}, Numeric{"-$5", true, -5}, Numeric{"$-5", true, -5},
-                    Numeric{"(12.50)", true, -12.5}, Numeric{"1e3", true, 1000}, Numeric{"1E-2", true, 0.01},
-                    Numeric{"1e+2", true, 100}, Numeric{"1e-50", true, 1e-50}, Numeric{"1e-400", true, 0},
-                    Numeric{"0", true, 0}, Numeric{"1234567890", true, 1234567890}, Numeric{"", false, 0},
-                    Numeric{" ", false, 0}, Numeric{"-", false, 0}, Numeric{".", false, 0},
-                    Numeric{",", false, 0}, Numeric{"$", false, 0}, Numeric{"abc", false, 0},
-                    Numeric{"1.2.3", false, 0}, Numeric{"1-2", false, 0}, Numeric{"5 5", false, 0},
-                    Numeric{"--5", false, 0}, Numeric{"-5-", false, 0}, Numeric{"(5", false, 0},
-                    Numeric{"(-5)", false, 0}, Numeric{"1e39", false, 0}, Numeric{"1e400", false, 0},
-                    Numeric{"inf", false, 0}, Numeric{"nan", false, 0}, Numeric{"0x10", false, 0},
-                    Numeric{"1e", false, 0}, Numeric{",5", false, 0}, Numeric{"1.5,0", false, 0},
-                    Numeric{"$$5", false, 0}));
+    testing::Values(
+        Numeric{"1234.5", true, 1234.5}, Numeric{"1,234.50", true, 1234.5}, Numeric{"  12 ", true, 12},
+        Numeric{"-5", true, -5}, Numeric{"5-", true, -5}, Numeric{"+7", true, 7}, Numeric{".5", true, 0.5},
+        Numeric{"19.", true, 19}, Numeric{"1,2,3", false, 0}, Numeric{"12,50", false, 0},
+        Numeric{"1.250,00", false, 0}, Numeric{"1,250", true, 1250}, Numeric{"12,345.60", true, 12345.6},
+        Numeric{"123,456,789", true, 123456789}, Numeric{"1234,567", false, 0}, Numeric{"1,2345", false, 0},
+        Numeric{"1,234,56", false, 0}, Numeric{"1,,234", false, 0}, Numeric{"1,234,", false, 0},
+        Numeric{"1,.5", false, 0}, Numeric{"12,3456.00", false, 0}, Numeric{"-1,250", true, -1250},
+        Numeric{"$12,50", false, 0}, Numeric{"(1,250)", true, -1250}, Numeric{"1,250e2", true, 125000},
+        Numeric{"$ 1,500.00", true, 1500}, Numeric{"1500 $", true, 1500}, Numeric{"-$5", true, -5},
+        Numeric{"$-5", true, -5}, Numeric{"(12.50)", true, -12.5}, Numeric{"1e3", true, 1000},
+        Numeric{"1E-2", true, 0.01}, Numeric{"1e+2", true, 100}, Numeric{"1e-50", true, 1e-50},
+        Numeric{"1e-400", true, 0}, Numeric{"0", true, 0}, Numeric{"1234567890", true, 1234567890},
+        Numeric{"", false, 0}, Numeric{" ", false, 0}, Numeric{"-", false, 0}, Numeric{".", false, 0},
+        Numeric{",", false, 0}, Numeric{"$", false, 0}, Numeric{"abc", false, 0}, Numeric{"1.2.3", false, 0},
+        Numeric{"1-2", false, 0}, Numeric{"5 5", false, 0}, Numeric{"--5", false, 0},
+        Numeric{"-5-", false, 0}, Numeric{"(5", false, 0}, Numeric{"(-5)", false, 0},
+        Numeric{"1e39", false, 0}, Numeric{"1e400", false, 0}, Numeric{"inf", false, 0},
+        Numeric{"nan", false, 0}, Numeric{"0x10", false, 0}, Numeric{"1e", false, 0}, Numeric{",5", false, 0},
+        Numeric{"1.5,0", false, 0}, Numeric{"$$5", false, 0}));
 
 TEST(NumericText, KnowsTheSymbolOfTheSettings) {
     EXPECT_TRUE(numbers::IsNumeric("\xA3 5", "\xA3"));

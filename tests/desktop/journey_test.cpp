@@ -301,8 +301,8 @@ TEST(Menus, HoldEveryEntryOfTheTable) {
     EXPECT_EQ(run.window->MenuTree().Action(CommandId::mnuFileSaveEvent)->shortcut(),
               QKeySequence(QStringLiteral("Ctrl+S")));
     EXPECT_FALSE(run.window->MenuTree().Action(CommandId::mnuFileConvertRTF)->isVisible());
-    EXPECT_FALSE(run.window->MenuTree().Action(CommandId::mnuViewEventDates)->isEnabled());
-    EXPECT_EQ(run.window->MenuTree().Action(CommandId::mnuViewEventDates)->statusTip(),
+    EXPECT_FALSE(run.window->MenuTree().Action(CommandId::mnuAdminTestCode)->isEnabled());
+    EXPECT_EQ(run.window->MenuTree().Action(CommandId::mnuAdminTestCode)->statusTip(),
               QStringLiteral("This command is not available in this version."));
     EXPECT_TRUE(run.window->MenuTree().Action(CommandId::mnuOptEnableOverwriteFmtTextBoxes)->isChecked());
 }

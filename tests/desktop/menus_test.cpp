@@ -149,7 +149,7 @@ TEST(Menus, ACommandThatIsNotBuiltSaysSoAndNothingElseDoes) {
             EXPECT_FALSE(run.Action(entry)->isEnabled()) << entry.Name;
         }
     }
-    run.Action(CommandId::mnuViewEventDates)->showStatusText(run.window.get());
+    run.Action(CommandId::mnuAdminTestCode)->showStatusText(run.window.get());
     EXPECT_EQ(line->text(), QStringLiteral("This command is not available in this version."));
     run.Action(CommandId::mnuFileNew)->showStatusText(run.window.get());
     EXPECT_EQ(line->text(), QString());

@@ -54,18 +54,18 @@ TEST_P(BadFigures, AreTakenWholeOrNotAtAll) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, BadFigures,
-                         testing::Values(Figure{"1e39", false, 0, ""}, Figure{"-1e39", false, 0, ""},
-                                         Figure{"1e-50", true, 0, "0.00"}, Figure{"-", false, 0, ""},
-                                         Figure{",", false, 0, ""}, Figure{".", false, 0, ""},
-                                         Figure{"1,2,3", true, 123, "123.00"}, Figure{"inf", false, 0, ""},
-                                         Figure{"nan", false, 0, ""}, Figure{"1e999", false, 0, ""},
-                                         Figure{"0x10", false, 0, ""}, Figure{"1-2", false, 0, ""},
-                                         Figure{"5 5", false, 0, ""},
-                                         Figure{"10.5\r\n", true, 10.5F, "10.50"},
-                                         Figure{"10.5\r\n20", false, 0, ""}, Figure{"\t7\t", true, 7, "7.00"},
-                                         Figure{"3.4e38", true, 3.4e38F,
-                                                "340,000,000,000,000,000,000,000,000,000,000,000,000.00"}));
+INSTANTIATE_TEST_SUITE_P(
+    Table, BadFigures,
+    testing::Values(Figure{"1e39", false, 0, ""}, Figure{"-1e39", false, 0, ""},
+                    Figure{"1e-50", true, 0, "0.00"}, Figure{"-", false, 0, ""}, Figure{",", false, 0, ""},
+                    Figure{".", false, 0, ""}, Figure{"1,2,3", false, 0, ""}, Figure{"12,50", false, 0, ""},
+                    Figure{"1.250,00", false, 0, ""}, Figure{"12,345.6", true, 12345.6F, "12,345.60"},
+                    Figure{"inf", false, 0, ""}, Figure{"nan", false, 0, ""}, Figure{"1e999", false, 0, ""},
+                    Figure{"0x10", false, 0, ""}, Figure{"1-2", false, 0, ""}, Figure{"5 5", false, 0, ""},
+                    Figure{"10.5\r\n", true, 10.5F, "10.50"}, Figure{"10.5\r\n20", false, 0, ""},
+                    Figure{"\t7\t", true, 7, "7.00"},
+                    Figure{"3.4e38", true, 3.4e38F,
+                           "340,000,000,000,000,000,000,000,000,000,000,000,000.00"}));
 
 TEST(BadFigures, TypedOnesStayAndCountNothing) {
     for (const char* text : {"-", ",", ".", "--", "1-2", "..", "-,", "1.2.3"}) {
@@ -191,8 +191,9 @@ TEST(BadText, TheMarksOfAPricedLineCanBeTyped) {
 
 TEST(Locked, AreasTakeNothing) {
     RunningProgram run;
-    run.Area(kSecond, 0).Locked = true;
-    run.Area(kSecond, 33).Locked = true;
+    run.program.format.FormatOpen = true;
+    run.program.format.FormatTextChanges[PageId::frmP2][0].FormatText = true;
+    run.program.format.FormatTextChanges[PageId::frmP2][33].FormatText = true;
     Typist typist(run.program);
     for (const FieldRef& field :
          {FieldRef{kSecond, FieldKind::txt, 0}, FieldRef{kSecond, FieldKind::txt, 33},
@@ -208,6 +209,11 @@ TEST(Locked, AreasTakeNothing) {
     }
     modFields::SetText(run.program, {kSecond, FieldKind::txt, 0}, "by program");
     EXPECT_EQ(run.TextOf(kSecond, 0), "by program");
+    run.program.format.FormatOpen = false;
+    typist.Click(PageId::frmP1, 0);
+    typist.Click(kSecond, 33);
+    typist.Type("5");
+    EXPECT_EQ(run.TextOf(kSecond, 33), "5") << "without a format nothing is locked";
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "editing/block_actions.h"
 #include "editing/blocks.h"
 #include "editing/columns.h"
+#include "editing/text_menu.h"
 #include "money/totals.h"
 #include "pages/page_marks.h"
 #include "pages/row_fields.h"
@@ -325,7 +326,7 @@ TEST(Undo, IsOneLevelAndStaysUntilUsed) {
     typist.Click(kSecond, 20);
     typist.Type("text");
     typist.PutCursor(0, 4);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     EXPECT_TRUE(run.Enabled(CommandId::mnuEditTextSelUCase));
     EXPECT_TRUE(run.Enabled(CommandId::mnuEditTextUndo)) << "text selected";
     run.Choose(CommandId::mnuEditTextUndo);

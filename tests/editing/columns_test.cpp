@@ -1,4 +1,5 @@
 #include "editing/columns.h"
+#include "editing/text_menu.h"
 #include "pages/fields.h"
 #include "pages/row_fields.h"
 #include "program/keys.h"
@@ -79,13 +80,13 @@ TEST(ColumnsCommand, OnTheAreaBeforeTheLinesOfTheClientPageIsOfferedAndDoesNothi
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kFirst, 9);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     EXPECT_TRUE(run.program.main[CommandId::mnuEditTextColumns].Enabled);
     const TextArea before = run.Area(kFirst, 9);
     person::Choose(run.program, CommandId::mnuEditTextColumns);
     EXPECT_EQ(run.Area(kFirst, 9), before);
     typist.Click(kFirst, 8);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     EXPECT_FALSE(run.program.main[CommandId::mnuEditTextColumns].Enabled);
 }
 
@@ -93,15 +94,15 @@ TEST(ColumnsCommand, SaysWhatItWillDo) {
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kSecond, 4);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     EXPECT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Add Columns");
     person::Choose(run.program, CommandId::mnuEditTextColumns);
     typist.Click(kSecond, 4);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     EXPECT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Remove Columns");
 }
 
-TEST(Boxes, TakeDigitsAndThePointAlone) {
+TEST(Boxes, TakeDigitsPointAndCommaAlone) {
     RunningProgram run;
     Typist typist(run.program);
     modPages::PlaceColumns(run.program, kSecond, 0, modPages::Columns::On);
@@ -109,7 +110,7 @@ TEST(Boxes, TakeDigitsAndThePointAlone) {
     for (const FieldRef& box : {Quantity(0), Price(0)}) {
         typist.Click(box);
         for (int byte = 1; byte < 256; ++byte) {
-            const bool passes = byte == 8 || byte == '.' || (byte >= '0' && byte <= '9');
+            const bool passes = byte == 8 || byte == '.' || byte == ',' || (byte >= '0' && byte <= '9');
             EXPECT_EQ(person::KeyPress(run.program, byte), passes ? byte : 0) << byte;
         }
         run.program.editing.BlockMode = true;

@@ -112,9 +112,9 @@ TEST(FinalPage, TakesANumberFromTheClipboardInItsOpenFieldsAlone) {
     typist.PutCursor(0, static_cast<int>(run.TextOf(kFinal, 4).size()));
     typist.PasteByKey("ten", run.surroundings.clipboard.Text);
     EXPECT_EQ(run.program.totals.Deposit, 0.0F);
-    typist.PasteByKey("1,0\r\n", run.surroundings.clipboard.Text);
-    EXPECT_EQ(run.TextOf(kFinal, 4), "1,0");
-    EXPECT_EQ(run.program.totals.Deposit, 10.0F);
+    typist.PasteByKey("1,000\r\n", run.surroundings.clipboard.Text);
+    EXPECT_EQ(run.TextOf(kFinal, 4), "1,000");
+    EXPECT_EQ(run.program.totals.Deposit, 1000.0F);
     typist.Click(kFinal, 3);
     typist.PasteByKey("10", run.surroundings.clipboard.Text);
     EXPECT_EQ(run.TextOf(kFinal, 3), "108.25");

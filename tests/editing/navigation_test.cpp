@@ -109,12 +109,25 @@ TEST(Grid, OfTheFinalPageIsWalkedByNoKey) {
     }
 }
 
-TEST(Grid, ShiftAndTabGoForwardToo) {
+TEST(Grid, ShiftAndTabGoBackTheWayTabCame) {
     RunningProgram run;
+    modPages::PlaceColumns(run.program, PageId::frmP1, 12, modPages::Columns::On);
+    modPages::PlaceColumns(run.program, PageId::frmP2, 3, modPages::Columns::On);
     Typist typist(run.program);
-    typist.Click(PageId::frmP1, 4);
+    typist.Click(PageId::frmP1, 0);
+    std::vector<FieldRef> way;
+    while (run.program.main.Focus && run.program.main.Focus->Page != PageId::frmP6 && way.size() < 400) {
+        way.push_back(*run.program.main.Focus);
+        typist.Press(keys::kTab);
+    }
+    ASSERT_EQ(way.size(), 30U + 2 + 4 * 66 + 2);
+    for (std::size_t at = way.size(); at-- > 0;) {
+        typist.Press(keys::kTab, keys::kShiftState);
+        EXPECT_EQ(run.program.main.Focus, way[at]) << at;
+        EXPECT_EQ(run.program.main.PageInFront, way[at].Page);
+    }
     typist.Press(keys::kTab, keys::kShiftState);
-    EXPECT_EQ(run.program.main.Focus, Text(PageId::frmP1, 5));
+    EXPECT_EQ(run.program.main.Focus, Text(PageId::frmP1, 0)) << "nothing is before it";
 }
 
 TEST(Grid, AHeldKeyWalksOn) {

@@ -423,7 +423,7 @@ TEST(BlockMode, KeepsBlueAreasBlueWhenTheFocusComesAndGoes) {
 
 TEST(RightClick, RepaintsWhatIsOverItsLimitOutsideTheModeOnly) {
     BlockRun run;
-    run.PutRow(kSecond, 4, std::string(40, '1'), "Row", "x");
+    run.PutRow(kSecond, 4, std::string(40, '1'), "Row", "2");
     run.Area(kFirst, 12).Text = std::string(87, 'x'); // 8700 of 8640 twips
     run.Front(kSecond);
     modText::txt_MouseDown(run.program, kSecond, 8, 2, 0);

@@ -80,7 +80,7 @@ bool Says(MenuRule rule, BlockRun& run, PageId page, int index) {
 }
 
 void ExpectStates(BlockRun& run, modBlocks::MenuState state, PageId page, int index) {
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     for (const modBlocks::MenuRow& row : modBlocks::TextMenuTable()) {
         EXPECT_EQ(run.Enabled(row.Id), Says(row.In[static_cast<std::size_t>(state)], run, page, index))
             << "entry " << static_cast<int>(row.Id) << " of " << IndexOf(page) << "/" << index;
@@ -119,7 +119,7 @@ TEST(TextMenu, CaptionTellsWhatTheColumnsCommandWouldDo) {
     Typist typist(run.program);
     const auto captionAt = [&](PageId page, int index) {
         typist.Click(page, index);
-        run.program.hooks.UpdateTextMenu(run.program);
+        modBlocks::UpdateTextMenu(run.program);
         return run.program.main[CommandId::mnuEditTextColumns].Caption;
     };
     EXPECT_EQ(captionAt(kSecond, 5), "Remove Columns");

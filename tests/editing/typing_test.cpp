@@ -1,5 +1,6 @@
 #include "editing/columns.h"
 #include "editing/row_texts.h"
+#include "editing/text_menu.h"
 #include "editing/typing.h"
 #include "editing/word_marking.h"
 #include "pages/fields.h"
@@ -85,17 +86,23 @@ TEST(ChangePipeline, ATypedAmountFillsTheTablesAndTurnsTheButtonRed) {
     EXPECT_FALSE(run.Label(kSecond, 8).Visible);
 }
 
-TEST(ChangePipeline, TextThatIsNoNumberChangesNoTable) {
-    for (const char* text : {"-", ",", ".", "1e39", "1-2"}) {
+TEST(ChangePipeline, TextThatIsNoNumberCountsAsNothing) {
+    for (const char* text : {"-", ",", ".", "1e39", "1-2", "12,50", "1.250,00", "1,2,3"}) {
         RunningProgram run;
         run.program.totals.AmountTable[20][PageId::frmP1] = 7;
         run.Area(kFirst, 20).Text = "7";
         PutText(run, kFirst, 20, text);
-        EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 7.0F) << text;
+        EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 0) << text;
+        EXPECT_EQ(run.TextOf(kFirst, 20), text);
+        EXPECT_FALSE(run.Label(kFirst, 21).Visible);
+        EXPECT_EQ(run.Area(kFirst, 20).BackColor, colors::kOverLimit);
+        EXPECT_EQ(run.Area(kFirst, 20).ToolTipText, "This is not a number and counts as nothing.");
+        PutText(run, kFirst, 20, "8");
+        EXPECT_EQ(run.Area(kFirst, 20).ToolTipText, "");
     }
     RunningProgram run;
-    PutText(run, kFirst, 20, "1,2,3");
-    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 123.0F);
+    PutText(run, kFirst, 20, "1,234");
+    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 1234.0F);
     PutText(run, kFirst, 20, "1e-50");
     EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 0.0F);
 }
@@ -583,8 +590,8 @@ TEST(Columns, TurnARowIntoAPricedLineAndBack) {
     EXPECT_EQ(run.program.main.Focus, Text(kSecond, 4));
     EXPECT_EQ(run.Area(kSecond, 4).SelStart, 0);
     typist.Press(keys::kEnter);
-    typist.Type("19.9,9-");
-    EXPECT_EQ(page.txtAmt[4].Text, "19.99") << "no comma and no minus";
+    typist.Type("19.99-");
+    EXPECT_EQ(page.txtAmt[4].Text, "19.99") << "no minus";
     EXPECT_EQ(run.TextOf(kSecond, 37), "59.97");
     EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 59.97F);
     typist.Press(keys::kEnter);
@@ -673,28 +680,28 @@ TEST(Columns, AQuantityAloneCountsAsUnsaved) {
               run.program.document.SavedTextBuf[PageId::frmP2][0]);
 }
 
-TEST(TaxMarks, SetByTheMenuLeaveTheTotalToTheLeaving) {
+TEST(TaxMarks, SetByTheMenuChangeTheTotalAtOnce) {
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kSecond, 33);
     typist.Type("100");
     typist.Click(kSecond, 34);
     typist.Click(kSecond, 33);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     EXPECT_TRUE(run.program.main[CommandId::mnuEditTextTaxExempt].Enabled);
     modColumns::mnuEditTextTaxExempt_Click(run.program);
     EXPECT_TRUE(run.program.pages[kSecond].imgNoTax[33].Visible);
     EXPECT_EQ(run.program.pages[kSecond].imgNoTax[33].Tag, "");
     EXPECT_TRUE(run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt);
-    EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "0.00");
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
     typist.Click(kSecond, 34);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "0.00");
     typist.Click(kSecond, 33);
     modColumns::mnuEditTextTaxable_Click(run.program);
-    typist.Click(kSecond, 34);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
     typist.Click(kSecond, 0);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     EXPECT_FALSE(run.program.main[CommandId::mnuEditTextTaxExempt].Enabled);
 }
 

@@ -1,10 +1,14 @@
 #include "format/format_commands.h"
+
+#include "format/label_designer.h"
 #include "program/windows.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace {
@@ -15,107 +19,82 @@ const ScriptedQuestions::Box kClearQuestion{
 const ScriptedQuestions::Box kEndQuestion{
     "Proceeding with this action will end the editing session of your file format. Continue?", Buttons::YesNo,
     "Ending Format Editing"};
-const ScriptedQuestions::Box kDeleteQuestion{"Are you sure you want to delete the shown Format?",
-                                             Buttons::YesNo, "Deleting Format FIle"};
+
+constexpr std::string_view kHouse =
+    "frmP1.lbl(9).Left=1200 .Top=4140 .Caption=Day .FontName=Arial .FontBold=True .FontSize=12 "
+    ".ForeColor=255 .FontItalic=False .FontUnderline=False\r\n"
+    "UDP.FontName=Times New Roman .FontSize=10 .FontColor=0 .FontItalic=False\r\n";
 
 struct Formats : RunningProgram {
     Formats() {
-        folder.Write("Proposals/House.fmt", "lines");
+        folder.Write("Proposals/House.fmt", kHouse);
         folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
     }
-    void OpenHouse() {
-        program.format.FormatOpen = true;
-        program.format.FormatName = "House.fmt";
-        program.format.FormatFolder = folder / "Proposals/";
-        program.format.FormatLines = {"one"};
-        program.format.FormatTextChanges[PageId::frmP1][3].FormatText = true;
-        program.format.FormatLabelChanges[PageId::frmP1][3].Changed = true;
-        program.settings.LoadDefaultFormat = true;
+    /// By the menu and the chooser, as a person does.
+    void Open(std::string_view name = "House.fmt") {
+        modFormat::mnuFileFormatOpen_Click(program);
+        Choose(name);
+    }
+    void Choose(std::string_view name) {
+        const auto& items = Chooser().FileList1.Items;
+        const auto at = std::find(items.begin(), items.end(), name);
+        ASSERT_NE(at, items.end());
+        Chooser().FileList1_Click(program, static_cast<int>(at - items.begin()));
+        Chooser().cmdOpenOK_Click(program);
+        modWindows::Sweep(program);
     }
     void ExpectNoFormat() {
         EXPECT_FALSE(program.format.FormatOpen);
         EXPECT_EQ(program.format.FormatName, "");
-        EXPECT_TRUE(program.format.FormatLines.empty());
-        EXPECT_FALSE(program.format.FormatTextChanges[PageId::frmP1][3].FormatText);
-        EXPECT_FALSE(program.format.FormatLabelChanges[PageId::frmP1][3].Changed);
+        EXPECT_FALSE(program.format.FormatLabelChanges[PageId::frmP1][9].Changed);
         EXPECT_FALSE(program.settings.LoadDefaultFormat);
         EXPECT_EQ(Main().Caption, "Quillbrook");
+        EXPECT_EQ(Label(PageId::frmP1, 9).Caption, "Event Date");
     }
     void Type() {
         Typist typist(program);
         typist.Click(PageId::frmP1, 8);
         typist.Type("Hall");
     }
+    /// Drags a label one step to the right.
+    void Drag(int label) {
+        modDesigner::lbl_MouseDown(program, PageId::frmP1, label, modDesigner::kLeftButton, 0, 0);
+        modDesigner::lbl_MouseMove(program, PageId::frmP1, label, 180, 0);
+        modDesigner::lbl_MouseUp(program, PageId::frmP1, label);
+    }
+    [[nodiscard]] std::string Settings() const { return folder.Read("UserPreferences.txt"); }
+    [[nodiscard]] bool HasSetting(std::string_view line) const {
+        return Settings().find(std::string(line) + "\r\n") != std::string::npos;
+    }
+    ScriptedQuestions& Questions() { return surroundings.questions; }
     frmFile& Chooser() { return dynamic_cast<frmFile&>(*modWindows::Find(program, "frmFile")); }
 };
 
-TEST(FormatNew, WithNothingToLoseAsksNothing) {
-    Formats run;
-    run.OpenHouse();
-    modFormat::mnuFileFormatNew_Click(run.program);
-    run.ExpectNoFormat();
-}
-
-TEST(FormatNew, UnsavedTextAsksAndAnythingButYesStops) {
-    Formats run;
-    run.OpenHouse();
-    run.Type();
-    run.surroundings.questions.ExpectBox(kClearQuestion, Answer::No);
-    modFormat::mnuFileFormatNew_Click(run.program);
-    EXPECT_TRUE(run.program.format.FormatOpen);
-    EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "Hall");
-    run.surroundings.questions.ExpectBox(kClearQuestion, Answer::Yes);
-    modFormat::mnuFileFormatNew_Click(run.program);
-    run.ExpectNoFormat();
-    EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "");
-}
-
-TEST(FormatNew, AChangedFormatOrPropertyAsksToo) {
-    Formats run;
-    run.program.hooks.FormatHasChanges = [](Program&) { return true; };
-    run.surroundings.questions.ExpectBox(kClearQuestion, Answer::No);
-    modFormat::mnuFileFormatNew_Click(run.program);
-    run.program.hooks.FormatHasChanges = [](Program&) { return false; };
-    run.program.format.LabelSavedState[PageId::frmP1][3].Changed = true;
-    run.surroundings.questions.ExpectBox(kClearQuestion, Answer::No);
-    modFormat::mnuFileFormatNew_Click(run.program);
-}
-
-TEST(FormatNew, GoingOnWithTheEditingOfAFormatKeepsIt) {
-    Formats run;
-    run.OpenHouse();
-    run.program.format.EditingFormat = true;
-    run.surroundings.questions.ExpectBox(kEndQuestion, Answer::No);
-    run.surroundings.questions.Expect("Resume Editing.");
-    modFormat::mnuFileFormatNew_Click(run.program);
-    EXPECT_TRUE(run.program.format.FormatOpen);
-    EXPECT_EQ(run.program.format.FormatName, "House.fmt");
-    EXPECT_TRUE(run.program.settings.LoadDefaultFormat);
-}
-
-TEST(FormatOpen, ListsFormatsAndTakesTheChosenOne) {
+TEST(FormatOpen, LaysTheChosenOneAndShowsItsName) {
     Formats run;
     run.program.settings.LoadDefaultFormat = true;
     modFormat::mnuFileFormatOpen_Click(run.program);
     EXPECT_EQ(run.Chooser().Caption, "Opening Format File");
     ASSERT_EQ(run.Chooser().FileList1.Items, std::vector<std::string>{"House.fmt"});
-    int opened = 0;
-    run.program.hooks.OpenFormatFile = [&](Program&) { ++opened; };
-    run.Chooser().FileList1_Click(run.program, 0);
-    run.Chooser().cmdOpenOK_Click(run.program);
-    EXPECT_EQ(opened, 1);
+    run.Choose("House.fmt");
     EXPECT_TRUE(run.program.format.FormatOpen);
     EXPECT_EQ(run.program.format.FormatName, "House.fmt");
     EXPECT_EQ(run.program.format.FormatFolder, run.folder / "Proposals/");
     EXPECT_FALSE(run.program.settings.LoadDefaultFormat);
     EXPECT_EQ(run.program.document.FileFilter, "*.hef");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook - Format File = House.fmt");
+    const PageLabel& label = run.Label(PageId::frmP1, 9);
+    EXPECT_EQ(label.Caption, "Day");
+    EXPECT_EQ(label.Left, 1200);
+    EXPECT_EQ(label.FontName, "Arial");
+    EXPECT_EQ(label.ForeColor, 255U);
     EXPECT_EQ(modWindows::Find(run.program, "frmFile"), nullptr);
 }
 
 TEST(FormatOpen, UnsavedTextIsAskedForFirst) {
     Formats run;
     run.Type();
-    run.surroundings.questions.Expect("Some text has been changed.", Answer::Cancel);
+    run.Questions().Expect("Some text has been changed.", Answer::Cancel);
     modFormat::mnuFileFormatOpen_Click(run.program);
     EXPECT_EQ(modWindows::Find(run.program, "frmFile"), nullptr);
     EXPECT_EQ(run.program.document.FileFilter, "*.hef");
@@ -123,58 +102,300 @@ TEST(FormatOpen, UnsavedTextIsAskedForFirst) {
 
 TEST(FormatOpen, RefusingTheResetKeepsTheFormatThatStands) {
     Formats run;
-    run.OpenHouse();
+    run.Open();
     run.program.format.EditingFormat = true;
     run.folder.Write("Proposals/Barn.fmt", "lines");
     modFormat::mnuFileFormatOpen_Click(run.program);
-    run.Chooser().FileList1_Click(run.program, 0);
-    run.surroundings.questions.ExpectBox(kEndQuestion, Answer::No);
-    run.surroundings.questions.Expect("Resume Editing.");
-    run.Chooser().cmdOpenOK_Click(run.program);
+    run.Questions().ExpectBox(kEndQuestion, Answer::No);
+    run.Questions().Expect("Resume Editing.");
+    run.Choose("Barn.fmt");
     EXPECT_EQ(run.program.format.FormatName, "House.fmt");
-    EXPECT_EQ(run.program.format.FormatLines, std::vector<std::string>{"one"});
-    EXPECT_TRUE(run.program.settings.LoadDefaultFormat);
-    EXPECT_FALSE(run.Chooser().Closing);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Day");
+}
+
+TEST(FormatOpen, AnEmptyOneChangesNothingNotEvenTheCaption) {
+    Formats run;
+    run.folder.Write("Proposals/Empty.fmt", "");
+    run.Open("Empty.fmt");
+    EXPECT_TRUE(run.program.format.FormatOpen);
+    EXPECT_EQ(run.Main().Caption, "Quillbrook");
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Event Date");
+}
+
+TEST(FormatOpen, OneThatCannotBeReadIsToldOnceAndIsNotOpen) {
+    Formats run;
+    run.Open();
+    std::filesystem::remove(run.folder / "Proposals/House.fmt");
+    run.Questions().Expect("The format House.fmt in " + (run.folder / "Proposals/") +
+                           " could not be read; new proposals start without it.");
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_FALSE(run.program.format.FormatOpen);
+    EXPECT_EQ(run.program.format.FormatName, "");
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Event Date");
+    run.program.settings.DefaultFormatPath = run.folder / "Proposals/House.fmt";
+    run.program.settings.LoadDefaultFormat = true;
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_FALSE(run.program.format.FormatOpen);
+    EXPECT_TRUE(run.program.settings.LoadDefaultFormat) << "the settings are the person's";
+}
+
+TEST(FormatNew, UnsavedTextAsksAndAnythingButYesStops) {
+    Formats run;
+    run.Open();
+    run.Type();
+    run.Questions().ExpectBox(kClearQuestion, Answer::No);
+    modFormat::mnuFileFormatNew_Click(run.program);
+    EXPECT_TRUE(run.program.format.FormatOpen);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "Hall");
+    run.Questions().ExpectBox(kClearQuestion, Answer::Yes);
+    modFormat::mnuFileFormatNew_Click(run.program);
+    run.ExpectNoFormat();
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "");
+}
+
+TEST(FormatNew, WithNothingToLoseAsksNothing) {
+    Formats run;
+    modFormat::mnuFileFormatNew_Click(run.program);
+    run.ExpectNoFormat();
+}
+
+TEST(FormatNew, GoingOnWithTheEditingOfAFormatKeepsIt) {
+    Formats run;
+    run.Open();
+    run.program.format.EditingFormat = true;
+    run.Questions().ExpectBox(kClearQuestion, Answer::Yes);
+    run.Questions().ExpectBox(kEndQuestion, Answer::No);
+    run.Questions().Expect("Resume Editing.");
+    modFormat::mnuFileFormatNew_Click(run.program);
+    EXPECT_TRUE(run.program.format.FormatOpen);
+    EXPECT_EQ(run.program.format.FormatName, "House.fmt");
+}
+
+TEST(FormatChanges, ThatAreNotSavedAreAskedForByNameBeforeTheyGo) {
+    Formats run;
+    run.Open();
+    run.Drag(9);
+    run.Questions().Expect("Some text has been changed.", Answer::No);
+    run.Questions().ExpectBox(
+        {"The format House.fmt has changes that are not saved.", Buttons::YesNoCancel, ""}, Answer::Cancel);
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, 1380);
+    EXPECT_EQ(run.Questions().Manners.back().Words, (std::vector<std::string>{"Save", "Discard", "Cancel"}));
+    EXPECT_EQ(run.Questions().Manners.back().Default, Answer::Cancel);
+    run.Questions().Expect("Some text has been changed.", Answer::No);
+    run.Questions().Expect("The format House.fmt has changes", Answer::Yes);
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_NE(run.folder.Read("Proposals/House.fmt").find("frmP1.lbl(9).Left=1380 "), std::string::npos);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, 1380);
+}
+
+TEST(FormatChanges, ALoadedFormatHasNoneToAskFor) {
+    Formats run;
+    run.Open();
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_TRUE(run.program.format.FormatOpen);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Day");
+}
+
+TEST(FormatSave, WithoutANameAsksForOneAndAnEmptyAnswerStops) {
+    Formats run;
+    run.Drag(9);
+    run.Questions().ExpectInput("Saving File As...", "  ");
+    run.Questions().Expect("No name entered. File not saved.");
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_EQ(run.Questions().Prompts.back(), "Please input the File Name below.");
+    EXPECT_EQ(run.program.format.FormatName, "");
+    run.Questions().ExpectInput("Saving File As...", "Barn.fmt");
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_TRUE(run.folder.Has("Proposals/Barn.fmt"));
+    EXPECT_EQ(run.program.format.FormatName, "Barn.fmt");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook - Format File = Barn.fmt");
+}
+
+TEST(FormatSave, WhenOnlyTextWasTypedIsRefused) {
+    Formats run;
+    run.Type();
+    run.Questions().ExpectInput("Saving File As...", "Barn");
+    run.Questions().Expect("No properties have been changed. File Format not saved.");
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_FALSE(run.folder.Has("Proposals/Barn.fmt"));
+    EXPECT_EQ(run.program.format.FormatName, "");
+}
+
+TEST(FormatSave, AnIllegalNameLeavesTheOldOneAndTheNextSaveDoesNotAsk) {
+    Formats run;
+    run.Open();
+    run.Questions().ExpectInput("Saving File As...", "a/b");
+    run.Questions().Expect("Action Cancelled. File Name cannot include any of ");
+    modFormat::mnuFileFormatSaveAs_Click(run.program);
+    EXPECT_EQ(run.program.format.FormatName, "House.fmt");
+    EXPECT_FALSE(run.program.format.FormatSaveAs);
+    modFormat::mnuFileFormatSave_Click(run.program);
+}
+
+TEST(FormatSave, UnderATakenNameAsksAndOverwritesOneThatMayOnlyBeRead) {
+    Formats run;
+    run.folder.Write("Proposals/Barn.fmt", "old");
+    std::filesystem::permissions(run.folder / "Proposals/Barn.fmt", std::filesystem::perms::owner_read);
+    run.Open();
+    run.Questions().ExpectInput("Saving File As...", "Barn");
+    run.Questions().ExpectBox({"File already exists. Overwrite?", Buttons::YesNo, ""}, Answer::No);
+    modFormat::mnuFileFormatSaveAs_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Barn.fmt"), "old");
+    EXPECT_EQ(run.Questions().Manners.back().Default, Answer::No);
+    run.Questions().ExpectInput("Saving File As...", "Barn");
+    run.Questions().Expect("File already exists. Overwrite?", Answer::Yes);
+    modFormat::mnuFileFormatSaveAs_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Barn.fmt"), kHouse);
+}
+
+TEST(FormatSave, AFileThatAnotherProgramHasChangedIsAskedFor) {
+    Formats run;
+    run.Open();
+    run.folder.Write("Proposals/House.fmt", "theirs");
+    run.Questions().Expect("This format was changed by another program", Answer::No);
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/House.fmt"), "theirs");
+    run.Questions().Expect("This format was changed by another program", Answer::Yes);
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/House.fmt"), kHouse);
+}
+
+TEST(FormatSave, AClientsDataAreAskedForAndLayoutOnlyWritesNoneOfThem) {
+    Formats run;
+    run.Open();
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Jane Roe");
+    typist.Click(PageId::frmP1, 10);
+    typist.Type("Arch");
+    run.Questions().ExpectBox(
+        {"Shall the texts of this proposal become part of the format? New proposals will "
+         "start with them.",
+         Buttons::YesNoCancel, ""},
+        Answer::Cancel);
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_EQ(run.Questions().Manners.back().Words,
+              (std::vector<std::string>{"Layout Only", "Layout and Texts", "Cancel"}));
+    EXPECT_EQ(run.Questions().Manners.back().Default, Answer::Yes);
+    run.Questions().Expect("Shall the texts", Answer::Yes);
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/House.fmt"), kHouse);
+    run.Questions().Expect("No properties have been changed.");
+    modFormat::mnuFileFormatSave_Click(run.program);
+    run.program.format.LogoChanged = true;
+    run.Questions().Expect("Shall the texts", Answer::No);
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/House.fmt"),
+              "frmP1.txt(2).Text=Jane Roe\r\nfrmP1.txt(10).Text=Arch\r\n" + std::string(kHouse));
+}
+
+TEST(FormatSave, ALogoWithoutAFontWritesAllLinesAndThenReports) {
+    Formats run;
+    run.program.run.DefaultFontName = "";
+    run.program.format.LogoPath = "/srv/logo.png";
+    run.program.format.LogoChanged = true;
+    run.Questions().ExpectInput("Saving File As...", "Logo");
+    run.Questions().Expect("An error occurred in SaveFileFormat.");
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Logo.fmt"), "frmP1.pic.Picture=/srv/logo.png .Left=0 .Top=0\r\n");
+    EXPECT_FALSE(run.program.format.FormatOpen);
+}
+
+TEST(FormatSave, CaptionsThatHoldTheNameOfAFieldAreTold) {
+    Formats run;
+    run.Drag(9);
+    run.Label(PageId::frmP1, 9).Caption = "a .FontSize=b";
+    run.Questions().ExpectInput("Saving File As...", "Barn");
+    run.Questions().Expect("The caption \"a .FontSize=b\" cannot be kept in a format.");
+    modFormat::mnuFileFormatSave_Click(run.program);
 }
 
 TEST(FormatDelete, WithoutAFormatSaysSo) {
     Formats run;
-    run.surroundings.questions.ExpectBox({"There's no Format File open.", Buttons::Ok, ""}, Answer::Ok);
+    run.Questions().ExpectBox({"There's no Format File open.", Buttons::Ok, ""}, Answer::Ok);
     modFormat::mnuFileFormatDelete_Click(run.program);
     EXPECT_TRUE(run.folder.Has("Proposals/House.fmt"));
 }
 
 TEST(FormatDelete, AsksDeletesTheFileAndStartsWithoutAFormat) {
     Formats run;
-    run.OpenHouse();
-    run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::No);
+    run.Open();
+    const ScriptedQuestions::Box question{
+        "Are you sure you want to delete the shown Format?\r\nHouse.fmt in " + (run.folder / "Proposals/"),
+        Buttons::YesNo, "Deleting Format FIle"};
+    run.Questions().ExpectBox(question, Answer::No);
     modFormat::mnuFileFormatDelete_Click(run.program);
     EXPECT_TRUE(run.folder.Has("Proposals/House.fmt"));
-    EXPECT_TRUE(run.program.format.FormatOpen);
-    run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::Yes);
+    EXPECT_EQ(run.Questions().Manners.back().Default, Answer::No);
+    run.Questions().ExpectBox(question, Answer::Yes);
     modFormat::mnuFileFormatDelete_Click(run.program);
     EXPECT_FALSE(run.folder.Has("Proposals/House.fmt"));
     run.ExpectNoFormat();
 }
 
+TEST(FormatDelete, UnsavedTextIsAskedForAndCancelStops) {
+    Formats run;
+    run.Open();
+    run.Type();
+    run.Questions().Expect("Some text has been changed.", Answer::Cancel);
+    modFormat::mnuFileFormatDelete_Click(run.program);
+    EXPECT_TRUE(run.folder.Has("Proposals/House.fmt"));
+}
+
+TEST(FormatDelete, TheDefaultFormatIsForgottenInTheSettings) {
+    Formats run;
+    run.Open();
+    modFormat::mnuFileFormatDefault_Click(run.program);
+    run.Questions().Expect("Are you sure", Answer::Yes);
+    run.Questions().Expect("This was the default format.");
+    modFormat::mnuFileFormatDelete_Click(run.program);
+    EXPECT_TRUE(run.HasSetting("Default File Format:"));
+    EXPECT_TRUE(run.HasSetting("Load Default Format:False"));
+}
+
 TEST(FormatDelete, AFileThatHasGoneMeanwhileIsToldAndTheFormatStays) {
     Formats run;
-    run.OpenHouse();
-    run.program.format.FormatName = "Gone.fmt";
-    run.surroundings.questions.ExpectBox(kDeleteQuestion, Answer::Yes);
-    run.surroundings.questions.Expect("An error occurred in mnuFileFormatDelete_Click.");
+    run.Open();
+    std::filesystem::remove(run.folder / "Proposals/House.fmt");
+    run.Questions().Expect("Are you sure", Answer::Yes);
+    run.Questions().Expect("An error occurred in mnuFileFormatDelete_Click.");
     modFormat::mnuFileFormatDelete_Click(run.program);
     EXPECT_TRUE(run.program.format.FormatOpen);
 }
 
-TEST(FormatDefault, SavesTheFormatAndTheSetting) {
+TEST(FormatDefault, AnUnchangedFormatBecomesTheDefaultWithoutAWord) {
     Formats run;
-    int saved = 0;
-    run.program.hooks.SaveFileFormat = [&](Program&) { ++saved; };
+    run.Open();
     modFormat::mnuFileFormatDefault_Click(run.program);
-    EXPECT_EQ(saved, 1);
+    EXPECT_TRUE(run.HasSetting("Default File Format:" + (run.folder / "Proposals/House.fmt")));
+    EXPECT_TRUE(run.HasSetting("Load Default Format:True"));
+    EXPECT_EQ(run.folder.Read("Proposals/House.fmt"), kHouse);
     EXPECT_TRUE(run.program.settings.LoadDefaultFormat);
-    EXPECT_NE(run.folder.Read("UserPreferences.txt").find("Load Default Format:True\r\n"), std::string::npos);
+}
+
+TEST(FormatDefault, ARefusedSaveLeavesTheSettings) {
+    Formats run;
+    run.Questions().ExpectInput("Saving File As...", "");
+    run.Questions().Expect("No name entered. File not saved.");
+    modFormat::mnuFileFormatDefault_Click(run.program);
+    EXPECT_TRUE(run.HasSetting("Load Default Format:False"));
+    EXPECT_FALSE(run.program.settings.LoadDefaultFormat);
+    EXPECT_FALSE(run.program.format.FormatMakeDefault);
+}
+
+TEST(FormatDefault, NewProposalsBeginWithItAfterARestart) {
+    Formats run;
+    run.Drag(9);
+    run.Questions().ExpectInput("Saving File As...", "Barn");
+    modFormat::mnuFileFormatDefault_Click(run.program);
+    RunningProgram later(RunningProgram::Begin::NotStarted);
+    later.folder.Write("UserPreferences.txt", run.Settings());
+    later.Start();
+    EXPECT_TRUE(later.program.format.FormatOpen);
+    EXPECT_EQ(later.program.format.FormatName, "Barn.fmt");
+    EXPECT_EQ(later.Label(PageId::frmP1, 9).Left, 1260);
+    EXPECT_EQ(later.Main().Caption, "Quillbrook - Format File = Barn.fmt");
 }
 
 TEST(ChooserKinds, ATermsListBecomesTheListInUseAndTheWorkingFolderStays) {
@@ -186,8 +407,9 @@ TEST(ChooserKinds, ATermsListBecomesTheListInUseAndTheWorkingFolderStays) {
     int read = 0;
     run.program.hooks.ReadFrequentlyUsedTerms = [&](Program&) { ++read; };
     modWindows::Show(run.program, std::make_unique<frmFile>());
-    ASSERT_EQ(run.Chooser().FileList1.Items, std::vector<std::string>{"Garden.fut"});
-    run.Chooser().FileList1_Click(run.program, 0);
+    ASSERT_EQ(run.Chooser().FileList1.Items,
+              (std::vector<std::string>{"Default Terms.fut", "Garden.fut", "Wedding Terms.fut"}));
+    run.Chooser().FileList1_Click(run.program, 1);
     run.Chooser().cmdOpenOK_Click(run.program);
     EXPECT_EQ(read, 1);
     EXPECT_EQ(run.program.run.FUTFileName, "Garden.fut");
@@ -217,9 +439,9 @@ TEST(ChooserKinds, APictureBecomesTheLogoAndAnythingElseIsRefused) {
     }
     const std::string picture = run.folder / "Proposals/b.BMP";
     run.surroundings.pictures.Known[picture] = {1500, 900};
-    run.program.document.FileFilter = "*.jpg;*.bmp;*.gif";
+    run.program.document.FileFilter = std::string(kPictureFiles);
     modWindows::Show(run.program, std::make_unique<frmFile>());
-    ASSERT_EQ(run.Chooser().FileList1.Items, (std::vector<std::string>{"a.jpg", "b.BMP", "c.gif"}));
+    ASSERT_EQ(run.Chooser().FileList1.Items, (std::vector<std::string>{"a.jpg", "b.BMP", "c.gif", "d.png"}));
     run.Chooser().FileList1_Click(run.program, 0);
     run.surroundings.questions.ExpectBox(
         {"The file a.jpg is not a picture that can be shown.", Buttons::Ok, ""}, Answer::Ok);
@@ -233,7 +455,7 @@ TEST(ChooserKinds, APictureBecomesTheLogoAndAnythingElseIsRefused) {
     EXPECT_EQ(logo.Picture.Path, picture);
     EXPECT_EQ(logo.Size.Width, 1500);
     EXPECT_EQ(run.program.settings.LogoFile, picture);
-    EXPECT_EQ(run.program.run.LogoPath, picture);
+    EXPECT_EQ(run.program.format.LogoPath, picture);
     EXPECT_TRUE(run.program.format.LogoChanged);
     EXPECT_EQ(run.program.document.FileFilter, "*.hef");
 }

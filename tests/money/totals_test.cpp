@@ -1,3 +1,4 @@
+#include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_marks.h"
@@ -80,12 +81,15 @@ TEST(FullRecalculation, AddsEveryFieldAgainAndShowsTheTotalBare) {
     EXPECT_EQ(Figures(run)[3], "1,353.67");
 }
 
-TEST(FullRecalculation, AZeroTotalShowsSixTimesZeroAndTakesTheDepositAlong) {
+TEST(FullRecalculation, AZeroTotalLeavesTheDepositAlone) {
     RunningProgram run;
     run.program.totals.Deposit = 500;
     modTotals::RecalculateAll(run.program);
+    EXPECT_EQ(Figures(run), (Texts{"0.00", "0.00", "0.00", "0.00", "500.00", "-500.00"}));
+    EXPECT_EQ(run.program.totals.Deposit, 500);
+    run.program.totals.Deposit = 0;
+    modTotals::RecalculateAll(run.program);
     EXPECT_EQ(Figures(run), (Texts{"0.00", "0.00", "0.00", "0.00", "0.00", "0.00"}));
-    EXPECT_EQ(run.program.totals.Deposit, 0);
 }
 
 TEST(FullRecalculation, KeepsTheDepositOfATotalThatIsNotZero) {
@@ -180,13 +184,22 @@ TEST(FinalPage, AFigureTypedOverTaxOrTaxableIsReplacedAtOnce) {
     EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
 }
 
-TEST(FinalPage, TextThatIsNoNumberStaysAndChangesNothing) {
+TEST(FinalPage, ADepositThatIsNoNumberStaysAndCountsAsNothing) {
     RunningProgram run;
     Amount(run, PageId::frmP1, 20, "100");
     Amount(run, PageId::frmP6, 4, "40");
     modFields::TypeText(run.program, {PageId::frmP6, FieldKind::txt, 4}, "-", 1, 0);
+    EXPECT_EQ(run.program.totals.Deposit, 0);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 5), "108.25");
+    EXPECT_EQ(run.Area(PageId::frmP6, 4).BackColor, colors::kOverLimit);
+    EXPECT_EQ(run.Area(PageId::frmP6, 4).ToolTipText, "This is not a number and counts as nothing.");
+    Typist(run.program).Click(PageId::frmP6, 1);
+    modTotals::SumAgain(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "-") << "the text stays for the person to mend";
+    EXPECT_EQ(run.Area(PageId::frmP6, 4).BackColor, colors::kOverLimit);
+    modFields::TypeText(run.program, {PageId::frmP6, FieldKind::txt, 4}, "40", 2, 0);
     EXPECT_EQ(run.program.totals.Deposit, 40);
-    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "-");
+    EXPECT_EQ(run.Area(PageId::frmP6, 4).ToolTipText, "");
     modFields::TypeText(run.program, {PageId::frmP6, FieldKind::txt, 4}, "", 0, 0);
     EXPECT_EQ(run.program.totals.Deposit, 0) << "an emptied deposit is none";
 }

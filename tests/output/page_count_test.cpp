@@ -9,7 +9,9 @@
 namespace {
 
 void SetLine(RunningProgram& run, PageId page, int index, std::string text) {
-    run.program.document.CurrentTextBuf[page][static_cast<std::size_t>(index)] = std::move(text);
+    run.program.document
+        .CurrentTextBuf[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)] =
+        std::move(text);
 }
 
 TEST(PagesInUse, IsTheHighestPageWithALineAndTheFinalPage) {
@@ -106,36 +108,36 @@ TEST(Headings, AreCentredAndKeptWithTheProposal) {
     EXPECT_EQ(run.program.format.PropLabelChanges[PageId::frmP6][0].Caption, "Acme - Page 6");
 }
 
-TEST(PageNumbers, AreKeptWithTheProposalAsTheyLook) {
+TEST(PageNumbers, HeadingsAreKeptWithTheProposalAsTheyLook) {
     RunningProgram run;
     run.program.document.PagesInUse = 3;
-    PageLabel& number = run.Label(PageId::frmP1, 31);
-    number.Left = 1000;
-    number.Top = 15000;
-    number.FontName = "Arial";
-    number.FontSize = 8;
-    number.FontBold = false;
-    number.FontItalic = false;
-    number.FontUnderline = true;
-    number.ForeColor = 0x0000FF;
+    PageLabel& heading = run.Label(PageId::frmP2, 0);
+    heading.Left = 1000;
+    heading.Top = 700;
+    heading.FontName = "Arial";
+    heading.FontSize = 8;
+    heading.FontBold = true;
+    heading.FontItalic = false;
+    heading.FontUnderline = true;
+    heading.ForeColor = 0x0000FF;
     modPrint::SetPageNumbers(run.program);
-    const LabelChangeRecord& kept = run.program.format.PropLabelChanges[PageId::frmP1][31];
+    const LabelChangeRecord& kept = run.program.format.PropLabelChanges[PageId::frmP2][0];
     EXPECT_TRUE(kept.Changed);
-    EXPECT_EQ(kept.Caption, "Page 1 of 3");
-    EXPECT_EQ(kept.Left, 1000);
-    EXPECT_EQ(kept.Top, 15000);
+    EXPECT_EQ(kept.Caption, heading.Caption);
+    EXPECT_EQ(kept.Left, 1000) << "somebody has put it there";
+    EXPECT_EQ(kept.Top, 700);
     EXPECT_EQ(kept.FontName, "Arial");
     EXPECT_EQ(kept.FontSize, 8);
-    EXPECT_FALSE(kept.FontBold);
+    EXPECT_TRUE(kept.FontBold);
     EXPECT_FALSE(kept.FontItalic);
     EXPECT_TRUE(kept.FontUnderline);
     EXPECT_EQ(kept.ForeColor, 0x0000FFU);
-    EXPECT_EQ(number.Left, 1000) << "only headings are centred";
-    for (const int page : {1, 2, 3, 4}) {
-        EXPECT_TRUE(run.program.format.PropLabelChanges[static_cast<std::size_t>(page)][34].Changed);
-        EXPECT_TRUE(run.program.format.PropLabelChanges[static_cast<std::size_t>(page)][0].Changed);
+    for (const std::size_t page : {1U, 2U, 3U, 4U, 5U}) {
+        EXPECT_TRUE(run.program.format.PropLabelChanges[page][0].Changed);
     }
-    EXPECT_EQ(run.program.format.PropLabelChanges[PageId::frmP6][63].Caption, "Page 3 of 3");
+    EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 3");
+    EXPECT_FALSE(run.program.format.PropLabelChanges[PageId::frmP1][31].Changed)
+        << "the number alone is no change";
     EXPECT_FALSE(run.program.format.PropLabelChanges[PageId::frmP1][0].Changed)
         << "page 1 has no running heading";
 }

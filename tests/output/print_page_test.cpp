@@ -112,7 +112,7 @@ TEST(DrawPage, TakesTheFieldsInTheOrderOfTheirArraysAndTheLogoLast) {
     EXPECT_EQ(calls[9].ForeColor, colors::kBlack) << "a box does not take the colour of a label";
     EXPECT_EQ(calls[10].X, 1440);
     EXPECT_EQ(calls[10].Y, 720);
-    EXPECT_FALSE(calls[10].Size.has_value()) << "the logo keeps its natural size";
+    EXPECT_EQ(calls[10].Size, bare.program.pages[PageId::frmP1].pic.Size) << "as large as on the page";
 }
 
 TEST(DrawPage, GoesByTheTagAndNotByVisibility) {

@@ -148,11 +148,11 @@ TEST(PageModel, RowFieldsStandOnTheirRowWithTheirPlaceholders) {
     }
 }
 
-TEST(PageModel, TheAtLabelTakesTheSymbolButNotOnTheClientPage) {
+TEST(PageModel, TheAtLabelTakesTheSymbolOnEveryPage) {
     RunningProgram run(RunningProgram::Begin::NotStarted);
     run.Setting("Currency Symbol:", "\x80");
     run.Start();
-    EXPECT_EQ(run.program.pages[PageId::frmP1].lblAt[15].Caption, "@ $");
+    EXPECT_EQ(run.program.pages[PageId::frmP1].lblAt[15].Caption, "@ \x80");
     EXPECT_EQ(run.program.pages[PageId::frmP2].lblAt[32].Caption, "@ \x80");
 }
 
@@ -340,7 +340,7 @@ TEST(PageModel, FontsGoToAreasRowLabelsAndSignsAndBoldComesBack) {
     program.run.DefaultFontColor = 0x123456;
     program.run.DefaultFontItalic = true;
     program.format.PropTextChanges[PageId::frmP2][3].FontBold = true;
-    program.format.FormatTextChanges[PageId::frmP6][4].FontBold = true;
+    program.format.PropTextChanges[PageId::frmP6][4].FontBold = true;
     modPages::ApplyPageFonts(program);
     for (const PageId page : kAllPages) {
         EXPECT_EQ(program.pages[page].FontName, "Arial");

@@ -166,7 +166,7 @@ TEST(AskingToSave, YesWithoutAClientsNameKeepsTheTextAndStopsTheCommand) {
         run.surroundings.questions.Expect("Please enter the client's name in the appropriate area");
         command(run.program);
         EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "x");
-        EXPECT_TRUE(run.program.windows.Open.empty());
+        EXPECT_EQ(modWindows::TopModal(run.program), nullptr);
         EXPECT_FALSE(run.program.document.Cancelled);
     }
 }
@@ -345,8 +345,9 @@ TEST(SaveAs, AsksForANameAndSavesUnderIt) {
     EXPECT_EQ(run.program.document.TextFileName, "Second.txt");
     EXPECT_EQ(run.Main().Caption, "Quillbrook - File Name = Second.hef");
     EXPECT_FALSE(run.program.document.SaveAsActive);
-    // A proposal without properties gets an empty file of them.
-    EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"), "");
+    // A proposal without properties of its own keeps the font it was written in.
+    EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"),
+              "UDP.FontName=Times New Roman .FontSize=10 .FontColor=0 .FontItalic=False\r\n");
 }
 
 TEST(SaveAs, WithoutANameNothingIsSaved) {

@@ -73,8 +73,8 @@ TEST(ProposalLayout, AFullWidthMarkedAmountLosesItsLastCharacter) {
     for (std::size_t page = 0; page < widths.size(); ++page) {
         fields[page].resize(widths[page].size());
     }
-    fields[PageId::frmP1][20] = {"12345678901234567890", true};
-    fields[PageId::frmP1][21] = {"7", false};
+    fields[0][20] = {"12345678901234567890", true};
+    fields[0][21] = {"7", false};
     const std::string bytes = proposal::Encode(fields, widths);
     EXPECT_EQ(bytes.size(), 20630U);
     EXPECT_EQ(bytes.substr(kFirstAmountOffset, 21), "\xD8"
@@ -329,7 +329,7 @@ TEST(SavingAProposal, UnderATakenNameAsksFirst) {
 TEST(SavingAProposal, OnAFullDiskIsToldAndTheTextStaysUnsaved) {
     RunningProgram run;
     run.program.document.FileName = "Ann.hef";
-    run.program.document.CurrentTextBuf[PageId::frmP1][3] = "12 Elm Street";
+    run.Area(PageId::frmP1, 3).Text = "12 Elm Street";
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
@@ -478,15 +478,6 @@ TEST(OpeningAProposal, AMarkedAmountLosesTheBlanksAroundItAndIsNotTaxed) {
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
 }
 
-TEST(OpeningAProposal, AFormatsTextStaysAndItsAmountCounts) {
-    RunningProgram run;
-    run.program.format.FormatTextChanges[PageId::frmP1][10].FormatText = true;
-    run.Area(PageId::frmP1, 10).Text = "Every event includes";
-    ASSERT_EQ(Open(run, FileWith({{530, "Something else"}, {650, "A row"}})), modFile::OpenResult::Opened);
-    EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "Every event includes");
-    EXPECT_EQ(run.TextOf(PageId::frmP1, 11), "A row");
-}
-
 TEST(OpeningAProposal, AQuantityRowCutByItsSlotIsPlainText) {
     RunningProgram run;
     // The composed line was longer than 120 and has lost its price with the mark.
@@ -500,8 +491,11 @@ TEST(OpeningAProposal, AQuantityRowCutByItsSlotIsPlainText) {
 
 TEST(OpeningAProposal, OtherProposalsShowTheLogoAsTheSettingSays) {
     RunningProgram run;
+    const std::string picture = run.folder / "logo.png";
+    run.folder.Write("logo.png", "x");
+    run.surroundings.pictures.Known[picture] = {1500, 900};
+    run.program.settings.LogoFile = picture;
     run.program.settings.LogoVisible = true;
-    run.program.pages[PageId::frmP1].pic.Tag = "Hide";
     ASSERT_EQ(Open(run, FileWith({}), "Jane Doe.hef"), modFile::OpenResult::Opened);
     EXPECT_TRUE(run.program.settings.LogoVisible);
     EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Tag, "");
@@ -521,7 +515,7 @@ TEST(OpeningAProposal, WithHiddenTotalsWritesTheDepositAloneAndIsUnchanged) {
 
 TEST(OpeningAProposal, FiresNoHandlerOfAPageAndPutsItsFlagDown) {
     RunningProgram run;
-    run.program.document.HasClient = false;
+    run.Main()[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
     const auto answer = run.program.hooks.Change;
     int loud = 0;
     run.program.hooks.Change = [&](Program& program, const FieldRef& field) {

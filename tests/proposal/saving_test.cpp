@@ -1,4 +1,5 @@
 #include "base/files.h"
+#include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/row_fields.h"
@@ -12,6 +13,7 @@
 #include <filesystem>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include <sys/resource.h>
@@ -60,9 +62,19 @@ private:
     rlimit before_{};
 };
 
+/// Amounts that add differently in singles. By field 16777216 + 1 + 1 stays 16777216, by page 16777216 +
+/// (1 + 1) is 16777218; all exempt.
+void PutWhatAddsDifferently(RunningProgram& run) {
+    for (const auto& [page, index, text] :
+         {std::tuple{PageId::frmP1, 20, "16777216"}, {PageId::frmP2, 33, "1"}, {PageId::frmP2, 34, "1"}}) {
+        modFields::SetText(run.program, {page, FieldKind::txt, index}, text);
+        modTotals::SetTax(run.program, page, index, modTotals::Tax::Exempt);
+    }
+}
+
 TEST(Saving, TellsOfTheTotalsBeforeItAsksForTheName) {
     RunningProgram run;
-    Put(run, PageId::frmP1, 20, "10"); // on the page, but not in the tables: the two totals differ
+    PutWhatAddsDifferently(run);
     run.surroundings.questions.Expect("A descrepancy has occurred in calculating the totals.");
     run.surroundings.questions.Expect(
         "Please enter the client's name in the appropriate area and save again.");
@@ -169,6 +181,10 @@ TEST(Saving, ATextLongerThanItsSlotIsCutInTheFileAlone) {
     RunningProgram run;
     const std::string street(70, 's');
     modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 4}, street);
+    run.surroundings.questions.ExpectBox(
+        {"These texts are longer than their place in the file and will be cut:\r\nPage 1, Text Area 5",
+         Buttons::YesNo, ""},
+        Answer::Yes);
     SaveAnn(run);
     const std::string bytes = run.folder.Read("Proposals/Ann.hef");
     EXPECT_EQ(Slot(bytes, 170, 60), std::string(60, 's'));
@@ -210,7 +226,7 @@ TEST(Saving, QuantityRowsAreGatheredBeforePropertiesAndBytes) {
 TEST(Saving, ADiscrepancyIsToldAndTheFileIsWrittenAllTheSame) {
     RunningProgram run;
     modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
-    Put(run, PageId::frmP2, 33, "10");
+    PutWhatAddsDifferently(run);
     run.surroundings.questions.Expect("A descrepancy has occurred in calculating the totals.");
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
@@ -279,14 +295,17 @@ TEST(Backup, ThatCannotBeWrittenIsReportedAndEndsWithTheSave) {
     EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 110, 13), "14 Oak Street");
 }
 
-TEST(PropertyFile, IsNotMadeByASaveWithoutProperties) {
+TEST(PropertyFile, IsNotMadeByASaveWithoutChangedProperties) {
     RunningProgram run;
     SaveAnn(run);
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_FALSE(run.folder.Has("Proposals/Ann.hpf"));
     run.program.format.PropTextChanges[PageId::frmP2][3].Dirty = true;
     run.program.format.LabelSavedState[PageId::frmP1][3].Changed = true;
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
-    EXPECT_FALSE(run.folder.Has("Proposals/Ann.hpf"));
+    EXPECT_TRUE(run.folder.Has("Proposals/Ann.hpf"));
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
 }
 
@@ -326,18 +345,21 @@ TEST(PropertyFile, ThatCouldNotBeWrittenStillCountsAsChanged) {
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
 }
 
-TEST(PropertyFile, OfAProposalFromTheBackupsLiesAmongTheProposals) {
+TEST(PropertyFile, OfAProposalFromTheBackupsIsReadBesideItAndWrittenAmongTheProposals) {
     RunningProgram run;
     run.program.document.FilePath = run.folder / "Proposals/Backup/";
     run.program.document.FromBackup = true;
     run.program.document.BaseName = "Ann";
     run.folder.Write("Proposals/Ann.hpf", "frmP1.txt(10).FontBold=True\r\n");
-    run.folder.Write("Proposals/Backup/Ann.hpf", "not this one\r\n");
-    int parsed = 0;
-    run.program.hooks.ParsePropertyFile = [&](Program&) { ++parsed; };
+    run.folder.Write("Proposals/Backup/Ann.hpf", "frmP1.txt(11).FontBold=True\r\n");
+    modFile::ReadFileProperties(run.program);
+    EXPECT_EQ(run.program.format.PropertyLines, std::vector<std::string>{"frmP1.txt(11).FontBold=True"});
+    EXPECT_TRUE(run.Area(PageId::frmP1, 11).FontBold);
+    std::filesystem::remove(run.folder / "Proposals/Backup/Ann.hpf");
     modFile::ReadFileProperties(run.program);
     EXPECT_EQ(run.program.format.PropertyLines, std::vector<std::string>{"frmP1.txt(10).FontBold=True"});
-    EXPECT_EQ(parsed, 1);
+    EXPECT_TRUE(run.Area(PageId::frmP1, 10).FontBold);
+    run.folder.Write("Proposals/Backup/Ann.hpf", "not this one\r\n");
     run.program.format.PropertyLines = {"a", "b"};
     EXPECT_EQ(modFile::SavePropertyFile(run.program), SaveResult::Saved);
     EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "a\r\nb\r\n");

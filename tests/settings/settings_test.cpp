@@ -88,7 +88,6 @@ TEST(Settings, EveryLineReachesItsValue) {
     EXPECT_EQ(inForce.DefaultFontSize, 9.75F);
     EXPECT_EQ(inForce.DefaultFontColor, 255U);
     EXPECT_TRUE(inForce.DefaultFontItalic);
-    EXPECT_EQ(inForce.LogoPath, run.folder / "logo.jpg");
     EXPECT_TRUE(inForce.TermsPinned);
     EXPECT_EQ(inForce.FUTFileName, "Mine.fut");
     EXPECT_FALSE(inForce.NoPrinter);
@@ -273,19 +272,6 @@ TEST(Settings, BooleansAreTheWordTrueInAnyCase) {
     EXPECT_FALSE(read.SavedFontItalic);
 }
 
-TEST(Settings, ALogoWithADriveOrFromTheRootStandsByItself) {
-    for (const std::string path : {"c:\\pictures\\a.jpg", "/srv/a.jpg"}) {
-        Settled run;
-        run.folder.Write("UserPreferences.txt", SettingsFile({{11, path}}));
-        modSettings::GetUserPreferences(run.program);
-        EXPECT_EQ(run.program.run.LogoPath, path);
-    }
-    Settled run;
-    run.folder.Write("UserPreferences.txt", SettingsFile({{11, "pictures/a.jpg"}}));
-    modSettings::GetUserPreferences(run.program);
-    EXPECT_EQ(run.program.run.LogoPath, run.folder / "pictures/a.jpg");
-}
-
 TEST(Settings, ATermsListIsPinnedOnlyWhenItIsNamedAndWanted) {
     Settled named;
     named.folder.Write("UserPreferences.txt", SettingsFile({{23, "Mine.fut"}, {24, "False"}}));
@@ -308,14 +294,39 @@ TEST(Settings, APrinterIsMatchedExactlyAndNoneIsNoted) {
     EXPECT_TRUE(run.program.run.NoPrinter);
 }
 
-TEST(Settings, AFontFoundMissingDoesNotComeBackWhenTheSettingsAreReadAgain) {
+TEST(Settings, ReadAgainInMidRunLeaveAloneWhatIsInForce) {
     Settled run;
-    run.folder.Write("UserPreferences.txt", SettingsFile({{27, "Nowhere Script"}}));
+    run.folder.Write("UserPreferences.txt", SettingsFile({{11, "a.png"},
+                                                          {19, "House.fmt"},
+                                                          {20, "True"},
+                                                          {23, "Mine.fut"},
+                                                          {24, "True"},
+                                                          {25, "Kept - "},
+                                                          {27, "Nowhere Script"},
+                                                          {28, "9"},
+                                                          {31, "True"}}));
     modSettings::GetUserPreferences(run.program);
     EXPECT_EQ(run.program.run.DefaultFontName, "Nowhere Script");
-    run.program.run.FontsLoaded = true;
+    EXPECT_EQ(run.program.document.PageHeading, "Kept - ");
+    run.program.run.DefaultFontName = "Times New Roman";
+    run.program.run.DefaultFontSize = 8;
+    run.program.run.FUTFileName = "Other.fut";
+    run.program.run.ACEnabled = true;
+    run.program.run.ACStartLen = 3;
+    run.program.document.PageHeading = "Typed - ";
+    run.program.settings.LoadDefaultFormat = false;
+    run.program.settings.LogoFile = "chosen.png";
+    run.program.settings.LogoVisible = false;
     modSettings::GetUserPreferences(run.program);
     EXPECT_EQ(run.program.run.DefaultFontName, "Times New Roman");
+    EXPECT_EQ(run.program.run.DefaultFontSize, 8);
+    EXPECT_EQ(run.program.run.FUTFileName, "Other.fut");
+    EXPECT_TRUE(run.program.run.ACEnabled);
+    EXPECT_EQ(run.program.run.ACStartLen, 3);
+    EXPECT_EQ(run.program.document.PageHeading, "Typed - ");
+    EXPECT_FALSE(run.program.settings.LoadDefaultFormat);
+    EXPECT_EQ(run.program.settings.LogoFile, "chosen.png");
+    EXPECT_FALSE(run.program.settings.LogoVisible);
     EXPECT_EQ(run.program.settings.SavedFontName, "Nowhere Script");
 }
 

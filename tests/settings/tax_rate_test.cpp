@@ -77,23 +77,27 @@ TEST(TaxRate, IsWrittenInFiveCharactersAndTold) {
     modTax::SaveTaxRate(run.program, "9.50");
     EXPECT_EQ(run.File(), "9.50 ");
     EXPECT_EQ(run.program.totals.TaxRate, 9.5F);
-    EXPECT_FALSE(run.program.totals.TotalsStale);
+    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
 }
 
-TEST(TaxRate, WithAmountsTheRecalculationIsAskedForInRed) {
+TEST(TaxRate, ANewOneIsInTheOpenProposalsFiguresAtOnce) {
     Taxed run;
+    int fresh = 0;
+    run.program.hooks.TakeFreshFigures = [&](Program& program) {
+        ++fresh;
+        EXPECT_EQ(program.totals.TaxRate, fresh == 1 ? 8.25F : 0.0F);
+    };
+    run.surroundings.questions.Expect("New Sales Tax Rate is 7.00 %");
+    modTax::SaveTaxRate(run.program, "7.00");
+    EXPECT_EQ(fresh, 0) << "nothing to tax";
     run.program.totals.AmountTable[38][PageId::frmP2] = -5;
     run.surroundings.questions.Expect("New Sales Tax Rate is 8.25 %");
-    run.surroundings.questions.ExpectBox({"Please click Recalculate to update the totals.", Buttons::Ok, ""},
-                                         Answer::Ok);
     modTax::SaveTaxRate(run.program, "8.25");
-    EXPECT_TRUE(run.program.totals.TotalsStale);
-    EXPECT_EQ(run.program.main.cmdTaxRate.BackColor, colors::kButtonFace);
-    // A rate of zero asks for nothing.
-    run.program.totals.TotalsStale = false;
+    EXPECT_EQ(fresh, 1);
     run.surroundings.questions.Expect("New Sales Tax Rate is .00 %");
     modTax::SaveTaxRate(run.program, ".00");
-    EXPECT_FALSE(run.program.totals.TotalsStale);
+    EXPECT_EQ(fresh, 2);
+    EXPECT_EQ(run.program.main.cmdTaxRate.BackColor, colors::kButtonFace);
 }
 
 TEST(TaxRate, AFileThatCannotBeWrittenIsToldAndNoNewRateIsClaimed) {
@@ -114,9 +118,9 @@ TEST(FrmTax, ShowsTheRateInForce) {
     EXPECT_EQ(window.Mode(), Modality::Modal);
 }
 
-TEST(FrmTax, LetsDigitsPointBackspaceAndTabPass) {
+TEST(FrmTax, LetsDigitsPointCommaBackspaceAndTabPass) {
     for (int key = 0; key < 256; ++key) {
-        const bool passes = (key >= 48 && key <= 57) || key == 46 || key == 8 || key == 9;
+        const bool passes = (key >= 48 && key <= 57) || key == 46 || key == 44 || key == 8 || key == 9;
         EXPECT_EQ(frmTax::txtTaxRate_KeyPress(key), passes ? key : 0) << key;
     }
 }
@@ -126,17 +130,51 @@ TEST(FrmTax, OkStoresTwoDecimalsInFiveCharacters) {
                                         {"7.125", "7.13 "},
                                         {"0.5", ".50  "},
                                         {"0", ".00  "},
-                                        {"", ".00  "},
-                                        {".", ".00  "},
-                                        {"1.2.3", "1.20 "},
                                         {"100", "100.0"}}) {
         Taxed run;
+        run.program.totals.TaxRate = 5;
         auto& window = dynamic_cast<frmTax&>(modWindows::Show(run.program, std::make_unique<frmTax>()));
         window.txtTaxRate.Text = typed;
         run.surroundings.questions.Expect("New Sales Tax Rate is ");
         window.cmdOK_Click(run.program);
         EXPECT_EQ(run.File(), stored) << typed;
         EXPECT_TRUE(window.Closing);
+    }
+}
+
+TEST(FrmTax, OpensWithTheRateInForceAllSelected) {
+    Taxed run;
+    run.program.totals.TaxRate = 8.875F;
+    const auto& window = dynamic_cast<frmTax&>(modWindows::Show(run.program, std::make_unique<frmTax>()));
+    EXPECT_EQ(window.txtTaxRate.Text, "8.875");
+    EXPECT_EQ(window.txtTaxRate.SelStart, 0);
+    EXPECT_EQ(window.txtTaxRate.SelLength, 5);
+}
+
+TEST(FrmTax, ALookAndOkChangeNothing) {
+    for (const char* left : {"8.875", "", "  "}) {
+        Taxed run;
+        run.folder.Write("Proposals/SalesTax.txt", "8.875");
+        run.program.totals.TaxRate = 8.875F;
+        auto& window = dynamic_cast<frmTax&>(modWindows::Show(run.program, std::make_unique<frmTax>()));
+        window.txtTaxRate.Text = left;
+        window.cmdOK_Click(run.program);
+        EXPECT_TRUE(window.Closing);
+        EXPECT_EQ(run.program.totals.TaxRate, 8.875F);
+        EXPECT_EQ(run.File(), "8.875");
+    }
+}
+
+TEST(FrmTax, WhatIsNoNumberIsToldAndTheWindowStays) {
+    for (const char* typed : {"8,25", ".", "1.2.3"}) {
+        Taxed run;
+        run.program.totals.TaxRate = 8.25F;
+        auto& window = dynamic_cast<frmTax&>(modWindows::Show(run.program, std::make_unique<frmTax>()));
+        window.txtTaxRate.Text = typed;
+        run.surroundings.questions.Expect(std::string(typed) + " is not a number and was not taken.");
+        window.cmdOK_Click(run.program);
+        EXPECT_FALSE(window.Closing);
+        EXPECT_EQ(run.program.totals.TaxRate, 8.25F);
     }
 }
 

@@ -62,7 +62,7 @@ TEST(Commands, MenusSeparatorsAndIdleEntriesDoNothing) {
         Choose(run, id);
     }
     EXPECT_TRUE(run.surroundings.questions.Shown.empty());
-    EXPECT_TRUE(run.program.windows.Open.empty());
+    EXPECT_EQ(modWindows::TopModal(run.program), nullptr);
 }
 
 TEST(Commands, AnEntryWhoseRoomIsNotBuiltDoesNothing) {
@@ -74,7 +74,7 @@ TEST(Commands, AnEntryWhoseRoomIsNotBuiltDoesNothing) {
         }
     }
     EXPECT_TRUE(run.surroundings.questions.Shown.empty());
-    EXPECT_TRUE(run.program.windows.Open.empty());
+    EXPECT_EQ(modWindows::TopModal(run.program), nullptr);
 }
 
 TEST(Toggles, CopyTheirCheckMarkToTheirFlag) {
@@ -97,7 +97,7 @@ TEST(Help, AboutTellsTitleVersionMakerAndWebAddress) {
 
 TEST(Help, PagesOpenAndBothFloatingWindowsStepAside) {
     RunningProgram run;
-    Window& terms = Float(run, "frmFUT");
+    Window& terms = *modWindows::Find(run.program, "frmFUT");
     Window& calculator = Float(run, "frmCalc");
     Choose(run, CommandId::mnuHelpContents);
     EXPECT_TRUE(terms.Minimised);
@@ -110,7 +110,7 @@ TEST(Help, PagesOpenAndBothFloatingWindowsStepAside) {
 
 TEST(WebPages, OpenBelowTheMakersHostAndOnlyTheTermsStepAside) {
     RunningProgram run;
-    Window& terms = Float(run, "frmFUT");
+    Window& terms = *modWindows::Find(run.program, "frmFUT");
     Window& calculator = Float(run, "frmCalc");
     ExpectTold(run, "Quillbrook\r\nCurrent Version: 1.0.0");
     for (const CommandId id : {CommandId::mnuHelpFAQ, CommandId::mnuSupportUpdates,
@@ -357,7 +357,7 @@ TEST(CurrencySymbol, OneThatCannotBeStoredIsToldAndStandsForTheRun) {
 
 TEST(Commands, OneThatIsNotBuiltSaysSoInTheStrip) {
     RunningProgram run;
-    commands::Run(run.program, CommandId::mnuViewEventDates);
+    commands::Run(run.program, CommandId::mnuAdminTestCode);
     EXPECT_EQ(run.program.main.Notice, "This command is not available in this version.");
 }
 
@@ -368,9 +368,10 @@ TEST(Commands, WaitWhilePagesAreBeingPrinted) {
     commands::Run(run.program, CommandId::mnuFileNew);
     commands::Run(run.program, CommandId::mnuFileOpenEvent);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "Hall");
-    EXPECT_TRUE(run.program.windows.Open.empty());
+    EXPECT_EQ(modWindows::TopModal(run.program), nullptr);
     EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program));
     run.program.printing.CommandRunning = false;
+    run.Area(PageId::frmP1, 8).Text.clear();
     EXPECT_TRUE(modClosing::MDIForm_QueryUnload(run.program));
 }
 

@@ -221,15 +221,9 @@ TEST(Resize, TheInformationStripFollowsTheWidthAndRepaintsBeforeThePageMoves) {
     EXPECT_EQ(yields, 1);
 }
 
-struct FloatingTerms : Window {
-    [[nodiscard]] std::string_view Name() const override { return "frmFUT"; }
-    [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }
-    void Form_Cancel(Program& program) override { modWindows::Close(program, *this); }
-};
-
 TEST(Resize, FloatingWindowsGoWithTheMainWindowOnWideScreens) {
     Scrolling run(7000);
-    const Window& terms = modWindows::Show(run.program, std::make_unique<FloatingTerms>());
+    const Window& terms = *modWindows::Find(run.program, "frmFUT");
     const auto resize = [&](WindowState state) {
         run.program.main.State = state;
         modScroll::MDIForm_Resize(run.program);

@@ -24,10 +24,10 @@ const std::set<std::string>& Editing() {
         "mnuEditTextPaste",    "mnuEditTextBreak5",     "mnuEditTextMoveDown",     "mnuEditTextMoveUp",
         "mnuEditTextBreak6",   "mnuEditTextTaxExempt",  "mnuEditTextTaxable",      "mnuEditTextBreak7",
         "mnuEditTextDeselect", "mnuEditTextBreak8",     "mnuEditTextProperties",   "mnuEditLabel",
-        "mnuEditLabelProps",   "mnuEditLabelSelectAll", "mnuEditLabelDeselectAll", "mnuEditLogo",
-        "mnuEditLogoOpen",     "mnuEditLogoSave",       "mnuEditLogoVisible",      "mnuEditLogoBorder",
-        "mnuEditAllTextFonts", "mnuEditTitles",         "mnuEditCompInfo",         "mnuEditSpellCheck",
-        "mnuManageEditor"};
+        "mnuEditLabelProps",   "mnuEditLabelSelectAll", "mnuEditLabelDeselectAll", "mnuEditLabelMode",
+        "mnuEditLogo",         "mnuEditLogoOpen",       "mnuEditLogoSave",         "mnuEditLogoVisible",
+        "mnuEditLogoBorder",   "mnuEditAllTextFonts",   "mnuEditTitles",           "mnuEditCompInfo",
+        "mnuEditSpellCheck",   "mnuManageEditor"};
     return kNames;
 }
 

@@ -17,7 +17,7 @@ constexpr Color kCyan = 0xFFFF00;
 constexpr Color kRed = 0x0000FF;
 
 constexpr int kTabKey = 9, kEnterKey = 13, kEndKey = 35, kHomeKey = 36, kLeftKey = 37, kUpKey = 38,
-              kRightKey = 39, kDownKey = 40, kF8Key = 119;
+              kRightKey = 39, kDownKey = 40, kInsertKey = 45, kF8Key = 119;
 
 int Len(const std::string& text) {
     return static_cast<int>(text.size());
@@ -29,6 +29,24 @@ std::string Trimmed(std::string_view text) {
         return {};
     }
     return std::string(text.substr(from, text.find_last_not_of(' ') - from + 1));
+}
+
+/// Between commas stand three digits, before the first one to three.
+bool GroupedByThree(std::string_view whole) {
+    std::size_t comma = whole.find(',');
+    if (comma == std::string_view::npos) {
+        return true;
+    }
+    if (comma < 1 || comma > 3) {
+        return false;
+    }
+    for (; comma < whole.size(); comma += 4) {
+        if (whole[comma] != ',' || whole.substr(comma + 1, 3).find(',') != std::string_view::npos ||
+            whole.size() < comma + 4) {
+            return false;
+        }
+    }
+    return true;
 }
 
 /// The number a text stands for, nothing when it is none or greater than a single holds.
@@ -84,7 +102,7 @@ std::optional<double> Number(std::string_view whole) {
             break;
         }
     }
-    if (!digits) {
+    if (!digits || !GroupedByThree(text.substr(0, text.find_first_not_of("0123456789,")))) {
         return std::nullopt;
     }
     if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
@@ -252,7 +270,8 @@ ReferenceFlow::Field& ReferenceFlow::At(const FieldRef& field) {
 }
 
 bool ReferenceFlow::Over(const Field& field, int limit) const {
-    return measure_.Width(field.Text, {}) >= field.Width || Len(field.Text) > limit;
+    const bool noNumber = (field.Kind == "Amou" || field.Kind == "Depo") && !EmptyOrNumber(field.Text);
+    return measure_.Width(field.Text, {}) >= field.Width || Len(field.Text) > limit || noNumber;
 }
 
 bool ReferenceFlow::HasBoxes(const FieldRef& field) const {
@@ -269,11 +288,14 @@ void ReferenceFlow::Character(char character) {
         return;
     }
     const unsigned char byte = static_cast<unsigned char>(character);
-    KeyDown(std::isalnum(byte) != 0 || byte == ' ' ? std::toupper(byte) : 190);
+    const int code = std::isalnum(byte) != 0 || byte == ' ' ? std::toupper(byte) : 190;
+    KeyDown(code);
+    std::optional<FieldRef> typedInto;
     if (KeyPress(character)) {
+        typedInto = Focus;
         Replace(std::string(1, character));
     }
-    KeyUp();
+    KeyUp(code, typedInto);
 }
 
 void ReferenceFlow::Backspace() {
@@ -291,7 +313,7 @@ void ReferenceFlow::Backspace() {
             Replace("");
         }
     }
-    KeyUp();
+    KeyUp(8);
 }
 
 void ReferenceFlow::Delete() {
@@ -308,7 +330,7 @@ void ReferenceFlow::Delete() {
             Replace("");
         }
     }
-    KeyUp();
+    KeyUp(46);
 }
 
 void ReferenceFlow::Key(int keyCode) {
@@ -333,7 +355,7 @@ void ReferenceFlow::Key(int keyCode) {
     if ((keyCode == kEnterKey || keyCode == kTabKey) && IsFinal(*Focus)) {
         static_cast<void>(KeyPress(static_cast<char>(keyCode)));
     }
-    KeyUp();
+    KeyUp(keyCode);
 }
 
 void ReferenceFlow::Commit(std::string_view text) {
@@ -371,7 +393,7 @@ void ReferenceFlow::PasteByKey(std::string_view clipboard) {
             Replace(Trimmed(clipboard));
         }
     }
-    KeyUp();
+    KeyUp('V');
 }
 
 void ReferenceFlow::PasteByMouse(const FieldRef& target, int at, std::string_view text) {
@@ -399,6 +421,9 @@ void ReferenceFlow::Drag(const FieldRef& target, int from, int to) {
         return;
     }
     Field& field = At(target);
+    if (!IsBox(target)) {
+        Settle(target.Page);
+    }
     const int first = std::clamp(std::min(from, to), 0, Len(field.Text));
     const int second = std::clamp(std::max(from, to), 0, Len(field.Text));
     field.Start = first;
@@ -456,17 +481,23 @@ void ReferenceFlow::MakeExempt(const FieldRef& target) {
             field.Back = Over(field, std::stoi(field.Limit)) ? kRed : kGrey;
         }
         for (std::size_t i = 0; i < sheet.qty.size(); ++i) {
-            sheet.qty[i].Back = measure_.Width(sheet.qty[i].Text, {}) >= 540 ? kRed : kLightGrey;
-            sheet.amt[i].Back = measure_.Width(sheet.amt[i].Text, {}) >= 1020 ? kRed : kLightGrey;
+            sheet.qty[i].Back =
+                measure_.Width(sheet.qty[i].Text, {}) >= 540 || sheet.qty[i].NoNumber ? kRed : kLightGrey;
+            sheet.amt[i].Back =
+                measure_.Width(sheet.amt[i].Text, {}) >= 1020 || sheet.amt[i].NoNumber ? kRed : kLightGrey;
         }
     }
     rightClick_ = true;
     CurrentArea = target.Index;
     // The area is shut while the menu opens and so is left; the command gives it the focus back.
     LostFocus(target);
-    Sheets[static_cast<std::size_t>(IndexOf(target.Page))]
-        .Rows[static_cast<std::size_t>(target.Index)]
-        .Exempt = true;
+    Row& row =
+        Sheets[static_cast<std::size_t>(IndexOf(target.Page))].Rows[static_cast<std::size_t>(target.Index)];
+    row.Exempt = true;
+    row.Taxable = 0;
+    SumPage(target.Page);
+    RunningTotals();
+    Stale = true;
     GotFocus(target);
 }
 
@@ -504,12 +535,23 @@ void ReferenceFlow::KeyDown(int keyCode) {
         ToggleColumns(field.Page, field.Index);
         return;
     }
-    if (keyCode == kEnterKey || keyCode == kTabKey || keyCode == kUpKey || keyCode == kDownKey) {
+    if (At(field).Length == 0) {
+        Settle(field.Page);
+    }
+    const bool stands = WordOf(field.Page).Active;
+    if (((keyCode == kEnterKey || keyCode == kTabKey) && !stands) || keyCode == kUpKey ||
+        keyCode == kDownKey) {
         Walk(keyCode);
         return;
     }
     CursorPos = At(field).Start;
     lastKey_ = std::string(1, static_cast<char>(keyCode));
+    if (stands && (keyCode == kRightKey || keyCode == kInsertKey || keyCode == kEnterKey)) {
+        TakeWord(field.Page);
+        if (keyCode == kEnterKey) {
+            PlacePrice(field, WordOf(field.Page).Amount);
+        }
+    }
 }
 
 void ReferenceFlow::Walk(int keyCode) {
@@ -521,20 +563,20 @@ void ReferenceFlow::Walk(int keyCode) {
         if (i == 0) {
             return;
         }
-        GiveFocus(Txt(page, page == PageId::frmP1 && i == 20 ? 10 : i - 1));
+        Arrive(Txt(page, page == PageId::frmP1 && i == 20 ? 10 : i - 1));
     } else if (i == last) {
         const PageId next = PageAt(IndexOf(page) + 1);
         ToPage(next);
-        GiveFocus(Txt(next, 0));
+        Arrive(Txt(next, 0));
     } else if (keyCode == kDownKey) {
-        GiveFocus(Txt(page, i + 1));
+        Arrive(Txt(page, i + 1));
     } else if (page == PageId::frmP1 && i < 10) {
-        GiveFocus(Txt(page, i + 1));
+        Arrive(Txt(page, i + 1));
     } else if (IsLine(page, i)) {
-        GiveFocus(HasBoxes(from) ? FieldRef{page, FieldKind::txtAmt, i} : Txt(page, i + ToAmount(page)));
+        Arrive(HasBoxes(from) ? FieldRef{page, FieldKind::txtAmt, i} : Txt(page, i + ToAmount(page)));
     } else {
         const int next = i - ToAmount(page) + 1;
-        GiveFocus(HasBoxes(Txt(page, next)) ? FieldRef{page, FieldKind::txtQty, next} : Txt(page, next));
+        Arrive(HasBoxes(Txt(page, next)) ? FieldRef{page, FieldKind::txtQty, next} : Txt(page, next));
     }
 }
 
@@ -543,7 +585,7 @@ void ReferenceFlow::BoxKeyDown(int keyCode) {
     const Sheet& sheet = Sheets[static_cast<std::size_t>(IndexOf(box.Page))];
     if (keyCode == kEnterKey || keyCode == kTabKey) {
         if (box.Kind == FieldKind::txtAmt) {
-            GiveFocus(Txt(box.Page, box.Index + ToAmount(box.Page)));
+            Arrive(Txt(box.Page, box.Index + ToAmount(box.Page)));
             return;
         }
         GiveFocus(Txt(box.Page, box.Index));
@@ -563,7 +605,7 @@ void ReferenceFlow::BoxKeyDown(int keyCode) {
     if (step == 0 || next < 0 || next >= static_cast<int>(sheet.qty.size())) {
         return;
     }
-    GiveFocus(HasBoxes(Txt(box.Page, next)) ? FieldRef{box.Page, box.Kind, next} : Txt(box.Page, next));
+    Arrive(HasBoxes(Txt(box.Page, next)) ? FieldRef{box.Page, box.Kind, next} : Txt(box.Page, next));
 }
 
 void ReferenceFlow::ClearPlaceholder() {
@@ -580,14 +622,16 @@ bool ReferenceFlow::KeyPress(char character) {
         if (character > 13) {
             ClearPlaceholder();
         }
-        return figure || character == '.' || character == 8;
+        return figure || character == '.' || character == ',' || character == 8;
     }
     const Field& area = At(field);
     if (area.Locked) {
         return false;
     }
     if (IsFinal(field) && field.Index == 4 && (character == 13 || character == 9)) {
-        Assign(field, Money(Deposit, Zero::Written));
+        if (EmptyOrNumber(area.Text)) {
+            Assign(field, Money(Deposit, Zero::Written));
+        }
         RunningTotals();
         return false;
     }
@@ -598,7 +642,7 @@ bool ReferenceFlow::KeyPress(char character) {
     return character != 13 && character != 9;
 }
 
-void ReferenceFlow::KeyUp() {
+void ReferenceFlow::KeyUp(int keyCode, const std::optional<FieldRef>& typedInto) {
     if (!Focus || IsBox(*Focus)) {
         return;
     }
@@ -609,6 +653,7 @@ void ReferenceFlow::KeyUp() {
     }
     currentWidth_ = field.Width;
     field.Back = Over(field, std::stoi(field.Limit)) ? kRed : kCyan;
+    CompletionKeyUp(keyCode, typedInto == Focus);
 }
 
 // ---- text
@@ -649,7 +694,7 @@ void ReferenceFlow::Changed(const FieldRef& field) {
         BoxChanged(field);
     } else if (IsFinal(field)) {
         FinalChanged(field.Index);
-    } else {
+    } else if (!WordOf(field.Page).Active) {
         LineChanged(field.Page, field.Index);
     }
 }
@@ -682,8 +727,11 @@ void ReferenceFlow::LineChanged(PageId page, int index) {
         row.PropText = field.Text;
     }
     currentWidth_ = field.Width;
-    if (currentLimit_ == "020" && EmptyOrNumber(field.Text)) {
+    if (currentLimit_ == "020") {
         TakeAmount(page, index);
+        if (!refire_) {
+            row.Emptied = Trimmed(field.Text).empty() && Focus == ref;
+        }
         Stale = true;
         if (refire_) {
             SumPage(page);
@@ -703,7 +751,7 @@ void ReferenceFlow::LineChanged(PageId page, int index) {
 void ReferenceFlow::TakeAmount(PageId page, int index) {
     Row& row = Sheets[static_cast<std::size_t>(IndexOf(page))].Rows[static_cast<std::size_t>(index)];
     const std::string& text = At(Txt(page, index)).Text;
-    if (Trimmed(text).empty()) {
+    if (!Number(text)) {
         row.Amount = 0;
         row.Taxable = 0;
         row.Sign = false;
@@ -783,6 +831,7 @@ void ReferenceFlow::PushTheText(PageId page, int index) {
 // ------------------------------------------------------------------------------------------------
 
 void ReferenceFlow::BoxChanged(const FieldRef& box) {
+    ColourBox(box);
     StoreLine(box.Page, box.Index);
     Product(box.Page, box.Index);
 }
@@ -850,15 +899,39 @@ void ReferenceFlow::GiveFocus(const FieldRef& field) {
     GotFocus(field);
 }
 
+void ReferenceFlow::Arrive(const FieldRef& field) {
+    const bool figure = IsBox(field) || At(field).Limit == "020";
+    GiveFocus(field);
+    if (Focus == field && figure && !(IsFinal(field) && field.Index != 4)) {
+        At(field).Start = 0;
+        At(field).Length = Len(At(field).Text);
+    }
+}
+
+void ReferenceFlow::ColourBox(const FieldRef& box) {
+    Field& field = At(box);
+    const bool placeholder = field.Text == (box.Kind == FieldKind::txtQty ? "Qty." : "Amt.");
+    const bool was = field.NoNumber;
+    field.NoNumber = !placeholder && !EmptyOrNumber(field.Text);
+    if (field.NoNumber) {
+        field.Back = kRed;
+    } else if (was) {
+        field.Back = Focus == box ? kCyan : kLightGrey;
+    }
+}
+
 void ReferenceFlow::GotFocus(const FieldRef& ref) {
     Field& field = At(ref);
     if (IsBox(ref)) {
         field.Back = kCyan;
+        ColourBox(ref);
         return;
     }
     CurrentPage = IndexOf(ref.Page);
     CurrentArea = ref.Index;
     if (!IsFinal(ref)) {
+        WordOf(ref.Page).Under = false;
+        WordOf(ref.Page).Active = false;
         currentLimit_ = field.Limit;
         currentWidth_ = field.Width;
         field.Back = Over(field, std::stoi(field.Limit)) ? kRed : kCyan;
@@ -875,6 +948,7 @@ void ReferenceFlow::LostFocus(const FieldRef& ref) {
     Field& field = At(ref);
     if (IsBox(ref)) {
         field.Back = kLightGrey;
+        ColourBox(ref);
         if (ref.Kind == FieldKind::txtAmt) {
             if (const std::optional<double> value = Number(field.Text)) {
                 Assign(ref, Money(*value, Zero::Written));
@@ -886,14 +960,24 @@ void ReferenceFlow::LostFocus(const FieldRef& ref) {
     LastArea = ref.Index;
     if (IsFinal(ref)) {
         if (Deposit + SubTotal + SalesTax + TaxableTotal != 0) {
-            Assign(Txt(PageId::frmP6, 4), Money(Deposit, Zero::Written));
+            if (EmptyOrNumber(At(Txt(PageId::frmP6, 4)).Text)) {
+                Assign(Txt(PageId::frmP6, 4), Money(Deposit, Zero::Written));
+            }
             RunningTotals();
         }
         return;
     }
+    if (WordOf(ref.Page).Active) {
+        WordOf(ref.Page).Active = false;
+        CursorPos = Len(field.Text);
+        Changed(ref);
+    }
     field.Back = kGrey;
-    if (field.Limit == "020" && EmptyOrNumber(field.Text)) {
+    if (field.Limit == "020") {
         LeaveAmount(ref.Page, ref.Index);
+        if (!EmptyOrNumber(field.Text)) {
+            field.Back = kRed;
+        }
     }
     if (ref == Txt(PageId::frmP1, 0) && !field.Text.empty() && !warned_ &&
         !dates::IsDate(field.Text, thisYear_)) {
@@ -907,6 +991,11 @@ void ReferenceFlow::LeaveAmount(PageId page, int index) {
     TakeAmount(page, index);
     if (const std::optional<double> value = Number(At(ref).Text)) {
         Assign(ref, Money(*value, Zero::Written));
+    }
+    Row& row = Sheets[static_cast<std::size_t>(IndexOf(page))].Rows[static_cast<std::size_t>(index)];
+    if (row.Emptied) {
+        row.Exempt = false;
+        row.Emptied = false;
     }
     SumPage(page);
     RunningTotals();
@@ -953,7 +1042,7 @@ void ReferenceFlow::FinalChanged(int index) {
     Sheets[5].Rows[static_cast<std::size_t>(index)].Store = field.Text;
     field.Back = Over(field, std::stoi(field.Limit)) ? kRed : kGrey;
     if (running_ || (field.Kind != "Depo" && field.Kind != "AllT" && field.Kind != "Tax.") ||
-        !EmptyOrNumber(field.Text)) {
+        (field.Kind != "Depo" && !EmptyOrNumber(field.Text))) {
         return;
     }
     const float value = static_cast<float>(Number(field.Text).value_or(0));
@@ -966,4 +1055,154 @@ void ReferenceFlow::FinalChanged(int index) {
     }
     RunningTotals();
     Stale = true;
+}
+
+// ---- terms
+// --------------------------------------------------------------------------------------------------
+
+namespace {
+
+std::string LowerCase(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::tolower(c); });
+    return text;
+}
+
+} // namespace
+
+void ReferenceFlow::Settle(PageId page) {
+    if (!WordOf(page).Active) {
+        return;
+    }
+    WordOf(page).Active = false;
+    if (!Focus || Focus->Page != page || IsBox(*Focus)) {
+        return;
+    }
+    Field& field = At(*Focus);
+    CursorPos = Len(field.Text);
+    if (field.Length > 0) {
+        field.Start = Len(field.Text);
+        field.Length = 0;
+    }
+    Changed(*Focus);
+}
+
+void ReferenceFlow::TakeWord(PageId page) {
+    Settle(page);
+    Field& field = At(*Focus);
+    field.Start = Len(field.Text);
+    field.Length = 0;
+    CursorPos = field.Start;
+}
+
+void ReferenceFlow::CompletionKeyUp(int keyCode, bool typed) {
+    const FieldRef here = *Focus;
+    Field& field = At(here);
+    const bool atEnd = field.Start == Len(field.Text);
+    if (Terms.empty() || keyCode == 46 || keyCode == 8 || keyCode == 37 || keyCode == 16 || keyCode == 38 ||
+        (!atEnd && field.Length == 0)) {
+        return;
+    }
+    Word& word = WordOf(here.Page);
+    if (CursorPos == 1) {
+        word.Under = true;
+        word.Start = 0;
+    } else if (keyCode == ' ') {
+        word.Under = true;
+        word.Start = CursorPos;
+    }
+    if (!typed || !atEnd || field.Length != 0 || !word.Under || !IsLine(here.Page, here.Index)) {
+        return;
+    }
+    const int length = CursorPos - word.Start;
+    if (length < 1 || length <= StartLength) {
+        return;
+    }
+    const std::string head = field.Text.substr(0, static_cast<std::size_t>(word.Start));
+    const std::string stem = field.Text.substr(static_cast<std::size_t>(word.Start));
+    word.Amount.clear();
+    for (const std::string& line : Terms) {
+        const std::string term = line.substr(0, line.find('['));
+        const std::string begin = term.substr(0, stem.size());
+        if (LowerCase(begin) != LowerCase(stem)) {
+            continue;
+        }
+        const std::size_t open = line.find('[');
+        const std::size_t close = line.find(']', std::min(open, line.size()));
+        word.Amount = close == std::string::npos ? "" : line.substr(open + 1, close - open - 1);
+        word.Active = true;
+        ++Completions;
+        if (begin == stem) {
+            field.Text = head + term;
+        } else if (stem == LowerCase(stem)) {
+            field.Text = head + LowerCase(term);
+        } else if (stem == Proper(stem)) {
+            field.Text = head + Proper(term);
+        } else if (stem == Upper(stem)) {
+            field.Text = head + Upper(term);
+        }
+        field.Start = CursorPos;
+        field.Length = Len(field.Text) - CursorPos;
+        return;
+    }
+}
+
+void ReferenceFlow::TypedAndLeft(const FieldRef& field, const std::string& figure) {
+    Assign(field, figure);
+    if (IsBox(field)) {
+        if (field.Kind == FieldKind::txtAmt) {
+            Assign(field, Money(*Number(figure), Zero::Written));
+        }
+        Product(field.Page, field.Index);
+    } else if (IsFinal(field)) {
+        Assign(field, Money(Deposit, Zero::Written));
+        RunningTotals();
+        return;
+    } else {
+        Assign(field, Money(*Number(figure), Zero::Written));
+    }
+    SumPage(field.Page);
+    RunningTotals();
+}
+
+void ReferenceFlow::PlacePrice(const FieldRef& line, const std::string& amount) {
+    if (!Number(amount)) {
+        return;
+    }
+    const FieldRef target = HasBoxes(line) ? FieldRef{line.Page, FieldKind::txtAmt, line.Index}
+                                           : Txt(line.Page, line.Index + ToAmount(line.Page));
+    const std::string stands = Trimmed(At(target).Text);
+    if (stands.empty() || (IsBox(target) && At(target).Text == "Amt.")) {
+        ++PricesPlaced;
+        TypedAndLeft(target, Trimmed(amount));
+    }
+}
+
+void ReferenceFlow::DropTerm(const FieldRef& target, std::string_view line) {
+    ToPage(target.Page);
+    const Field& field = At(target);
+    const std::string text(line.substr(0, line.find('[')));
+    const bool figures = IsBox(target) || field.Limit == "020";
+    const bool computed = IsFinal(target) && target.Index != 4;
+    if (!field.Visible || field.Locked || computed || (figures ? !Number(text) : Trimmed(text).empty())) {
+        return;
+    }
+    Settle(target.Page);
+    if (figures) {
+        TypedAndLeft(target, Trimmed(text));
+    } else {
+        const std::string value = Trimmed(field.Text).empty() ? text : field.Text + " " + text;
+        CursorPos = Len(value);
+        lastKey_.clear();
+        Assign(target, value);
+        const std::size_t open = line.find('[');
+        const std::size_t close = line.find(']', std::min(open, line.size()));
+        if (IsLine(target.Page, target.Index) && close != std::string_view::npos) {
+            PlacePrice(target, std::string(line.substr(open + 1, close - open - 1)));
+        }
+    }
+    GiveFocus(target);
+    Field& dropped = At(target);
+    dropped.Start = Len(dropped.Text);
+    dropped.Length = 0;
+    CursorPos = dropped.Start;
 }

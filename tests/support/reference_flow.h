@@ -11,7 +11,7 @@
 
 /// The flow of text over the pages, written a second time and apart from the program, from the rules of the
 /// trade alone: plain, slow and in one piece, so that it can be read against them. Random typing on the
-/// program is compared with it. It knows no blocks, no completion and no files.
+/// program is compared with it. It knows no blocks and no files.
 class ReferenceFlow {
 public:
     struct Field {
@@ -25,6 +25,7 @@ public:
         Color Back = 0;
         bool Visible = true;
         bool Locked = false;
+        bool NoNumber = false; ///< of a box
     };
     /// What the stores and tables say of one text area.
     struct Row {
@@ -37,6 +38,7 @@ public:
         float Taxable = 0;
         bool Sign = false; ///< the currency mark beside an amount shows
         bool Exempt = false;
+        bool Emptied = false; ///< by the person who is still there
     };
     struct Sheet {
         std::vector<Field> txt;
@@ -61,6 +63,14 @@ public:
     void DoubleClick(const FieldRef& field);
     void MakeExempt(const FieldRef& field); ///< right press and the menu's entry
     void ClickMark(PageId page, int index);
+    /// A line of a terms list, or a calculator's result, let go over a field.
+    void DropTerm(const FieldRef& field, std::string_view line);
+
+    /// The lines by which words are completed; none: nothing is completed.
+    std::vector<std::string> Terms;
+    int StartLength = 0;
+    int Completions = 0;
+    int PricesPlaced = 0;
 
     std::array<Sheet, 6> Sheets;
     std::optional<FieldRef> Focus;
@@ -91,7 +101,20 @@ private:
     void KeyDown(int keyCode);
     void ClearPlaceholder();
     [[nodiscard]] bool KeyPress(char character);
-    void KeyUp();
+    /// `typedInto` is the field into which the key being let go has put a character.
+    void KeyUp(int keyCode = 0, const std::optional<FieldRef>& typedInto = std::nullopt);
+    struct Word {
+        bool Active = false; ///< a completion stands
+        bool Under = false;  ///< a word is under way
+        int Start = 0;
+        std::string Amount;
+    };
+    [[nodiscard]] Word& WordOf(PageId page) { return words_[static_cast<std::size_t>(IndexOf(page))]; }
+    void Settle(PageId page);
+    void TakeWord(PageId page);
+    void CompletionKeyUp(int keyCode, bool typed);
+    void PlacePrice(const FieldRef& line, const std::string& amount);
+    void TypedAndLeft(const FieldRef& field, const std::string& figure);
     void BoxKeyDown(int keyCode);
     void Walk(int keyCode);
 
@@ -110,6 +133,8 @@ private:
     void ToggleColumns(PageId page, int index);
 
     void GiveFocus(const FieldRef& field);
+    void Arrive(const FieldRef& field); ///< by key: a figure is marked whole
+    void ColourBox(const FieldRef& box);
     void GotFocus(const FieldRef& field);
     void LostFocus(const FieldRef& field);
     void LeaveAmount(PageId page, int index);
@@ -118,6 +143,7 @@ private:
     void SumPage(PageId page);
     void RunningTotals();
 
+    std::array<Word, 6> words_;
     const TextMeasure& measure_;
     float taxRate_;
     int thisYear_;

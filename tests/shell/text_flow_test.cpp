@@ -6,10 +6,13 @@
 #include "support/reference_flow.h"
 #include "support/running_program.h"
 #include "support/typist.h"
+#include "terms/placing.h"
+#include "terms/term_list.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdlib>
 #include <iostream>
@@ -35,6 +38,7 @@ enum class Do {
     PasteByMouse,
     Drag,
     DoubleClick,
+    DropTerm,
     MakeExempt,
     ClickMark
 };
@@ -76,6 +80,8 @@ std::string Read(const Step& step) {
                std::to_string(step.From) + (step.From == step.To ? "" : " to " + std::to_string(step.To));
     case Do::DoubleClick:
         return "double-click " + Name(step.Field);
+    case Do::DropTerm:
+        return "drop the term \"" + step.Text + "\" on " + Name(step.Field);
     case Do::MakeExempt:
         return "right press on " + Name(step.Field) + ", make tax exempt";
     case Do::ClickMark:
@@ -84,11 +90,32 @@ std::string Read(const Step& step) {
     return "?";
 }
 
+/// What the words of the random persons begin like.
+constexpr std::array<const char*, 12> kTerms{
+    "Ab cider [12.5]", "abba",        "BET [x]",   "Bed linen[7.005]", "ci",
+    "Dell [ 3 ]",      "eMail [1e3]", "land [-4]", "Moon tent[1,250]", "no wire [5",
+    "12 tables [9]",   "wedding tab"};
+
+std::string JoinedTerms() {
+    std::string lines;
+    for (const char* term : kTerms) {
+        lines += std::string(lines.empty() ? "" : "\r\n") + term;
+    }
+    return lines;
+}
+
 // ---- both sides take a step
 // ---------------------------------------------------------------------------------
 
 struct Pair {
     Pair() : Reference(Run.surroundings.measure, Run.program.totals.TaxRate, 2008), Hand(Run.program) {
+        for (const char* term : kTerms) {
+            Reference.Terms.emplace_back(term);
+        }
+        Reference.StartLength = 1;
+        Run.folder.Write("Proposals/Default Terms.fut", JoinedTerms());
+        Run.program.run.ACStartLen = 1;
+        modTerms::ReadFrequentlyUsedTerms(Run.program);
         auto& advance = Run.surroundings.measure.Advance;
         for (const char narrow : std::string_view("il.,")) {
             advance[static_cast<unsigned char>(narrow)] = 40;
@@ -153,6 +180,12 @@ void OnProgram(Pair& pair, const Step& step) {
     case Do::DoubleClick:
         pair.Hand.DoubleClick(step.Field);
         break;
+    case Do::DropTerm:
+        if (program.main.PageInFront != step.Field.Page) {
+            person::TurnTo(program, IndexOf(step.Field.Page));
+        }
+        static_cast<void>(modTerms::txt_DragDrop(program, step.Field, step.Text));
+        break;
     case Do::MakeExempt:
         if (program.main.PageInFront != step.Field.Page) {
             person::TurnTo(program, IndexOf(step.Field.Page));
@@ -203,6 +236,9 @@ void OnReference(ReferenceFlow& flow, const Step& step) {
         break;
     case Do::DoubleClick:
         flow.DoubleClick(step.Field);
+        break;
+    case Do::DropTerm:
+        flow.DropTerm(step.Field, step.Text);
         break;
     case Do::MakeExempt:
         flow.MakeExempt(step.Field);
@@ -334,6 +370,8 @@ struct Seen {
     int DeepestPush = 0;
     int Products = 0;
     int Warnings = 0;
+    int Completions = 0;
+    int PricesPlaced = 0;
 };
 
 struct Failure {
@@ -354,6 +392,8 @@ std::optional<Failure> Play(const std::vector<Step>& steps, Seen& seen) {
     seen.DeepestPush = std::max(seen.DeepestPush, pair.Reference.DeepestPush);
     seen.Products += pair.Reference.Products;
     seen.Warnings += pair.Reference.Warnings;
+    seen.Completions += pair.Reference.Completions;
+    seen.PricesPlaced += pair.Reference.PricesPlaced;
     return std::nullopt;
 }
 
@@ -477,7 +517,7 @@ private:
             step.What = Do::Delete;
         } else if (chance < 660) {
             step.What = Do::Key;
-            step.From = std::array{9, 13, 38, 40, 37, 39, 36, 35, 35, 119, 16, 33, 34}[Below(13)];
+            step.From = std::array{9, 13, 13, 13, 38, 40, 37, 39, 45, 36, 35, 35, 119, 16, 33, 34}[Below(16)];
         } else if (chance < 730) {
             step.What = Do::PasteByKey;
             step.Text = Number(2) == 0 ? Words() : Figure();
@@ -498,6 +538,10 @@ private:
                 (step.Field.Index == 0 || (step.Field.Index >= 5 && step.Field.Index <= 7))) {
                 step.Field.Index = 1; // dates and telephone numbers have tables of their own
             }
+        } else if (chance < 975) {
+            step.What = Do::DropTerm;
+            step.Field = AField();
+            step.Text = Number(3) == 0 ? Figure() : kTerms[Below(kTerms.size())];
         } else if (chance < 985) {
             step.What = Do::MakeExempt;
             step.Field = AnAmount();
@@ -558,6 +602,8 @@ TEST(TextFlow, OfRandomTypingIsWhatTheRulesGive) {
         EXPECT_GT(seen.DeepestPush, 2);
         EXPECT_GT(seen.Products, 200);
         EXPECT_GT(seen.Warnings, 5);
+        EXPECT_GT(seen.Completions, 1000);
+        EXPECT_GT(seen.PricesPlaced, 50);
     }
 }
 

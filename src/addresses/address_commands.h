@@ -1,0 +1,18 @@
+#pragma once
+
+struct Program;
+
+/// The main window's commands that lead to the address window.
+namespace modAddress {
+
+void mnuFileOpenAddressBook_Click(Program& program);
+void mnuEditCompInfo_Click(Program& program);
+/// The proposal's client as a new record of a book; the person saves it.
+void mnuOptCopyToPersonalAddressBook_Click(Program& program);
+void mnuOptCopyToBusinessAddressBook_Click(Program& program);
+
+/// Before the program ends: asks about what was typed into the address window; false when the program is to
+/// stay.
+[[nodiscard]] bool MayCloseAddressWindow(Program& program);
+
+} // namespace modAddress

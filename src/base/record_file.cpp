@@ -1,0 +1,211 @@
+#include "base/record_file.h"
+
+#include "base/files.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <memory>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace files {
+
+namespace {
+
+enum class Missing { Fails, IsMade };
+
+} // namespace
+
+class RecordFile {
+public:
+    RecordFile(std::string_view path, int flags, Missing missing) : path_(path) {
+        const std::string native =
+            missing == Missing::IsMade && !Exists(path) ? NativePlace(path) : Native(path);
+        const int making = missing == Missing::IsMade ? O_CREAT : 0;
+        file_ = ::open(native.c_str(), flags | making | O_CLOEXEC | O_NONBLOCK, 0666);
+        if (file_ < 0) {
+            FailBySystem(errno, path);
+        }
+        if (::fstat(file_, &about_) != 0 || !S_ISREG(about_.st_mode)) {
+            ::close(file_);
+            FailBySystem(EISDIR, path);
+        }
+        if ((flags & O_RDWR) != 0 && (about_.st_mode & 0222U) == 0) {
+            ::close(file_);
+            FailBySystem(EACCES, path); // protected from writing, whoever asks
+        }
+    }
+    ~RecordFile() {
+        if (file_ >= 0) {
+            ::close(file_);
+        }
+    }
+    RecordFile(const RecordFile&) = delete;
+    RecordFile& operator=(const RecordFile&) = delete;
+
+    [[nodiscard]] std::uintmax_t Length() const { return static_cast<std::uintmax_t>(about_.st_size); }
+
+    void Read(std::uintmax_t offset, std::size_t count, std::string& bytes) const {
+        const std::uintmax_t length = Length();
+        const std::uintmax_t there = offset < length ? length - offset : 0;
+        bytes.resize(static_cast<std::size_t>(std::min<std::uintmax_t>(count, there)));
+        std::size_t done = 0;
+        while (done < bytes.size()) {
+            const ssize_t got =
+                ::pread(file_, bytes.data() + done, bytes.size() - done, static_cast<off_t>(offset + done));
+            if (got < 0 && errno == EINTR) {
+                continue;
+            }
+            if (got < 0) {
+                FailBySystem(errno, path_);
+            }
+            if (got == 0) {
+                break; // cut short meanwhile
+            }
+            done += static_cast<std::size_t>(got);
+        }
+        bytes.resize(done);
+    }
+
+    [[nodiscard]] std::string Read(std::uintmax_t offset, std::size_t count) const {
+        std::string bytes;
+        Read(offset, count, bytes);
+        return bytes;
+    }
+
+    /// Bytes written before the first failure; `error` is 0 when all went well.
+    std::size_t Write(std::uintmax_t offset, std::string_view bytes, int& error) const {
+        std::size_t done = 0;
+        while (done < bytes.size()) {
+            const ssize_t put =
+                ::pwrite(file_, bytes.data() + done, bytes.size() - done, static_cast<off_t>(offset + done));
+            if (put < 0 && errno == EINTR) {
+                continue;
+            }
+            if (put < 0) {
+                error = errno;
+                return done;
+            }
+            done += static_cast<std::size_t>(put);
+        }
+        error = Flush();
+        return done;
+    }
+
+    void PutBack(std::uintmax_t offset, std::string_view old) const {
+        int error = 0;
+        static_cast<void>(Write(offset, old, error));
+        if (error != 0) {
+            throw FileError(kDeviceError,
+                            "The record could neither be written nor put back as it was: " + path_);
+        }
+    }
+
+    void CutOff(std::uintmax_t length) const {
+        if (::ftruncate(file_, static_cast<off_t>(length)) != 0) {
+            throw FileError(kDeviceError, "The record could neither be written nor taken back: " + path_);
+        }
+    }
+
+    void Close() {
+        const int file = std::exchange(file_, -1);
+        if (::close(file) != 0 && errno != EINTR) {
+            FailBySystem(errno, path_);
+        }
+    }
+
+private:
+    [[nodiscard]] int Flush() const {
+        return ::fdatasync(file_) != 0 && errno != EINVAL && errno != EROFS ? errno : 0;
+    }
+
+    std::string path_;
+    int file_ = -1;
+    struct stat about_ {};
+};
+
+RecordReader::RecordReader(std::string_view path)
+    : file_(std::make_unique<RecordFile>(path, O_RDONLY, Missing::Fails)) {}
+RecordReader::~RecordReader() = default;
+
+std::uintmax_t RecordReader::Length() const {
+    return file_->Length();
+}
+
+void RecordReader::Read(std::uintmax_t offset, std::size_t count, std::string& bytes) const {
+    file_->Read(offset, count, bytes);
+}
+
+std::optional<Stamp> StampOf(std::string_view path) {
+    struct stat about {};
+    if (!Exists(path) || ::stat(Native(path).c_str(), &about) != 0) {
+        return std::nullopt;
+    }
+    constexpr std::int64_t kNanoseconds = 1000000000;
+    return Stamp{static_cast<std::uintmax_t>(about.st_size),
+                 about.st_mtim.tv_sec * kNanoseconds + about.st_mtim.tv_nsec,
+                 static_cast<std::uintmax_t>(about.st_ino)};
+}
+
+std::string ReadAt(std::string_view path, std::uintmax_t offset, std::size_t count) {
+    return RecordFile(path, O_RDONLY, Missing::Fails).Read(offset, count);
+}
+
+InPlace WriteOver(std::string_view path, std::uintmax_t offset, std::string_view expected,
+                  std::string_view bytes) {
+    RecordFile file(path, O_RDWR, Missing::Fails);
+    if (file.Read(offset, expected.size()) != expected || bytes.size() != expected.size()) {
+        return InPlace::Differs;
+    }
+    int error = 0;
+    const std::size_t done = file.Write(offset, bytes, error);
+    if (error != 0) {
+        file.PutBack(offset, expected.substr(0, done));
+        FailBySystem(error, path);
+    }
+    file.Close();
+    return InPlace::Written;
+}
+
+std::uintmax_t AppendRecord(std::string_view path, std::string_view record) {
+    RecordFile file(path, O_RDWR, Missing::IsMade);
+    const std::uintmax_t number = file.Length() / record.size();
+    const std::uintmax_t offset = number * record.size();
+    const std::string stump = file.Read(offset, record.size());
+    int error = 0;
+    const std::size_t done = file.Write(offset, record, error);
+    if (error != 0) {
+        file.CutOff(offset + stump.size());
+        file.PutBack(offset, std::string_view(stump).substr(0, done));
+        FailBySystem(error, path);
+    }
+    file.Close();
+    return number + 1;
+}
+
+void Replace(std::string_view from, std::string_view over) {
+    const std::string source = Native(from);
+    std::string target = Native(over);
+    if (const std::unique_ptr<char, decltype(&std::free)> real(::realpath(target.c_str(), nullptr),
+                                                               &std::free);
+        real) {
+        target = real.get();
+    }
+    struct stat about {};
+    if (::stat(target.c_str(), &about) != 0) {
+        FailBySystem(errno, over);
+    }
+    if ((about.st_mode & 0222U) == 0) {
+        FailBySystem(EACCES, over);
+    }
+    static_cast<void>(::chmod(source.c_str(), about.st_mode & 07777U));
+    if (::rename(source.c_str(), target.c_str()) != 0) {
+        FailBySystem(errno, from);
+    }
+}
+
+} // namespace files

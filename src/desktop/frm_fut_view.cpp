@@ -1,0 +1,391 @@
+#include "desktop/frm_fut_view.h"
+
+#include "base/guard.h"
+#include "desktop/convert.h"
+#include "desktop/paper_surface.h"
+#include "desktop/term_drag.h"
+#include "program/program.h"
+#include "terms/frm_fut.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+int TermRows::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows_;
+}
+
+QVariant TermRows::data(const QModelIndex& index, int role) const {
+    constexpr std::size_t kShown = 300; // no row is wider
+    if (role != Qt::DisplayRole || index.row() >= program_.terms.TermCount()) {
+        return {};
+    }
+    const std::string_view line = program_.terms.Lines[static_cast<std::size_t>(index.row())];
+    return convert::ToQString(line.substr(0, kShown));
+}
+
+void TermRows::Renew() {
+    beginResetModel();
+    rows_ = program_.terms.TermCount();
+    endResetModel();
+}
+
+void TermListView::startDrag(Qt::DropActions) {
+    if (Dragged) {
+        Dragged();
+    }
+}
+
+void TermListView::keyPressEvent(QKeyEvent* event) {
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && Entered) {
+        Entered();
+        return;
+    }
+    QListView::keyPressEvent(event);
+}
+
+void FileListView::keyPressEvent(QKeyEvent* event) {
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && Entered) {
+        Entered();
+        return;
+    }
+    QListWidget::keyPressEvent(event);
+}
+
+void FileListView::focusInEvent(QFocusEvent* event) {
+    // The list's own handler would choose a row.
+    QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    viewport()->update();
+}
+
+void TermsDock::moveEvent(QMoveEvent* event) {
+    QDockWidget::moveEvent(event);
+    Moved();
+}
+
+void TermsDock::resizeEvent(QResizeEvent* event) {
+    QDockWidget::resizeEvent(event);
+    Moved();
+}
+
+void TermsDock::closeEvent(QCloseEvent* event) {
+    event->ignore(); // the model closes it
+    Closed();
+}
+
+void TermsDock::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) {
+        Escaped();
+        return;
+    }
+    QDockWidget::keyPressEvent(event);
+}
+
+FrmFutView::FrmFutView(Program& program, frmFUT& window, QWidget* over, std::function<void()> afterEvent)
+    : WindowView(program, window, over, std::move(afterEvent)), model_(window),
+      dock_(new TermsDock(qobject_cast<QMainWindow*>(over))) {
+    dock_->setObjectName(objectName());
+    setObjectName(QString());
+    dock_->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
+    dock_->setAttribute(Qt::WA_ShowWithoutActivating);
+    dock_->Moved = [this] { KeepPlace(); };
+    dock_->Closed = [this] { Do([this] { model_.Form_Cancel(program_); }); };
+    dock_->Escaped = [this] { Do([this] { model_.Form_Escape(program_); }); };
+
+    content_ = new QWidget(dock_);
+    auto* column = new QVBoxLayout(content_);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    restore_ = new QPushButton(tr("Show the List"), content_);
+    restore_->setObjectName(QStringLiteral("cmdRestore"));
+    connect(restore_, &QPushButton::clicked, this, [this] { Do([this] { model_.Minimised = false; }); });
+    column->addWidget(restore_);
+    body_ = new QWidget(content_);
+    column->addWidget(body_, 1);
+
+    auto* rows = new QVBoxLayout(body_);
+    rows->setContentsMargins(8, 4, 8, 8);
+    rows->setSpacing(6);
+    BuildMenus(body_);
+    BuildLists();
+    rows->addWidget(terms_, 1);
+    rows->addWidget(lists_, 1);
+    BuildButtons(body_);
+    body_->setMinimumWidth(qRound(static_cast<double>(frmFUT::kLeastWidth) * PixelsPerTwip()));
+    body_->installEventFilter(this);
+    dock_->setWidget(content_);
+    if (auto* main = qobject_cast<QMainWindow*>(over)) {
+        main->addDockWidget(Qt::RightDockWidgetArea, dock_);
+    }
+    dock_->setFloating(true);
+    dock_->hide();
+    connect(dock_, &QDockWidget::topLevelChanged, this, [this] { KeepPlace(); });
+    connect(dock_, &QDockWidget::dockLocationChanged, this, [this] { KeepPlace(); });
+}
+
+FrmFutView::~FrmFutView() {
+    placed_ = false; // what follows is no place of the person's
+    delete dock_;
+}
+
+double FrmFutView::PixelsPerTwip() const {
+    return logicalDpiX() / paper::kTwipsPerInch;
+}
+
+void FrmFutView::BuildMenus(QWidget* body) {
+    auto* bar = new QMenuBar(body);
+    bar->setNativeMenuBar(false);
+    body->layout()->setMenuBar(bar);
+    // Without mnemonics: docked, they would be the main window's.
+    file_ = bar->addMenu(tr("File"));
+    QMenu* window = bar->addMenu(tr("Window"));
+    const auto add = [this](QMenu* menu, const char* name, const frmFUT::MenuEntry& entry,
+                            void (frmFUT::*run)(Program&)) {
+        QAction* action = menu->addAction(convert::ToQString(entry.Caption));
+        action->setObjectName(QLatin1String(name));
+        connect(action, &QAction::triggered, this,
+                [this, run] { Do([this, run] { (model_.*run)(program_); }); });
+        return action;
+    };
+    add(file_, "mnuFileShowAll", model_.mnuFileShowAll, &frmFUT::mnuFileShowAll_Click);
+    add(file_, "mnuFileOpenFUT", model_.mnuFileOpenFUT, &frmFUT::mnuFileOpenFUT_Click);
+    add(file_, "mnuFileNewFUT", model_.mnuFileNewFUT, &frmFUT::mnuFileNewFUT_Click);
+    add(file_, "mnuFileDeleteFUT", model_.mnuFileDelete, &frmFUT::mnuFileDelete_Click);
+    default_ = add(file_, "mnuFileDefaultFUT", model_.mnuFileDefaultFUT, &frmFUT::mnuFileDefaultFUT_Click);
+    add(window, "mnuWindowSavePosition", model_.mnuWindowSavePosition, &frmFUT::mnuWindowSavePosition_Click);
+}
+
+void FrmFutView::BuildLists() {
+    rows_ = new TermRows(program_, this);
+    terms_ = new TermListView(body_);
+    terms_->setObjectName(QStringLiteral("lstFUT"));
+    terms_->setAccessibleName(tr("Frequent terms"));
+    terms_->setModel(rows_);
+    terms_->setUniformItemSizes(true);
+    terms_->setDragEnabled(true);
+    terms_->setDragDropMode(QAbstractItemView::DragOnly);
+    terms_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    terms_->setToolTip(tr("Drag a term onto the page, or press Enter to put it where the cursor was last."));
+    connect(terms_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& now) {
+                if (!following_) {
+                    Do([&] { model_.lstFUT_Select(program_, now.isValid() ? now.row() : -1); });
+                }
+            });
+    terms_->Entered = [this] { Do([this] { model_.lstFUT_Enter(program_); }); };
+    terms_->Dragged = [this] {
+        model_.lstFUT_MouseMove(program_);
+        const termdrag::Ended ended = termdrag::Run(program_, terms_);
+        static_cast<void>(ended);
+        Do([] {});
+    };
+
+    lists_ = new FileListView(body_);
+    lists_->setObjectName(QStringLiteral("lstMoreFUT"));
+    lists_->setAccessibleName(tr("Frequent terms files"));
+    lists_->setUniformItemSizes(true);
+    lists_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(lists_, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (!following_) {
+            Do([&] { model_.lstMoreFUT_Move(row); });
+        }
+    });
+    const auto open = [this] { Do([this] { model_.lstMoreFUT_Click(program_); }); };
+    lists_->Entered = open;
+    connect(lists_, &QListWidget::itemClicked, this, [this, open] {
+        if (QApplication::mouseButtons() == Qt::NoButton) {
+            open();
+        }
+    });
+    // A click opens; the right button chooses a list for the menu's commands.
+    connect(lists_, &QListWidget::customContextMenuRequested, this,
+            [this](QPoint at) { file_->popup(lists_->viewport()->mapToGlobal(at)); });
+    lists_->viewport()->installEventFilter(this);
+}
+
+void FrmFutView::BuildButtons(QWidget* body) {
+    auto* panel = new QWidget(body);
+    panel->setObjectName(QStringLiteral("picOpt"));
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(4);
+    for (std::size_t index = 0; index < options_.size(); ++index) {
+        options_[index] = new QPushButton(panel);
+        options_[index]->setObjectName(QStringLiteral("cmdOpt(%1)").arg(index));
+        column->addWidget(options_[index]);
+        connect(options_[index], &QPushButton::clicked, this, [this, index] {
+            Do([this, index] { model_.cmdOpt_Click(program_, static_cast<int>(index)); });
+        });
+    }
+    auto* row = new QHBoxLayout;
+    row->setSpacing(4);
+    const std::array<QString, 3> spoken{tr("All terms to lower case"), tr("All terms to proper case"),
+                                        tr("All terms to upper case")};
+    for (std::size_t index = 0; index < cases_.size(); ++index) {
+        cases_[index] = new QPushButton(panel);
+        cases_[index]->setObjectName(QStringLiteral("cmdCase(%1)").arg(index));
+        cases_[index]->setAccessibleName(spoken[index]);
+        cases_[index]->setToolTip(spoken[index]);
+        cases_[index]->setMinimumWidth(1);
+        row->addWidget(cases_[index]);
+        connect(cases_[index], &QPushButton::clicked, this, [this, index] {
+            Do([this, index] { model_.cmdCase_Click(program_, static_cast<int>(index)); });
+        });
+    }
+    column->addLayout(row);
+    body->layout()->addWidget(panel);
+}
+
+bool FrmFutView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == body_ && event->type() == QEvent::MouseButtonDblClick) {
+        Do([this] { model_.Form_DblClick(program_); });
+        return true;
+    }
+    if (watched == lists_->viewport() && event->type() == QEvent::MouseButtonRelease &&
+        static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) {
+        return true; // the right button chooses and opens nothing
+    }
+    return WindowView::eventFilter(watched, event);
+}
+
+void FrmFutView::Open() {
+    PlaceFirst();
+}
+
+void FrmFutView::Leave() {
+    placed_ = false;
+    dock_->hide();
+}
+
+bool FrmFutView::HasKeyboard() const {
+    const QWidget* keyboard = QApplication::focusWidget();
+    return keyboard != nullptr && dock_->isAncestorOf(keyboard);
+}
+
+void FrmFutView::TakeKeyboard() {
+    dock_->show();
+    dock_->raise();
+    dock_->activateWindow();
+    (model_.lstMoreFUT.Visible ? static_cast<QWidget*>(lists_) : terms_)->setFocus();
+}
+
+/// The saved place counts when a good part of the window would lie on a screen.
+void FrmFutView::PlaceFirst() {
+    const double scale = PixelsPerTwip();
+    const QRect saved(qRound(static_cast<double>(model_.Left) * scale),
+                      qRound(static_cast<double>(model_.Top) * scale),
+                      qRound(static_cast<double>(model_.Width) * scale),
+                      qRound(static_cast<double>(model_.Height) * scale));
+    constexpr int kReachable = 60;
+    const QRect title(saved.topLeft(), QSize(saved.width(), kReachable / 2));
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    const bool onScreen = std::any_of(screens.begin(), screens.end(), [&](const QScreen* each) {
+        const QRect seen = each->availableGeometry() & title;
+        return seen.width() >= kReachable && seen.height() >= kReachable / 3;
+    });
+    if (onScreen && saved.height() >= kReachable) {
+        dock_->setGeometry(saved);
+    } else {
+        constexpr QSize kUsual(280, 420);
+        dock_->resize(kUsual);
+        dock_->move(parentWidget()->frameGeometry().topRight() - QPoint(kUsual.width() + 40, -140));
+    }
+    placed_ = true;
+}
+
+void FrmFutView::KeepPlace() {
+    if (!placed_) {
+        return;
+    }
+    auto* main = qobject_cast<QMainWindow*>(dock_->parentWidget());
+    const Qt::DockWidgetArea area =
+        dock_->isFloating() || main == nullptr ? Qt::NoDockWidgetArea : main->dockWidgetArea(dock_);
+    model_.Docked = area == Qt::LeftDockWidgetArea    ? frmFUT::Side::Left
+                    : area == Qt::RightDockWidgetArea ? frmFUT::Side::Right
+                                                      : frmFUT::Side::None;
+    if (model_.Docked != frmFUT::Side::None || model_.Minimised) {
+        return; // the place is that of the floating window
+    }
+    const float twips = static_cast<float>(1 / PixelsPerTwip());
+    model_.Left = static_cast<float>(dock_->x()) * twips;
+    model_.Top = static_cast<float>(dock_->y()) * twips;
+    model_.Width = static_cast<float>(dock_->width()) * twips;
+    model_.Height = static_cast<float>(dock_->height()) * twips;
+}
+
+void FrmFutView::FollowMoreLists() {
+    QStringList names;
+    for (const std::string& name : model_.lstMoreFUT.Items) {
+        names.push_back(convert::ToQString(name));
+    }
+    QStringList shown;
+    for (int row = 0; row < lists_->count(); ++row) {
+        shown.push_back(lists_->item(row)->text());
+    }
+    if (shown != names) {
+        lists_->clear();
+        lists_->addItems(names);
+    }
+    if (lists_->currentRow() != model_.lstMoreFUT.ListIndex) {
+        lists_->setCurrentRow(model_.lstMoreFUT.ListIndex);
+    }
+}
+
+void FrmFutView::FollowButtons() {
+    for (std::size_t index = 0; index < options_.size(); ++index) {
+        options_[index]->setText(convert::ToQString(model_.cmdOpt[index].Caption));
+        options_[index]->setEnabled(model_.cmdOpt[index].Enabled);
+    }
+    for (std::size_t index = 0; index < cases_.size(); ++index) {
+        cases_[index]->setText(convert::ToQString(model_.cmdCase[index].Caption));
+        cases_[index]->setEnabled(model_.cmdCase[index].Enabled);
+    }
+    default_->setEnabled(model_.mnuFileDefaultFUT.Enabled);
+}
+
+void FrmFutView::Follow() {
+    const ScopedFlag following(following_);
+    const QString caption = convert::ToQString(model_.Caption);
+    if (dock_->windowTitle() != caption) {
+        dock_->setWindowTitle(caption);
+    }
+    if (version_ != program_.terms.Version) {
+        version_ = program_.terms.Version;
+        rows_->Renew();
+    }
+    if (terms_->currentIndex().row() != model_.lstFUT.ListIndex) {
+        terms_->setCurrentIndex(rows_->index(model_.lstFUT.ListIndex, 0));
+    }
+    FollowMoreLists();
+    FollowButtons();
+    const bool hadKeyboard = terms_->hasFocus() || lists_->hasFocus();
+    terms_->setVisible(model_.lstFUT.Visible);
+    lists_->setVisible(model_.lstMoreFUT.Visible);
+    if (hadKeyboard) {
+        (model_.lstMoreFUT.Visible ? static_cast<QWidget*>(lists_) : terms_)->setFocus();
+    }
+    if (body_->isHidden() != model_.Minimised) {
+        body_->setVisible(!model_.Minimised);
+        restore_->setVisible(model_.Minimised);
+        if (dock_->isFloating()) {
+            const double scale = PixelsPerTwip();
+            dock_->resize(dock_->width(), model_.Minimised
+                                              ? dock_->minimumSizeHint().height()
+                                              : qRound(static_cast<double>(model_.Height) * scale));
+        }
+    }
+    restore_->setVisible(model_.Minimised);
+    // The page comes first.
+    if (placed_ && program_.main.Loaded && dock_->isHidden() && parentWidget()->isVisible()) {
+        dock_->show();
+    }
+}

@@ -1,0 +1,94 @@
+#include "desktop/test_hook.h"
+
+#include <QApplication>
+#include <QLocalSocket>
+#include <QVariant>
+#include <QWidget>
+
+namespace {
+
+QWidget* InFront() {
+    if (QWidget* popup = QApplication::activePopupWidget()) {
+        return popup;
+    }
+    if (QWidget* modal = QApplication::activeModalWidget()) {
+        return modal;
+    }
+    return QApplication::activeWindow();
+}
+
+QWidget* Named(const QString& name) {
+    QWidget* front = InFront();
+    if (front == nullptr) {
+        return nullptr;
+    }
+    if (front->objectName() == name) {
+        return front;
+    }
+    for (QWidget* part : front->findChildren<QWidget*>(name)) {
+        if (part->isVisible()) {
+            return part;
+        }
+    }
+    return nullptr;
+}
+
+QString Place(const QWidget& widget) {
+    const QRect there(widget.mapToGlobal(QPoint(0, 0)), widget.size());
+    return QStringLiteral("%1 %2 %3 %4").arg(there.x()).arg(there.y()).arg(there.width()).arg(there.height());
+}
+
+} // namespace
+
+TestHook::TestHook() {
+    const QString place = qEnvironmentVariable("QUILLBROOK_TEST_HOOK");
+    if (place.isEmpty()) {
+        return;
+    }
+    QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] { Serve(); });
+    if (!server_.listen(place)) {
+        qFatal("The test hook cannot listen at %s.", qPrintable(place));
+    }
+}
+
+void TestHook::Serve() {
+    QLocalSocket* asking = server_.nextPendingConnection();
+    QObject::connect(asking, &QLocalSocket::disconnected, asking, &QObject::deleteLater);
+    QObject::connect(asking, &QLocalSocket::readyRead, asking, [asking] {
+        while (asking->canReadLine()) {
+            const QString question = QString::fromUtf8(asking->readLine()).trimmed();
+            asking->write(AnswerTo(question).toUtf8() + '\n');
+        }
+    });
+}
+
+QString TestHook::AnswerTo(const QString& question) {
+    const QString verb = question.section(u' ', 0, 0);
+    const QString name = question.section(u' ', 1);
+    if (verb == QLatin1String("settle")) {
+        QApplication::sync();
+        return QStringLiteral("settled");
+    }
+    if (verb == QLatin1String("focus")) {
+        const QWidget* keyboard = QApplication::focusWidget();
+        return keyboard == nullptr ? QString() : keyboard->objectName();
+    }
+    if (verb == QLatin1String("active")) {
+        const QWidget* active = QApplication::activeWindow();
+        return active == nullptr ? QString() : active->windowTitle();
+    }
+    if (verb == QLatin1String("windows")) {
+        QStringList places;
+        for (const QWidget* window : QApplication::topLevelWidgets()) {
+            if (window->isVisible()) {
+                places.push_back(Place(*window));
+            }
+        }
+        return places.join(u' ');
+    }
+    const QWidget* widget = Named(name);
+    if (widget == nullptr) {
+        return {};
+    }
+    return verb == QLatin1String("where") ? Place(*widget) : widget->property("text").toString();
+}

@@ -1,0 +1,36 @@
+#include "format/area_font.h"
+
+#include "editing/area_colours.h"
+#include "format/line_effects.h"
+#include "pages/fields.h"
+#include "program/program.h"
+
+namespace modFormat {
+
+void ApplyChosenFont(Program& program, const AreaFont& before) {
+    AreaFont font = FontInForce(program);
+    if (font.Name.empty()) {
+        font.Name = "Arial";
+    }
+    if (font.Size == 0) {
+        font.Size = 10;
+    }
+    LayFont(program, font);
+    PaintAreasAnew(program);
+    if (font != before) {
+        program.document.SavedStateStale = true;
+        program.format.Touched = true;
+    }
+}
+
+void PaintAreasAnew(Program& program) {
+    for (const PageId page : kLinePages) {
+        modAreaColours::ResetMyTextBoxColors(program, page);
+    }
+    if (program.main.Focus && program.main.Focus->Kind == FieldKind::txt) {
+        TextArea& area = modFields::Area(program, *program.main.Focus);
+        modAreaColours::ColourArea(program, program.main.Focus->Page, area);
+    }
+}
+
+} // namespace modFormat

@@ -1,0 +1,444 @@
+#include "format/format_file.h"
+
+#include "format/format_commands.h"
+#include "format/format_lines.h"
+#include "format/format_save.h"
+#include "format/label_designer.h"
+#include "format/label_looks.h"
+#include "format/property_file.h"
+#include "pages/page_geometry.h"
+#include "pages/page_marks.h"
+#include "pages/row_fields.h"
+#include "program/windows.h"
+#include "proposal/lifecycle.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_open.h"
+#include "proposal/proposal_save.h"
+#include "proposal/reset.h"
+#include "support/running_program.h"
+#include "support/typist.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+namespace {
+
+struct Laid : RunningProgram {
+    /// Lays lines as the file of the open format.
+    void Lay(const std::vector<std::string>& lines) {
+        std::string bytes;
+        for (const std::string& line : lines) {
+            bytes += line + "\r\n";
+        }
+        folder.Write("Proposals/House.fmt", bytes);
+        program.format.FormatOpen = true;
+        program.format.FormatFolder = folder / "Proposals/";
+        program.format.FormatName = "House.fmt";
+        static_cast<void>(modReset::StartNewFile(program));
+    }
+    void Open(const std::string& name) {
+        static_cast<void>(modReset::StartNewFile(program));
+        program.document.FilePath = folder / "Proposals/";
+        ASSERT_EQ(modFile::OpenEventFile(program, name), modFile::OpenResult::Opened);
+        modFile::ReadFileProperties(program);
+    }
+    [[nodiscard]] std::string Figure(int index) { return TextOf(PageId::frmP6, index); }
+};
+
+TEST(FormatFile, ABoldStaysInForceForTheTextsAndMarksBehindIt) {
+    Laid run;
+    run.Lay({"frmP1.txt(8).FontBold=True", "frmP1.txt(9).Text=Hall", "frmP1.txt(20).TaxExempt=True",
+             "frmP1.txt(8).FontBold=False", "frmP1.txt(10).Text=Arch"});
+    EXPECT_TRUE(run.Area(PageId::frmP1, 8).FontBold) << "a False is ignored";
+    EXPECT_TRUE(run.Area(PageId::frmP1, 9).FontBold);
+    EXPECT_TRUE(run.Area(PageId::frmP1, 20).FontBold);
+    EXPECT_FALSE(run.Area(PageId::frmP1, 10).FontBold);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 9), "Hall");
+    EXPECT_EQ(run.program.pages[PageId::frmP1].imgNoTax[20].Tag, "");
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP1][9].FontBold);
+}
+
+TEST(FormatFile, AMarkTouchesAmountsOnly) {
+    Laid run;
+    run.Lay({"frmP1.txt(10).TaxExempt=True", "frmP2.txt(33).TaxExempt=True"});
+    EXPECT_EQ(run.program.pages[PageId::frmP1].imgNoTax[10].Tag, kHide);
+    EXPECT_EQ(run.program.pages[PageId::frmP2].imgNoTax[33].Tag, "");
+    EXPECT_TRUE(run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt);
+}
+
+TEST(FormatFile, ARowsProductCountsAtOnceAndNothingIsUnsaved) {
+    Laid run;
+    run.Lay({"frmP1.txt(2).Text=Jane Roe", "frmP2.txt(0).Text=Chairs",
+             "frmP2.txq(0).QtyBox=True .QtyValue=3 .AmtValue=5.50"});
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "16.50");
+    EXPECT_EQ(run.Figure(0), "16.50");
+    EXPECT_EQ(run.Label(PageId::frmP2, 1).Tag, "");
+    EXPECT_EQ(run.program.document.FileName, "Jane Roe.hef");
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Jane Roe");
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+}
+
+TEST(FormatFile, LabelsOfTheFinalPageReachBothCopiesButForTheTitlesWords) {
+    Laid run;
+    run.Lay(
+        {"frmP6.lbl(49).Left=800 .Top=13000 .Caption=Sign here .FontName=Arial .FontBold=True .FontSize=11 "
+         ".ForeColor=255 .FontItalic=False .FontUnderline=True",
+         "frmP6.lbl(64).Left=700 .Top=15000 .Caption=Ours .FontName=Arial .FontBold=True .FontSize=11 "
+         ".ForeColor=255 .FontItalic=False .FontUnderline=True"});
+    for (const PageId page : {PageId::frmP6, PageId::frmP6_1}) {
+        EXPECT_EQ(run.Label(page, 49).Caption, "Sign here");
+        EXPECT_EQ(run.Label(page, 49).FontUnderline, true);
+        EXPECT_EQ(run.Label(page, 64).Left, 700) << "somebody has put it there";
+    }
+    EXPECT_EQ(run.Label(PageId::frmP6, 64).Caption, "Proposal for (Client's Name) - Our Copy");
+    EXPECT_EQ(run.Label(PageId::frmP6_1, 64).Caption, "Proposal for (Client's Name) - Client's Copy");
+}
+
+TEST(FormatFile, ASignThatIsNoWordBecomesTheSymbolInForceAndStaysHidden) {
+    Laid run;
+    run.program.settings.CurrencySymbol = "\x80";
+    run.Lay({"frmP1.lbl(21).Left=9800 .Top=10260 .Caption=$ .FontName=Arial .FontBold=False .FontSize=30 "
+             ".ForeColor=255 .FontItalic=False .FontUnderline=False",
+             "frmP1.lbl(22).Left=9800 .Top=10620 .Caption=EUR .FontName=Arial .FontBold=False .FontSize=9 "
+             ".ForeColor=255 .FontItalic=False .FontUnderline=False"});
+    EXPECT_EQ(run.Label(PageId::frmP1, 21).Caption, "\x80");
+    EXPECT_EQ(run.Label(PageId::frmP1, 21).Tag, kHide);
+    EXPECT_EQ(run.Label(PageId::frmP1, 21).FontSize, 10) << "a sign has the areas' font";
+    EXPECT_EQ(run.Label(PageId::frmP1, 22).Caption, "EUR");
+}
+
+TEST(FormatFile, ABadLineIsPassedOverAndABadValueLeavesTheOneBefore) {
+    Laid run;
+    run.Lay(
+        {"frmP1.lbl(9).Left=100 .Top=200 .Caption=A .FontName=Arial .FontBold=True .FontSize=12 "
+         ".ForeColor=255 "
+         ".FontItalic=False .FontUnderline=False",
+         "frmP9.lbl(9).Left=5", "frmP1.lbl(99).Left=5", "rubbish",
+         "frmP1.lbl(10).Left=x .Top=300 .Caption=B .FontName=Arial .FontBold=True .FontSize=999 .ForeColor=1 "
+         ".FontItalic=False .FontUnderline=False"});
+    EXPECT_EQ(run.Label(PageId::frmP1, 10).Left, 100);
+    EXPECT_EQ(run.Label(PageId::frmP1, 10).Top, 300);
+    EXPECT_EQ(run.Label(PageId::frmP1, 10).FontSize, 12);
+}
+
+TEST(FormatFile, ProtectsItsTextsWhenOverwritingIsOff) {
+    Laid run;
+    run.program.format.OverwriteFormatText = false;
+    run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+    run.Lay({"frmP1.txt(9).Text=By the lake", "frmP1.txt(8).Text=Hall"});
+    EXPECT_TRUE(run.Area(PageId::frmP1, 9).Locked);
+    EXPECT_FALSE(run.Area(PageId::frmP1, 3).Locked);
+    run.Open("Jane Roe.hef");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 9), "By the lake") << "the proposal has nothing to put there";
+    EXPECT_TRUE(run.Area(PageId::frmP1, 9).Locked);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "Garden Hall");
+    EXPECT_FALSE(run.Area(PageId::frmP1, 8).Locked);
+}
+
+TEST(FormatFile, AnOpenedProposalIsTheSameUnderAFormatThatFillsEveryRow) {
+    const auto rows = [](bool format) {
+        Laid run;
+        run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+        if (format) {
+            std::vector<std::string> lines;
+            for (int page = 0; page < 5; ++page) {
+                for (int index = 0; index <= geometry::LastText(PageAt(page)); ++index) {
+                    const std::string at = "frmP" + std::to_string(page + 1);
+                    const std::string place = "(" + std::to_string(index) + ")";
+                    lines.push_back(at + ".txt" + place + ".Text=7");
+                    lines.push_back(at + ".txt" + place + ".TaxExempt=True");
+                    lines.push_back(at + ".txq" + place + ".QtyBox=True .QtyValue=2 .AmtValue=3");
+                }
+            }
+            run.Lay(lines);
+            EXPECT_NE(run.Figure(0), "");
+        }
+        run.Open("Jane Roe.hef");
+        std::vector<std::string> all;
+        for (const PageId page : kEditedPages) {
+            const Page& record = run.program.pages[page];
+            for (std::size_t index = 0; index < record.txt.size(); ++index) {
+                all.push_back(record.txt[index].Text);
+                if (IsLinePage(page)) {
+                    all.push_back(record.imgNoTax[index].Tag);
+                    const auto& props =
+                        run.program.format.PropTextChanges[static_cast<std::size_t>(IndexOf(page))][index];
+                    const auto& kept =
+                        run.program.format.FormatTextChanges[static_cast<std::size_t>(IndexOf(page))][index];
+                    all.push_back(props.Text + props.QtyValue + props.AmtValue);
+                    all.push_back(kept.Text + (kept.TaxExempt ? "x" : ""));
+                }
+            }
+            for (std::size_t row = 0; row < record.txtQty.size(); ++row) {
+                all.push_back(record.txtQty[row].Tag + record.txtQty[row].Text + record.txtAmt[row].Text);
+            }
+            for (const PageLabel& label : record.lbl) {
+                all.push_back(label.Tag);
+            }
+        }
+        return all;
+    };
+    EXPECT_EQ(rows(true), rows(false));
+}
+
+TEST(FormatFile, AFormatsLogoIsShownOrItsLossIsToldOnce) {
+    Laid run;
+    const std::string picture = run.folder / "logo.png";
+    run.folder.Write("logo.png", "x");
+    run.surroundings.pictures.Known[picture] = {1500, 900};
+    run.program.settings.LogoVisible = true;
+    run.Lay({"frmP1.pic.Picture=logo.png .Left=360 .Top=540"});
+    const PagePicture& logo = run.program.pages[PageId::frmP1].pic;
+    EXPECT_EQ(logo.Picture.Path, picture) << "a bare name is looked for in the program folder";
+    EXPECT_EQ(logo.Left, 360);
+    EXPECT_EQ(logo.Top, 540);
+    EXPECT_TRUE(logo.Visible);
+    EXPECT_TRUE(run.program.format.LogoChanged);
+    EXPECT_FALSE(run.program.format.LogoPending);
+    run.surroundings.questions.Expect("The logo gone.png could not be shown; the format goes without it.");
+    run.Lay({"frmP1.pic.Picture=gone.png .Left=1 .Top=2"});
+    EXPECT_FALSE(logo.Visible);
+    EXPECT_EQ(logo.Tag, kHide);
+    EXPECT_EQ(run.program.format.LogoPath, "gone.png");
+    run.Lay({"frmP1.pic.Picture=gone.png .Left=1 .Top=2"});
+}
+
+TEST(FormatFile, WithoutALogoLeavesTheSettings) {
+    Laid run;
+    const std::string picture = run.folder / "ours.png";
+    run.folder.Write("ours.png", "x");
+    run.surroundings.pictures.Known[picture] = {20000, 900};
+    run.program.settings.LogoVisible = true;
+    run.program.settings.LogoFile = picture;
+    run.program.settings.LogoLeft = 77;
+    run.Lay({"frmP1.txt(8).Text=Hall"});
+    const PagePicture& logo = run.program.pages[PageId::frmP1].pic;
+    EXPECT_TRUE(logo.Visible);
+    EXPECT_EQ(logo.Left, 77);
+    EXPECT_EQ(logo.Size.Width, 10800) << "a picture too large is scaled into the box";
+    EXPECT_FLOAT_EQ(logo.Size.Height, 486);
+    EXPECT_EQ(run.program.format.LogoPath, "");
+}
+
+TEST(PropertyLines, AFaultEndsTheReadingAndTheFileIsKept) {
+    Laid run;
+    run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+    run.folder.Write(
+        "Proposals/Jane Roe.hpf",
+        "frmP1.txt(10).FontBold=True\r\nfrmP1.lbl(9).Left=far\r\nfrmP1.txt(11).FontBold=True\r\n");
+    run.surroundings.questions.Expect("The layout of this proposal was read only up to line 1.");
+    run.Open("Jane Roe.hef");
+    EXPECT_TRUE(run.Area(PageId::frmP1, 10).FontBold);
+    EXPECT_FALSE(run.Area(PageId::frmP1, 11).FontBold);
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
+    run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    EXPECT_NE(run.folder.Read("Proposals/Jane Roe.hpf.unread").find("Left=far"), std::string::npos);
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hpf").find("Left=far"), std::string::npos);
+}
+
+TEST(PropertyLines, WhatAClientWasSentLooksTheSameWithoutTheFormat) {
+    Laid run;
+    run.Lay({"frmP1.lbl(9).Left=100 .Top=200 .Caption=Day .FontName=Arial .FontBold=True .FontSize=12 "
+             ".ForeColor=255 .FontItalic=False .FontUnderline=False",
+             "frmP1.txt(10).FontBold=True"});
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Jane Roe");
+    run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    run.program.format.FormatOpen = false;
+    run.program.format.FormatName.clear();
+    run.Open("Jane Roe.hef");
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Day");
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, 100);
+    EXPECT_TRUE(run.Area(PageId::frmP1, 10).FontBold);
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
+}
+
+TEST(PropertyLines, SayThatAnAreaWhichItsFormatMakesBoldIsNot) {
+    Laid run;
+    run.Lay({"frmP1.txt(10).FontBold=True"});
+    run.program.format.PropTextChanges[PageId::frmP1][10].FontBold = false;
+    const auto lines = modFormat::PropertyLinesNow(run.program);
+    ASSERT_FALSE(lines.empty());
+    EXPECT_EQ(lines[0], "frmP1.txt(10).FontBold=False");
+    run.program.format.PropertyLines = lines;
+    modFormat::ParsePropertyFile(run.program);
+    EXPECT_FALSE(run.Area(PageId::frmP1, 10).FontBold);
+}
+
+TEST(PropertyLines, BringTitleAndHeadingBack) {
+    Laid run;
+    run.program.format.PropertyLines = {
+        "frmP1.lbl(33).Left=5000 .Top=15030 .Caption=The Roe Wedding .FontName=Arial .FontBold=True "
+        ".FontSize=9 "
+        ".ForeColor=0 .FontItalic=False .FontUnderline=False",
+        "frmP2.lbl(0).Left=3000 .Top=540 .Caption=Ours - Page 2 .FontName=Arial .FontBold=False .FontSize=15 "
+        ".ForeColor=0 .FontItalic=False .FontUnderline=False"};
+    modFormat::ParsePropertyFile(run.program);
+    EXPECT_EQ(run.program.document.ClientCaption, "The Roe Wedding");
+    EXPECT_TRUE(run.program.document.TitleGiven);
+    EXPECT_EQ(run.program.document.PageHeading, "Ours - ");
+    EXPECT_EQ(run.Label(PageId::frmP6_1, 64).Caption, "The Roe Wedding - Client's Copy");
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Left, 5000);
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Jane");
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "The Roe Wedding") << "given words stay";
+}
+
+/// A state that a person can bring about, by the tables and pages it leaves.
+class States {
+public:
+    States(Laid& run, unsigned seed) : run_(run), random_(seed) {}
+
+    void Make(int changes) {
+        for (int change = 0; change < changes; ++change) {
+            One();
+        }
+    }
+
+private:
+    int Below(int bound) { return static_cast<int>(random_() % static_cast<unsigned>(bound)); }
+    bool Flip() { return Below(2) == 0; }
+    std::string Word() {
+        static const std::array<const char*, 7> kWords{"Hall",      "two  blanks", " lead", "a.b",
+                                                       "\xC9t\xE9", "$",           "12"};
+        return kWords[static_cast<std::size_t>(Below(static_cast<int>(kWords.size())))];
+    }
+    /// The words of a title are the proposal's, and a lone currency sign is none of a person's captions.
+    std::string Caption(PageId page, int label) {
+        const std::string word = Word();
+        return label == geometry::TitleLabel(page) || word == "$"
+                   ? run_.program.pages[page].lbl[static_cast<std::size_t>(label)].Caption
+                   : word;
+    }
+    void One() {
+        Program& program = run_.program;
+        const PageId page = PageAt(Below(kLinePageCount));
+        const auto at = static_cast<std::size_t>(IndexOf(page));
+        const int index = Below(geometry::LastText(page) + 1);
+        const auto area = static_cast<std::size_t>(index);
+        switch (Below(6)) {
+        case 0:
+            if (!geometry::IsAmount(page, index) && !(page == PageId::frmP1 && index == 2)) {
+                program.pages[page].txt[area].Text = Word();
+            }
+            break;
+        case 1: {
+            const bool bold = Flip();
+            program.pages[page].txt[area].FontBold = bold;
+            program.format.PropTextChanges[at][area].FontBold = bold;
+            program.format.FormatTextChanges[at][area].FontBold = bold;
+            break;
+        }
+        case 2:
+            if (geometry::IsAmount(page, index)) {
+                modPages::SetNoTaxMark(program, page, index,
+                                       Flip() ? modPages::Mark::Shown : modPages::Mark::Hidden);
+            }
+            break;
+        case 3:
+            if (geometry::IsDescription(page, index)) {
+                modPages::PlaceColumns(program, page, index,
+                                       Flip() ? modPages::Columns::On : modPages::Columns::Off);
+                program.pages[page].txtQty[area].Text = Flip() ? "3" : "";
+                program.pages[page].txtAmt[area].Text = Flip() ? "1,5" : "Amt.";
+            }
+            break;
+        default: {
+            const PageId edited = PageAt(Below(kEditedPageCount));
+            const int label = Below(geometry::LastLabel(edited) + 1);
+            LabelLook look;
+            look.Left = static_cast<float>(Below(24000) - 6000) / static_cast<float>(1 + Below(7));
+            look.Top = static_cast<float>(Below(16000)) / 3;
+            look.Caption = Caption(edited, label);
+            look.FontName = Flip() ? "Arial" : "Times New Roman";
+            look.FontSize = static_cast<float>(6 + Below(30)) / 4 + 1;
+            look.FontBold = Flip();
+            look.ForeColor = static_cast<Color>(random_());
+            look.FontItalic = Flip();
+            look.FontUnderline = Flip();
+            if (modDesigner::IsSignLabel(edited, label)) {
+                // A currency sign has the areas' font, whatever was wanted for it.
+                LabelLook own =
+                    modDesigner::LookOf(program.pages[edited].lbl[static_cast<std::size_t>(label)]);
+                own.Left = look.Left;
+                own.Top = look.Top;
+                look = own;
+            }
+            modDesigner::LayLabel(program, edited, label, look);
+            LabelChangeRecord& record =
+                modDesigner::RecordOf(program.format.FormatLabelChanges, edited, label);
+            modDesigner::PutLook(record, look);
+            record.Changed = true;
+        }
+        }
+    }
+
+    Laid& run_;
+    std::mt19937 random_;
+};
+
+std::vector<std::string> Written(Program& program) {
+    return modFormat::LinesOf(program, modFormat::TablesNow(program, modFormat::Texts::LayoutAndTexts)).Lines;
+}
+
+/// From a format that was read: changed, written, read and written again. The first line that differs.
+std::string RoundTrip(Laid& run, const std::vector<std::string>& start, unsigned seed, int changes) {
+    run.Lay(start);
+    States(run, seed).Make(changes);
+    const auto first = Written(run.program);
+    run.Lay(first);
+    const auto second = Written(run.program);
+    for (std::size_t at = 0; at < std::max(first.size(), second.size()); ++at) {
+        const std::string one = at < first.size() ? first[at] : "(nothing)";
+        const std::string other = at < second.size() ? second[at] : "(nothing)";
+        if (one != other) {
+            return one + "\n" + other;
+        }
+    }
+    return "";
+}
+
+TEST(FormatFile, ComesBackByteForByteFromRandomStates) {
+#ifdef NDEBUG
+    constexpr unsigned kSeeds = 20000;
+#else
+    constexpr unsigned kSeeds = 1000;
+#endif
+    constexpr int kMostChanges = 40;
+    constexpr unsigned kStatesInARow = 10;
+    Laid run;
+    std::vector<std::string> start;
+    for (unsigned seed = 1; seed <= kSeeds; ++seed) {
+        if (seed % kStatesInARow == 1) {
+            start.clear();
+            run.program.format.FormatOpen = false;
+            run.program.format.FormatName.clear();
+            static_cast<void>(modReset::StartNewFile(run.program));
+        }
+        int changes = 1 + static_cast<int>(seed % kMostChanges);
+        States(run, seed).Make(changes);
+        const auto first = Written(run.program);
+        run.Lay(first);
+        if (Written(run.program) == first) {
+            start = first;
+            continue;
+        }
+        std::string difference = RoundTrip(run, start, seed, changes);
+        for (std::string smaller = difference; !smaller.empty() && changes > 1;) {
+            smaller = RoundTrip(run, start, seed, changes - 1); // the shortest state that still differs
+            if (!smaller.empty()) {
+                difference = smaller;
+                --changes;
+            }
+        }
+        FAIL() << "seed " << seed << ", " << changes << " changes\n" << difference;
+    }
+}
+
+} // namespace
