@@ -30,7 +30,9 @@ struct FullProposal {
                       .clock = recording.clock,
                       .instance = recording.instance,
                       .pictures = recording.pictures,
-                      .events = recording.events};
+                      .events = recording.events,
+                      .words = recording.words,
+                      .dictionaries = recording.dictionaries};
     Program program{platform};
 
     FullProposal() {

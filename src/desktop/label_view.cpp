@@ -85,10 +85,11 @@ void LabelView::mouseDoubleClickEvent(QMouseEvent* event) {
     Done();
 }
 
-void LabelView::Follow(const PageLabel& record) {
+LabelView::Caption LabelView::Follow(const PageLabel& record) {
     if (built_ && record == shown_) {
-        return;
+        return Caption::Same;
     }
+    const Caption caption = built_ && record.Caption == shown_.Caption ? Caption::Same : Caption::Changed;
     shown_ = record;
     built_ = true;
     setText(convert::ToQString(record.Caption));
@@ -98,6 +99,7 @@ void LabelView::Follow(const PageLabel& record) {
                                static_cast<double>(page_.measure.Width(record.Caption, font)) + 30,
                                static_cast<double>(page_.measure.Height(font))));
     update();
+    return caption;
 }
 
 void LabelView::paintEvent(QPaintEvent*) {

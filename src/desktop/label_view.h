@@ -12,7 +12,9 @@ class LabelView : public QLabel {
     Q_OBJECT
 public:
     LabelView(PageContext& page, QWidget& paper, FieldKind kind, int index);
-    void Follow(const PageLabel& record);
+    /// Returns whether the label says something else now.
+    enum class Caption { Same, Changed };
+    [[nodiscard]] Caption Follow(const PageLabel& record);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -20,6 +20,7 @@
 #include <QPainter>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -97,8 +98,18 @@ void PageView::FollowLabels(FieldKind kind, std::vector<LabelView*>& views,
             view = new LabelView(context_, *this, kind, static_cast<int>(index));
             view->lower();
         }
-        view->Follow(records[index]);
+        renamed_ = view->Follow(records[index]) == LabelView::Caption::Changed || renamed_;
         ShowAs(*view, visible);
+    }
+}
+
+void PageView::RenameFields() {
+    for (const auto* views : {&txt_, &txtQty_, &txtAmt_}) {
+        for (TextAreaView* view : *views) {
+            if (view != nullptr) {
+                view->Rename();
+            }
+        }
     }
 }
 
@@ -163,6 +174,9 @@ void PageView::Follow() {
     FollowAreas(FieldKind::txtAmt, txtAmt_, record.txtAmt);
     FollowLabels(FieldKind::lblAt, lblAt_, record.lblAt);
     FollowLabels(FieldKind::lblEach, lblEach_, record.lblEach);
+    if (std::exchange(renamed_, false)) {
+        RenameFields();
+    }
     FollowMarks();
     FollowLogo();
     band_->Follow(record.shpSelect, context_.Scale);

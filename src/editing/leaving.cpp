@@ -24,6 +24,7 @@ void txt_GotFocus(Program& program, PageId page, int index) {
     program.main.ActivePage = page;
     program.main.CurrentPage = IndexOf(page);
     editing.CurrentArea = index;
+    editing.EmptiedAmount.reset();
     if (!IsFinalPage(page)) {
         // No word is under way in an area that has just been entered.
         editing.Words[page].InWord = false;

@@ -147,7 +147,7 @@ void TakeAsSaved(Program& program) {
 
 void MarkProposalStale(Program& program) {
     const auto& texts = program.document.CurrentTextBuf;
-    const bool text = std::any_of(texts.begin(), texts.end(), [](const auto& page) {
+    const bool text = std::any_of(texts.begin(), texts.begin() + kLinePageCount, [](const auto& page) {
         return std::any_of(page.begin(), page.end(),
                            [](const std::string& line) { return !text::Trim(line).empty(); });
     });

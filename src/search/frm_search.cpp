@@ -68,17 +68,21 @@ void frmSearch::SearchPage(Program& program, PageId page) {
     }
 }
 
-void frmSearch::cmdOK_Click(Program& program) {
-    SearchRecords& search = program.search;
-    search.lstResults.clear();
+void frmSearch::SearchPages(Program& program) {
+    program.search.lstResults.clear();
     HitCount = 0;
-    if (search.SearchAllPages) {
+    if (program.search.SearchAllPages) {
         for (const PageId page : kEditedPages) {
             SearchPage(program, page);
         }
     } else {
         SearchPage(program, program.main.ActivePage);
     }
+}
+
+void frmSearch::cmdOK_Click(Program& program) {
+    SearchRecords& search = program.search;
+    SearchPages(program);
     auto& recent = search.RecentSearches;
     if (HitCount > 0 && std::find(recent.begin(), recent.end(), search.SearchPhrase) == recent.end()) {
         recent.push_back(search.SearchPhrase);

@@ -43,6 +43,8 @@ public:
     void cmdOK_Click(Program& program);
     void cmdCancel_Click(Program& program);
 
+    /// Looks through the pages that the options name and fills the list of hits.
+    void SearchPages(Program& program);
     /// Tests one area and appends a hit.
     void SearchForPhrase(Program& program, PageId page, int index);
     /// The phrases searched since the start, for the list of `cmbSearch`. Reports as "UpDateRecentSearches".

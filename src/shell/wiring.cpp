@@ -13,6 +13,7 @@
 #include "format/leave_format.h"
 #include "format/property_file.h"
 #include "output/page_count.h"
+#include "output/text_file.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
 #include "terms/completion.h"
@@ -62,6 +63,7 @@ void Wire(Program& program) {
     hooks.UpdatePageButtons = modScroll::UpdatePageButtons;
     hooks.PageKey = modScroll::PageKey;
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
+    hooks.ReadTextFile = modExport::ReadTextFile;
     hooks.MoveBlock = modBlocks::MoveBlockByKey;
     hooks.TakeFreshFigures = modFigures::TakeFresh;
     hooks.ReadEventDates = modCalendar::ReadEventDatesAtStart;

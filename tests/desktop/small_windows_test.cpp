@@ -18,6 +18,7 @@ public:
     ~Probe() override { gone_ = true; }
     [[nodiscard]] std::string_view Name() const override { return "probe"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }
+    void Form_Cancel(Program&) override {}
 
 private:
     bool& gone_;

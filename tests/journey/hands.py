@@ -209,6 +209,9 @@ def starts(display, folder, **options):
     person.presses("Return")
     person.sees("Quillbrook")
     person.settles()
+    if person.asks("text", "qt_msgbox_label") == "No Events Found":  # a folder without proposals
+        person.presses("Return")
+        person.sees("Quillbrook")
     return program, person
 
 

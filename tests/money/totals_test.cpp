@@ -3,6 +3,7 @@
 #include "pages/fields.h"
 #include "pages/page_marks.h"
 #include "program/keys.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -197,6 +198,9 @@ TEST(FinalPage, ADepositThatIsNoNumberStaysAndCountsAsNothing) {
     modTotals::SumAgain(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "-") << "the text stays for the person to mend";
     EXPECT_EQ(run.Area(PageId::frmP6, 4).BackColor, colors::kOverLimit);
+    person::StartAnew(run.program);
+    EXPECT_EQ(run.Area(PageId::frmP6, 4).ToolTipText, "") << "it goes with its proposal";
+    modFields::TypeText(run.program, {PageId::frmP6, FieldKind::txt, 4}, "-", 1, 0);
     modFields::TypeText(run.program, {PageId::frmP6, FieldKind::txt, 4}, "40", 2, 0);
     EXPECT_EQ(run.program.totals.Deposit, 40);
     EXPECT_EQ(run.Area(PageId::frmP6, 4).ToolTipText, "");

@@ -182,7 +182,7 @@ void OnProgram(Pair& pair, const Step& step) {
         break;
     case Do::DropTerm:
         if (program.main.PageInFront != step.Field.Page) {
-            person::TurnTo(program, IndexOf(step.Field.Page));
+            return; // nothing there to let go over
         }
         static_cast<void>(modTerms::txt_DragDrop(program, step.Field, step.Text));
         break;

@@ -1,15 +1,24 @@
 #include "support/person.h"
 
+#include "proposal/reset.h"
 #include "shell/closing.h"
 #include "shell/command_run.h"
 #include "shell/frm_main.h"
 #include "shell/input.h"
 #include "shell/page_switch.h"
 
+#include <stdexcept>
+
 namespace person {
 
 void Choose(Program& program, CommandId id) {
     commands::Run(program, id);
+}
+
+void StartAnew(Program& program) {
+    if (modReset::StartNewFile(program) != modReset::ResetResult::Done) {
+        throw std::runtime_error("the proposal was not put away");
+    }
 }
 
 void TurnTo(Program& program, int pageIndex) {

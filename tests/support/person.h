@@ -14,6 +14,8 @@ namespace person {
 
 /// Chooses a command of the menus.
 void Choose(Program& program, CommandId id);
+/// Puts the proposal away without a question, for an empty one.
+void StartAnew(Program& program);
 /// Brings a page to the front, 0 to 6.
 void TurnTo(Program& program, int pageIndex);
 /// Clicks a page's button on the tool strip, 0 to 6.

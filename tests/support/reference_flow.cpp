@@ -1178,7 +1178,9 @@ void ReferenceFlow::PlacePrice(const FieldRef& line, const std::string& amount) 
 }
 
 void ReferenceFlow::DropTerm(const FieldRef& target, std::string_view line) {
-    ToPage(target.Page);
+    if (CurrentPage != IndexOf(target.Page)) {
+        return; // its page is not in front
+    }
     const Field& field = At(target);
     const std::string text(line.substr(0, line.find('[')));
     const bool figures = IsBox(target) || field.Limit == "020";

@@ -1,0 +1,106 @@
+#include "base/files.h"
+#include "program/program.h"
+#include "shell/main_load.h"
+#include "shell/wiring.h"
+#include "support/recording_platform.h"
+#include "terms/completion.h"
+#include "terms/placing.h"
+#include "terms/term_line.h"
+#include "terms/term_list.h"
+#include "terms/term_match.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include <unistd.h>
+
+/// Arbitrary bytes read as a frequent terms list: its lines complete words, go into fields and are written
+/// again.
+
+namespace {
+
+/// Answers every box and never complains: a fuzzer has no script.
+class QuietQuestions : public Questions {
+public:
+    Answer Ask(std::string_view, Buttons, std::string_view, const Manner&) override { return Answer::Ok; }
+    std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
+};
+
+struct Machine {
+    QuietQuestions quiet;
+    RecordingPlatform recording;
+    Platform platform{.questions = quiet,
+                      .measure = recording.measure,
+                      .printers = recording.printers,
+                      .screen = recording.screen,
+                      .clipboard = recording.clipboard,
+                      .shell = recording.shell,
+                      .clock = recording.clock,
+                      .instance = recording.instance,
+                      .pictures = recording.pictures,
+                      .events = recording.events,
+                      .words = recording.words,
+                      .dictionaries = recording.dictionaries};
+    Program program{platform};
+    Machine() {
+        const std::filesystem::path folder =
+            std::filesystem::temp_directory_path() / ("terms_fuzzer." + std::to_string(::getpid()));
+        std::filesystem::create_directories(folder);
+        program.folders.InstallFolder = folder.string() + "/";
+        program.settings.CurrencySymbol = "$";
+        Wire(program);
+        modMain::MDIForm_Load(program);
+        program.folders.ProposalsFolder = program.folders.InstallFolder;
+        program.run.ACEnabled = true;
+    }
+};
+
+void Require(bool holds) {
+    if (!holds) {
+        std::abort();
+    }
+}
+
+void CompleteEveryWord(Program& program) {
+    const auto& lines = program.terms.Lines;
+    const TermIndex index = modTerms::BuildIndex(lines);
+    for (const std::string_view line : lines) {
+        const std::string_view term = modTerms::SplitTerm(line).Text;
+        for (std::size_t length = 1; length <= 12 && length <= term.size(); ++length) {
+            const std::string_view word = term.substr(0, length);
+            const auto walked = modTerms::FirstMatchByWalk(lines, word);
+            Require(walked.has_value());
+            Require(modTerms::FirstMatch(lines, index, word) == walked);
+            static_cast<void>(modTerms::CompletionFor(word, modTerms::SplitTerm(lines[*walked]).Text));
+        }
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static Machine machine; // one program for the whole run
+    Program& program = machine.program;
+    const std::string bytes(reinterpret_cast<const char*>(data), size);
+    files::WriteWhole(modTerms::PathInUse(program), bytes);
+    modTerms::ReadFrequentlyUsedTerms(program);
+    Require(program.terms.ReadWhole);
+    CompleteEveryWord(program);
+
+    const FieldRef line{PageId::frmP2, FieldKind::txt, 0};
+    for (const std::string_view each : program.terms.Lines) {
+        static_cast<void>(modTerms::txt_DragDrop(program, line, each));
+        program.pages[PageId::frmP2].txt[0].Text.clear();
+    }
+
+    // What is rewritten is read again as it was, but for line ends and empty lines at the end.
+    const int before = program.terms.TermCount();
+    if (modTerms::SaveFrequentlyUsedTerms(program, [](modTerms::LineList& lines) {
+            lines.emplace_back("the last one");
+        }) == modTerms::Saved::Yes) {
+        Require(program.terms.TermCount() == before + 1);
+    }
+    return 0;
+}

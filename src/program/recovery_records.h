@@ -1,0 +1,18 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+/// A proposal whose changes stand in a backup alone.
+struct UnsavedWork {
+    std::string Folder; ///< of the proposal
+    std::string FileName;
+    std::string Backup; ///< the backup's name in the folder of the backups
+    bool operator==(const UnsavedWork&) const = default;
+};
+
+struct RecoveryRecords {
+    bool Marked = false;              ///< the marker of this run stands
+    std::optional<UnsavedWork> Told;  ///< what the marker tells the next start
+    std::optional<UnsavedWork> Found; ///< what an end that was not clean has left
+};
