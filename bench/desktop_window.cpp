@@ -73,6 +73,7 @@ struct Desktop {
         folder.Write("Proposals/SalesTax.txt", Shipped("Proposals/SalesTax.txt"));
         program.folders.InstallFolder = folder.Path();
         Wire(program);
+        program.hooks.ReadEventDates = nullptr; // the folder of a measure holds no proposals
         window = std::make_unique<FrmMainView>(program, qt.measure);
         qt.events.Follow = [this] { window->Follow(); };
         modMain::MDIForm_Load(program); // without the splash, which waits for a person

@@ -26,7 +26,8 @@ public:
     /// Shows it for the first time, and takes it from the screen for good.
     virtual void Open() { show(); }
     virtual void Leave() { hide(); }
-    virtual void TakeKeyboard();
+    /// Comes to the front when the model has called for it.
+    void AnswerCalls();
     [[nodiscard]] virtual bool HasKeyboard() const { return isActiveWindow(); }
 
 protected:
@@ -36,6 +37,7 @@ protected:
         call();
         after();
     }
+    virtual void TakeKeyboard();
     void reject() override;
     void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;

@@ -6,7 +6,6 @@
 #include "format/format_changes.h"
 #include "format/format_save.h"
 #include "format/frm_label_props.h"
-#include "format/leave_format.h"
 #include "pages/fields.h"
 #include "program/errors.h"
 #include "program/program.h"

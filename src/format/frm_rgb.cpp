@@ -121,9 +121,9 @@ void frmRGB::cmdOK_Click(Program& program) {
                                        [&](LabelLook& look) { look.ForeColor = colour; });
         } else {
             program.run.DefaultFontColor = colour;
-            if (Chosen) {
-                Chosen(program);
-            }
+        }
+        if (Applied) {
+            Applied(program);
         }
     });
     modWindows::Close(program, *this);

@@ -41,8 +41,8 @@ public:
     CommandButton cmdOK{.Caption = "Apply", .ToolTipText = ""};
     CommandButton cmdCancel{.Caption = "Cancel", .ToolTipText = ""};
 
-    /// Who opened it for the text areas hears of the choice.
-    std::function<void(Program&)> Chosen;
+    /// What the opener does when a colour was applied.
+    std::function<void(Program&)> Applied;
 
     [[nodiscard]] std::string_view Name() const override { return "frmRGB"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modal; }

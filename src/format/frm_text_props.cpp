@@ -96,13 +96,13 @@ void frmTextProps::cmdColor_Click(Program& program, int index) {
 
 void frmTextProps::cmdColors_Click(Program& program) {
     program.designer.ColorOwner = "Text";
-    auto chooser = std::make_unique<frmRGB>();
-    chooser->Chosen = [](Program& in) {
-        if (auto* window = dynamic_cast<frmTextProps*>(modWindows::Find(in, "frmTextProps"))) {
-            window->ShowFont(in);
+    auto window = std::make_unique<frmRGB>();
+    window->Applied = [](Program& later) {
+        if (auto* opener = dynamic_cast<frmTextProps*>(modWindows::Find(later, "frmTextProps"))) {
+            opener->ShowFont(later);
         }
     };
-    modWindows::Show(program, std::move(chooser));
+    modWindows::Show(program, std::move(window));
 }
 
 void frmTextProps::chkItalic_Click(Program& program) {

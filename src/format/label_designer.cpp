@@ -82,6 +82,10 @@ struct Agreement {
 
 } // namespace
 
+PageId DesignPage(const Program& program) {
+    return PageAt(program.main.CurrentPage);
+}
+
 void SaveLabelState(Program& program) {
     DesignerRecords& designer = program.designer;
     const PageId page = *designer.LabelPage;

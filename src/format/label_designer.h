@@ -4,7 +4,7 @@
 
 struct Program;
 
-/// Labels in the hand: press, drag by snap steps, release, and the selection of a group.
+/// Labels in the hand: press, drag by snap steps, release, and the commands of a group.
 namespace modDesigner {
 
 inline constexpr int kLeftButton = 1;
@@ -24,6 +24,9 @@ void lbl_DblClick(Program& program, PageId page, int index);
 
 /// The pressed label's look into `LabelEdit` and its saved state.
 void SaveLabelState(Program& program);
+
+/// The page whose labels the commands act on: the one in front, but for the client's copy.
+[[nodiscard]] PageId DesignPage(const Program& program);
 
 /// Takes what all labels of the page agree on into `LabelEdit`, and selects them all but the currency signs.
 void LoadSelectedLabels(Program& program);

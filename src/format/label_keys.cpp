@@ -1,7 +1,6 @@
 #include "format/label_keys.h"
 
 #include "format/label_designer.h"
-#include "format/label_selection.h"
 #include "format/logo.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"

@@ -18,10 +18,6 @@ void Deselect(PageLabel& label) {
     label.BackColor = colors::kButtonFace;
 }
 
-PageId DesignPage(const Program& program) {
-    return PageAt(program.main.CurrentPage);
-}
-
 bool MultipleLabelsSelected(const Program& program) {
     int selected = 0;
     for (const PageId page : kEditedPages) {

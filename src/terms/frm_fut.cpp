@@ -219,9 +219,7 @@ void frmFUT::lstMoreFUT_Click(Program& program) {
 namespace modTerms {
 
 void mnuOptFUT_Click(Program& program) {
-    frmFUT& window = ShownWindow(program);
-    window.Minimised = false;
-    window.BringUp = true;
+    modWindows::BringToFront(ShownWindow(program));
 }
 
 void ShowTermsWindow(Program& program) {

@@ -496,7 +496,7 @@ TEST(OpeningAProposal, WithHiddenTotalsWritesTheDepositAloneAndIsUnchanged) {
 
 TEST(OpeningAProposal, FiresNoHandlerOfAPageAndPutsItsFlagDown) {
     RunningProgram run;
-    run.Main()[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
+    run.program.document.HasClient = false;
     const auto answer = run.program.hooks.Change;
     int loud = 0;
     run.program.hooks.Change = [&](Program& program, const FieldRef& field) {

@@ -1,4 +1,5 @@
 #include "format/label_designer.h"
+#include "format/label_selection.h"
 
 #include "format/format_commands.h"
 #include "format/frm_label_props.h"
@@ -515,7 +516,7 @@ TEST(Logo, HidingItKeepsItOutOfPrint) {
     PagePicture& logo = run.program.pages[PageId::frmP1].pic;
     logo.Picture = {PictureRef::Source::File, "/srv/logo.png"};
     run.program.settings.LogoVisible = true;
-    run.Main()[CommandId::mnuEditLogoVisible].Checked = true;
+    run.program.run.LogoChecked = true;
     person::Choose(run.program, CommandId::mnuEditLogoVisible);
     EXPECT_FALSE(logo.Visible);
     EXPECT_EQ(logo.Tag, kHide);
