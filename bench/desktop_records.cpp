@@ -75,7 +75,9 @@ struct Desktop {
                       .clock = qt.clock,
                       .instance = qt.instance,
                       .pictures = qt.pictures,
-                      .events = events};
+                      .events = events,
+                      .words = qt.words,
+                      .dictionaries = qt.dictionaries};
     Program program{platform};
     std::unique_ptr<FrmMainView> window;
 

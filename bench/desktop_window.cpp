@@ -64,7 +64,9 @@ struct Desktop {
                       .clock = qt.clock,
                       .instance = qt.instance,
                       .pictures = qt.pictures,
-                      .events = qt.events};
+                      .events = qt.events,
+                      .words = qt.words,
+                      .dictionaries = qt.dictionaries};
     Program program{platform};
     std::unique_ptr<FrmMainView> window;
 

@@ -107,10 +107,10 @@ TEST(BandOnScreen, MayBeginOnTheWordsOfARow) {
     ASSERT_NE(under, nullptr);
     ASSERT_EQ(under->objectName(), QStringLiteral("lblEach(3)"));
     run.MousePress(x, y);
-    run.MouseMove(6000, 2400);
     run.MouseMove(600, 1700);
-    EXPECT_TRUE(run.program.editing.Block.BandDragging);
+    EXPECT_TRUE(run.Second().shpSelect.Visible);
     run.MouseRelease(600, 1700);
+    EXPECT_FALSE(run.Second().shpSelect.Visible);
 }
 
 TEST(BandOnScreen, ACaptionIsTakenInTheHandInstead) {
