@@ -92,7 +92,6 @@ void OpenProposal(Program& program, const std::string& fileName) {
         return;
     }
     document.FromBackup = false;
-    program.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
     modFile::ShowProposal(program, fileName, *raw);
     document.PropertiesIgnored = false;
     modFile::ReadFileProperties(program);

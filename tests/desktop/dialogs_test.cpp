@@ -513,7 +513,7 @@ TEST(MainWindow, ANarrowWindowShowsEveryButtonWithItsWholeCaption) {
     constexpr int kNarrow = 780;
     constexpr int kHeight = 560;
     for (const int width : {kNarrow, 1200, kNarrow}) {
-        run.program.main.lblTotal.Caption = "Running Sub-Total = $ 1,234,567.89";
+        run.program.totals.RunningSubTotal = "$ 1,234,567.89";
         run.window->showNormal();
         run.window->resize(width, kHeight);
         run.window->AfterEvent();

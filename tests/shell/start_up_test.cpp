@@ -128,8 +128,7 @@ TEST(StartUp, TheLabelsPlacesAreNotedAfterTheFirstReset) {
     for (const PageId page : kEditedPages) {
         for (int index = 0; index <= geometry::LastLabel(page); ++index) {
             const auto at = static_cast<std::size_t>(index);
-            const LabelChangeRecord& kept =
-                run.program.format.PropLabelChanges[static_cast<std::size_t>(IndexOf(page))][at];
+            const LabelChangeRecord& kept = run.program.format.PropLabelChanges[page][at];
             EXPECT_EQ(kept.Left, run.program.pages[page].lbl[at].Left);
             EXPECT_EQ(kept.Top, run.program.pages[page].lbl[at].Top);
         }
@@ -339,7 +338,7 @@ TEST(Exit, NoClosesAndCancelStays) {
 
 TEST(Exit, AChangedPropertyAsksToo) {
     Closing run;
-    run.program.format.LabelSavedState[0][3].Changed = true;
+    run.program.format.LabelSavedState[PageId::frmP1][3].Changed = true;
     run.surroundings.questions.ExpectBox(kExitQuestion, Answer::Cancel);
     EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program));
 }
