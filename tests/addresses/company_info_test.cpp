@@ -57,6 +57,39 @@ TEST(CompanyInfo, LeavesALabelThatHasOtherWords) {
     EXPECT_EQ(run.Caption(PageId::frmP6, 57), "Birch & Sons");
 }
 
+TEST(CompanyInfo, RewordsTheOpenFormatAndSaysThatItsFileIsBehind) {
+    CompanyRun run;
+    FormatRecords& format = run.program.format;
+    format.FormatOpen = true;
+    LabelChangeRecord& name = format.FormatLabelChanges[0][0];
+    name.Changed = true;
+    name.Saved = true;
+    name.Caption = "Acme Events";
+    LabelChangeRecord& other = format.FormatLabelChanges[0][1];
+    other.Changed = true;
+    other.Saved = true;
+    other.Caption = "By hand";
+    run.Type(0, "Birch & Sons");
+    run.Questions().ExpectBox(
+        {"The open format still carries the old lines on disk; save it.", Buttons::Ok, ""}, Answer::Ok);
+    run.Window().cmdSave_Click(run.program);
+    EXPECT_EQ(name.Caption, "Birch & Sons");
+    EXPECT_FALSE(name.Saved);
+    EXPECT_TRUE(other.Saved);
+    EXPECT_TRUE(format.Touched);
+}
+
+TEST(CompanyInfo, WithTheAlternateLetterheadLeavesItEmpty) {
+    CompanyRun run;
+    run.program.run.AltLetterhead = true;
+    run.Label(PageId::frmP1, 1).Caption.clear();
+    run.Type(1, "9 Mill Rd");
+    run.Type(0, "Birch & Sons");
+    run.Window().cmdSave_Click(run.program);
+    EXPECT_EQ(run.Caption(PageId::frmP1, 1), "");
+    EXPECT_EQ(run.Caption(PageId::frmP6, 57), "Birch & Sons");
+}
+
 TEST(CompanyInfo, MovesTheRemittanceLinesOnlyWithTheSecondAddress) {
     CompanyRun run;
     const float top = run.Label(PageId::frmP6, 60).Top;

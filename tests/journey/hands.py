@@ -96,7 +96,7 @@ class Display:
         return program, Person(self, program, place)
 
     def tool(self, *words):
-        return subprocess.run(["xdotool", *words], env=self.env, capture_output=True, text=True, check=False, timeout=60).stdout.strip()
+        return subprocess.run(["xdotool", *words], env=self.env, capture_output=True, text=True, check=False, timeout=60).stdout.strip("\n")
 
     def close(self):
         for program in self.programs:
