@@ -243,6 +243,20 @@ TEST(StartUp, SettingsOfGarbageAreToldOnceAndNeverStopIt) {
     }
 }
 
+TEST(StartUp, ANulByteInTheLogoLineStopsNothing) {
+    Starting run;
+    run.Setting("Logo File:", std::string("a\0b.jpg", 7));
+    ASSERT_EQ(run.Main(), modStart::StartResult::Running);
+    EXPECT_TRUE(run.program.main.Loaded);
+    for (const PageId page : kAllPages) {
+        EXPECT_FALSE(run.program.pages[page].txt.empty());
+    }
+    Typist typist(run.program);
+    typist.Click(PageId::frmP5, 0);
+    typist.Type("Last page");
+    EXPECT_EQ(run.TextOf(PageId::frmP5, 0), "Last page");
+}
+
 TEST(StartUp, ARateOfZeroIsAskedForAtEveryStart) {
     Starting run;
     run.folder.Write("Proposals/SalesTax.txt", ".00  ");
