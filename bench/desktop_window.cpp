@@ -64,7 +64,9 @@ struct Desktop {
                       .clock = qt.clock,
                       .instance = qt.instance,
                       .pictures = qt.pictures,
-                      .events = qt.events};
+                      .events = qt.events,
+                      .words = qt.words,
+                      .dictionaries = qt.dictionaries};
     Program program{platform};
     std::unique_ptr<FrmMainView> window;
 
@@ -73,6 +75,7 @@ struct Desktop {
         folder.Write("Proposals/SalesTax.txt", Shipped("Proposals/SalesTax.txt"));
         program.folders.InstallFolder = folder.Path();
         Wire(program);
+        program.hooks.ReadEventDates = nullptr; // the folder of a measure holds no proposals
         window = std::make_unique<FrmMainView>(program, qt.measure);
         qt.events.Follow = [this] { window->Follow(); };
         modMain::MDIForm_Load(program); // without the splash, which waits for a person

@@ -38,7 +38,9 @@ struct Machine {
                       .clock = recording.clock,
                       .instance = recording.instance,
                       .pictures = recording.pictures,
-                      .events = recording.events};
+                      .events = recording.events,
+                      .words = recording.words,
+                      .dictionaries = recording.dictionaries};
     Program program{platform};
     std::filesystem::path folder =
         std::filesystem::temp_directory_path() / ("address-book-fuzzer-" + std::to_string(::getpid()));

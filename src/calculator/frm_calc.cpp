@@ -227,8 +227,7 @@ namespace modCalculator {
 void mnuOptCalc_Click(Program& program) {
     ShowCalculator(program);
     if (Window* window = modWindows::Find(program, "frmCalc")) {
-        window->Minimised = false;
-        window->BringUp = true;
+        modWindows::BringToFront(*window);
     }
 }
 

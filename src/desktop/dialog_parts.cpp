@@ -45,8 +45,7 @@ QValidator::State ModelValidator::validate(QString& input, int& position) const 
     }
     if (!left.isEmpty()) {
         QToolTip::showText(edit_->mapToGlobal(QPoint(0, edit_->height())),
-                           tr("\u201C%1\u201D was not taken: it is no part of a number here.").arg(left),
-                           edit_);
+                           tr("\u201C%1\u201D was not taken: it has no place here.").arg(left), edit_);
         input = kept;
         position = cursor;
     }

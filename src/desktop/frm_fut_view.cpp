@@ -134,11 +134,17 @@ FrmFutView::FrmFutView(Program& program, frmFUT& window, QWidget* over, std::fun
 
 FrmFutView::~FrmFutView() {
     placed_ = false; // what follows is no place of the person's
-    delete dock_;
+    if (dock_ != nullptr) {
+        for (QObject* part : dock_->findChildren<QObject*>()) {
+            part->disconnect(this);
+        }
+        dock_->disconnect(this);
+        delete dock_;
+    }
 }
 
 double FrmFutView::PixelsPerTwip() const {
-    return logicalDpiX() / paper::kTwipsPerInch;
+    return static_cast<double>(logicalDpiX()) / paper::kTwipsPerInch;
 }
 
 void FrmFutView::BuildMenus(QWidget* body) {

@@ -83,10 +83,10 @@ public:
     void Follow() override;
     void Open() override;
     void Leave() override;
-    void TakeKeyboard() override;
     [[nodiscard]] bool HasKeyboard() const override;
 
 protected:
+    void TakeKeyboard() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

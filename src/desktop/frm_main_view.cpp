@@ -129,9 +129,9 @@ void FrmMainView::BuildStrips() {
     folder_ = add(info, QStringLiteral("lblDir"), program_.main.lblDir, 1);
     folder_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     folder_->installEventFilter(this);
-    QLabel* event = add(info, QStringLiteral("lblEvent"), program_.main.lblEvent, 0);
-    event->setAlignment(Qt::AlignRight);
-    event->setMinimumWidth(1);
+    QLabel* about = add(info, QStringLiteral("lblEvent"), program_.main.lblEvent, 0);
+    about->setAlignment(Qt::AlignRight);
+    about->setMinimumWidth(1);
     column->addWidget(info);
 
     auto* middle = new QWidget(whole);

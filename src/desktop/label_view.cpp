@@ -85,11 +85,11 @@ void LabelView::mouseDoubleClickEvent(QMouseEvent* event) {
     Done();
 }
 
-LabelView::Caption LabelView::Follow(const PageLabel& record) {
+void LabelView::Follow(const PageLabel& record) {
     if (built_ && record == shown_) {
-        return Caption::Same;
+        return;
     }
-    const Caption caption = built_ && record.Caption == shown_.Caption ? Caption::Same : Caption::Changed;
+    saysOtherwise_ = saysOtherwise_ || !built_ || record.Caption != shown_.Caption;
     shown_ = record;
     built_ = true;
     setText(convert::ToQString(record.Caption));
@@ -99,7 +99,6 @@ LabelView::Caption LabelView::Follow(const PageLabel& record) {
                                static_cast<double>(page_.measure.Width(record.Caption, font)) + 30,
                                static_cast<double>(page_.measure.Height(font))));
     update();
-    return caption;
 }
 
 void LabelView::paintEvent(QPaintEvent*) {

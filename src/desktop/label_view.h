@@ -4,6 +4,8 @@
 
 #include <QLabel>
 
+#include <utility>
+
 struct PageContext;
 
 /// A label, drawn in paper units. The captions of a page can be dragged, selected and edited; those of the
@@ -12,9 +14,9 @@ class LabelView : public QLabel {
     Q_OBJECT
 public:
     LabelView(PageContext& page, QWidget& paper, FieldKind kind, int index);
-    /// Returns whether the label says something else now.
-    enum class Caption { Same, Changed };
-    [[nodiscard]] Caption Follow(const PageLabel& record);
+    void Follow(const PageLabel& record);
+    /// Whether the label says something else since this was asked last.
+    [[nodiscard]] bool SaysOtherwise() { return std::exchange(saysOtherwise_, false); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -32,4 +34,5 @@ private:
     PageContext& page_;
     PageLabel shown_;
     bool built_ = false;
+    bool saysOtherwise_ = false;
 };

@@ -98,7 +98,8 @@ void PageView::FollowLabels(FieldKind kind, std::vector<LabelView*>& views,
             view = new LabelView(context_, *this, kind, static_cast<int>(index));
             view->lower();
         }
-        renamed_ = view->Follow(records[index]) == LabelView::Caption::Changed || renamed_;
+        view->Follow(records[index]);
+        renamed_ = view->SaysOtherwise() || renamed_;
         ShowAs(*view, visible);
     }
 }

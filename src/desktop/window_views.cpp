@@ -37,10 +37,12 @@ void WindowView::Follow() {
     if (isVisible() && isMinimized() != window_.Minimised) {
         window_.Minimised ? showMinimized() : showNormal();
     }
+}
+
+void WindowView::AnswerCalls() {
     if (frontCalls_ != window_.FrontCalls) {
         frontCalls_ = window_.FrontCalls;
-        raise();
-        activateWindow();
+        TakeKeyboard();
     }
 }
 
@@ -149,9 +151,6 @@ void WindowViews::Follow() {
         if (fresh) {
             view->Open();
         }
-        if (window->BringUp) {
-            window->BringUp = false;
-            view->TakeKeyboard();
-        }
+        view->AnswerCalls();
     }
 }

@@ -22,11 +22,12 @@ public:
     /// Sets what differs from the records.
     virtual void Follow();
     /// The model has been closed; it stays as long as something may still arrive for its view.
-    void KeepModel(std::unique_ptr<Window> model) { model_ = std::move(model); }
+    void KeepModel(std::unique_ptr<Window> model) { kept_ = std::move(model); }
     /// Shows it for the first time, and takes it from the screen for good.
     virtual void Open() { show(); }
     virtual void Leave() { hide(); }
-    virtual void TakeKeyboard();
+    /// Comes to the front when the model has called for it.
+    void AnswerCalls();
     [[nodiscard]] virtual bool HasKeyboard() const { return isActiveWindow(); }
 
 protected:
@@ -36,6 +37,7 @@ protected:
         call();
         after();
     }
+    virtual void TakeKeyboard();
     void reject() override;
     void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
@@ -47,7 +49,7 @@ protected:
 private:
     std::function<void()> afterEvent_;
     int frontCalls_ = 0;
-    std::unique_ptr<Window> model_;
+    std::unique_ptr<Window> kept_; ///< the model, once it has left the program
 };
 
 /// Keeps one view for each open window.

@@ -248,4 +248,17 @@ FormatSave SaveFileFormat(Program& program) {
     return result;
 }
 
+bool MayLeaveFormat(Program& program) {
+    if (!FormatIsUnsaved(program)) {
+        return true;
+    }
+    const Answer answer = program.platform.questions.MsgBox(
+        "The format " + program.format.FormatName + " has changes that are not saved.", Buttons::YesNoCancel,
+        "", {.Default = Answer::Cancel, .Words = {"Save", "Discard", "Cancel"}});
+    if (answer == Answer::Yes) {
+        return SaveFileFormat(program) == FormatSave::Saved;
+    }
+    return answer == Answer::No;
+}
+
 } // namespace modFormat

@@ -17,7 +17,7 @@ struct DocumentState {
     std::string DepositFile;
     bool FileExists = false;
     bool FromBackup = false;
-    bool BackingUp = false; ///< nothing may be asked or told
+    bool BackingUp = false;    ///< nothing may be asked or told
     std::string ClientCaption; ///< "Proposal for " and the client; also called ProposalTitle
     bool TitleGiven = false;   ///< a person gave the title its words; a client's name no longer makes it
     std::string DocumentKind = "Event";

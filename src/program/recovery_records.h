@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/seen.h"
+
 #include <optional>
 #include <string>
 
@@ -8,6 +10,8 @@ struct UnsavedWork {
     std::string Folder; ///< of the proposal
     std::string FileName;
     std::string Backup; ///< the backup's name in the folder of the backups
+    /// What the last save was about to write. A proposal that holds it is saved, and newer than the backup.
+    files::Seen Saving{};
     bool operator==(const UnsavedWork&) const = default;
 };
 

@@ -29,7 +29,7 @@ public:
     /// Runs once when the window closes by any way.
     virtual void Form_Unload(Program&) {}
     /// Escape, or the close box.
-    virtual void Form_Cancel(Program& program) = 0;
+    virtual void Form_Cancel(Program& program);
     /// Runs at the end of every event: brings what shows up to what the rest of the program says.
     virtual void Form_Follow(Program&) {}
 
@@ -53,8 +53,6 @@ public:
     float Top = 0;
     float Width = 0;
     float Height = 0;
-    /// The window asks for the keyboard; the front end gives it and clears this.
-    bool BringUp = false;
 };
 
 /// Every open window but the main one, in the order of opening.

@@ -145,7 +145,9 @@ void SavingSteps(Program& program, SaveResult& result) {
     const bool properties = PropertiesChanged(program);
     const bool propertiesLost = SaveProperties(program) == SaveResult::NotSaved;
     document.SavedStateStale = properties;
-    WriteOver(path, ProposalBytes(program), document.SavedFile);
+    const std::string bytes = ProposalBytes(program);
+    modRecovery::TellOfSave(program, bytes);
+    WriteOver(path, bytes, document.SavedFile);
     document.TextFileName = std::string(paths::BaseOf(document.FileName)) + ".txt";
     program.format.EditingFormat = false;
     document.SavedTextBuf = document.CurrentTextBuf;

@@ -34,7 +34,12 @@ std::optional<std::string> BytesOf(const std::string& path) {
     }
 }
 
+/// Whether the backup has nothing that the proposal has not.
 bool SayTheSame(const Program& program, const UnsavedWork& work) {
+    if (work.Saving.Was == files::Seen::What::Bytes &&
+        files::LookAt(paths::Join(work.Folder, work.FileName)) == work.Saving) {
+        return true; // saved after the backup
+    }
     const std::string backups = modFolders::BackupFolder(program);
     const std::optional<std::string> properties =
         BytesOf(paths::Join(backups, PropertiesBeside(work.Backup)));

@@ -8,6 +8,7 @@
 
 #include <exception>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -26,7 +27,14 @@ std::optional<UnsavedWork> Parse(std::string_view bytes) {
     if (lines.size() < kLines || lines[1].size() <= 4 || lines[2].size() <= 4) {
         return std::nullopt;
     }
-    return UnsavedWork{lines[0], lines[1], lines[2]};
+    UnsavedWork work{lines[0], lines[1], lines[2]};
+    if (lines.size() > kLines) {
+        std::istringstream saving(lines[kLines]);
+        if (saving >> work.Saving.Length >> work.Saving.Sum) {
+            work.Saving.Was = files::Seen::What::Bytes;
+        }
+    }
+    return work;
 }
 
 void WriteMarker(Program& program) {
@@ -37,6 +45,10 @@ void WriteMarker(Program& program) {
     if (const auto& told = program.recovery.Told) {
         for (const std::string& line : {told->Folder, told->FileName, told->Backup}) {
             bytes += line;
+            bytes += text::kCrLf;
+        }
+        if (told->Saving.Was == files::Seen::What::Bytes) {
+            bytes += std::to_string(told->Saving.Length) + " " + std::to_string(told->Saving.Sum);
             bytes += text::kCrLf;
         }
     }
@@ -85,6 +97,13 @@ void TakeMarkerAway(Program& program) {
 void TellOfBackup(Program& program, std::string_view backupName) {
     const DocumentState& document = program.document;
     Tell(program, UnsavedWork{document.FilePath, document.FileName, std::string(backupName)});
+}
+
+void TellOfSave(Program& program, std::string_view bytes) {
+    if (std::optional<UnsavedWork> work = program.recovery.Told) {
+        work->Saving = files::SeenIn(bytes);
+        Tell(program, std::move(work));
+    }
 }
 
 void NothingUnsaved(Program& program) {

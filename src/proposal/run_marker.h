@@ -16,7 +16,10 @@ void TakeMarkerAway(Program& program);
 
 /// Before the backup is written: the marker names it.
 void TellOfBackup(Program& program, std::string_view backupName);
-/// The same for a backup that was brought back. Both throw files::FileError.
+/// Before a save writes these bytes: should the run end between the write and what follows, the next start
+/// knows that the proposal is saved.
+void TellOfSave(Program& program, std::string_view bytes);
+/// The same for a backup that was brought back. All three throw files::FileError.
 void Restate(Program& program, const UnsavedWork& work);
 /// The proposal on show has nothing that is in its backup alone: it was saved, or has been left.
 void NothingUnsaved(Program& program);

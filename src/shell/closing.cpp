@@ -1,7 +1,7 @@
 #include "shell/closing.h"
 
 #include "editing/selection.h"
-#include "format/format_changes.h"
+#include "format/format_save.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/backup.h"
@@ -65,6 +65,7 @@ void KeepUnsaved(Program& program) {
     if (program.main.Closing || !program.main.Loaded) {
         return;
     }
+    modWindows::KeepUnsaved(program);
     if (modProposal::SomethingChanged(program) || modFile::PropertiesChanged(program)) {
         modFile::BackupThisFile(program); // the marker stays: the next start offers it
     } else {

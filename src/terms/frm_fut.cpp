@@ -188,13 +188,13 @@ void frmFUT::mnuFileDelete_Click(Program& program) {
 void frmFUT::mnuFileDefaultFUT_Click(Program& program) {
     program.settings.FrequentTermsFile = program.run.FUTFileName;
     modSettings::SetLine(program, modSettings::Key::FrequentTermsFile, program.run.FUTFileName);
-    modSettings::SaveUserPreferences(program);
+    static_cast<void>(modSettings::SaveUserPreferences(program)); // a failure has been told
 }
 
 void frmFUT::mnuWindowSavePosition_Click(Program& program) {
     program.settings.FUTPosition = {Left, Top, Width, Height};
     modSettings::SetLine(program, modSettings::Key::FUTPosition, PlaceText(*this));
-    modSettings::SaveUserPreferences(program);
+    static_cast<void>(modSettings::SaveUserPreferences(program)); // a failure has been told
 }
 
 void frmFUT::lstMoreFUT_Move(int row) {
@@ -219,9 +219,7 @@ void frmFUT::lstMoreFUT_Click(Program& program) {
 namespace modTerms {
 
 void mnuOptFUT_Click(Program& program) {
-    frmFUT& window = ShownWindow(program);
-    window.Minimised = false;
-    window.BringUp = true;
+    modWindows::BringToFront(ShownWindow(program));
 }
 
 void ShowTermsWindow(Program& program) {

@@ -39,11 +39,7 @@ const TextArea& AreaOf(const Program& program, const FieldRef& field) {
 void TypeAndLeave(Program& program, const FieldRef& field, std::string_view figure) {
     modFields::SetText(program, field, figure);
     if (field.Kind != FieldKind::txt) {
-        const Color before = modFields::Area(program, field).BackColor;
-        modColumns::Box_LostFocus(program, field);
-        if (program.main.Focus == field) {
-            modFields::Area(program, field).BackColor = before;
-        }
+        modColumns::SettleBox(program, field);
         modTotals::CalculateMyTotals(program, field.Page);
         modTotals::UpdateRunningTotals(program);
     } else if (IsDeposit(field)) {

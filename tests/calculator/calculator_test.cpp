@@ -310,10 +310,10 @@ TEST(Calculator, OpensAtTheStartWhereTheSettingsSaySoAndOnce) {
     run.Start();
     Window* window = modWindows::Find(run.program, "frmCalc");
     ASSERT_NE(window, nullptr);
-    EXPECT_FALSE(window->BringUp) << "the page keeps the keyboard";
+    EXPECT_EQ(window->FrontCalls, 0) << "the page keeps the keyboard";
     commands::Run(run.program, CommandId::mnuOptCalc);
     EXPECT_EQ(modWindows::Find(run.program, "frmCalc"), window);
-    EXPECT_TRUE(window->BringUp);
+    EXPECT_EQ(window->FrontCalls, 1);
     window->Form_Cancel(run.program);
     EXPECT_FALSE(run.program.run.CalcShown);
 }

@@ -106,10 +106,11 @@ TEST(BandOnScreen, MayBeginOnTheWordsOfARow) {
     const QWidget* under = run.window->childAt(run.At(x, y));
     ASSERT_NE(under, nullptr);
     ASSERT_EQ(under->objectName(), QStringLiteral("lblEach(3)"));
-    run.Drag(x, y, 600, 1700);
-    for (const int row : {0, 1, 2}) {
-        EXPECT_TRUE(run.Blue(row)) << row;
-    }
+    run.MousePress(x, y);
+    run.MouseMove(600, 1700);
+    EXPECT_TRUE(run.Second().shpSelect.Visible);
+    run.MouseRelease(600, 1700);
+    EXPECT_FALSE(run.Second().shpSelect.Visible);
 }
 
 TEST(BandOnScreen, ACaptionIsTakenInTheHandInstead) {

@@ -3,6 +3,7 @@
 #include "desktop/paper_surface.h"
 #include "format/frm_label_props.h"
 #include "format/label_designer.h"
+#include "format/label_selection.h"
 #include "program/windows.h"
 #include "shell/command_run.h"
 

@@ -18,7 +18,7 @@ public:
     ~Probe() override { gone_ = true; }
     [[nodiscard]] std::string_view Name() const override { return "probe"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }
-    void Form_Cancel(Program&) override {}
+    void Form_Cancel(Program& program) override { modWindows::Close(program, *this); }
 
 private:
     bool& gone_;

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <charconv>
 #include <cstdlib>
 #include <iostream>
@@ -436,6 +437,9 @@ public:
     [[nodiscard]] std::vector<Step> Steps(std::size_t count) {
         std::vector<Step> steps{Step{.What = Do::Drag, .Field = AField(), .From = 0, .To = 0, .Text = {}}};
         while (steps.size() < count) {
+            if (Number(14) == 0) {
+                BeginATerm(steps);
+            }
             steps.push_back(Next());
         }
         return steps;
@@ -502,6 +506,34 @@ private:
             return std::string(1, ".,-/"[Below(4)]);
         }
         return std::string(1, "abcdeilmnortwABM"[Below(16)]);
+    }
+
+    /// Clicks behind the text of a line and types how a term begins, in any case; then mostly a key that
+    /// might take it.
+    void BeginATerm(std::vector<Step>& steps) {
+        FieldRef field = AField();
+        if (field.Kind == FieldKind::txt) {
+            steps.push_back({.What = Do::Drag, .Field = field, .From = 200, .To = 200, .Text = {}});
+        }
+        const std::string term(kTerms[Below(kTerms.size())]);
+        std::string typed = (Number(3) == 0 ? "" : " ") + term.substr(0, 2 + Below(4));
+        const int look = Number(4);
+        for (char& letter : typed) {
+            const auto byte = static_cast<unsigned char>(letter);
+            letter = static_cast<char>(look == 0   ? std::toupper(byte)
+                                       : look == 1 ? std::tolower(byte)
+                                                   : byte);
+            steps.push_back(
+                {.What = Do::Type, .Field = {}, .From = 0, .To = 0, .Text = std::string(1, letter)});
+        }
+        if (Number(3) != 0) {
+            constexpr std::array kKeys{13, 13, 39, 45, 9, 40, 8, 46, 37, 36};
+            steps.push_back(
+                {.What = Do::Key, .Field = {}, .From = kKeys[Below(kKeys.size())], .To = 0, .Text = {}});
+            if (steps.back().From == 8 || steps.back().From == 46) {
+                steps.back().What = steps.back().From == 8 ? Do::Backspace : Do::Delete;
+            }
+        }
     }
 
     [[nodiscard]] Step Next() {

@@ -1,3 +1,4 @@
+#include "base/seen.h"
 #include "pages/fields.h"
 #include "proposal/backup.h"
 #include "proposal/lifecycle.h"
@@ -208,6 +209,31 @@ TEST(Recovery, ASecondInstanceTouchesNoMarker) {
     runs.program.folders.InstallFolder = runs.first->folder.Path();
     EXPECT_EQ(modStart::Main(runs.program), modStart::StartResult::Ended);
     EXPECT_EQ(runs.first->folder.Read("Running.txt"), marker);
+}
+
+TEST(Recovery, AProposalThatWasSavedInTheVeryMomentOfTheEndIsNotMentioned) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Save("Ann.hef");
+    runs.Fill(3, "12 Elm Street");
+    modFile::BackupThisFile(runs.first->program);
+    runs.Fill(3, ", second floor");
+    const std::string before = runs.first->folder.Read("Running.txt");
+    // The file is written, and the run ends before anything else is.
+    runs.first->surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(runs.first->program), modFile::SaveResult::Saved);
+    const std::string saved = runs.first->folder.Read("Proposals/Ann.hef");
+    const files::Seen seen = files::SeenIn(saved);
+    runs.first->folder.Write("Running.txt",
+                             before + std::to_string(seen.Length) + " " + std::to_string(seen.Sum) + "\r\n");
+    runs.StartAgain("", Answer::No);
+    EXPECT_TRUE(runs.again.questions.Shown.empty());
+    // Had the save not come through, the backup would be offered.
+    runs.first->folder.Write("Running.txt", before + "20630 1\r\n");
+    RecordingPlatform third;
+    Program program(third.platform);
+    third.questions.Expect("The proposal Ann has changes from ", Answer::No);
+    runs.Start(program, third);
 }
 
 } // namespace

@@ -373,6 +373,36 @@ TEST(Completion, SearchTakesItFirst) {
     EXPECT_EQ(run.Text(33), "");
 }
 
+TEST(Completion, ASaveTakesTheTextAndNoAmount) {
+    Typing run("Chair Covers[3.5]");
+    run.hand.Click(PageId::frmP1, 2);
+    run.hand.Type("Jane Roe");
+    run.hand.Click(kPage, 0);
+    run.hand.Type("cha");
+    run.surroundings.questions.TakeAll();
+    commands::Run(run.program, CommandId::mnuFileSaveEvent);
+    EXPECT_NE(run.folder.Read("Proposals/Jane Roe.hef").find("chair covers"), std::string::npos);
+    run.ExpectTaken("chair covers");
+    EXPECT_EQ(run.Text(33), "");
+}
+
+TEST(Completion, TheBackupWritesWhatShowsAndLeavesItStanding) {
+    Typing run("Chair Covers[3.5]");
+    run.hand.Click(PageId::frmP1, 2);
+    run.hand.Type("Jane Roe");
+    run.hand.Click(kPage, 0);
+    run.hand.Type("cha");
+    run.program.editing.KeyCounter = 19;
+    run.surroundings.questions.TakeAll();
+    run.hand.Press(27); // a key that changes nothing
+    EXPECT_EQ(run.program.editing.KeyCounter, 0);
+    EXPECT_NE(run.folder.Read("Proposals/Backup/Jane Roe.hef").find("chair covers"), std::string::npos);
+    EXPECT_EQ(run.Selected(), "ir covers");
+    EXPECT_TRUE(run.Active());
+    run.hand.Press(keys::kEnter);
+    EXPECT_EQ(run.Text(33), "3.50");
+}
+
 TEST(Completion, TermsWithControlCharactersComeAsBlanks) {
     Typing run("Chair\tCovers");
     run.hand.Type("cha");

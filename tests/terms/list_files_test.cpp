@@ -270,7 +270,7 @@ TEST(TermsWindow, ThatIsNotShownAtStartSwitchesCompletionOff) {
     EXPECT_FALSE(run.program.run.ACEnabled);
     commands::Run(run.program, CommandId::mnuOptFUT);
     EXPECT_NE(modWindows::Find(run.program, "frmFUT"), nullptr);
-    EXPECT_TRUE(modWindows::Find(run.program, "frmFUT")->BringUp);
+    EXPECT_EQ(modWindows::Find(run.program, "frmFUT")->FrontCalls, 1);
 }
 
 TEST(TermsWindow, StartsMinimisedWhereTheSettingsSaySo) {

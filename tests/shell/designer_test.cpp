@@ -1,4 +1,5 @@
 #include "format/label_designer.h"
+#include "format/label_selection.h"
 
 #include "editing/keys.h"
 #include "format/format_commands.h"
