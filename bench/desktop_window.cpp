@@ -1,6 +1,8 @@
 #include "desktop/frm_main_view.h"
 #include "desktop/page_view.h"
 #include "desktop/qt_platform.h"
+#include "format/label_commit.h"
+#include "format/label_designer.h"
 #include "output/preview.h"
 #include "output/print.h"
 #include "output/print_page.h"
@@ -18,6 +20,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QTest>
 
 #include <benchmark/benchmark.h>
@@ -61,7 +64,9 @@ struct Desktop {
                       .clock = qt.clock,
                       .instance = qt.instance,
                       .pictures = qt.pictures,
-                      .events = qt.events};
+                      .events = qt.events,
+                      .words = qt.words,
+                      .dictionaries = qt.dictionaries};
     Program program{platform};
     std::unique_ptr<FrmMainView> window;
 
@@ -70,6 +75,7 @@ struct Desktop {
         folder.Write("Proposals/SalesTax.txt", Shipped("Proposals/SalesTax.txt"));
         program.folders.InstallFolder = folder.Path();
         Wire(program);
+        program.hooks.ReadEventDates = nullptr; // the folder of a measure holds no proposals
         window = std::make_unique<FrmMainView>(program, qt.measure);
         qt.events.Follow = [this] { window->Follow(); };
         modMain::MDIForm_Load(program); // without the splash, which waits for a person
@@ -121,6 +127,48 @@ void KeyToPaintedFrame(benchmark::State& state) {
     state.counters["p99_ms"] = spans[spans.size() * 99 / 100];
 }
 BENCHMARK(KeyToPaintedFrame)->Unit(benchmark::kMillisecond);
+
+/// One step of a label in the hand, from the pointer's move to the painted frame.
+void DragStepToPaintedFrame(benchmark::State& state) {
+    Desktop desktop;
+    auto* label = desktop.window->PageOf(PageId::frmP1).findChild<QWidget*>(QStringLiteral("lbl(9)"));
+    QTest::mousePress(label, Qt::LeftButton, Qt::NoModifier, QPoint(4, 4));
+    std::vector<double> spans;
+    bool right = false;
+    constexpr int kStep = 14; // more than the snap
+    for (auto _ : state) {
+        right = !right;
+        const QPointF at(4 + (right ? kStep : -kStep), 4);
+        const auto start = Clock::now();
+        QMouseEvent move(QEvent::MouseMove, at, label->mapToGlobal(at), Qt::NoButton, Qt::LeftButton,
+                         Qt::NoModifier);
+        QCoreApplication::sendEvent(label, &move);
+        QCoreApplication::processEvents();
+        spans.push_back(Milliseconds(Clock::now() - start));
+    }
+    std::sort(spans.begin(), spans.end());
+    state.counters["p50_ms"] = spans[spans.size() / 2];
+    state.counters["p99_ms"] = spans[spans.size() * 99 / 100];
+}
+BENCHMARK(DragStepToPaintedFrame)->Unit(benchmark::kMillisecond);
+
+/// A change of the size of all labels of the final page, to the painted frame.
+void GroupChangeToPaintedFrame(benchmark::State& state) {
+    Desktop desktop;
+    modScroll::UpdatePageButtons(desktop.program, 5);
+    modDesigner::LoadSelectedLabels(desktop.program);
+    desktop.window->AfterEvent();
+    QCoreApplication::processEvents();
+    float size = 10;
+    for (auto _ : state) {
+        size = size == 10 ? 12 : 10;
+        modDesigner::ApplyToLabels(desktop.program, &GroupChanges::FontSize,
+                                   [&](LabelLook& look) { look.FontSize = size; });
+        desktop.window->AfterEvent();
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(GroupChangeToPaintedFrame)->Unit(benchmark::kMillisecond);
 
 /// The same for a key held down in a description of a full page, and for the blanks among them that push
 /// words on through all its rows.

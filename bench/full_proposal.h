@@ -30,7 +30,9 @@ struct FullProposal {
                       .clock = recording.clock,
                       .instance = recording.instance,
                       .pictures = recording.pictures,
-                      .events = recording.events};
+                      .events = recording.events,
+                      .words = recording.words,
+                      .dictionaries = recording.dictionaries};
     Program program{platform};
 
     FullProposal() {
@@ -41,6 +43,7 @@ struct FullProposal {
         program.settings.PrefsRead = true;
         program.main.ClientHeight = 9000;
         Wire(program);
+        program.hooks.ReadEventDates = nullptr; // the folder of a measure holds no proposals
         modMain::MDIForm_Load(program);
         program.document.FilePath = program.folders.ProposalsFolder;
         Fill();

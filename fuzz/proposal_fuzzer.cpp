@@ -35,7 +35,9 @@ struct Machine {
                       .clock = recording.clock,
                       .instance = recording.instance,
                       .pictures = recording.pictures,
-                      .events = recording.events};
+                      .events = recording.events,
+                      .words = recording.words,
+                      .dictionaries = recording.dictionaries};
     Program program{platform};
     Machine() {
         program.folders.InstallFolder = "/nonexistent/quillbrook/";

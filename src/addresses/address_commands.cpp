@@ -3,7 +3,6 @@
 #include "addresses/address_book.h"
 #include "addresses/address_merge.h"
 #include "addresses/ask.h"
-#include "addresses/company_info.h"
 #include "addresses/frm_address.h"
 #include "program/program.h"
 #include "program/windows.h"
@@ -16,11 +15,6 @@ namespace {
 
 frmAddress* Open(Program& program) {
     return static_cast<frmAddress*>(modWindows::Find(program, "frmAddress"));
-}
-
-void BringToFront(AddressWindow& window) {
-    window.Minimised = false;
-    window.ToFront = true;
 }
 
 bool RefusedByCompanyInfo(Program& program) {
@@ -43,7 +37,7 @@ void CopyTo(Program& program, AddressBook book) {
     if (window == nullptr) {
         window = &ShowWindow(program);
     }
-    BringToFront(*window);
+    modWindows::BringToFront(*window);
     // An import goes on with its own records first.
     if (window->picImport || program.addresses.Batch.BatchRunning ||
         OpenBook(program, *window, book) == Outcome::Stopped) {
@@ -61,7 +55,7 @@ void mnuFileOpenAddressBook_Click(Program& program) {
         return;
     }
     if (frmAddress* window = Open(program)) {
-        BringToFront(*window); // with its record and its book
+        modWindows::BringToFront(*window); // with its record and its book
         return;
     }
     frmAddress& window = ShowWindow(program);
@@ -75,7 +69,7 @@ void mnuEditCompInfo_Click(Program& program) {
         if (!program.addresses.CompanyInfoMode) {
             Tell(program, "Address Book must be closed before you can edit Company Info.");
         } else {
-            BringToFront(*window);
+            modWindows::BringToFront(*window);
         }
         return;
     }
@@ -89,17 +83,6 @@ void mnuOptCopyToPersonalAddressBook_Click(Program& program) {
 
 void mnuOptCopyToBusinessAddressBook_Click(Program& program) {
     CopyTo(program, AddressBook::Business);
-}
-
-bool MayCloseAddressWindow(Program& program) {
-    frmAddress* window = Open(program);
-    if (window == nullptr) {
-        return true;
-    }
-    if (program.addresses.CompanyInfoMode) {
-        return MayCloseCompanyInfo(program, *window);
-    }
-    return MayReplaceFields(program, *window) == Outcome::Done;
 }
 
 } // namespace modAddress

@@ -11,8 +11,4 @@ void mnuEditCompInfo_Click(Program& program);
 void mnuOptCopyToPersonalAddressBook_Click(Program& program);
 void mnuOptCopyToBusinessAddressBook_Click(Program& program);
 
-/// Before the program ends: asks about what was typed into the address window; false when the program is to
-/// stay.
-[[nodiscard]] bool MayCloseAddressWindow(Program& program);
-
 } // namespace modAddress

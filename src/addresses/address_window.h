@@ -76,8 +76,6 @@ public:
 
     /// The field that is to have the keyboard; the front end takes it out when it has seen to it.
     std::optional<int> FocusWanted;
-    /// The window is to come to the front.
-    bool ToFront = false;
 
     [[nodiscard]] address_menu::State& operator[](address_menu::Id id) {
         return Menu[static_cast<std::size_t>(id)];

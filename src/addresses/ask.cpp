@@ -10,7 +10,8 @@ void Tell(Program& program, std::string_view message) {
 }
 
 Consent AskOrNo(Program& program, std::string_view question, std::string_view title) {
-    const Answer answer = program.platform.questions.MsgBox(question, Buttons::YesNo, title);
+    const Answer answer =
+        program.platform.questions.MsgBox(question, Buttons::YesNo, title, {.Default = Answer::No});
     return answer == Answer::Yes ? Consent::Given : Consent::Refused;
 }
 
@@ -20,8 +21,9 @@ Consent AskToCut(Program& program, const std::vector<std::string>& captions) {
         words += text::kCrLf;
         words += caption;
     }
-    const Answer answer = program.platform.questions.MsgBox(words, Buttons::OkCancel, "");
-    return answer == Answer::Ok ? Consent::Given : Consent::Refused;
+    const Answer answer = program.platform.questions.MsgBox(
+        words, Buttons::YesNo, "", {.Default = Answer::No, .Words = {"Save Anyway", "Cancel"}});
+    return answer == Answer::Yes ? Consent::Given : Consent::Refused;
 }
 
 } // namespace modAddress

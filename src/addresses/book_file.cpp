@@ -139,7 +139,7 @@ std::optional<std::int32_t> RemoveRecord(const Program& program, std::int32_t nu
         }
         std::string bytes = ReadBook(program);
         bytes.erase(static_cast<std::size_t>(OffsetOf(*at)), kRecordLength);
-        if (files::Exists(work)) {
+        if (files::ExistsExactly(work)) {
             files::Delete(work);
         }
         files::WriteWhole(work, bytes);

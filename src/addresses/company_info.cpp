@@ -5,7 +5,6 @@
 #include "addresses/ask.h"
 #include "pages/company_block.h"
 #include "program/program.h"
-#include "program/windows.h"
 #include "settings/settings.h"
 
 #include <algorithm>
@@ -68,7 +67,7 @@ void LoadCompanyInfo(Program& program, AddressWindow& window) {
     window.FocusWanted = kNameField;
 }
 
-void SaveCompanyInfo(Program& program, AddressWindow& window) {
+Outcome SaveCompanyInfo(Program& program, AddressWindow& window) {
     SettingsRecords& settings = program.settings;
     const SettingsRecords before = settings;
     for (const CompanyLine& line : kLines) {
@@ -78,27 +77,26 @@ void SaveCompanyInfo(Program& program, AddressWindow& window) {
     }
     if (!modSettings::SaveUserPreferences(program)) {
         settings = before;
-        return;
+        return Outcome::Stopped;
     }
     ForgetChanges(program, window);
     modPages::CompanyInfoChanged(program, before);
-    modWindows::Close(program, window);
+    return Outcome::Done;
 }
 
-bool MayCloseCompanyInfo(Program& program, AddressWindow& window) {
+Outcome MayLeaveCompanyInfo(Program& program, AddressWindow& window) {
     if (!program.addresses.AddressRecordChanged) {
-        return true;
+        return Outcome::Done;
     }
     switch (program.platform.questions.MsgBox(
         "The current Record has been changed. Do you want to save the changes?", Buttons::YesNoCancel,
         "Record Has Changed")) {
     case Answer::Yes:
-        SaveCompanyInfo(program, window);
-        return false; // saving closes; where it failed the window stays
+        return SaveCompanyInfo(program, window);
     case Answer::No:
-        return true;
+        return Outcome::Done;
     default:
-        return false;
+        return Outcome::Stopped;
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "addresses/address_book.h"
+
 class AddressWindow;
 struct Program;
 
@@ -8,10 +10,11 @@ namespace modAddress {
 
 /// Captions and texts of the eight lines; the fields that are only a client's are hidden.
 void LoadCompanyInfo(Program& program, AddressWindow& window);
-/// Writes the eight lines of the settings and brings the pages' letterheads up to them, then closes. When the
-/// settings cannot be written the window stays with what was typed. Line ends and NULs become blanks.
-void SaveCompanyInfo(Program& program, AddressWindow& window);
-/// Asks about unsaved changes; false when the window is to stay.
-[[nodiscard]] bool MayCloseCompanyInfo(Program& program, AddressWindow& window);
+/// Writes the eight lines of the settings and brings the pages' letterheads up to them. Stopped when
+/// the settings cannot be written; the fields and the settings are as they were. Line ends and NULs become
+/// blanks.
+[[nodiscard]] Outcome SaveCompanyInfo(Program& program, AddressWindow& window);
+/// Asks about unsaved changes; Stopped when the window is to stay.
+[[nodiscard]] Outcome MayLeaveCompanyInfo(Program& program, AddressWindow& window);
 
 } // namespace modAddress

@@ -10,6 +10,7 @@
 #include "addresses/company_info.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "proposal/side_files.h"
 
 #include <algorithm>
 #include <array>
@@ -52,12 +53,36 @@ void frmAddress::Form_Cancel(Program& program) {
     if (picImport) {
         cmdCancel_Click(program);
     }
-    const bool may = program.addresses.CompanyInfoMode
-                         ? modAddress::MayCloseCompanyInfo(program, *this)
-                         : modAddress::MayReplaceFields(program, *this) == modAddress::Outcome::Done;
-    if (may) {
+    if (MayLeave(program, Leaving::Run) && !Closing) {
         modWindows::Close(program, *this);
     }
+}
+
+void frmAddress::Escape_Pressed(Program& program) {
+    if (picImport) {
+        cmdCancel_Click(program);
+    } else if (!program.addresses.Batch.BatchRunning) {
+        Form_Cancel(program);
+    }
+}
+
+bool frmAddress::MayLeave(Program& program, Leaving) {
+    return program.addresses.CompanyInfoMode
+               ? modAddress::MayLeaveCompanyInfo(program, *this) == modAddress::Outcome::Done
+               : modAddress::MayReplaceFields(program, *this) == modAddress::Outcome::Done;
+}
+
+void frmAddress::KeepUnsaved(Program& program) {
+    if (!program.addresses.AddressRecordChanged) {
+        return;
+    }
+    std::string lines;
+    for (std::size_t index = 0; index < txt.size(); ++index) {
+        if (txt[index].Visible) {
+            lines += lblInfo[index].Caption + ": " + txt[index].Text + "\r\n";
+        }
+    }
+    modSideFile::KeepInBackup(program, "Unsaved Address.txt", lines);
 }
 
 bool frmAddress::IsAvailable(const Program& program, Id id) const {
@@ -187,7 +212,9 @@ void frmAddress::cmdSave_Click(Program& program) {
         return;
     }
     if (program.addresses.CompanyInfoMode) {
-        modAddress::SaveCompanyInfo(program, *this);
+        if (modAddress::SaveCompanyInfo(program, *this) == modAddress::Outcome::Done) {
+            modWindows::Close(program, *this);
+        }
     } else if (program.addresses.Batch.BatchRunning) {
         modAddress::SaveBatchRecord(program, *this);
     } else {

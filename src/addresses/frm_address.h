@@ -13,6 +13,12 @@ public:
     /// Asks about what was typed before it closes; while a list is chosen, leaves that first.
     void Form_Cancel(Program& program) override;
 
+    /// Leaves the choice of a list; a run goes on; otherwise closes as the close box does.
+    void Escape_Pressed(Program& program);
+    [[nodiscard]] bool MayLeave(Program& program, Leaving leaving) override;
+    /// What was typed goes into a text file, a line a field.
+    void KeepUnsaved(Program& program) override;
+
     /// Runs a menu entry, when it can be chosen.
     void Run(Program& program, address_menu::Id id);
     [[nodiscard]] bool IsAvailable(const Program& program, address_menu::Id id) const;

@@ -29,9 +29,8 @@ bool IsThere(const std::string& native) {
     return fs::exists(fs::status(native, ignored));
 }
 
-} // namespace
-
-std::vector<std::string> NamesOf(const std::string& nativeFolder) {
+/// Every name of a folder, in the folder's own order.
+std::vector<std::string> Unsorted(const std::string& nativeFolder) {
     std::vector<std::string> names;
     std::error_code failed;
     fs::directory_iterator entry(nativeFolder.empty() ? "." : nativeFolder, failed);
@@ -41,6 +40,13 @@ std::vector<std::string> NamesOf(const std::string& nativeFolder) {
             names.push_back(std::move(*known));
         }
     }
+    return names;
+}
+
+} // namespace
+
+std::vector<std::string> NamesOf(const std::string& nativeFolder) {
+    std::vector<std::string> names = Unsorted(nativeFolder);
     std::sort(names.begin(), names.end(), [](const std::string& one, const std::string& other) {
         const int order = text::CompareNoCase(one, other);
         return order != 0 ? order < 0 : one < other;
@@ -77,11 +83,15 @@ std::optional<std::string> Locate(std::string_view path) {
         }
         std::string next = native + ansi::ToUtf8(part);
         if (!IsThere(next)) {
-            const std::vector<std::string> names = NamesOf(native);
-            const auto same = std::find_if(names.begin(), names.end(), [&](const std::string& name) {
-                return text::EqualNoCase(name, part);
-            });
-            if (same == names.end()) {
+            // The first in order of those that differ in nothing but their case; a large folder is not sorted
+            // for it.
+            std::optional<std::string> same;
+            for (std::string& name : Unsorted(native)) {
+                if (name.size() == part.size() && text::EqualNoCase(name, part) && (!same || name < *same)) {
+                    same = std::move(name);
+                }
+            }
+            if (!same) {
                 return std::nullopt;
             }
             next = native + ansi::ToUtf8(*same);

@@ -247,18 +247,6 @@ std::vector<std::string> Subfolders(std::string_view folder) {
     return names;
 }
 
-std::string Native(std::string_view path) {
-    return file_places::MustLocate(path);
-}
-
-std::string NativePlace(std::string_view path) {
-    return file_places::PlaceFor(path);
-}
-
-void FailBySystem(int systemError, std::string_view path) {
-    Fail(systemError, path);
-}
-
 } // namespace files
 
 namespace modFile {

@@ -57,12 +57,6 @@ void MakeFolder(std::string_view path);
 [[nodiscard]] std::vector<std::string> Subfolders(std::string_view folder);
 [[nodiscard]] bool Matches(std::string_view name, std::string_view patterns);
 
-/// The path of an existing file as the system has it, and the path at which a new one would be made.
-[[nodiscard]] std::string Native(std::string_view path);
-[[nodiscard]] std::string NativePlace(std::string_view path);
-/// Throws the FileError that the log has for a number of the system.
-[[noreturn]] void FailBySystem(int systemError, std::string_view path);
-
 } // namespace files
 
 namespace modFile {

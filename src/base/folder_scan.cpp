@@ -4,7 +4,6 @@
 #include "base/file_places.h"
 #include "base/files.h"
 #include "base/guard.h"
-#include "base/text.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -19,10 +18,20 @@ namespace files {
 
 namespace {
 
-/// Names are bytes of UTF-8; the endings asked for are plain letters.
+/// Names are bytes of UTF-8; the endings asked for are plain letters in lower case.
 bool EndsLike(std::string_view name, std::string_view ending) {
-    return name.size() >= ending.size() &&
-           text::EqualNoCase(name.substr(name.size() - ending.size()), ending);
+    if (name.size() < ending.size()) {
+        return false;
+    }
+    const std::string_view tail = name.substr(name.size() - ending.size());
+    for (std::size_t at = 0; at < ending.size(); ++at) {
+        const char character = tail[at];
+        if ((character >= 'A' && character <= 'Z' ? static_cast<char>(character + ('a' - 'A')) : character) !=
+            ending[at]) {
+            return false;
+        }
+    }
+    return true;
 }
 
 bool IsRegular(int folder, const dirent& entry) {

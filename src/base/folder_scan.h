@@ -15,10 +15,10 @@ struct FileHead {
     bool Readable = true; ///< false: it is there, and cannot be read
 };
 
-/// Visits the regular files whose names end so, without regard to case, in the folder's own order: one open,
-/// one read and one close each; nothing is opened for `most` 0. The visitor ends the scan with false. Names
-/// that the program's characters cannot hold are passed over. Throws FileError when the folder cannot be
-/// listed.
+/// Visits the regular files whose names end so (given in lower case, meant without regard to it), in the
+/// folder's own order: one open, one read and one close each; nothing is opened for `most` 0. The visitor
+/// ends the scan with false. Names that the program's characters cannot hold are passed over. Throws
+/// FileError when the folder cannot be listed.
 void ScanHeads(std::string_view folder, std::string_view ending, std::size_t most,
                const std::function<bool(FileHead&&)>& visit);
 

@@ -1,5 +1,7 @@
 #include "base/record_file.h"
 
+#include "base/file_error.h"
+#include "base/file_places.h"
 #include "base/files.h"
 
 #include <algorithm>
@@ -23,20 +25,21 @@ enum class Missing { Fails, IsMade };
 class RecordFile {
 public:
     RecordFile(std::string_view path, int flags, Missing missing) : path_(path) {
-        const std::string native =
-            missing == Missing::IsMade && !Exists(path) ? NativePlace(path) : Native(path);
+        const std::string native = missing == Missing::IsMade && !Exists(path)
+                                       ? file_places::PlaceFor(path)
+                                       : file_places::MustLocate(path);
         const int making = missing == Missing::IsMade ? O_CREAT : 0;
         file_ = ::open(native.c_str(), flags | making | O_CLOEXEC | O_NONBLOCK, 0666);
         if (file_ < 0) {
-            FailBySystem(errno, path);
+            Fail(errno, path);
         }
         if (::fstat(file_, &about_) != 0 || !S_ISREG(about_.st_mode)) {
             ::close(file_);
-            FailBySystem(EISDIR, path);
+            Fail(EISDIR, path);
         }
         if ((flags & O_RDWR) != 0 && (about_.st_mode & 0222U) == 0) {
             ::close(file_);
-            FailBySystem(EACCES, path); // protected from writing, whoever asks
+            Fail(EACCES, path); // protected from writing, whoever asks
         }
     }
     ~RecordFile() {
@@ -61,7 +64,7 @@ public:
                 continue;
             }
             if (got < 0) {
-                FailBySystem(errno, path_);
+                Fail(errno, path_);
             }
             if (got == 0) {
                 break; // cut short meanwhile
@@ -114,7 +117,7 @@ public:
     void Close() {
         const int file = std::exchange(file_, -1);
         if (::close(file) != 0 && errno != EINTR) {
-            FailBySystem(errno, path_);
+            Fail(errno, path_);
         }
     }
 
@@ -142,7 +145,7 @@ void RecordReader::Read(std::uintmax_t offset, std::size_t count, std::string& b
 
 std::optional<Stamp> StampOf(std::string_view path) {
     struct stat about {};
-    if (!Exists(path) || ::stat(Native(path).c_str(), &about) != 0) {
+    if (!Exists(path) || ::stat(file_places::MustLocate(path).c_str(), &about) != 0) {
         return std::nullopt;
     }
     constexpr std::int64_t kNanoseconds = 1000000000;
@@ -165,7 +168,7 @@ InPlace WriteOver(std::string_view path, std::uintmax_t offset, std::string_view
     const std::size_t done = file.Write(offset, bytes, error);
     if (error != 0) {
         file.PutBack(offset, expected.substr(0, done));
-        FailBySystem(error, path);
+        Fail(error, path);
     }
     file.Close();
     return InPlace::Written;
@@ -181,15 +184,15 @@ std::uintmax_t AppendRecord(std::string_view path, std::string_view record) {
     if (error != 0) {
         file.CutOff(offset + stump.size());
         file.PutBack(offset, std::string_view(stump).substr(0, done));
-        FailBySystem(error, path);
+        Fail(error, path);
     }
     file.Close();
     return number + 1;
 }
 
 void Replace(std::string_view from, std::string_view over) {
-    const std::string source = Native(from);
-    std::string target = Native(over);
+    const std::string source = file_places::MustLocate(from);
+    std::string target = file_places::MustLocate(over);
     if (const std::unique_ptr<char, decltype(&std::free)> real(::realpath(target.c_str(), nullptr),
                                                                &std::free);
         real) {
@@ -197,14 +200,14 @@ void Replace(std::string_view from, std::string_view over) {
     }
     struct stat about {};
     if (::stat(target.c_str(), &about) != 0) {
-        FailBySystem(errno, over);
+        Fail(errno, over);
     }
     if ((about.st_mode & 0222U) == 0) {
-        FailBySystem(EACCES, over);
+        Fail(EACCES, over);
     }
     static_cast<void>(::chmod(source.c_str(), about.st_mode & 07777U));
     if (::rename(source.c_str(), target.c_str()) != 0) {
-        FailBySystem(errno, from);
+        Fail(errno, from);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "calendar/read_event_dates.h"
 
+#include "base/ansi.h"
 #include "base/dates.h"
 #include "base/files.h"
 #include "base/folder_scan.h"
@@ -12,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <unordered_map>
 #include <utility>
 
 namespace modCalendar {
@@ -81,63 +83,85 @@ bool Gather(Program& program, Breather& breather, int rebuild, Gathered& found) 
     return whole && breather.GoOn(rebuild);
 }
 
-/// Dates of the same day are many; each is written out once.
-const std::pair<std::string, std::string>&
-Written(std::unordered_map<int, std::pair<std::string, std::string>>& known, int day) {
-    const auto found = known.find(day);
-    if (found != known.end()) {
-        return found->second;
-    }
-    return known.emplace(day, std::pair(dates::FormatDate(day, "mmm/dd/yyyy"), WeekdayOf(day))).first->second;
-}
+/// How a day is written. Events of the same day are many; each day is written out once.
+struct WrittenDay {
+    std::string Date;
+    std::string Weekday;
+    std::string Key; ///< what is sorted by: the day's key, then the date, in capitals
+};
 
-std::vector<EventRow> Listed(const Gathered& found, View view, float today) {
-    struct Sorted {
-        std::string Key;
-        std::size_t At = 0;
-    };
-    std::unordered_map<int, std::pair<std::string, std::string>> written;
-    std::vector<Sorted> order;
+class WrittenDays {
+public:
+    const WrittenDay& Of(int day) {
+        WrittenDay& written = known_[day];
+        if (written.Date.empty()) {
+            written.Date = dates::FormatDate(day, "mmm/dd/yyyy");
+            written.Weekday = WeekdayOf(day);
+            written.Key = text::Upper(SortKey(day) + written.Date + '\t');
+        }
+        return written;
+    }
+
+private:
+    std::unordered_map<int, WrittenDay> known_;
+};
+
+std::vector<EventRow> Listed(const Gathered& found, View view, float today, WrittenDays& days) {
+    std::vector<std::string> keys(found.Files.size());
+    std::vector<std::size_t> order;
     order.reserve(found.Files.size());
     for (std::size_t at = 0; at < found.Files.size(); ++at) {
         if (found.Dated[at] && IsListed(view, found.Days[at], today)) {
-            const std::string& date = Written(written, found.Days[at]).first;
-            order.push_back({text::Upper(SortKey(found.Days[at]) + date + '\t' + found.Files[at]), at});
+            const std::string& first = days.Of(found.Days[at]).Key;
+            keys[at].reserve(first.size() + found.Files[at].size());
+            keys[at] += first;
+            for (const char character : found.Files[at]) {
+                keys[at] += ansi::Upper(character);
+            }
+            order.push_back(at);
         }
     }
-    std::sort(order.begin(), order.end(), [&](const Sorted& one, const Sorted& other) {
-        const int compared = one.Key.compare(other.Key);
-        return compared != 0 ? compared < 0 : found.Files[one.At] < found.Files[other.At];
+    std::sort(order.begin(), order.end(), [&](std::size_t one, std::size_t other) {
+        const int compared = keys[one].compare(keys[other]);
+        return compared != 0 ? compared < 0 : found.Files[one] < found.Files[other];
     });
     std::vector<EventRow> rows;
     rows.reserve(order.size());
-    for (const Sorted& entry : order) {
-        const auto& [date, weekday] = Written(written, found.Days[entry.At]);
-        rows.push_back({found.Days[entry.At], date, weekday, found.Files[entry.At]});
+    for (const std::size_t at : order) {
+        const WrittenDay& day = days.Of(found.Days[at]);
+        rows.push_back({found.Days[at], day.Date, day.Weekday, found.Files[at]});
     }
     return rows;
 }
 
-void Take(Program& program, Gathered&& found) {
-    CalendarRecords& calendar = program.calendar;
-    calendar.Rows = Listed(found, ViewOf(program), static_cast<float>(program.platform.clock.Now()));
-    calendar.Undated = 0;
+void TakeUndated(CalendarRecords& calendar, const Gathered& found) {
     calendar.UndatedNames.clear();
     for (std::size_t at = 0; at < found.Files.size(); ++at) {
         if (!found.Dated[at]) {
-            ++calendar.Undated;
             calendar.UndatedNames.push_back(found.Files[at]);
         }
     }
+    calendar.Undated = static_cast<int>(calendar.UndatedNames.size());
     std::sort(
         calendar.UndatedNames.begin(), calendar.UndatedNames.end(),
         [](const std::string& one, const std::string& other) { return text::CompareNoCase(one, other) < 0; });
     if (calendar.UndatedNames.size() > kNamesTold) {
         calendar.UndatedNames.resize(kNamesTold);
     }
+}
+
+void Take(Program& program, Gathered&& found) {
+    CalendarRecords& calendar = program.calendar;
+    WrittenDays days;
+    calendar.Rows = Listed(found, ViewOf(program), static_cast<float>(program.platform.clock.Now()), days);
+    TakeUndated(calendar, found);
     for (std::size_t at = 0; at < found.Files.size(); ++at) {
         // The entry that held the bare name holds the row from now on.
-        found.Files[at] = found.Dated[at] ? DisplayRow(found.Days[at], found.Files[at]) : std::string();
+        if (found.Dated[at]) {
+            found.Files[at].insert(0, days.Of(found.Days[at]).Date + '\t');
+        } else {
+            found.Files[at].clear();
+        }
     }
     calendar.EventFiles = std::move(found.Files);
     calendar.EventDateText = std::move(found.Texts);
@@ -188,27 +212,19 @@ View ViewOf(const Program& program) {
                                              : View::All;
 }
 
-std::string DisplayRow(int day, const std::string& file) {
-    return dates::FormatDate(day, "mmm/dd/yyyy") + '\t' + file;
-}
-
 void EndRebuild(Program& program) {
     ++program.calendar.Rebuilds;
 }
 
 bool CanRestore(const Program& program) {
     bool any = false;
-    const std::string folder = modFolders::BackupFolder(program);
-    if (!files::IsFolder(folder)) {
-        return false;
-    }
     try {
-        files::ScanHeads(folder, ".hef.old", 0, [&](files::FileHead&&) {
+        files::ScanHeads(modFolders::BackupFolder(program), ".hef.old", 0, [&](files::FileHead&&) {
             any = true;
             return false;
         });
     } catch (const files::FileError&) {
-        return false; // a folder that cannot be looked into gives nothing back
+        return false; // a folder that is not there, or cannot be looked into, gives nothing back
     }
     return any;
 }

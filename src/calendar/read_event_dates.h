@@ -2,8 +2,6 @@
 
 #include "calendar/event_dates.h"
 
-#include <string>
-
 struct Program;
 
 /// The list of events, made anew from the proposals' files.
@@ -21,9 +19,6 @@ void EndRebuild(Program& program);
 
 /// The rebuild at start-up: nobody sees its list, only that there is no proposal.
 void ReadEventDatesAtStart(Program& program);
-
-/// The entry of a row in the list: date, one tab, file name.
-[[nodiscard]] std::string DisplayRow(int day, const std::string& file);
 
 /// Whether there are moved proposals in the backup folder.
 [[nodiscard]] bool CanRestore(const Program& program);

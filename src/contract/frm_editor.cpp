@@ -311,7 +311,8 @@ bool frmEditor::MayLeave(Program& program, Leaving) {
     return !EditorDirty ||
            program.platform.questions.MsgBox(
                "The Contract Language has not been exported to the proposal. Exit anyway?", Buttons::YesNo,
-               "Contract Language has been Changed", {.Default = Answer::No}) == Answer::Yes;
+               "Contract Language has been Changed",
+               {.Default = Answer::No, .Lost = "The contract language as it was changed"}) == Answer::Yes;
 }
 
 void frmEditor::Form_Cancel(Program& program) {

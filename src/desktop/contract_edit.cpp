@@ -126,9 +126,9 @@ void ContractEdit::insertFromMimeData(const QMimeData* source) {
 }
 
 QMimeData* ContractEdit::createMimeDataFromSelection() const {
-    auto* data = new QMimeData;
-    data->setText(textCursor().selectedText().replace(QChar::ParagraphSeparator, u'\n'));
-    return data;
+    auto* copied = new QMimeData;
+    copied->setText(textCursor().selectedText().replace(QChar::ParagraphSeparator, u'\n'));
+    return copied;
 }
 
 void ContractEdit::Follow() {

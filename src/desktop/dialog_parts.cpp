@@ -3,9 +3,9 @@
 #include "desktop/convert.h"
 
 #include <QDialog>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QToolTip>
 
 namespace dialog {
 
@@ -24,36 +24,40 @@ QPushButton* Button(QDialog* dialog, const char* name, const CommandButton& reco
     return button;
 }
 
-FilteredEdit::FilteredEdit(QDialog* parent, const char* name, const QString& spoken, int (*filter)(int))
-    : QLineEdit(parent), filter_(filter) {
-    setObjectName(QLatin1String(name));
-    setAccessibleName(spoken);
-    connect(this, &QLineEdit::textEdited, this, [this](const QString& now) { Refilter(now); });
-}
+ModelValidator::ModelValidator(QLineEdit* edit, int (*filter)(int))
+    : QValidator(edit), edit_(edit), filter_(filter) {}
 
-void FilteredEdit::keyPressEvent(QKeyEvent* event) {
-    const QString entered = event->text();
-    const auto modifiers = event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
-    if (entered.size() == 1 && entered.front().isPrint() && modifiers == Qt::NoModifier) {
-        const auto byte = convert::ToByte(entered.front());
-        if (!byte || filter_(static_cast<unsigned char>(*byte)) == 0) {
-            return;
-        }
-    }
-    QLineEdit::keyPressEvent(event);
-}
-
-void FilteredEdit::Refilter(const QString& now) {
+QValidator::State ModelValidator::validate(QString& input, int& position) const {
     QString kept;
-    for (const QChar character : now) {
+    QString left;
+    int cursor = position;
+    for (qsizetype at = 0; at < input.size(); ++at) {
+        const QChar character = input.at(at);
         const auto byte = convert::ToByte(character);
         if (byte && filter_(static_cast<unsigned char>(*byte)) != 0) {
             kept += character;
+            continue;
+        }
+        left += character;
+        if (at < position) {
+            --cursor;
         }
     }
-    if (kept != now) {
-        setText(kept);
+    if (!left.isEmpty()) {
+        QToolTip::showText(edit_->mapToGlobal(QPoint(0, edit_->height())),
+                           tr("\u201C%1\u201D was not taken: it has no place here.").arg(left), edit_);
+        input = kept;
+        position = cursor;
     }
+    return Acceptable;
+}
+
+QLineEdit* FilteredEdit(QDialog* parent, const char* name, const QString& spoken, int (*filter)(int)) {
+    auto* edit = new QLineEdit(parent);
+    edit->setObjectName(QLatin1String(name));
+    edit->setAccessibleName(spoken);
+    edit->setValidator(new ModelValidator(edit, filter));
+    return edit;
 }
 
 } // namespace dialog

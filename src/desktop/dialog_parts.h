@@ -3,6 +3,7 @@
 #include "program/controls.h"
 
 #include <QLineEdit>
+#include <QValidator>
 
 class QDialog;
 class QLabel;
@@ -16,20 +17,22 @@ namespace dialog {
 /// A button that Return presses only when it is the window's default.
 [[nodiscard]] QPushButton* Button(QDialog* dialog, const char* name, const CommandButton& record);
 
-/// A line edit whose characters pass a filter of the model.
-class FilteredEdit : public QLineEdit {
+/// Lets only those characters into a line edit that a filter of the model takes; it gives 0 for the others.
+/// What came by paste or drop keeps the characters that could have been typed. A character that was left out
+/// is told.
+class ModelValidator : public QValidator {
     Q_OBJECT
 public:
-    /// The filter gives 0 for a character that is not to be typed.
-    FilteredEdit(QDialog* parent, const char* name, const QString& spoken, int (*filter)(int));
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
+    ModelValidator(QLineEdit* edit, int (*filter)(int));
+    State validate(QString& input, int& position) const override;
 
 private:
-    /// What came by paste or drop keeps only the characters that could have been typed.
-    void Refilter(const QString& now);
+    QLineEdit* edit_;
     int (*filter_)(int);
 };
+
+/// A line edit with such a filter.
+[[nodiscard]] QLineEdit* FilteredEdit(QDialog* parent, const char* name, const QString& spoken,
+                                      int (*filter)(int));
 
 } // namespace dialog

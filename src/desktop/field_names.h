@@ -9,7 +9,5 @@ namespace fieldnames {
 
 /// The name of the field's control, as "txt(5)".
 [[nodiscard]] QString OfControl(const FieldRef& field);
-/// What a screen reader says.
-[[nodiscard]] QString Spoken(const FieldRef& field);
 
 } // namespace fieldnames

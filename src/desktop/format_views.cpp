@@ -3,6 +3,7 @@
 #include "desktop/convert.h"
 #include "desktop/dialog_parts.h"
 #include "desktop/font_list_view.h"
+#include "desktop/paper_surface.h"
 #include "format/frm_label_props.h"
 #include "format/frm_rgb.h"
 #include "format/frm_snap.h"
@@ -199,6 +200,13 @@ FrmLabelPropsView::FrmLabelPropsView(Program& program, frmLabelProps& window, QW
     connect(ok, &QPushButton::clicked, this, [this] { Do([&] { model_.cmdOK_Click(program_); }); });
     connect(cancel, &QPushButton::clicked, this, [this] { Do([&] { model_.cmdCancel_Click(program_); }); });
     caption_->setFocus();
+    if (over != nullptr) {
+        // At the side, so that the page can be seen to change.
+        const QRect main = over->frameGeometry();
+        const double pixels = static_cast<double>(logicalDpiX()) / paper::kTwipsPerInch;
+        move(main.right() - sizeHint().width() - 40,
+             main.top() + qRound(static_cast<double>(window.Top - program.main.Top) * pixels));
+    }
 }
 
 bool FrmLabelPropsView::eventFilter(QObject* watched, QEvent* event) {

@@ -2,6 +2,7 @@
 
 #include "base/guard.h"
 #include "desktop/convert.h"
+#include "desktop/elided_label.h"
 #include "desktop/icons.h"
 #include "desktop/page_view.h"
 #include "desktop/paper_surface.h"
@@ -18,6 +19,7 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QGridLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMenu>
@@ -33,6 +35,7 @@ namespace {
 
 /// Room between a window's edge and a strip's texts.
 constexpr int kStripMargin = 10;
+constexpr int kAcrossStep = 24; // pixels
 constexpr QRgb kDeskLight = 0xFFB9C2C9;
 constexpr QRgb kDeskDark = 0xFF33393F;
 
@@ -115,9 +118,8 @@ void FrmMainView::BuildStrips() {
     column->addWidget(strip_);
 
     const auto add = [this](QWidget* strip, const QString& name, const StripLabel& record, int stretch) {
-        auto* label = new QLabel(strip);
+        auto* label = new ElidedLabel(strip);
         label->setObjectName(name);
-        label->setTextFormat(Qt::PlainText);
         static_cast<QHBoxLayout*>(strip->layout())->addWidget(label, stretch);
         labels_.push_back({label, &record});
         return label;
@@ -127,19 +129,28 @@ void FrmMainView::BuildStrips() {
     folder_ = add(info, QStringLiteral("lblDir"), program_.main.lblDir, 1);
     folder_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     folder_->installEventFilter(this);
-    add(info, QStringLiteral("lblEvent"), program_.main.lblEvent, 0)->setAlignment(Qt::AlignRight);
+    QLabel* about = add(info, QStringLiteral("lblEvent"), program_.main.lblEvent, 0);
+    about->setAlignment(Qt::AlignRight);
+    about->setMinimumWidth(1);
     column->addWidget(info);
 
     auto* middle = new QWidget(whole);
-    auto* row = new QHBoxLayout(middle);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
+    auto* grid = new QGridLayout(middle);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(0);
+    grid->setColumnStretch(0, 1);
+    grid->setRowStretch(0, 1);
     desk_ = new Desk(middle);
-    row->addWidget(desk_, 1);
+    grid->addWidget(desk_, 0, 0);
     scroll_ = new QScrollBar(Qt::Vertical, middle);
     scroll_->setObjectName(QStringLiteral("VScroll1"));
     scroll_->setAccessibleName(tr("Scroll the page"));
-    row->addWidget(scroll_);
+    grid->addWidget(scroll_, 0, 1);
+    across_ = new QScrollBar(Qt::Horizontal, middle);
+    across_->setObjectName(QStringLiteral("HScroll1"));
+    across_->setAccessibleName(tr("Scroll the page sideways"));
+    across_->hide();
+    grid->addWidget(across_, 1, 0);
     column->addWidget(middle, 1);
 
     QWidget* bottom = MakeStrip(QStringLiteral("picBottom"), whole);
@@ -153,7 +164,7 @@ void FrmMainView::BuildStrips() {
     strong.setBold(true);
     total->setFont(strong);
     addLesser(QStringLiteral("lblHighestPage"), program_.main.lblHighestPage);
-    notice_ = new QLabel(bottom);
+    notice_ = new ElidedLabel(bottom);
     notice_->setObjectName(QStringLiteral("lblNotice"));
     notice_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     static_cast<QHBoxLayout*>(bottom->layout())->addWidget(notice_, 1);
@@ -165,7 +176,11 @@ void FrmMainView::BuildStrips() {
     setCentralWidget(whole);
 
     desk_->Resized = [this] { Resized(); };
-    desk_->Wheel = [this](QWheelEvent* event) { QCoreApplication::sendEvent(scroll_, event); };
+    desk_->Wheel = [this](QWheelEvent* event) {
+        const bool sideways = qAbs(event->angleDelta().x()) > qAbs(event->angleDelta().y());
+        QCoreApplication::sendEvent(sideways ? across_ : scroll_, event);
+    };
+    connect(across_, &QScrollBar::valueChanged, this, [this] { Follow(); });
     // Only what a person does to the bar counts; positions set from the record do not come back.
     connect(scroll_, &QScrollBar::actionTriggered, this, [this] {
         modScroll::SetScroll(program_, scroll_->sliderPosition());
@@ -272,8 +287,8 @@ void FrmMainView::ShowFirst() {
     shown_ = true;
     QSize first(1024, 740);
     if (const QScreen* place = screen()) {
-        constexpr QSize kFrame(16, 48); // about what a title bar and borders take
-        first = first.boundedTo(place->availableSize() - kFrame);
+        constexpr QSize kTitleAndBorders(16, 48); // about what they take
+        first = first.boundedTo(place->availableSize() - kTitleAndBorders);
     }
     resize(first);
     Resized();
@@ -365,20 +380,29 @@ void FrmMainView::FollowLabels() {
     }
 }
 
-int FrmMainView::PaperLeft(PageId front, int paperWidth) const {
+int FrmMainView::PaperLeft(PageId front, int paperWidth) {
     const int room = desk_->width() - paperWidth;
     if (room >= 0) {
+        across_->hide();
         return room / 2;
     }
-    // A narrow desk shows the side on which the field with the keyboard lies.
+    across_->setRange(0, -room);
+    across_->setPageStep(desk_->width());
+    across_->setSingleStep(kAcrossStep);
+    // A narrow desk shows the side on which the field with the keyboard lies, until a person moves it.
     const std::optional<FieldRef>& focus = program_.main.Focus;
-    if (!focus || focus->Page != front) {
-        return 0;
+    if (across_->isHidden() || focus != sideShownFor_) {
+        across_->show();
+        sideShownFor_ = focus;
+        int right = 0;
+        if (focus && focus->Page == front) {
+            constexpr int kBeside = 12;
+            const TextArea& area = modFields::Area(program_, *focus);
+            right = qRound(static_cast<double>(area.Left + area.Width) * PixelsPerTwip()) + kBeside;
+        }
+        across_->setValue(right - desk_->width());
     }
-    constexpr int kBeside = 12;
-    const TextArea& area = modFields::Area(program_, *focus);
-    const int right = qRound(static_cast<double>(area.Left + area.Width) * PixelsPerTwip()) + kBeside;
-    return qBound(room, desk_->width() - right, 0);
+    return -across_->value();
 }
 
 void FrmMainView::FollowPages() {

@@ -10,6 +10,8 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <vector>
 
 class PageView;
 class QtTextMeasure;
@@ -74,7 +76,7 @@ private:
     /// A window beside the page hands the keyboard back.
     void TakeKeyboard();
     /// Where the paper stands on the desk.
-    [[nodiscard]] int PaperLeft(PageId front, int paperWidth) const;
+    [[nodiscard]] int PaperLeft(PageId front, int paperWidth);
     void KeepPlace();
     void FollowPlace();
     void FollowLabels();
@@ -85,6 +87,8 @@ private:
     ToolStrip* strip_ = nullptr;
     Desk* desk_ = nullptr;
     QScrollBar* scroll_ = nullptr;
+    QScrollBar* across_ = nullptr; ///< shows while the page is wider than the desk
+    std::optional<FieldRef> sideShownFor_;
     struct Shown {
         QLabel* Widget;
         const StripLabel* Record;

@@ -89,6 +89,7 @@ void LabelView::Follow(const PageLabel& record) {
     if (built_ && record == shown_) {
         return;
     }
+    saysOtherwise_ = saysOtherwise_ || !built_ || record.Caption != shown_.Caption;
     shown_ = record;
     built_ = true;
     setText(convert::ToQString(record.Caption));

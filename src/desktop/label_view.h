@@ -4,6 +4,8 @@
 
 #include <QLabel>
 
+#include <utility>
+
 struct PageContext;
 
 /// A label, drawn in paper units. The captions of a page can be dragged, selected and edited; those of the
@@ -13,6 +15,8 @@ class LabelView : public QLabel {
 public:
     LabelView(PageContext& page, QWidget& paper, FieldKind kind, int index);
     void Follow(const PageLabel& record);
+    /// Whether the label says something else since this was asked last.
+    [[nodiscard]] bool SaysOtherwise() { return std::exchange(saysOtherwise_, false); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -30,4 +34,5 @@ private:
     PageContext& page_;
     PageLabel shown_;
     bool built_ = false;
+    bool saysOtherwise_ = false;
 };

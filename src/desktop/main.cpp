@@ -1,12 +1,15 @@
 #include "base/version.h"
 #include "desktop/convert.h"
+#include "desktop/end_signals.h"
 #include "desktop/frm_main_view.h"
 #include "desktop/icons.h"
 #include "desktop/qt_platform.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "shell/closing.h"
 #include "shell/start_up.h"
 #include "shell/wiring.h"
+#include "spelling/spelling_service.h"
 
 #ifdef QUILLBROOK_HAS_TEST_HOOK
 #include "desktop/test_hook.h"
@@ -31,8 +34,11 @@ int Run() {
     FrmMainView window(program, surroundings.measure);
     surroundings.questions.Over = &window;
     surroundings.questions.BeforeAsking = [&] { window.Follow(); };
+    surroundings.words.MakeSpelling = [&] { return modSpelling::MakeService(program); };
     surroundings.events.Follow = [&] { window.Follow(); };
-    if (modStart::Main(program) != modStart::StartResult::Running) {
+    const EndSignals endings([&] { modClosing::Interrupted(program); },
+                             [&] { modClosing::KeepUnsaved(program); });
+    if (modStart::Main(program) != modStart::StartResult::Running || program.main.Closing) {
         return 0;
     }
     window.AfterEvent(); // a click may have come while the splash was still busy

@@ -1,15 +1,18 @@
 #include "desktop/mark_view.h"
 
-#include "desktop/field_names.h"
+#include "desktop/convert.h"
 #include "desktop/page_context.h"
 #include "desktop/paper_surface.h"
+#include "pages/spoken_names.h"
 #include "shell/input.h"
 
 #include <QPainter>
 
 MarkView::MarkView(PageContext& page, QWidget& paper, int index) : QAbstractButton(&paper), page_(page) {
     setObjectName(QStringLiteral("imgNoTax(%1)").arg(index));
-    setAccessibleName(tr("Tax exempt: %1").arg(fieldnames::Spoken({page.Id, FieldKind::txt, index})));
+    setAccessibleName(
+        tr("%1, tax exempt")
+            .arg(convert::ToQString(modPages::SpokenName(page.program, {page.Id, FieldKind::txt, index}))));
     setToolTip(tr("This amount is tax exempt. Click to make it taxable."));
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::NoFocus);

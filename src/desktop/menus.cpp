@@ -3,15 +3,20 @@
 #include "desktop/convert.h"
 #include "program/program.h"
 #include "shell/command_table.h"
+#include "shell/menu_captions.h"
 
 #include <QKeySequence>
 #include <QMenu>
 
 namespace {
 
-QString MenuText(const QString& caption, const commands::Entry& entry) {
+QString MenuText(std::string_view caption, const commands::Entry& entry) {
+    if (entry.What == commands::Kind::Menu && entry.Parent == CommandId::Count) {
+        return convert::ToQString(commands::TopMenuCaption(entry.Id));
+    }
+    const QString text = convert::ToQString(commands::WithOneMnemonic(caption));
     // The page handles F8 itself, in the order of its own keys; here it only shows.
-    return entry.Shortcut == "F8" ? caption + QStringLiteral("\tF8") : caption;
+    return entry.Shortcut == "F8" ? text + QStringLiteral("\tF8") : text;
 }
 
 } // namespace
@@ -25,8 +30,8 @@ Menus::Menus(QMenuBar& bar, QWidget& window, const std::function<void(CommandId)
         const QString name =
             QString::fromLatin1(entry.Name.data(), static_cast<qsizetype>(entry.Name.size()));
         if (entry.What == commands::Kind::Menu) {
-            QMenu* menu = parent != nullptr ? parent->addMenu(convert::ToQString(entry.Caption))
-                                            : bar.addMenu(convert::ToQString(entry.Caption));
+            QMenu* menu = parent != nullptr ? parent->addMenu(MenuText(entry.Caption, entry))
+                                            : bar.addMenu(MenuText(entry.Caption, entry));
             menu->setToolTipsVisible(true);
             menu->setObjectName(name);
             menu->menuAction()->setObjectName(name);
@@ -45,7 +50,7 @@ Menus::Menus(QMenuBar& bar, QWidget& window, const std::function<void(CommandId)
             action->setSeparator(true);
             continue;
         }
-        action->setText(MenuText(convert::ToQString(entry.Caption), entry));
+        action->setText(MenuText(entry.Caption, entry));
         action->setCheckable(entry.Checkable);
         if (!entry.Shortcut.empty() && entry.Shortcut != "F8") {
             action->setShortcut(QKeySequence(convert::ToQString(entry.Shortcut)));
@@ -67,7 +72,7 @@ void Menus::Follow(const Program& program) {
         QAction& action = *actions_[static_cast<std::size_t>(entry.Id)];
         if (entry.What != commands::Kind::Separator) {
             if (!state.Caption.empty()) {
-                const QString text = MenuText(convert::ToQString(state.Caption), entry);
+                const QString text = MenuText(state.Caption, entry);
                 if (action.text() != text) {
                     action.setText(text);
                 }

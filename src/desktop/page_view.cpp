@@ -20,6 +20,7 @@
 #include <QPainter>
 
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -98,7 +99,18 @@ void PageView::FollowLabels(FieldKind kind, std::vector<LabelView*>& views,
             view->lower();
         }
         view->Follow(records[index]);
+        renamed_ = view->SaysOtherwise() || renamed_;
         ShowAs(*view, visible);
+    }
+}
+
+void PageView::RenameFields() {
+    for (const auto* views : {&txt_, &txtQty_, &txtAmt_}) {
+        for (TextAreaView* view : *views) {
+            if (view != nullptr) {
+                view->Rename();
+            }
+        }
     }
 }
 
@@ -163,6 +175,9 @@ void PageView::Follow() {
     FollowAreas(FieldKind::txtAmt, txtAmt_, record.txtAmt);
     FollowLabels(FieldKind::lblAt, lblAt_, record.lblAt);
     FollowLabels(FieldKind::lblEach, lblEach_, record.lblEach);
+    if (std::exchange(renamed_, false)) {
+        RenameFields();
+    }
     FollowMarks();
     FollowLogo();
     band_->Follow(record.shpSelect, context_.Scale);

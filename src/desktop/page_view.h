@@ -49,6 +49,7 @@ protected:
 private:
     void FollowAreas(FieldKind kind, std::vector<TextAreaView*>& views, const std::vector<TextArea>& records);
     void FollowLabels(FieldKind kind, std::vector<LabelView*>& views, const std::vector<PageLabel>& records);
+    void RenameFields();
     void FollowMarks();
     void FollowPaper();
     void FollowLogo();
@@ -75,6 +76,7 @@ private:
     std::vector<PageLine> centre_;
     std::vector<PagePoint> grid_;
     LogoView* logo_ = nullptr;
+    bool renamed_ = false; ///< a label that names a field says something else
     bool ink_ = false;
     int inkVersion_ = 0;
     PaperRecord preview_;

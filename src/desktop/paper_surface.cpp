@@ -7,11 +7,13 @@
 #include "desktop/paper_text.h"
 
 #include <QDateTime>
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
 #include <QPainterPath>
 #include <QPixmapCache>
+#include <QtEndian>
 
 namespace {
 
@@ -31,6 +33,38 @@ namespace {
 
 bool MadeOfLines(const std::string& path) {
     return text::EqualNoCase(paths::ExtensionOf(path), "svg");
+}
+
+/// Whether a file ends before its picture does: the readers of some formats fill up what is missing, and say
+/// nothing.
+bool IsCutShort(const QString& file, const QByteArray& format) {
+    constexpr qint64 kMostBytes = 512LL << 20;
+    QFile bytes(file);
+    if (!bytes.open(QIODevice::ReadOnly) || bytes.size() > kMostBytes) {
+        return true;
+    }
+    const QByteArray all = bytes.readAll();
+    if (format == "png") {
+        return !all.contains("IEND");
+    }
+    if (format == "jpeg") {
+        // The picture's own end comes behind the begin of its last scan; that of a thumbnail does not.
+        return all.lastIndexOf("\xFF\xD9") < all.lastIndexOf("\xFF\xDA");
+    }
+    if (format == "gif") {
+        qsizetype end = all.size();
+        while (end > 0 && all[end - 1] == '\0') {
+            --end;
+        }
+        return end == 0 || all[end - 1] != ';';
+    }
+    if (format == "bmp") {
+        constexpr qsizetype kLengthAt = 2;
+        constexpr qsizetype kHeader = 6;
+        return all.size() < kHeader ||
+               static_cast<quint64>(all.size()) < qFromLittleEndian<quint32>(all.constData() + kLengthAt);
+    }
+    return false;
 }
 
 /// The picture, of a size where it has none of its own.
@@ -58,6 +92,9 @@ QImage ReadLogo(const std::string& path, const QSize& scaled) {
     const QSize natural = reader.size();
     if (natural.isEmpty() || qint64{natural.width()} * natural.height() > kMostPoints ||
         natural.width() > kMostPoints / qMax(1, natural.height())) {
+        return {};
+    }
+    if (IsCutShort(file, reader.format())) {
         return {};
     }
     if (scaled.isValid() && scaled.width() <= kMostSide && scaled.height() <= kMostSide) {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "desktop/hunspell_dictionaries.h"
 #include "desktop/paper_text.h"
 #include "desktop/qt_printers.h"
 #include "desktop/qt_surroundings.h"
+#include "desktop/qt_word_services.h"
 #include "platform/platform.h"
 
 struct Program;
@@ -19,6 +21,8 @@ struct QtPlatform {
     QtSingleInstance instance;
     QtPictures pictures;
     QtEventLoop events;
+    QtWordServices words;
+    HunspellDictionaries dictionaries;
     Platform platform{.questions = questions,
                       .measure = measure,
                       .printers = printers,
@@ -28,7 +32,9 @@ struct QtPlatform {
                       .clock = clock,
                       .instance = instance,
                       .pictures = pictures,
-                      .events = events};
+                      .events = events,
+                      .words = words,
+                      .dictionaries = dictionaries};
 };
 
 namespace desktop {

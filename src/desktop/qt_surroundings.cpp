@@ -4,6 +4,7 @@
 #include "base/dates.h"
 #include "base/paths.h"
 #include "desktop/convert.h"
+#include "desktop/message_box.h"
 #include "desktop/paper_surface.h"
 
 #include <QApplication>
@@ -14,13 +15,14 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QImageReader>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QSaveFile>
 #include <QScreen>
@@ -88,6 +90,18 @@ QMessageBox::StandardButton ButtonOf(Answer answer) {
     return QMessageBox::Ok;
 }
 
+constexpr int kInputWidth = 420;
+
+/// As wide as the longest line of a text, where that is neither narrow nor wider than a page is read.
+int WidthOf(const QLabel& label, const QString& text) {
+    constexpr int kWidest = 640;
+    int widest = 0;
+    for (const QString& line : text.split(u'\n')) {
+        widest = qMax(widest, label.fontMetrics().horizontalAdvance(line));
+    }
+    return qBound(kInputWidth - 40, widest, kWidest);
+}
+
 /// A lock file that names nobody is left from a crash in the middle of its writing, or from a full disk; the
 /// lock itself knows whether somebody still holds it.
 bool TakeUnreadable(QLockFile& lock) {
@@ -107,20 +121,36 @@ QWidget* QtQuestions::Below() const {
     return Over != nullptr && Over->isVisible() ? Over : QApplication::activeWindow();
 }
 
+OnLeaving<std::function<void()>> QtQuestions::GiveKeyboardBack() {
+    // Between two questions no window is active yet: the one before the first counts.
+    if (QWidget* active = QApplication::activeWindow()) {
+        asking_ = active;
+    }
+    return OnLeaving<std::function<void()>>([this] {
+        if (asking_ != nullptr && asking_->isVisible()) {
+            asking_->activateWindow();
+        }
+    });
+}
+
 Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view title,
                         const Manner& manner) {
     if (BeforeAsking) {
         BeforeAsking();
     }
-    QMessageBox box(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question, TitleOf(title),
-                    ShownText(text), ButtonsOf(buttons), Below());
-    box.setObjectName(QStringLiteral("MsgBox"));
-    box.setTextFormat(Qt::PlainText);
+    const OnLeaving back = GiveKeyboardBack();
+    MessageBox box(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question, TitleOf(title),
+                   ShownText(text), ButtonsOf(buttons), Below(),
+                   manner.How == Manner::Came::Unasked ? MessageBox::Came::Unasked
+                                                       : MessageBox::Came::OnRequest);
     if (title == "Program Error") {
         box.setIcon(QMessageBox::Warning);
     }
     if (buttons == Buttons::YesNo) {
         box.setEscapeButton(QMessageBox::No); // closing the box must not be a Yes
+    }
+    if (!manner.Lost.empty()) {
+        box.setInformativeText(ShownText(manner.Lost));
     }
     constexpr std::array kInOrder{QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel};
     for (std::size_t index = 0; index < manner.Words.size() && index < kInOrder.size(); ++index) {
@@ -148,6 +178,7 @@ std::string QtQuestions::InputBox(std::string_view prompt, std::string_view titl
     if (BeforeAsking) {
         BeforeAsking();
     }
+    const OnLeaving back = GiveKeyboardBack();
     QInputDialog dialog(Below());
     dialog.setObjectName(QStringLiteral("InputBox"));
     dialog.setWindowTitle(TitleOf(title));
@@ -155,6 +186,8 @@ std::string QtQuestions::InputBox(std::string_view prompt, std::string_view titl
     dialog.setTextValue(convert::ToQString(initial));
     for (QLabel* label : dialog.findChildren<QLabel*>()) {
         label->setTextFormat(Qt::PlainText);
+        label->setWordWrap(true);
+        label->setMinimumWidth(WidthOf(*label, ShownText(prompt)));
     }
     // What cannot be kept is refused where it is typed, not dropped from what was confirmed.
     QObject::connect(
@@ -166,7 +199,7 @@ std::string QtQuestions::InputBox(std::string_view prompt, std::string_view titl
                 dialog.setTextValue(convert::ToQString(incoming.Text));
             }
         });
-    dialog.resize(420, dialog.sizeHint().height());
+    dialog.resize(qMax(kInputWidth, dialog.sizeHint().width()), dialog.sizeHint().height());
     return dialog.exec() == QDialog::Accepted ? convert::ToModel(dialog.textValue()) : std::string();
 }
 
@@ -211,6 +244,20 @@ void QtClipboard::Clear() {
 
 void QtClipboard::SetText(std::string_view text) {
     QGuiApplication::clipboard()->setText(convert::ToQString(text));
+}
+
+void QtClipboard::SetTextAndTable(std::string_view text, std::string_view html) {
+    QString plain = convert::ToQString(text);
+    plain.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    auto data = std::make_unique<QMimeData>();
+    data->setText(plain);
+    data->setHtml(convert::ToQString(html));
+    QGuiApplication::clipboard()->setMimeData(data.release()); // the clipboard owns it from here on
+}
+
+void QtClipboard::SetUnicodeText(std::string_view utf8) {
+    QGuiApplication::clipboard()->setText(
+        QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
 }
 
 std::string QtClipboard::GetText() const {
@@ -259,10 +306,13 @@ double QtClock::Now() const {
 }
 
 SingleInstance::Result QtSingleInstance::Claim(std::string_view installFolder) {
-    const QByteArray key = QCryptographicHash::hash(QByteArray::fromStdString(std::string(installFolder)),
-                                                    QCryptographicHash::Sha1)
-                               .toHex()
-                               .left(16);
+    // One folder may be reached by several names.
+    const QString given = Native(installFolder);
+    const QString real = QFileInfo(given).canonicalFilePath();
+    const QByteArray key =
+        QCryptographicHash::hash((real.isEmpty() ? given : real).toUtf8(), QCryptographicHash::Sha1)
+            .toHex()
+            .left(16);
     // The folder for temporary files is shared by all users of the machine; the lock there carries the name.
     const QString user = QString::number(::getuid());
     const QStringList places{QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +

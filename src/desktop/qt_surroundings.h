@@ -1,15 +1,16 @@
 #pragma once
 
+#include "base/guard.h"
 #include "platform/questions.h"
 #include "platform/surroundings.h"
 
 #include <QLockFile>
+#include <QPointer>
 #include <QString>
+#include <QWidget>
 
 #include <functional>
 #include <memory>
-
-class QWidget;
 
 /// The platform's small interfaces on Qt.
 
@@ -26,6 +27,10 @@ protected:
     Answer Ask(std::string_view text, Buttons buttons, std::string_view title, const Manner& manner) override;
 
 private:
+    /// The window that had the keyboard has it again when the box has gone, not the one that the box was
+    /// above.
+    [[nodiscard]] OnLeaving<std::function<void()>> GiveKeyboardBack();
+    QPointer<QWidget> asking_;
     /// Before the main window shows, a box stands over whatever window does, or in the middle of the screen.
     [[nodiscard]] QWidget* Below() const;
 };
@@ -42,6 +47,8 @@ class QtClipboard : public Clipboard {
 public:
     void Clear() override;
     void SetText(std::string_view text) override;
+    void SetTextAndTable(std::string_view text, std::string_view html) override;
+    void SetUnicodeText(std::string_view utf8) override;
     [[nodiscard]] std::string GetText() const override;
 };
 

@@ -64,8 +64,8 @@ FrmTaxView::FrmTaxView(Program& program, frmTax& window, QWidget* over, std::fun
     : WindowView(program, window, over, std::move(afterEvent)) {
     QVBoxLayout* column = Column(this);
     column->addWidget(dialog::Words(this, "lblTaxRate", window.lblTaxRate.Caption));
-    auto* rate = new dialog::FilteredEdit(this, "txtTaxRate", tr("New sales tax rate in percent"),
-                                          frmTax::txtTaxRate_KeyPress);
+    auto* rate = dialog::FilteredEdit(this, "txtTaxRate", tr("New sales tax rate in percent"),
+                                      frmTax::txtTaxRate_KeyPress);
     rate->setMaximumWidth(kBoxWidth);
     column->addWidget(rate);
     QPushButton* ok = dialog::Button(this, "cmdOK", window.cmdOK);
@@ -143,8 +143,8 @@ FrmACStartView::FrmACStartView(Program& program, frmACStart& window, QWidget* ov
     QLabel* words = dialog::Words(this, "lblACStart", window.lblACStart.Caption);
     words->setWordWrap(false);
     second->addWidget(words);
-    other_ = new dialog::FilteredEdit(this, "txtACStart", convert::ToQString(window.lblACStart.Caption),
-                                      frmACStart::txtACStart_KeyPress);
+    other_ = dialog::FilteredEdit(this, "txtACStart", convert::ToQString(window.lblACStart.Caption),
+                                  frmACStart::txtACStart_KeyPress);
     other_->setMaximumWidth(kBoxWidth);
     second->addWidget(other_);
     second->addStretch(1);
@@ -183,7 +183,7 @@ FrmPOffsetsView::FrmPOffsetsView(Program& program, frmPOffsets& window, QWidget*
         QLabel* words = dialog::Words(this, label, {});
         words->setWordWrap(false);
         column->addWidget(words);
-        auto* edit = new dialog::FilteredEdit(this, name, spoken, frmPOffsets::txt_KeyPress);
+        auto* edit = dialog::FilteredEdit(this, name, spoken, frmPOffsets::txt_KeyPress);
         edit->setMaximumWidth(kBoxWidth);
         column->addWidget(edit);
         return std::pair<QLabel*, QLineEdit*>(words, edit);

@@ -47,7 +47,7 @@ FrmAddFutView::FrmAddFutView(Program& program, frmAddFUT& window, QWidget* over,
                              std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)), model_(window) {
     QVBoxLayout* column = Column(this, tr("New term, with its price in square brackets if it has one:"));
-    text_ = new dialog::FilteredEdit(this, "txtAddFUT", tr("New term"), PrintableOnly);
+    text_ = dialog::FilteredEdit(this, "txtAddFUT", tr("New term"), PrintableOnly);
     text_->setMinimumWidth(380);
     column->addWidget(text_);
     QPushButton* save = dialog::Button(this, "cmdSave", window.cmdSave);
@@ -75,7 +75,7 @@ FrmEditFutView::FrmEditFutView(Program& program, frmEditFUT& window, QWidget* ov
                                std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)) {
     QVBoxLayout* column = Column(this, tr("The term, with its price in square brackets if it has one:"));
-    auto* text = new dialog::FilteredEdit(this, "txtEditFUT", tr("Term"), PrintableOnly);
+    QLineEdit* text = dialog::FilteredEdit(this, "txtEditFUT", tr("Term"), PrintableOnly);
     text->setMinimumWidth(380);
     text->setText(convert::ToQString(window.txtEditFUT.Text));
     column->addWidget(text);

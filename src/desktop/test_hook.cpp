@@ -35,11 +35,7 @@ QWidget* Named(const QString& name) {
 
 QString Place(const QWidget& widget) {
     const QRect there(widget.mapToGlobal(QPoint(0, 0)), widget.size());
-    return QStringLiteral("%1 %2 %3 %4")
-        .arg(there.x())
-        .arg(there.y())
-        .arg(there.width())
-        .arg(there.height());
+    return QStringLiteral("%1 %2 %3 %4").arg(there.x()).arg(there.y()).arg(there.width()).arg(there.height());
 }
 
 } // namespace

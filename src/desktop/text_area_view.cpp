@@ -10,6 +10,7 @@
 #include "desktop/term_drag.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
+#include "pages/spoken_names.h"
 #include "program/program.h"
 #include "shell/input.h"
 #include "terms/placing.h"
@@ -33,7 +34,7 @@ LinePainter::Side SideOf(const FieldRef& field) {
 TextAreaView::TextAreaView(PageContext& page, QWidget& paper, const FieldRef& field)
     : QLineEdit(&paper), page_(page), field_(field), line_(page, SideOf(field)) {
     setObjectName(fieldnames::OfControl(field));
-    setAccessibleName(fieldnames::Spoken(field));
+    Rename();
     setFrame(false);
     setTextMargins(0, 0, 0, 0);
     setContextMenuPolicy(Qt::DefaultContextMenu);
@@ -42,6 +43,10 @@ TextAreaView::TextAreaView(PageContext& page, QWidget& paper, const FieldRef& fi
     setAttribute(Qt::WA_TransparentForMouseEvents, copy);
     setAttribute(Qt::WA_OpaquePaintEvent);
     connect(this, &QLineEdit::textEdited, this, [this] { ReportEdit(); });
+}
+
+void TextAreaView::Rename() {
+    setAccessibleName(convert::ToQString(modPages::SpokenName(page_.program, field_)));
 }
 
 std::string TextAreaView::Model() const {
@@ -187,6 +192,26 @@ void TextAreaView::ReportEdit() {
     } else {
         modInput::EditedWithoutKey(page_.program, field_, now, cursorPosition(), 0);
     }
+}
+
+QVariant TextAreaView::inputMethodQuery(Qt::InputMethodQuery query) const {
+    switch (query) {
+    case Qt::ImCursorRectangle:
+    case Qt::ImAnchorRectangle:
+        return CaretBox(cursorPosition());
+    case Qt::ImFont: {
+        QFont face = paper::Face(line_.Font());
+        face.setPixelSize(qMax(1, qRound(face.pixelSize() * page_.Scale)));
+        return face;
+    }
+    default:
+        return QLineEdit::inputMethodQuery(query);
+    }
+}
+
+QRectF TextAreaView::CaretBox(int position) const {
+    const QRectF caret = line_.CaretAt(position, KeyboardNow());
+    return {Corner() + caret.topLeft() * page_.Scale, caret.size() * page_.Scale};
 }
 
 bool TextAreaView::event(QEvent* event) {

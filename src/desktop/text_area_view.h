@@ -18,10 +18,15 @@ public:
     TextAreaView(PageContext& page, QWidget& paper, const FieldRef& field);
 
     void Follow(const TextArea& record);
+    /// The caption that the field is called by has changed.
+    void Rename();
     [[nodiscard]] const FieldRef& Field() const { return field_; }
     /// Left edge and width of the text as drawn, in twips from the page's corner.
     [[nodiscard]] double TextLeft() const;
     [[nodiscard]] double TextWidth() const;
+    /// Where a caret at a position stands, in the widget's pixels.
+    [[nodiscard]] QRectF CaretBox(int position) const;
+    [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
 protected:
     bool event(QEvent* event) override;

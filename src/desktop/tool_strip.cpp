@@ -4,6 +4,7 @@
 #include "desktop/icons.h"
 #include "desktop/paper_surface.h"
 #include "program/program.h"
+#include "shell/command_table.h"
 #include "shell/frm_main.h"
 #include "shell/tool_buttons.h"
 
@@ -80,6 +81,12 @@ bool ToolImage::event(QEvent* event) {
     return QAbstractButton::event(event);
 }
 
+void ToolImage::MarkPending() {
+    pending_ = true;
+    setEnabled(false);
+    setToolTip(convert::ToQString(commands::kNotBuilt));
+}
+
 void ToolImage::Follow(const ImageButton& record, modToolButtons::ButtonFrame frame) {
     if (frame != frame_) {
         frame_ = frame;
@@ -88,8 +95,8 @@ void ToolImage::Follow(const ImageButton& record, modToolButtons::ButtonFrame fr
     if (record != shown_) {
         shown_ = record;
         setCursor(record.Pointer == MousePointer::Hand ? Qt::PointingHandCursor : Qt::ArrowCursor);
-        setToolTip(convert::ToQString(record.ToolTipText));
-        setEnabled(record.Enabled);
+        setToolTip(convert::ToQString(pending_ ? commands::kNotBuilt : std::string_view(record.ToolTipText)));
+        setEnabled(record.Enabled && !pending_);
         setVisible(record.Visible);
         update();
     }
@@ -163,21 +170,24 @@ ToolStrip::ToolStrip(Program& program, std::function<void()> afterEvent, QWidget
     rows_->addLayout(row_);
     QHBoxLayout* row = row_;
     MainWindow& main = program_.main;
-    AddImage("imgNew", tr("Create New File"), main.imgNew, [this] { frmMain(program_).imgNew_MouseDown(); });
-    AddImage("imgOpen", tr("Open existing file"), main.imgOpen,
+    AddImage("imgNew", tr("Create New File"), CommandId::Count, main.imgNew,
+             [this] { frmMain(program_).imgNew_MouseDown(); });
+    AddImage("imgOpen", tr("Open existing file"), CommandId::mnuFileOpenEvent, main.imgOpen,
              [this] { frmMain(program_).imgOpen_MouseDown(); });
-    AddImage("imgSave", tr("Save Current File"), main.imgSave, [this] { frmMain(program_).imgSave_Click(); });
-    AddImage("imgSaveAs", tr("Save File as"), main.imgSaveAs,
+    AddImage("imgSave", tr("Save Current File"), CommandId::mnuFileSaveEvent, main.imgSave,
+             [this] { frmMain(program_).imgSave_Click(); });
+    AddImage("imgSaveAs", tr("Save File as"), CommandId::mnuFileSaveAs, main.imgSaveAs,
              [this] { frmMain(program_).imgSaveAs_Click(); });
-    AddImage("imgPrint", tr("Print All Pages"), main.imgPrint,
+    AddImage("imgPrint", tr("Print All Pages"), CommandId::mnuFilePrintAll, main.imgPrint,
              [this] { frmMain(program_).imgPrint_Click(); });
     row->addSpacing(8);
-    AddImage("imgSearch", tr("Search for"), main.imgSearch, [this] { frmMain(program_).imgSearch_Click(); });
-    AddImage("imgSpellCheck", tr("Check Spelling"), main.imgSpellCheck,
+    AddImage("imgSearch", tr("Search for"), CommandId::mnuEditFind, main.imgSearch,
+             [this] { frmMain(program_).imgSearch_Click(); });
+    AddImage("imgSpellCheck", tr("Check Spelling"), CommandId::mnuEditSpellCheck, main.imgSpellCheck,
              [this] { frmMain(program_).imgSpellCheck_Click(); });
-    AddImage("imgFootNotes", tr("Show Footnotes"), main.imgFootNotes,
+    AddImage("imgFootNotes", tr("Show Footnotes"), CommandId::mnuFileOpenFootnotes, main.imgFootNotes,
              [this] { frmMain(program_).imgFootNotes_MouseDown(); });
-    AddImage("imgTime", tr("Clock"), main.imgTime, [] {});
+    AddImage("imgTime", tr("Clock"), CommandId::Count, main.imgTime, [] {});
     images_.back().first->setFocusPolicy(Qt::NoFocus); // it does nothing; the keyboard need not come by
     row->addSpacing(10);
     buttons_ = new QWidget(this);
@@ -211,9 +221,12 @@ ToolStrip::ToolStrip(Program& program, std::function<void()> afterEvent, QWidget
     Follow();
 }
 
-void ToolStrip::AddImage(std::string_view name, const QString& accessibleName, ImageButton& record,
-                         std::function<void()> chosen) {
+void ToolStrip::AddImage(std::string_view name, const QString& accessibleName, CommandId command,
+                         ImageButton& record, std::function<void()> chosen) {
     auto* button = new ToolImage(name, accessibleName, this);
+    if (command != CommandId::Count && commands::Find(command).Pending()) {
+        button->MarkPending();
+    }
     button->Hovered = [this, &record](bool over) {
         over ? modToolButtons::HoverToolButton(program_, record) : modToolButtons::LeaveToolButton(program_);
         FollowImages();

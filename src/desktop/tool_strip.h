@@ -1,5 +1,6 @@
 #pragma once
 
+#include "program/command_ids.h"
 #include "program/controls.h"
 #include "program/page_records.h"
 #include "shell/tool_buttons.h"
@@ -24,6 +25,8 @@ class ToolImage : public QAbstractButton {
     Q_OBJECT
 public:
     ToolImage(std::string_view controlName, const QString& accessibleName, QWidget* parent);
+    /// What it starts is not built: it looks disabled and says so.
+    void MarkPending();
     void Follow(const ImageButton& record, modToolButtons::ButtonFrame frame);
     [[nodiscard]] QSize sizeHint() const override { return {34, 34}; }
     /// The pointer came or went.
@@ -40,6 +43,7 @@ private:
     ImageButton shown_;
     modToolButtons::ButtonFrame frame_ = modToolButtons::ButtonFrame::None;
     std::array<QIcon, 2> icons_;
+    bool pending_ = false;
 };
 
 /// One of the seven page buttons.
@@ -72,8 +76,9 @@ protected:
 
 private:
     void PlaceCommands();
-    void AddImage(std::string_view name, const QString& accessibleName, ImageButton& record,
-                  std::function<void()> chosen);
+    /// `command` is what the button starts; Count for none.
+    void AddImage(std::string_view name, const QString& accessibleName, CommandId command,
+                  ImageButton& record, std::function<void()> chosen);
     void FollowImages();
     void KeepPlace(const QWidget& widget, ImageButton& record) const;
     QPushButton* AddCommand(const QString& name, const CommandButton& record, std::function<void()> chosen);

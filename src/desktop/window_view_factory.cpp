@@ -1,3 +1,4 @@
+#include "addresses/frm_address.h"
 #include "calculator/frm_calc.h"
 #include "calendar/frm_dates.h"
 #include "contract/frm_editor.h"
@@ -5,6 +6,7 @@
 #include "deposits/frm_deposits.h"
 #include "desktop/dialog_parts.h"
 #include "desktop/format_views.h"
+#include "desktop/frm_address_view.h"
 #include "desktop/frm_calc_view.h"
 #include "desktop/frm_dates_view.h"
 #include "desktop/frm_deposits_view.h"
@@ -12,7 +14,9 @@
 #include "desktop/frm_file_view.h"
 #include "desktop/frm_fut_view.h"
 #include "desktop/frm_notes_view.h"
+#include "desktop/frm_spelling_view.h"
 #include "desktop/frm_splash_view.h"
+#include "desktop/frm_text_file_view.h"
 #include "desktop/search_views.h"
 #include "desktop/settings_views.h"
 #include "desktop/term_views.h"
@@ -92,6 +96,9 @@ constexpr std::array kViews{
     ViewOf<frmCalc, FrmCalcView>,
     ViewOf<frmSearch, FrmSearchView>,
     ViewOf<frmSR, FrmSRView>,
+    ViewOf<frmAddress, FrmAddressView>,
+    ViewOf<frmSpelling, FrmSpellingView>,
+    ViewOf<frmTextFile, FrmTextFileView>,
 };
 
 } // namespace

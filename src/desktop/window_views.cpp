@@ -5,8 +5,16 @@
 #include "program/program.h"
 
 #include <QEvent>
+#include <QScreen>
 
 #include <algorithm>
+
+namespace {
+
+/// About what a title bar and borders take.
+constexpr QSize kFrame(16, 48);
+
+} // namespace
 
 WindowView::WindowView(Program& program, Window& window, QWidget* over, std::function<void()> afterEvent)
     : QDialog(over), program_(program), window_(window), afterEvent_(std::move(afterEvent)) {
@@ -36,6 +44,16 @@ void WindowView::AnswerCalls() {
         frontCalls_ = window_.FrontCalls;
         TakeKeyboard();
     }
+}
+
+void WindowView::showEvent(QShowEvent* event) {
+    const bool framed = !windowFlags().testFlag(Qt::FramelessWindowHint);
+    if (const QScreen* place = screen(); framed && place != nullptr) {
+        const QSize room = place->availableSize() - kFrame;
+        setMaximumSize(maximumSize().boundedTo(room));
+        resize(size().boundedTo(room));
+    }
+    QDialog::showEvent(event);
 }
 
 void WindowView::moveEvent(QMoveEvent* event) {

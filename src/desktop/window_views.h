@@ -22,7 +22,7 @@ public:
     /// Sets what differs from the records.
     virtual void Follow();
     /// The model has been closed; it stays as long as something may still arrive for its view.
-    void KeepModel(std::unique_ptr<Window> model) { model_ = std::move(model); }
+    void KeepModel(std::unique_ptr<Window> model) { kept_ = std::move(model); }
     /// Shows it for the first time, and takes it from the screen for good.
     virtual void Open() { show(); }
     virtual void Leave() { hide(); }
@@ -39,6 +39,7 @@ protected:
     }
     virtual void TakeKeyboard();
     void reject() override;
+    void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -48,7 +49,7 @@ protected:
 private:
     std::function<void()> afterEvent_;
     int frontCalls_ = 0;
-    std::unique_ptr<Window> model_;
+    std::unique_ptr<Window> kept_; ///< the model, once it has left the program
 };
 
 /// Keeps one view for each open window.

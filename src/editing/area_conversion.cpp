@@ -1,7 +1,7 @@
 #include "editing/area_conversion.h"
 
 #include "base/dates.h"
-#include "base/numbers.h"
+#include "base/telephone.h"
 #include "base/text.h"
 #include "pages/fields.h"
 #include "program/program.h"
@@ -37,10 +37,7 @@ std::optional<std::string> Converted(const Program& program, Conversion conversi
     case Conversion::ProperCase:
         return text::Proper(value);
     case Conversion::Telephone:
-        if (const auto number = numbers::ToDouble(value, program.settings.CurrencySymbol)) {
-            return numbers::Format(*number, "(###) ###-####");
-        }
-        return std::nullopt;
+        return telephone::Formatted(value);
     case Conversion::None:
         break;
     }

@@ -2,7 +2,7 @@
 
 #include "editing/area_facts.h"
 #include "program/program.h"
-#include "proposal/proposal_save.h"
+#include "proposal/backup.h"
 
 namespace modBackup {
 

@@ -110,7 +110,7 @@ bool MayWrite(Program& program, const PasteTarget& target) {
     }
     const Answer answer = program.platform.questions.MsgBox(
         "Text is present in destination areas. Over-write this text with that in memory?", Buttons::YesNo,
-        "Text areas are not all empty.");
+        "Text areas are not all empty.", {.Default = Answer::No});
     if (answer != Answer::Yes) {
         Tell(program, "Action Cancelled.");
         return false;

@@ -9,6 +9,7 @@
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "pages/page_marks.h"
+#include "pages/quantity_row.h"
 #include "pages/row_fields.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -17,8 +18,6 @@ namespace modColumns {
 
 namespace {
 
-constexpr std::string_view kQuantityPlaceholder = "Qty.";
-constexpr std::string_view kPricePlaceholder = "Amt.";
 constexpr std::string_view kNoNumberTip = "This is not a number. The amount stays as it is.";
 
 FieldRef Quantity(PageId page, int row) {
@@ -71,7 +70,8 @@ void TakeProduct(Program& program, PageId page, int row) {
 }
 
 bool HoldsPlaceholder(FieldKind kind, std::string_view value) {
-    return value == (kind == FieldKind::txtQty ? kQuantityPlaceholder : kPricePlaceholder);
+    return value ==
+           (kind == FieldKind::txtQty ? quantity_row::kQuantityPlaceholder : quantity_row::kPricePlaceholder);
 }
 
 void TellNoNumber(Program& program, const FieldRef& field) {
@@ -143,8 +143,8 @@ void ToggleColumns(Program& program) {
     if (on) {
         modPages::PlaceColumns(program, page, row, modPages::Columns::On);
         FollowSelection(program, page, row);
-        modFields::SetText(program, Quantity(page, row), kQuantityPlaceholder);
-        modFields::SetText(program, Price(page, row), kPricePlaceholder);
+        modFields::SetText(program, Quantity(page, row), quantity_row::kQuantityPlaceholder);
+        modFields::SetText(program, Price(page, row), quantity_row::kPricePlaceholder);
         StoreRow(program, page, row);
         modFields::GiveFocus(program, Quantity(page, row));
         TextArea& box = modFields::Area(program, Quantity(page, row));

@@ -20,7 +20,7 @@ void CheckDate(Program& program, int index) {
                      "", "Proper date format examples follow:", "January 15, 2008.", "Jan 15, 2008",
                      "1/15/2008", "1/15/08", "1-15-08",
                      "Do not include date extentions such as \"1rst\", \"2nd\", etc."}),
-        Buttons::Ok, "Date Format not Recognized");
+        Buttons::Ok, "Date Format not Recognized", {.How = Manner::Came::Unasked});
     page.DateWarningShown = true;
 }
 

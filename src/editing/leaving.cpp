@@ -23,6 +23,7 @@ void txt_GotFocus(Program& program, PageId page, int index) {
     program.main.ActivePage = page;
     program.main.CurrentPage = IndexOf(page);
     editing.CurrentArea = index;
+    editing.EmptiedAmount.reset();
     if (!IsFinal(page)) {
         // No word is under way in an area that has just been entered.
         editing.Words[static_cast<std::size_t>(IndexOf(page))].InWord = false;

@@ -72,7 +72,8 @@ void TakeEditingState(Program& program, PageId page, int index) {
 
 /// The client's name makes the proposal's, as long as it has no file.
 void TakeClientName(Program& program) {
-    const std::string& name = Area(program, PageId::frmP1, kClientName).Text;
+    // Blanks around a name cannot be seen in a list of files.
+    const std::string name(text::Trim(Area(program, PageId::frmP1, kClientName).Text));
     DocumentState& document = program.document;
     document.FileName = name + ".hef";
     document.BaseName = name;

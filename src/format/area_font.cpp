@@ -1,19 +1,11 @@
 #include "format/area_font.h"
 
 #include "editing/area_colours.h"
-#include "format/frm_text_props.h"
 #include "format/line_effects.h"
 #include "pages/fields.h"
 #include "program/program.h"
-#include "program/windows.h"
-
-#include <memory>
 
 namespace modFormat {
-
-void mnuEditAllTextFonts_Click(Program& program) {
-    modWindows::Show(program, std::make_unique<frmTextProps>());
-}
 
 void ApplyChosenFont(Program& program, const AreaFont& before) {
     AreaFont font = FontInForce(program);

@@ -6,9 +6,6 @@ struct Program;
 
 namespace modFormat {
 
-/// "Edit All Text Area Fonts".
-void mnuEditAllTextFonts_Click(Program& program);
-
 /// The pages take the font in force, which a person has chosen in place of `before`; without a name it is
 /// "Arial", without a size 10. Any difference counts as a changed property of the proposal and of the format.
 void ApplyChosenFont(Program& program, const AreaFont& before);

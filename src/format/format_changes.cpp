@@ -1,7 +1,6 @@
 #include "format/format_changes.h"
 
 #include "format/format_lines.h"
-#include "format/format_save.h"
 #include "format/line_effects.h"
 #include "program/program.h"
 #include "proposal/lifecycle.h"
@@ -60,19 +59,6 @@ bool FileIsCurrent(Program& program) {
     }
     return !modProposal::SomethingChanged(program) ||
            LinesOf(program, TablesNow(program, Texts::LayoutAndTexts)).Lines == program.format.FormatLines;
-}
-
-bool MayLeaveFormat(Program& program) {
-    if (!FormatIsUnsaved(program)) {
-        return true;
-    }
-    const Answer answer = program.platform.questions.MsgBox(
-        "The format " + program.format.FormatName + " has changes that are not saved.", Buttons::YesNoCancel,
-        "", {.Default = Answer::Cancel, .Words = {"Save", "Discard", "Cancel"}});
-    if (answer == Answer::Yes) {
-        return SaveFileFormat(program) == FormatSave::Saved;
-    }
-    return answer == Answer::No;
 }
 
 } // namespace modFormat

@@ -16,8 +16,4 @@ namespace modFormat {
 /// Whether the open format's file holds what a save would write: nothing was changed or typed since.
 [[nodiscard]] bool FileIsCurrent(Program& program);
 
-/// Asks about such changes before they are lost, and saves them when told to. False when the command is to
-/// stop.
-[[nodiscard]] bool MayLeaveFormat(Program& program);
-
 } // namespace modFormat

@@ -9,6 +9,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "proposal/file_names.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
 #include "proposal/property_file.h"
@@ -66,10 +67,11 @@ void mnuFileFormatNew_Click(Program& program) {
     }
     const bool asks = FormatHasChanges(program) || modProposal::SomethingChanged(program) ||
                       modFile::PropertiesChanged(program);
-    if (asks &&
-        program.platform.questions.MsgBox(text::Lines({"This action will clear all current data if",
-                                                       "the data hasn't already been saved. Continue?"}),
-                                          Buttons::YesNo, "Beginning New File Format") != Answer::Yes) {
+    if (asks && program.platform.questions.MsgBox(
+                    text::Lines({"This action will clear all current data if",
+                                 "the data hasn't already been saved. Continue?"}),
+                    Buttons::YesNo, "Beginning New File Format",
+                    {.Default = Answer::No, .Lost = modNames::UnsavedChanges(program)}) != Answer::Yes) {
         return;
     }
     if (modWindows::MayLeave(program, Leaving::Proposal) && MayLeaveFormat(program)) {

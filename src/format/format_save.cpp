@@ -146,7 +146,7 @@ void TakeAsSaved(Program& program) {
 
 void MarkProposalStale(Program& program) {
     const auto& texts = program.document.CurrentTextBuf;
-    const bool text = std::any_of(texts.begin(), texts.end(), [](const auto& page) {
+    const bool text = std::any_of(texts.begin(), texts.begin() + kLinePageCount, [](const auto& page) {
         return std::any_of(page.begin(), page.end(),
                            [](const std::string& line) { return !text::Trim(line).empty(); });
     });
@@ -246,6 +246,19 @@ FormatSave SaveFileFormat(Program& program) {
         }
     });
     return result;
+}
+
+bool MayLeaveFormat(Program& program) {
+    if (!FormatIsUnsaved(program)) {
+        return true;
+    }
+    const Answer answer = program.platform.questions.MsgBox(
+        "The format " + program.format.FormatName + " has changes that are not saved.", Buttons::YesNoCancel,
+        "", {.Default = Answer::Cancel, .Words = {"Save", "Discard", "Cancel"}});
+    if (answer == Answer::Yes) {
+        return SaveFileFormat(program) == FormatSave::Saved;
+    }
+    return answer == Answer::No;
 }
 
 } // namespace modFormat

@@ -17,4 +17,8 @@ FormatSave SaveFileFormat(Program& program);
 /// False when they could not be written; then nothing has changed.
 [[nodiscard]] bool MakeDefault(Program& program);
 
+/// Asks about unsaved changes of the open format before they are lost, and saves them when told to. False
+/// when the command is to stop.
+[[nodiscard]] bool MayLeaveFormat(Program& program);
+
 } // namespace modFormat

@@ -1,6 +1,5 @@
 #include "format/frm_rgb.h"
 
-#include "format/frm_text_props.h"
 #include "format/label_commit.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -122,9 +121,9 @@ void frmRGB::cmdOK_Click(Program& program) {
                                        [&](LabelLook& look) { look.ForeColor = colour; });
         } else {
             program.run.DefaultFontColor = colour;
-            if (auto* window = dynamic_cast<frmTextProps*>(modWindows::Find(program, "frmTextProps"))) {
-                window->ShowFont(program);
-            }
+        }
+        if (Applied) {
+            Applied(program);
         }
     });
     modWindows::Close(program, *this);

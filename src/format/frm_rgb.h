@@ -4,6 +4,7 @@
 #include "program/window.h"
 
 #include <array>
+#include <functional>
 #include <string_view>
 
 /// A slider of one part of a colour. By its large step it reaches 256, which shows as 255.
@@ -39,6 +40,9 @@ public:
     CommandButton cmdSmInc{.Caption = "Small Inc", .ToolTipText = ""};
     CommandButton cmdOK{.Caption = "Apply", .ToolTipText = ""};
     CommandButton cmdCancel{.Caption = "Cancel", .ToolTipText = ""};
+
+    /// What the opener does when a colour was applied.
+    std::function<void(Program&)> Applied;
 
     [[nodiscard]] std::string_view Name() const override { return "frmRGB"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modal; }

@@ -96,7 +96,13 @@ void frmTextProps::cmdColor_Click(Program& program, int index) {
 
 void frmTextProps::cmdColors_Click(Program& program) {
     program.designer.ColorOwner = "Text";
-    modWindows::Show(program, std::make_unique<frmRGB>());
+    auto window = std::make_unique<frmRGB>();
+    window->Applied = [](Program& later) {
+        if (auto* opener = dynamic_cast<frmTextProps*>(modWindows::Find(later, "frmTextProps"))) {
+            opener->ShowFont(later);
+        }
+    };
+    modWindows::Show(program, std::move(window));
 }
 
 void frmTextProps::chkItalic_Click(Program& program) {
@@ -136,3 +142,11 @@ void frmTextProps::Form_Unload(Program& program) {
     run.DefaultFontColor = before_.ForeColor;
     run.DefaultFontItalic = before_.Italic;
 }
+
+namespace modFormat {
+
+void mnuEditAllTextFonts_Click(Program& program) {
+    modWindows::Show(program, std::make_unique<frmTextProps>());
+}
+
+} // namespace modFormat

@@ -51,3 +51,10 @@ private:
     void ShowSample(const Program& program);
     AreaFont before_;
 };
+
+namespace modFormat {
+
+/// "Edit All Text Area Fonts".
+void mnuEditAllTextFonts_Click(Program& program);
+
+} // namespace modFormat

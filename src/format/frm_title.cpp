@@ -70,9 +70,9 @@ void frmTitle::cmdClear_Click(int index) {
 void frmTitle::cmdDefault_Click(Program& program) {
     program.document.PageHeading = txtTitle.Text;
     program.settings.PageTitles = txtTitle.Text;
-    modSettings::SetLine(program, modSettings::Key::PageTitles, txtTitle.Text);
-    modSettings::SaveUserPreferences(program);
-    TitleChanged = false;
+    if (modSettings::Store(program, {{modSettings::Key::PageTitles, txtTitle.Text}})) {
+        TitleChanged = false;
+    }
 }
 
 void frmTitle::cmdOK_Click(Program& program) {

@@ -1,7 +1,7 @@
 #include "format/label_commit.h"
 
-#include "format/label_designer.h"
 #include "format/label_looks.h"
+#include "format/label_selection.h"
 #include "pages/page_geometry.h"
 #include "pages/titles.h"
 #include "program/program.h"

@@ -4,6 +4,7 @@
 #include "format/frm_label_props.h"
 #include "format/label_commit.h"
 #include "format/label_looks.h"
+#include "format/label_selection.h"
 #include "format/snap_step.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"
@@ -80,20 +81,6 @@ struct Agreement {
 };
 
 } // namespace
-
-bool IsSelected(const PageLabel& label) {
-    return label.BackColor == colors::kFocused && label.BackStyle == 1;
-}
-
-void Select(PageLabel& label) {
-    label.BackStyle = 1;
-    label.BackColor = colors::kFocused;
-}
-
-void Deselect(PageLabel& label) {
-    label.BackStyle = 0;
-    label.BackColor = colors::kButtonFace;
-}
 
 PageId DesignPage(const Program& program) {
     return PageAt(program.main.CurrentPage);
@@ -190,19 +177,6 @@ void lbl_DblClick(Program& program, PageId page, int index) {
     }
     PutLook(RecordOf(program.format.LabelSavedState, page, index), LookOf(label));
     Select(label);
-}
-
-bool MultipleLabelsSelected(const Program& program) {
-    int selected = 0;
-    for (const PageId page : kEditedPages) {
-        for (const PageLabel& label : program.pages[page].lbl) {
-            selected += label.BackColor == colors::kFocused ? 1 : 0;
-            if (selected > 1) {
-                return true;
-            }
-        }
-    }
-    return false;
 }
 
 void LoadSelectedLabels(Program& program) {

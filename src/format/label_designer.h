@@ -4,8 +4,7 @@
 
 struct Program;
 
-/// Labels in the hand: press, drag by snap steps, release, and the selection of a group. A label is selected
-/// when it lies on 0xFFFF00, opaque; there is no other record of it.
+/// Labels in the hand: press, drag by snap steps, release, and the commands of a group.
 namespace modDesigner {
 
 inline constexpr int kLeftButton = 1;
@@ -25,12 +24,6 @@ void lbl_DblClick(Program& program, PageId page, int index);
 
 /// The pressed label's look into `LabelEdit` and its saved state.
 void SaveLabelState(Program& program);
-
-[[nodiscard]] bool IsSelected(const PageLabel& label);
-void Select(PageLabel& label);
-void Deselect(PageLabel& label);
-/// Whether more than one label is selected, on whatever pages.
-[[nodiscard]] bool MultipleLabelsSelected(const Program& program);
 
 /// The page whose labels the commands act on: the one in front, but for the client's copy.
 [[nodiscard]] PageId DesignPage(const Program& program);

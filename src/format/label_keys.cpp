@@ -112,9 +112,9 @@ void Leave(Program& program) {
     designer.LabelMode = false;
     designer.Framed.reset();
     program.main[CommandId::mnuEditLabelMode].Checked = false;
-    if (designer.FocusBefore && designer.FocusBefore->Page == program.main.PageInFront) {
-        modFields::GiveFocus(program, *designer.FocusBefore);
-    }
+    const bool here = designer.FocusBefore && designer.FocusBefore->Page == program.main.PageInFront;
+    modFields::GiveFocus(program, here ? *designer.FocusBefore
+                                       : FieldRef{program.main.PageInFront, FieldKind::txt, 0});
     designer.FocusBefore.reset();
 }
 
@@ -132,8 +132,8 @@ void PageChanged(Program& program) {
 
 Menu KeyDown(Program& program, int keyCode, int shift) {
     DesignerRecords& designer = program.designer;
-    if (keyCode == kEscape) {
-        Leave(program);
+    if (keyCode == kEscape || program.pages[program.main.PageInFront].InkShown) {
+        Leave(program); // what a preview shows is not to be moved unseen
         return Menu::None;
     }
     if (keyCode == keys::kTab) {

@@ -2,6 +2,7 @@
 
 #include "pages/label_records.h"
 #include "pages/page_geometry.h"
+#include "pages/titles.h"
 #include "program/program.h"
 
 namespace modDesigner {
@@ -48,11 +49,16 @@ void LayLabel(Program& program, PageId page, int index, const LabelLook& look) {
 
 void CopyToClientsPage(Program& program, int index) {
     PageLabel& copy = LabelAt(program, PageId::frmP6_1, index);
-    LabelLook look = LookOf(LabelAt(program, PageId::frmP6, index));
-    if (index == geometry::TitleLabel(PageId::frmP6)) {
+    const PageLabel& ours = LabelAt(program, PageId::frmP6, index);
+    LabelLook look = LookOf(ours);
+    const bool title = index == geometry::TitleLabel(PageId::frmP6);
+    if (title) {
         look.Caption = copy.Caption;
     }
     PutLook(copy, look);
+    if (title && modTitles::StandsCentred(program, PageId::frmP6, index, ours)) {
+        modTitles::Centre(program, copy); // its words are longer
+    }
 }
 
 bool IsSignLabel(PageId page, int index) {

@@ -49,9 +49,9 @@ std::string PictureOnShow(Program& program) {
 }
 
 void SaveVisibility(Program& program) {
-    modSettings::SetLine(program, modSettings::Key::LogoVisible,
-                         program.settings.LogoVisible ? "True" : "False");
-    modSettings::SaveUserPreferences(program);
+    // What came of it was told; on the screen the choice holds either way.
+    static_cast<void>(modSettings::Store(
+        program, {{modSettings::Key::LogoVisible, program.settings.LogoVisible ? "True" : "False"}}));
 }
 
 } // namespace
@@ -120,10 +120,9 @@ void mnuEditLogoSave_Click(Program& program) {
     }
     settings.LogoLeft = logo.Left;
     settings.LogoTop = logo.Top;
-    modSettings::SetLine(program, Key::LogoFile, settings.LogoFile);
-    modSettings::SetLine(program, Key::LogoLeft, numbers::PlainNumber(logo.Left));
-    modSettings::SetLine(program, Key::LogoTop, numbers::PlainNumber(logo.Top));
-    modSettings::SaveUserPreferences(program);
+    static_cast<void>(modSettings::Store(program, {{Key::LogoFile, settings.LogoFile},
+                                                   {Key::LogoLeft, numbers::PlainNumber(logo.Left)},
+                                                   {Key::LogoTop, numbers::PlainNumber(logo.Top)}}));
 }
 
 void mnuEditLogoVisible_Click(Program& program) {
@@ -144,9 +143,8 @@ void mnuEditLogoBorder_Click(Program& program) {
         program.settings.LogoVisible = true;
         modLogo::SettleLogoVisibility(program);
         program.main[CommandId::mnuEditLogoVisible].Checked = true;
-        modSettings::SetLine(program, modSettings::Key::LogoVisible, "True");
     }
-    modSettings::SaveUserPreferences(program);
+    SaveVisibility(program);
 }
 
 void pic_MouseDown(Program& program, int button, float x, float y) {

@@ -124,7 +124,8 @@ void AddLabels(const Program& program, std::vector<std::string>& lines) {
     return font.has_value();
 }
 
-[[nodiscard]] bool TakeLine(Program& program, assignment::WorkingFields& working, const Fields& fields) {
+[[nodiscard]] bool TakePropertyLine(Program& program, assignment::WorkingFields& working,
+                                    const Fields& fields) {
     switch (fields.What) {
     case Kind::txt:
         return TakeWeight(program, working, fields);
@@ -147,7 +148,8 @@ void TakeLines(Program& program) {
     for (const std::string& line : format.PropertyLines) {
         const assignment::Reading reading = assignment::Read(line);
         if (reading.What == assignment::Outcome::Fault ||
-            (reading.What == assignment::Outcome::Line && !TakeLine(program, working, reading.Values))) {
+            (reading.What == assignment::Outcome::Line &&
+             !TakePropertyLine(program, working, reading.Values))) {
             format.PropertyLinesRead = read;
             throw files::FileError(kTypeMismatch, "The layout of this proposal was read only up to line " +
                                                       std::to_string(read) + ".");

@@ -259,13 +259,25 @@ std::string DiscrepancyMessage() {
                         "calculation without true verification. We apologize for the inconvenience."});
 }
 
-void cmdReCalc_Click(Program& program) {
+namespace {
+
+/// A recalculation leaves the total bare, but not on a page that shows as it will be printed.
+void Recalculate(Program& program) {
     RecalculateAll(program);
+    if (program.pages[PageId::frmP6].InkShown || program.pages[PageId::frmP6_1].InkShown) {
+        UpdateRunningTotals(program);
+    }
+}
+
+} // namespace
+
+void cmdReCalc_Click(Program& program) {
+    Recalculate(program);
     program.platform.questions.MsgBox(RecalculationMessage(program), Buttons::Ok, "");
 }
 
 void mnuToolsRecalculate_Click(Program& program) {
-    RecalculateAll(program);
+    Recalculate(program);
 }
 
 void mnuOptHideTotals_Click(Program& program) {

@@ -2,6 +2,7 @@
 
 #include "base/guard.h"
 #include "base/paths.h"
+#include "editing/fresh_figures.h"
 #include "output/frm_dialog.h"
 #include "output/page_count.h"
 #include "output/print_page.h"
@@ -33,15 +34,14 @@ std::string MessageFor(const Program& program, PageId page) {
     return "Printing Page " + number + " of " + used + (page == PageId::frmP6_1 ? " Copy" : "");
 }
 
-void PrintOne(Program& program, PageId page) {
-    CountPagesInUse(program);
-    SetPageNumbers(program);
+void PrintOne(Program& program, const Page& sheet) {
+    const PageId page = sheet.Id;
     program.printing.PrintFormName = geometry::PageName(page);
     auto dialog = std::make_unique<frmDialog>();
     dialog->lblMessage.Caption = MessageFor(program, page);
     modWindows::Show(program, std::move(dialog));
     program.platform.printers.NameDocument(geometry::PageName(page), IndexOf(page));
-    PrintTheForm(program, page);
+    PrintSheet(program, sheet);
     if (Window* shown = modWindows::Find(program, "frmDialog")) {
         modWindows::Close(program, *shown);
     }
@@ -57,8 +57,14 @@ void PrintPages(Program& program, const std::vector<PageId>& pages) {
     if (!printers.BeginCommand(CommandFor(program))) {
         return;
     }
+    PrepareDrawing(program);
+    CountPagesInUse(program);
+    SetPageNumbers(program);
+    // All pages of a command are of one moment: the figures are the sum of the rows, whatever is typed
+    // meanwhile.
+    const PageSet sheets = program.pages;
     for (const PageId page : pages) {
-        PrintOne(program, page);
+        PrintOne(program, sheets[page]);
     }
     Guarded(program, "PrintTheForm", [&] { printers.EndCommand(); });
 }
@@ -83,6 +89,7 @@ void mnuFilePrintAll_Click(Program& program) {
         program.printing.PrintCancelled = false;
         return;
     }
+    modFigures::TakeFresh(program); // what is being typed may be the first text of its page
     CountPagesInUse(program);
     std::vector<PageId> pages{PageId::frmP6_1, PageId::frmP6};
     for (int page = program.document.PagesInUse - 1; page >= 1; --page) {

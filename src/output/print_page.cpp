@@ -50,8 +50,7 @@ void DrawLabel(DrawingSurface& surface, const PageLabel& label) {
     surface.Print(label.Caption);
 }
 
-void PrintSteps(Program& program, Printer& printer, PageId page) {
-    PrepareDrawing(program);
+void PrintSteps(Program& program, Printer& printer, const Page& sheet) {
     const Page& first = program.pages[PageId::frmP1];
     printer.ScaleHeight = first.Height;
     printer.ScaleWidth = first.Width;
@@ -63,12 +62,13 @@ void PrintSteps(Program& program, Printer& printer, PageId page) {
     if (program.printing.PrinterOffsetY != 0) {
         printer.ScaleTop = program.printing.PrinterOffsetY;
     }
-    // What a person types meanwhile must reach the proposal; only the drawing itself is silent.
+    // What a person types meanwhile must reach the proposal; only the drawing itself is silent, and it is of
+    // the page as it stood.
     program.platform.events.LetEventsRun();
     const ScopedFlag printing(program.guards.Printing);
     const std::string font = printer.Font;
     const float size = printer.FontSize;
-    DrawPage(program, printer, page);
+    DrawSheet(program, printer, sheet);
     printer.Font = font;
     printer.FontSize = size;
     printer.EndDoc();
@@ -82,9 +82,12 @@ void PrintSteps(Program& program, Printer& printer, PageId page) {
 } // namespace
 
 void DrawPage(const Program& program, DrawingSurface& surface, PageId page) {
-    const Page& record = program.pages[page];
+    DrawSheet(program, surface, program.pages[page]);
+}
+
+void DrawSheet(const Program& program, DrawingSurface& surface, const Page& record) {
     for (std::size_t index = 0; index < record.txt.size(); ++index) {
-        const bool right = geometry::RightAligned(page, static_cast<int>(index));
+        const bool right = geometry::RightAligned(record.Id, static_cast<int>(index));
         DrawArea(program, surface, record.txt[index], right ? Align::Right : Align::Left);
     }
     for (const PageLabel& label : record.lbl) {
@@ -137,7 +140,15 @@ void PrepareDrawing(Program& program) {
 }
 
 void PrintTheForm(Program& program, PageId page) {
-    Guarded(program, "PrintTheForm", [&] { PrintSteps(program, program.platform.printers.Device(), page); });
+    Guarded(program, "PrintTheForm", [&] {
+        PrepareDrawing(program);
+        const Page sheet = program.pages[page];
+        PrintSteps(program, program.platform.printers.Device(), sheet);
+    });
+}
+
+void PrintSheet(Program& program, const Page& sheet) {
+    Guarded(program, "PrintTheForm", [&] { PrintSteps(program, program.platform.printers.Device(), sheet); });
 }
 
 } // namespace modPrint

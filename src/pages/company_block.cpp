@@ -44,6 +44,39 @@ void FinalPage(Page& page, const SettingsRecords& before, const SettingsRecords&
     }
 }
 
+/// The open format's own records of those labels; true when one of them had the old words.
+bool RewordInFormat(Program& program, PageId page, std::size_t index, const std::string& was,
+                    const std::string& is) {
+    LabelChangeRecord& record =
+        program.format.FormatLabelChanges[static_cast<std::size_t>(IndexOf(page))][index];
+    if (was == is || !record.Changed || record.Caption != was) {
+        return false;
+    }
+    record.Caption = is;
+    record.Saved = false;
+    record.FromFormat = false;
+    return true;
+}
+
+bool RewordFormat(Program& program, const SettingsRecords& before, const SettingsRecords& now) {
+    bool any = false;
+    for (std::size_t line = 0; line < kLetterhead.size(); ++line) {
+        any =
+            RewordInFormat(program, PageId::frmP1, line, before.*kLetterhead[line], now.*kLetterhead[line]) ||
+            any;
+    }
+    const std::string representative = "Representative for ";
+    any = RewordInFormat(program, PageId::frmP6, kRepresentative, representative + before.CompanyName,
+                         representative + now.CompanyName) ||
+          any;
+    for (std::size_t line = 0; line < kRemittanceLines; ++line) {
+        any = RewordInFormat(program, PageId::frmP6, kRemittance + line, before.*kLetterhead[line],
+                             now.*kLetterhead[line]) ||
+              any;
+    }
+    return any;
+}
+
 } // namespace
 
 void CompanyInfoChanged(Program& program, const SettingsRecords& before) {
@@ -60,6 +93,11 @@ void CompanyInfoChanged(Program& program, const SettingsRecords& before) {
     SizeRemittanceBox(program);
     program.document.CompanyBlockPending = true;
     modTitles::SetPageHeading(program, "Contract Proposal");
+    if (program.format.FormatOpen && RewordFormat(program, before, now)) {
+        program.format.Touched = true;
+        program.platform.questions.MsgBox("The open format still carries the old lines on disk; save it.",
+                                          Buttons::Ok, "");
+    }
 }
 
 } // namespace modPages

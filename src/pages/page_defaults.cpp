@@ -335,13 +335,17 @@ void ApplyPageDefaults(Program& program, PageId page) {
     }
 }
 
-void SetUpPage(Program& program, PageId page) {
+void BuildPage(Program& program, PageId page) {
     const ScopedFlag silent(program.guards.ResetActive);
     CreateFields(program, page);
-    Page& record = program.pages[page];
-    PlaceAreas(record);
-    PlaceLines(program, record);
-    PlaceMarks(record);
+    PlaceAreas(program.pages[page]);
+    PlaceMarks(program.pages[page]);
+}
+
+void SetUpPage(Program& program, PageId page) {
+    const ScopedFlag silent(program.guards.ResetActive);
+    BuildPage(program, page);
+    PlaceLines(program, program.pages[page]);
     if (page == PageId::frmP1 && !program.settings.LogoFile.empty()) {
         modLogo::LoadLogo(program);
     }
@@ -351,7 +355,6 @@ void SetUpPage(Program& program, PageId page) {
 void SizeRemittanceBox(Program& program) {
     for (const PageId page : {PageId::frmP6, PageId::frmP6_1}) {
         PlaceLines(program, program.pages[page]);
-        RemittanceBlock(program, program.pages[page]);
     }
 }
 

@@ -7,7 +7,10 @@ struct Program;
 /// What every page says and where it says it before anybody has typed.
 namespace modPages {
 
-/// Builds one page at start-up: arrays, places, Tags, tool tips, defaults. frmP1 takes its logo from the
+/// Makes the fields of one page: arrays, places, Tags. Needs nothing, and nothing in it can fail.
+void BuildPage(Program& program, PageId page);
+
+/// Sets one page up at start-up: fields, tool tips, defaults. frmP1 takes its logo from the
 /// settings.
 void SetUpPage(Program& program, PageId page);
 

@@ -10,6 +10,9 @@ namespace quantity_row {
 inline constexpr char kQuantityMark = '\xA5';
 inline constexpr char kPriceMark = '\xA7';
 
+/// What the two boxes hold before a person fills them.
+inline constexpr std::string_view kQuantityPlaceholder = "Qty.", kPricePlaceholder = "Amt.";
+
 [[nodiscard]] std::string Compose(std::string_view quantity, std::string_view description,
                                   std::string_view price);
 

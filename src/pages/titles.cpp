@@ -66,16 +66,23 @@ void Record(Program& program, PageId page) {
 } // namespace
 
 void SetTitleWords(const Program& program, PageId page, int index, PageLabel& label, std::string words) {
-    constexpr float kTwip = 1;
-    const bool stood =
-        std::fabs(label.Left - Centred(program, label)) <= kTwip || label.Left == BuiltLeft(page, index);
+    const bool stood = StandsCentred(program, page, index, label);
     if (label.Caption == words && label.Left != BuiltLeft(page, index)) {
         return;
     }
     label.Caption = std::move(words);
     if (stood) {
-        label.Left = Centred(program, label);
+        Centre(program, label);
     }
+}
+
+bool StandsCentred(const Program& program, PageId page, int index, const PageLabel& label) {
+    constexpr float kTwip = 1;
+    return std::fabs(label.Left - Centred(program, label)) <= kTwip || label.Left == BuiltLeft(page, index);
+}
+
+void Centre(const Program& program, PageLabel& label) {
+    label.Left = Centred(program, label);
 }
 
 void UpdateFooters(Program& program) {

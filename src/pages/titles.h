@@ -26,6 +26,11 @@ void LayTitles(Program& program);
 /// pages are built with it; otherwise somebody has put it where it is.
 void SetTitleWords(const Program& program, PageId page, int index, PageLabel& label, std::string words);
 
+/// Whether a title stands in the middle of the page, to a twip, or where pages are built with it.
+[[nodiscard]] bool StandsCentred(const Program& program, PageId page, int index, const PageLabel& label);
+/// Puts a label there.
+void Centre(const Program& program, PageLabel& label);
+
 /// The running heading for a document kind: the setting when there is one, else company name, " - ", what, "
 /// - ".
 void SetPageHeading(Program& program, const char* what);

@@ -1,9 +1,11 @@
 #pragma once
 
+#include "platform/dictionaries.h"
 #include "platform/printers.h"
 #include "platform/questions.h"
 #include "platform/surroundings.h"
 #include "platform/text_measure.h"
+#include "platform/word_service.h"
 
 /// All that the model asks of its surroundings. Two programs may stand on two platforms in one process.
 struct Platform {
@@ -17,4 +19,6 @@ struct Platform {
     SingleInstance& instance;
     Pictures& pictures;
     EventLoop& events;
+    WordServices& words;
+    Dictionaries& dictionaries;
 };

@@ -16,10 +16,12 @@ struct Manner {
     };
     /// The button that Enter presses; the first one unless it is given. Where something is deleted,
     /// overwritten or thrown away it is the harmless one.
-    std::optional<Answer> Default;
+    std::optional<Answer> Default{};
+    /// What goes by an answer that is not harmless, by name; stands below the text.
+    std::string Lost{};
     Came How = Came::OnRequest;
     /// The words of the box's buttons in the order Yes, No, Cancel, where they are not these.
-    std::vector<std::string> Words;
+    std::vector<std::string> Words{};
 };
 
 /// Message and input boxes. Both wait for the person; texts hold CR LF between their lines.

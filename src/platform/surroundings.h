@@ -24,6 +24,11 @@ public:
     virtual ~Clipboard() = default;
     virtual void Clear() = 0;
     virtual void SetText(std::string_view text) = 0;
+    /// Plain text whose line ends become the system's own, and beside it an HTML table for programs that take
+    /// one.
+    virtual void SetTextAndTable(std::string_view text, std::string_view html) = 0;
+    /// Any text, in UTF-8: what was read from elsewhere and is handed on as it came.
+    virtual void SetUnicodeText(std::string_view utf8) = 0;
     [[nodiscard]] virtual std::string GetText() const = 0;
 };
 

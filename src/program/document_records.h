@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/seen.h"
 #include "program/page_records.h"
 
 #include <array>
@@ -16,7 +17,7 @@ struct DocumentState {
     std::string DepositFile;
     bool FileExists = false;
     bool FromBackup = false;
-    bool BackingUp = false;
+    bool BackingUp = false;    ///< nothing may be asked or told
     std::string ClientCaption; ///< "Proposal for " and the client; also called ProposalTitle
     bool TitleGiven = false;   ///< a person gave the title its words; a client's name no longer makes it
     std::string DocumentKind = "Event";
@@ -27,6 +28,10 @@ struct DocumentState {
     std::string FileFilter = "*.hef";
     bool DeleteMode = false;
     bool IgnoreProperties = false;
+    bool PropertiesIgnored = false; ///< the open proposal came without its properties
+    /// What the proposal's file held when it was read or written last.
+    files::Seen SavedFile;
+    std::string BackupTrouble;    ///< why the last backup was not written; told once
     bool SavedStateStale = false; ///< a format was saved since; counts as a changed property
     bool CompanyBlockPending = false;
 

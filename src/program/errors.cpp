@@ -6,7 +6,9 @@
 #include "base/text.h"
 #include "program/program.h"
 
-void ReportError(Program& program, std::string_view procedureName, const std::exception& error) {
+namespace {
+
+std::string RecordOf(Program& program, std::string_view procedureName, const std::exception& error) {
     constexpr int kInternalError = 51; // for failures that carry no number of their own
     const auto* known = dynamic_cast<const files::FileError*>(&error);
     const int number = known != nullptr ? known->Number() : kInternalError;
@@ -19,9 +21,22 @@ void ReportError(Program& program, std::string_view procedureName, const std::ex
     message += "Error Description: " + std::string(error.what());
     message += text::kCrLf;
     message += text::kCrLf;
-    if (program.platform.questions.MsgBox(message, Buttons::Ok, "Program Error") == Answer::Ok) {
+    return message;
+}
+
+} // namespace
+
+void ReportError(Program& program, std::string_view procedureName, const std::exception& error) {
+    const std::string message = RecordOf(program, procedureName, error);
+    // It may come in the middle of typing.
+    if (program.platform.questions.MsgBox(message, Buttons::Ok, "Program Error",
+                                          {.How = Manner::Came::Unasked}) == Answer::Ok) {
         WriteErrorLog(program, message);
     }
+}
+
+void LogError(Program& program, std::string_view procedureName, const std::exception& error) {
+    WriteErrorLog(program, RecordOf(program, procedureName, error));
 }
 
 void WriteErrorLog(Program& program, std::string_view message) {

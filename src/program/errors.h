@@ -10,6 +10,9 @@ struct Program;
 /// folder. `procedureName` is the caller's own name as the log knows it.
 void ReportError(Program& program, std::string_view procedureName, const std::exception& error);
 
+/// Adds the same record to the log without a box, for what runs unasked.
+void LogError(Program& program, std::string_view procedureName, const std::exception& error);
+
 /// Appends to the log; its own failures are ignored.
 void WriteErrorLog(Program& program, std::string_view message);
 

@@ -17,6 +17,7 @@ struct Hooks {
     FieldCall LostFocus; ///< a field is about to lose it
 
     std::function<void(Program&, int)> UpdatePageButtons; ///< change the page, 0 to 6
+    FieldCall ShowField;      ///< brings a field into the visible part, its page to the front
     Call CollectQtyBoxes;                                 ///< bring the stores up to what the row fields show
     Call TakeFreshFigures;    ///< what is being typed is settled and everything summed, before others see it
     Call DeSelectAllControls; ///< end a block selection on all pages

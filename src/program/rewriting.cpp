@@ -1,6 +1,7 @@
 #include "program/rewriting.h"
 
 #include "base/files.h"
+#include "base/paths.h"
 #include "program/program.h"
 
 #include <string>
@@ -15,7 +16,17 @@ bool MayOverwrite(Program& program, std::string_view path, const files::Seen& se
     return program.platform.questions.MsgBox(
                "This " + std::string(what) +
                    " was changed by another program since you opened it. Overwrite it?",
-               Buttons::YesNo, "", {.Default = Answer::No}) == Answer::Yes;
+               Buttons::YesNo, "",
+               {.Default = Answer::No, .Lost = std::string(paths::Name(path))}) == Answer::Yes;
+}
+
+void WriteOver(std::string_view path, std::string_view bytes, files::Seen& seen) {
+    if (files::ExistsExactly(path) &&
+        (seen.Was == files::Seen::What::Unread || files::LookAt(path).Was == files::Seen::What::Unread)) {
+        files::KeepUnread(path);
+    }
+    files::WriteWhole(path, bytes);
+    seen = files::SeenIn(bytes);
 }
 
 Rewriting Rewrite(Program& program, std::string_view path, std::string_view bytes, files::Seen& seen,
@@ -23,12 +34,7 @@ Rewriting Rewrite(Program& program, std::string_view path, std::string_view byte
     if (!MayOverwrite(program, path, seen, what)) {
         return Rewriting::Refused;
     }
-    if (files::ExistsExactly(path) &&
-        (seen.Was == files::Seen::What::Unread || files::LookAt(path).Was == files::Seen::What::Unread)) {
-        files::KeepUnread(path);
-    }
-    files::WriteWhole(path, bytes);
-    seen = files::SeenIn(bytes);
+    WriteOver(path, bytes, seen);
     return Rewriting::Done;
 }
 

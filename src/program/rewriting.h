@@ -15,10 +15,12 @@ namespace modFile {
 [[nodiscard]] bool MayOverwrite(Program& program, std::string_view path, const files::Seen& seen,
                                 std::string_view what);
 
+/// Writes the new bytes in one step, without a question, and takes them into `seen`. A file that could not be
+/// read whole is kept as ".unread" first. Throws files::FileError; `seen` stays then.
+void WriteOver(std::string_view path, std::string_view bytes, files::Seen& seen);
+
 enum class Rewriting { Done, Refused };
-/// Asks as above, keeps a file that could not be read whole as ".unread", writes the new bytes in one step
-/// and takes them into `seen`. `seen` stays when the person refuses or the write fails. Throws
-/// files::FileError.
+/// Both in one. `seen` stays when the person refuses.
 [[nodiscard]] Rewriting Rewrite(Program& program, std::string_view path, std::string_view bytes,
                                 files::Seen& seen, std::string_view what);
 

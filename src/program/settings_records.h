@@ -2,6 +2,7 @@
 
 #include "base/colors.h"
 #include "base/paths.h"
+#include "base/seen.h"
 
 #include <string>
 #include <vector>
@@ -17,6 +18,10 @@ struct FutPosition {
 /// The values of UserPreferences.txt, one member a line, and the lines themselves.
 struct SettingsRecords {
     std::vector<std::string> Lines; ///< as read or changed; the file is rewritten from them
+    /// What the files held when they were read or written last.
+    files::Seen SettingsFile;
+    files::Seen TaxFile;
+    files::Seen OffsetsFile;
     bool PrefsRead = false;
     bool ReadingPrefs = false;
 

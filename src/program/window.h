@@ -29,7 +29,7 @@ public:
     /// Runs once when the window closes by any way.
     virtual void Form_Unload(Program&) {}
     /// Escape, or the close box.
-    virtual void Form_Cancel(Program& program) = 0;
+    virtual void Form_Cancel(Program& program);
     /// Runs at the end of every event: brings what shows up to what the rest of the program says.
     virtual void Form_Follow(Program&) {}
 

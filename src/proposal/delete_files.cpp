@@ -4,18 +4,38 @@
 #include "base/paths.h"
 
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace modFile {
 
-void DeleteProposalFiles(std::string_view folder, std::string_view fileName) {
+namespace {
+
+std::vector<std::string> NamesOf(std::string_view folder, std::string_view fileName) {
     // By the name that was chosen, not by one put together: names may differ in nothing but their case.
-    files::Delete(paths::Join(folder, fileName));
-    const std::string base = paths::Join(folder, paths::BaseOf(fileName));
+    std::vector<std::string> names{std::string(fileName)};
     for (const std::string_view extension : {".hpf", ".txt", ".hxt", ".dep"}) {
-        const std::string side = base + std::string(extension);
-        if (files::Exists(side)) {
-            files::Delete(side);
+        std::string side = std::string(paths::BaseOf(fileName)) + std::string(extension);
+        if (files::ExistsExactly(paths::Join(folder, side))) {
+            names.push_back(std::move(side));
         }
+    }
+    return names;
+}
+
+} // namespace
+
+std::string FilesOfProposal(std::string_view folder, std::string_view fileName) {
+    std::string line;
+    for (const std::string& name : NamesOf(folder, fileName)) {
+        line += (line.empty() ? "" : ", ") + name;
+    }
+    return line;
+}
+
+void DeleteProposalFiles(std::string_view folder, std::string_view fileName) {
+    for (const std::string& name : NamesOf(folder, fileName)) {
+        files::Delete(paths::Join(folder, name));
     }
 }
 

@@ -28,9 +28,13 @@ bool IsTooLong(Program& program, std::string_view name) {
 
 } // namespace
 
-bool IllegalFileName(Program& program, std::string_view name) {
+bool HasIllegalCharacter(std::string_view name) {
     constexpr std::string_view kIllegal = "/\\:*?<>|";
-    if (name.find_first_of(kIllegal) == std::string_view::npos) {
+    return name.find_first_of(kIllegal) != std::string_view::npos;
+}
+
+bool IllegalFileName(Program& program, std::string_view name) {
+    if (!HasIllegalCharacter(name)) {
         return IsTooLong(program, name);
     }
     program.platform.questions.MsgBox(text::Lines({"Action Cancelled. File Name cannot include any of ",
@@ -40,14 +44,18 @@ bool IllegalFileName(Program& program, std::string_view name) {
 }
 
 void ShowDuplicateFileOptions(Program& program, std::string_view name) {
+    ShowDuplicateFileOptions(program, program.document.FilePath, name);
+}
+
+void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::string_view name) {
     const bool done = Guarded(program, "ShowDuplicateFileOptions", [&] {
-        const std::string path = paths::Join(program.document.FilePath, name);
+        const std::string path = paths::Join(folder, name);
         const std::string question =
             text::Lines({"A file with this name (" + std::string(name) + ")",
                          "already exists. Do you want to replace the", "existing file, created on:",
                          dates::GeneralDate(files::ModifiedSerial(path)), "", "with this one?"});
-        if (program.platform.questions.MsgBox(question, Buttons::YesNo, "Duplicate File Name on Record") ==
-            Answer::Yes) {
+        if (program.platform.questions.MsgBox(question, Buttons::YesNo, "Duplicate File Name on Record",
+                                              {.Default = Answer::No, .Lost = path}) == Answer::Yes) {
             return; // the new bytes replace the file in one step
         }
         program.platform.questions.MsgBox("File not saved.", Buttons::Ok, "");
@@ -56,6 +64,11 @@ void ShowDuplicateFileOptions(Program& program, std::string_view name) {
     if (!done) {
         program.document.Cancelled = true; // the file stands; nothing may be written over it unasked
     }
+}
+
+std::string UnsavedChanges(const Program& program) {
+    return program.document.HasName() ? "The unsaved changes of " + program.document.BaseName
+                                      : "The unsaved changes of a new proposal";
 }
 
 void SetBaseName(Program& program, std::string_view baseName) {

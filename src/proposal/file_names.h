@@ -8,12 +8,20 @@ struct Program;
 /// Names of proposals: what they may hold, where they lie, and what happens when one is taken.
 namespace modNames {
 
+/// Whether the name holds one of / \ : * ? < > |.
+[[nodiscard]] bool HasIllegalCharacter(std::string_view name);
+
 /// True, with a message, when the name holds one of / \ : * ? < > | or is too long for a file's name.
 [[nodiscard]] bool IllegalFileName(Program& program, std::string_view name);
 
 /// Asks whether the file of that name in `document.FilePath` may be replaced. Yes deletes nothing; No says
 /// "File not saved." and sets `document.Cancelled`. Reports as "ShowDuplicateFileOptions".
 void ShowDuplicateFileOptions(Program& program, std::string_view name);
+/// The same for a file of another folder.
+void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::string_view name);
+
+/// What is lost when the changes of the proposal on show are not kept.
+[[nodiscard]] std::string UnsavedChanges(const Program& program);
 
 /// The side files' names after a new file name.
 void SetBaseName(Program& program, std::string_view baseName);

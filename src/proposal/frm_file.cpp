@@ -170,7 +170,6 @@ void frmFile::cmdOpenOK_Click(Program& program) {
             program.hooks.ReadFrequentlyUsedTerms(program);
         }
     } else if (program.document.FileFilter == kTexts) {
-        program.document.TextFileName = selected_;
         const std::string file = paths::Join(Folder, selected_);
         Finish(program);
         if (program.hooks.ReadTextFile) {
@@ -246,6 +245,7 @@ void frmFile::OpenProposal(Program& program) {
     program.main[CommandId::mnuFileRestoreFromBackup].Enabled = backup;
     document.FromBackup = backup;
     modFile::ShowProposal(program, name, *raw);
+    document.PropertiesIgnored = document.IgnoreProperties;
     if (!document.IgnoreProperties) {
         modFile::ReadFileProperties(program);
     }
@@ -256,8 +256,9 @@ void frmFile::OpenProposal(Program& program) {
 
 void frmFile::DeleteSelected(Program& program) {
     Questions& questions = program.platform.questions;
-    if (questions.MsgBox("Are you sure you want to delete this file?", Buttons::YesNo,
-                         "Preparing to Delete File.") != Answer::Yes) {
+    if (questions.MsgBox(
+            "Are you sure you want to delete this file?", Buttons::YesNo, "Preparing to Delete File.",
+            {.Default = Answer::No, .Lost = modFile::FilesOfProposal(Folder, selected_)}) != Answer::Yes) {
         return;
     }
     try {

@@ -11,6 +11,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/rewriting.h"
 #include "program/windows.h"
 #include "proposal/delete_files.h"
 #include "proposal/file_names.h"
@@ -53,13 +54,11 @@ void SaveAsSteps(Program& program) {
         return;
     }
     const std::string fileName = name + ".hef";
-    if (document.FilePath.empty()) {
-        document.FilePath = modFolders::DataFolder(program);
-    }
-    if (modFile::FileIsThere(document.FilePath, fileName) &&
+    const std::string path = paths::Join(modFile::SavingFolder(program), fileName);
+    if (files::ExistsExactly(path) &&
         program.platform.questions.MsgBox("A file with the name " + fileName + " already exists. Overwrite?",
-                                          Buttons::YesNoCancel,
-                                          "Preparing to Overwrite Existing Event File") != Answer::Yes) {
+                                          Buttons::YesNoCancel, "Preparing to Overwrite Existing Event File",
+                                          {.Default = Answer::No, .Lost = path}) != Answer::Yes) {
         program.platform.questions.MsgBox("Action Cancelled. File not saved.", Buttons::Ok, "");
         return;
     }
@@ -85,7 +84,9 @@ void SaveAsSteps(Program& program) {
     if (program.hooks.AssignPropChanges) {
         program.hooks.AssignPropChanges(program);
     }
-    modFile::SavePropertyFile(program);
+    if (modFile::SavePropertyFile(program) == modFile::SaveResult::NotSaved) {
+        document.SavedStateStale = true; // they are asked about again when the proposal is left
+    }
     modSideFile::FollowSaveAs(program, before);
     program.main.imgFootNotes.Picture =
         modFile::FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile) ? 1 : 0;
@@ -119,9 +120,10 @@ void AskToSave(Program& program) {
     if (!SomethingChanged(program) && !modFile::PropertiesChanged(program)) {
         return;
     }
-    const Answer answer =
-        program.platform.questions.MsgBox("Some text has been changed. Do you want to save the changes?",
-                                          Buttons::YesNoCancel, "File Properties have been Changed");
+    const Answer answer = program.platform.questions.MsgBox(
+        "Some text has been changed. Do you want to save the changes?", Buttons::YesNoCancel,
+        "File Properties have been Changed",
+        {.Default = Answer::Yes, .Lost = modNames::UnsavedChanges(program)});
     if (answer == Answer::Yes) {
         // A save that could not be done must not cost the text: the command that asked stops.
         program.document.Cancelled = modFile::SaveEventFile(program) == modFile::SaveResult::NotSaved;
@@ -188,8 +190,15 @@ void mnuFileOpenEvent_Click(Program& program) {
     modWindows::Show(program, std::move(window));
 }
 
+void mnuFileOpenTextFile_Click(Program& program) {
+    program.document.FileFilter = "*.txt";
+    auto window = std::make_unique<frmFile>();
+    window->Caption = "Opening Text File";
+    modWindows::Show(program, std::move(window));
+}
+
 void mnuFileSaveEvent_Click(Program& program) {
-    modFile::SaveEventFile(program);
+    static_cast<void>(modFile::SaveEventFile(program)); // it has told what came of it
 }
 
 void mnuFileSaveAs_Click(Program& program) {
@@ -204,8 +213,10 @@ void mnuFileDelete_Click(Program& program) {
                          "");
         return;
     }
-    if (questions.MsgBox("Are you sure you want to delete this file?", Buttons::YesNo,
-                         "Preparing to Delete File.") != Answer::Yes ||
+    if (questions.MsgBox(
+            "Are you sure you want to delete this file?", Buttons::YesNo, "Preparing to Delete File.",
+            {.Default = Answer::No,
+             .Lost = modFile::FilesOfProposal(document.FilePath, document.FileName)}) != Answer::Yes ||
         !MayLeaveFormat(program)) {
         return;
     }
@@ -228,14 +239,13 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
         const std::string folder = modFolders::DataFolder(program);
         const std::string target = paths::Join(folder, document.FileName);
         const std::string bytes = files::ReadAll(paths::Join(document.FilePath, document.FileName));
-        if (files::Exists(target)) {
-            files::Delete(target);
-        }
+        files::Seen seen = files::LookAt(target);
+        modFile::WriteOver(target, bytes, seen);
+        document.SavedFile = seen;
         if (!document.TitleGiven) {
             document.ClientCaption = "Proposal for " + document.BaseName;
             modTitles::UpdateFooters(program);
         }
-        files::WriteWhole(target, bytes);
         const std::string layout = document.BaseName + ".hpf";
         if (modFile::FileIsThere(document.FilePath, layout)) {
             files::Copy(paths::Join(document.FilePath, layout), paths::Join(folder, layout));

@@ -21,6 +21,8 @@ void SaveEventFileAs(Program& program);
 
 void mnuFileNew_Click(Program& program);
 void mnuFileOpenEvent_Click(Program& program);
+/// The chooser for a text file, which is shown in a window of its own; the proposal stays as it is.
+void mnuFileOpenTextFile_Click(Program& program);
 void mnuFileSaveEvent_Click(Program& program);
 void mnuFileSaveAs_Click(Program& program);
 void mnuFileDelete_Click(Program& program);

@@ -38,16 +38,27 @@ std::string PropertyName(const Program& program) {
 
 } // namespace
 
+std::string BytesOfLines(const std::vector<std::string>& lines) {
+    std::string bytes;
+    for (const std::string& line : lines) {
+        bytes += line;
+        bytes += text::kCrLf;
+    }
+    return bytes;
+}
+
 SaveResult SavePropertyFile(Program& program) {
     bool written = false;
     const bool done = Guarded(program, "SavePropertyFile", [&] {
-        std::string bytes;
-        for (const std::string& line : program.format.PropertyLines) {
-            bytes += line;
-            bytes += text::kCrLf;
-        }
         const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
+        if (program.document.PropertiesIgnored && files::ExistsExactly(path)) {
+            program.main.Notice =
+                PropertyName(program) + " was left as it is: the proposal was opened without it.";
+            written = true;
+            return;
+        }
         FormatRecords& format = program.format;
+        const std::string bytes = BytesOfLines(format.PropertyLines);
         // Under another name, whoever chose that name has agreed to what it replaces.
         files::Seen seen = path == format.PropertyPath ? format.PropertySeen : files::LookAt(path);
         written = Rewrite(program, path, bytes, seen, "layout of the proposal") == Rewriting::Done;
@@ -61,29 +72,36 @@ SaveResult SavePropertyFile(Program& program) {
     return done && written ? SaveResult::Saved : SaveResult::NotSaved;
 }
 
+void TakeProperties(Program& program, const std::string& path) {
+    FormatRecords& format = program.format;
+    format.PropertyLines.clear();
+    format.PropertyLinesRead.reset();
+    format.PropertyPath = path;
+    format.PropertySeen = files::LookAt(path);
+    if (!files::Exists(path)) {
+        return;
+    }
+    format.PropertyLines = text::SplitLines(files::ReadAll(path));
+    if (!format.PropertyLines.empty() && program.hooks.ParsePropertyFile) {
+        program.hooks.ParsePropertyFile(program);
+    }
+    if (format.PropertyLinesRead) {
+        format.PropertySeen.Was = files::Seen::What::Unread; // kept when it is replaced
+    }
+}
+
 void ReadFileProperties(Program& program) {
     Guarded(program, "ReadFileProperties", [&] {
-        FormatRecords& format = program.format;
-        format.PropertyLines.clear();
-        format.PropertyLinesRead.reset();
         // A backup may have its own layout beside it; what is saved goes to the data folder all the same.
-        const std::string folder = PropertyFolder(program);
         const bool own =
             program.document.FromBackup && FileIsThere(program.document.FilePath, PropertyName(program));
-        const std::string path = paths::Join(own ? program.document.FilePath : folder, PropertyName(program));
-        format.PropertyPath = path;
-        format.PropertySeen = files::LookAt(path);
-        if (!files::Exists(path)) {
-            return;
-        }
-        format.PropertyLines = text::SplitLines(files::ReadAll(path));
-        if (!format.PropertyLines.empty() && program.hooks.ParsePropertyFile) {
-            program.hooks.ParsePropertyFile(program);
-        }
-        if (format.PropertyLinesRead) {
-            format.PropertySeen.Was = files::Seen::What::Unread; // kept when it is replaced
-        }
+        TakeProperties(program, paths::Join(own ? program.document.FilePath : PropertyFolder(program),
+                                            PropertyName(program)));
     });
+}
+
+bool PropertiesWanted(const Program& program) {
+    return PropertiesChanged(program) || (program.format.FormatOpen && !program.document.FileExists);
 }
 
 bool PropertiesChanged(const Program& program) {

@@ -33,7 +33,7 @@ std::uintmax_t BytesNeeded(const proposal::Widths& widths) {
             needed += static_cast<std::uintmax_t>(std::max(width, 0));
         }
     }
-    return std::max<std::uintmax_t>(needed, proposal::kKindOffset + 1);
+    return std::max<std::uintmax_t>(needed, proposal::kFileLength);
 }
 
 /// What both tables say of an area once it was read.
@@ -185,13 +185,20 @@ void SettleLogo(Program& program) {
 
 } // namespace
 
+RawProposal ReadProposal(const Program& program, std::string_view path) {
+    files::Head head = files::ReadHead(path, BytesNeeded(SlotWidths(program)));
+    const bool whole = head.Bytes.size() == head.Length;
+    RawProposal raw;
+    raw.Seen = whole ? files::SeenIn(head.Bytes) : files::LookAt(path);
+    raw.Bytes = std::move(head.Bytes);
+    raw.Length = head.Length;
+    return raw;
+}
+
 std::optional<RawProposal> LoadProposal(Program& program, std::string_view fileName) {
     RawProposal raw;
     const bool done = Guarded(program, "OpenEventFile", [&] {
-        const std::string path = paths::Join(program.document.FilePath, fileName);
-        files::Head head = files::ReadHead(path, BytesNeeded(SlotWidths(program)));
-        raw.Bytes = std::move(head.Bytes);
-        raw.Length = head.Length;
+        raw = ReadProposal(program, paths::Join(program.document.FilePath, fileName));
     });
     return done ? std::optional(std::move(raw)) : std::nullopt;
 }
@@ -199,6 +206,7 @@ std::optional<RawProposal> LoadProposal(Program& program, std::string_view fileN
 void ShowProposal(Program& program, std::string_view fileName, const RawProposal& raw) {
     DocumentState& document = program.document;
     document.FileName = fileName;
+    document.SavedFile = raw.Seen;
     if (text::EqualNoCase(paths::ExtensionOf(fileName), "hef")) {
         document.DocumentKind = "Event";
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/seen.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -14,7 +16,10 @@ namespace modFile {
 struct RawProposal {
     std::string Bytes;
     std::uintmax_t Length = 0;
+    files::Seen Seen;
 };
+/// Reads a file by its whole path. Throws files::FileError.
+[[nodiscard]] RawProposal ReadProposal(const Program& program, std::string_view path);
 /// Reads a file of `document.FilePath`. Nothing, after a report as "OpenEventFile", when it cannot be read.
 /// Changes nothing.
 [[nodiscard]] std::optional<RawProposal> LoadProposal(Program& program, std::string_view fileName);

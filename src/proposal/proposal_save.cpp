@@ -1,19 +1,19 @@
 #include "proposal/proposal_save.h"
 
 #include "base/files.h"
-#include "base/guard.h"
 #include "base/paths.h"
-#include "base/text.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/titles.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/rewriting.h"
 #include "proposal/file_names.h"
 #include "proposal/long_texts.h"
 #include "proposal/property_file.h"
-#include "proposal/slot_widths.h"
+#include "proposal/proposal_bytes.h"
+#include "proposal/run_marker.h"
 
 #include <string>
 
@@ -31,8 +31,7 @@ void GoToClientName(Program& program) {
 }
 
 void CompareTotals(Program& program) {
-    // A backup comes in the middle of typing and leaves the text under the cursor as it stands.
-    if (program.hooks.TakeFreshFigures && !program.document.BackingUp) {
+    if (program.hooks.TakeFreshFigures) {
         program.hooks.TakeFreshFigures(program);
     } else {
         modTotals::SumAgain(program);
@@ -43,18 +42,18 @@ void CompareTotals(Program& program) {
     }
 }
 
+bool Refused(Program& program) {
+    const bool refused = program.document.Cancelled;
+    program.document.Cancelled = false;
+    return refused;
+}
+
 /// Whether the proposal may be written under its name; asks and tells what there is to ask and tell.
 bool NameIsSettled(Program& program) {
     DocumentState& document = program.document;
-    if (document.FilePath.empty()) {
-        document.FilePath = modFolders::DataFolder(program);
-    }
     if (!document.SaveAsActive && modNames::IllegalFileName(program, document.FileName)) {
         GoToClientName(program);
         return false;
-    }
-    if (document.FileExists && !ClientNameChanged(program)) {
-        return true;
     }
     if (!document.FileExists && !document.HasName()) {
         program.platform.questions.MsgBox(
@@ -62,21 +61,23 @@ bool NameIsSettled(Program& program) {
         GoToClientName(program);
         return false;
     }
-    if (FileIsThere(document.FilePath, document.FileName)) {
+    const std::string path = paths::Join(document.FilePath, document.FileName);
+    if (!files::ExistsExactly(path)) {
+        return true;
+    }
+    if (document.FileExists && !document.SaveAsActive && files::ChangedSince(path, document.SavedFile)) {
+        return MayOverwrite(program, path, document.SavedFile, "proposal");
+    }
+    if (!document.FileExists || ClientNameChanged(program)) {
         modNames::ShowDuplicateFileOptions(program, document.FileName);
-        if (document.Cancelled) {
-            document.Cancelled = false;
-            return false;
-        }
+        return !Refused(program);
     }
     return true;
 }
 
 /// The properties, when one has changed.
 SaveResult SaveProperties(Program& program) {
-    // What a client was sent must print the same when the format is another one.
-    const bool firstUnderFormat = program.format.FormatOpen && !program.document.FileExists;
-    if (!PropertiesChanged(program) && !firstUnderFormat) {
+    if (!PropertiesWanted(program)) {
         return SaveResult::Saved;
     }
     if (program.hooks.AssignPropChanges) {
@@ -86,89 +87,93 @@ SaveResult SaveProperties(Program& program) {
     return SavePropertyFile(program);
 }
 
-std::string MakeBytes(const Program& program) {
-    proposal::Fields fields;
-    for (std::size_t page = 0; page < kEditedPageCount; ++page) {
-        const auto& texts = program.document.CurrentTextBuf[page];
-        fields[page].reserve(texts.size());
-        for (std::size_t index = 0; index < texts.size(); ++index) {
-            // A mark beside nothing says nothing and would come back as a text.
-            const bool marked = page < kLinePageCount &&
-                                program.format.PropTextChanges[page][index].TaxExempt &&
-                                !text::Trim(texts[index]).empty();
-            fields[page].push_back({texts[index], marked});
+/// Where a proposal is written: never among the backups, and one from there as a proposal that has no file
+/// yet. Puts back what it found unless the save was done.
+class Place {
+public:
+    explicit Place(Program& program)
+        : program_(program), folder_(program.document.FilePath), exists_(program.document.FileExists) {
+        DocumentState& document = program.document;
+        document.FilePath = SavingFolder(program);
+        if (document.FilePath != folder_) {
+            document.FileExists = document.FileExists && document.SaveAsActive;
         }
     }
-    return proposal::Encode(fields, SlotWidths(program));
-}
-
-void WriteFile(Program& program) {
-    const DocumentState& document = program.document;
-    const std::string bytes = MakeBytes(program);
-    const std::string folder = document.BackingUp ? modFolders::BackupFolder(program) : document.FilePath;
-    const std::string path = paths::Join(folder, document.FileName);
-    if (files::Exists(path)) {
-        files::Delete(path);
+    ~Place() {
+        if (!taken_) {
+            program_.document.FilePath = folder_;
+            program_.document.FileExists = exists_;
+        }
     }
-    files::WriteWhole(path, bytes);
-}
+    Place(const Place&) = delete;
+    Place& operator=(const Place&) = delete;
+
+    void Take() {
+        taken_ = true;
+        program_.document.FileExists = true;
+        program_.document.FromBackup = false;
+        program_.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
+        program_.main[CommandId::mnuFileDelete].Enabled = true;
+        program_.main.lblDir.Caption = "Current Folder = " + program_.document.FilePath;
+    }
+
+private:
+    Program& program_;
+    std::string folder_;
+    bool exists_;
+    bool taken_ = false;
+};
 
 void SavingSteps(Program& program, SaveResult& result) {
     DocumentState& document = program.document;
-    if (program.hooks.CloseLabelWindow && !document.BackingUp) {
+    if (program.hooks.CloseLabelWindow) {
         program.hooks.CloseLabelWindow(program);
     }
     CompareTotals(program);
+    Place place(program);
     if (!NameIsSettled(program)) {
         return;
     }
     if (program.hooks.CollectQtyBoxes) {
         program.hooks.CollectQtyBoxes(program);
     }
-    if (!document.BackingUp && !MayCutLongTexts(program)) {
+    if (!MayCutLongTexts(program)) {
         return;
     }
+    const std::string path = paths::Join(document.FilePath, document.FileName);
     // Should a write fail, the properties still count as unsaved.
     const bool properties = PropertiesChanged(program);
     const bool propertiesLost = SaveProperties(program) == SaveResult::NotSaved;
     document.SavedStateStale = properties;
+    const std::string bytes = ProposalBytes(program);
+    modRecovery::TellOfSave(program, bytes);
+    WriteOver(path, bytes, document.SavedFile);
     document.TextFileName = std::string(paths::BaseOf(document.FileName)) + ".txt";
     program.format.EditingFormat = false;
-    WriteFile(program);
     document.SavedTextBuf = document.CurrentTextBuf;
-    document.FileExists = true;
     document.SavedStateStale = propertiesLost;
+    place.Take();
     result = SaveResult::Saved;
-    program.main[CommandId::mnuFileDelete].Enabled = true;
-    modTitles::UpdateEventNameLabels(program);
-    if (!document.BackingUp) {
-        program.platform.questions.MsgBox("File was saved as " + document.FileName, Buttons::Ok, "");
+    if (!propertiesLost) {
+        modRecovery::NothingUnsaved(program);
     }
+    modTitles::UpdateEventNameLabels(program);
+    program.platform.questions.MsgBox("File was saved as " + document.FileName, Buttons::Ok, "");
 }
 
 } // namespace
 
-SaveResult SaveEventFile(Program& program) {
-    SaveResult result = SaveResult::NotSaved;
-    const OnLeaving settle([&] { program.document.BackingUp = false; });
-    Guarded(program, "SaveEventFile", [&] { SavingSteps(program, result); });
-    return result;
+std::string SavingFolder(const Program& program) {
+    const std::string& folder = program.document.FilePath;
+    return folder.empty() || paths::SameFolder(folder, modFolders::BackupFolder(program))
+               ? modFolders::DataFolder(program)
+               : folder;
 }
 
-void BackupThisFile(Program& program) {
-    if (program.document.FileName.size() <= 4) {
-        return;
-    }
-    Guarded(program, "BackupThisFile", [&] {
-        // The backup that stands is deleted only where the new one is written: a save that stops at a
-        // question must not cost it.
-        const std::string path = paths::Join(modFolders::BackupFolder(program), program.document.FileName);
-        if (files::Exists(path)) {
-            files::ClearAttributes(path);
-        }
-        program.document.BackingUp = true;
-        SaveEventFile(program);
-    });
+SaveResult SaveEventFile(Program& program) {
+    SaveResult result = SaveResult::NotSaved;
+    Guarded(program, "SaveEventFile", [&] { SavingSteps(program, result); });
+    return result;
 }
 
 bool ClientNameChanged(const Program& program) {

@@ -14,6 +14,7 @@
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/file_names.h"
+#include "proposal/run_marker.h"
 
 #include <array>
 
@@ -27,7 +28,7 @@ bool FormatEditingGoesOn(Program& program) {
     }
     const Answer answer = program.platform.questions.MsgBox(
         "Proceeding with this action will end the editing session of your file format. Continue?",
-        Buttons::YesNo, "Ending Format Editing");
+        Buttons::YesNo, "Ending Format Editing", {.Default = Answer::No, .Lost = program.format.FormatName});
     if (answer == Answer::Yes) {
         program.format.EditingFormat = false;
         return false;
@@ -51,6 +52,12 @@ void ClearNames(Program& program) {
     document.FootnoteFile.clear();
     document.DepositFile.clear();
     document.SavedStateStale = false;
+    document.SavedFile = {};
+    document.PropertiesIgnored = false;
+    document.BackupTrouble.clear();
+    if (!program.guards.StartingUp) {
+        modRecovery::NothingUnsaved(program); // what an earlier run has left is not settled yet
+    }
 }
 
 void ResetPages(Program& program) {
@@ -97,6 +104,7 @@ void EmptyTexts(Program& program) {
         for (TextArea& area : program.pages[page].txt) {
             area.Text.clear();
             area.BackColor = colors::kResting;
+            area.ToolTipText.clear();
         }
     }
     constexpr auto kFinal = static_cast<std::size_t>(kEditedPageCount - 1);
@@ -152,8 +160,10 @@ void TakeFormat(Program& program, bool loadDefault) {
     format.LogoPending = false;
     format.Touched = false;
     if (loadDefault) {
-        format.FormatFolder = paths::Folder(program.settings.DefaultFormatPath);
-        format.FormatName = paths::Name(program.settings.DefaultFormatPath);
+        const std::string path =
+            paths::ResolveDrive(program.settings.DefaultFormatPath, program.folders.Drives);
+        format.FormatFolder = paths::Folder(path);
+        format.FormatName = paths::Name(path);
         format.FormatOpen = true;
     }
     // A format without a logo of its own leaves this one.

@@ -83,7 +83,8 @@ bool Write(Program& program, Known& known, std::string_view name, std::string_vi
     Guarded(program, procedure, [&] {
         const std::string path = paths::Join(FolderOf(program, program.document), name);
         if (files::ChangedSince(path, known.Seen) &&
-            program.platform.questions.MsgBox(question, Buttons::YesNo, "", {.Default = Answer::No}) !=
+            program.platform.questions.MsgBox(question, Buttons::YesNo, "",
+                                              {.Default = Answer::No, .Lost = std::string(name)}) !=
                 Answer::Yes) {
             return;
         }

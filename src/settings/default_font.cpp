@@ -12,17 +12,18 @@ namespace modSettings {
 void SaveFontInForce(Program& program) {
     RunState& run = program.run;
     SettingsRecords& settings = program.settings;
+    if (!Store(program, {{Key::FontName, run.DefaultFontName},
+                         {Key::FontSize, numbers::PlainNumber(run.DefaultFontSize)},
+                         {Key::FontColor, std::to_string(run.DefaultFontColor)},
+                         {Key::FontItalic, run.DefaultFontItalic ? "True" : "False"}})) {
+        return;
+    }
     settings.SavedFontName = run.DefaultFontName;
     settings.SavedFontSize = run.DefaultFontSize;
     settings.SavedFontColor = run.DefaultFontColor;
     settings.SavedFontItalic = run.DefaultFontItalic;
     run.DefaultFontFound =
         std::find(run.FontList.begin(), run.FontList.end(), run.DefaultFontName) != run.FontList.end();
-    SetLine(program, Key::FontName, run.DefaultFontName);
-    SetLine(program, Key::FontSize, numbers::PlainNumber(run.DefaultFontSize));
-    SetLine(program, Key::FontColor, std::to_string(run.DefaultFontColor));
-    SetLine(program, Key::FontItalic, run.DefaultFontItalic ? "True" : "False");
-    SaveUserPreferences(program);
 }
 
 } // namespace modSettings

@@ -1,8 +1,11 @@
 #include "settings/frm_pref.h"
 
+#include "base/text.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "settings/settings.h"
+
+#include <string>
 
 void frmPref::Form_Load(Program& program) {
     const SettingsRecords& settings = program.settings;
@@ -12,33 +15,32 @@ void frmPref::Form_Load(Program& program) {
     chkMinimizeFUT.Value = settings.MinimizeFUT;
     chkACStart.Value = settings.AutoStartPosition != 0;
     chkACEnable.Value = !settings.AutoCompleteWord;
-    chkLoadDefaultFormat.Value = !settings.LoadDefaultFormat;
+    // The run may go without the default format; what is shown here is what the next start will do.
+    chkLoadDefaultFormat.Value = !text::EqualNoCase(
+        text::Trim(modSettings::StoredValue(program, modSettings::Key::LoadDefaultFormat)), "True");
     chkLoadFUT.Value = settings.LoadFUT;
 }
 
 void frmPref::cmdSave_Click(Program& program) {
     using modSettings::Key;
+    const int start = chkACStart.Value ? program.run.ACStartLen : 0;
+    const auto flag = [](bool value) { return std::string(value ? "True" : "False"); };
+    if (!modSettings::Store(program, {{Key::ShowFUT, flag(!chkShowFUT.Value)},
+                                      {Key::ShowCalc, flag(!chkShowCalc.Value)},
+                                      {Key::MinimizeFUT, flag(chkMinimizeFUT.Value)},
+                                      {Key::AutoStartPosition, std::to_string(start)},
+                                      {Key::AutoCompleteWord, flag(!chkACEnable.Value)},
+                                      {Key::LoadDefaultFormat, flag(!chkLoadDefaultFormat.Value)},
+                                      {Key::LoadFUT, flag(chkLoadFUT.Value)}})) {
+        return;
+    }
     SettingsRecords& settings = program.settings;
     settings.ShowFUT = !chkShowFUT.Value;
     settings.ShowCalc = !chkShowCalc.Value;
     settings.MinimizeFUT = chkMinimizeFUT.Value;
-    settings.AutoStartPosition = chkACStart.Value ? program.run.ACStartLen : 0;
+    settings.AutoStartPosition = start;
     settings.AutoCompleteWord = !chkACEnable.Value;
-    settings.LoadDefaultFormat = !chkLoadDefaultFormat.Value;
     settings.LoadFUT = chkLoadFUT.Value;
-    const auto flag = [&](Key key, bool value) {
-        modSettings::SetLine(program, key, value ? "True" : "False");
-    };
-    flag(Key::ShowFUT, settings.ShowFUT);
-    flag(Key::ShowCalc, settings.ShowCalc);
-    flag(Key::MinimizeFUT, settings.MinimizeFUT);
-    modSettings::SetLine(program, Key::AutoStartPosition, std::to_string(settings.AutoStartPosition));
-    flag(Key::AutoCompleteWord, settings.AutoCompleteWord);
-    flag(Key::LoadDefaultFormat, settings.LoadDefaultFormat);
-    flag(Key::LoadFUT, settings.LoadFUT);
-    if (!modSettings::SaveUserPreferences(program)) {
-        return;
-    }
     program.platform.questions.MsgBox("These changes will take effect on your next start.", Buttons::Ok, "");
     modWindows::Close(program, *this);
 }

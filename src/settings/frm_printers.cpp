@@ -31,9 +31,8 @@ void frmPrinters::cmdPrinter_Click(Program& program) {
         return;
     }
     const std::string name = cmbPrinters.Items[static_cast<std::size_t>(cmbPrinters.ListIndex)];
-    if (program.platform.printers.MakeCurrent(name)) {
-        modSettings::SetLine(program, modSettings::Key::DefaultPrinter, name);
-        modSettings::SaveUserPreferences(program);
+    if (program.platform.printers.MakeCurrent(name) &&
+        modSettings::Store(program, {{modSettings::Key::DefaultPrinter, name}})) {
         modSettings::GetUserPreferences(program);
     }
     ListPrinters(program);

@@ -57,7 +57,8 @@ void GetTaxRate(Program& program) {
     ReadTaxRate(program);
     if (program.totals.TaxRate == 0 &&
         program.platform.questions.MsgBox("The current sales tax rate is 0%. Do you want to change it now?",
-                                          Buttons::YesNo, "Sales Tax Rate is 0.0%") == Answer::Yes) {
+                                          Buttons::YesNo, "Sales Tax Rate is 0.0%",
+                                          {.How = Manner::Came::Unasked}) == Answer::Yes) {
         modWindows::Show(program, std::make_unique<frmTax>());
     }
 }

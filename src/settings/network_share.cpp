@@ -9,6 +9,22 @@
 
 namespace modShare {
 
+namespace {
+
+/// What the folder in force holds under the proposal's name is somebody else's.
+void ComeWithoutFile(Program& program) {
+    DocumentState& document = program.document;
+    document.FilePath = program.folders.ProposalsFolder;
+    document.FileExists = false;
+    document.FromBackup = false;
+    document.SavedFile = {};
+    program.main[CommandId::mnuFileDelete].Enabled = false;
+    program.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
+    program.main.lblDir.Caption = "Current Folder = " + document.FilePath;
+}
+
+} // namespace
+
 void RequestNetworkSharePath(Program& program) {
     const std::string prompt =
         "Please enter the network share DRIVE LETTER now, singularly without symbols... i.e., c, d, e, f, g, "
@@ -36,10 +52,14 @@ void RequestNetworkSharePath(Program& program) {
         return;
     }
     const std::string folder = letter ? reply + ":\\" : paths::WithSeparator(reply);
-    modSettings::SetLine(program, modSettings::Key::SharedDirectory, folder);
-    modSettings::SaveUserPreferences(program);
+    const std::string before = program.folders.ProposalsFolder;
+    if (!modSettings::Store(program, {{modSettings::Key::SharedDirectory, folder}})) {
+        return;
+    }
     modSettings::GetUserPreferences(program);
-    program.document.FilePath = program.folders.ProposalsFolder;
+    if (!paths::SameFolder(before, program.folders.ProposalsFolder)) {
+        ComeWithoutFile(program);
+    }
 }
 
 } // namespace modShare

@@ -6,6 +6,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/rewriting.h"
 
 #include <cmath>
 
@@ -36,11 +37,14 @@ void ReadPrinterOffsets(Program& program) {
     program.printing.PrinterOffsetX = 0;
     program.printing.PrinterOffsetY = 0;
     const std::string path = PathOf(program);
+    program.settings.OffsetsFile = {};
     if (!files::Exists(path)) {
         return;
     }
     Guarded(program, "ReadPrinterOffsets", [&] {
+        program.settings.OffsetsFile = {files::Seen::What::Unread, 0, 0};
         const std::string bytes = files::ReadAll(path);
+        program.settings.OffsetsFile = files::SeenIn(bytes);
         const std::size_t x = bytes.find(kXKey);
         const std::size_t y = bytes.find(kYKey);
         if (x != std::string::npos) {
@@ -60,8 +64,9 @@ void SavePrinterOffsets(Program& program) {
         bytes += InchesOf(program.printing.PrinterOffsetX);
         bytes += kYKey;
         bytes += InchesOf(program.printing.PrinterOffsetY);
-        const std::string path = PathOf(program);
-        files::WriteWhole(path, bytes);
+        // Refused: what the other program wrote is kept, and these hold for this run.
+        static_cast<void>(modFile::Rewrite(program, PathOf(program), bytes, program.settings.OffsetsFile,
+                                           "printer offsets file"));
     });
 }
 

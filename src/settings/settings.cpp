@@ -5,8 +5,10 @@
 #include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/rewriting.h"
 #include "settings/printer_offsets.h"
 
 #include <array>
@@ -52,6 +54,40 @@ constexpr std::array<std::string_view, static_cast<std::size_t>(Key::Count)> kKe
                                                                                    "Font Color:",
                                                                                    "Font Italic:",
                                                                                    "Logo Visible:"};
+
+/// What a new installation starts with.
+constexpr std::array<std::string_view, kKeys.size()> kFirstValues{"True",
+                                                                  "",
+                                                                  "HARROWDENE WORKS",
+                                                                  "",
+                                                                  "",
+                                                                  "",
+                                                                  "",
+                                                                  "",
+                                                                  "",
+                                                                  "",
+                                                                  "Event Proposal",
+                                                                  "",
+                                                                  "1080",
+                                                                  "540",
+                                                                  "True",
+                                                                  "2",
+                                                                  "True",
+                                                                  "False",
+                                                                  "False",
+                                                                  "",
+                                                                  "False",
+                                                                  "",
+                                                                  "$",
+                                                                  "",
+                                                                  "False",
+                                                                  "",
+                                                                  "Left=100:Top=1800:Width=4200:Height=6000",
+                                                                  "Times New Roman",
+                                                                  "10",
+                                                                  "0",
+                                                                  "False",
+                                                                  "False"};
 
 /// Lines are told by their place: the key is counted off, never looked for. `shorter` notes a line that has
 /// not even the room of its key.
@@ -244,18 +280,49 @@ void EnsureFolders(Program& program) {
     }
 }
 
-/// Deletes the file that stands. One that could not be read is set aside instead: what it holds is nowhere
-/// else.
-void MakeWayForFile(const Program& program, const std::string& path) {
-    if (program.settings.PrefsRead || program.settings.ReadingPrefs || files::IsFolder(path)) {
-        files::Delete(path);
-        return;
+/// What runs that broke off have left in the middle of writing.
+void RemoveLeftOvers(const Program& program) {
+    for (const std::string& folder : {program.folders.InstallFolder, program.folders.ProposalsFolder,
+                                      modFolders::BackupFolder(program)}) {
+        files::RemoveLeftOvers(folder);
     }
-    const std::string kept = path + ".unread";
-    if (files::Exists(kept)) {
-        files::Delete(kept);
+}
+
+std::string PathOf(const Program& program) {
+    return paths::Join(program.folders.InstallFolder, kFileName);
+}
+
+std::string BytesOf(const std::vector<std::string>& lines) {
+    std::string bytes;
+    for (const std::string& line : lines) {
+        bytes += line;
+        bytes += text::kCrLf;
     }
-    files::Rename(path, kept);
+    return bytes;
+}
+
+/// An installation that has lost its settings gets new ones, and the person is told.
+void MakeSettings(Program& program) {
+    ReportError(program, "GetUserPreferences",
+                files::FileError(files::kNotFound, "File not found: " + PathOf(program)));
+    std::vector<std::string> lines;
+    for (std::size_t at = 0; at < kKeys.size(); ++at) {
+        lines.push_back(std::string(kKeys[at]) + std::string(kFirstValues[at]));
+    }
+    files::WriteWhole(PathOf(program), BytesOf(lines));
+}
+
+void ReadLines(Program& program) {
+    SettingsRecords& settings = program.settings;
+    const std::string path = PathOf(program);
+    settings.SettingsFile = {files::Seen::What::Unread, 0, 0};
+    if (!files::Exists(path) && !files::IsFolder(path)) {
+        settings.SettingsFile = {};
+        MakeSettings(program);
+    }
+    const std::string bytes = files::ReadAll(path);
+    settings.SettingsFile = files::SeenIn(bytes);
+    settings.Lines = text::SplitLines(bytes);
 }
 
 } // namespace
@@ -268,8 +335,7 @@ void GetUserPreferences(Program& program) {
     SettingsRecords& settings = program.settings;
     const ScopedFlag reading(settings.ReadingPrefs);
     Guarded(program, "GetUserPreferences", [&] {
-        settings.Lines =
-            text::SplitLines(files::ReadAll(paths::Join(program.folders.InstallFolder, kFileName)));
+        ReadLines(program);
         Distribute(program);
         if (settings.AppFirstInstance) {
             SetLine(program, Key::AppFirstInstance, "False");
@@ -277,9 +343,12 @@ void GetUserPreferences(Program& program) {
         PutInForce(program);
         SettleFolders(program);
         if (settings.AppFirstInstance) {
-            SaveUserPreferences(program);
+            static_cast<void>(SaveUserPreferences(program)); // told; the next start counts as the first again
         }
         EnsureFolders(program);
+        if (!settings.PrefsRead) {
+            RemoveLeftOvers(program);
+        }
         modOffsets::ReadPrinterOffsets(program);
         settings.PrefsRead = true;
         if (program.hooks.ReadFrequentlyUsedTerms) {
@@ -290,18 +359,30 @@ void GetUserPreferences(Program& program) {
 
 bool SaveUserPreferences(Program& program) {
     // The log has always had this routine under the other's name.
-    return Guarded(program, "RequestNetworkSharePath", [&] {
-        const std::string path = paths::Join(program.folders.InstallFolder, kFileName);
-        std::string bytes;
-        for (const std::string& line : program.settings.Lines) {
-            bytes += line;
-            bytes += text::kCrLf;
-        }
-        if (files::Exists(path)) {
-            MakeWayForFile(program, path);
-        }
-        files::WriteWhole(path, bytes);
+    bool written = false;
+    const bool done = Guarded(program, "RequestNetworkSharePath", [&] {
+        SettingsRecords& settings = program.settings;
+        written = modFile::Rewrite(program, PathOf(program), BytesOf(settings.Lines), settings.SettingsFile,
+                                   "settings file") == modFile::Rewriting::Done;
     });
+    return done && written;
+}
+
+bool Store(Program& program, std::initializer_list<Change> changes) {
+    const std::vector<std::string> before = program.settings.Lines;
+    for (const Change& change : changes) {
+        SetLine(program, change.Of, change.Value);
+    }
+    if (!SaveUserPreferences(program)) {
+        program.settings.Lines = before;
+        return false;
+    }
+    return true;
+}
+
+std::string StoredValue(const Program& program, Key key) {
+    bool shorter = false;
+    return ValueOf(program.settings, key, shorter);
 }
 
 void SetLine(Program& program, Key key, std::string_view value) {
@@ -310,7 +391,11 @@ void SetLine(Program& program, Key key, std::string_view value) {
     while (lines.size() <= at) {
         lines.emplace_back(kKeys[lines.size()]);
     }
-    lines[at] = std::string(KeyText(key)) + std::string(value);
+    std::string line = std::string(KeyText(key)) + std::string(value);
+    // A line is told by its place: one that fell in two would shift all that follow.
+    std::erase_if(line,
+                  [](char character) { return character == '\r' || character == '\n' || character == '\0'; });
+    lines[at] = std::move(line);
 }
 
 } // namespace modSettings

@@ -2,6 +2,7 @@
 
 #include "program/settings_records.h"
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -50,14 +51,25 @@ enum class Key : int {
 /// The key's text with its colon.
 [[nodiscard]] std::string_view KeyText(Key key);
 
-/// Reads, distributes, sets folders and printer. Reports as "GetUserPreferences".
+/// Reads, distributes, sets folders and printer. A file that is not there is told of and made as a new
+/// installation has it. Reports as "GetUserPreferences".
 void GetUserPreferences(Program& program);
 
-/// Rewrites the file from the lines; false when it could not be written. Reports as
-/// "RequestNetworkSharePath", as the log has always had it.
-bool SaveUserPreferences(Program& program);
+/// Rewrites the file from the lines; false when it was not written: a failure, or another program's change
+/// that the person keeps. Reports as "RequestNetworkSharePath", as the log has always had it.
+[[nodiscard]] bool SaveUserPreferences(Program& program);
 
-/// Replaces one line in memory, growing the lines when the file was short.
+/// Changes lines and rewrites the file. When that was not done the lines are as before.
+struct Change {
+    Key Of;
+    std::string Value;
+};
+[[nodiscard]] bool Store(Program& program, std::initializer_list<Change> changes);
+
+/// What a line says in the file, whatever the run has made of it since.
+[[nodiscard]] std::string StoredValue(const Program& program, Key key);
+
+/// Replaces one line in memory, growing the lines when the file was short. Line ends and NUL are left out.
 void SetLine(Program& program, Key key, std::string_view value);
 
 } // namespace modSettings

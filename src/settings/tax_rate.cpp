@@ -6,6 +6,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/rewriting.h"
 
 #include <string>
 
@@ -25,11 +26,13 @@ std::string PathOf(const Program& program) {
 void ReadTaxRate(Program& program) {
     Guarded(program, "GetTaxRate", [&] {
         const std::string path = PathOf(program);
+        program.settings.TaxFile = {files::Seen::What::Unread, 0, 0};
         if (!files::Exists(path)) {
             files::WriteWhole(path, "");
         }
         std::string five = files::ReadUpTo(path, kTaxLength);
         five.resize(kTaxLength, ' ');
+        program.settings.TaxFile = files::LookAt(path);
         program.totals.TaxRate = numbers::ValSingle(five);
     });
 }
@@ -38,9 +41,11 @@ void SaveTaxRate(Program& program, std::string_view rateText) {
     Guarded(program, "SaveTaxRate", [&] {
         std::string five(rateText.substr(0, kTaxLength));
         five.resize(kTaxLength, ' ');
+        if (modFile::Rewrite(program, PathOf(program), five, program.settings.TaxFile, "tax rate") !=
+            modFile::Rewriting::Done) {
+            return;
+        }
         program.totals.TaxRate = numbers::ValSingle(five);
-        const std::string path = PathOf(program);
-        files::WriteWhole(path, five);
         if (program.totals.HasAmounts() && program.hooks.TakeFreshFigures) {
             program.hooks.TakeFreshFigures(program);
         }

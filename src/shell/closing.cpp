@@ -1,12 +1,15 @@
 #include "shell/closing.h"
 
 #include "editing/selection.h"
-#include "format/format_changes.h"
+#include "format/format_save.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "proposal/backup.h"
+#include "proposal/file_names.h"
 #include "proposal/lifecycle.h"
 #include "proposal/property_file.h"
 #include "proposal/proposal_save.h"
+#include "proposal/run_marker.h"
 
 namespace modClosing {
 
@@ -33,22 +36,52 @@ bool MDIForm_QueryUnload(Program& program) {
         return modFormat::MayLeaveFormat(program);
     }
     const Answer answer = program.platform.questions.MsgBox(
-        "The file has been changed. Do you want to save it?", Buttons::YesNoCancel, "Text has been Changed");
+        "The file has been changed. Do you want to save it?", Buttons::YesNoCancel, "Text has been Changed",
+        {.Default = Answer::Yes, .Lost = modNames::UnsavedChanges(program)});
     if (answer == Answer::Yes) {
         // Saving keeps the program open; the person closes a second time.
-        modFile::SaveEventFile(program);
+        static_cast<void>(modFile::SaveEventFile(program));
         return false;
     }
     return answer == Answer::No && modFormat::MayLeaveFormat(program);
+}
+
+void EndRun(Program& program) {
+    program.main.Closing = true;
+    program.run.ProgramClosing = true;
+    modWindows::UnloadAll(program);
+    program.platform.events.Quit();
 }
 
 void MDIForm_Unload(Program& program) {
     if (program.main.Closing) {
         return;
     }
+    modRecovery::TakeMarkerAway(program);
+    EndRun(program);
+}
+
+void KeepUnsaved(Program& program) {
+    if (program.main.Closing || !program.main.Loaded) {
+        return;
+    }
+    modWindows::KeepUnsaved(program);
+    if (modProposal::SomethingChanged(program) || modFile::PropertiesChanged(program)) {
+        modFile::BackupThisFile(program); // the marker stays: the next start offers it
+    } else {
+        modRecovery::NothingUnsaved(program);
+    }
+}
+
+void Interrupted(Program& program) {
+    if (program.main.Closing) {
+        return;
+    }
+    KeepUnsaved(program);
+    if (program.main.Loaded && !program.recovery.Told) {
+        modRecovery::TakeMarkerAway(program);
+    }
     program.main.Closing = true;
-    program.run.ProgramClosing = true;
-    modWindows::UnloadAll(program);
     program.platform.events.Quit();
 }
 

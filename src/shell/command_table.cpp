@@ -1,5 +1,7 @@
 #include "shell/command_table.h"
+#include "spelling/spelling_walk.h"
 
+#include "addresses/address_commands.h"
 #include "calculator/frm_calc.h"
 #include "calendar/frm_dates.h"
 #include "contract/frm_editor.h"
@@ -11,9 +13,9 @@
 #include "editing/columns.h"
 #include "editing/selection.h"
 #include "editing/text_commands.h"
-#include "format/area_font.h"
 #include "format/format_commands.h"
 #include "format/frm_snap.h"
+#include "format/frm_text_props.h"
 #include "format/frm_title.h"
 #include "format/grid.h"
 #include "format/label_designer.h"
@@ -22,6 +24,7 @@
 #include "money/totals.h"
 #include "output/preview.h"
 #include "output/print.h"
+#include "output/text_export.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
@@ -88,11 +91,13 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Name = "mnuFileOpenAddressBook",
           .Caption = "Open Address Book",
           .Parent = mnuFileOpen,
+          .Run = modAddress::mnuFileOpenAddressBook_Click,
           .Shortcut = "Ctrl+B"},
     Entry{.Id = mnuFileOpenTextFile,
           .Name = "mnuFileOpenTextFile",
           .Caption = "Open Text File",
-          .Parent = mnuFileOpen},
+          .Parent = mnuFileOpen,
+          .Run = modProposal::mnuFileOpenTextFile_Click},
     Entry{.Id = mnuFileSaveEvent,
           .Name = "mnuFileSaveEvent",
           .Caption = "&Save Proposal Fi&le",
@@ -107,15 +112,18 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuFileSaveAsText,
           .Name = "mnuFileSaveAsText",
           .Caption = "Save Proposal as Simple &Text File",
-          .Parent = mnuFile},
+          .Parent = mnuFile,
+          .Run = modExport::mnuFileSaveAsText_Click},
     Entry{.Id = mnuFileSaveToWord,
           .Name = "mnuFileSaveToWord",
           .Caption = "Export Proposal to &Word for Formatting",
-          .Parent = mnuFile},
+          .Parent = mnuFile,
+          .Run = modExport::mnuFileSaveToWord_Click},
     Entry{.Id = mnuFileCopyProposal,
           .Name = "mnuFileCopyProposal",
           .Caption = "Copy Proposal to Memory (to Paste Elsewhere)",
-          .Parent = mnuFile},
+          .Parent = mnuFile,
+          .Run = modExport::mnuFileCopyProposal_Click},
     Entry{.Id = mnuFileConvertRTF,
           .Name = "mnuFileConvertRTF",
           .Caption = "Convert Proposal to Rich Text Format",
@@ -238,8 +246,11 @@ constexpr std::array<Entry, kCommandCount> kTable{
           .Parent = mnuFileFormat,
           .Run = modFormat::mnuFileFormatDelete_Click},
     Entry{.Id = mnuEdit, .Name = "mnuEdit", .Caption = "&Edit", .What = Kind::Menu},
-    Entry{
-        .Id = mnuEditCompInfo, .Name = "mnuEditCompInfo", .Caption = "Edit Company Info", .Parent = mnuEdit},
+    Entry{.Id = mnuEditCompInfo,
+          .Name = "mnuEditCompInfo",
+          .Caption = "Edit Company Info",
+          .Parent = mnuEdit,
+          .Run = modAddress::mnuEditCompInfo_Click},
     Entry{.Id = mnuEditTitles,
           .Name = "mnuEditTitles",
           .Caption = "Proposal Page Titles and Subtitles",
@@ -248,7 +259,8 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuEditSpellCheck,
           .Name = "mnuEditSpellCheck",
           .Caption = "Chec&k Spelling",
-          .Parent = mnuEdit},
+          .Parent = mnuEdit,
+          .Run = modSpelling::mnuEditSpellCheck_Click},
     Entry{.Id = mnuEditFind,
           .Name = "mnuEditFind",
           .Caption = "&Find",
@@ -573,11 +585,13 @@ constexpr std::array<Entry, kCommandCount> kTable{
     Entry{.Id = mnuOptCopyToPersonalAddressBook,
           .Name = "mnuOptCopyToPersonalAddressBook",
           .Caption = "Add Proposal Client to Personal Style Address Book",
-          .Parent = mnuOpt},
+          .Parent = mnuOpt,
+          .Run = modAddress::mnuOptCopyToPersonalAddressBook_Click},
     Entry{.Id = mnuOptCopyToBusinessAddressBook,
           .Name = "mnuOptCopyToBusinessAddressBook",
           .Caption = "Add Proposal Client to Business Style Address Book",
-          .Parent = mnuOpt},
+          .Parent = mnuOpt,
+          .Run = modAddress::mnuOptCopyToBusinessAddressBook_Click},
     Entry{.Id = mnuOptUnderline,
           .Name = "mnuOptUnderline",
           .Caption = "Underline Main Categories when Printing",

@@ -272,7 +272,7 @@ void FieldMouseDown(Program& program, const FieldRef& field, int button, int shi
     modBlocks::FinishMove(program);
     PutCursor(program, field, selStart, selLength);
     if (program.designer.LabelMode) {
-        program.designer.FocusBefore.reset();
+        program.designer.FocusBefore = field;
         modLabelKeys::Leave(program);
     }
     modFields::GiveFocus(program, field);

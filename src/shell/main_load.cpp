@@ -11,9 +11,11 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "proposal/old_files.h"
+#include "proposal/recovery.h"
 #include "proposal/reset.h"
 #include "settings/frm_tax.h"
 #include "settings/settings.h"
+#include "shell/closing.h"
 #include "shell/command_table.h"
 #include "shell/load_fonts.h"
 #include "shell/tool_buttons.h"
@@ -103,17 +105,32 @@ void LoadSteps(Program& program) {
 
 } // namespace
 
-void MDIForm_Load(Program& program) {
+namespace {
+
+bool Load(Program& program) {
     const ScopedFlag keep(program.guards.KeepPageContent);
     const ScopedFlag starting(program.guards.StartingUp);
+    // Whatever fails below, nobody meets half a page.
+    for (const PageId page : kAllPages) {
+        modPages::BuildPage(program, page);
+    }
     commands::LoadDesignState(program);
     program.main.imgPage[0].Pointer = MousePointer::Hand;
     modToolButtons::LoadPageButtonCursors(program);
     program.main.State = WindowState::Maximised;
-    if (!Guarded(program, "MDIForm_Load", [&] { LoadSteps(program); })) {
+    return Guarded(program, "MDIForm_Load", [&] { LoadSteps(program); });
+}
+
+} // namespace
+
+void MDIForm_Load(Program& program) {
+    if (!Load(program)) {
         program.platform.questions.MsgBox("Error encountered during Load Process.", Buttons::Ok, "");
+        modClosing::EndRun(program);
+        return;
     }
     program.main.Loaded = true;
+    modRecovery::OfferWhatWasFound(program);
 }
 
 } // namespace modMain

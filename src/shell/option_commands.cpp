@@ -1,11 +1,14 @@
 #include "shell/option_commands.h"
 
 #include "base/files.h"
-#include "base/paths.h"
+#include "base/text.h"
 #include "pages/row_fields.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "proposal/backup.h"
+#include "proposal/lifecycle.h"
+#include "proposal/property_file.h"
 #include "settings/default_font.h"
 #include "settings/settings.h"
 
@@ -41,8 +44,7 @@ void mnuOptCurrencySymbol_Click(Program& program) {
     }
     program.settings.CurrencySymbol = symbol;
     modPages::ShowCurrency(program);
-    modSettings::SetLine(program, modSettings::Key::CurrencySymbol, symbol);
-    if (!modSettings::SaveUserPreferences(program)) {
+    if (!modSettings::Store(program, {{modSettings::Key::CurrencySymbol, symbol}})) {
         Tell(program, "Error encountered while creating new Currency Symbol.");
         return; // the symbol stands for this run; the file would only give the old one back
     }
@@ -55,19 +57,30 @@ void mnuOptSetDefaultFonts_Click(Program& program) {
 }
 
 void mnuOptEmptyBackup_Click(Program& program) {
+    const std::string folder = modFolders::BackupFolder(program);
     if (program.platform.questions.MsgBox("Are you sure you want to delete all the Backup files?",
-                                          Buttons::YesNo,
-                                          "Preparing to Delete Backup Files") != Answer::Yes) {
+                                          Buttons::YesNo, "Preparing to Delete Backup Files",
+                                          {.Default = Answer::No, .Lost = "All backups in " + folder}) !=
+        Answer::Yes) {
         return;
     }
     Guarded(program, "mnuOptEmptyBackup", [&] {
-        const std::string folder = modFolders::BackupFolder(program);
-        const std::vector<std::string> found =
+        std::vector<std::string> found =
             files::IsFolder(folder) ? files::List(folder, "*.hef") : std::vector<std::string>{};
+        // What is typed and not saved stands in this one alone.
+        const bool unsaved = modProposal::SomethingChanged(program) || modFile::PropertiesChanged(program);
+        const std::string kept = unsaved ? modFile::BackupNameOf(program) : std::string();
+        const bool keeps = std::erase(found, kept) > 0;
         for (const std::string& name : found) {
-            files::Delete(paths::Join(folder, name));
+            modFile::DeleteBackup(program, name);
         }
-        Tell(program, found.empty() ? "No Backup Files Found" : "All files have been deleted from Backup");
+        std::string told =
+            found.empty() ? "No Backup Files Found" : "All files have been deleted from Backup";
+        if (keeps) {
+            told += std::string(text::kCrLf) +
+                    "The backup of the proposal on show was kept: it has unsaved changes.";
+        }
+        Tell(program, told);
     });
 }
 

@@ -6,6 +6,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "proposal/run_marker.h"
 #include "settings/settings.h"
 #include "shell/frm_splash.h"
 
@@ -73,6 +74,7 @@ StartResult Main(Program& program) {
             result = StartResult::Ended;
             return;
         }
+        modRecovery::SetMarker(program);
         auto& splash = static_cast<frmSplash&>(modWindows::Show(program, std::make_unique<frmSplash>()));
         splash.GatherFourCorners(program);
     });

@@ -9,11 +9,12 @@
 #include "editing/selection.h"
 #include "editing/text_menu.h"
 #include "editing/typing.h"
-#include "format/format_changes.h"
 #include "format/format_file.h"
+#include "format/format_save.h"
 #include "format/frm_label_props.h"
 #include "format/property_file.h"
 #include "output/page_count.h"
+#include "output/text_file.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
 #include "terms/completion.h"
@@ -64,6 +65,7 @@ void Wire(Program& program) {
     hooks.PageKey = modScroll::PageKey;
     hooks.UpdateTextMenu = modBlocks::UpdateTextMenu;
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
+    hooks.ReadTextFile = modExport::ReadTextFile;
     hooks.MoveBlock = modBlocks::MoveBlockByKey;
     hooks.TakeFreshFigures = modFigures::TakeFresh;
     hooks.ReadEventDates = modCalendar::ReadEventDatesAtStart;

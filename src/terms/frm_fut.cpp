@@ -188,13 +188,13 @@ void frmFUT::mnuFileDelete_Click(Program& program) {
 void frmFUT::mnuFileDefaultFUT_Click(Program& program) {
     program.settings.FrequentTermsFile = program.run.FUTFileName;
     modSettings::SetLine(program, modSettings::Key::FrequentTermsFile, program.run.FUTFileName);
-    modSettings::SaveUserPreferences(program);
+    static_cast<void>(modSettings::SaveUserPreferences(program)); // a failure has been told
 }
 
 void frmFUT::mnuWindowSavePosition_Click(Program& program) {
     program.settings.FUTPosition = {Left, Top, Width, Height};
     modSettings::SetLine(program, modSettings::Key::FUTPosition, PlaceText(*this));
-    modSettings::SaveUserPreferences(program);
+    static_cast<void>(modSettings::SaveUserPreferences(program)); // a failure has been told
 }
 
 void frmFUT::lstMoreFUT_Move(int row) {

@@ -16,7 +16,7 @@ namespace modTerms {
 
 namespace {
 
-const Manner kHarmlessIsNo{.Default = Answer::No};
+const Manner kKeepsByDefault{.Default = Answer::No};
 constexpr std::string_view kDefaultList = "Default Terms.fut";
 constexpr std::string_view kWeddingList = "Wedding Terms.fut";
 constexpr std::string_view kExtension = ".fut";
@@ -79,7 +79,7 @@ void CreateNewFUTFile(Program& program) {
         name = *taken;
         if (program.platform.questions.MsgBox("File already exists. Overwrite?", Buttons::YesNo,
                                               "Duplicate Frequent Terms File Exists",
-                                              kHarmlessIsNo) != Answer::Yes) {
+                                              kKeepsByDefault) != Answer::Yes) {
             return;
         }
     }
@@ -107,7 +107,7 @@ bool DeleteList(Program& program, std::string_view fileName) {
     }
     const std::string question =
         "Delete the list " + std::string(ListName(fileName)) + " with " + std::to_string(*count) + " terms?";
-    if (program.platform.questions.MsgBox(question, Buttons::YesNo, "", kHarmlessIsNo) != Answer::Yes) {
+    if (program.platform.questions.MsgBox(question, Buttons::YesNo, "", kKeepsByDefault) != Answer::Yes) {
         return false;
     }
     if (!Guarded(program, "mnuFileDelete", [&] { files::Delete(path); })) {

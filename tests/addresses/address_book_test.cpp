@@ -202,11 +202,13 @@ TEST(AddressBook, ATextOverItsLimitTurnsRedAndIsCutOnlyAfterAYes) {
     EXPECT_EQ(window.txt[4].ToolTipText, "Maximum characters for this field = 20. Please adjust.");
     const std::string words =
         "These texts are longer than their place in the file and will be cut:\r\nHome Phone";
-    run.Questions().Expect(words, Answer::Cancel);
+    run.Questions().Expect(words, Answer::No);
     window.cmdSave_Click(run.program);
+    EXPECT_EQ(run.Questions().Manners.back().Default, Answer::No);
+    EXPECT_EQ(run.Questions().Manners.back().Words, (std::vector<std::string>{"Save Anyway", "Cancel"}));
     EXPECT_EQ(run.ReadBook(), "");
     EXPECT_EQ(run.Text(4).size(), 21U);
-    run.Questions().Expect(words, Answer::Ok);
+    run.Questions().Expect(words, Answer::Yes);
     window.cmdSave_Click(run.program);
     EXPECT_EQ(run.ReadBook(), AddressRun::Record({"Ann Ash", "", "", "", std::string(20, '1')}));
 }
@@ -539,7 +541,7 @@ TEST(AddressBook, AnOpenWindowKeepsItsRecordWhenItsCommandComesAgain) {
     modAddress::mnuFileOpenAddressBook_Click(run.program);
     EXPECT_EQ(&run.Window(), &window);
     EXPECT_EQ(run.Text(1), "typed");
-    EXPECT_TRUE(window.ToFront);
+    EXPECT_EQ(window.FrontCalls, 1);
     EXPECT_FALSE(window.Minimised);
 }
 

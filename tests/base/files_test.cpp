@@ -45,6 +45,15 @@ TEST(Files, WhatIsNoRegularFileIsRefusedAndNeverWaitedFor) {
     EXPECT_TRUE(files::IsFolder(folder / "folder"));
 }
 
+TEST(Files, AReadThatBreaksOffIsTold) {
+    const ScratchFolder folder;
+    // Its first page is nobody's: it opens as any file and then cannot be read.
+    std::filesystem::create_symlink("/proc/self/mem", folder / "broken");
+    EXPECT_THROW(static_cast<void>(files::ReadAll(folder / "broken")), files::FileError);
+    EXPECT_THROW(static_cast<void>(files::ReadUpTo(folder / "broken", 5)), files::FileError);
+    EXPECT_THROW(static_cast<void>(files::ReadHead(folder / "broken", 5)), files::FileError);
+}
+
 TEST(Files, NamesAreFoundWithoutRegardToCaseAnExactOneFirst) {
     const ScratchFolder folder;
     folder.Write("Backup/Jane.HEF", "upper");

@@ -94,7 +94,26 @@ TEST(BandOnScreen, StartsFromAnyCornerAndReachesBeyondThePage) {
     EXPECT_EQ(QApplication::focusWidget(), &run.Field(Text(0)));
 }
 
-TEST(BandOnScreen, MayBeginOnALabel) {
+TEST(BandOnScreen, MayBeginOnTheWordsOfARow) {
+    BlockDesk run;
+    run.Click(kSecond, 3);
+    run.Press(Qt::Key_F8);
+    run.Click(kSecond, 20);
+    const PageLabel& each = run.Second().lblEach[3];
+    ASSERT_TRUE(each.Visible);
+    const double x = static_cast<double>(each.Left) + 40;
+    const double y = static_cast<double>(each.Top) + 120;
+    const QWidget* under = run.window->childAt(run.At(x, y));
+    ASSERT_NE(under, nullptr);
+    ASSERT_EQ(under->objectName(), QStringLiteral("lblEach(3)"));
+    run.MousePress(x, y);
+    run.MouseMove(600, 1700);
+    EXPECT_TRUE(run.Second().shpSelect.Visible);
+    run.MouseRelease(600, 1700);
+    EXPECT_FALSE(run.Second().shpSelect.Visible);
+}
+
+TEST(BandOnScreen, ACaptionIsTakenInTheHandInstead) {
     BlockDesk run;
     run.Fill(36, "12");
     run.Click(kSecond, 20);
@@ -102,11 +121,9 @@ TEST(BandOnScreen, MayBeginOnALabel) {
     ASSERT_TRUE(sign.Visible) << "the currency sign of row 3";
     const double x = static_cast<double>(sign.Left) + 40;
     const double y = static_cast<double>(sign.Top) + 120;
-    const QWidget* under = run.window->childAt(run.At(x, y));
-    ASSERT_NE(under, nullptr);
-    ASSERT_EQ(under->objectName(), QStringLiteral("lbl(4)"));
-    run.Drag(x, y, 600, 1700);
-    EXPECT_TRUE(run.Blue(0) && run.Blue(2));
+    run.MousePress(x, y);
+    EXPECT_EQ(run.program.designer.CurrentLabel, 4);
+    run.MouseRelease(x, y);
     EXPECT_FALSE(run.Blue(3));
 }
 

@@ -55,7 +55,9 @@ public:
                       .clock = recording.clock,
                       .instance = recording.instance,
                       .pictures = recording.pictures,
-                      .events = events};
+                      .events = events,
+                      .words = recording.words,
+                      .dictionaries = recording.dictionaries};
     Program program{platform};
     std::unique_ptr<FrmMainView> window;
 };

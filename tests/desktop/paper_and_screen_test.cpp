@@ -192,6 +192,7 @@ private:
         pic.Top = 905;
         pic.Tag.clear();
         pic.Visible = true;
+        program.settings.LogoVisible = true;
         On(PageId::frmP1).HasLogo = true;
     }
 };

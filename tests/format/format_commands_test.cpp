@@ -427,7 +427,6 @@ TEST(ChooserKinds, ATextFileIsShownAndTheProposalIsLeftAlone) {
     run.Chooser().FileList1_Click(run.program, 0);
     run.Chooser().cmdOpenOK_Click(run.program);
     EXPECT_EQ(shown, run.folder / "Proposals/notes.txt");
-    EXPECT_EQ(run.program.document.TextFileName, "notes.txt");
     EXPECT_EQ(run.program.document.FilePath, run.folder / "Proposals/");
     EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "Hall");
 }

@@ -96,7 +96,7 @@ class Display:
         return program, Person(self, program, place)
 
     def tool(self, *words):
-        return subprocess.run(["xdotool", *words], env=self.env, capture_output=True, text=True, check=False, timeout=60).stdout.strip()
+        return subprocess.run(["xdotool", *words], env=self.env, capture_output=True, text=True, check=False, timeout=60).stdout.strip("\n")
 
     def close(self):
         for program in self.programs:
@@ -209,6 +209,9 @@ def starts(display, folder, **options):
     person.presses("Return")
     person.sees("Quillbrook")
     person.settles()
+    if person.asks("text", "qt_msgbox_label") == "No Events Found":  # a folder without proposals
+        person.presses("Return")
+        person.sees("Quillbrook")
     return program, person
 
 

@@ -5,6 +5,7 @@
 #include "pages/page_marks.h"
 #include "proposal/property_file.h"
 #include "proposal/proposal_save.h"
+#include "proposal/reset.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -226,6 +227,9 @@ TEST(FinalPage, ADepositThatIsNoNumberStaysAndCountsAsNothing) {
     modTotals::SumAgain(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "-") << "the text stays for the person to mend";
     EXPECT_EQ(run.Area(PageId::frmP6, 4).BackColor, colors::kOverLimit);
+    static_cast<void>(modReset::StartNewFile(run.program));
+    EXPECT_EQ(run.Area(PageId::frmP6, 4).ToolTipText, "") << "it goes with its proposal";
+    modFields::TypeText(run.program, {PageId::frmP6, FieldKind::txt, 4}, "-", 1, 0);
     modFields::TypeText(run.program, {PageId::frmP6, FieldKind::txt, 4}, "40", 2, 0);
     EXPECT_EQ(run.program.totals.Deposit, 40);
     EXPECT_EQ(run.Area(PageId::frmP6, 4).ToolTipText, "");

@@ -105,6 +105,16 @@ TEST(Chooser, OkReadsTheProposalAndCloses) {
     EXPECT_FALSE(modProposal::SomethingChanged(run.program));
 }
 
+TEST(Chooser, AnOpenedProposalShowsItsFirstPage) {
+    Choosing run;
+    run.program.hooks.UpdatePageButtons(run.program, IndexOf(PageId::frmP4));
+    frmFile& window = run.Show();
+    run.Select(window, "Jane Roe.hef");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_EQ(run.program.main.PageInFront, PageId::frmP1);
+    EXPECT_TRUE(run.program.pages[PageId::frmP1].Visible);
+}
+
 TEST(Chooser, AnOldExtensionCountsAsAProposal) {
     Choosing run;
     run.program.document.FileFilter = "*.hwf";

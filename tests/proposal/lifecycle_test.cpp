@@ -1,4 +1,5 @@
 #include "program/windows.h"
+#include "proposal/backup.h"
 #include "proposal/file_names.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"

@@ -56,7 +56,7 @@ TEST(Links, SavingFollowsTheLinkToItsTarget) {
     typist.Click(PageId::frmP1, 9);
     typist.Type("Second floor");
     run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
-    modFile::SaveEventFile(run.program);
+    EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
     EXPECT_TRUE(run.IsLink("Proposals/Jane Roe.hef"));
     EXPECT_NE(run.folder.Read("Disk/Jane Roe.hef").find("Second floor"), std::string::npos);
 }

@@ -217,7 +217,7 @@ TEST(OpeningAProposal, AWeddingIsReadAndSavedAsAnEvent) {
     EXPECT_EQ(run.program.document.PageHeading, "Acme Events - Wedding Proposal - ");
     EXPECT_EQ(run.program.run.FUTFileName, "Wedding Terms.fut");
     run.surroundings.questions.Expect("File was saved as A.hef");
-    modFile::SaveEventFile(run.program);
+    EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
     EXPECT_EQ(run.folder.Read("Proposals/A.hef")[20628], ' ');
 }
 
@@ -354,25 +354,6 @@ TEST(SavingAProposal, IntoAFolderThatIsGoneIsReported) {
     EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::NotSaved);
 }
 
-TEST(Backups, AreWrittenQuietlyBelowTheProposals) {
-    RunningProgram run;
-    run.program.document.FileName = "Ann.hef";
-    run.program.document.BaseName = "Ann";
-    run.folder.Write("Proposals/Backup/Ann.hef", "old");
-    modFile::BackupThisFile(run.program);
-    EXPECT_EQ(run.folder.Read("Proposals/Backup/Ann.hef").size(), 20630U);
-    EXPECT_FALSE(run.folder.Has("Proposals/Ann.hef"));
-    EXPECT_FALSE(run.program.document.BackingUp);
-    EXPECT_TRUE(run.program.document.FileExists) << "the steps of saving run in full";
-}
-
-TEST(Backups, NeedAName) {
-    RunningProgram run;
-    run.program.document.FileName = ".hef";
-    modFile::BackupThisFile(run.program);
-    EXPECT_FALSE(run.folder.Has("Proposals/Backup/.hef"));
-}
-
 TEST(Properties, AreKeptAndWrittenBackUnchangedWhileNobodyReadsThem) {
     RunningProgram run;
     const std::string lines =
@@ -384,7 +365,7 @@ TEST(Properties, AreKeptAndWrittenBackUnchangedWhileNobodyReadsThem) {
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
     run.program.format.PropTextChanges[0][20].Dirty = true;
     run.surroundings.questions.Expect("File was saved as A.hef");
-    modFile::SaveEventFile(run.program);
+    EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
     EXPECT_EQ(run.folder.Read("Proposals/A.hpf"), lines);
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
 }

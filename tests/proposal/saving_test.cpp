@@ -243,57 +243,6 @@ TEST(Saving, HiddenTotalsRaiseNoDiscrepancy) {
     EXPECT_EQ(Slot(bytes, 20410 + 80, 20), "0.00                ");
 }
 
-TEST(Backup, IsForgottenWhenTheSaveStopsAtAQuestion) {
-    RunningProgram run;
-    run.folder.Write("Proposals/Ann.hef", "another's");
-    run.folder.Write("Proposals/Backup/Ann.hef", "older backup");
-    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
-    run.surroundings.questions.Expect("A file with this name (Ann.hef)", Answer::No);
-    run.surroundings.questions.Expect("File not saved.");
-    modFile::BackupThisFile(run.program);
-    EXPECT_FALSE(run.program.document.BackingUp);
-    EXPECT_FALSE(run.program.document.FileExists);
-    EXPECT_EQ(run.folder.Read("Proposals/Ann.hef"), "another's");
-    EXPECT_EQ(run.folder.Read("Proposals/Backup/Ann.hef"), "older backup")
-        << "a backup waits for its successor";
-}
-
-TEST(Backup, RefusesAnIllegalNameAsASaveDoes) {
-    RunningProgram run;
-    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "A?B");
-    run.surroundings.questions.Expect("Action Cancelled. File Name cannot include any of");
-    modFile::BackupThisFile(run.program);
-    EXPECT_FALSE(run.program.document.BackingUp);
-    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 2}));
-}
-
-TEST(Backup, ReplacesAReadOnlyOneAndTouchesNeitherFileNorItsName) {
-    RunningProgram run;
-    SaveAnn(run);
-    run.folder.Write("Proposals/Backup/Ann.hef", "older backup");
-    ASSERT_EQ(::chmod((run.folder / "Proposals/Backup/Ann.hef").c_str(), 0444), 0);
-    const std::string before = run.folder.Read("Proposals/Ann.hef");
-    ChangeStreet(run);
-    modFile::BackupThisFile(run.program);
-    EXPECT_EQ(run.folder.Read("Proposals/Ann.hef"), before);
-    EXPECT_EQ(Slot(run.folder.Read("Proposals/Backup/Ann.hef"), 110, 13), "14 Oak Street");
-    EXPECT_EQ(run.program.document.SavedTextBuf[0][3], "14 Oak Street") << "the steps of saving run in full";
-}
-
-TEST(Backup, ThatCannotBeWrittenIsReportedAndEndsWithTheSave) {
-    RunningProgram run;
-    SaveAnn(run);
-    std::filesystem::remove_all(run.folder / "Proposals/Backup");
-    ChangeStreet(run);
-    run.surroundings.questions.Expect("An error occurred in SaveEventFile.");
-    modFile::BackupThisFile(run.program);
-    EXPECT_FALSE(run.program.document.BackingUp);
-    EXPECT_EQ(run.program.document.SavedTextBuf[0][3], "12 Elm Street");
-    run.surroundings.questions.Expect("File was saved as Ann.hef");
-    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
-    EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 110, 13), "14 Oak Street");
-}
-
 TEST(PropertyFile, IsNotMadeByASaveWithoutChangedProperties) {
     RunningProgram run;
     SaveAnn(run);

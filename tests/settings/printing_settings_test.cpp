@@ -115,6 +115,23 @@ TEST(FrmPOffsets, ApplyPutsTheBoxesInForceAndWritesNothing) {
     EXPECT_FALSE(run.folder.Has("Proposals/PrinterOffsets.txt"));
 }
 
+TEST(FrmPOffsets, WhatIsNoNumberIsToldAndChangesNothing) {
+    for (const char* typed : {"1,5", "--", "1.2.3"}) {
+        Offset run;
+        frmPOffsets& window = OpenOffsets(run.program);
+        run.program.printing.PrinterOffsetX = 720;
+        window.txtX.Text = "0.25";
+        window.txtY.Text = typed;
+        run.surroundings.questions.Expect(std::string(typed) + " is not a number and was not taken.");
+        window.cmdOK_Click(run.program);
+        EXPECT_EQ(run.X(), 720.0F) << typed;
+        run.surroundings.questions.Expect(std::string(typed) + " is not a number and was not taken.");
+        window.cmdSavePrinterOffsets_Click(run.program);
+        EXPECT_FALSE(window.Closing);
+        EXPECT_FALSE(run.folder.Has("Proposals/PrinterOffsets.txt"));
+    }
+}
+
 TEST(FrmPOffsets, SavingWritesTheFileAndCloses) {
     Offset run;
     frmPOffsets& window = OpenOffsets(run.program);

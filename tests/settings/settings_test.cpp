@@ -2,11 +2,15 @@
 #include "settings/network_share.h"
 #include "settings/settings.h"
 #include "settings/tax_rate.h"
+#include "support/failing_disk.h"
 #include "support/settled.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <string>
 
 namespace {
@@ -132,17 +136,21 @@ TEST(Settings, AnyOtherStartLeavesTheFileAlone) {
     EXPECT_EQ(run.program.settings.CompanyName, "Acme");
 }
 
-TEST(Settings, AMissingFileIsToldAndEverythingStaysEmpty) {
+TEST(Settings, AMissingFileIsToldAndMadeAsANewInstallationHasIt) {
     Settled run;
+    std::filesystem::remove_all(run.folder / "Proposals");
     run.ExpectReport("GetUserPreferences");
     modSettings::GetUserPreferences(run.program);
     ASSERT_EQ(run.surroundings.questions.Shown.size(), 1U);
     EXPECT_EQ(run.surroundings.questions.Shown[0].Title, "Program Error");
-    EXPECT_FALSE(run.program.settings.PrefsRead);
+    EXPECT_TRUE(run.program.settings.PrefsRead);
     EXPECT_FALSE(run.program.settings.ReadingPrefs);
-    EXPECT_EQ(run.program.folders.ProposalsFolder, "");
-    EXPECT_EQ(run.program.settings.CompanyName, "");
-    EXPECT_FALSE(run.folder.Has("UserPreferences.txt"));
+    EXPECT_EQ(run.program.folders.ProposalsFolder, run.folder / "Proposals/");
+    EXPECT_TRUE(run.folder.Has("Proposals/Backup"));
+    std::ifstream shipped(std::string(QUILLBROOK_SHIPPED_DATA) + "/UserPreferences.txt", std::ios::binary);
+    std::string expected{std::istreambuf_iterator<char>(shipped), std::istreambuf_iterator<char>()};
+    expected.replace(expected.find("True"), 4, "False"); // the first start has passed
+    EXPECT_EQ(run.folder.Read("UserPreferences.txt"), expected);
     EXPECT_NE(run.Log().find("Error Number: 53\r\n"), std::string::npos);
 }
 
@@ -538,6 +546,43 @@ TEST(Settings, AReadOnlyFileIsRewritten) {
     modSettings::SetLine(run.program, Key::CompanyName, "Acme");
     EXPECT_TRUE(modSettings::SaveUserPreferences(run.program));
     EXPECT_EQ(run.folder.Read("UserPreferences.txt"), SettingsFile({{2, "Acme"}}));
+}
+
+TEST(Settings, AnotherProgramsChangeIsAskedAboutAndARefusalChangesNothing) {
+    Settled run;
+    run.folder.Write("UserPreferences.txt", SettingsFile({{2, "Acme"}}));
+    modSettings::GetUserPreferences(run.program);
+    const std::string other = SettingsFile({{2, "Acme and Sons"}});
+    run.folder.Write("UserPreferences.txt", other);
+    const std::vector<std::string> lines = run.program.settings.Lines;
+    run.surroundings.questions.Expect("This settings file was changed by another program", Answer::No);
+    EXPECT_FALSE(modSettings::Store(run.program, {{Key::CompanyName, "Other"}}));
+    EXPECT_EQ(run.folder.Read("UserPreferences.txt"), other);
+    EXPECT_EQ(run.program.settings.Lines, lines);
+    run.surroundings.questions.Expect("This settings file was changed by another program", Answer::Yes);
+    EXPECT_TRUE(modSettings::Store(run.program, {{Key::CompanyName, "Other"}}));
+    EXPECT_NE(run.folder.Read("UserPreferences.txt").find("Company Name:Other"), std::string::npos);
+}
+
+TEST(Settings, AFailedWriteLeavesTheFileAndTheLines) {
+    for (const FailingDisk::Call call :
+         {FailingDisk::Call::Open, FailingDisk::Call::Write, FailingDisk::Call::Flush,
+          FailingDisk::Call::Close, FailingDisk::Call::Rename}) {
+        Settled run;
+        const std::string bytes = SettingsFile({{2, "Acme"}});
+        run.folder.Write("UserPreferences.txt", bytes);
+        modSettings::GetUserPreferences(run.program);
+        const std::vector<std::string> lines = run.program.settings.Lines;
+        run.surroundings.questions.Expect("An error occurred in RequestNetworkSharePath.");
+        {
+            // The file is looked at twice before the write.
+            const bool alsoOfReading = call == FailingDisk::Call::Open || call == FailingDisk::Call::Close;
+            const FailingDisk disk{{call, alsoOfReading ? 3 : 1, EIO, 1}};
+            EXPECT_FALSE(modSettings::Store(run.program, {{Key::CompanyName, "Other"}}));
+        }
+        EXPECT_EQ(run.folder.Read("UserPreferences.txt"), bytes);
+        EXPECT_EQ(run.program.settings.Lines, lines);
+    }
 }
 
 } // namespace

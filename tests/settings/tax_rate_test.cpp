@@ -1,9 +1,12 @@
 #include "program/windows.h"
 #include "settings/frm_tax.h"
 #include "settings/tax_rate.h"
+#include "support/failing_disk.h"
 #include "support/settled.h"
 
 #include <gtest/gtest.h>
+
+#include <cerrno>
 
 #include <string>
 
@@ -73,6 +76,7 @@ TEST(TaxRate, WithoutSettingsTheProgramsOwnFolderHoldsIt) {
 TEST(TaxRate, IsWrittenInFiveCharactersAndTold) {
     Taxed run;
     run.folder.Write("Proposals/SalesTax.txt", "8.25 and more");
+    modTax::GetTaxRate(run.program);
     run.surroundings.questions.ExpectBox({"New Sales Tax Rate is 9.50 %", Buttons::Ok, ""}, Answer::Ok);
     modTax::SaveTaxRate(run.program, "9.50");
     EXPECT_EQ(run.File(), "9.50 ");
@@ -190,6 +194,32 @@ TEST(FrmTax, CancelAndEscapeChangeNothing) {
     EXPECT_TRUE(run.program.windows.Open.empty());
     EXPECT_EQ(run.program.totals.TaxRate, 8.25F);
     EXPECT_FALSE(run.folder.Has("Proposals/SalesTax.txt"));
+}
+
+TEST(TaxRate, AnotherProgramsRateIsAskedAboutAndKeptByNo) {
+    Taxed run;
+    run.folder.Write("Proposals/SalesTax.txt", "8.25 ");
+    modTax::GetTaxRate(run.program);
+    run.folder.Write("Proposals/SalesTax.txt", "7.00 ");
+    run.surroundings.questions.Expect("This tax rate was changed by another program", Answer::No);
+    modTax::SaveTaxRate(run.program, "9.50");
+    EXPECT_EQ(run.File(), "7.00 ");
+    EXPECT_EQ(run.program.totals.TaxRate, 8.25F);
+}
+
+TEST(TaxRate, AFileThatCouldNotBeReadIsKept) {
+    Taxed run;
+    run.folder.Write("Proposals/SalesTax.txt", "8.25 ");
+    {
+        const FailingDisk disk{{FailingDisk::Call::Read, 1, EIO, FailingDisk::kForever}};
+        run.surroundings.questions.Expect("An error occurred in GetTaxRate.");
+        run.surroundings.questions.Expect("The current sales tax rate is 0%.", Answer::No);
+        modTax::GetTaxRate(run.program);
+    }
+    run.surroundings.questions.Expect("New Sales Tax Rate is 9.50 %");
+    modTax::SaveTaxRate(run.program, "9.50");
+    EXPECT_EQ(run.File(), "9.50 ");
+    EXPECT_EQ(run.folder.Read("Proposals/SalesTax.txt.unread"), "8.25 ");
 }
 
 } // namespace

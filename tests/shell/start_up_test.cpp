@@ -218,12 +218,11 @@ TEST(StartUp, AFontThatIsNotThereGivesWayForTheRunOnly) {
 TEST(StartUp, WithoutSettingsItTellsAndStandsBeforeAnEmptyProposal) {
     Starting run;
     std::filesystem::remove(run.folder / "UserPreferences.txt");
-    // Once under the splash, and again when the main window still finds them unread.
-    run.surroundings.questions.Expect("An error occurred in GetUserPreferences.");
     run.surroundings.questions.Expect("An error occurred in GetUserPreferences.");
     EXPECT_EQ(run.Main(), modStart::StartResult::Running);
     EXPECT_TRUE(run.program.main.Loaded);
-    EXPECT_EQ(run.program.folders.ProposalsFolder, "");
+    EXPECT_EQ(run.program.folders.ProposalsFolder, run.folder / "Proposals/");
+    EXPECT_TRUE(run.folder.Has("UserPreferences.txt"));
     EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + run.folder.Path() + "Proposals/");
     Typist typist(run.program);
     typist.Click(PageId::frmP1, 2);
@@ -255,14 +254,17 @@ TEST(StartUp, ARateOfZeroIsAskedForAtEveryStart) {
     EXPECT_TRUE(run.program.main.Loaded);
 }
 
-TEST(StartUp, AFailureOfTheLoadIsReportedAndToldAndTheWindowStands) {
+TEST(StartUp, AFailureOfTheLoadIsReportedAndToldAndTheRunEnds) {
     Starting run;
     run.program.hooks.ReadEventDates = [](Program&) { throw std::runtime_error("no list"); };
     run.surroundings.questions.Expect("An error occurred in MDIForm_Load.");
     run.surroundings.questions.ExpectBox({"Error encountered during Load Process.", Buttons::Ok, ""},
                                          Answer::Ok);
     ASSERT_EQ(run.Main(), modStart::StartResult::Running);
-    EXPECT_TRUE(run.program.main.Loaded);
+    EXPECT_FALSE(run.program.main.Loaded);
+    EXPECT_TRUE(run.program.main.Closing);
+    EXPECT_TRUE(run.surroundings.events.QuitAsked);
+    EXPECT_TRUE(run.program.windows.Open.empty());
     EXPECT_FALSE(run.program.guards.StartingUp);
 }
 

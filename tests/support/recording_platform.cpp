@@ -174,3 +174,49 @@ void CountingEvents::LetEventsRunFor(int milliseconds) {
     Waited += milliseconds;
     LetEventsRun();
 }
+
+void ScriptedWord::Insert(const std::vector<DocumentLine>& lines) {
+    record_.Verbs.emplace_back("Insert");
+    record_.Inserted.push_back(lines);
+    text_.clear();
+    for (const DocumentLine& line : lines) {
+        text_ += line.Text;
+    }
+    if (record_.OnInsert) {
+        record_.OnInsert();
+    }
+}
+
+void ScriptedWord::ToolsSpelling(std::function<void(SpellingEnd)> done) {
+    record_.Verbs.emplace_back("ToolsSpelling");
+    const bool cancel = !record_.CancelAt.empty() && text_ == record_.CancelAt;
+    if (const auto correction = record_.Corrections.find(text_); correction != record_.Corrections.end()) {
+        text_ = correction->second;
+    }
+    done(cancel ? SpellingEnd::Cancelled : SpellingEnd::Complete);
+}
+
+std::unique_ptr<WordService> ScriptedWords::ForWriting(std::string_view name) {
+    Word.Name = name;
+    return Installed ? std::make_unique<ScriptedWord>(Word) : nullptr;
+}
+
+std::unique_ptr<WordService> ScriptedWords::ForSpelling() {
+    if (MakeSpelling) {
+        return MakeSpelling();
+    }
+    return Installed ? std::make_unique<ScriptedWord>(Word) : nullptr;
+}
+
+bool FakeDictionaries::Use(std::string_view language) {
+    if (language == Broken) {
+        return false;
+    }
+    InUse = language;
+    return true;
+}
+
+std::vector<std::string> FakeDictionaries::Suggestions(std::string_view word) const {
+    const auto known = Unknown.find(std::string(word));
+    return known == Unknown.end() ? std::vector<std::string>{} : known->second;
+}

@@ -171,7 +171,14 @@ class FakeClipboard : public Clipboard {
 public:
     std::string Text;
     void Clear() override { Text.clear(); }
+    std::string Html;    ///< the table beside the text
+    std::string Unicode; ///< text that was handed on in UTF-8
     void SetText(std::string_view text) override { Text = text; }
+    void SetTextAndTable(std::string_view text, std::string_view html) override {
+        Text = text;
+        Html = html;
+    }
+    void SetUnicodeText(std::string_view utf8) override { Unicode = utf8; }
     [[nodiscard]] std::string GetText() const override { return Text; }
 };
 
@@ -224,6 +231,60 @@ public:
     void Quit() override { QuitAsked = true; }
 };
 
+/// A word processor that notes what it is told, and answers the spelling check at once from a table.
+class ScriptedWord : public WordService {
+public:
+    struct Record {
+        std::vector<std::string> Verbs;
+        std::vector<std::vector<DocumentLine>> Inserted;
+        std::map<std::string, std::string> Corrections; ///< whole texts, and what the check makes of them
+        std::string CancelAt;                           ///< the text at which the person cancels
+        std::string Name;
+        WrittenDocument Document{"/home/user/Documents/Jane Roe.odt", true};
+        std::function<void()> OnInsert; ///< a test can throw here to be a full disk
+    };
+    explicit ScriptedWord(Record& record) : record_(record) {}
+    void AppShow() override { record_.Verbs.emplace_back("AppShow"); }
+    void FileNew() override { record_.Verbs.emplace_back("FileNew"); }
+    void Insert(const std::vector<DocumentLine>& lines) override;
+    void ToolsSpelling(std::function<void(SpellingEnd)> done) override;
+    void EditSelectAll() override { record_.Verbs.emplace_back("EditSelectAll"); }
+    [[nodiscard]] std::string Selection() const override { return text_ + "\r"; }
+    void FileClose(int saving) override { record_.Verbs.emplace_back("FileClose " + std::to_string(saving)); }
+    void AppClose() override { record_.Verbs.emplace_back("AppClose"); }
+    [[nodiscard]] WrittenDocument Written() const override { return record_.Document; }
+
+private:
+    Record& record_;
+    std::string text_;
+};
+
+class ScriptedWords : public WordServices {
+public:
+    bool Installed = true;
+    ScriptedWord::Record Word;
+    /// A service of a test's own for the spelling check.
+    std::function<std::unique_ptr<WordService>()> MakeSpelling;
+    [[nodiscard]] std::unique_ptr<WordService> ForWriting(std::string_view name) override;
+    [[nodiscard]] std::unique_ptr<WordService> ForSpelling() override;
+};
+
+class FakeDictionaries : public Dictionaries {
+public:
+    std::vector<std::string> Installed{"de_DE", "en_US"};
+    std::string Locale = "en_US";
+    std::string InUse;
+    std::string Broken;                                      ///< cannot be read
+    std::map<std::string, std::vector<std::string>> Unknown; ///< wrong words with what is suggested for them
+    [[nodiscard]] std::vector<std::string> Languages() const override { return Installed; }
+    [[nodiscard]] std::string LocaleLanguage() const override { return Locale; }
+    [[nodiscard]] bool Use(std::string_view language) override;
+    [[nodiscard]] bool Knows(std::string_view word) const override {
+        return !Unknown.contains(std::string(word));
+    }
+    [[nodiscard]] std::vector<std::string> Suggestions(std::string_view word) const override;
+};
+
 /// A platform on which everything is recorded and nothing is shown.
 struct RecordingPlatform {
     ScriptedQuestions questions;
@@ -236,6 +297,8 @@ struct RecordingPlatform {
     FakeInstance instance;
     FakePictures pictures;
     CountingEvents events;
+    ScriptedWords words;
+    FakeDictionaries dictionaries;
     Platform platform{.questions = questions,
                       .measure = measure,
                       .printers = printers,
@@ -245,5 +308,7 @@ struct RecordingPlatform {
                       .clock = clock,
                       .instance = instance,
                       .pictures = pictures,
-                      .events = events};
+                      .events = events,
+                      .words = words,
+                      .dictionaries = dictionaries};
 };

@@ -1,0 +1,172 @@
+#include "desktop/frm_spelling_view.h"
+
+#include "desktop/convert.h"
+#include "desktop/dialog_parts.h"
+#include "program/program.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTextEdit>
+
+#include <array>
+
+FrmSpellingView::FrmSpellingView(Program& program, frmSpelling& window, QWidget* over,
+                                 std::function<void()> afterEvent)
+    : WindowView(program, window, over, std::move(afterEvent)), spelling_(window) {
+    auto* columns = new QGridLayout(this);
+    columns->setContentsMargins(18, 16, 18, 14);
+    columns->setHorizontalSpacing(16);
+    BuildTexts();
+    BuildButtons();
+    Connect();
+    setMinimumWidth(560);
+    FrmSpellingView::Follow();
+    changeTo_->setFocus();
+    changeTo_->selectAll();
+}
+
+void FrmSpellingView::BuildTexts() {
+    auto* columns = static_cast<QGridLayout*>(layout());
+    auto* column = new QVBoxLayout;
+    column->setSpacing(6);
+    area_ = dialog::Words(this, "lblArea", "");
+    column->addWidget(area_);
+    text_ = new QTextEdit(this);
+    text_->setObjectName(QStringLiteral("txtText"));
+    text_->setAccessibleName(tr("Text"));
+    text_->setReadOnly(true);
+    text_->setTabChangesFocus(true);
+    text_->setMinimumHeight(text_->fontMetrics().lineSpacing() * 4);
+    text_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    column->addWidget(text_, 1);
+    word_ = dialog::Words(this, "lblWord", "");
+    column->addWidget(word_);
+    QLabel* change = dialog::Words(this, "lblChangeTo", spelling_.lblChangeTo.Caption);
+    column->addWidget(change);
+    changeTo_ = new QLineEdit(this);
+    changeTo_->setObjectName(QStringLiteral("txtChangeTo"));
+    change->setBuddy(changeTo_);
+    column->addWidget(changeTo_);
+    QLabel* suggestions = dialog::Words(this, "lblSuggestions", spelling_.lblSuggestions.Caption);
+    column->addWidget(suggestions);
+    suggestions_ = new QListWidget(this);
+    suggestions_->setObjectName(QStringLiteral("lstSuggestions"));
+    suggestions->setBuddy(suggestions_);
+    column->addWidget(suggestions_, 2);
+    tooLong_ = dialog::Words(this, "lblTooLong", "");
+    QPalette warning = tooLong_->palette();
+    warning.setColor(QPalette::WindowText, QColor(0xC0, 0, 0));
+    tooLong_->setPalette(warning);
+    column->addWidget(tooLong_);
+    columns->addLayout(column, 0, 0);
+    columns->setColumnStretch(0, 1);
+}
+
+void FrmSpellingView::BuildButtons() {
+    auto* column = new QVBoxLayout;
+    column->setSpacing(6);
+    struct Entry {
+        const char* Name;
+        CommandButton& Record;
+        void (frmSpelling::*Click)(Program&);
+    };
+    for (const Entry& entry : std::initializer_list<Entry>{
+             {"cmdChange", spelling_.cmdChange, &frmSpelling::cmdChange_Click},
+             {"cmdChangeAll", spelling_.cmdChangeAll, &frmSpelling::cmdChangeAll_Click},
+             {"cmdIgnore", spelling_.cmdIgnore, &frmSpelling::cmdIgnore_Click},
+             {"cmdIgnoreAll", spelling_.cmdIgnoreAll, &frmSpelling::cmdIgnoreAll_Click},
+             {"cmdAdd", spelling_.cmdAdd, &frmSpelling::cmdAdd_Click},
+             {"cmdUndo", spelling_.cmdUndo, &frmSpelling::cmdUndo_Click},
+             {"cmdCancel", spelling_.cmdCancel, &frmSpelling::cmdCancel_Click}}) {
+        QPushButton* button = dialog::Button(this, entry.Name, entry.Record);
+        button->setToolTip(convert::ToQString(entry.Record.ToolTipText));
+        column->addWidget(button);
+        buttons_.emplace_back(button, entry.Click);
+        if (entry.Click == &frmSpelling::cmdUndo_Click) {
+            undo_ = button;
+        }
+    }
+    buttons_.front().first->setDefault(true);
+    column->addStretch(1);
+    QLabel* language = dialog::Words(this, "lblLanguage", spelling_.lblLanguage.Caption);
+    column->addWidget(language);
+    language_ = new QComboBox(this);
+    language_->setObjectName(QStringLiteral("cmbLanguage"));
+    language->setBuddy(language_);
+    for (const std::string& name : spelling_.cmbLanguage.Items) {
+        language_->addItem(convert::ToQString(name));
+    }
+    column->addWidget(language_);
+    static_cast<QGridLayout*>(layout())->addLayout(column, 0, 1);
+}
+
+void FrmSpellingView::Connect() {
+    for (const auto& [button, click] : buttons_) {
+        connect(button, &QPushButton::clicked, this,
+                [this, handler = click] { Do([&] { (spelling_.*handler)(program_); }); });
+    }
+    connect(changeTo_, &QLineEdit::textEdited, this,
+            [this](const QString& now) { spelling_.txtChangeTo.Text = convert::ToModel(now); });
+    connect(suggestions_, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (row != spelling_.lstSuggestions.ListIndex) {
+            Do([&] { spelling_.lstSuggestions_Click(program_, row); });
+        }
+    });
+    connect(suggestions_, &QListWidget::itemDoubleClicked, this,
+            [this] { Do([&] { spelling_.cmdChange_Click(program_); }); });
+    connect(language_, &QComboBox::activated, this,
+            [this](int index) { Do([&] { spelling_.cmbLanguage_Click(program_, index); }); });
+}
+
+void FrmSpellingView::FollowText() {
+    const QString text = convert::ToQString(spelling_.txtText.Text);
+    if (text_->toPlainText() != text) {
+        text_->setPlainText(text);
+    }
+    QTextEdit::ExtraSelection mark;
+    mark.cursor = QTextCursor(text_->document());
+    mark.cursor.setPosition(spelling_.txtText.SelStart);
+    mark.cursor.setPosition(spelling_.txtText.SelStart + spelling_.txtText.SelLength,
+                            QTextCursor::KeepAnchor);
+    mark.format.setBackground(palette().highlight());
+    mark.format.setForeground(palette().highlightedText());
+    text_->setExtraSelections({mark});
+    if (text_->textCursor().position() != spelling_.txtText.SelStart) {
+        QTextCursor cursor(text_->document());
+        cursor.setPosition(spelling_.txtText.SelStart);
+        text_->setTextCursor(cursor);
+        text_->ensureCursorVisible();
+    }
+}
+
+void FrmSpellingView::Follow() {
+    WindowView::Follow();
+    area_->setText(convert::ToQString(spelling_.lblArea.Caption));
+    word_->setText(convert::ToQString(spelling_.lblWord.Caption));
+    FollowText();
+    QStringList items;
+    for (const std::string& item : spelling_.lstSuggestions.Items) {
+        items += convert::ToQString(item);
+    }
+    QStringList shown;
+    for (int row = 0; row < suggestions_->count(); ++row) {
+        shown += suggestions_->item(row)->text();
+    }
+    if (items != shown) {
+        suggestions_->clear();
+        suggestions_->addItems(items);
+    }
+    suggestions_->setCurrentRow(spelling_.lstSuggestions.ListIndex);
+    if (convert::ToModel(changeTo_->text()) != spelling_.txtChangeTo.Text) {
+        changeTo_->setText(convert::ToQString(spelling_.txtChangeTo.Text));
+        changeTo_->selectAll();
+    }
+    language_->setCurrentIndex(spelling_.cmbLanguage.ListIndex);
+    tooLong_->setText(convert::ToQString(spelling_.lblTooLong.Caption));
+    tooLong_->setVisible(!spelling_.lblTooLong.Caption.empty());
+    undo_->setEnabled(spelling_.cmdUndo.Enabled);
+}

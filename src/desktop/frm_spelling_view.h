@@ -1,0 +1,35 @@
+#pragma once
+
+#include "desktop/window_views.h"
+#include "spelling/frm_spelling.h"
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QTextEdit;
+
+class FrmSpellingView : public WindowView {
+    Q_OBJECT
+public:
+    FrmSpellingView(Program& program, frmSpelling& window, QWidget* over, std::function<void()> afterEvent);
+    void Follow() override;
+
+private:
+    void BuildTexts();
+    void BuildButtons();
+    void Connect();
+    void FollowText();
+
+    frmSpelling& spelling_;
+    QLabel* area_ = nullptr;
+    QTextEdit* text_ = nullptr;
+    QLabel* word_ = nullptr;
+    QLineEdit* changeTo_ = nullptr;
+    QListWidget* suggestions_ = nullptr;
+    QComboBox* language_ = nullptr;
+    QLabel* tooLong_ = nullptr;
+    QPushButton* undo_ = nullptr;
+    std::vector<std::pair<QPushButton*, void (frmSpelling::*)(Program&)>> buttons_;
+};

@@ -1,0 +1,63 @@
+#include "desktop/message_box.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScreen>
+
+namespace {
+
+constexpr qint64 kHalfSecond = 500;
+/// What icon, margins and frame take beside the text.
+constexpr int kBeside = 140;
+
+} // namespace
+
+MessageBox::MessageBox(Icon icon, const QString& title, const QString& text, StandardButtons buttons,
+                       QWidget* over, Came came)
+    : QMessageBox(icon, title, text, buttons, over), came_(came) {
+    setObjectName(QStringLiteral("MsgBox"));
+    setTextFormat(Qt::PlainText);
+    if (came_ == Came::Unasked) {
+        QApplication::instance()->installEventFilter(this);
+    }
+}
+
+MessageBox::~MessageBox() {
+    QApplication::instance()->removeEventFilter(this);
+}
+
+void MessageBox::KeepLines() {
+    auto* label = findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    const QScreen* place = screen();
+    if (label == nullptr || place == nullptr) {
+        return;
+    }
+    int widest = 0;
+    for (const QString& line : text().split(u'\n')) {
+        widest = qMax(widest, label->fontMetrics().horizontalAdvance(line));
+    }
+    label->setMinimumWidth(qMin(widest + 2, place->availableGeometry().width() - kBeside));
+}
+
+void MessageBox::showEvent(QShowEvent* event) {
+    KeepLines();
+    stands_.start();
+    QMessageBox::showEvent(event);
+}
+
+bool MessageBox::eventFilter(QObject* watched, QEvent* event) {
+    const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease ||
+                     event->type() == QEvent::ShortcutOverride;
+    return (key && stands_.isValid() && stands_.elapsed() < kHalfSecond) ||
+           QMessageBox::eventFilter(watched, event);
+}
+
+void MessageBox::keyPressEvent(QKeyEvent* event) {
+    const Qt::KeyboardModifiers held = event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    if (held == Qt::NoModifier && !event->text().isEmpty() && event->text().front().isLetterOrNumber()) {
+        event->accept(); // a word typed on is no answer
+        return;
+    }
+    QMessageBox::keyPressEvent(event);
+}

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QMessageBox>
+
+/// A message box that is as wide as the lines of its text, as far as the screen goes. Plain letters press no
+/// button; a box that came unasked takes no key in its first half second.
+class MessageBox : public QMessageBox {
+    Q_OBJECT
+public:
+    enum class Came { OnRequest, Unasked };
+    MessageBox(Icon icon, const QString& title, const QString& text, StandardButtons buttons, QWidget* over,
+               Came came);
+    ~MessageBox() override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void KeepLines();
+    Came came_;
+    QElapsedTimer stands_;
+};

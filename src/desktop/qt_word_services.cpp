@@ -1,0 +1,128 @@
+#include "desktop/qt_word_services.h"
+
+#include "base/files.h"
+#include "desktop/convert.h"
+#include "desktop/odt_document.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QStandardPaths>
+#include <QTemporaryFile>
+#include <QUrl>
+
+#include <cerrno>
+
+#include <unistd.h>
+
+namespace {
+
+const QString kOdt = QStringLiteral("application/vnd.oasis.opendocument.text");
+
+class OdtService : public WordService {
+public:
+    explicit OdtService(QString name) : name_(std::move(name)) {}
+
+    void AppShow() override { show_ = true; }
+    void FileNew() override { written_ = {}; }
+    void Insert(const std::vector<DocumentLine>& lines) override {
+        QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        if (folder.isEmpty() || !QDir(folder).exists()) {
+            folder = QDir::homePath();
+        }
+        const QString path = desktop::WriteUnderFreeName(folder, name_, odt::Make(lines));
+        written_.Path = convert::ToModel(path);
+        written_.Opened =
+            show_ && desktop::HasProgramFor(kOdt) && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+    }
+    void ToolsSpelling(std::function<void(SpellingEnd)> done) override { done(SpellingEnd::Complete); }
+    void EditSelectAll() override {}
+    [[nodiscard]] std::string Selection() const override { return {}; }
+    void FileClose(int) override {}
+    void AppClose() override {}
+    [[nodiscard]] WrittenDocument Written() const override { return written_; }
+
+private:
+    QString name_;
+    bool show_ = false;
+    WrittenDocument written_;
+};
+
+[[noreturn]] void Fail(const QString& path, const QString& why) {
+    throw files::FileError(files::kPathAccess, convert::ToModel(path + QStringLiteral(": ") + why));
+}
+
+/// A name that is taken is not an error; anything else is.
+bool PutInPlace(const QString& from, const QString& to) {
+    if (::link(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0) {
+        return true;
+    }
+    if (errno == EEXIST) {
+        return false;
+    }
+    // A file system without second names: a rename, which here never takes a name that is there.
+    if (QFile::exists(to)) {
+        return false;
+    }
+    if (!QFile::rename(from, to)) {
+        Fail(to, QString::fromLocal8Bit(strerror(errno)));
+    }
+    return true;
+}
+
+QStringList ApplicationFolders() {
+    return QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation) +
+           QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
+}
+
+} // namespace
+
+namespace desktop {
+
+QString WriteUnderFreeName(const QString& folder, const QString& name, const QByteArray& bytes) {
+    QTemporaryFile scratch(folder + QStringLiteral("/.quillbrook-XXXXXX"));
+    if (!scratch.open()) {
+        Fail(folder, scratch.errorString());
+    }
+    if (scratch.write(bytes) != bytes.size() || !scratch.flush() || ::fsync(scratch.handle()) != 0) {
+        Fail(folder, scratch.errorString());
+    }
+    scratch.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    constexpr int kMostNames = 10000;
+    for (int number = 1; number < kMostNames; ++number) {
+        const QString suffix = number == 1 ? QString() : QStringLiteral(" (%1)").arg(number);
+        const QString path = folder + QLatin1Char('/') + name + suffix + QStringLiteral(".odt");
+        if (PutInPlace(scratch.fileName(), path)) {
+            return path;
+        }
+    }
+    Fail(folder, QStringLiteral("too many documents of that name"));
+}
+
+bool HasProgramFor(const QString& mimeType) {
+    for (const QString& folder : ApplicationFolders()) {
+        for (const char* list : {"mimeapps.list", "mimeinfo.cache", "defaults.list"}) {
+            QFile file(folder + QLatin1Char('/') + QLatin1String(list));
+            if (!file.open(QIODevice::ReadOnly)) {
+                continue;
+            }
+            const QByteArray wanted = mimeType.toLatin1() + '=';
+            for (const QByteArray& line : file.readAll().split('\n')) {
+                if (line.startsWith(wanted) && line.trimmed().size() > wanted.size()) {
+                    return true;
+                }
+            }
+        }
+    }
+    return false;
+}
+
+} // namespace desktop
+
+std::unique_ptr<WordService> QtWordServices::ForWriting(std::string_view name) {
+    return std::make_unique<OdtService>(convert::ToQString(name));
+}
+
+std::unique_ptr<WordService> QtWordServices::ForSpelling() {
+    return MakeSpelling ? MakeSpelling() : nullptr;
+}

@@ -1,0 +1,193 @@
+#include "output/text_export.h"
+
+#include "base/files.h"
+#include "base/guard.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "editing/columns.h"
+#include "editing/fresh_figures.h"
+#include "money/totals.h"
+#include "output/page_count.h"
+#include "output/proposal_text.h"
+#include "pages/fields.h"
+#include "program/data_folders.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "proposal/file_names.h"
+
+namespace modExport {
+
+namespace {
+
+constexpr std::string_view kScratchFile = "TempClipboardInfo.txt";
+
+/// Where a save would go.
+std::string TargetFolder(const Program& program) {
+    const DocumentState& document = program.document;
+    return document.FromBackup || document.FilePath.empty() ? modFolders::DataFolder(program)
+                                                            : document.FilePath;
+}
+
+void GoToClientName(Program& program) {
+    constexpr int kClientName = 2;
+    if (program.hooks.UpdatePageButtons) {
+        program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
+    }
+    modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, kClientName});
+}
+
+/// The scratch file holds the text while it goes elsewhere. It is a convenience: a folder that takes none
+/// stops nothing.
+class ScratchFile {
+public:
+    ScratchFile(Program& program, std::string_view text)
+        : program_(program), path_(paths::Join(modFolders::DataFolder(program), kScratchFile)) {
+        try {
+            files::WriteWhole(path_, text);
+        } catch (const files::FileError& error) {
+            program.main.Notice = "The scratch file " + path_ + " could not be written: " + error.what();
+        }
+    }
+    ~ScratchFile() {
+        try {
+            if (files::Exists(path_)) {
+                files::Delete(path_);
+            }
+        } catch (const files::FileError&) {
+            program_.main.Notice = "The scratch file " + path_ + " could not be deleted.";
+        }
+    }
+    ScratchFile(const ScratchFile&) = delete;
+    ScratchFile& operator=(const ScratchFile&) = delete;
+
+private:
+    Program& program_;
+    std::string path_;
+};
+
+void TakeFigures(Program& program) {
+    modFigures::TakeFresh(program);
+    modColumns::CollectQtyBoxes(program);
+    modPrint::CountPagesInUse(program);
+    if (!program.totals.TotalsHidden && modTotals::TotalsDiffer(program)) {
+        program.main.cmdReCalc.BackColor = colors::kOverLimit;
+        program.platform.questions.MsgBox(modTotals::DiscrepancyMessage(), Buttons::Ok, "");
+    }
+}
+
+/// Whether the text may be written under the proposal's name; asks and tells what there is to ask and tell.
+bool NameIsSettled(Program& program, const std::string& folder) {
+    DocumentState& document = program.document;
+    const std::string& name = program.exporting.ExportFileName;
+    if (modNames::IllegalFileName(program, name)) {
+        GoToClientName(program);
+        return false;
+    }
+    if (name == ".txt") {
+        program.platform.questions.MsgBox(
+            "Please enter the client's name in the appropriate area and save again.", Buttons::Ok, "");
+        GoToClientName(program);
+        return false;
+    }
+    if (modFile::FileIsThere(folder, name)) {
+        modNames::ShowDuplicateFileOptions(program, folder, name);
+        if (document.Cancelled) {
+            document.Cancelled = false;
+            return false;
+        }
+    }
+    return true;
+}
+
+void WriteTextFile(Program& program) {
+    const std::string folder = TargetFolder(program);
+    program.exporting.ExportFileName =
+        program.document.TextFileName.empty() ? ".txt" : program.document.TextFileName;
+    if (!NameIsSettled(program, folder)) {
+        return;
+    }
+    const std::string path = paths::Join(folder, program.exporting.ExportFileName);
+    files::WriteWhole(path, PlainText(ProposalLines(program)));
+    program.platform.questions.MsgBox("File was saved as " + path, Buttons::Ok, "");
+}
+
+void CopyToClipboard(Program& program) {
+    const std::vector<DocumentLine> lines = ProposalLines(program);
+    const std::string plain = PlainText(lines);
+    const ScratchFile scratch(program, plain);
+    program.platform.clipboard.Clear();
+    program.platform.clipboard.SetTextAndTable(plain, HtmlTable(lines));
+    program.exporting.ExportToClipboard = false;
+    program.platform.questions.MsgBox("Proposal copied to memory.", Buttons::Ok, "");
+}
+
+void ExportToDocument(Program& program) {
+    const std::vector<DocumentLine> lines = ProposalLines(program);
+    const ScratchFile scratch(program, PlainText(lines));
+    SaveAsWordDoc(program, lines);
+}
+
+} // namespace
+
+std::string NoWordProcessorMessage() {
+    return "Cannot find Microsoft Word which is necessary to perform SpellCheck.";
+}
+
+void SaveAsWordDoc(Program& program, const std::vector<DocumentLine>& lines) {
+    Guarded(program, "SaveAsWordDoc", [&] {
+        const std::string name =
+            program.document.BaseName.empty() ? std::string("Proposal") : program.document.BaseName;
+        const std::unique_ptr<WordService> service = program.platform.words.ForWriting(name);
+        if (service == nullptr) {
+            program.platform.questions.MsgBox(NoWordProcessorMessage(), Buttons::Ok, "");
+            return;
+        }
+        service->AppShow();
+        service->FileNew();
+        service->Insert(lines);
+        const WrittenDocument written = service->Written();
+        program.main.Notice = "The proposal was exported to " + written.Path;
+        if (!written.Opened) {
+            program.platform.questions.MsgBox(
+                text::Lines({NoWordProcessorMessage(), "", "The document was written to " + written.Path}),
+                Buttons::Ok, "");
+        }
+    });
+}
+
+void SaveFileAsText(Program& program) {
+    ExportState& state = program.exporting;
+    const OnLeaving settle([&state] {
+        state.ExportToClipboard = false;
+        state.ExportToWord = false;
+    });
+    Guarded(program, "SaveFileAsText", [&] {
+        TakeFigures(program);
+        if (state.ExportToClipboard || state.ExportToWord) {
+            state.ExportFileName = kScratchFile;
+        }
+        if (state.ExportToClipboard) {
+            CopyToClipboard(program);
+        } else if (state.ExportToWord) {
+            ExportToDocument(program);
+        } else {
+            WriteTextFile(program);
+        }
+    });
+}
+
+void mnuFileSaveAsText_Click(Program& program) {
+    SaveFileAsText(program);
+}
+
+void mnuFileCopyProposal_Click(Program& program) {
+    program.exporting.ExportToClipboard = true;
+    SaveFileAsText(program);
+}
+
+void mnuFileSaveToWord_Click(Program& program) {
+    program.exporting.ExportToWord = true;
+    SaveFileAsText(program);
+}
+
+} // namespace modExport

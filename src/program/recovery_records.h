@@ -1,0 +1,22 @@
+#pragma once
+
+#include "base/seen.h"
+
+#include <optional>
+#include <string>
+
+/// A proposal whose changes stand in a backup alone.
+struct UnsavedWork {
+    std::string Folder; ///< of the proposal
+    std::string FileName;
+    std::string Backup; ///< the backup's name in the folder of the backups
+    /// What the last save was about to write. A proposal that holds it is saved, and newer than the backup.
+    files::Seen Saving{};
+    bool operator==(const UnsavedWork&) const = default;
+};
+
+struct RecoveryRecords {
+    bool Marked = false;              ///< the marker of this run stands
+    std::optional<UnsavedWork> Told;  ///< what the marker tells the next start
+    std::optional<UnsavedWork> Found; ///< what an end that was not clean has left
+};

@@ -1,0 +1,118 @@
+#include "proposal/recovery.h"
+
+#include "base/dates.h"
+#include "base/files.h"
+#include "base/paths.h"
+#include "pages/fields.h"
+#include "program/data_folders.h"
+#include "program/errors.h"
+#include "program/program.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_open.h"
+#include "proposal/reset.h"
+#include "proposal/run_marker.h"
+
+#include <exception>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace modRecovery {
+
+namespace {
+
+std::string PropertiesBeside(std::string_view name) {
+    return std::string(paths::BaseOf(name)) + ".hpf";
+}
+
+/// The bytes of a file of exactly that name, when it is there and can be read.
+std::optional<std::string> BytesOf(const std::string& path) {
+    try {
+        return files::ExistsExactly(path) ? std::optional(files::ReadAll(path)) : std::nullopt;
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
+}
+
+/// Whether the backup has nothing that the proposal has not.
+bool SayTheSame(const Program& program, const UnsavedWork& work) {
+    if (work.Saving.Was == files::Seen::What::Bytes &&
+        files::LookAt(paths::Join(work.Folder, work.FileName)) == work.Saving) {
+        return true; // saved after the backup
+    }
+    const std::string backups = modFolders::BackupFolder(program);
+    const std::optional<std::string> properties =
+        BytesOf(paths::Join(backups, PropertiesBeside(work.Backup)));
+    return BytesOf(paths::Join(work.Folder, work.FileName)) == BytesOf(paths::Join(backups, work.Backup)) &&
+           (!properties || properties == BytesOf(paths::Join(work.Folder, PropertiesBeside(work.FileName))));
+}
+
+/// Whatever stands in a field counts as unsaved where it differs from the proposal's own file.
+struct SavedState {
+    bool Exists = false;
+    files::Seen File;
+    decltype(DocumentState::SavedTextBuf) Texts;
+};
+
+SavedState ShowSaved(Program& program, const UnsavedWork& work) {
+    DocumentState& document = program.document;
+    SavedState saved;
+    document.FilePath = work.Folder;
+    if (files::ExistsExactly(paths::Join(work.Folder, work.FileName))) {
+        saved.Exists = modFile::OpenEventFile(program, work.FileName) == modFile::OpenResult::Opened;
+    }
+    saved.File = document.SavedFile;
+    saved.Texts = document.SavedTextBuf;
+    return saved;
+}
+
+void ShowBackup(Program& program, const UnsavedWork& work, const modFile::RawProposal& backup) {
+    DocumentState& document = program.document;
+    const SavedState saved = ShowSaved(program, work);
+    document.FileExists = saved.Exists;
+    if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
+        return;
+    }
+    document.FilePath = work.Folder;
+    modFile::ShowProposal(program, work.FileName, backup);
+    modFile::TakeProperties(program,
+                            paths::Join(modFolders::BackupFolder(program), PropertiesBeside(work.Backup)));
+    document.FileExists = saved.Exists;
+    program.main[CommandId::mnuFileDelete].Enabled = saved.Exists;
+    document.SavedFile = saved.File;
+    program.format.PropertyPath = paths::Join(work.Folder, PropertiesBeside(work.FileName));
+    program.format.PropertySeen = files::LookAt(program.format.PropertyPath);
+    document.SavedTextBuf = saved.Texts;
+    document.SavedStateStale = !program.format.PropertyLines.empty();
+    modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
+}
+
+} // namespace
+
+void OfferWhatWasFound(Program& program) {
+    const std::optional<UnsavedWork> work = std::exchange(program.recovery.Found, std::nullopt);
+    if (!work) {
+        return;
+    }
+    const std::string backup = paths::Join(modFolders::BackupFolder(program), work->Backup);
+    if (!files::ExistsExactly(backup) || SayTheSame(program, *work)) {
+        NothingUnsaved(program);
+        return;
+    }
+    Guarded(program, "OpenEventFile", [&] {
+        const std::string question = "The program did not close properly. The proposal " +
+                                     std::string(paths::BaseOf(work->FileName)) + " has changes from " +
+                                     dates::GeneralDate(files::ModifiedSerial(backup)) +
+                                     " that were not saved. Bring them back?";
+        if (program.platform.questions.MsgBox(question, Buttons::YesNo, "",
+                                              {.Default = Answer::Yes, .How = Manner::Came::Unasked}) !=
+            Answer::Yes) {
+            NothingUnsaved(program);
+            return;
+        }
+        ShowBackup(program, *work, modFile::ReadProposal(program, backup));
+        Restate(program, *work);
+    });
+}
+
+} // namespace modRecovery

@@ -1,0 +1,53 @@
+#include "spelling/personal_dictionary.h"
+
+#include "base/files.h"
+#include "base/paths.h"
+#include "base/text.h"
+#include "program/program.h"
+
+namespace {
+
+std::string PathOf(const Program& program) {
+    return paths::Join(program.folders.InstallFolder, "PersonalDictionary.txt");
+}
+
+} // namespace
+
+void PersonalDictionary::Read(const Program& program) {
+    words_.clear();
+    const std::string path = PathOf(program);
+    if (!files::Exists(path)) {
+        return;
+    }
+    for (const std::string& line : text::SplitLines(files::ReadAll(path))) {
+        if (const std::string_view word = text::Trim(line); !word.empty()) {
+            words_.emplace(word);
+        }
+    }
+}
+
+bool PersonalDictionary::Knows(std::string_view word) const {
+    return words_.contains(std::string(word)) || words_.contains(text::Lower(word));
+}
+
+void PersonalDictionary::Write(const Program& program, const std::set<std::string>& words) {
+    std::string bytes;
+    for (const std::string& word : words) {
+        bytes += word;
+        bytes += text::kCrLf;
+    }
+    files::WriteWhole(PathOf(program), bytes);
+    words_ = words;
+}
+
+void PersonalDictionary::Add(const Program& program, std::string_view word) {
+    std::set<std::string> words = words_;
+    words.emplace(word);
+    Write(program, words);
+}
+
+void PersonalDictionary::Remove(const Program& program, std::string_view word) {
+    std::set<std::string> words = words_;
+    words.erase(std::string(word));
+    Write(program, words);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <set>
+#include <string>
+#include <string_view>
+
+struct Program;
+
+/// The words that the person has added: PersonalDictionary.txt in the program folder, one a line.
+class PersonalDictionary {
+public:
+    /// Reads the file; one that is not there is empty. Throws files::FileError when it cannot be read.
+    void Read(const Program& program);
+    /// Whether the word stands there, as it is or in lower case.
+    [[nodiscard]] bool Knows(std::string_view word) const;
+    /// Adds or takes away a word and writes the file. Throws files::FileError; the words are then as before.
+    void Add(const Program& program, std::string_view word);
+    void Remove(const Program& program, std::string_view word);
+
+private:
+    void Write(const Program& program, const std::set<std::string>& words);
+    std::set<std::string> words_;
+};

@@ -1,0 +1,151 @@
+#include "addresses/address_run.h"
+
+#include "addresses/address_fields.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using address_menu::Id;
+
+struct CompanyRun : AddressRun {
+    CompanyRun() { modAddress::mnuEditCompInfo_Click(program); }
+    [[nodiscard]] std::string Settings() const { return folder.Read("UserPreferences.txt"); }
+    [[nodiscard]] const std::string& Caption(PageId page, int label) { return Label(page, label).Caption; }
+};
+
+TEST(CompanyInfo, ShowsTheEightLinesOfTheSettings) {
+    CompanyRun run;
+    const frmAddress& window = run.Window();
+    EXPECT_EQ(window.Caption, "Company Information");
+    EXPECT_FALSE(window.lstNames.Visible);
+    EXPECT_EQ(run.Text(0), "Acme Events");
+    EXPECT_EQ(window.lblInfo[6].Caption, "Website");
+    EXPECT_EQ(window.lblInfo[9].Caption, "Email");
+    for (const std::size_t hidden : {7U, 8U, 10U, 11U}) {
+        EXPECT_FALSE(window.lblInfo[hidden].Visible) << hidden;
+        EXPECT_TRUE(hidden == 11U || !window.txt[hidden].Visible) << hidden;
+    }
+    EXPECT_EQ(modAddress::NextField(window, 6, modAddress::FieldKey::Enter), 9);
+}
+
+TEST(CompanyInfo, SavingWritesTheSettingsAndThePages) {
+    CompanyRun run;
+    run.Type(0, "Birch & Sons");
+    run.Type(1, "9 Mill Rd");
+    run.Type(6, "birch.example\r\nx");
+    run.Window().cmdSave_Click(run.program);
+    EXPECT_FALSE(run.IsOpen());
+    EXPECT_NE(run.Settings().find("Company Name:Birch & Sons\r\n"), std::string::npos);
+    EXPECT_NE(run.Settings().find("Company Address 1:9 Mill Rd\r\n"), std::string::npos);
+    EXPECT_NE(run.Settings().find("birch.example  x\r\n"), std::string::npos);
+    EXPECT_EQ(run.Caption(PageId::frmP1, 0), "Birch & Sons");
+    EXPECT_EQ(run.Caption(PageId::frmP1, 1), "9 Mill Rd");
+    EXPECT_EQ(run.Caption(PageId::frmP6, 57), "Birch & Sons");
+    EXPECT_EQ(run.Caption(PageId::frmP6_1, 58), "9 Mill Rd");
+    EXPECT_EQ(run.Caption(PageId::frmP6, 51), "Representative for Birch & Sons");
+    EXPECT_TRUE(run.program.document.CompanyBlockPending);
+    EXPECT_EQ(run.program.document.PageHeading, "Birch & Sons - Contract Proposal - ");
+}
+
+TEST(CompanyInfo, LeavesALabelThatHasOtherWords) {
+    CompanyRun run;
+    run.Label(PageId::frmP1, 0).Caption = "By hand";
+    run.Type(0, "Birch & Sons");
+    run.Window().cmdSave_Click(run.program);
+    EXPECT_EQ(run.Caption(PageId::frmP1, 0), "By hand");
+    EXPECT_EQ(run.Caption(PageId::frmP6, 57), "Birch & Sons");
+}
+
+TEST(CompanyInfo, RewordsTheOpenFormatAndSaysThatItsFileIsBehind) {
+    CompanyRun run;
+    FormatRecords& format = run.program.format;
+    format.FormatOpen = true;
+    LabelChangeRecord& name = format.FormatLabelChanges[0][0];
+    name.Changed = true;
+    name.Saved = true;
+    name.Caption = "Acme Events";
+    LabelChangeRecord& other = format.FormatLabelChanges[0][1];
+    other.Changed = true;
+    other.Saved = true;
+    other.Caption = "By hand";
+    run.Type(0, "Birch & Sons");
+    run.Questions().ExpectBox(
+        {"The open format still carries the old lines on disk; save it.", Buttons::Ok, ""}, Answer::Ok);
+    run.Window().cmdSave_Click(run.program);
+    EXPECT_EQ(name.Caption, "Birch & Sons");
+    EXPECT_FALSE(name.Saved);
+    EXPECT_TRUE(other.Saved);
+    EXPECT_TRUE(format.Touched);
+}
+
+TEST(CompanyInfo, WithTheAlternateLetterheadLeavesItEmpty) {
+    CompanyRun run;
+    run.program.run.AltLetterhead = true;
+    run.Label(PageId::frmP1, 1).Caption.clear();
+    run.Type(1, "9 Mill Rd");
+    run.Type(0, "Birch & Sons");
+    run.Window().cmdSave_Click(run.program);
+    EXPECT_EQ(run.Caption(PageId::frmP1, 1), "");
+    EXPECT_EQ(run.Caption(PageId::frmP6, 57), "Birch & Sons");
+}
+
+TEST(CompanyInfo, MovesTheRemittanceLinesOnlyWithTheSecondAddress) {
+    CompanyRun run;
+    const float top = run.Label(PageId::frmP6, 60).Top;
+    run.Type(2, "Suite 2");
+    run.Window().cmdSave_Click(run.program);
+    EXPECT_FLOAT_EQ(run.Label(PageId::frmP6, 60).Top, top + 270);
+    EXPECT_FLOAT_EQ(run.Label(PageId::frmP6_1, 62).Top, top + 270 + 540);
+    modWindows::Sweep(run.program);
+    modAddress::mnuEditCompInfo_Click(run.program);
+    run.Type(2, "Suite 3");
+    run.Window().cmdSave_Click(run.program);
+    EXPECT_FLOAT_EQ(run.Label(PageId::frmP6, 60).Top, top + 270);
+    modWindows::Sweep(run.program);
+    modAddress::mnuEditCompInfo_Click(run.program);
+    run.Type(2, "");
+    run.Window().cmdSave_Click(run.program);
+    EXPECT_FLOAT_EQ(run.Label(PageId::frmP6, 60).Top, top);
+}
+
+TEST(CompanyInfo, AndTheAddressBookExcludeEachOther) {
+    CompanyRun run;
+    const std::string refusal =
+        "The Company Information Window must be closed before you open the Address Book.";
+    run.Questions().ExpectBox({refusal, Buttons::Ok, ""}, Answer::Ok);
+    modAddress::mnuFileOpenAddressBook_Click(run.program);
+    run.Questions().ExpectBox({refusal, Buttons::Ok, ""}, Answer::Ok);
+    modAddress::mnuOptCopyToPersonalAddressBook_Click(run.program);
+    run.Questions().ExpectBox({refusal, Buttons::Ok, ""}, Answer::Ok);
+    modAddress::mnuOptCopyToBusinessAddressBook_Click(run.program);
+    EXPECT_TRUE(run.program.addresses.CompanyInfoMode);
+    AddressRun book;
+    book.Open();
+    book.Questions().ExpectBox(
+        {"Address Book must be closed before you can edit Company Info.", Buttons::Ok, ""}, Answer::Ok);
+    modAddress::mnuEditCompInfo_Click(book.program);
+    EXPECT_FALSE(book.program.addresses.CompanyInfoMode);
+}
+
+TEST(CompanyInfo, ClosingAsksAboutWhatWasTyped) {
+    CompanyRun run;
+    run.Type(5, "555-0199");
+    run.Questions().Expect("The current Record has been changed.", Answer::Cancel);
+    run.Window().Form_Cancel(run.program);
+    ASSERT_TRUE(run.IsOpen());
+    EXPECT_EQ(run.Text(5), "555-0199");
+    run.Questions().Expect("The current Record has been changed.", Answer::Yes);
+    run.Window().Form_Cancel(run.program);
+    EXPECT_FALSE(run.IsOpen());
+    EXPECT_EQ(run.program.settings.CompanyFax, "555-0199");
+}
+
+TEST(CompanyInfo, ALongLineIsNotOverAnyLimit) {
+    CompanyRun run;
+    run.Type(6, std::string(300, 'w'));
+    EXPECT_EQ(run.Window().txt[6].BackColor, colors::kFocused);
+    EXPECT_FALSE(run.Window().Converts(run.program, 0));
+}
+
+} // namespace

@@ -1,0 +1,138 @@
+#include "desktop/desktop_run.h"
+#include "desktop/dialog_parts.h"
+#include "desktop/elided_label.h"
+#include "desktop/message_box.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Came = MessageBox::Came;
+
+struct Box {
+    explicit Box(Came came, const QString& text = QStringLiteral("Delete it?"))
+        : box(QMessageBox::Question, QStringLiteral("Quillbrook"), text, QMessageBox::Yes | QMessageBox::No,
+              nullptr, came) {
+        box.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&box));
+    }
+    MessageBox box;
+};
+
+int TakeFigures(int keyAscii) {
+    return keyAscii >= '0' && keyAscii <= '9' ? keyAscii : 0;
+}
+
+} // namespace
+
+TEST(MessageBox, IsNotAnsweredByAPlainLetter) {
+    Box run(Came::OnRequest);
+    QTest::keyClick(&run.box, Qt::Key_Y);
+    QTest::keyClick(&run.box, Qt::Key_N, Qt::ShiftModifier);
+    QTest::qWait(150); // a pressed button is animated
+    EXPECT_TRUE(run.box.isVisible());
+    QTest::keyClick(&run.box, Qt::Key_Escape);
+    EXPECT_FALSE(run.box.isVisible());
+}
+
+TEST(MessageBox, ThatNobodyAskedForTakesNoKeyInItsFirstHalfSecond) {
+    Box run(Came::Unasked);
+    auto* yes = run.box.button(QMessageBox::Yes);
+    yes->setFocus();
+    QTest::keyClick(yes, Qt::Key_Space);
+    QTest::keyClick(&run.box, Qt::Key_Return);
+    QTest::keyClick(&run.box, Qt::Key_Escape);
+    EXPECT_TRUE(run.box.isVisible());
+    QTest::qWait(550);
+    QTest::keyClick(&run.box, Qt::Key_Escape);
+    EXPECT_FALSE(run.box.isVisible());
+}
+
+TEST(MessageBox, IsAsWideAsItsLinesAndNoWiderThanTheScreen) {
+    const QString line(
+        QStringLiteral("Text cannot be recognized as a date and will become useless for managing "
+                       "your events of this year."));
+    const Box kept(Came::OnRequest, line + QStringLiteral("\nJanuary 15, 2008."));
+    const auto* label = kept.box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    const int needed = label->fontMetrics().horizontalAdvance(line);
+    ASSERT_LT(needed + 160, label->screen()->availableGeometry().width()) << "the line fits on this screen";
+    EXPECT_GE(label->width(), needed);
+    const Box cut(Came::OnRequest, line.repeated(9));
+    EXPECT_LE(cut.box.frameGeometry().width(), cut.box.screen()->availableGeometry().width());
+}
+
+TEST(FilteredEdit, TakesWhatTheModelTakesAndTellsTheRest) {
+    QDialog dialog;
+    QLineEdit* edit = dialog::FilteredEdit(&dialog, "box", QStringLiteral("Box"), TakeFigures);
+    dialog.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    edit->setFocus();
+    QTest::keyClicks(edit, QStringLiteral("1,5"));
+    EXPECT_EQ(edit->text(), QStringLiteral("15"));
+    edit->setCursorPosition(1);
+    edit->insert(QStringLiteral("a2b3"));
+    EXPECT_EQ(edit->text(), QStringLiteral("1235"));
+    EXPECT_EQ(edit->cursorPosition(), 3);
+}
+
+TEST(ElidedLabel, KeepsItsTextWhereItIsCut) {
+    ElidedLabel label(nullptr);
+    label.setText(QStringLiteral("Current Folder = /a/long/way/to/the/proposals/of/the/office"));
+    label.resize(80, 20);
+    EXPECT_EQ(label.text(), QStringLiteral("Current Folder = /a/long/way/to/the/proposals/of/the/office"));
+    const QImage picture = label.grab().toImage();
+    EXPECT_FALSE(picture.isNull());
+}
+
+TEST(WidePage, IsScrolledSideways) {
+    DesktopRun run;
+    auto* bar = run.Find<QScrollBar>("HScroll1");
+    ASSERT_NE(bar, nullptr);
+    EXPECT_FALSE(bar->isVisible()) << "the page fits";
+    run.window->resize(640, 600);
+    QTest::qWait(20);
+    ASSERT_TRUE(bar->isVisible());
+    const QWidget& page = run.window->PageOf(PageId::frmP1);
+    run.Click(PageId::frmP1, 0);
+    EXPECT_EQ(page.x(), -bar->value());
+    bar->setValue(bar->maximum());
+    EXPECT_EQ(page.x() + page.width(), run.Child("desk")->width()) << "its right edge shows";
+    run.Click(PageId::frmP1, 2);
+    EXPECT_EQ(page.x(), -bar->value());
+    run.window->resize(1024, 768);
+    QTest::qWait(20);
+    EXPECT_FALSE(bar->isVisible());
+}
+
+TEST(InputMethod, IsToldTheCaretsTruePlace) {
+    DesktopRun run;
+    run.Click(PageId::frmP1, 20); // ends at the right edge
+    run.Type(QStringLiteral("1250"));
+    TextAreaView& amount = run.Field({PageId::frmP1, FieldKind::txt, 20});
+    const QRectF caret = amount.inputMethodQuery(Qt::ImCursorRectangle).toRectF();
+    EXPECT_GT(caret.x(), amount.width() - 10);
+    EXPECT_LE(caret.right(), amount.width());
+    run.Press(Qt::Key_Home);
+    const QRectF home = amount.inputMethodQuery(Qt::ImCursorRectangle).toRectF();
+    const double width = amount.TextWidth() * run.window->PixelsPerTwip();
+    EXPECT_NEAR(caret.x() - home.x(), width, 2);
+    const auto face = amount.inputMethodQuery(Qt::ImFont).value<QFont>();
+    const double points = static_cast<double>(run.program.pages[PageId::frmP1].txt[20].FontSize);
+    EXPECT_NEAR(face.pixelSize(), points * 20 * run.window->PixelsPerTwip(), 1);
+}
+
+TEST(ScreenReader, HearsTheCaptionBesideAField) {
+    DesktopRun run;
+    EXPECT_EQ(run.Field({PageId::frmP1, FieldKind::txt, 2}).accessibleName(),
+              QStringLiteral("Client's Name"));
+    run.program.pages[PageId::frmP1].lbl[12].Caption = "Host";
+    run.window->AfterEvent();
+    EXPECT_EQ(run.Field({PageId::frmP1, FieldKind::txt, 2}).accessibleName(), QStringLiteral("Host"));
+}

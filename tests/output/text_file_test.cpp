@@ -1,0 +1,95 @@
+#include "output/text_file.h"
+
+#include "output/frm_text_file.h"
+#include "program/windows.h"
+#include "support/running_program.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace {
+
+TEST(TextFile, TellsUtf8FromTheProgramsOwnCharacters) {
+    EXPECT_EQ(modExport::DecodeTextFile("caf\xC3\xA9"), "caf\xC3\xA9");
+    EXPECT_EQ(modExport::DecodeTextFile("caf\xE9"), "caf\xC3\xA9");
+    EXPECT_EQ(modExport::DecodeTextFile("\xEF\xBB\xBFtext"), "text") << "the mark is no text";
+    EXPECT_EQ(modExport::DecodeTextFile("\xE2\x82\xAC 5"), "\xE2\x82\xAC 5");
+    EXPECT_EQ(modExport::DecodeTextFile("\x80 5"), "\xE2\x82\xAC 5");
+    EXPECT_EQ(modExport::DecodeTextFile("\xC0\x80"), "\xC3\x80\xE2\x82\xAC")
+        << "an overlong sequence is none";
+    EXPECT_EQ(modExport::DecodeTextFile("\xED\xA0\x80"), "\xC3\xAD\xC2\xA0\xE2\x82\xAC")
+        << "nor is half a pair";
+    EXPECT_EQ(modExport::DecodeTextFile("ab\xE2\x82"), "ab\xC3\xA2\xE2\x80\x9A") << "nor is one cut short";
+}
+
+TEST(TextFile, TakesEveryKindOfLineEnd) {
+    EXPECT_EQ(modExport::DecodeTextFile("a\r\nb\rc\nd\r"), "a\nb\nc\nd\n");
+}
+
+TEST(TextFile, ShowsInAWindowOfItsOwnAndLeavesTheProposalAlone) {
+    RunningProgram run;
+    run.folder.Write("Proposals/Notes.txt", "one\r\ntwo");
+    run.program.document.TextFileName = "Jane Roe.txt";
+    modExport::ReadTextFile(run.program, run.folder / "Proposals/Notes.txt");
+    auto* window = dynamic_cast<frmTextFile*>(modWindows::Find(run.program, "frmTextFile"));
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(window->Caption, "Notes.txt");
+    EXPECT_EQ(window->Text, "one\ntwo");
+    EXPECT_EQ(run.program.document.TextFileName, "Jane Roe.txt");
+    window->cmdCopy_Click(run.program, "");
+    EXPECT_EQ(run.surroundings.clipboard.Unicode, "one\ntwo");
+    window->cmdCopy_Click(run.program, "two");
+    EXPECT_EQ(run.surroundings.clipboard.Unicode, "two");
+}
+
+TEST(TextFile, AFileThatIsGoneIsReported) {
+    RunningProgram run;
+    run.surroundings.questions.Expect("ReadTextFile");
+    modExport::ReadTextFile(run.program, run.folder / "Proposals/Gone.txt");
+    EXPECT_EQ(modWindows::Find(run.program, "frmTextFile"), nullptr);
+}
+
+/// The printed lines of a text.
+std::vector<std::string> Printed(RunningProgram& run, const std::string& text) {
+    frmTextFile window("Notes.txt", text);
+    window.cmdPrint_Click(run.program);
+    std::vector<std::string> lines;
+    for (const DrawCall& call : run.surroundings.printers.Paper.Documents.back()) {
+        if (call.Op == DrawCall::What::Print) {
+            lines.push_back(call.Text);
+        }
+    }
+    return lines;
+}
+
+TEST(TextFile, PrintsWrappedAtBlanks) {
+    RunningProgram run; // 108 characters of 100 twips between margins of half an inch
+    const std::string word(60, 'x');
+    EXPECT_EQ(Printed(run, word + " " + word + "\nend"), (std::vector<std::string>{word + " ", word, "end"}));
+    EXPECT_EQ(Printed(run, std::string(109, 'y')), (std::vector<std::string>{std::string(108, 'y'), "y"}));
+    EXPECT_EQ(Printed(run, "a\n\nb"), (std::vector<std::string>{"a", "", "b"}));
+}
+
+TEST(TextFile, ALongTextTakesMorePages) {
+    RunningProgram run; // 72 lines of 200 twips between the margins
+    std::string text;
+    for (int line = 0; line < 73; ++line) {
+        text += "line\n";
+    }
+    Printed(run, text);
+    const auto& calls = run.surroundings.printers.Paper.Documents.back();
+    EXPECT_EQ(std::count_if(calls.begin(), calls.end(),
+                            [](const DrawCall& call) { return call.Op == DrawCall::What::NewPage; }),
+              1);
+}
+
+TEST(TextFile, WhatThePageCannotHaveIsToldBeforeItPrints) {
+    RunningProgram run;
+    run.surroundings.questions.Expect("1 characters of this text cannot be printed", Answer::Cancel);
+    frmTextFile window("Notes.txt", "\xE4\xB8\xAD");
+    window.cmdPrint_Click(run.program);
+    EXPECT_TRUE(run.surroundings.printers.Paper.Documents.empty());
+}
+
+} // namespace

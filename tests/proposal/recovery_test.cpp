@@ -1,0 +1,239 @@
+#include "base/seen.h"
+#include "pages/fields.h"
+#include "proposal/backup.h"
+#include "proposal/lifecycle.h"
+#include "proposal/proposal_save.h"
+#include "shell/closing.h"
+#include "shell/start_up.h"
+#include "shell/wiring.h"
+#include "support/running_program.h"
+#include "support/typist.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Runs of the program in one folder, one after another.
+struct Runs {
+    Runs() : first(std::make_unique<RunningProgram>()) {}
+
+    void Fill(int index, std::string_view text) {
+        Typist typist(first->program);
+        typist.Click(PageId::frmP1, index);
+        typist.Type(text);
+    }
+    void Save(const std::string& name) {
+        first->surroundings.questions.Expect("File was saved as " + name);
+        ASSERT_EQ(modFile::SaveEventFile(first->program), modFile::SaveResult::Saved);
+    }
+    /// The first run is killed: nothing of it but its files is left.
+    void StartAgain(const std::string& question, Answer answer) {
+        if (!question.empty()) {
+            again.questions.Expect(question, answer);
+        }
+        Start(program, again);
+    }
+    void Start(Program& one, RecordingPlatform&) const {
+        one.folders.InstallFolder = first->folder.Path();
+        one.folders.Drives.Home = first->folder / "Home/";
+        one.main.ClientHeight = 9000;
+        one.main.ClientWidth = 14000;
+        Wire(one);
+        one.hooks.ReadEventDates = nullptr; // a folder without proposals is told of at the start
+        ASSERT_EQ(modStart::Main(one), modStart::StartResult::Running);
+        PassSplash(one);
+    }
+    [[nodiscard]] const std::string& Text(int index) const {
+        return program.pages[PageId::frmP1].txt[static_cast<std::size_t>(index)].Text;
+    }
+    [[nodiscard]] bool Has(std::string_view name) const { return first->folder.Has(name); }
+
+    std::unique_ptr<RunningProgram> first;
+    RecordingPlatform again;
+    Program program{again.platform};
+};
+
+TEST(Recovery, ChangesOfASavedProposalComeBackAsUnsavedOnes) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Fill(3, "12 Elm Street");
+    runs.Save("Ann.hef");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    runs.StartAgain("The program did not close properly. The proposal Ann has changes from ", Answer::Yes);
+    const ScriptedQuestions::Box& box = runs.again.questions.Shown.back();
+    EXPECT_TRUE(box.Text.ends_with(" that were not saved. Bring them back?")) << box.Text;
+    EXPECT_EQ(box.With, Buttons::YesNo);
+    EXPECT_EQ(runs.again.questions.Manners.back().Default, Answer::Yes);
+    EXPECT_EQ(runs.again.questions.Manners.back().How, Manner::Came::Unasked);
+    EXPECT_EQ(runs.Text(2), "Ann");
+    EXPECT_EQ(runs.Text(10), "twelve sandwiches and a cake");
+    const DocumentState& document = runs.program.document;
+    EXPECT_EQ(document.FileName, "Ann.hef");
+    EXPECT_EQ(document.FilePath, runs.first->folder / "Proposals/");
+    EXPECT_TRUE(document.FileExists);
+    EXPECT_FALSE(document.FromBackup);
+    EXPECT_TRUE(modProposal::SomethingChanged(runs.program));
+    EXPECT_EQ(document.SavedTextBuf[0][10], "");
+    EXPECT_TRUE(runs.program.main.Loaded);
+    runs.again.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::Saved);
+}
+
+TEST(Recovery, AProposalThatWasNeverSavedComesBackAsANewOne) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    runs.StartAgain("The proposal Ann has changes from ", Answer::Yes);
+    EXPECT_EQ(runs.Text(10), "twelve sandwiches and a cake");
+    EXPECT_FALSE(runs.program.document.FileExists);
+    EXPECT_FALSE(runs.program.main[CommandId::mnuFileDelete].Enabled);
+    EXPECT_EQ(runs.program.document.FileName, "Ann.hef");
+    EXPECT_TRUE(modProposal::SomethingChanged(runs.program));
+    runs.again.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::Saved);
+}
+
+TEST(Recovery, NoLeavesTheBackupWhereItIsAndAsksOnce) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    const std::string backup = runs.first->folder.Read("Proposals/Backup/Ann.hef");
+    runs.StartAgain("The proposal Ann has changes from ", Answer::No);
+    EXPECT_EQ(runs.Text(2), "");
+    EXPECT_EQ(runs.first->folder.Read("Proposals/Backup/Ann.hef"), backup);
+    RecordingPlatform third;
+    Program program(third.platform);
+    runs.Start(program, third);
+    EXPECT_TRUE(third.questions.Shown.empty());
+}
+
+TEST(Recovery, AskedAgainWhenTheRunThatBroughtThemBackIsKilledToo) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    modFile::BackupThisFile(runs.first->program);
+    runs.StartAgain("The proposal Ann has changes from ", Answer::Yes);
+    RecordingPlatform third;
+    Program program(third.platform);
+    third.questions.Expect("The proposal Ann has changes from ", Answer::No);
+    runs.Start(program, third);
+}
+
+TEST(Recovery, ABackupThatEqualsItsProposalIsNotMentioned) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Save("Ann.hef");
+    modFile::BackupThisFile(runs.first->program);
+    runs.StartAgain("", Answer::No);
+    EXPECT_TRUE(runs.again.questions.Shown.empty());
+}
+
+TEST(Recovery, NothingIsSaidAfterASaveACleanEndOrANewProposal) {
+    {
+        Runs saved;
+        saved.Fill(2, "Ann");
+        modFile::BackupThisFile(saved.first->program);
+        saved.Save("Ann.hef");
+        saved.first->folder.Write("Proposals/Backup/Ann.hef", "some other state");
+        saved.StartAgain("", Answer::No);
+        EXPECT_TRUE(saved.again.questions.Shown.empty());
+    }
+    {
+        Runs closed;
+        closed.Fill(2, "Ann");
+        modFile::BackupThisFile(closed.first->program);
+        closed.first->surroundings.questions.Expect("The file has been changed.", Answer::No);
+        modClosing::mnuFileExit_Click(closed.first->program);
+        EXPECT_FALSE(closed.Has("Running.txt"));
+        closed.StartAgain("", Answer::No);
+        EXPECT_TRUE(closed.again.questions.Shown.empty());
+    }
+    {
+        Runs renewed;
+        renewed.Fill(2, "Ann");
+        modFile::BackupThisFile(renewed.first->program);
+        renewed.first->surroundings.questions.Expect("Some text has been changed.", Answer::No);
+        modProposal::mnuFileNew_Click(renewed.first->program);
+        renewed.StartAgain("", Answer::No);
+        EXPECT_TRUE(renewed.again.questions.Shown.empty());
+    }
+}
+
+TEST(Recovery, ThePropertyFileComesBackWithTheText) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.first->program.format.PropertyLines = {"frmP1.lbl(3).Left=900"};
+    modFile::BackupThisFile(runs.first->program);
+    runs.StartAgain("The proposal Ann has changes from ", Answer::Yes);
+    EXPECT_EQ(runs.program.format.PropertyLines, std::vector<std::string>{"frmP1.lbl(3).Left=900"});
+    EXPECT_TRUE(modFile::PropertiesChanged(runs.program));
+}
+
+TEST(Recovery, AMarkerOfGarbageAndABackupThatHasGoneCostNothing) {
+    for (const std::string& marker :
+         {std::string("x"), std::string("\0\0\r\n\0", 5), std::string(100000, 'y'),
+          std::string("/none/\r\nAnn.hef\r\nAnn.hef\r\n")}) {
+        Runs runs;
+        runs.first->folder.Write("Running.txt", marker);
+        runs.StartAgain("", Answer::No);
+        EXPECT_TRUE(runs.again.questions.Shown.empty());
+        EXPECT_TRUE(runs.program.main.Loaded);
+    }
+}
+
+TEST(Recovery, ABackupThatCannotBeReadIsToldAndStays) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    modFile::BackupThisFile(runs.first->program);
+    fs::remove(runs.first->folder / "Proposals/Backup/Ann.hef");
+    fs::create_directory(runs.first->folder / "Proposals/Backup/Ann.hef");
+    runs.StartAgain("", Answer::No);
+    EXPECT_TRUE(runs.program.main.Loaded);
+}
+
+TEST(Recovery, ASecondInstanceTouchesNoMarker) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    modFile::BackupThisFile(runs.first->program);
+    const std::string marker = runs.first->folder.Read("Running.txt");
+    runs.again.instance.Answer = SingleInstance::Result::Taken;
+    runs.again.questions.Expect("Another instance of this application is already running.");
+    runs.program.folders.InstallFolder = runs.first->folder.Path();
+    EXPECT_EQ(modStart::Main(runs.program), modStart::StartResult::Ended);
+    EXPECT_EQ(runs.first->folder.Read("Running.txt"), marker);
+}
+
+TEST(Recovery, AProposalThatWasSavedInTheVeryMomentOfTheEndIsNotMentioned) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Save("Ann.hef");
+    runs.Fill(3, "12 Elm Street");
+    modFile::BackupThisFile(runs.first->program);
+    runs.Fill(3, ", second floor");
+    const std::string before = runs.first->folder.Read("Running.txt");
+    // The file is written, and the run ends before anything else is.
+    runs.first->surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(runs.first->program), modFile::SaveResult::Saved);
+    const std::string saved = runs.first->folder.Read("Proposals/Ann.hef");
+    const files::Seen seen = files::SeenIn(saved);
+    runs.first->folder.Write("Running.txt",
+                             before + std::to_string(seen.Length) + " " + std::to_string(seen.Sum) + "\r\n");
+    runs.StartAgain("", Answer::No);
+    EXPECT_TRUE(runs.again.questions.Shown.empty());
+    // Had the save not come through, the backup would be offered.
+    runs.first->folder.Write("Running.txt", before + "20630 1\r\n");
+    RecordingPlatform third;
+    Program program(third.platform);
+    third.questions.Expect("The proposal Ann has changes from ", Answer::No);
+    runs.Start(program, third);
+}
+
+} // namespace

@@ -1,0 +1,618 @@
+#include "format/label_designer.h"
+#include "format/label_selection.h"
+
+#include "editing/keys.h"
+#include "format/format_commands.h"
+#include "format/frm_label_props.h"
+#include "format/frm_rgb.h"
+#include "format/frm_snap.h"
+#include "format/frm_text_props.h"
+#include "format/frm_title.h"
+#include "format/grid.h"
+#include "format/label_commit.h"
+#include "format/label_keys.h"
+#include "format/logo.h"
+#include "output/page_count.h"
+#include "pages/page_geometry.h"
+#include "program/windows.h"
+#include "proposal/lifecycle.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_open.h"
+#include "proposal/proposal_save.h"
+#include "proposal/reset.h"
+#include "shell/command_run.h"
+#include "shell/page_switch.h"
+#include "support/running_program.h"
+#include "support/typist.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace modDesigner;
+
+/// A second document: in the very first one the tables know every label's place.
+struct Designing : RunningProgram {
+    Designing() { static_cast<void>(modReset::StartNewFile(program)); }
+    void Press(int index, PageId page = PageId::frmP1, int button = kLeftButton) {
+        lbl_MouseDown(program, page, index, button, 10, 10);
+    }
+    void Click(int index, PageId page = PageId::frmP1) {
+        Press(index, page);
+        lbl_MouseUp(program, page, index);
+    }
+    void Drag(int index, float across, float down, PageId page = PageId::frmP1) {
+        Press(index, page);
+        lbl_MouseMove(program, page, index, 10 + across, 10 + down);
+        lbl_MouseUp(program, page, index);
+    }
+    void DoubleClick(int index, PageId page = PageId::frmP1) {
+        Click(index, page);
+        lbl_DblClick(program, page, index);
+        lbl_MouseUp(program, page, index);
+    }
+    LabelChangeRecord& Prop(int index, PageId page = PageId::frmP1) {
+        return program.format
+            .PropLabelChanges[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)];
+    }
+    LabelChangeRecord& Format(int index, PageId page = PageId::frmP1) {
+        return program.format
+            .FormatLabelChanges[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)];
+    }
+    frmLabelProps& Props() {
+        commands::Run(program, CommandId::mnuEditLabelProps);
+        return dynamic_cast<frmLabelProps&>(*modWindows::Find(program, "frmLabelProps"));
+    }
+    template <typename Form> Form& Open(CommandId id, std::string_view name) {
+        commands::Run(program, id);
+        return dynamic_cast<Form&>(*modWindows::Find(program, name));
+    }
+};
+
+TEST(LabelDrag, GoesByOneStepAnEventOrNotAtAll) {
+    Designing run;
+    run.program.format.SnapTwips = 360;
+    run.Drag(9, 100, 359);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, 1080);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Top, 4140);
+    run.Drag(9, 360, -5000);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, 1440);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Top, 3780) << "however far the pointer went";
+    run.Drag(9, -360, 0);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, 1080);
+}
+
+TEST(LabelDrag, AMereClickBringsALabelIntoTheTables) {
+    Designing run;
+    run.Click(9);
+    EXPECT_TRUE(run.Prop(9).Changed);
+    EXPECT_TRUE(run.Format(9).Changed);
+    EXPECT_EQ(run.Prop(9).Caption, "Event Date");
+    EXPECT_EQ(run.Prop(9).FontName, "Times New Roman");
+    EXPECT_TRUE(modFile::PropertiesChanged(run.program));
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).ToolTipText, "Left = 0.75, Top = 2.875");
+}
+
+TEST(LabelDrag, InTheFirstDocumentAClickWithoutAMoveDoesNotCount) {
+    RunningProgram run;
+    lbl_MouseDown(run.program, PageId::frmP1, 9, kLeftButton, 0, 0);
+    lbl_MouseUp(run.program, PageId::frmP1, 9);
+    EXPECT_FALSE(run.program.format.PropLabelChanges[0][9].Changed);
+}
+
+TEST(LabelDrag, OfOneOfAGroupMovesThatOneAlone) {
+    Designing run;
+    run.DoubleClick(9);
+    run.DoubleClick(10);
+    run.Drag(9, 180, 0);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, 1260);
+    EXPECT_EQ(run.Label(PageId::frmP1, 10).Left, 10080);
+}
+
+TEST(LabelDrag, OnTheFinalPageTheCopyFollowsAtTheRelease) {
+    Designing run;
+    run.Press(49, PageId::frmP6);
+    lbl_MouseMove(run.program, PageId::frmP6, 49, 190, 10);
+    EXPECT_EQ(run.Label(PageId::frmP6_1, 49).Left, 720);
+    lbl_MouseUp(run.program, PageId::frmP6, 49);
+    EXPECT_EQ(run.Label(PageId::frmP6_1, 49).Left, 900);
+    run.Drag(49, 180, 0, PageId::frmP6_1);
+    EXPECT_EQ(run.Label(PageId::frmP6_1, 49).Left, 900) << "the copy has no designer";
+}
+
+TEST(LabelDrag, TheRightButtonHoldsNothingButEntersTheTables) {
+    Designing run;
+    run.Press(9, PageId::frmP1, kRightButton);
+    EXPECT_FALSE(lbl_MouseMove(run.program, PageId::frmP1, 9, 900, 10));
+    lbl_MouseUp(run.program, PageId::frmP1, 9);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, 1080);
+    EXPECT_TRUE(run.Prop(9).Changed);
+}
+
+TEST(LabelSelection, ADoubleClickSelectsAndASecondOneTakesItBack) {
+    Designing run;
+    run.DoubleClick(9);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).BackColor, 0xFFFF00U);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).BackStyle, 1);
+    EXPECT_FALSE(MultipleLabelsSelected(run.program));
+    run.DoubleClick(10);
+    EXPECT_TRUE(MultipleLabelsSelected(run.program));
+    run.DoubleClick(10);
+    EXPECT_FALSE(MultipleLabelsSelected(run.program));
+    EXPECT_EQ(run.Label(PageId::frmP1, 10).BackColor, 0x8000000FU);
+    EXPECT_EQ(modWindows::Find(run.program, "frmLabelProps"), nullptr);
+}
+
+TEST(LabelWindow, AsksForAClickFirst) {
+    Designing run;
+    run.surroundings.questions.Expect("Please click the label first.");
+    commands::Run(run.program, CommandId::mnuEditLabelProps);
+    run.Click(9);
+    modScroll::UpdatePageButtons(run.program, 1);
+    run.surroundings.questions.Expect("Please click the label first.");
+    commands::Run(run.program, CommandId::mnuEditLabelProps);
+}
+
+TEST(LabelWindow, ChangesTheLabelAtOnceAndOkMakesItLast) {
+    Designing run;
+    run.Click(9);
+    frmLabelProps& window = run.Props();
+    EXPECT_EQ(window.txtCaption.Text, "Event Date");
+    EXPECT_EQ(window.lblFontName.Caption, "Font = Times New Roman");
+    EXPECT_EQ(window.lblSize.Caption, "Label Font Size = 9.75");
+    window.txtCaption_Change(run.program, "Day");
+    window.cmdSize_Click(run.program, 4);
+    window.cmdColor_Click(run.program, 1);
+    window.chkUnderline_Click(run.program);
+    window.lstFont_Click(run.program, 0);
+    const PageLabel& label = run.Label(PageId::frmP1, 9);
+    EXPECT_EQ(label.Caption, "Day");
+    EXPECT_EQ(label.FontSize, 14);
+    EXPECT_EQ(label.ForeColor, 0x0080FFU);
+    EXPECT_TRUE(label.FontUnderline);
+    EXPECT_EQ(label.FontName, "Arial");
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Prop(9).Caption, "Day");
+    EXPECT_EQ(run.Format(9).FontSize, 14);
+    EXPECT_FALSE(run.program.designer.LabelPropsOpen);
+}
+
+TEST(LabelWindow, CancelBringsTheLookBackAndLeavesThePlace) {
+    Designing run;
+    run.Click(9);
+    frmLabelProps& window = run.Props();
+    window.txtCaption_Change(run.program, "Day");
+    window.chkBold_Click(run.program);
+    run.Label(PageId::frmP1, 9).Left = 5000;
+    window.cmdCancel_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Event Date");
+    EXPECT_TRUE(run.Label(PageId::frmP1, 9).FontBold);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, 5000);
+}
+
+TEST(LabelWindow, AGroupTakesTheFieldOnTheCurrentPageAloneAndSignsKeepTheirLooks) {
+    Designing run;
+    run.DoubleClick(3, PageId::frmP3);
+    run.Label(PageId::frmP2, 5).FontName = "Times New Roman";
+    run.DoubleClick(5, PageId::frmP2); // a currency sign
+    run.DoubleClick(34, PageId::frmP2);
+    frmLabelProps& window = run.Props();
+    window.lstFont_Click(run.program, 0);
+    EXPECT_EQ(run.Label(PageId::frmP2, 34).FontName, "Arial");
+    EXPECT_EQ(run.Label(PageId::frmP2, 5).FontName, "Times New Roman");
+    EXPECT_EQ(run.Label(PageId::frmP3, 3).FontName, "Times New Roman");
+    window.txtCaption_Change(run.program, "all the same");
+    EXPECT_EQ(run.Label(PageId::frmP2, 34).Caption, "Page 2 of 6");
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Prop(34, PageId::frmP2).FontName, "Arial");
+    EXPECT_EQ(run.Prop(34, PageId::frmP2).Caption, "Page 2 of 6");
+    EXPECT_EQ(run.Prop(5, PageId::frmP2).FontName, "Times New Roman");
+    EXPECT_FALSE(IsSelected(run.Label(PageId::frmP2, 5)));
+    EXPECT_TRUE(IsSelected(run.Label(PageId::frmP3, 3)));
+}
+
+TEST(LabelWindow, CancelOfAGroupChangeKeepsTheChangesAndDropsTheFlags) {
+    Designing run;
+    run.DoubleClick(9);
+    run.DoubleClick(10);
+    frmLabelProps& window = run.Props();
+    window.cmdSize_Click(run.program, 8);
+    EXPECT_TRUE(run.program.designer.Changed.FontSize);
+    window.cmdCancel_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).FontSize, 24);
+    EXPECT_EQ(run.Label(PageId::frmP1, 10).FontSize, 24);
+    EXPECT_TRUE(IsSelected(run.Label(PageId::frmP1, 9)));
+    EXPECT_EQ(run.program.designer.Changed, GroupChanges{});
+}
+
+TEST(LabelWindow, SelectAllTakesEveryLabelButTheSignsAndOpens) {
+    Designing run;
+    commands::Run(run.program, CommandId::mnuEditLabelSelectAll);
+    EXPECT_NE(modWindows::Find(run.program, "frmLabelProps"), nullptr);
+    EXPECT_EQ(run.program.designer.ColorOwner, "Label");
+    EXPECT_TRUE(IsSelected(run.Label(PageId::frmP1, 0)));
+    EXPECT_FALSE(IsSelected(run.Label(PageId::frmP1, 21)));
+    commands::Run(run.program, CommandId::mnuEditLabelDeselectAll);
+    EXPECT_FALSE(IsSelected(run.Label(PageId::frmP1, 0)));
+}
+
+TEST(LabelWindow, APageSwitchMakesItsChangesLast) {
+    Designing run;
+    run.Click(9);
+    run.Props().txtCaption_Change(run.program, "Day");
+    modScroll::UpdatePageButtons(run.program, 1);
+    modWindows::Sweep(run.program);
+    EXPECT_EQ(modWindows::Find(run.program, "frmLabelProps"), nullptr);
+    EXPECT_EQ(run.Prop(9).Caption, "Day");
+    EXPECT_EQ(run.Prop(9, PageId::frmP2).Caption, "");
+}
+
+TEST(LabelWindow, ANewProposalAsksForWhatWasTypedInIt) {
+    Designing run;
+    run.Click(9);
+    run.Props().txtCaption_Change(run.program, "Day");
+    run.surroundings.questions.Expect("Some text has been changed.", Answer::Cancel);
+    commands::Run(run.program, CommandId::mnuFileNew);
+    EXPECT_EQ(run.Prop(9).Caption, "Day");
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Day");
+}
+
+TEST(LabelWindow, AnotherLabelPressedMakesTheFirstOnesWordsLast) {
+    Designing run;
+    run.Click(9);
+    frmLabelProps& window = run.Props();
+    window.txtCaption_Change(run.program, "Day");
+    run.Click(10);
+    EXPECT_EQ(window.txtCaption.Text, "Event Time");
+    window.cmdCancel_Click(run.program);
+    EXPECT_EQ(run.Prop(9).Caption, "Day");
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Day");
+}
+
+TEST(LabelWindow, WordsOfATitleAreChangedElsewhere) {
+    Designing run;
+    run.Click(33);
+    frmLabelProps& window = run.Props();
+    EXPECT_FALSE(window.txtCaption.Enabled);
+    EXPECT_NE(window.lblNotHere.Caption, "");
+}
+
+TEST(LabelWindow, WhiteTellsItselfBlack) {
+    Designing run;
+    run.Click(9);
+    frmLabelProps& window = run.Props();
+    EXPECT_EQ(window.cmdColor[0].ToolTipText, "Make Label Red");
+    EXPECT_EQ(window.cmdColor[7].ToolTipText, "Make Label Black");
+    EXPECT_EQ(window.cmdColor[8].ToolTipText, "Make Label Black");
+    EXPECT_EQ(window.cmdColor[8].BackColor, 0xFFFFFFU);
+    window.txtCaption_Enter(run.program);
+    EXPECT_EQ(window.FocusNext, "cmdSize(0)");
+}
+
+TEST(LabelKeys, DoWhatTheMouseDoes) {
+    Designing keys;
+    Designing mouse;
+    commands::Run(keys.program, CommandId::mnuEditLabelMode);
+    EXPECT_FALSE(keys.program.main.Focus);
+    EXPECT_EQ(keys.program.designer.Framed, 0);
+    for (int label = 0; label < 9; ++label) {
+        modLabelKeys::KeyDown(keys.program, keys::kTab, 0);
+    }
+    EXPECT_EQ(keys.program.designer.Framed, 9);
+    EXPECT_FALSE(keys.Prop(9).Changed) << "the frame alone presses nothing";
+    for (const int key : {keys::kRight, keys::kDown, keys::kLeft, keys::kUp, keys::kRight, keys::kBlank}) {
+        modLabelKeys::KeyDown(keys.program, key, 0);
+    }
+    const auto step = [&](float across, float down) {
+        lbl_MouseDown(mouse.program, PageId::frmP1, 9, kLeftButton, 0, 0);
+        lbl_MouseMove(mouse.program, PageId::frmP1, 9, across, down);
+        lbl_MouseUp(mouse.program, PageId::frmP1, 9);
+    };
+    step(180, 0);
+    step(0, 180);
+    step(-180, 0);
+    step(0, -180);
+    step(180, 0);
+    mouse.DoubleClick(9);
+    EXPECT_EQ(keys.program.format.PropLabelChanges, mouse.program.format.PropLabelChanges);
+    EXPECT_EQ(keys.program.format.FormatLabelChanges, mouse.program.format.FormatLabelChanges);
+    EXPECT_EQ(keys.program.format.LabelSavedState, mouse.program.format.LabelSavedState);
+    EXPECT_EQ(keys.program.pages[PageId::frmP1].lbl, mouse.program.pages[PageId::frmP1].lbl);
+    EXPECT_EQ(modLabelKeys::KeyDown(keys.program, 93, 0), modLabelKeys::Menu::Label);
+    modLabelKeys::KeyDown(keys.program, keys::kEnter, 0);
+    EXPECT_NE(modWindows::Find(keys.program, "frmLabelProps"), nullptr);
+    modLabelKeys::KeyDown(keys.program, keys::kTab, keys::kShiftState);
+    EXPECT_EQ(keys.program.designer.Framed, 8);
+    modLabelKeys::KeyDown(keys.program, 27, 0);
+    EXPECT_FALSE(keys.program.designer.LabelMode);
+    EXPECT_TRUE(keys.program.main.Focus);
+}
+
+TEST(LabelKeys, TheLogoComesLastOnTheFirstPage) {
+    Designing run;
+    run.program.settings.LogoVisible = true;
+    run.program.settings.LogoFile = "/srv/logo.png";
+    run.program.pages[PageId::frmP1].pic.Picture = {PictureRef::Source::File, "/srv/logo.png"};
+    run.program.pages[PageId::frmP1].pic.Visible = true;
+    commands::Run(run.program, CommandId::mnuEditLabelMode);
+    modLabelKeys::KeyDown(run.program, keys::kTab, keys::kShiftState);
+    EXPECT_EQ(run.program.designer.Framed, kLogoInFrame);
+    modLabelKeys::KeyDown(run.program, keys::kRight, 0);
+    EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Left, 180);
+    EXPECT_EQ(run.program.format.LogoLeft, 180);
+    EXPECT_EQ(run.program.format.LogoPath, "/srv/logo.png") << "a logo that was dragged is the format's";
+    EXPECT_EQ(run.program.main.Notice, "Kept only by a format or by Save this Logo as Default.");
+}
+
+TEST(Snap, QuickButtonsAndTypedValues) {
+    Designing run;
+    frmSnap& window = run.Open<frmSnap>(CommandId::mnuToolsSnap, "frmSnap");
+    EXPECT_EQ(window.txtSnap.Text, "0.125");
+    EXPECT_EQ(window.txtSnap.SelLength, 5);
+    window.cmdSnap_MouseMove(0);
+    window.cmdSnap_MouseMove(4);
+    EXPECT_EQ(window.cmdSnap[0].ToolTipText, "360 Twips");
+    EXPECT_EQ(window.cmdSnap[4].ToolTipText, "45 Twips");
+    EXPECT_EQ(window.cmdSnap[4].Caption, ".03125");
+    for (const std::string value : {"a", "", "0.009", "4.01", "1e30", "-1"}) {
+        window.txtSnap.Text = value;
+        run.surroundings.questions.ExpectBox({"Not a Number", Buttons::Ok, ""}, Answer::Ok);
+        window.cmdOK_Click(run.program);
+        EXPECT_EQ(run.program.format.SnapTwips, 180);
+    }
+    window.txtSnap.Text = "0.25";
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.program.format.SnapTwips, 360);
+    EXPECT_TRUE(window.Closing);
+}
+
+TEST(Snap, AlignsTheHeightOfTheFirstPageAndHalfAStepGoesToTheEvenOne) {
+    Designing run;
+    Page& page = run.program.pages[PageId::frmP1];
+    for (const auto& [from, to] : {std::pair{-270.0F, -360.0F}, {-450.0F, -360.0F}, {-100.0F, -180.0F}}) {
+        page.Top = from;
+        page.Left = 7;
+        commands::Run(run.program, CommandId::mnuToolsAlignWithSnap);
+        EXPECT_EQ(page.Top, to);
+        EXPECT_EQ(page.Left, 7);
+    }
+}
+
+TEST(TextProperties, CancelLeavesPagesAndFontAsTheyWere) {
+    Designing run;
+    frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+    EXPECT_EQ(window.lblFontName.Caption, "Current Font Name = Times New Roman");
+    EXPECT_TRUE(window.optFontSize[0].Value);
+    EXPECT_EQ(window.txtSample.Text, "Sampling Text with Times New Roman: 10");
+    window.optFontSize_Click(run.program, 2);
+    window.cmdColor_Click(run.program, 5);
+    EXPECT_EQ(window.lblFontColor.Caption, "Current Font Color = Blue");
+    EXPECT_EQ(run.Area(PageId::frmP1, 0).FontSize, 10);
+    window.cmdCancel_Click(run.program);
+    EXPECT_EQ(run.program.run.DefaultFontSize, 10);
+    EXPECT_EQ(run.program.run.DefaultFontColor, 0U);
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+}
+
+TEST(TextProperties, ApplyChangesLaysTheFontAndASizeOfNothingIsTen) {
+    Designing run;
+    run.program.run.DefaultFontSize = 0;
+    frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+    window.lstFont_Click(run.program, 0);
+    window.chkItalic_Click(run.program);
+    run.program.format.PropTextChanges[0][3].FontBold = true;
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Area(PageId::frmP3, 7).FontName, "Arial");
+    EXPECT_EQ(run.Area(PageId::frmP3, 7).FontSize, 10);
+    EXPECT_TRUE(run.Area(PageId::frmP3, 7).FontItalic);
+    EXPECT_TRUE(run.Area(PageId::frmP1, 3).FontBold) << "bold stays with its area";
+    EXPECT_TRUE(modFile::PropertiesChanged(run.program));
+}
+
+TEST(TextProperties, AsDefaultWritesTheFourSettings) {
+    Designing run;
+    frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+    window.lstFont_Click(run.program, 0);
+    window.optFontSize_Click(run.program, 4);
+    window.cmdDefault_Click(run.program);
+    const std::string settings = run.folder.Read("UserPreferences.txt");
+    for (const char* line :
+         {"Font Name:Arial\r\n", "Font Size:6\r\n", "Font Color:0\r\n", "Font Italic:False\r\n"}) {
+        EXPECT_NE(settings.find(line), std::string::npos) << line;
+    }
+    EXPECT_EQ(run.Area(PageId::frmP1, 0).FontSize, 6);
+}
+
+TEST(Colours, SlidersShowTheirValuesAndTheLargeStepEndsAt255) {
+    Designing run;
+    run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps").cmdColors_Click(run.program);
+    auto& window = dynamic_cast<frmRGB&>(*modWindows::Find(run.program, "frmRGB"));
+    EXPECT_EQ(window.txtHexValue.Text, "&H00&");
+    EXPECT_EQ(window.txtIntValue.Text, "0");
+    window.Red_Change(run.program, 256);
+    window.Grn_Change(run.program, 5);
+    EXPECT_EQ(window.lblR[0].Caption, "255");
+    EXPECT_EQ(window.lblR[1].Caption, "FF");
+    EXPECT_EQ(window.lblG[1].Caption, "05");
+    EXPECT_EQ(window.txtHexValue.Text, "&H0005FF&");
+    EXPECT_EQ(window.txtIntValue.Text, "1535");
+    EXPECT_EQ(window.txtHttpValue.Text, "#FF0500");
+    window.cmdSmInc_Click(run.program);
+    EXPECT_EQ(window.Blu.SmallChange, 1);
+    window.cmdNormInc_Click(run.program);
+    EXPECT_EQ(window.Blu.SmallChange, 16);
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.program.run.DefaultFontColor, 0x0005FFU);
+}
+
+TEST(Colours, OfALabelAreKeptByAnyWayOfClosing) {
+    Designing run;
+    run.Click(9);
+    run.Props().cmdColors_Click(run.program);
+    auto& window = dynamic_cast<frmRGB&>(*modWindows::Find(run.program, "frmRGB"));
+    window.Red_Change(run.program, 128);
+    window.cmdCancel_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).ForeColor, 0U);
+    EXPECT_TRUE(run.Prop(9).Changed) << "the label is committed all the same";
+    modWindows::Sweep(run.program);
+    dynamic_cast<frmLabelProps&>(*modWindows::Find(run.program, "frmLabelProps"))
+        .cmdColors_Click(run.program);
+    auto& again = dynamic_cast<frmRGB&>(*modWindows::Find(run.program, "frmRGB"));
+    again.Red_Change(run.program, 128);
+    again.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Prop(9).ForeColor, 128U);
+}
+
+TEST(Titles, AnEmptySubTitleIsTheNameWithoutItsExtension) {
+    Designing run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Jane Roe");
+    frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    EXPECT_EQ(window.txtSubTitle.Text, "Proposal for Jane Roe");
+    window.txtTitle_Change("Ours - ");
+    window.txtSubTitle_Change("The Roe Wedding");
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP3, 36).Caption, "The Roe Wedding");
+    EXPECT_EQ(run.Label(PageId::frmP6, 64).Caption, "The Roe Wedding - Our Copy");
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Ours - Page 2");
+    EXPECT_TRUE(modFile::PropertiesChanged(run.program));
+    modWindows::Sweep(run.program);
+    frmTitle& again = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    again.cmdClear_Click(1);
+    EXPECT_EQ(again.FocusNext, "txtSubTitle");
+    again.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Jane Roe");
+}
+
+TEST(Titles, ALongOneIsCentredAndBeginsBeforeThePage) {
+    Designing run;
+    frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    window.txtSubTitle_Change(std::string(200, 'x'));
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Left, 6120 - 10000);
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Top, 15030);
+}
+
+TEST(Titles, OneThatWasMovedStaysWhereItIs) {
+    Designing run;
+    run.Drag(33, 180, 0);
+    const float left = run.Label(PageId::frmP1, 33).Left;
+    frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    window.txtSubTitle_Change("Other words");
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Left, left);
+}
+
+TEST(Titles, AsDefaultWritesTheSetting) {
+    Designing run;
+    frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    window.txtTitle_Change("Ours\r\n - ");
+    window.cmdDefault_Click(run.program);
+    EXPECT_FALSE(window.TitleChanged);
+    EXPECT_NE(run.folder.Read("UserPreferences.txt").find("Page Titles:Ours - \r\n"), std::string::npos);
+}
+
+TEST(Logo, HidingItKeepsItOutOfPrint) {
+    Designing run;
+    PagePicture& logo = run.program.pages[PageId::frmP1].pic;
+    logo.Picture = {PictureRef::Source::File, "/srv/logo.png"};
+    run.program.settings.LogoVisible = true;
+    run.program.main[CommandId::mnuEditLogoVisible].Checked = true;
+    commands::Run(run.program, CommandId::mnuEditLogoVisible);
+    EXPECT_FALSE(logo.Visible);
+    EXPECT_EQ(logo.Tag, kHide);
+    EXPECT_NE(run.folder.Read("UserPreferences.txt").find("Logo Visible:False\r\n"), std::string::npos);
+    commands::Run(run.program, CommandId::mnuEditLogoBorder);
+    EXPECT_EQ(logo.BorderStyle, 1) << "turning the border on shows the logo";
+    EXPECT_TRUE(logo.Visible);
+    EXPECT_NE(run.folder.Read("UserPreferences.txt").find("Logo Visible:True\r\n"), std::string::npos);
+    commands::Run(run.program, CommandId::mnuEditLogoBorder);
+    EXPECT_EQ(logo.BorderStyle, 0);
+    EXPECT_TRUE(logo.Visible);
+}
+
+TEST(Logo, SavingItAsDefaultWithoutAFormatTouchesOnlyTheSettings) {
+    Designing run;
+    PagePicture& logo = run.program.pages[PageId::frmP1].pic;
+    logo.Picture = {PictureRef::Source::File, "/srv/logo.png"};
+    logo.Left = 180;
+    logo.Top = 90.5F;
+    commands::Run(run.program, CommandId::mnuEditLogoSave);
+    const std::string settings = run.folder.Read("UserPreferences.txt");
+    for (const char* line : {"Logo File:/srv/logo.png\r\n", "Logo Left:180\r\n", "Logo Top:90.5\r\n"}) {
+        EXPECT_NE(settings.find(line), std::string::npos) << line;
+    }
+    EXPECT_EQ(run.program.format.LogoPath, "");
+    EXPECT_FALSE(run.program.format.LogoChanged);
+}
+
+TEST(Designer, EveryChangeThatRidesWithAProposalIsSavedAndComesBack) {
+    using Change = std::function<void(Designing&)>;
+    const std::vector<Change> changes{
+        [](Designing& run) { run.Drag(9, 180, 180); },
+        [](Designing& run) {
+            run.Click(9, PageId::frmP6);
+            run.Props().cmdColor_Click(run.program, 0);
+            modDesigner::CloseLabelWindow(run.program);
+        },
+        [](Designing& run) {
+            commands::Run(run.program, CommandId::mnuEditLabelSelectAll);
+            auto& window = dynamic_cast<frmLabelProps&>(*modWindows::Find(run.program, "frmLabelProps"));
+            window.cmdSize_Click(run.program, 2);
+            window.cmdOK_Click(run.program);
+        },
+        [](Designing& run) {
+            frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+            window.txtTitle_Change("Ours - ");
+            window.txtSubTitle_Change("The Day");
+            window.cmdOK_Click(run.program);
+        },
+        [](Designing& run) {
+            frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+            window.optFontSize_Click(run.program, 3);
+            window.cmdOK_Click(run.program);
+        },
+        [](Designing& run) {
+            run.program.editing.CurrentArea = 10;
+            commands::Run(run.program, CommandId::mnuEditTextBold);
+        },
+    };
+    for (std::size_t at = 0; at < changes.size(); ++at) {
+        Designing run;
+        Typist typist(run.program);
+        typist.Click(PageId::frmP1, 2);
+        typist.Type("Ann");
+        run.surroundings.questions.Expect("File was saved as Ann.hef");
+        ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+        changes[at](run);
+        modWindows::Sweep(run.program);
+        EXPECT_TRUE(modFile::PropertiesChanged(run.program)) << at;
+        run.surroundings.questions.Expect("File was saved as Ann.hef");
+        ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+        EXPECT_FALSE(modFile::PropertiesChanged(run.program)) << at;
+        modPrint::SetPageNumbers(run.program);
+        const PageSet before = run.program.pages;
+        static_cast<void>(modReset::StartNewFile(run.program));
+        ASSERT_EQ(modFile::OpenEventFile(run.program, "Ann.hef"), modFile::OpenResult::Opened);
+        modFile::ReadFileProperties(run.program);
+        modPrint::SetPageNumbers(run.program);
+        for (const PageId page : kAllPages) {
+            for (std::size_t index = 0; index < before[page].lbl.size(); ++index) {
+                PageLabel was = before[page].lbl[index];
+                const PageLabel& is = run.program.pages[page].lbl[index];
+                was.ToolTipText = is.ToolTipText;
+                was.Visible = is.Visible;
+                EXPECT_EQ(was, is) << "change " << at << ", page " << IndexOf(page) << ", label " << index
+                                   << ": " << was.Caption << " / " << is.Caption << ", " << was.Left << " / "
+                                   << is.Left;
+            }
+            for (std::size_t index = 0; index < before[page].txt.size(); ++index) {
+                EXPECT_EQ(before[page].txt[index].FontBold, run.program.pages[page].txt[index].FontBold);
+                EXPECT_EQ(before[page].txt[index].FontSize, run.program.pages[page].txt[index].FontSize);
+            }
+        }
+    }
+}
+
+} // namespace

@@ -1,0 +1,103 @@
+#include "contract/frm_notes.h"
+#include "deposits/frm_deposits.h"
+#include "money/totals.h"
+#include "program/windows.h"
+#include "proposal/proposal_save.h"
+#include "shell/closing.h"
+#include "shell/command_run.h"
+#include "support/running_program.h"
+#include "support/typist.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A saved proposal of Jane Roe with footnotes and deposits open.
+struct Leaving : RunningProgram {
+    Leaving() {
+        TypeJaneRoe(*this);
+        surroundings.questions.Expect("File was saved as Jane Roe.hef");
+        EXPECT_EQ(modFile::SaveEventFile(program), modFile::SaveResult::Saved);
+        commands::Run(program, CommandId::mnuFileOpenFootnotes);
+        commands::Run(program, CommandId::mnuManageDeposits);
+    }
+    [[nodiscard]] frmNotes& Notes() {
+        return dynamic_cast<frmNotes&>(*modWindows::Find(program, "frmNotes"));
+    }
+    [[nodiscard]] frmDeposits& Deposits() {
+        return dynamic_cast<frmDeposits&>(*modWindows::Find(program, "frmDeposits"));
+    }
+    void Change() {
+        Notes().txtNotes_Change(program, "remember");
+        Deposits().txtAmount_Change(program, "600");
+        Deposits().cmdSave_Click(program);
+    }
+    ScriptedQuestions& Boxes() { return surroundings.questions; }
+};
+
+TEST(LeavingWindows, ExitAsksForThemFirstAndTheDepositReachesTheFile) {
+    Leaving run;
+    run.Change();
+    run.Boxes().Expect("The deposit list has changed.", Answer::Yes);
+    run.Boxes().Expect("Replace it with the list's total, 600.00?", Answer::Yes);
+    run.Boxes().Expect("The Footnote File has been changed.", Answer::Yes);
+    run.Boxes().Expect("The file has been changed. Do you want to save it?", Answer::Yes);
+    run.Boxes().Expect("File was saved as Jane Roe.hef");
+    EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program)); // saving keeps the program open
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hxt"), "remember");
+    EXPECT_NE(run.folder.Read("Proposals/Jane Roe.hef").find("600.00"), std::string::npos);
+    EXPECT_TRUE(modClosing::MDIForm_QueryUnload(run.program));
+}
+
+TEST(LeavingWindows, CancelAnywhereEndsTheExitWithEverythingAsItWas) {
+    Leaving run;
+    run.Change();
+    run.Boxes().Expect("The deposit list has changed.", Answer::No);
+    run.Boxes().Expect("The Footnote File has been changed.", Answer::Cancel);
+    EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program));
+    EXPECT_EQ(run.Notes().txtNotes, "remember");
+    EXPECT_TRUE(run.Deposits().DepositChanged);
+}
+
+TEST(LeavingWindows, ASaveThatFailsEndsTheExit) {
+    Leaving run;
+    run.Change();
+    run.folder.MakeFolder("Proposals/Jane Roe.hxt");
+    run.Boxes().Expect("The deposit list has changed.", Answer::No);
+    run.Boxes().Expect("The Footnote File has been changed.", Answer::Yes);
+    run.Boxes().Expect("SaveFootnoteFile");
+    EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program));
+    EXPECT_EQ(run.Notes().txtNotes, "remember");
+}
+
+TEST(LeavingWindows, ARunThatIsEndedFromOutsideKeepsThemBesideTheBackup) {
+    Leaving run;
+    run.Change();
+    modClosing::KeepUnsaved(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Jane Roe.hxt"), "remember");
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Jane Roe.dep"), "Jane Roe\r\nJan 21, 2008\t\t$ 600.00");
+    EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe.hxt"));
+}
+
+TEST(LeavingWindows, ADepositWithoutAmountsSurvivesSavingAndRecalculation) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Ann");
+    commands::Run(run.program, CommandId::mnuManageDeposits);
+    auto& deposits = dynamic_cast<frmDeposits&>(*modWindows::Find(run.program, "frmDeposits"));
+    deposits.txtAmount_Change(run.program, "250");
+    deposits.cmdSave_Click(run.program);
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    deposits.Choose(run.program, "mnuFileSave");
+    commands::Run(run.program, CommandId::mnuToolsRecalculate);
+    EXPECT_EQ(run.program.totals.Deposit, 250);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 3), "0.00");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "250.00");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 5), "-250.00");
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    commands::Run(run.program, CommandId::mnuFileSaveEvent);
+    EXPECT_EQ(run.program.totals.Deposit, 250);
+}
+
+} // namespace

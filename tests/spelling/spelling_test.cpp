@@ -1,0 +1,291 @@
+#include "spelling/spelling_walk.h"
+
+#include "base/files.h"
+#include "program/program.h"
+#include "program/windows.h"
+#include "spelling/frm_spelling.h"
+#include "spelling/spelling_service.h"
+#include "support/running_program.h"
+#include "support/typist.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Spelled : RunningProgram {
+    void Fill(PageId page, int index, std::string_view text) {
+        Typist typist(program);
+        typist.Click(page, index);
+        typist.Type(text);
+        typist.Click(PageId::frmP1, 7);
+    }
+    [[nodiscard]] std::vector<std::string> Checked() const {
+        std::vector<std::string> texts;
+        for (const auto& lines : surroundings.words.Word.Inserted) {
+            texts.push_back(lines.front().Text);
+        }
+        return texts;
+    }
+};
+
+TEST(SpellingWalk, TakesEveryTextOfTwoCharactersInTheOrderOfThePages) {
+    Spelled run;
+    run.Fill(PageId::frmP1, 8, "ab");
+    run.Fill(PageId::frmP1, 9, "a");
+    run.Fill(PageId::frmP2, 3, "Chairs");
+    run.Fill(PageId::frmP5, 32, "Last");
+    run.surroundings.questions.Expect("SpellCheck Complete");
+    modSpelling::mnuEditSpellCheck_Click(run.program);
+    EXPECT_EQ(run.Checked(), (std::vector<std::string>{"ab", "Chairs", "Last"}));
+    const std::vector<std::string>& verbs = run.surroundings.words.Word.Verbs;
+    EXPECT_EQ(std::vector<std::string>(verbs.begin(), verbs.begin() + 2),
+              (std::vector<std::string>{"AppShow", "FileNew"}));
+    EXPECT_EQ(std::vector<std::string>(verbs.end() - 2, verbs.end()),
+              (std::vector<std::string>{"FileClose 2", "AppClose"}));
+    EXPECT_EQ(run.program.spelling.Service, nullptr);
+}
+
+TEST(SpellingWalk, PutsBackWhatWasCorrectedLessTheParagraphMark) {
+    Spelled run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.surroundings.words.Word.Corrections["Chiars"] = "Chairs";
+    run.surroundings.questions.Expect("SpellCheck Complete");
+    modSpelling::mnuEditSpellCheck_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chairs");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[1][3], "Chairs") << "the store follows";
+}
+
+TEST(SpellingWalk, PassesLockedAreasOver) {
+    Spelled run;
+    run.Fill(PageId::frmP2, 3, "Chairs");
+    run.Area(PageId::frmP2, 3).Locked = true;
+    run.surroundings.questions.Expect("SpellCheck Complete");
+    modSpelling::mnuEditSpellCheck_Click(run.program);
+    EXPECT_TRUE(run.Checked().empty());
+}
+
+TEST(SpellingWalk, ATextThatBecameTooLongIsRedAndPushesNothing) {
+    Spelled run;
+    run.Fill(PageId::frmP2, 3, "Chairs");
+    run.Fill(PageId::frmP2, 4, "Tables");
+    run.surroundings.words.Word.Corrections["Chairs"] = std::string(90, 'x');
+    run.surroundings.questions.Expect("SpellCheck Complete");
+    modSpelling::mnuEditSpellCheck_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), std::string(90, 'x'));
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 4), "Tables");
+    EXPECT_EQ(run.Area(PageId::frmP2, 3).BackColor, colors::kOverLimit);
+}
+
+TEST(SpellingWalk, CancelKeepsWhatWasChangedAndSaysNothing) {
+    Spelled run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Fill(PageId::frmP2, 4, "Tabels");
+    run.Fill(PageId::frmP2, 5, "Lihgts");
+    run.surroundings.words.Word.Corrections = {{"Chiars", "Chairs"}, {"Lihgts", "Lights"}};
+    run.surroundings.words.Word.CancelAt = "Tabels";
+    modSpelling::mnuEditSpellCheck_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chairs");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 5), "Lihgts");
+    EXPECT_EQ(run.surroundings.words.Word.Verbs.back(), "AppClose");
+}
+
+TEST(SpellingWalk, WithoutADictionaryOneMessageNamesThePackage) {
+    Spelled run;
+    run.surroundings.words.Installed = false;
+    run.surroundings.questions.ExpectBox({"Cannot find Microsoft Word which is necessary to perform "
+                                          "SpellCheck.\r\nPlease install a dictionary, "
+                                          "for instance the package hunspell-en-us.",
+                                          Buttons::Ok, ""},
+                                         Answer::Ok);
+    modSpelling::mnuEditSpellCheck_Click(run.program);
+}
+
+/// The program's own check, with a dictionary that knows all but a few words.
+struct OwnCheck : Spelled {
+    OwnCheck() {
+        surroundings.words.MakeSpelling = [this] { return modSpelling::MakeService(program); };
+        surroundings.dictionaries.Unknown = {
+            {"Chiars", {"Chairs", "Choirs"}}, {"Tabels", {"Tables"}}, {"zzyzx", {}}};
+    }
+    frmSpelling& Window() {
+        auto* window = dynamic_cast<frmSpelling*>(modWindows::Find(program, "frmSpelling"));
+        if (window == nullptr) {
+            throw std::runtime_error("the window is not open");
+        }
+        return *window;
+    }
+    void Start() { modSpelling::mnuEditSpellCheck_Click(program); }
+    void ExpectEnd() { surroundings.questions.Expect("SpellCheck Complete"); }
+    void ExpectClosed() {
+        modWindows::Sweep(program);
+        EXPECT_EQ(modWindows::Find(program, "frmSpelling"), nullptr);
+        EXPECT_EQ(program.spelling.Service, nullptr);
+    }
+};
+
+TEST(SpellingWindow, ShowsPageAreaTextWordAndSuggestions) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "White Chiars here");
+    run.Start();
+    const frmSpelling& window = run.Window();
+    EXPECT_EQ(window.lblArea.Caption, "Page 2, text area 3");
+    EXPECT_EQ(window.txtText.Text, "White Chiars here");
+    EXPECT_EQ(window.txtText.SelStart, 6);
+    EXPECT_EQ(window.txtText.SelLength, 6);
+    EXPECT_EQ(window.lstSuggestions.Items, (std::vector<std::string>{"Chairs", "Choirs"}));
+    EXPECT_EQ(window.txtChangeTo.Text, "Chairs");
+    EXPECT_FALSE(window.cmdUndo.Enabled);
+}
+
+TEST(SpellingWindow, ChangeTakesTheWordAndGoesOnToTheNext) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars and Tabels");
+    run.Start();
+    run.Window().cmdChange_Click(run.program);
+    EXPECT_EQ(run.Window().txtText.Text, "Chairs and Tabels");
+    EXPECT_EQ(run.Window().txtText.SelStart, 11);
+    run.Window().txtChangeTo.Text = "Benches";
+    run.ExpectEnd();
+    run.Window().cmdChange_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chairs and Benches");
+    run.ExpectClosed();
+}
+
+TEST(SpellingWindow, ChangeAllServesLaterAreasToo) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars Chiars");
+    run.Fill(PageId::frmP3, 0, "more Chiars");
+    run.Start();
+    run.ExpectEnd();
+    run.Window().cmdChangeAll_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chairs Chairs");
+    EXPECT_EQ(run.TextOf(PageId::frmP3, 0), "more Chairs");
+    run.ExpectClosed();
+}
+
+TEST(SpellingWindow, IgnorePassesOnePlaceIgnoreAllTheWord) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "zzyzx zzyzx zzyzx");
+    run.Start();
+    run.Window().cmdIgnore_Click(run.program);
+    EXPECT_EQ(run.Window().txtText.SelStart, 6);
+    run.ExpectEnd();
+    run.Window().cmdIgnoreAll_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "zzyzx zzyzx zzyzx");
+    run.ExpectClosed();
+}
+
+TEST(SpellingWindow, AWordThatIsAddedIsKnownFromThenOn) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "zzyzx zzyzx");
+    run.Start();
+    run.ExpectEnd();
+    run.Window().cmdAdd_Click(run.program);
+    EXPECT_EQ(run.folder.Read("PersonalDictionary.txt"), "zzyzx\r\n");
+    run.ExpectClosed();
+    run.ExpectEnd();
+    run.Start();
+}
+
+TEST(SpellingWindow, UndoTakesTheLastChangeBackWithinTheText) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars and Tabels");
+    run.Start();
+    run.Window().cmdChange_Click(run.program);
+    ASSERT_TRUE(run.Window().cmdUndo.Enabled);
+    run.Window().cmdUndo_Click(run.program);
+    EXPECT_EQ(run.Window().txtText.Text, "Chiars and Tabels");
+    EXPECT_EQ(run.Window().txtText.SelStart, 0);
+    EXPECT_FALSE(run.Window().cmdUndo.Enabled);
+}
+
+TEST(SpellingWindow, UndoPutsAnAreaBackThatWasDoneAlready) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Fill(PageId::frmP2, 36, "45");
+    run.Fill(PageId::frmP3, 0, "Tabels");
+    run.Start();
+    run.Window().cmdChange_Click(run.program);
+    ASSERT_EQ(run.TextOf(PageId::frmP2, 3), "Chairs");
+    ASSERT_EQ(run.Window().lblArea.Caption, "Page 3, text area 0");
+    run.Window().cmdUndo_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chiars");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 36), "45.00");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "45.00");
+    EXPECT_EQ(run.Window().lblArea.Caption, "Page 2, text area 3");
+    EXPECT_EQ(run.Window().txtText.Text, "Chiars");
+    run.Window().cmdIgnore_Click(run.program);
+    EXPECT_EQ(run.Window().lblArea.Caption, "Page 3, text area 0");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chiars");
+}
+
+TEST(SpellingWindow, UndoOfChangeAllTakesTheOthersBackWithIt) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Fill(PageId::frmP2, 4, "Chiars");
+    run.Fill(PageId::frmP3, 0, "Tabels");
+    run.Start();
+    run.Window().cmdChangeAll_Click(run.program);
+    ASSERT_EQ(run.TextOf(PageId::frmP2, 4), "Chairs");
+    run.Window().cmdUndo_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chiars");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 4), "Chiars");
+    EXPECT_EQ(run.Window().lblArea.Caption, "Page 2, text area 3");
+}
+
+TEST(SpellingWindow, CancelKeepsWhatWasChangedInTheAreaToo) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars and Tabels");
+    run.Start();
+    run.Window().cmdChange_Click(run.program);
+    run.Window().cmdCancel_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chairs and Tabels");
+    run.ExpectClosed();
+}
+
+TEST(SpellingWindow, TellsOfAnAreaThatBecameTooLong) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Fill(PageId::frmP3, 0, "Tabels");
+    run.Start();
+    run.Window().txtChangeTo.Text = std::string(90, 'x');
+    run.Window().cmdChange_Click(run.program);
+    EXPECT_EQ(run.Window().lblTooLong.Caption, "Page 2, text area 3 is now longer than its place.");
+}
+
+TEST(SpellingWindow, AnotherLanguageIsRememberedForTheRun) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Start();
+    EXPECT_EQ(run.Window().cmbLanguage.Items, (std::vector<std::string>{"de_DE", "en_US"}));
+    EXPECT_EQ(run.Window().cmbLanguage.ListIndex, 1);
+    run.Window().cmbLanguage_Click(run.program, 0);
+    EXPECT_EQ(run.surroundings.dictionaries.InUse, "de_DE");
+    run.Window().cmdCancel_Click(run.program);
+    modWindows::Sweep(run.program);
+    run.Start();
+    EXPECT_EQ(run.Window().cmbLanguage.ListIndex, 0);
+    run.Window().cmdCancel_Click(run.program);
+}
+
+TEST(SpellingWindow, TheLocalesLanguageComesFirstThenEnglish) {
+    OwnCheck run;
+    run.ExpectEnd();
+    run.surroundings.dictionaries.Locale = "de_DE";
+    run.Start();
+    EXPECT_EQ(run.surroundings.dictionaries.InUse, "de_DE");
+    OwnCheck other;
+    other.ExpectEnd();
+    other.surroundings.dictionaries.Locale = "fr_FR";
+    other.Start();
+    EXPECT_EQ(other.surroundings.dictionaries.InUse, "en_US");
+}
+
+TEST(SpellingWindow, WithoutADictionaryThereIsNoCheck) {
+    OwnCheck run;
+    run.surroundings.dictionaries.Installed.clear();
+    run.surroundings.questions.Expect("Cannot find Microsoft Word");
+    run.Start();
+}
+
+} // namespace
