@@ -4,6 +4,7 @@
 #include "desktop/icons.h"
 #include "desktop/paper_surface.h"
 #include "program/keys.h"
+#include "desktop/paper_text.h"
 #include "program/program.h"
 #include "shell/frm_splash.h"
 
@@ -11,12 +12,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
-
-namespace {
-
-constexpr double kTwipsPerPoint = 20;
-
-} // namespace
 
 // The main window is not there yet: the splash stands by itself.
 FrmSplashView::FrmSplashView(Program& program, frmSplash& window, QWidget*, std::function<void()> afterEvent)
@@ -72,7 +67,7 @@ void FrmSplashView::paintEvent(QPaintEvent*) {
     painter.scale(scale, scale);
     QFont font(convert::ToQString(shown_.FontName));
     for (const SplashText& text : shown_.Texts) {
-        font.setPixelSize(qRound(static_cast<double>(text.FontSize) * kTwipsPerPoint));
+        font.setPixelSize(qRound(static_cast<double>(text.FontSize) * paper::kTwipsPerPoint));
         font.setBold(text.Bold);
         painter.setFont(font);
         painter.setPen(convert::ToQColor(text.ForeColor));
