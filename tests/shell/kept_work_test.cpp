@@ -130,8 +130,8 @@ TEST(KeptWork, AfterTheSharePathChangesTheProposalHasNoFile) {
     modShare::RequestNetworkSharePath(run.program);
     const DocumentState& document = run.program.document;
     EXPECT_FALSE(document.FileExists);
-    EXPECT_FALSE(run.program.main[CommandId::mnuFileDelete].Enabled);
-    EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + (run.folder / "Share/Proposals/"));
+    EXPECT_FALSE(run.Main()[CommandId::mnuFileDelete].Enabled);
+    EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + (run.folder / "Share/Proposals/"));
     run.surroundings.questions.Expect("A file with this name (Ann.hef)", Answer::No);
     run.surroundings.questions.Expect("File not saved.");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::NotSaved);
@@ -232,7 +232,7 @@ TEST(KeptWork, AProposalFromTheBackupsIsSavedAmongTheProposals) {
     EXPECT_EQ(run.folder.Read("Proposals/Ann.hef").substr(110, 13), "12 Elm Street");
     EXPECT_EQ(run.program.document.FilePath, run.folder / "Proposals/");
     EXPECT_FALSE(run.program.document.FromBackup);
-    EXPECT_FALSE(run.program.main[CommandId::mnuFileRestoreFromBackup].Enabled);
+    EXPECT_FALSE(run.Main()[CommandId::mnuFileRestoreFromBackup].Enabled);
 }
 
 TEST(KeptWork, SaveAsNeverWritesAmongTheBackups) {
@@ -253,7 +253,7 @@ TEST(KeptWork, APropertyFileThatWasNotWantedStaysAsItIs) {
     run.SaveAnn();
     run.folder.Write("Proposals/Ann.hpf", "frmP1.txt(10).FontBold=True\r\n");
     run.Open("Ann.hef", Kept::From::Proposals, Kept::Layout::Ignored);
-    run.program.format.PropTextChanges[0][10].Dirty = true;
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
     EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "frmP1.txt(10).FontBold=True\r\n");
