@@ -445,6 +445,24 @@ TEST(Deposits, AProposalWithoutAFileStartsEmptyAndIsSavedFirst) {
     EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "5");
 }
 
+TEST(Deposits, AFileIsFoundWhateverTheCaseOfItsName) {
+    Deposited run;
+    run.folder.Write("Proposals/JANE ROE.DEP", "Jane Roe\r\na\t\t$ 500.00");
+    frmDeposits& window = run.Open();
+    EXPECT_EQ(window.lst.Items.size(), 1U);
+    window.Choose(run.program, "mnuFileSave"); // its own name is the exact one
+    EXPECT_EQ(run.File(), "Jane Roe\r\na\t\t$ 500.00");
+    EXPECT_TRUE(run.folder.Has("Proposals/JANE ROE.DEP"));
+}
+
+TEST(Deposits, AFolderOrALinkToNowhereOfThatNameIsNoFile) {
+    Deposited run;
+    fs::create_symlink("nowhere", run.folder / "Proposals/Jane Roe.dep");
+    frmDeposits& window = run.Open();
+    EXPECT_TRUE(window.lst.Items.empty());
+    EXPECT_FALSE(window.Locked);
+}
+
 TEST(Deposits, TheCommandBringsTheOpenWindowToTheFront) {
     Deposited run;
     frmDeposits& window = run.Open();

@@ -57,7 +57,7 @@ TEST(FormatFile, ABoldStaysInForceForTheTextsAndMarksBehindIt) {
     EXPECT_FALSE(run.Area(PageId::frmP1, 10).FontBold);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 9), "Hall");
     EXPECT_EQ(run.program.pages[PageId::frmP1].imgNoTax[20].Tag, "");
-    EXPECT_TRUE(run.program.format.PropTextChanges[0][9].FontBold);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP1][9].FontBold);
 }
 
 TEST(FormatFile, AMarkTouchesAmountsOnly) {
@@ -65,7 +65,7 @@ TEST(FormatFile, AMarkTouchesAmountsOnly) {
     run.Lay({"frmP1.txt(10).TaxExempt=True", "frmP2.txt(33).TaxExempt=True"});
     EXPECT_EQ(run.program.pages[PageId::frmP1].imgNoTax[10].Tag, kHide);
     EXPECT_EQ(run.program.pages[PageId::frmP2].imgNoTax[33].Tag, "");
-    EXPECT_TRUE(run.program.format.FormatTextChanges[1][33].TaxExempt);
+    EXPECT_TRUE(run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt);
 }
 
 TEST(FormatFile, ARowsProductCountsAtOnceAndNothingIsUnsaved) {
@@ -233,7 +233,7 @@ TEST(PropertyLines, AFaultEndsTheReadingAndTheFileIsKept) {
     run.Open("Jane Roe.hef");
     EXPECT_TRUE(run.Area(PageId::frmP1, 10).FontBold);
     EXPECT_FALSE(run.Area(PageId::frmP1, 11).FontBold);
-    run.program.format.PropTextChanges[0][10].Dirty = true;
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
     run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
     ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
     EXPECT_NE(run.folder.Read("Proposals/Jane Roe.hpf.unread").find("Left=far"), std::string::npos);
@@ -263,7 +263,7 @@ TEST(PropertyLines, WhatAClientWasSentLooksTheSameWithoutTheFormat) {
 TEST(PropertyLines, SayThatAnAreaWhichItsFormatMakesBoldIsNot) {
     Laid run;
     run.Lay({"frmP1.txt(10).FontBold=True"});
-    run.program.format.PropTextChanges[0][10].FontBold = false;
+    run.program.format.PropTextChanges[PageId::frmP1][10].FontBold = false;
     const auto lines = modFormat::PropertyLinesNow(run.program);
     ASSERT_FALSE(lines.empty());
     EXPECT_EQ(lines[0], "frmP1.txt(10).FontBold=False");
