@@ -156,6 +156,17 @@ void TakeLines(Program& program) {
     }
 }
 
+/// The titles of all pages, and their looks for the next save; what the file had no line for needs none then.
+void LayTitlesAsRead(Program& program) {
+    const LabelChangeTable before = program.format.PropLabelChanges;
+    modTitles::LayTitles(program);
+    for (const PageId page : kEditedPages) {
+        const auto at = static_cast<std::size_t>(IndexOf(page));
+        const auto index = static_cast<std::size_t>(geometry::TitleLabel(page));
+        program.format.PropLabelChanges[at][index].Changed = before[at][index].Changed;
+    }
+}
+
 /// The words that the lines have given title and heading.
 void TakeTitles(Program& program) {
     DocumentState& document = program.document;
@@ -169,7 +180,7 @@ void TakeTitles(Program& program) {
     if (title.Changed && !title.Caption.empty()) {
         document.ClientCaption = title.Caption;
         document.TitleGiven = title.Caption != "Proposal for " + document.BaseName;
-        modTitles::LayTitles(program);
+        LayTitlesAsRead(program);
     } else {
         modTitles::UpdateFooters(program);
     }
