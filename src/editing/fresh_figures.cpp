@@ -16,6 +16,9 @@ void SettleTyping(Program& program) {
 }
 
 void TakeFresh(Program& program) {
+    if (program.pages[PageId::frmP6].txt.empty()) {
+        return; // asked for before the pages are built
+    }
     SettleTyping(program);
     modTotals::MatchTables(program);
     modTotals::SumAgain(program);
