@@ -16,8 +16,8 @@ void SettleTyping(Program& program) {
 }
 
 void TakeFresh(Program& program) {
-    if (program.pages[PageId::frmP5].imgNoTax.empty()) {
-        return; // the pages are not built yet: there is nothing to sum
+    if (program.pages[PageId::frmP6].txt.empty()) {
+        return; // asked for before the pages are built
     }
     SettleTyping(program);
     modTotals::MatchTables(program);

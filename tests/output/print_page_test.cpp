@@ -449,11 +449,13 @@ TEST(PrintTheForm, UnderlinesCategoriesWhenTheOptionIsChecked) {
     EXPECT_EQ(lines(), 0);
 }
 
-TEST(PrintTheForm, PrintsTheTotalsAsTheyStandOtherwise) {
+TEST(PrintTheForm, TakesTheTotalsFreshWhateverColourTheButtonHas) {
     RunningProgram run;
     run.Area(PageId::frmP6, 3).Text = "12.00";
+    run.Area(PageId::frmP2, 33).Text = "100";
     modPrint::PrintTheForm(run.program, PageId::frmP6);
-    EXPECT_TRUE(Printed(run, "12.00"));
+    EXPECT_FALSE(Printed(run, "12.00"));
+    EXPECT_TRUE(Printed(run, "108.25"));
 }
 
 TEST(PrintTheForm, PrintsHiddenTotalsAsNothing) {
