@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -252,7 +251,7 @@ TEST(Calendar, TheProposalOnShowHasNoFileAnyMoreWhenItIsMoved) {
     run.Select(window, {0});
     window.Choose(run.program, "mnuOptDelete");
     EXPECT_FALSE(run.program.document.FileExists);
-    EXPECT_FALSE(run.Main()[CommandId::mnuFileDelete].Enabled);
+    EXPECT_FALSE(run.program.main[CommandId::mnuFileDelete].Enabled);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
     run.Select(window, {0});
     run.surroundings.questions.Expect("Do you want to save the changes?", Answer::Cancel);
@@ -265,6 +264,7 @@ TEST(Calendar, OpensTheSelectedProposalFromTheDataFolder) {
     SaveJaneRoe(run);
     static_cast<void>(modCalendar::OpenProposal);
     run.program.document.FromBackup = true;
+    run.program.main[CommandId::mnuFileRestoreFromBackup].Enabled = true;
     run.program.document.FilePath = run.folder / "Elsewhere/";
     frmDates& window = run.Open();
     run.Select(window, {0});
@@ -272,7 +272,7 @@ TEST(Calendar, OpensTheSelectedProposalFromTheDataFolder) {
     EXPECT_EQ(run.program.document.FileName, "Jane Roe.hef");
     EXPECT_EQ(run.program.document.FilePath, run.folder / "Proposals/");
     EXPECT_FALSE(run.program.document.FromBackup);
-    EXPECT_FALSE(run.Main()[CommandId::mnuFileRestoreFromBackup].Enabled);
+    EXPECT_FALSE(run.program.main[CommandId::mnuFileRestoreFromBackup].Enabled);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "500.00");
 }
 
