@@ -17,6 +17,9 @@ void SettleTyping(Program& program) {
 
 void TakeFresh(Program& program) {
     SettleTyping(program);
+    if (program.pages[PageId::frmP6].txt.empty()) {
+        return; // pages that are not built have no figures
+    }
     modTotals::MatchTables(program);
     modTotals::SumAgain(program);
 }
