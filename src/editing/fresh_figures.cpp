@@ -20,6 +20,9 @@ void TakeFresh(Program& program) {
         return; // asked for before the pages are built
     }
     SettleTyping(program);
+    if (program.pages[PageId::frmP6].txt.empty()) {
+        return; // pages that are not built have no figures
+    }
     modTotals::MatchTables(program);
     modTotals::SumAgain(program);
 }
