@@ -272,7 +272,7 @@ TEST(Calendar, OpensTheSelectedProposalFromTheDataFolder) {
     EXPECT_EQ(run.program.document.FileName, "Jane Roe.hef");
     EXPECT_EQ(run.program.document.FilePath, run.folder / "Proposals/");
     EXPECT_FALSE(run.program.document.FromBackup);
-    EXPECT_FALSE(run.program.main[CommandId::mnuFileRestoreFromBackup].Enabled);
+    EXPECT_FALSE(run.Main()[CommandId::mnuFileRestoreFromBackup].Enabled);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "500.00");
 }
 
