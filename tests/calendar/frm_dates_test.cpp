@@ -251,7 +251,7 @@ TEST(Calendar, TheProposalOnShowHasNoFileAnyMoreWhenItIsMoved) {
     run.Select(window, {0});
     window.Choose(run.program, "mnuOptDelete");
     EXPECT_FALSE(run.program.document.FileExists);
-    EXPECT_FALSE(run.program.main[CommandId::mnuFileDelete].Enabled);
+    EXPECT_FALSE(run.Main()[CommandId::mnuFileDelete].Enabled);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
     run.Select(window, {0});
     run.surroundings.questions.Expect("Do you want to save the changes?", Answer::Cancel);
@@ -264,7 +264,6 @@ TEST(Calendar, OpensTheSelectedProposalFromTheDataFolder) {
     SaveJaneRoe(run);
     static_cast<void>(modCalendar::OpenProposal);
     run.program.document.FromBackup = true;
-    run.program.main[CommandId::mnuFileRestoreFromBackup].Enabled = true;
     run.program.document.FilePath = run.folder / "Elsewhere/";
     frmDates& window = run.Open();
     run.Select(window, {0});
