@@ -1,6 +1,7 @@
 #include "desktop/contract_layout.h"
 
 #include "desktop/convert.h"
+#include "desktop/paper_text.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -14,7 +15,6 @@
 namespace {
 
 constexpr double kMargin = 4;
-constexpr double kTwipsPerPoint = 20;
 
 } // namespace
 
@@ -30,8 +30,8 @@ void ContractLayout::SetFont(const TextFont& font, double pixelsPerTwip) {
     face.setHintingPreference(QFont::PreferNoHinting);
     face.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferNoShaping | QFont::PreferAntialias));
     document()->setDefaultFont(face);
-    lineHeight_ =
-        std::ceil(std::max(QFontMetricsF(face).height(), double(font.Size) * kTwipsPerPoint * pixelsPerTwip));
+    lineHeight_ = std::ceil(
+        std::max(QFontMetricsF(face).height(), double(font.Size) * paper::kTwipsPerPoint * pixelsPerTwip));
     LayOutAll();
 }
 

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QToolTip>
+#include <QVBoxLayout>
 
 namespace dialog {
 
@@ -22,6 +23,25 @@ QPushButton* Button(QDialog* dialog, const char* name, const CommandButton& reco
     button->setObjectName(QLatin1String(name));
     button->setAutoDefault(false);
     return button;
+}
+
+QVBoxLayout* Column(QDialog* dialog) {
+    auto* column = new QVBoxLayout(dialog);
+    column->setContentsMargins(18, 16, 18, 14);
+    column->setSpacing(10);
+    return column;
+}
+
+void Foot(QVBoxLayout* column, std::initializer_list<QPushButton*> buttons) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(8);
+    row->addStretch(1);
+    for (QPushButton* button : buttons) {
+        row->addWidget(button);
+    }
+    (*buttons.begin())->setDefault(true);
+    column->addSpacing(4);
+    column->addLayout(row);
 }
 
 ModelValidator::ModelValidator(QLineEdit* edit, int (*filter)(int))

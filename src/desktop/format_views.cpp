@@ -25,26 +25,6 @@
 
 namespace {
 
-QVBoxLayout* Column(QDialog* dialog) {
-    auto* column = new QVBoxLayout(dialog);
-    column->setContentsMargins(18, 16, 18, 14);
-    column->setSpacing(10);
-    return column;
-}
-
-/// The buttons at the foot, at the right; the first is what Return presses.
-void Foot(QVBoxLayout* column, std::initializer_list<QPushButton*> buttons) {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(8);
-    row->addStretch(1);
-    for (QPushButton* button : buttons) {
-        row->addWidget(button);
-    }
-    (*buttons.begin())->setDefault(true);
-    column->addSpacing(4);
-    column->addLayout(row);
-}
-
 void Show(QLabel* label, const std::string& text) {
     const QString shown = convert::ToQString(text);
     if (label->text() != shown) {
@@ -142,7 +122,7 @@ void TakeFocus(QDialog* dialog, std::string& next) {
 FrmLabelPropsView::FrmLabelPropsView(Program& program, frmLabelProps& window, QWidget* over,
                                      std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)), model_(window) {
-    QVBoxLayout* column = Column(this);
+    QVBoxLayout* column = dialog::Column(this);
     QLabel* title = dialog::Words(this, "lblCaption", window.lblCaption.Caption);
     column->addWidget(title);
     caption_ = Edit(this, "txtCaption", tr("Label caption"));
@@ -187,7 +167,7 @@ FrmLabelPropsView::FrmLabelPropsView(Program& program, frmLabelProps& window, QW
     QPushButton* more = dialog::Button(this, "cmdColors", window.cmdColors);
     QPushButton* ok = dialog::Button(this, "cmdOK", window.cmdOK);
     QPushButton* cancel = dialog::Button(this, "cmdCancel", window.cmdCancel);
-    Foot(column, {ok, cancel, more});
+    dialog::Foot(column, {ok, cancel, more});
     setMinimumWidth(360);
     Connect(caption_,
             [this](const std::string& text) { Do([&] { model_.txtCaption_Change(program_, text); }); });
@@ -238,7 +218,7 @@ void FrmLabelPropsView::Follow() {
 FrmTextPropsView::FrmTextPropsView(Program& program, frmTextProps& window, QWidget* over,
                                    std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)), model_(window) {
-    QVBoxLayout* column = Column(this);
+    QVBoxLayout* column = dialog::Column(this);
     auto* halves = new QHBoxLayout;
     halves->setSpacing(16);
     auto* left = new QVBoxLayout;
@@ -282,7 +262,7 @@ FrmTextPropsView::FrmTextPropsView(Program& program, frmTextProps& window, QWidg
     QPushButton* ok = dialog::Button(this, "cmdOK", window.cmdOK);
     QPushButton* cancel = dialog::Button(this, "cmdCancel", window.cmdCancel);
     QPushButton* standard = dialog::Button(this, "cmdDefault", window.cmdDefault);
-    Foot(column, {ok, cancel, standard});
+    dialog::Foot(column, {ok, cancel, standard});
     setMinimumWidth(440);
     fonts_->Chosen = [this](int index) { Do([&] { model_.lstFont_Click(program_, index); }); };
     connect(italic_, &QCheckBox::clicked, this, [this] { Do([&] { model_.chkItalic_Click(program_); }); });
@@ -315,7 +295,7 @@ void FrmTextPropsView::Follow() {
 
 FrmRGBView::FrmRGBView(Program& program, frmRGB& window, QWidget* over, std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)), model_(window) {
-    QVBoxLayout* column = Column(this);
+    QVBoxLayout* column = dialog::Column(this);
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(10);
     struct Part {
@@ -377,7 +357,7 @@ FrmRGBView::FrmRGBView(Program& program, frmRGB& window, QWidget* over, std::fun
     QPushButton* small = dialog::Button(this, "cmdSmInc", window.cmdSmInc);
     QPushButton* ok = dialog::Button(this, "cmdOK", window.cmdOK);
     QPushButton* cancel = dialog::Button(this, "cmdCancel", window.cmdCancel);
-    Foot(column, {ok, cancel, normal, small});
+    dialog::Foot(column, {ok, cancel, normal, small});
     connect(normal, &QPushButton::clicked, this, [this] { Do([&] { model_.cmdNormInc_Click(program_); }); });
     connect(small, &QPushButton::clicked, this, [this] { Do([&] { model_.cmdSmInc_Click(program_); }); });
     connect(ok, &QPushButton::clicked, this, [this] { Do([&] { model_.cmdOK_Click(program_); }); });
@@ -412,7 +392,7 @@ void FrmRGBView::Follow() {
 
 FrmSnapView::FrmSnapView(Program& program, frmSnap& window, QWidget* over, std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)) {
-    QVBoxLayout* column = Column(this);
+    QVBoxLayout* column = dialog::Column(this);
     auto* first = new QHBoxLayout;
     QLabel* words = dialog::Words(this, "lblSnapValue", window.lblSnapValue.Caption);
     words->setWordWrap(false);
@@ -441,7 +421,7 @@ FrmSnapView::FrmSnapView(Program& program, frmSnap& window, QWidget* over, std::
     column->addLayout(quick);
     QPushButton* ok = dialog::Button(this, "cmdOK", window.cmdOK);
     QPushButton* cancel = dialog::Button(this, "cmdCancel", window.cmdCancel);
-    Foot(column, {ok, cancel});
+    dialog::Foot(column, {ok, cancel});
     Connect(snap, [&window](const std::string& text) { window.txtSnap.Text = text; });
     connect(ok, &QPushButton::clicked, this, [this, &window] { Do([&] { window.cmdOK_Click(program_); }); });
     connect(cancel, &QPushButton::clicked, this,
@@ -453,7 +433,7 @@ FrmSnapView::FrmSnapView(Program& program, frmSnap& window, QWidget* over, std::
 FrmTitleView::FrmTitleView(Program& program, frmTitle& window, QWidget* over,
                            std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)), model_(window) {
-    QVBoxLayout* column = Column(this);
+    QVBoxLayout* column = dialog::Column(this);
     const std::array<const char*, 2> names{"txtTitle", "txtSubTitle"};
     const std::array<const char*, 2> labels{"lblMain", "lblSubTitle"};
     const std::array<const StripLabel*, 2> records{&window.lblMain, &window.lblSubTitle};
@@ -476,7 +456,7 @@ FrmTitleView::FrmTitleView(Program& program, frmTitle& window, QWidget* over,
     Connect(boxes_[1], [&window](const std::string& text) { window.txtSubTitle_Change(text); });
     QPushButton* ok = dialog::Button(this, "cmdOK", window.cmdOK);
     QPushButton* standard = dialog::Button(this, "cmdDefault", window.cmdDefault);
-    Foot(column, {ok, standard});
+    dialog::Foot(column, {ok, standard});
     setMinimumWidth(460);
     connect(ok, &QPushButton::clicked, this, [this] { Do([&] { model_.cmdOK_Click(program_); }); });
     connect(standard, &QPushButton::clicked, this,

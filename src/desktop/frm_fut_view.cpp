@@ -211,7 +211,7 @@ void FrmFutView::BuildLists() {
     });
     const auto open = [this] { Do([this] { model_.lstMoreFUT_Click(program_); }); };
     lists_->Entered = open;
-    connect(lists_, &QListWidget::itemClicked, this, [this, open] {
+    connect(lists_, &QListWidget::itemClicked, this, [open] {
         if (QApplication::mouseButtons() == Qt::NoButton) {
             open();
         }

@@ -3,6 +3,8 @@
 #include "desktop/convert.h"
 #include "desktop/icons.h"
 #include "desktop/paper_surface.h"
+#include "program/keys.h"
+#include "desktop/paper_text.h"
 #include "program/program.h"
 #include "shell/frm_splash.h"
 
@@ -10,12 +12,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScreen>
-
-namespace {
-
-constexpr double kTwipsPerPoint = 20;
-
-} // namespace
 
 // The main window is not there yet: the splash stands by itself.
 FrmSplashView::FrmSplashView(Program& program, frmSplash& window, QWidget*, std::function<void()> afterEvent)
@@ -71,7 +67,7 @@ void FrmSplashView::paintEvent(QPaintEvent*) {
     painter.scale(scale, scale);
     QFont font(convert::ToQString(shown_.FontName));
     for (const SplashText& text : shown_.Texts) {
-        font.setPixelSize(qRound(static_cast<double>(text.FontSize) * kTwipsPerPoint));
+        font.setPixelSize(qRound(static_cast<double>(text.FontSize) * paper::kTwipsPerPoint));
         font.setBold(text.Bold);
         painter.setFont(font);
         painter.setPen(convert::ToQColor(text.ForeColor));
@@ -87,8 +83,7 @@ void FrmSplashView::mousePressEvent(QMouseEvent*) {
 
 void FrmSplashView::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        constexpr int kEnter = 13;
-        Do([&] { splash_.Form_KeyDown(program_, kEnter); });
+        Do([&] { splash_.Form_KeyDown(program_, keys::kEnter); });
         return;
     }
     WindowView::keyPressEvent(event);

@@ -9,7 +9,6 @@ namespace paper {
 
 namespace {
 
-constexpr float kTwipsPerPoint = 20;
 constexpr float kSmallest = 1;
 /// From the base line to the top of an underline, and its height, as parts of the type's size.
 constexpr double kUnderlineDrop = 0.1, kUnderlineWeight = 0.055;

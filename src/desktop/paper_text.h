@@ -14,6 +14,8 @@
 /// Text in twips, the same on screen and on paper. One unit of the painter is one twip wherever it is drawn.
 namespace paper {
 
+inline constexpr float kTwipsPerPoint = 20;
+
 /// The face in which a text is set: no hinting, no kerning, no shaping, so that widths are the sums of the
 /// characters' own and are the same at every resolution. Its size is in twips.
 [[nodiscard]] QFont Face(const TextFont& font);

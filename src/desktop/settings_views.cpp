@@ -24,26 +24,6 @@ namespace {
 
 constexpr int kBoxWidth = 120;
 
-QVBoxLayout* Column(QDialog* dialog) {
-    auto* column = new QVBoxLayout(dialog);
-    column->setContentsMargins(18, 16, 18, 14);
-    column->setSpacing(10);
-    return column;
-}
-
-/// The buttons at the foot, at the right; the first is what Return presses.
-void Foot(QVBoxLayout* column, std::initializer_list<QPushButton*> buttons) {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(8);
-    row->addStretch(1);
-    for (QPushButton* button : buttons) {
-        row->addWidget(button);
-    }
-    (*buttons.begin())->setDefault(true);
-    column->addSpacing(4);
-    column->addLayout(row);
-}
-
 void ShowText(QLabel* label, const std::string& text) {
     const QString shown = convert::ToQString(text);
     if (label->text() != shown) {
@@ -62,7 +42,7 @@ void ShowText(QLineEdit* edit, const std::string& text) {
 
 FrmTaxView::FrmTaxView(Program& program, frmTax& window, QWidget* over, std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)) {
-    QVBoxLayout* column = Column(this);
+    QVBoxLayout* column = dialog::Column(this);
     column->addWidget(dialog::Words(this, "lblTaxRate", window.lblTaxRate.Caption));
     auto* rate = dialog::FilteredEdit(this, "txtTaxRate", tr("New sales tax rate in percent"),
                                       frmTax::txtTaxRate_KeyPress);
@@ -70,7 +50,7 @@ FrmTaxView::FrmTaxView(Program& program, frmTax& window, QWidget* over, std::fun
     column->addWidget(rate);
     QPushButton* ok = dialog::Button(this, "cmdOK", window.cmdOK);
     QPushButton* cancel = dialog::Button(this, "cmdCancel", window.cmdCancel);
-    Foot(column, {ok, cancel});
+    dialog::Foot(column, {ok, cancel});
     setMinimumWidth(360);
     rate->setText(convert::ToQString(window.txtTaxRate.Text));
     rate->setSelection(window.txtTaxRate.SelStart, window.txtTaxRate.SelLength);
@@ -84,7 +64,7 @@ FrmTaxView::FrmTaxView(Program& program, frmTax& window, QWidget* over, std::fun
 
 FrmPrefView::FrmPrefView(Program& program, frmPref& window, QWidget* over, std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)) {
-    QVBoxLayout* column = Column(this);
+    QVBoxLayout* column = dialog::Column(this);
     const std::array<std::pair<const char*, CheckBox*>, 7> boxes{
         {{"chkShowFUT", &window.chkShowFUT},
          {"chkShowCalc", &window.chkShowCalc},
@@ -103,7 +83,7 @@ FrmPrefView::FrmPrefView(Program& program, frmPref& window, QWidget* over, std::
     }
     QPushButton* save = dialog::Button(this, "cmdSave", window.cmdSave);
     QPushButton* leave = dialog::Button(this, "cmdExit", window.cmdExit);
-    Foot(column, {save, leave});
+    dialog::Foot(column, {save, leave});
     connect(save, &QPushButton::clicked, this,
             [this, &window] { Do([&] { window.cmdSave_Click(program_); }); });
     connect(leave, &QPushButton::clicked, this,
@@ -122,7 +102,7 @@ void FrmPrefView::Follow() {
 FrmACStartView::FrmACStartView(Program& program, frmACStart& window, QWidget* over,
                                std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)), model_(window) {
-    QVBoxLayout* column = Column(this);
+    QVBoxLayout* column = dialog::Column(this);
     column->addWidget(new QLabel(tr("Characters typed before a word is completed:"), this));
     auto* row = new QHBoxLayout;
     row->setSpacing(14);
@@ -151,7 +131,7 @@ FrmACStartView::FrmACStartView(Program& program, frmACStart& window, QWidget* ov
     column->addLayout(second);
     QPushButton* ok = dialog::Button(this, "cmdOK", window.cmdOK);
     QPushButton* cancel = dialog::Button(this, "cmdCancel", window.cmdCancel);
-    Foot(column, {ok, cancel});
+    dialog::Foot(column, {ok, cancel});
     connect(other_, &QLineEdit::textChanged, this,
             [this] { model_.txtACStart.Text = convert::ToModel(other_->text()); });
     connect(ok, &QPushButton::clicked, this, [this] { Do([&] { model_.cmdOK_Click(program_); }); });
@@ -178,7 +158,7 @@ void FrmACStartView::Follow() {
 FrmPOffsetsView::FrmPOffsetsView(Program& program, frmPOffsets& window, QWidget* over,
                                  std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)), model_(window) {
-    QVBoxLayout* column = Column(this);
+    QVBoxLayout* column = dialog::Column(this);
     const auto box = [this, column](const char* label, const char* name, const QString& spoken) {
         QLabel* words = dialog::Words(this, label, {});
         words->setWordWrap(false);
@@ -236,7 +216,7 @@ void FrmPOffsetsView::Follow() {
 FrmPrintersView::FrmPrintersView(Program& program, frmPrinters& window, QWidget* over,
                                  std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)), model_(window) {
-    QVBoxLayout* column = Column(this);
+    QVBoxLayout* column = dialog::Column(this);
     printers_ = new QComboBox(this);
     printers_->setObjectName(QStringLiteral("cmbPrinters"));
     printers_->setAccessibleName(tr("Available printers"));
@@ -247,7 +227,7 @@ FrmPrintersView::FrmPrintersView(Program& program, frmPrinters& window, QWidget*
     auto* leave = new QPushButton(tr("Close"), this);
     leave->setObjectName(QStringLiteral("cmdClose"));
     leave->setAutoDefault(false);
-    Foot(column, {choose_, leave});
+    dialog::Foot(column, {choose_, leave});
     connect(printers_, &QComboBox::activated, this,
             [this](int index) { Do([&] { model_.cmbPrinters_Click(program_, index); }); });
     connect(choose_, &QPushButton::clicked, this, [this] { Do([&] { model_.cmdPrinter_Click(program_); }); });

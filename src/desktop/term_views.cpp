@@ -20,25 +20,12 @@ int PrintableOnly(int keyAscii) {
     return keyAscii >= kFirstPrinted ? keyAscii : 0;
 }
 
-QVBoxLayout* Column(QDialog* dialog, const QString& words) {
-    auto* column = new QVBoxLayout(dialog);
-    column->setContentsMargins(18, 16, 18, 14);
-    column->setSpacing(10);
+QVBoxLayout* ColumnUnder(QDialog* dialog, const QString& words) {
+    QVBoxLayout* column = dialog::Column(dialog);
     auto* label = new QLabel(words, dialog);
     label->setWordWrap(true);
     column->addWidget(label);
     return column;
-}
-
-void Foot(QVBoxLayout* column, std::initializer_list<QPushButton*> buttons) {
-    auto* row = new QHBoxLayout;
-    row->setSpacing(8);
-    row->addStretch(1);
-    for (QPushButton* button : buttons) {
-        row->addWidget(button);
-    }
-    (*buttons.begin())->setDefault(true);
-    column->addLayout(row);
 }
 
 } // namespace
@@ -46,14 +33,14 @@ void Foot(QVBoxLayout* column, std::initializer_list<QPushButton*> buttons) {
 FrmAddFutView::FrmAddFutView(Program& program, frmAddFUT& window, QWidget* over,
                              std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)), model_(window) {
-    QVBoxLayout* column = Column(this, tr("New term, with its price in square brackets if it has one:"));
+    QVBoxLayout* column = ColumnUnder(this, tr("New term, with its price in square brackets if it has one:"));
     text_ = dialog::FilteredEdit(this, "txtAddFUT", tr("New term"), PrintableOnly);
     text_->setMinimumWidth(380);
     column->addWidget(text_);
     QPushButton* save = dialog::Button(this, "cmdSave", window.cmdSave);
     QPushButton* clear = dialog::Button(this, "cmdClear", window.cmdClear);
     QPushButton* done = dialog::Button(this, "cmdExit", window.cmdExit);
-    Foot(column, {save, clear, done});
+    dialog::Foot(column, {save, clear, done});
     connect(text_, &QLineEdit::textChanged, this,
             [this] { model_.txtAddFUT.Text = convert::ToModel(text_->text()); });
     connect(save, &QPushButton::clicked, this, [this] { Do([this] { model_.cmdSave_Click(program_); }); });
@@ -74,14 +61,14 @@ void FrmAddFutView::Follow() {
 FrmEditFutView::FrmEditFutView(Program& program, frmEditFUT& window, QWidget* over,
                                std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)) {
-    QVBoxLayout* column = Column(this, tr("The term, with its price in square brackets if it has one:"));
+    QVBoxLayout* column = ColumnUnder(this, tr("The term, with its price in square brackets if it has one:"));
     QLineEdit* text = dialog::FilteredEdit(this, "txtEditFUT", tr("Term"), PrintableOnly);
     text->setMinimumWidth(380);
     text->setText(convert::ToQString(window.txtEditFUT.Text));
     column->addWidget(text);
     QPushButton* save = dialog::Button(this, "cmdSave", window.cmdSave);
     QPushButton* leave = dialog::Button(this, "cmdExit", window.cmdExit);
-    Foot(column, {save, leave});
+    dialog::Foot(column, {save, leave});
     connect(text, &QLineEdit::textChanged, this,
             [text, &window] { window.txtEditFUT.Text = convert::ToModel(text->text()); });
     connect(save, &QPushButton::clicked, this,

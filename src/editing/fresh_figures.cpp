@@ -16,6 +16,9 @@ void SettleTyping(Program& program) {
 }
 
 void TakeFresh(Program& program) {
+    if (program.pages[PageId::frmP5].imgNoTax.empty()) {
+        return; // the pages are not built yet: there is nothing to sum
+    }
     SettleTyping(program);
     modTotals::MatchTables(program);
     modTotals::SumAgain(program);

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -250,7 +252,7 @@ TEST(Calendar, TheProposalOnShowHasNoFileAnyMoreWhenItIsMoved) {
     run.Select(window, {0});
     window.Choose(run.program, "mnuOptDelete");
     EXPECT_FALSE(run.program.document.FileExists);
-    EXPECT_FALSE(run.program.main[CommandId::mnuFileDelete].Enabled);
+    EXPECT_FALSE(run.Main()[CommandId::mnuFileDelete].Enabled);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
     run.Select(window, {0});
     run.surroundings.questions.Expect("Do you want to save the changes?", Answer::Cancel);
@@ -263,7 +265,6 @@ TEST(Calendar, OpensTheSelectedProposalFromTheDataFolder) {
     SaveJaneRoe(run);
     static_cast<void>(modCalendar::OpenProposal);
     run.program.document.FromBackup = true;
-    run.program.main[CommandId::mnuFileRestoreFromBackup].Enabled = true;
     run.program.document.FilePath = run.folder / "Elsewhere/";
     frmDates& window = run.Open();
     run.Select(window, {0});
@@ -271,7 +272,7 @@ TEST(Calendar, OpensTheSelectedProposalFromTheDataFolder) {
     EXPECT_EQ(run.program.document.FileName, "Jane Roe.hef");
     EXPECT_EQ(run.program.document.FilePath, run.folder / "Proposals/");
     EXPECT_FALSE(run.program.document.FromBackup);
-    EXPECT_FALSE(run.program.main[CommandId::mnuFileRestoreFromBackup].Enabled);
+    EXPECT_FALSE(run.Main()[CommandId::mnuFileRestoreFromBackup].Enabled);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "500.00");
 }
 
@@ -402,7 +403,9 @@ TEST(Calendar, ANewViewCommandStartsOver) {
     };
     frmDates& window = run.Open();
     EXPECT_EQ(window.lstDates.Items, (Dated::Items{"Jan/21/2008\tToday.hef"}));
-    EXPECT_EQ(run.program.windows.Open.size(), 1U);
+    EXPECT_EQ(std::count_if(run.program.windows.Open.begin(), run.program.windows.Open.end(),
+                            [](const auto& open) { return open->Name() == "frmDates"; }),
+              1);
     EXPECT_EQ(run.program.calendar.Running, 0);
     EXPECT_TRUE(window.Entry("mnuFilePrint").Enabled);
 }
