@@ -224,7 +224,7 @@ void FillEveryRow(Program& program) {
             const bool amount = geometry::RightAligned(page, static_cast<int>(index));
             area.Text = amount ? "1,250.00" : "White folding chairs with ivory sashes, delivered and set up";
             if (IsLinePage(page)) {
-                program.document.CurrentTextBuf[static_cast<std::size_t>(IndexOf(page))][index] = area.Text;
+                program.document.CurrentTextBuf[page][index] = area.Text;
                 if (amount && geometry::IsAmount(page, static_cast<int>(index))) {
                     modPages::SetCurrencySign(program, page, static_cast<int>(index), modPages::Mark::Shown);
                 }

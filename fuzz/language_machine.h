@@ -32,7 +32,9 @@ struct LanguageMachine {
                       .clock = recording.clock,
                       .instance = recording.instance,
                       .pictures = recording.pictures,
-                      .events = recording.events};
+                      .events = recording.events,
+                      .words = recording.words,
+                      .dictionaries = recording.dictionaries};
     Program program{platform};
 
     LanguageMachine() {

@@ -2,7 +2,7 @@
 
 #include "base/numbers.h"
 #include "calculator/equation.h"
-#include "editing/keys.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "program/windows.h"
 

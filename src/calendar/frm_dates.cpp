@@ -92,8 +92,8 @@ void OpenProposal(Program& program, const std::string& fileName) {
         return;
     }
     document.FromBackup = false;
-    program.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
     modFile::ShowProposal(program, fileName, *raw);
+    document.PropertiesIgnored = false;
     modFile::ReadFileProperties(program);
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }

@@ -100,7 +100,6 @@ int MoveAll(Program& program, std::string_view fromFolder, std::string_view toFo
 void LoseFile(Program& program) {
     program.document.FileExists = false;
     program.document.SavedStateStale = true;
-    program.main[CommandId::mnuFileDelete].Enabled = false;
 }
 
 } // namespace

@@ -103,7 +103,7 @@ bool frmNotes::SaveFootnoteFile(Program& program) {
     }
     FootnoteSavedText = FootnoteText;
     program.document.FootnoteFile = FootnoteFile(program);
-    program.main.imgFootNotes.Picture = 1; // also for a text of nothing: there is a file now
+    program.document.HasNotes = true; // also for a text of nothing: there is a file now
     return true;
 }
 

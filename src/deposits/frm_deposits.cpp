@@ -5,6 +5,7 @@
 #include "base/text.h"
 #include "deposits/deposit_rows.h"
 #include "pages/fields.h"
+#include "program/keys.h"
 #include "program/line_printing.h"
 #include "program/program.h"
 #include "program/windows.h"
@@ -191,9 +192,8 @@ void frmDeposits::txtDate_LostFocus(Program& program) {
 }
 
 int frmDeposits::txtAmount_KeyPress(int keyAscii) {
-    constexpr int kBackspace = 8, kTab = 9, kEnter = 13;
-    const bool passes = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.' || keyAscii == kBackspace ||
-                        keyAscii == kTab || keyAscii == kEnter;
+    const bool passes = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.' ||
+                        keyAscii == keys::kBackspace || keyAscii == keys::kTab || keyAscii == keys::kEnter;
     return passes ? keyAscii : 0;
 }
 

@@ -178,10 +178,16 @@ void AddressNotesView::Report() {
         refused += incoming.Refused;
         first = false;
     }
-    calls_.Edited(index_, lines, textCursor().position());
+    calls_.Edited(index_, lines, ModelCursor());
     if (refused > 0) {
         TellRefused(*this);
     }
+}
+
+int AddressNotesView::ModelCursor() const {
+    // A line end is two characters in the record.
+    const int position = textCursor().position();
+    return position + static_cast<int>(toPlainText().left(position).count(u'\n'));
 }
 
 void AddressNotesView::Follow(const AddressField& record) {
@@ -207,7 +213,7 @@ void AddressNotesView::TakeFocus(const AddressField& record) {
 void AddressNotesView::keyReleaseEvent(QKeyEvent* event) {
     QPlainTextEdit::keyReleaseEvent(event);
     if (!event->isAutoRepeat()) {
-        calls_.KeyUp(index_, textCursor().position());
+        calls_.KeyUp(index_, ModelCursor());
     }
 }
 

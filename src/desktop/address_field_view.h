@@ -60,6 +60,7 @@ protected:
 
 private:
     void Report();
+    [[nodiscard]] int ModelCursor() const;
     int index_;
     const AddressFieldCalls& calls_;
     bool following_ = false;

@@ -10,6 +10,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTextBlock>
 
 #include <algorithm>
@@ -31,6 +32,7 @@ ContractEdit::ContractEdit(QWidget* parent, frmEditor& editor) : QTextEdit(paren
     setLineWrapMode(QTextEdit::NoWrap);
     setTabChangesFocus(true);
     setUndoRedoEnabled(false);
+    verticalScrollBar()->setObjectName(QStringLiteral("VScroll1"));
     auto* text = new QTextDocument(this);
     text->setUndoRedoEnabled(false);
     layout_ = new ContractLayout(text);

@@ -106,7 +106,8 @@ FrmCalcView::FrmCalcView(Program& program, frmCalc& window, QWidget* over, std::
     column->setSpacing(6);
     BuildLines();
     BuildKeys();
-    setFixedWidth(230);
+    column->setSizeConstraint(QLayout::SetFixedSize);
+    equation_->setFixedWidth(210);
     equation_->setFocus();
 }
 
@@ -270,8 +271,17 @@ void FrmCalcView::FollowKeyboard() {
     }
 }
 
+void FrmCalcView::Open() {
+    waiting_ = true;
+    Follow();
+}
+
 void FrmCalcView::Follow() {
     WindowView::Follow();
+    if (waiting_ && program_.main.Loaded && parentWidget()->isVisible()) {
+        waiting_ = false;
+        show();
+    }
     const ScopedFlag following(following_);
     echo_->setText(convert::ToQString(model_.lblE.Caption));
     echo_->setToolTip(convert::ToQString(model_.lblE.ToolTipText));

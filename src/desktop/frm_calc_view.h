@@ -54,6 +54,7 @@ class FrmCalcView : public WindowView {
 public:
     FrmCalcView(Program& program, frmCalc& window, QWidget* over, std::function<void()> afterEvent);
     void Follow() override;
+    void Open() override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -73,4 +74,5 @@ private:
     QPushButton* clear_ = nullptr;
     QPushButton* copy_ = nullptr;
     bool following_ = false;
+    bool waiting_ = false; ///< open, and not shown before the page is
 };

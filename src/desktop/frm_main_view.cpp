@@ -8,6 +8,7 @@
 #include "desktop/paper_surface.h"
 #include "desktop/tool_strip.h"
 #include "desktop/window_views.h"
+#include "editing/text_menu.h"
 #include "pages/fields.h"
 #include "program/program.h"
 #include "program/windows.h"
@@ -15,6 +16,7 @@
 #include "shell/command_run.h"
 #include "shell/frm_main.h"
 #include "shell/input.h"
+#include "shell/main_controls.h"
 #include "shell/page_switch.h"
 
 #include <QCloseEvent>
@@ -91,9 +93,7 @@ FrmMainView::FrmMainView(Program& program, const QtTextMeasure& measure)
             AfterEvent();
         },
         [this] {
-            if (program_.hooks.UpdateTextMenu) {
-                program_.hooks.UpdateTextMenu(program_);
-            }
+            modBlocks::UpdateTextMenu(program_);
             AfterEvent();
         });
     BuildStrips();
@@ -306,6 +306,7 @@ void FrmMainView::AfterEvent() {
 }
 
 void FrmMainView::Follow() {
+    modMain::WorkOutControls(program_);
     if (following_) {
         return;
     }

@@ -3,6 +3,7 @@
 #include "desktop/convert.h"
 #include "desktop/icons.h"
 #include "desktop/paper_surface.h"
+#include "program/keys.h"
 #include "desktop/paper_text.h"
 #include "program/program.h"
 #include "shell/frm_splash.h"
@@ -82,8 +83,7 @@ void FrmSplashView::mousePressEvent(QMouseEvent*) {
 
 void FrmSplashView::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        constexpr int kEnter = 13;
-        Do([&] { splash_.Form_KeyDown(program_, kEnter); });
+        Do([&] { splash_.Form_KeyDown(program_, keys::kEnter); });
         return;
     }
     WindowView::keyPressEvent(event);

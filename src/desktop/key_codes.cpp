@@ -1,5 +1,7 @@
 #include "desktop/key_codes.h"
 
+#include "program/keys.h"
+
 namespace keycodes {
 
 namespace {
@@ -9,22 +11,38 @@ struct Pair {
     int Code;
 };
 
-constexpr Pair kPairs[] = {
-    {Qt::Key_Backspace, 8}, {Qt::Key_Tab, 9},     {Qt::Key_Backtab, 9},  {Qt::Key_Return, 13},
-    {Qt::Key_Enter, 13},    {Qt::Key_Shift, 16},  {Qt::Key_Control, 17}, {Qt::Key_Alt, 18},
-    {Qt::Key_CapsLock, 20}, {Qt::Key_Escape, 27}, {Qt::Key_Space, 32},   {Qt::Key_PageUp, 33},
-    {Qt::Key_PageDown, 34}, {Qt::Key_End, 35},    {Qt::Key_Home, 36},    {Qt::Key_Left, 37},
-    {Qt::Key_Up, 38},       {Qt::Key_Right, 39},  {Qt::Key_Down, 40},    {Qt::Key_Insert, 45},
-    {Qt::Key_Delete, 46},   {Qt::Key_Comma, 188}, {Qt::Key_Minus, 189},  {Qt::Key_Period, 190},
-    {Qt::Key_Slash, 191}};
+constexpr Pair kPairs[] = {{Qt::Key_Backspace, keys::kBackspace},
+                           {Qt::Key_Tab, keys::kTab},
+                           {Qt::Key_Backtab, keys::kTab},
+                           {Qt::Key_Return, keys::kEnter},
+                           {Qt::Key_Enter, keys::kEnter},
+                           {Qt::Key_Shift, keys::kShift},
+                           {Qt::Key_Control, keys::kCtrl},
+                           {Qt::Key_Alt, keys::kAlt},
+                           {Qt::Key_CapsLock, keys::kCapsLock},
+                           {Qt::Key_Escape, keys::kEscape},
+                           {Qt::Key_Space, keys::kBlank},
+                           {Qt::Key_PageUp, keys::kPageUp},
+                           {Qt::Key_PageDown, keys::kPageDown},
+                           {Qt::Key_End, keys::kEnd},
+                           {Qt::Key_Home, keys::kHome},
+                           {Qt::Key_Left, keys::kLeft},
+                           {Qt::Key_Up, keys::kUp},
+                           {Qt::Key_Right, keys::kRight},
+                           {Qt::Key_Down, keys::kDown},
+                           {Qt::Key_Insert, keys::kInsert},
+                           {Qt::Key_Delete, keys::kDelete},
+                           {Qt::Key_Comma, keys::kComma},
+                           {Qt::Key_Minus, keys::kMinus},
+                           {Qt::Key_Period, keys::kPeriod},
+                           {Qt::Key_Slash, keys::kSlash}};
 
 } // namespace
 
 int CodeOf(const QKeyEvent& event) {
     const int key = event.key();
     if (key >= Qt::Key_F1 && key <= Qt::Key_F24) {
-        constexpr int kF1 = 112;
-        return kF1 + key - Qt::Key_F1;
+        return keys::kF1 + key - Qt::Key_F1;
     }
     if ((key >= Qt::Key_0 && key <= Qt::Key_9) || (key >= Qt::Key_A && key <= Qt::Key_Z)) {
         return key;
@@ -34,14 +52,14 @@ int CodeOf(const QKeyEvent& event) {
             return pair.Code;
         }
     }
-    constexpr int kOther = 192;
-    return kOther;
+    return keys::kOther;
 }
 
 int ShiftOf(const QKeyEvent& event) {
     const Qt::KeyboardModifiers held = event.modifiers();
-    return (held.testFlag(Qt::ShiftModifier) ? 1 : 0) + (held.testFlag(Qt::ControlModifier) ? 2 : 0) +
-           (held.testFlag(Qt::AltModifier) ? 4 : 0);
+    return (held.testFlag(Qt::ShiftModifier) ? keys::kShiftState : 0) +
+           (held.testFlag(Qt::ControlModifier) ? keys::kCtrlState : 0) +
+           (held.testFlag(Qt::AltModifier) ? keys::kAltState : 0);
 }
 
 } // namespace keycodes

@@ -1,7 +1,7 @@
 #include "desktop/key_kinds.h"
 
 #include "desktop/key_codes.h"
-#include "editing/keys.h"
+#include "program/keys.h"
 
 namespace keykinds {
 

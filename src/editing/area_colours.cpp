@@ -1,6 +1,5 @@
 #include "editing/area_colours.h"
 
-#include "base/numbers.h"
 #include "editing/area_facts.h"
 #include "editing/columns.h"
 #include "money/totals.h"
@@ -14,13 +13,13 @@ void ColourArea(Program& program, PageId page, TextArea& area) {
     if (area.BackColor == colors::kBlockSelected) {
         return;
     }
-    const Color within = modText::IsFinal(page) ? colors::kResting : colors::kFocused;
+    const Color within = IsFinalPage(page) ? colors::kResting : colors::kFocused;
     area.BackColor = OverLimit(program, page, area) ? colors::kOverLimit : within;
 }
 
 bool OverLimit(const Program& program, PageId page, const TextArea& area) {
     return modPages::MeasureTextWidth(program, page, area.Text) >= area.Width ||
-           static_cast<double>(area.Text.size()) > numbers::Val(geometry::LimitText(area.Tag)) ||
+           static_cast<int>(area.Text.size()) > geometry::LimitOf(area.Tag) ||
            modTotals::IsNoNumber(program, area);
 }
 

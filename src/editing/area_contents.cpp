@@ -56,7 +56,7 @@ void PlaceRow(Program& program, PageId page, int row, const AreaContents& conten
     }
     PaintBoxes(program, page, row);
     for (TextChangeTable* table : {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
-        TextChangeRecord& record = (*table)[At(IndexOf(page))][At(row)];
+        TextChangeRecord& record = (*table)[page][At(row)];
         record.QtyBox = contents.Columns;
         record.QtyValue = contents.Quantity;
         record.AmtValue = contents.Price;
@@ -96,8 +96,8 @@ void PlaceContents(Program& program, PageId page, int index, const AreaContents&
         modPages::SetNoTaxMark(program, page, index,
                                contents.TaxExempt ? modPages::Mark::Shown : modPages::Mark::Hidden);
     }
-    TextChangeRecord& props = program.format.PropTextChanges[At(IndexOf(page))][At(index)];
-    TextChangeRecord& baseline = program.format.FormatTextChanges[At(IndexOf(page))][At(index)];
+    TextChangeRecord& props = program.format.PropTextChanges[page][At(index)];
+    TextChangeRecord& baseline = program.format.FormatTextChanges[page][At(index)];
     for (TextChangeRecord* record : {&props, &baseline}) {
         record->FontBold = contents.FontBold;
         record->TaxExempt = contents.TaxExempt;

@@ -23,12 +23,8 @@ bool IsAmountLimit(std::string_view limit) {
     return limit == kAmountLimit;
 }
 
-bool IsFinal(PageId page) {
-    return page == PageId::frmP6;
-}
-
 bool Completing(const Program& program, PageId page) {
-    return IsLinePage(page) && program.editing.ACActive[static_cast<std::size_t>(IndexOf(page))];
+    return IsLinePage(page) && program.editing.ACActive[page];
 }
 
 } // namespace modText

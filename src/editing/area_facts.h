@@ -18,8 +18,6 @@ inline constexpr int kClientName = 2;
 
 /// Amounts are told by the limit, whatever the kind.
 [[nodiscard]] bool IsAmountLimit(std::string_view limit);
-/// The page with the figures, in which nothing flows and nothing counts characters.
-[[nodiscard]] bool IsFinal(PageId page);
 /// A suggested completion stands unanswered on the page.
 [[nodiscard]] bool Completing(const Program& program, PageId page);
 

@@ -6,6 +6,7 @@
 #include "editing/columns.h"
 #include "editing/standing_completion.h"
 #include "editing/status_line.h"
+#include "editing/text_menu.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"
@@ -24,7 +25,7 @@ void txt_MouseDown(Program& program, PageId page, int index, int button, int shi
     }
     editing.CursorPos = area.SelStart;
     modStatus::ShowCursor(program);
-    if (IsFinal(page)) {
+    if (IsFinalPage(page)) {
         return;
     }
     modStatus::ShowTextPosition(program, area);
@@ -42,9 +43,7 @@ void txt_MouseDown(Program& program, PageId page, int index, int button, int shi
     // The menu takes the keyboard: the area is left as by any other way, and entered again when the menu
     // goes.
     modFields::DropFocus(program);
-    if (program.hooks.UpdateTextMenu) {
-        program.hooks.UpdateTextMenu(program);
-    }
+    modBlocks::UpdateTextMenu(program);
     program.platform.events.LetEventsRun();
     editing.CurrentArea = index;
 }

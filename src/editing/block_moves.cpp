@@ -1,15 +1,17 @@
 #include "editing/block_moves.h"
 
+#include "base/guard.h"
 #include "base/text.h"
 #include "editing/area_contents.h"
-#include "editing/keys.h"
 #include "editing/navigation.h"
 #include "editing/selection.h"
 #include "editing/text_menu.h"
 #include "pages/page_geometry.h"
+#include "program/keys.h"
 #include "program/program.h"
 
 #include <exception>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -80,7 +82,10 @@ enum class Moved { No, Yes };
 
 /// Handlers are silent from here on; the caller ends that by `FinishMove`.
 Moved MoveRuns(Program& program, const Way& way) {
-    program.editing.MoveInProgress = true;
+    std::unique_ptr<ScopedFlag>& moving = program.editing.Block.Moving;
+    if (!moving) { // a held key moves again and again
+        moving = std::make_unique<ScopedFlag>(program.editing.MoveInProgress);
+    }
     if (ReadSelectionRuns(program) != Selection::Runs) {
         FinishMove(program);
         return Moved::No;
@@ -104,14 +109,14 @@ template <typename Work> void TellingOfFailure(Program& program, Work&& work) {
     try {
         work();
     } catch (const std::exception&) {
-        program.editing.MoveInProgress = false;
+        program.editing.Block.Moving.reset();
         TellMoveFailed(program);
     }
 }
 
 void MoveByMenu(Program& program, const Way& way) {
     TellingOfFailure(program, [&] {
-        static_cast<void>(MoveRuns(program, way));
+        MoveRuns(program, way);
         FinishMove(program);
         UpdateTextMenu(program);
     });

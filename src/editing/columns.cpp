@@ -33,12 +33,11 @@ FieldRef Description(PageId page, int row) {
 /// The row as the file will have it, and both tables with it. A quantity typed after the description must not
 /// wait for the description's next change to count as unsaved.
 void StoreRow(Program& program, PageId page, int row) {
-    const auto at = static_cast<std::size_t>(IndexOf(page));
     const auto index = static_cast<std::size_t>(row);
     const bool on = modPages::ColumnsOn(program, page, row);
-    program.document.CurrentTextBuf[at][index] = modFields::ComposeLine(program, page, row);
+    program.document.CurrentTextBuf[page][index] = modFields::ComposeLine(program, page, row);
     for (TextChangeTable* table : {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
-        TextChangeRecord& record = (*table)[at][index];
+        TextChangeRecord& record = (*table)[page][index];
         record.QtyBox = on;
         record.QtyValue = program.pages[page].txtQty[index].Text;
         record.AmtValue = program.pages[page].txtAmt[index].Text;
@@ -283,14 +282,13 @@ void CollectQtyBoxes(Program& program) {
     Guarded(program, "SaveTextBoxFeatures", [&] {
         for (const PageId page : kLinePages) {
             const Page& record = program.pages[page];
-            const auto at = static_cast<std::size_t>(IndexOf(page));
             for (int row = geometry::FirstRow(page); record.RowFieldsMade && row <= geometry::LastRow(page);
                  ++row) {
                 const auto index = static_cast<std::size_t>(row);
                 const bool on = record.txt[index].Width == geometry::kColumnsWidth;
                 for (TextChangeTable* table :
                      {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
-                    TextChangeRecord& props = (*table)[at][index];
+                    TextChangeRecord& props = (*table)[page][index];
                     props.QtyChanged = on;
                     props.QtyBox = on;
                     props.QtyValue = record.txtQty[index].Text;
@@ -298,7 +296,7 @@ void CollectQtyBoxes(Program& program) {
                 }
             }
             for (std::size_t index = 0; index < record.txt.size(); ++index) {
-                program.document.CurrentTextBuf[at][index] =
+                program.document.CurrentTextBuf[page][index] =
                     modFields::ComposeLine(program, page, static_cast<int>(index));
             }
         }

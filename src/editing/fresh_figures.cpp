@@ -16,7 +16,13 @@ void SettleTyping(Program& program) {
 }
 
 void TakeFresh(Program& program) {
+    if (program.pages[PageId::frmP6].txt.empty()) {
+        return; // asked for before the pages are built
+    }
     SettleTyping(program);
+    if (program.pages[PageId::frmP6].txt.empty()) {
+        return; // pages that are not built have no figures
+    }
     modTotals::MatchTables(program);
     modTotals::SumAgain(program);
 }

@@ -4,6 +4,7 @@
 #include "editing/area_facts.h"
 #include "editing/date_check.h"
 #include "editing/status_line.h"
+#include "editing/text_menu.h"
 #include "editing/typing.h"
 #include "money/amounts.h"
 #include "money/totals.h"
@@ -24,16 +25,16 @@ void txt_GotFocus(Program& program, PageId page, int index) {
     program.main.CurrentPage = IndexOf(page);
     editing.CurrentArea = index;
     editing.EmptiedAmount.reset();
-    if (!IsFinal(page)) {
+    if (!IsFinalPage(page)) {
         // No word is under way in an area that has just been entered.
-        editing.Words[static_cast<std::size_t>(IndexOf(page))].InWord = false;
-        editing.ACActive[static_cast<std::size_t>(IndexOf(page))] = false;
+        editing.Words[page].InWord = false;
+        editing.ACActive[page] = false;
         editing.CurrentLimit = geometry::LimitText(area.Tag);
         editing.CurrentWidth = area.Width;
         modAreaColours::ColourArea(program, page, area);
     }
-    if (editing.BlockMode && program.hooks.UpdateTextMenu) {
-        program.hooks.UpdateTextMenu(program);
+    if (editing.BlockMode) {
+        modBlocks::UpdateTextMenu(program);
     }
     modStatus::ShowAreaNumber(program, page, index);
 }
@@ -42,7 +43,7 @@ void txt_LostFocus(Program& program, PageId page, int index) {
     EditingState& editing = program.editing;
     TextArea& area = Area(program, page, index);
     editing.LastArea = index;
-    if (IsFinal(page)) {
+    if (IsFinalPage(page)) {
         modTotals::FinalPageLostFocus(program, index);
         return;
     }
@@ -54,7 +55,7 @@ void txt_LostFocus(Program& program, PageId page, int index) {
     }
     // A completion that was neither taken nor overtyped stands on the screen; what stands there is stored.
     if (Completing(program, page)) {
-        program.editing.ACActive[static_cast<std::size_t>(IndexOf(page))] = false;
+        program.editing.ACActive[page] = false;
         editing.CursorPos = static_cast<int>(area.Text.size()); // it is taken whole and flows nowhere
         txt_Change(program, page, index);
         Area(program, page, index).BackColor = colors::kResting;

@@ -1,9 +1,9 @@
 #include "editing/navigation.h"
 
-#include "editing/keys.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "pages/row_fields.h"
+#include "program/keys.h"
 #include "program/program.h"
 
 #include <optional>

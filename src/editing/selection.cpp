@@ -287,7 +287,7 @@ void DeSelectAllControls(Program& program) {
 
 void FinishMove(Program& program) {
     EditingState& editing = program.editing;
-    editing.MoveInProgress = false;
+    editing.Block.Moving.reset();
     const std::optional<PageId> page = std::exchange(editing.Block.MovedPage, std::nullopt);
     if (!page) {
         return;

@@ -9,7 +9,7 @@ void SettleCompletion(Program& program, PageId page) {
     if (!IsLinePage(page)) {
         return;
     }
-    bool& completing = program.editing.ACActive[static_cast<std::size_t>(IndexOf(page))];
+    bool& completing = program.editing.ACActive[page];
     if (!completing) {
         return;
     }

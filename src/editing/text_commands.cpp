@@ -23,15 +23,14 @@ void SetWeight(Program& program, Weight weight) {
         return;
     }
     const bool bold = weight == Weight::Bold;
-    const auto page = static_cast<std::size_t>(IndexOf(field.Page));
     const auto index = static_cast<std::size_t>(field.Index);
     modFields::Area(program, field).FontBold = bold;
     if (field.Page == PageId::frmP6) {
         program.pages[PageId::frmP6_1].txt[index].FontBold = bold;
     }
-    program.format.PropTextChanges[page][index].FontBold = bold;
-    program.format.PropTextChanges[page][index].Dirty = true;
-    program.format.FormatTextChanges[page][index].FontBold = bold;
+    program.format.PropTextChanges[field.Page][index].FontBold = bold;
+    program.format.PropTextChanges[field.Page][index].Dirty = true;
+    program.format.FormatTextChanges[field.Page][index].FontBold = bold;
     program.format.Touched = true;
     modFields::GiveFocus(program, field);
 }

@@ -33,15 +33,14 @@ constexpr int kDepositArea = 4;
 
 /// The line goes to the store, and what is known of the row's columns to the tables.
 void StoreLine(Program& program, PageId page, int index) {
-    const auto at = static_cast<std::size_t>(IndexOf(page));
     const auto row = static_cast<std::size_t>(index);
-    program.document.CurrentTextBuf[at][row] = modFields::ComposeLine(program, page, index);
+    program.document.CurrentTextBuf[page][row] = modFields::ComposeLine(program, page, index);
     if (!geometry::IsDescription(page, index)) {
         return;
     }
     const bool on = modPages::ColumnsOn(program, page, index);
-    TextChangeRecord& baseline = program.format.FormatTextChanges[at][row];
-    program.format.PropTextChanges[at][row].QtyBox = on;
+    TextChangeRecord& baseline = program.format.FormatTextChanges[page][row];
+    program.format.PropTextChanges[page][row].QtyBox = on;
     baseline.QtyBox = on;
     baseline.QtyValue = on ? program.pages[page].txtQty[row].Text : std::string();
     baseline.AmtValue = on ? program.pages[page].txtAmt[row].Text : std::string();
@@ -53,19 +52,18 @@ void TakeEditingState(Program& program, PageId page, int index) {
     editing.CurrentText = area.Text;
     editing.CurrentKind = geometry::KindOf(area.Tag);
     editing.CurrentLimit = geometry::LimitText(area.Tag);
-    const auto at = static_cast<std::size_t>(IndexOf(page));
     const auto row = static_cast<std::size_t>(index);
-    TextChangeRecord& props = program.format.PropTextChanges[at][row];
+    TextChangeRecord& props = program.format.PropTextChanges[page][row];
     props.FontBold = area.FontBold;
-    program.format.FormatTextChanges[at][row].FontBold = area.FontBold;
+    program.format.FormatTextChanges[page][row].FontBold = area.FontBold;
     if (!IsAmountLimit(editing.CurrentLimit)) {
         // The format's own text is taken when a format is saved, not as it is typed.
         props.Text = area.Text;
     }
     if (area.Text.empty()) {
         // A text that a person has taken out leaves the format with the next save of it.
-        program.format.FormatTextChanges[at][row].Text.clear();
-        program.format.InFile[at][row].Text.clear();
+        program.format.FormatTextChanges[page][row].Text.clear();
+        program.format.InFile[page][row].Text.clear();
     }
     editing.CurrentWidth = area.Width;
 }
@@ -93,7 +91,7 @@ void TakeAmount(Program& program, PageId page, int index) {
     if (!program.editing.RefireMode) {
         modTotals::NoteEmptied(program, page, index);
     }
-    program.main.cmdReCalc.BackColor = colors::kOverLimit;
+    program.totals.TotalsStale = true;
     if (program.editing.RefireMode) {
         modTotals::CalculateMyTotals(program, page);
     }
@@ -107,8 +105,7 @@ void LinePageChange(Program& program, PageId page, int index) {
         !editing.RefireMode) {
         TakeClientName(program);
     }
-    program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = true;
-    program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled = true;
+    program.document.HasClient = true;
     if (IsAmountLimit(editing.CurrentLimit)) {
         TakeAmount(program, page, index);
     }
@@ -217,7 +214,7 @@ void txt_Change(Program& program, PageId page, int index) {
     if (page == PageId::frmP6_1) {
         return;
     }
-    if (IsFinal(page)) {
+    if (IsFinalPage(page)) {
         modTotals::FinalPageChange(program, index);
         if (!program.guards.HandlersSilent()) {
             modAreaColours::ColourArea(program, page, Area(program, page, index));
@@ -230,7 +227,7 @@ void txt_Change(Program& program, PageId page, int index) {
 }
 
 Taken txt_KeyDown(Program& program, PageId page, int index, int keyCode, int shift) {
-    if (IsFinal(page)) {
+    if (IsFinalPage(page)) {
         if (IsPaste(keyCode, shift)) {
             PasteNumber(program, page, index);
             return Taken::Yes;
@@ -253,7 +250,7 @@ void txt_KeyPress(Program& program, PageId page, int index, int& keyAscii) {
         keyAscii = 0;
         return;
     }
-    if (IsAmountLimit(geometry::LimitText(area.Tag)) || IsFinal(page)) {
+    if (IsAmountLimit(geometry::LimitText(area.Tag)) || IsFinalPage(page)) {
         const bool editing =
             keyAscii == keys::kBackspace || keyAscii == keys::kTab || keyAscii == keys::kEnter;
         const bool figure =
@@ -264,7 +261,7 @@ void txt_KeyPress(Program& program, PageId page, int index, int& keyAscii) {
     }
     if (keyAscii == keys::kEnter || keyAscii == keys::kTab) {
         keyAscii = 0;
-        if (IsFinal(page) && index == kDepositArea) {
+        if (IsFinalPage(page) && index == kDepositArea) {
             modTotals::RewriteDeposit(program);
             modTotals::UpdateRunningTotals(program);
         }
@@ -274,7 +271,7 @@ void txt_KeyPress(Program& program, PageId page, int index, int& keyAscii) {
 void txt_KeyUp(Program& program, PageId page, int index, int keyCode, int shift) {
     TextArea& area = Area(program, page, index);
     EditingState& editing = program.editing;
-    if (IsFinal(page)) {
+    if (IsFinalPage(page)) {
         editing.CursorPos = area.SelStart;
         modStatus::ShowCursor(program);
         return;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editing/keys.h"
+#include "program/keys.h"
 #include "program/page_records.h"
 
 struct Program;

@@ -33,7 +33,7 @@ std::string NumberText(float number) {
     return error == std::errc() ? std::string(digits.data(), end) : "0";
 }
 
-/// As the files have always had it: with a sign, so that a system colour is negative.
+/// With a sign, so that a system colour is negative.
 std::string ColorText(Color color) {
     return std::to_string(static_cast<std::int32_t>(color));
 }

@@ -5,6 +5,7 @@
 #include "base/text.h"
 #include "format/format_changes.h"
 #include "format/format_save.h"
+#include "format/frm_label_props.h"
 #include "pages/fields.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -62,9 +63,7 @@ void ForgetDefault(Program& program) {
 } // namespace
 
 void mnuFileFormatNew_Click(Program& program) {
-    if (program.hooks.CloseLabelWindow) {
-        program.hooks.CloseLabelWindow(program);
-    }
+    modDesigner::CloseLabelWindow(program);
     const bool asks = FormatHasChanges(program) || modProposal::SomethingChanged(program) ||
                       modFile::PropertiesChanged(program);
     if (asks && program.platform.questions.MsgBox(
@@ -113,7 +112,6 @@ void mnuFileFormatDelete_Click(Program& program) {
     if (stopped) {
         return;
     }
-    // People know the title by this spelling.
     const Answer answer =
         questions.MsgBox(text::Lines({"Are you sure you want to delete the shown Format?",
                                       program.format.FormatName + " in " + program.format.FormatFolder}),
@@ -136,9 +134,7 @@ void mnuFileFormatDelete_Click(Program& program) {
 
 void mnuFileFormatDefault_Click(Program& program) {
     const FormatRecords& format = program.format;
-    if (program.hooks.CloseLabelWindow) {
-        program.hooks.CloseLabelWindow(program);
-    }
+    modDesigner::CloseLabelWindow(program);
     const bool onDisk = format.FormatOpen &&
                         files::Exists(paths::Join(format.FormatFolder, format.FormatName)) &&
                         FileIsCurrent(program);

@@ -11,8 +11,6 @@
 #include "program/program.h"
 #include "proposal/file_names.h"
 
-#include <algorithm>
-
 namespace modFormat {
 
 namespace {
@@ -81,9 +79,11 @@ void TakeFormatFigures(Program& program) {
     }
     modColumns::CollectQtyBoxes(program);
     DocumentState& document = program.document;
-    std::copy_n(document.CurrentTextBuf.begin(), kLinePageCount, document.SavedTextBuf.begin());
+    for (const PageId page : kLinePages) {
+        document.SavedTextBuf[page] = document.CurrentTextBuf[page];
+    }
     if (amounts) {
-        document.SavedTextBuf.back() = document.CurrentTextBuf.back();
+        document.SavedTextBuf[PageId::frmP6] = document.CurrentTextBuf[PageId::frmP6];
     }
     TakeClientName(program);
 }

@@ -115,11 +115,10 @@ void TakeLine(Program& program, assignment::WorkingFields& working, const Fields
 void LayBoldAgain(Program& program) {
     for (const PageId page : kEditedPages) {
         auto& areas = program.pages[page].txt;
-        const auto at = static_cast<std::size_t>(IndexOf(page));
         for (std::size_t index = 0; index < areas.size(); ++index) {
-            if (program.format.FormatTextChanges[at][index].FontBold) {
+            if (program.format.FormatTextChanges[page][index].FontBold) {
                 areas[index].FontBold = true;
-                program.format.PropTextChanges[at][index].FontBold = true;
+                program.format.PropTextChanges[page][index].FontBold = true;
             }
         }
     }
@@ -141,7 +140,7 @@ void Refuse(Program& program, const std::exception& error) {
 void LayLines(Program& program) {
     FormatRecords& format = program.format;
     format.FormatOpen = true;
-    program.main.Caption = "Quillbrook - Format File = " + format.FormatName;
+    program.document.WindowTitle = "Quillbrook - Format File = " + format.FormatName;
     ParseFormatFile(program);
     modDesigner::LoadBaseLabels(program);
     LayBoldAgain(program);

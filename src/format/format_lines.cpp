@@ -17,23 +17,22 @@ namespace {
 constexpr std::string_view kFigureWidth = "020";
 
 void TakeAreas(const Program& program, PageId page, Texts texts, FormatTables& tables) {
-    const auto at = static_cast<std::size_t>(IndexOf(page));
     const auto& areas = program.pages[page].txt;
     for (std::size_t index = 0; index < areas.size(); ++index) {
         const TextArea& area = areas[index];
-        TextChangeRecord& record = tables.Areas[at][index];
+        TextChangeRecord& record = tables.Areas[page][index];
         if (!area.Text.empty() && text::Right(area.Tag, 3) != kFigureWidth) {
             record.Text = area.Text;
         }
         if (texts == Texts::LayoutOnly) {
-            record.Text = program.format.InFile[at][index].Text;
+            record.Text = program.format.InFile[page][index].Text;
         }
         record.FontBold = area.FontBold;
         record.TaxExempt = program.pages[page].imgNoTax[index].Tag != kHide;
     }
     for (int row = geometry::FirstRow(page); row <= geometry::LastRow(page); ++row) {
         const auto index = static_cast<std::size_t>(row);
-        TextChangeRecord& record = tables.Areas[at][index];
+        TextChangeRecord& record = tables.Areas[page][index];
         record.QtyBox = modPages::ColumnsOn(program, page, row);
         const bool values = record.QtyBox && texts == Texts::LayoutAndTexts;
         record.QtyValue = values ? program.pages[page].txtQty[index].Text : std::string();
@@ -43,11 +42,10 @@ void TakeAreas(const Program& program, PageId page, Texts texts, FormatTables& t
 
 void TakeLabels(const Program& program, LabelChangeTable& table) {
     for (const PageId page : kEditedPages) {
-        const auto at = static_cast<std::size_t>(IndexOf(page));
         const auto& labels = program.pages[page].lbl;
         for (std::size_t index = 0; index < labels.size(); ++index) {
-            if (table[at][index].Changed) {
-                modDesigner::PutLook(table[at][index], modDesigner::LookOf(labels[index]));
+            if (table[page][index].Changed) {
+                modDesigner::PutLook(table[page][index], modDesigner::LookOf(labels[index]));
             }
         }
     }
@@ -92,8 +90,7 @@ void AddRows(const FormatTables& tables, std::vector<std::string>& lines) {
 void AddLabels(const FormatTables& tables, std::vector<std::string>& lines) {
     for (const PageId page : kEditedPages) {
         for (int index = 0; index <= geometry::LastLabel(page); ++index) {
-            const LabelChangeRecord& record =
-                tables.Labels[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)];
+            const LabelChangeRecord& record = tables.Labels[page][static_cast<std::size_t>(index)];
             if (record.Changed) {
                 lines.push_back(assignment::LabelLine(IndexOf(page), index, record));
             }

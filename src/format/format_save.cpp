@@ -7,6 +7,7 @@
 #include "editing/columns.h"
 #include "format/format_changes.h"
 #include "format/format_lines.h"
+#include "format/frm_label_props.h"
 #include "format/label_looks.h"
 #include "format/line_effects.h"
 #include "format/unkept_values.h"
@@ -205,7 +206,7 @@ FormatSave SaveSteps(Program& program, const Name& name) {
         static_cast<void>(MakeDefault(program));
     }
     format.FormatOpen = true;
-    program.main.Caption = "Quillbrook - Format File = " + format.FormatName;
+    program.document.WindowTitle = "Quillbrook - Format File = " + format.FormatName;
     MarkProposalStale(program);
     return FormatSave::Saved;
 }
@@ -236,9 +237,7 @@ FormatSave SaveFileFormat(Program& program) {
         format.FormatSaveAs = false;
         format.FormatMakeDefault = false;
     });
-    if (program.hooks.CloseLabelWindow) {
-        program.hooks.CloseLabelWindow(program);
-    }
+    modDesigner::CloseLabelWindow(program);
     FormatSave result = FormatSave::NotSaved;
     Guarded(program, "SaveFileFormat", [&] {
         if (const std::optional<Name> name = SettleName(program)) {

@@ -141,7 +141,7 @@ void RestoreLabel(Program& program) {
     PutLook(label, look);
     Deselect(label);
     RecordOf(program.format.PropLabelChanges, page, index).Changed =
-        designer.ChangedAtPress[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)];
+        designer.ChangedAtPress[page][static_cast<std::size_t>(index)];
 }
 
 void Commit(Program& program) {

@@ -22,7 +22,7 @@ bool HasDesigner(PageId page) {
 }
 
 DragState& DragOf(Program& program, PageId page) {
-    return program.designer.Drags[static_cast<std::size_t>(IndexOf(page))];
+    return program.designer.Drags[page];
 }
 
 /// The whole of `LabelEdit` goes to the tables of proposal and format, and to the saved state.
@@ -95,8 +95,7 @@ void SaveLabelState(Program& program) {
     }
     designer.LabelEdit = LookOf(label);
     PutLook(RecordOf(program.format.LabelSavedState, page, designer.CurrentLabel), designer.LabelEdit);
-    designer.ChangedAtPress[static_cast<std::size_t>(IndexOf(page))]
-                           [static_cast<std::size_t>(designer.CurrentLabel)] =
+    designer.ChangedAtPress[page][static_cast<std::size_t>(designer.CurrentLabel)] =
         RecordOf(program.format.PropLabelChanges, page, designer.CurrentLabel).Changed;
 }
 
@@ -190,7 +189,7 @@ void LoadSelectedLabels(Program& program) {
     for (int index = 0; index <= geometry::LastLabel(page); ++index) {
         PageLabel& label = LabelAt(program, page, index);
         PutLook(RecordOf(program.format.LabelSavedState, page, index), LookOf(label));
-        designer.ChangedAtPress[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)] =
+        designer.ChangedAtPress[page][static_cast<std::size_t>(index)] =
             RecordOf(program.format.PropLabelChanges, page, index).Changed;
         agreement.Compare(pattern, label);
         if (label.Caption != program.settings.CurrencySymbol) {

@@ -1,10 +1,10 @@
 #include "format/label_keys.h"
 
-#include "editing/keys.h"
 #include "format/label_designer.h"
 #include "format/logo.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
+#include "program/keys.h"
 #include "program/program.h"
 
 #include <vector>

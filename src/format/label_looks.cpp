@@ -37,7 +37,7 @@ const PageLabel& LabelAt(const Program& program, PageId page, int index) {
 }
 
 LabelChangeRecord& RecordOf(LabelChangeTable& table, PageId page, int index) {
-    return table[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)];
+    return table[page][static_cast<std::size_t>(index)];
 }
 
 void LayLabel(Program& program, PageId page, int index, const LabelLook& look) {

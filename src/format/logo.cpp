@@ -126,9 +126,9 @@ void mnuEditLogoSave_Click(Program& program) {
 }
 
 void mnuEditLogoVisible_Click(Program& program) {
-    program.settings.LogoVisible = !program.main[CommandId::mnuEditLogoVisible].Checked;
+    program.settings.LogoVisible = !program.run.LogoChecked;
     modLogo::SettleLogoVisibility(program);
-    program.main[CommandId::mnuEditLogoVisible].Checked = program.settings.LogoVisible;
+    program.run.LogoChecked = program.settings.LogoVisible;
     SaveVisibility(program);
     if (program.settings.LogoVisible && Logo(program).Picture.From == PictureRef::Source::None) {
         program.main.Notice = "There is no logo to show; choose one with Select Different Logo.";
@@ -142,7 +142,7 @@ void mnuEditLogoBorder_Click(Program& program) {
     if (!entry.Checked) {
         program.settings.LogoVisible = true;
         modLogo::SettleLogoVisibility(program);
-        program.main[CommandId::mnuEditLogoVisible].Checked = true;
+        program.run.LogoChecked = true;
     }
     SaveVisibility(program);
 }

@@ -26,12 +26,11 @@ constexpr int kTypeMismatch = 13;
 void AddWeights(const Program& program, std::vector<std::string>& lines) {
     const FormatRecords& format = program.format;
     for (const PageId page : kLinePages) {
-        const auto at = static_cast<std::size_t>(IndexOf(page));
         for (int index = 0; index <= geometry::LastText(page); ++index) {
             const auto area = static_cast<std::size_t>(index);
-            if (format.PropTextChanges[at][area].FontBold) {
+            if (format.PropTextChanges[page][area].FontBold) {
                 lines.push_back(assignment::BoldLine(IndexOf(page), index, true));
-            } else if (format.FormatOpen && format.InFile[at][area].FontBold) {
+            } else if (format.FormatOpen && format.InFile[page][area].FontBold) {
                 // Under its format the area would be bold again.
                 lines.push_back(assignment::BoldLine(IndexOf(page), index, false));
             }
@@ -41,7 +40,7 @@ void AddWeights(const Program& program, std::vector<std::string>& lines) {
 
 void AddRows(const Program& program, std::vector<std::string>& lines) {
     for (const PageId page : kLinePages) {
-        const auto& records = program.format.PropTextChanges[static_cast<std::size_t>(IndexOf(page))];
+        const auto& records = program.format.PropTextChanges[page];
         for (int row = geometry::FirstRow(page); row <= geometry::LastRow(page); ++row) {
             if (records[static_cast<std::size_t>(row)].QtyBox) {
                 lines.push_back(assignment::RowLine(IndexOf(page), row, true));
@@ -55,11 +54,10 @@ void AddRows(const Program& program, std::vector<std::string>& lines) {
 void AddLabels(const Program& program, std::vector<std::string>& lines) {
     const FormatRecords& format = program.format;
     for (const PageId page : kEditedPages) {
-        const auto at = static_cast<std::size_t>(IndexOf(page));
         for (int index = 0; index <= geometry::LastLabel(page); ++index) {
             const auto label = static_cast<std::size_t>(index);
-            if (format.PropLabelChanges[at][label].Changed ||
-                (format.FormatOpen && format.FormatLabelChanges[at][label].Changed)) {
+            if (format.PropLabelChanges[page][label].Changed ||
+                (format.FormatOpen && format.FormatLabelChanges[page][label].Changed)) {
                 lines.push_back(assignment::LabelLine(
                     IndexOf(page), index, modDesigner::LookOf(modDesigner::LabelAt(program, page, index))));
             }
@@ -158,6 +156,17 @@ void TakeLines(Program& program) {
     }
 }
 
+/// The titles of all pages, and their looks for the next save; what the file had no line for needs none then.
+void LayTitlesAsRead(Program& program) {
+    const LabelChangeTable before = program.format.PropLabelChanges;
+    modTitles::LayTitles(program);
+    for (const PageId page : kEditedPages) {
+        const auto at = static_cast<std::size_t>(IndexOf(page));
+        const auto index = static_cast<std::size_t>(geometry::TitleLabel(page));
+        program.format.PropLabelChanges[at][index].Changed = before[at][index].Changed;
+    }
+}
+
 /// The words that the lines have given title and heading.
 void TakeTitles(Program& program) {
     DocumentState& document = program.document;
@@ -171,7 +180,7 @@ void TakeTitles(Program& program) {
     if (title.Changed && !title.Caption.empty()) {
         document.ClientCaption = title.Caption;
         document.TitleGiven = title.Caption != "Proposal for " + document.BaseName;
-        modTitles::LayTitles(program);
+        LayTitlesAsRead(program);
     } else {
         modTitles::UpdateFooters(program);
     }

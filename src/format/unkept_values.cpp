@@ -44,10 +44,9 @@ private:
 
 void LookAtLabels(const Program& program, const LabelChangeTable& table, Finds& finds) {
     for (const PageId page : kEditedPages) {
-        const auto at = static_cast<std::size_t>(IndexOf(page));
         const auto& labels = program.pages[page].lbl;
         for (std::size_t index = 0; index < labels.size(); ++index) {
-            if (table[at][index].Changed) {
+            if (table[page][index].Changed) {
                 finds.Look(Value::Caption, "caption", labels[index].Caption);
                 finds.Look(Value::LabelFont, "font name", labels[index].FontName);
             }

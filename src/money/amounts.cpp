@@ -99,7 +99,7 @@ void SetTax(Program& program, PageId page, int row, Tax tax) {
     PutMark(program, page, row, tax);
     CalculateMyTotals(program, page);
     UpdateRunningTotals(program);
-    program.main.cmdReCalc.BackColor = colors::kOverLimit;
+    program.totals.TotalsStale = true;
 }
 
 void MatchTables(Program& program) {

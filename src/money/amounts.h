@@ -9,7 +9,7 @@ namespace modTotals {
 
 /// The tables' entries and the currency sign for an amount area. An empty text and one that is no number
 /// count as nothing; the latter says so in its tool tip and keeps its text. False for what is no number.
-bool StoreAmount(Program& program, PageId page, int index);
+[[nodiscard]] bool StoreAmount(Program& program, PageId page, int index);
 
 /// What leaving an amount does: tables, pattern, sign, page sum and running totals. A change handler that is
 /// quiet during a block selection runs all the same, so that the store has what the page shows.

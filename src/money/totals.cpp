@@ -40,13 +40,10 @@ void MirrorFigures(Program& program) {
     }
 }
 
-void ShowRunningLabel(Program& program, float subTotal) {
-    program.main.lblTotal.Caption =
-        "Running Sub-Total = " + program.settings.CurrencySymbol + " " + Shown(subTotal);
-}
-
-void ShowSettled(Program& program) {
-    program.main.cmdReCalc.BackColor = colors::kButtonFace;
+/// A pass has ended with that subtotal.
+void Settle(Program& program, float subTotal) {
+    program.totals.RunningSubTotal = program.settings.CurrencySymbol + " " + Shown(subTotal);
+    program.totals.TotalsStale = false;
 }
 
 /// What is too large for a single stays at the largest: a figure is always a number that can be shown.
@@ -131,7 +128,7 @@ void WriteFullFigures(Program& program) {
 void ComputeRunning(TotalsRecords& totals) {
     totals.SubTotal = 0;
     totals.TaxableTotal = 0;
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+    for (const PageId page : kLinePages) {
         totals.SubTotal = Sum(totals.SubTotal, totals.PageSum[page]);
         totals.TaxableTotal = Sum(totals.TaxableTotal, totals.PageTaxable[page]);
     }
@@ -157,19 +154,18 @@ bool DepositIsBeingTyped(const Program& program) {
 
 void CalculateMyTotals(Program& program, PageId page) {
     TotalsRecords& totals = program.totals;
-    const auto at = static_cast<std::size_t>(IndexOf(page));
     const Page& record = program.pages[page];
     float sum = 0;
     float taxable = 0;
     for (std::size_t row = 0; row < record.txt.size(); ++row) {
-        const float amount = totals.AmountTable[row][at];
+        const float amount = totals.AmountTable[row][page];
         sum = Sum(sum, amount);
         if (!MarkVisible(record, row)) {
             taxable = Sum(taxable, amount);
         }
     }
-    totals.PageSum[at] = sum;
-    totals.PageTaxable[at] = taxable;
+    totals.PageSum[page] = sum;
+    totals.PageTaxable[page] = taxable;
 }
 
 bool IsNoNumber(const Program& program, const TextArea& area) {
@@ -215,10 +211,8 @@ void UpdateRunningTotals(Program& program) {
     WriteFigure(program, kTax, Shown(totals.SalesTax));
     WriteFigure(program, kTotal, Shown(totals.Total));
     WriteFigure(program, kBalance, Shown(totals.Balance));
-    ShowRunningLabel(program, totals.SubTotal);
-    ShowSettled(program);
+    Settle(program, totals.SubTotal);
     MirrorFigures(program);
-    totals.TotalsStale = false;
 }
 
 void RecalculateAll(Program& program) {
@@ -230,9 +224,7 @@ void RecalculateAll(Program& program) {
         AddAllFields(program);
         WriteFullFigures(program);
         MirrorFigures(program);
-        program.totals.TotalsStale = false;
-        ShowSettled(program);
-        ShowRunningLabel(program, program.totals.FullSubTotal);
+        Settle(program, program.totals.FullSubTotal);
     });
     if (!done) {
         program.platform.questions.MsgBox("Error encountered while recalculating totals.", Buttons::Ok, "");
@@ -281,11 +273,8 @@ void mnuToolsRecalculate_Click(Program& program) {
 }
 
 void mnuOptHideTotals_Click(Program& program) {
-    CommandState& entry = program.main[CommandId::mnuOptHideTotals];
-    entry.Checked = !entry.Checked;
     TotalsRecords& totals = program.totals;
-    totals.TotalsHidden = entry.Checked;
-    program.main.cmdReCalc.Visible = !totals.TotalsHidden;
+    totals.TotalsHidden = !totals.TotalsHidden;
     if (totals.TotalsHidden) {
         // Nothing keeps the two up to date while hidden; a save must not find them apart.
         totals.FullTotal = totals.Total;
@@ -306,8 +295,7 @@ void mnuAdminCheckAddition_Click(Program& program) {
     for (int index = kFirst + 1; index <= kLast; ++index) {
         modFields::SetText(program, field(index), "");
     }
-    // The menu's own table tells of a growing sum in every row; the totals' account of it is the one that
-    // holds: the same value in each row, and the sum beside it.
+    // Wanted: the same value in each row, and the sum of them all beside it.
     std::array<float, 34> sums{};
     for (int index = kFirst; index <= kLast; ++index) {
         modFields::SetText(program, field(index), value);
@@ -322,7 +310,7 @@ void FinalPageChange(Program& program, int index) {
     const TextArea& area = page.txt[static_cast<std::size_t>(index)];
     TotalsRecords& totals = program.totals;
     TellNoNumber(program, program.pages[PageId::frmP6].txt[static_cast<std::size_t>(index)]);
-    program.document.CurrentTextBuf[kEditedPageCount - 1][static_cast<std::size_t>(index)] = area.Text;
+    program.document.CurrentTextBuf[PageId::frmP6][static_cast<std::size_t>(index)] = area.Text;
     program.pages[PageId::frmP6_1].txt[static_cast<std::size_t>(index)].Text = area.Text;
     if (program.guards.HandlersSilent() || totals.InRecalculation || totals.InRunningUpdate) {
         return;
@@ -343,7 +331,7 @@ void FinalPageChange(Program& program, int index) {
     }
     *figure = *number;
     UpdateRunningTotals(program);
-    program.main.cmdReCalc.BackColor = colors::kOverLimit;
+    program.totals.TotalsStale = true;
 }
 
 void RewriteDeposit(Program& program) {
@@ -363,7 +351,7 @@ void FinalPageLostFocus(Program& program, int index) {
 
 void TotalsAfterReading(Program& program) {
     TotalsRecords& totals = program.totals;
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+    for (const PageId page : kLinePages) {
         totals.PageSum[page] = 0;
         totals.PageTaxable[page] = 0;
         for (std::size_t row = 0; row < kRowCount; ++row) {
@@ -375,7 +363,7 @@ void TotalsAfterReading(Program& program) {
     if (totals.TaxableTotal < 0) {
         totals.TaxableTotal = 0; // only here: a file's negative taxable amount earns no tax back
     }
-    auto& current = program.document.CurrentTextBuf[kEditedPageCount - 1];
+    auto& current = program.document.CurrentTextBuf[PageId::frmP6];
     const std::string stored(text::Trim(current[kDeposit]));
     const std::optional<float> deposit = stored.empty() ? std::optional(0.0F) : Numeric(program, stored);
     if (!deposit) {
@@ -396,8 +384,7 @@ void TotalsAfterReading(Program& program) {
         WriteFigure(program, kTax, Shown(totals.SalesTax));
         WriteFigure(program, kTotal, Shown(totals.Total));
         WriteFigure(program, kBalance, Shown(totals.Balance));
-        ShowRunningLabel(program, totals.SubTotal);
-        ShowSettled(program);
+        Settle(program, totals.SubTotal);
     }
     WriteFigure(program, kDeposit, Shown(totals.Deposit));
     MirrorFigures(program);
@@ -405,7 +392,7 @@ void TotalsAfterReading(Program& program) {
     const Page& page = program.pages[PageId::frmP6];
     for (std::size_t figure = 0; figure < kFigureCount; ++figure) {
         current[figure] = page.txt[figure].Text;
-        program.document.SavedTextBuf[kEditedPageCount - 1][figure] = page.txt[figure].Text;
+        program.document.SavedTextBuf[PageId::frmP6][figure] = page.txt[figure].Text;
     }
 }
 

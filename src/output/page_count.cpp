@@ -1,6 +1,5 @@
 #include "output/page_count.h"
 
-#include "base/numbers.h"
 #include "base/text.h"
 #include "pages/page_geometry.h"
 #include "pages/titles.h"
@@ -19,9 +18,7 @@ void Keep(Program& program, PageId page, int index) {
         return;
     }
     const PageLabel& label = program.pages[page].lbl[static_cast<std::size_t>(index)];
-    LabelChangeRecord& kept =
-        program.format
-            .PropLabelChanges[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)];
+    LabelChangeRecord& kept = program.format.PropLabelChanges[page][static_cast<std::size_t>(index)];
     kept.Changed = true;
     kept.Left = label.Left;
     kept.Top = label.Top;
@@ -34,9 +31,9 @@ void Keep(Program& program, PageId page, int index) {
     kept.FontUnderline = label.FontUnderline;
 }
 
-bool HasLine(const Program& program, int page) {
-    const int last = static_cast<int>(numbers::Val(text::Right(program.pages[PageAt(page)].Tag, 2)));
-    const auto& lines = program.document.CurrentTextBuf[static_cast<std::size_t>(page)];
+bool HasLine(const Program& program, PageId page) {
+    const int last = geometry::LastText(page);
+    const auto& lines = program.document.CurrentTextBuf[page];
     const auto end =
         lines.begin() + std::min<std::ptrdiff_t>(last + 1, static_cast<std::ptrdiff_t>(lines.size()));
     return std::any_of(lines.begin(), end, [](const std::string& line) { return !text::Trim(line).empty(); });
@@ -46,7 +43,7 @@ bool HasLine(const Program& program, int page) {
 
 void CountPagesInUse(Program& program) {
     for (int page = kLinePageCount; page >= 1; --page) {
-        if (HasLine(program, page - 1)) {
+        if (HasLine(program, PageAt(page - 1))) {
             program.document.PagesInUse = page + 1;
             return;
         }
@@ -56,7 +53,7 @@ void CountPagesInUse(Program& program) {
 void SetPageNumbers(Program& program) {
     const int used = program.document.PagesInUse;
     for (const PageId page : kAllPages) {
-        const bool final = !IsLinePage(page);
+        const bool final = IsFinalOrCopy(page);
         const int number = final ? used - 1 : IndexOf(page);
         const int index = geometry::PageNumberLabel(page);
         program.pages[page].lbl[static_cast<std::size_t>(index)].Caption =
@@ -70,7 +67,7 @@ void SetPageNumbers(Program& program) {
                                      std::to_string(final ? used : IndexOf(page) + 1));
         Keep(program, page, 0);
     }
-    program.main.lblHighestPage.Caption = "Utilizing " + std::to_string(used) + " of 6 Available Pages";
+    program.document.PagesNumbered = used;
 }
 
 } // namespace modPrint

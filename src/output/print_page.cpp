@@ -121,12 +121,16 @@ void DrawSheet(const Program& program, DrawingSurface& surface, const Page& reco
         const float top = logo.Top + surface.ScaleTop;
         surface.PaintPicture(logo.Picture, left, top, logo.Size);
         if (logo.BorderStyle != 0) {
-            const float right = left + logo.Size.Width;
-            const float bottom = top + logo.Size.Height;
-            surface.Line(left, top, right, top);
-            surface.Line(right, top, right, bottom);
-            surface.Line(left, bottom, right, bottom);
-            surface.Line(left, top, left, bottom);
+            // Within the picture, as on the page on screen.
+            constexpr float kHalfRule = 7.5F;
+            const float right = left + logo.Size.Width - kHalfRule;
+            const float bottom = top + logo.Size.Height - kHalfRule;
+            const float inLeft = left + kHalfRule;
+            const float inTop = top + kHalfRule;
+            surface.Line(inLeft, inTop, right, inTop);
+            surface.Line(right, inTop, right, bottom);
+            surface.Line(inLeft, bottom, right, bottom);
+            surface.Line(inLeft, inTop, inLeft, bottom);
         }
     }
 }

@@ -2,8 +2,8 @@
 
 #include "base/text.h"
 #include "pages/page_geometry.h"
-#include "pages/row_fields.h"
 #include "pages/quantity_row.h"
+#include "pages/row_fields.h"
 #include "program/program.h"
 
 #include <array>

@@ -70,7 +70,7 @@ void TakeFigures(Program& program) {
     modColumns::CollectQtyBoxes(program);
     modPrint::CountPagesInUse(program);
     if (!program.totals.TotalsHidden && modTotals::TotalsDiffer(program)) {
-        program.main.cmdReCalc.BackColor = colors::kOverLimit;
+        program.totals.TotalsStale = true;
         program.platform.questions.MsgBox(modTotals::DiscrepancyMessage(), Buttons::Ok, "");
     }
 }

@@ -47,8 +47,7 @@ void FinalPage(Page& page, const SettingsRecords& before, const SettingsRecords&
 /// The open format's own records of those labels; true when one of them had the old words.
 bool RewordInFormat(Program& program, PageId page, std::size_t index, const std::string& was,
                     const std::string& is) {
-    LabelChangeRecord& record =
-        program.format.FormatLabelChanges[static_cast<std::size_t>(IndexOf(page))][index];
+    LabelChangeRecord& record = program.format.FormatLabelChanges[page][index];
     if (was == is || !record.Changed || record.Caption != was) {
         return false;
     }

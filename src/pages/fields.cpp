@@ -12,9 +12,9 @@ namespace modFields {
 
 namespace {
 
-std::vector<TextArea>& ArrayOf(Program& program, const FieldRef& field) {
-    Page& page = program.pages[field.Page];
-    switch (field.Kind) {
+/// Of a page that is read or of one that is written.
+template <typename PageRecord> auto& ArrayOf(PageRecord& page, FieldKind kind) {
+    switch (kind) {
     case FieldKind::txtQty:
         return page.txtQty;
     case FieldKind::txtAmt:
@@ -24,7 +24,7 @@ std::vector<TextArea>& ArrayOf(Program& program, const FieldRef& field) {
     }
 }
 
-bool TakesFocus(Program& program, const FieldRef& field) {
+bool TakesFocus(const Program& program, const FieldRef& field) {
     // The client's copy is there to be printed; nobody types on it.
     if (!Exists(program, field) || field.Page == PageId::frmP6_1) {
         return false;
@@ -36,7 +36,11 @@ bool TakesFocus(Program& program, const FieldRef& field) {
 } // namespace
 
 TextArea& Area(Program& program, const FieldRef& field) {
-    return ArrayOf(program, field)[static_cast<std::size_t>(field.Index)];
+    return ArrayOf(program.pages[field.Page], field.Kind)[static_cast<std::size_t>(field.Index)];
+}
+
+const TextArea& Area(const Program& program, const FieldRef& field) {
+    return ArrayOf(program.pages[field.Page], field.Kind)[static_cast<std::size_t>(field.Index)];
 }
 
 bool Exists(const Program& program, const FieldRef& field) {

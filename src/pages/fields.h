@@ -12,6 +12,7 @@ namespace modFields {
 
 /// The text field at that address; only for `txt`, `txtQty` and `txtAmt` that exist.
 [[nodiscard]] TextArea& Area(Program& program, const FieldRef& field);
+[[nodiscard]] const TextArea& Area(const Program& program, const FieldRef& field);
 [[nodiscard]] bool Exists(const Program& program, const FieldRef& field);
 
 /// Puts a text into a field. When it differs from the old one: cursor to 0, nothing selected, then the page's

@@ -17,8 +17,7 @@ void SnapshotLabels(Program& program) {
     for (const PageId page : kEditedPages) {
         const Page& record = program.pages[page];
         for (std::size_t index = 0; index < record.lbl.size(); ++index) {
-            LabelChangeRecord& kept =
-                program.format.PropLabelChanges[static_cast<std::size_t>(IndexOf(page))][index];
+            LabelChangeRecord& kept = program.format.PropLabelChanges[page][index];
             kept.Left = record.lbl[index].Left;
             kept.Top = record.lbl[index].Top;
         }

@@ -28,10 +28,6 @@ PictureSize Fitted(const PictureSize& size) {
     return {size.Width * scale, size.Height * scale};
 }
 
-void SetChecked(Program& program, bool checked) {
-    program.main[CommandId::mnuEditLogoVisible].Checked = checked;
-}
-
 } // namespace
 
 std::optional<std::string> ScaledMessage(const PictureSize& natural) {
@@ -56,7 +52,7 @@ std::optional<PictureSize> PutLogo(Program& program, const std::string& path) {
         Logo(program).Picture = {PictureRef::Source::File, path};
         Logo(program).Size = Fitted(*size);
         SettleLogoVisibility(program);
-        SetChecked(program, program.settings.LogoVisible);
+        program.run.LogoChecked = program.settings.LogoVisible;
     }
     return size;
 }
@@ -64,7 +60,7 @@ std::optional<PictureSize> PutLogo(Program& program, const std::string& path) {
 void HideLogo(Program& program) {
     Logo(program).Picture = {};
     SettleLogoVisibility(program);
-    SetChecked(program, false);
+    program.run.LogoChecked = false;
 }
 
 void SettleLogoVisibility(Program& program) {

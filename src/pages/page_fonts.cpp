@@ -9,11 +9,8 @@ void ApplyPageFonts(Program& program) {
     const ScopedFlag silent(program.guards.ApplyingFonts);
     const RunState& run = program.run;
     const float size = run.DefaultFontSize == 0 ? 10 : run.DefaultFontSize;
-    // Laying "Arial" first makes a font of the same name take hold afresh.
     const auto layFont = [&](auto& field) {
-        field.FontName = "Arial";
         field.FontBold = false;
-        field.FontItalic = false;
         field.FontName = run.DefaultFontName;
         field.FontSize = size;
         field.FontItalic = run.DefaultFontItalic;
@@ -43,9 +40,8 @@ void ApplyPageFonts(Program& program) {
     }
     for (const PageId page : kEditedPages) {
         Page& record = program.pages[page];
-        const auto at = static_cast<std::size_t>(IndexOf(page));
         for (std::size_t index = 0; index < record.txt.size(); ++index) {
-            if (program.format.PropTextChanges[at][index].FontBold) {
+            if (program.format.PropTextChanges[page][index].FontBold) {
                 record.txt[index].FontBold = true;
                 if (page == PageId::frmP6) {
                     program.pages[PageId::frmP6_1].txt[index].FontBold = true;

@@ -102,7 +102,7 @@ bool RightAligned(PageId page, int index) {
     if (page == PageId::frmP1) {
         return index == 1 || IsAmount(page, index);
     }
-    return !IsLinePage(page) || IsAmount(page, index);
+    return IsFinalOrCopy(page) || IsAmount(page, index);
 }
 
 std::string_view KindOf(std::string_view tag) {

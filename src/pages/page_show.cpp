@@ -12,12 +12,12 @@ void ShowPage(Program& program, PageId page) {
         TextArea& area = record.txt[index];
         area.Visible = true;
         area.Enabled = true;
-        const auto at = static_cast<std::size_t>(IndexOf(page));
         if (IsLinePage(page)) {
-            area.Locked = program.format.FormatOpen && program.format.FormatTextChanges[at][index].FormatText;
+            area.Locked =
+                program.format.FormatOpen && program.format.FormatTextChanges[page][index].FormatText;
         }
         if (edited && program.format.FormatOpen) {
-            if (program.format.PropTextChanges[at][index].FontBold) {
+            if (program.format.PropTextChanges[page][index].FontBold) {
                 area.FontBold = true;
             }
         }

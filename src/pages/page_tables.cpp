@@ -132,10 +132,6 @@ constexpr std::array<std::string_view, 30> kContract{
     "** Please note that if this is not returned by ____________ there can not be any major changes made to "
     "this event."};
 
-bool IsFinal(PageId page) {
-    return page == PageId::frmP6 || page == PageId::frmP6_1;
-}
-
 } // namespace
 
 namespace tables {
@@ -144,7 +140,7 @@ std::span<const TextRun> TextRuns(PageId page) {
     if (page == PageId::frmP1) {
         return kClientPage;
     }
-    return IsFinal(page) ? std::span<const TextRun>(kFinalPage) : std::span<const TextRun>(kLinePage);
+    return IsFinalOrCopy(page) ? std::span<const TextRun>(kFinalPage) : std::span<const TextRun>(kLinePage);
 }
 
 std::span<const ToolTip> ToolTips() {
@@ -155,7 +151,7 @@ std::span<const Box> Boxes(PageId page) {
     if (page == PageId::frmP1) {
         return kClientBoxes;
     }
-    return IsFinal(page) ? std::span<const Box>(kFinalBoxes) : std::span<const Box>();
+    return IsFinalOrCopy(page) ? std::span<const Box>(kFinalBoxes) : std::span<const Box>();
 }
 
 std::span<const FixedLabel> ClientPageLabels() {

@@ -45,8 +45,6 @@ void LayLines(Program& program, Place place) {
             label.Left = Centred(program, label);
         }
     }
-    program.main.lblEvent.Caption = title;
-    program.main.lblEvent.Visible = true;
 }
 
 bool PagesAreBuilt(const Program& program) {
@@ -56,7 +54,7 @@ bool PagesAreBuilt(const Program& program) {
 void Record(Program& program, PageId page) {
     const auto index = static_cast<std::size_t>(geometry::TitleLabel(page));
     const PageLabel& label = program.pages[page].lbl[index];
-    LabelChangeRecord& kept = program.format.PropLabelChanges[static_cast<std::size_t>(IndexOf(page))][index];
+    LabelChangeRecord& kept = program.format.PropLabelChanges[page][index];
     static_cast<LabelLook&>(kept) = {label.Left,      label.Top,        label.Caption,
                                      label.FontName,  label.FontSize,   label.FontBold,
                                      label.ForeColor, label.FontItalic, label.FontUnderline};
@@ -99,12 +97,12 @@ void CentreFooters(Program& program) {
 
 void UpdateEventNameLabels(Program& program) {
     UpdateFooters(program);
-    program.main.Caption = "Quillbrook";
+    program.document.WindowTitle = "Quillbrook";
     if (program.format.FormatOpen) {
-        program.main.Caption += ": Format File = " + program.format.FormatName;
+        program.document.WindowTitle += ": Format File = " + program.format.FormatName;
     }
     if (program.document.HasName()) {
-        program.main.Caption += " - File Name = " + program.document.FileName;
+        program.document.WindowTitle += " - File Name = " + program.document.FileName;
     }
 }
 

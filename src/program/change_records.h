@@ -2,6 +2,7 @@
 
 #include "base/colors.h"
 #include "base/seen.h"
+#include "program/per_page.h"
 
 #include <array>
 #include <optional>
@@ -58,9 +59,9 @@ struct AreaInFormat {
     std::string Text; ///< of its Text line; empty without one
 };
 
-using TextChangeTable = std::array<std::array<TextChangeRecord, 66>, 6>;
-using AreasInFormat = std::array<std::array<AreaInFormat, 66>, 6>;
-using LabelChangeTable = std::array<std::array<LabelChangeRecord, 65>, 6>;
+using TextChangeTable = PerEditedPage<std::array<TextChangeRecord, 66>>;
+using AreasInFormat = PerEditedPage<std::array<AreaInFormat, 66>>;
+using LabelChangeTable = PerEditedPage<std::array<LabelChangeRecord, 65>>;
 
 struct FormatRecords {
     TextChangeTable PropTextChanges;   ///< the proposal's; other places call it TextProps

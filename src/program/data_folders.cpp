@@ -5,9 +5,12 @@
 
 namespace modFolders {
 
+std::string OwnFolder(const Program& program) {
+    return paths::Join(program.folders.InstallFolder, "Proposals/");
+}
+
 std::string DataFolder(const Program& program) {
-    return program.folders.ProposalsFolder.empty() ? paths::Join(program.folders.InstallFolder, "Proposals/")
-                                                   : program.folders.ProposalsFolder;
+    return program.folders.ProposalsFolder.empty() ? OwnFolder(program) : program.folders.ProposalsFolder;
 }
 
 std::string BackupFolder(const Program& program) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "program/change_records.h"
-#include "program/page_records.h"
+#include "program/per_page.h"
 
 #include <array>
 #include <optional>
@@ -38,10 +38,10 @@ struct DesignerRecords {
     GroupChanges Changed;
     bool LabelPropsOpen = false;
     bool LabelPropsCancelled = false;
-    std::array<DragState, kEditedPageCount> Drags;
+    PerEditedPage<DragState> Drags;
     DragState LogoDrag;
     /// Per page and label: whether the proposal's record was changed when the label was pressed.
-    std::array<std::array<bool, 65>, kEditedPageCount> ChangedAtPress{};
+    PerEditedPage<std::array<bool, 65>> ChangedAtPress;
     std::string ColorOwner; ///< who opened the colour window: "Label" or "Text"
 
     bool LabelMode = false;              ///< keys go to the labels of the page in front

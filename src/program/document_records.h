@@ -1,9 +1,8 @@
 #pragma once
 
 #include "base/seen.h"
-#include "program/page_records.h"
+#include "program/per_page.h"
 
-#include <array>
 #include <string>
 #include <vector>
 
@@ -25,6 +24,11 @@ struct DocumentState {
     bool Cancelled = false;
     bool SaveAsActive = false;
     int PagesInUse = 6;
+    std::string WindowTitle = "Quillbrook";
+    std::string FolderOnShow; ///< where the proposal was opened, as the strip tells it
+    int PagesNumbered = 0;    ///< pages in use when they were last numbered; 0 since the reset
+    bool HasNotes = false;    ///< footnotes lie beside the proposal
+    bool HasClient = false;   ///< opened, or typed in since the reset: its client can go into an address book
     std::string FileFilter = "*.hef";
     bool DeleteMode = false;
     bool IgnoreProperties = false;
@@ -39,8 +43,8 @@ struct DocumentState {
     [[nodiscard]] bool HasName() const { return !FileName.empty() && FileName != ".hef"; }
 
     /// Per edited page: the text of each area as the file is written from it, and as it was last saved.
-    std::array<std::vector<std::string>, kEditedPageCount> CurrentTextBuf;
-    std::array<std::vector<std::string>, kEditedPageCount> SavedTextBuf;
+    PerEditedPage<std::vector<std::string>> CurrentTextBuf;
+    PerEditedPage<std::vector<std::string>> SavedTextBuf;
 };
 
 /// Flags by which change handlers are kept quiet. Raise them with base/guard.h only.

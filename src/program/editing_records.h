@@ -1,9 +1,11 @@
 #pragma once
 
-#include "program/page_records.h"
+#include "base/guard.h"
+#include "program/per_page.h"
 
 #include <array>
 #include <bitset>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -57,7 +59,9 @@ struct BlockState {
     PageId UndoPage = PageId::frmP1;
     std::vector<ClearedArea> UndoMemory;
 
-    /// A move by key is not finished before the key is let go; the page that then runs its handlers.
+    /// A move by key is not finished before the key is let go: handlers are silent as long as it is held
+    /// here, and the page then runs them.
+    std::unique_ptr<ScopedFlag> Moving;
     std::optional<PageId> MovedPage;
 
 private:
@@ -120,7 +124,7 @@ struct EditingState {
     /// The amount whose text the person has taken away and not left yet: another may be typed in its place.
     std::optional<FieldRef> EmptiedAmount;
     /// A suggested completion stands selected in the area; per page frmP1 to frmP5.
-    std::array<bool, kLinePageCount> ACActive{};
-    std::array<WordState, kLinePageCount> Words;
+    PerLinePage<bool> ACActive;
+    PerLinePage<WordState> Words;
     TypedKeys Typed;
 };

@@ -6,8 +6,8 @@
 struct Program;
 struct FieldRef;
 
-/// Calls from the document level to rooms above it. The document never knows who answers; one wiring unit
-/// connects them. An empty hook means that nobody answers.
+/// Calls from a room to rooms above it. The lower room never knows who answers; one wiring unit connects
+/// them. An empty hook means that nobody answers.
 struct Hooks {
     using Call = std::function<void(Program&)>;
     using FieldCall = std::function<void(Program&, const FieldRef&)>;
@@ -18,11 +18,10 @@ struct Hooks {
 
     std::function<void(Program&, int)> UpdatePageButtons; ///< change the page, 0 to 6
     FieldCall ShowField;      ///< brings a field into the visible part, its page to the front
-    Call CollectQtyBoxes;                                 ///< bring the stores up to what the row fields show
+    Call CollectQtyBoxes;     ///< bring the stores up to what the row fields show
     Call TakeFreshFigures;    ///< what is being typed is settled and everything summed, before others see it
     Call DeSelectAllControls; ///< end a block selection on all pages
     std::function<void(Program&, int)> PageKey;   ///< a page-up (33) or page-down (34) key
-    Call UpdateTextMenu;                          ///< the states of the text area's commands
     std::function<void(Program&, int)> MoveBlock; ///< an up (38) or down (40) key while areas are selected
     std::function<void(Program&, int)> TermsKey;  ///< F5 (116) or F6 (117) on a line page
     /// The list in use may be another one now; it is read at once where it is needed.

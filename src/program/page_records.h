@@ -35,6 +35,15 @@ inline constexpr std::array<PageId, kLinePageCount> kLinePages{PageId::frmP1, Pa
     return IndexOf(page) < kLinePageCount;
 }
 
+/// The final page with the figures and the contract: ours, which is edited. Nothing flows there.
+[[nodiscard]] constexpr bool IsFinalPage(PageId page) {
+    return page == PageId::frmP6;
+}
+/// The final page or the client's copy of it.
+[[nodiscard]] constexpr bool IsFinalOrCopy(PageId page) {
+    return !IsLinePage(page);
+}
+
 /// Control arrays of a page, in the order in which a page's controls are walked for printing.
 enum class FieldKind : int { txt, lbl, imgNoTax, txtQty, txtAmt, lblAt, lblEach, lne, pic };
 

@@ -80,6 +80,7 @@ struct RunState {
     float DefaultFontSize = 10;
     Color DefaultFontColor = 0;
     bool DefaultFontItalic = false;
+    bool LogoChecked = false;   ///< the check mark of "Show Logo"
     bool AltLetterhead = false; ///< once on it stays on for the run
     /// The terms list in use; pinned, by the settings or because the person opened it, means that a
     /// document's kind does not change it.

@@ -1,19 +1,20 @@
 #pragma once
 
-#include "program/page_records.h"
+#include "program/per_page.h"
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 inline constexpr int kRowCount = 66;
 
 /// All money is single precision; formats round it for show only.
 struct TotalsRecords {
-    using RowTable = std::array<std::array<float, kLinePageCount>, kRowCount>;
+    using RowTable = std::array<PerLinePage<float>, kRowCount>;
     RowTable AmountTable{};  ///< [txt index of the amount][page]
     RowTable TaxableTable{}; ///< the same, 0 for an exempt row
-    std::array<float, kLinePageCount> PageSum{};
-    std::array<float, kLinePageCount> PageTaxable{};
+    PerLinePage<float> PageSum{};
+    PerLinePage<float> PageTaxable{};
 
     float SubTotal = 0;
     float TaxableTotal = 0;
@@ -31,7 +32,8 @@ struct TotalsRecords {
     bool TotalsHidden = false;
     bool InRecalculation = false;
     bool InRunningUpdate = false; ///< the running computation writes the final page
-    bool TotalsStale = false;
+    bool TotalsStale = false;     ///< the figures may be behind; shows as a red `cmdReCalc`
+    std::string RunningSubTotal;  ///< with its currency sign, as last shown
 
     /// Whether there are amounts: any that is not zero.
     [[nodiscard]] bool HasAmounts() const {

@@ -242,7 +242,6 @@ void frmFile::OpenProposal(Program& program) {
         return;
     }
     const bool backup = paths::SameFolder(document.FilePath, modFolders::BackupFolder(program));
-    program.main[CommandId::mnuFileRestoreFromBackup].Enabled = backup;
     document.FromBackup = backup;
     modFile::ShowProposal(program, name, *raw);
     document.PropertiesIgnored = document.IgnoreProperties;

@@ -31,7 +31,6 @@ namespace {
 /// An empty proposal is none from the backups, and must not be saved among them.
 void LeaveBackup(Program& program) {
     program.document.FromBackup = false;
-    program.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
     if (paths::SameFolder(program.document.FilePath, modFolders::BackupFolder(program))) {
         program.document.FilePath = modFolders::DataFolder(program);
     }
@@ -88,8 +87,7 @@ void SaveAsSteps(Program& program) {
         document.SavedStateStale = true; // they are asked about again when the proposal is left
     }
     modSideFile::FollowSaveAs(program, before);
-    program.main.imgFootNotes.Picture =
-        modFile::FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile) ? 1 : 0;
+    document.HasNotes = modFile::FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile);
     modTitles::UpdateEventNameLabels(program);
 }
 
@@ -100,13 +98,13 @@ bool SomethingChanged(Program& program) {
         program.hooks.CollectQtyBoxes(program);
     }
     const DocumentState& document = program.document;
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+    for (const PageId page : kLinePages) {
         if (document.CurrentTextBuf[page] != document.SavedTextBuf[page]) {
             return true;
         }
     }
-    const auto& current = document.CurrentTextBuf[kEditedPageCount - 1];
-    const auto& saved = document.SavedTextBuf[kEditedPageCount - 1];
+    const auto& current = document.CurrentTextBuf[PageId::frmP6];
+    const auto& saved = document.SavedTextBuf[PageId::frmP6];
     return !std::equal(current.begin(), current.end(), saved.begin(), saved.end(),
                        [](const std::string& one, const std::string& other) {
                            return text::Trim(one) == text::Trim(other);
@@ -253,10 +251,9 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
             program.format.PropertySeen = files::LookAt(program.format.PropertyPath);
         }
         document.FilePath = folder;
-        program.main.lblDir.Caption = "Current Folder = " + document.FilePath;
-        program.main.imgFootNotes.Picture = modFile::FileIsThere(folder, document.FootnoteFile) ? 1 : 0;
+        document.FolderOnShow = folder;
+        document.HasNotes = modFile::FileIsThere(folder, document.FootnoteFile);
         document.FromBackup = false;
-        program.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
     });
 }
 

@@ -16,7 +16,7 @@ namespace {
 
 /// Every property is in its file.
 void ClearMarks(Program& program) {
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+    for (const PageId page : kLinePages) {
         for (TextChangeRecord& record : program.format.PropTextChanges[page]) {
             record.Dirty = false;
         }
@@ -105,7 +105,7 @@ bool PropertiesWanted(const Program& program) {
 }
 
 bool PropertiesChanged(const Program& program) {
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+    for (const PageId page : kLinePages) {
         for (const TextChangeRecord& record : program.format.PropTextChanges[page]) {
             if (record.Dirty) {
                 return true;

@@ -64,7 +64,7 @@ std::string Encode(const Fields& fields, const Widths& widths) {
     bytes.reserve(kFileLength);
     std::size_t position = 0;
     std::size_t end = 0;
-    for (std::size_t page = 0; page < fields.size(); ++page) {
+    for (const PageId page : kEditedPages) {
         for (std::size_t index = 0; index < fields[page].size(); ++index) {
             const auto width = static_cast<std::size_t>(std::max(widths[page][index], 0));
             const Field& field = fields[page][index];
@@ -96,7 +96,7 @@ Decoded Decode(std::string_view bytes, std::uintmax_t length, const Widths& widt
     decoded.Bytes.assign(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(end));
     decoded.Bytes.resize(total, ' ');
     std::size_t position = 0;
-    for (std::size_t page = 0; page < widths.size(); ++page) {
+    for (const PageId page : kEditedPages) {
         decoded.Slots[page].reserve(widths[page].size());
         for (const int width : widths[page]) {
             const std::size_t size = WidthIn(file, width);

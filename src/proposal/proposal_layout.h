@@ -1,8 +1,7 @@
 #pragma once
 
-#include "program/page_records.h"
+#include "program/per_page.h"
 
-#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -17,13 +16,13 @@ inline constexpr std::size_t kKindOffset = 20628;
 inline constexpr char kExemptMark = '\xD8';
 
 /// Slot widths, per edited page and text index, in the order of the file. They come from the fields' Tags.
-using Widths = std::array<std::vector<int>, kEditedPageCount>;
+using Widths = PerEditedPage<std::vector<int>>;
 
 struct Field {
     std::string Text;
     bool TaxExempt = false;
 };
-using Fields = std::array<std::vector<Field>, kEditedPageCount>;
+using Fields = PerEditedPage<std::vector<Field>>;
 
 /// Amount and description widths for a file of that length.
 struct LegacyWidths {
@@ -46,7 +45,7 @@ struct Decoded {
     Decoded& operator=(const Decoded&) = delete;
     Decoded& operator=(Decoded&&) = default;
     std::vector<char> Bytes; ///< what the slots look into, also after a move
-    std::array<std::vector<std::string_view>, kEditedPageCount> Slots;
+    PerEditedPage<std::vector<std::string_view>> Slots;
     bool Wedding = false;
 };
 [[nodiscard]] Decoded Decode(std::string_view bytes, std::uintmax_t length, const Widths& widths);

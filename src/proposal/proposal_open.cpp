@@ -39,7 +39,7 @@ std::uintmax_t BytesNeeded(const proposal::Widths& widths) {
 /// What both tables say of an area once it was read.
 template <typename Change> void InBothTables(Program& program, PageId page, int index, Change change) {
     for (TextChangeTable* table : {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
-        change((*table)[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)]);
+        change((*table)[page][static_cast<std::size_t>(index)]);
     }
 }
 
@@ -78,15 +78,14 @@ void TakePlainRow(Program& program, PageId page, int index) {
 
 void TakeText(Program& program, PageId page, int index, std::string_view slot) {
     const auto at = static_cast<std::size_t>(index);
-    const auto pageAt = static_cast<std::size_t>(IndexOf(page));
     const std::string_view value = text::RTrim(slot);
-    TextChangeRecord& format = program.format.FormatTextChanges[pageAt][at];
+    TextChangeRecord& format = program.format.FormatTextChanges[page][at];
     if (format.FormatText && value.empty()) {
         return; // protected, and the proposal has nothing to put in its place
     }
     format.FormatText = false;
-    program.document.SavedTextBuf[pageAt][at] = value;
-    program.document.CurrentTextBuf[pageAt][at] = value;
+    program.document.SavedTextBuf[page][at] = value;
+    program.document.CurrentTextBuf[page][at] = value;
     const quantity_row::QuantityRow row = quantity_row::Split(value);
     const bool description = geometry::IsDescription(page, index);
     if (row.IsRow && description) {
@@ -102,10 +101,9 @@ void TakeText(Program& program, PageId page, int index, std::string_view slot) {
 
 void TakeAmount(Program& program, PageId page, int index) {
     const auto at = static_cast<std::size_t>(index);
-    const auto pageAt = static_cast<std::size_t>(IndexOf(page));
-    std::string& current = program.document.CurrentTextBuf[pageAt][at];
-    program.totals.AmountTable[at][pageAt] = 0;
-    program.totals.TaxableTable[at][pageAt] = 0;
+    std::string& current = program.document.CurrentTextBuf[page][at];
+    program.totals.AmountTable[at][page] = 0;
+    program.totals.TaxableTable[at][page] = 0;
     modPages::SetNoTaxMark(program, page, index, modPages::Mark::Hidden);
     modPages::SetCurrencySign(program, page, index, modPages::Mark::Hidden);
     InBothTables(program, page, index, [](TextChangeRecord& kept) { kept.TaxExempt = false; });
@@ -121,7 +119,7 @@ void TakeAmount(Program& program, PageId page, int index) {
     if (bare.empty()) {
         // A mark beside nothing: an empty amount.
         current.clear();
-        program.document.SavedTextBuf[pageAt][at].clear();
+        program.document.SavedTextBuf[page][at].clear();
         area.Text.clear();
         return;
     }
@@ -133,18 +131,18 @@ void TakeAmount(Program& program, PageId page, int index) {
     }
     if (marked) {
         InBothTables(program, page, index, [](TextChangeRecord& kept) { kept.TaxExempt = true; });
-        program.document.SavedTextBuf[pageAt][at] = current;
+        program.document.SavedTextBuf[page][at] = current;
         area.Text = bare;
         modPages::SetNoTaxMark(program, page, index, modPages::Mark::Shown);
     }
-    program.totals.AmountTable[at][pageAt] = *value;
-    program.totals.TaxableTable[at][pageAt] = marked ? 0 : *value;
+    program.totals.AmountTable[at][page] = *value;
+    program.totals.TaxableTable[at][page] = marked ? 0 : *value;
     modPages::SetCurrencySign(program, page, index, modPages::Mark::Shown);
 }
 
 void TakeFields(Program& program, const proposal::Decoded& decoded) {
     for (const PageId page : kLinePages) {
-        const auto& slots = decoded.Slots[static_cast<std::size_t>(IndexOf(page))];
+        const auto& slots = decoded.Slots[page];
         for (int index = 0; index <= geometry::LastText(page); ++index) {
             TakeText(program, page, index, slots[static_cast<std::size_t>(index)]);
             if (geometry::IsAmount(page, index)) {
@@ -152,11 +150,10 @@ void TakeFields(Program& program, const proposal::Decoded& decoded) {
             }
         }
     }
-    constexpr auto kFinal = static_cast<std::size_t>(kEditedPageCount - 1);
-    for (std::size_t index = 0; index < decoded.Slots[kFinal].size(); ++index) {
-        const std::string_view value = text::Trim(decoded.Slots[kFinal][index]);
-        program.document.CurrentTextBuf[kFinal][index] = value;
-        program.document.SavedTextBuf[kFinal][index] = value;
+    for (std::size_t index = 0; index < decoded.Slots[PageId::frmP6].size(); ++index) {
+        const std::string_view value = text::Trim(decoded.Slots[PageId::frmP6][index]);
+        program.document.CurrentTextBuf[PageId::frmP6][index] = value;
+        program.document.SavedTextBuf[PageId::frmP6][index] = value;
     }
 }
 
@@ -177,7 +174,7 @@ void SettleLogo(Program& program) {
         logo.Visible = false;
         logo.Tag = kHide;
         program.settings.LogoVisible = false;
-        program.main[CommandId::mnuEditLogoVisible].Checked = false;
+        program.run.LogoChecked = false;
         return;
     }
     modLogo::SettleLogoVisibility(program);
@@ -210,21 +207,19 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
     if (text::EqualNoCase(paths::ExtensionOf(fileName), "hef")) {
         document.DocumentKind = "Event";
     }
-    program.main.lblDir.Caption = "Current Folder = " + document.FilePath;
+    document.FolderOnShow = document.FilePath;
     {
         const ScopedFlag loading(program.guards.Loading);
         const proposal::Decoded decoded = proposal::Decode(raw.Bytes, raw.Length, SlotWidths(program));
         TakeFields(program, decoded);
         document.DocumentKind = decoded.Wedding ? "Wedding" : "Event";
         document.FileExists = true;
-        program.main[CommandId::mnuFileDelete].Enabled = true;
         modTotals::TotalsAfterReading(program);
     }
     modNames::SetBaseName(program, paths::BaseOf(fileName));
     document.ClientCaption = "Proposal for " + document.BaseName;
     TakeKind(program);
-    program.main.imgFootNotes.Picture =
-        FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile) ? 1 : 0;
+    document.HasNotes = FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile);
     if (program.hooks.ReadFrequentlyUsedTerms) {
         program.hooks.ReadFrequentlyUsedTerms(program);
     }
@@ -233,8 +228,7 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
     if (program.hooks.UpdatePageButtons) {
         program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
     }
-    program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled = true;
-    program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = true;
+    document.HasClient = true;
 }
 
 OpenResult OpenEventFile(Program& program, std::string_view fileName) {

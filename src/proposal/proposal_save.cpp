@@ -37,7 +37,7 @@ void CompareTotals(Program& program) {
         modTotals::SumAgain(program);
     }
     if (modTotals::TotalsDiffer(program)) {
-        program.main.cmdReCalc.BackColor = colors::kOverLimit;
+        program.totals.TotalsStale = true;
         program.platform.questions.MsgBox(modTotals::DiscrepancyMessage(), Buttons::Ok, "");
     }
 }
@@ -112,9 +112,7 @@ public:
         taken_ = true;
         program_.document.FileExists = true;
         program_.document.FromBackup = false;
-        program_.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
-        program_.main[CommandId::mnuFileDelete].Enabled = true;
-        program_.main.lblDir.Caption = "Current Folder = " + program_.document.FilePath;
+        program_.document.FolderOnShow = program_.document.FilePath;
     }
 
 private:
@@ -178,7 +176,8 @@ SaveResult SaveEventFile(Program& program) {
 
 bool ClientNameChanged(const Program& program) {
     const auto client = static_cast<std::size_t>(kClientName);
-    return program.document.CurrentTextBuf[0][client] != program.document.SavedTextBuf[0][client];
+    return program.document.CurrentTextBuf[PageId::frmP1][client] !=
+           program.document.SavedTextBuf[PageId::frmP1][client];
 }
 
 } // namespace modFile

@@ -78,7 +78,6 @@ void ShowBackup(Program& program, const UnsavedWork& work, const modFile::RawPro
     modFile::TakeProperties(program,
                             paths::Join(modFolders::BackupFolder(program), PropertiesBeside(work.Backup)));
     document.FileExists = saved.Exists;
-    program.main[CommandId::mnuFileDelete].Enabled = saved.Exists;
     document.SavedFile = saved.File;
     program.format.PropertyPath = paths::Join(work.Folder, PropertiesBeside(work.FileName));
     program.format.PropertySeen = files::LookAt(program.format.PropertyPath);

@@ -45,7 +45,6 @@ void ClearNames(Program& program) {
     document.ClientCaption.clear();
     document.TitleGiven = false;
     document.FileExists = false;
-    program.main[CommandId::mnuFileDelete].Enabled = false;
     document.BaseName.clear();
     document.FileName.clear();
     document.TextFileName.clear();
@@ -66,7 +65,7 @@ void ResetPages(Program& program) {
     }
     program.main.Focus.reset();
     program.main.CurrentPage = 0;
-    program.editing.ACActive.fill(false);
+    program.editing.ACActive = {};
     if (Window* results = modWindows::Find(program, "frmSR")) {
         modWindows::Close(program, *results); // its hits are those of the proposal that goes
     }
@@ -80,7 +79,9 @@ void ResetPages(Program& program) {
         }
     }
     program.document.PagesInUse = 6;
-    program.main.imgFootNotes.Picture = 0;
+    program.document.PagesNumbered = 0;
+    program.document.HasNotes = false;
+    program.document.HasClient = false;
     program.format.PropTextChanges = {};
     program.format.PropLabelChanges = {};
     program.format.LabelSavedState = {};
@@ -107,34 +108,32 @@ void EmptyTexts(Program& program) {
             area.ToolTipText.clear();
         }
     }
-    constexpr auto kFinal = static_cast<std::size_t>(kEditedPageCount - 1);
     const std::size_t figures = program.pages[PageId::frmP6].txt.size();
-    document.CurrentTextBuf[kFinal].assign(figures, " ");
-    document.SavedTextBuf[kFinal].assign(figures, " ");
-    for (int index = kLinePageCount - 1; index >= 0; --index) {
-        Page& page = program.pages[PageAt(index)];
-        const auto at = static_cast<std::size_t>(index);
+    document.CurrentTextBuf[PageId::frmP6].assign(figures, " ");
+    document.SavedTextBuf[PageId::frmP6].assign(figures, " ");
+    for (const PageId id : kLinePages) {
+        Page& page = program.pages[id];
         for (auto* boxes : {&page.txtQty, &page.txtAmt}) {
             for (TextArea& box : *boxes) {
                 box.ToolTipText.clear();
             }
         }
-        document.CurrentTextBuf[at].resize(page.txt.size());
-        document.SavedTextBuf[at].resize(page.txt.size());
+        document.CurrentTextBuf[id].resize(page.txt.size());
+        document.SavedTextBuf[id].resize(page.txt.size());
         for (std::size_t area = 0; area < page.txt.size(); ++area) {
             page.txt[area].BackColor = colors::kResting;
             page.txt[area].FontBold = false;
             if (page.txt[area].ToolTipText == modTotals::kNoNumberTip) {
                 page.txt[area].ToolTipText.clear();
             }
-            if (program.format.FormatTextChanges[at][area].FormatText) {
+            if (program.format.FormatTextChanges[id][area].FormatText) {
                 continue;
             }
             page.txt[area].Text.clear();
             page.txt[area].SelStart = 0;
             page.txt[area].SelLength = 0;
-            document.CurrentTextBuf[at][area].clear();
-            document.SavedTextBuf[at][area].clear();
+            document.CurrentTextBuf[id][area].clear();
+            document.SavedTextBuf[id][area].clear();
         }
     }
 }
@@ -146,9 +145,7 @@ void ZeroTotals(Program& program) {
     totals = TotalsRecords{};
     totals.TaxRate = rate;
     totals.TotalsHidden = hidden;
-    program.main.lblTotal.Caption = "Running Sub-Total = " + program.settings.CurrencySymbol + " 0.00";
-    program.main.cmdReCalc.BackColor = colors::kButtonFace;
-    program.main.lblHighestPage.Caption = "Available Pages = " + std::to_string(program.document.PagesInUse);
+    totals.RunningSubTotal = program.settings.CurrencySymbol + " 0.00";
 }
 
 void TakeFormat(Program& program, bool loadDefault) {
@@ -185,9 +182,7 @@ void ResetSteps(Program& program) {
     ClearNames(program);
     modTitles::SetPageHeading(program, "Event Proposal");
     modTitles::UpdateEventNameLabels(program);
-    program.main.Caption = "Quillbrook";
-    program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled = false;
-    program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
+    program.document.WindowTitle = "Quillbrook";
     ResetPages(program);
     ResetFont(program);
     modTitles::CentreFooters(program);

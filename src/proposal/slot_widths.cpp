@@ -8,7 +8,7 @@ namespace modFile {
 proposal::Widths SlotWidths(const Program& program) {
     proposal::Widths widths;
     for (const PageId page : kEditedPages) {
-        auto& list = widths[static_cast<std::size_t>(IndexOf(page))];
+        auto& list = widths[page];
         list.reserve(program.pages[page].txt.size());
         for (const TextArea& area : program.pages[page].txt) {
             list.push_back(geometry::LimitOf(area.Tag));

@@ -2,9 +2,9 @@
 
 #include "base/ansi.h"
 #include "base/text.h"
-#include "editing/keys.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
+#include "program/keys.h"
 #include "program/program.h"
 
 #include <algorithm>

@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "program/windows.h"
 
@@ -27,9 +28,8 @@ void frmACStart::optACStart_Click(Program&, int index) {
 }
 
 int frmACStart::txtACStart_KeyPress(int keyAscii) {
-    constexpr int kBackspace = 8, kTab = 9, kEnter = 13;
-    const bool passes = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == kBackspace || keyAscii == kTab ||
-                        keyAscii == kEnter;
+    const bool passes = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == keys::kBackspace ||
+                        keyAscii == keys::kTab || keyAscii == keys::kEnter;
     return passes ? keyAscii : 0;
 }
 

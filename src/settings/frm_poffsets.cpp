@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "settings/printer_offsets.h"
@@ -32,15 +33,14 @@ void frmPOffsets::ShowValues(const Program& program) {
     };
     lblX.Caption =
         "Printer X Offset (Horizontal) - Current Value = " + inches(program.printing.PrinterOffsetX);
-    // People know the second label by this wording.
+    // Wanted: the second label says "Horizontal" too; what its box moves is told by "Y".
     lblY.Caption =
         "Printer Y Offset (Horizontal) - Current Value = " + inches(program.printing.PrinterOffsetY);
 }
 
 int frmPOffsets::txt_KeyPress(int keyAscii) {
-    constexpr int kBackspace = 8;
     const bool passes = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == ',' || keyAscii == '-' ||
-                        keyAscii == '.' || keyAscii == kBackspace;
+                        keyAscii == '.' || keyAscii == keys::kBackspace;
     return passes ? keyAscii : 0;
 }
 

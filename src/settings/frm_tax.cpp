@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "settings/tax_rate.h"
@@ -21,9 +22,8 @@ void frmTax::Form_Load(Program& program) {
 }
 
 int frmTax::txtTaxRate_KeyPress(int keyAscii) {
-    constexpr int kBackspace = 8, kTab = 9;
     const bool passes = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.' || keyAscii == ',' ||
-                        keyAscii == kBackspace || keyAscii == kTab;
+                        keyAscii == keys::kBackspace || keyAscii == keys::kTab;
     return passes ? keyAscii : 0;
 }
 

@@ -18,9 +18,7 @@ void ComeWithoutFile(Program& program) {
     document.FileExists = false;
     document.FromBackup = false;
     document.SavedFile = {};
-    program.main[CommandId::mnuFileDelete].Enabled = false;
-    program.main[CommandId::mnuFileRestoreFromBackup].Enabled = false;
-    program.main.lblDir.Caption = "Current Folder = " + document.FilePath;
+    document.FolderOnShow = document.FilePath;
 }
 
 } // namespace

@@ -200,23 +200,18 @@ void PutInForce(Program& program) {
     }
 }
 
-std::string OwnProposals(const Program& program) {
-    return paths::WithSeparator(paths::Join(program.folders.InstallFolder, kProposals));
-}
-
 /// Copies the shared data of an installation into a new shared folder; what it does not hold is left out.
 void FillSharedFolder(Program& program, const std::string& folder) {
     struct Item {
         std::string_view From;
         std::string_view To;
     };
-    // The tax file's new name has always been written so; the rate of a new shared folder is asked for
-    // afresh.
+    // Wanted: the tax file gets a name that nothing reads, so that a new shared folder asks for its own rate.
     constexpr std::array<Item, 3> kItems{{{"Default Terms.fut", "Default Terms.fut"},
                                           {"Wedding Terms.fut", "Wedding Terms.fut"},
                                           {"SalesTax.txt", "SaleTax.txt"}}};
     for (const Item& item : kItems) {
-        const std::string from = paths::Join(OwnProposals(program), item.From);
+        const std::string from = paths::Join(modFolders::OwnFolder(program), item.From);
         if (files::Exists(from)) {
             files::Copy(from, paths::Join(folder, item.To));
         }
@@ -226,7 +221,7 @@ void FillSharedFolder(Program& program, const std::string& folder) {
 std::string ChooseFolder(Program& program) {
     Folders& folders = program.folders;
     if (program.settings.SharedDirectory.empty()) {
-        return OwnProposals(program);
+        return modFolders::OwnFolder(program);
     }
     folders.SharedFolder =
         paths::WithSeparator(paths::ResolveDrive(program.settings.SharedDirectory, folders.Drives));
@@ -241,7 +236,7 @@ std::string ChooseFolder(Program& program) {
                                       "files normally reside. Would you like to create the folder now?"}),
                          Buttons::YesNo, "Proposals Folder Not Found");
     if (answer != Answer::Yes) {
-        return OwnProposals(program);
+        return modFolders::OwnFolder(program);
     }
     try {
         files::MakeFolder(shared);
@@ -249,7 +244,7 @@ std::string ChooseFolder(Program& program) {
         FillSharedFolder(program, shared);
     } catch (const std::exception& error) {
         ReportError(program, "GetUserPreferences", error);
-        return files::IsFolder(shared) ? shared : OwnProposals(program);
+        return files::IsFolder(shared) ? shared : modFolders::OwnFolder(program);
     }
     return shared;
 }
@@ -358,7 +353,6 @@ void GetUserPreferences(Program& program) {
 }
 
 bool SaveUserPreferences(Program& program) {
-    // The log has always had this routine under the other's name.
     bool written = false;
     const bool done = Guarded(program, "RequestNetworkSharePath", [&] {
         SettingsRecords& settings = program.settings;

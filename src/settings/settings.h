@@ -56,7 +56,8 @@ enum class Key : int {
 void GetUserPreferences(Program& program);
 
 /// Rewrites the file from the lines; false when it was not written: a failure, or another program's change
-/// that the person keeps. Reports as "RequestNetworkSharePath", as the log has always had it.
+/// that the person keeps. Reports as "RequestNetworkSharePath": the
+/// log knows both writers of the file by one name.
 [[nodiscard]] bool SaveUserPreferences(Program& program);
 
 /// Changes lines and rewrites the file. When that was not done the lines are as before.

@@ -2,9 +2,11 @@
 
 #include "editing/area_mouse.h"
 #include "editing/selection.h"
+#include "editing/text_menu.h"
 #include "format/frm_label_props.h"
 #include "program/program.h"
 #include "shell/command_table.h"
+#include "shell/main_controls.h"
 #include "shell/preview_refusals.h"
 
 namespace commands {
@@ -23,12 +25,13 @@ bool IsUnder(const Entry& entry, CommandId menu) {
 } // namespace
 
 void Run(Program& program, CommandId id) {
+    modMain::WorkOutControls(program);
     const Entry& entry = Find(id);
     modBlocks::FinishMove(program); // an arrow still held: what moved must be stored before anything else
     modText::TextMenuClosed(program);
     // A shortcut must not act on the state of a field that has been left meanwhile.
-    if (entry.Parent == CommandId::mnuEditTextBox && program.hooks.UpdateTextMenu) {
-        program.hooks.UpdateTextMenu(program);
+    if (entry.Parent == CommandId::mnuEditTextBox) {
+        modBlocks::UpdateTextMenu(program);
     }
     if (entry.Pending()) {
         program.main.Notice = kNotBuilt; // a tool button leads here, too

@@ -1,6 +1,7 @@
 #include "shell/frm_splash.h"
 
 #include "base/guard.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "settings/settings.h"
@@ -92,8 +93,7 @@ void frmSplash::Form_Click(Program& program) {
 }
 
 void frmSplash::Form_KeyDown(Program& program, int keyCode) {
-    constexpr int kEnter = 13;
-    if (keyCode == kEnter) {
+    if (keyCode == keys::kEnter) {
         Form_Click(program);
     }
 }

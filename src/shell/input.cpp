@@ -34,7 +34,7 @@ bool IsText(const FieldRef& field) {
 
 /// Fields that take figures only.
 bool IsFiltered(const FieldRef& field) {
-    return !IsText(field) || field.Page == PageId::frmP6 || geometry::IsAmount(field.Page, field.Index);
+    return !IsText(field) || IsFinalPage(field.Page) || geometry::IsAmount(field.Page, field.Index);
 }
 
 /// The field that takes keys; none while its page is only shown as ink.

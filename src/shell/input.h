@@ -1,7 +1,7 @@
 #pragma once
 
-#include "editing/keys.h"
 #include "format/label_keys.h"
+#include "program/keys.h"
 #include "program/page_records.h"
 
 #include <optional>

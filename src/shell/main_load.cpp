@@ -18,6 +18,7 @@
 #include "shell/closing.h"
 #include "shell/command_table.h"
 #include "shell/load_fonts.h"
+#include "shell/main_controls.h"
 #include "shell/tool_buttons.h"
 #include "terms/list_files.h"
 #include "terms/term_list.h"
@@ -28,10 +29,9 @@ namespace {
 
 void DisableAtStart(Program& program) {
     for (const CommandId id :
-         {CommandId::mnuOptCopyToBusinessAddressBook, CommandId::mnuOptCopyToPersonalAddressBook,
-          CommandId::mnuAdminConvert, CommandId::mnuAdminPrintAll, CommandId::mnuAdminRecalc,
+         {CommandId::mnuAdminConvert, CommandId::mnuAdminPrintAll, CommandId::mnuAdminRecalc,
           CommandId::mnuEditTextDeselect, CommandId::mnuEditTextMoveDown, CommandId::mnuEditTextMoveUp,
-          CommandId::mnuEditTextPaste, CommandId::mnuEditTextUndo, CommandId::mnuFileRestoreFromBackup}) {
+          CommandId::mnuEditTextPaste, CommandId::mnuEditTextUndo}) {
         program.main[id].Enabled = false;
     }
 }
@@ -92,7 +92,7 @@ void LoadSteps(Program& program) {
          {&program.main.cmdPreview, &program.main.cmdReCalc, &program.main.cmdTaxRate}) {
         button->Enabled = true;
     }
-    program.main.lblDir.Caption = "Current Folder = " + modFolders::DataFolder(program);
+    program.document.FolderOnShow = modFolders::DataFolder(program);
     for (const PageId page : {PageId::frmP2, PageId::frmP3, PageId::frmP4, PageId::frmP5, PageId::frmP1}) {
         modPages::EnsureRowFields(program, page);
     }
@@ -129,6 +129,7 @@ void MDIForm_Load(Program& program) {
         modClosing::EndRun(program);
         return;
     }
+    WorkOutControls(program);
     program.main.Loaded = true;
     modRecovery::OfferWhatWasFound(program);
 }

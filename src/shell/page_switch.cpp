@@ -7,6 +7,7 @@
 #include "pages/page_geometry.h"
 #include "pages/page_show.h"
 #include "program/errors.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "program/windows.h"
 
@@ -18,8 +19,6 @@ namespace modScroll {
 namespace {
 
 constexpr int kPageHeight = 15840;
-constexpr int kPageUp = 33;
-constexpr int kPageDown = 34;
 constexpr int kWideScreen = 1024;
 
 /// The floating windows go with the main window, and come back with a large one.
@@ -159,9 +158,9 @@ void PageKey(Program& program, int keyCode) {
     const int position = bar.Value;
     constexpr int kBottom = kPageHeight + 30;
     // A whole window up, half a window down.
-    if (keyCode == kPageUp) {
+    if (keyCode == keys::kPageUp) {
         SetScroll(program, position <= window ? 0 : position - window);
-    } else if (keyCode == kPageDown) {
+    } else if (keyCode == keys::kPageDown) {
         SetScroll(program, 2 * window + position >= kBottom ? kBottom - window : position + window / 2);
     }
 }

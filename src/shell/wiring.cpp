@@ -7,7 +7,6 @@
 #include "editing/fresh_figures.h"
 #include "editing/leaving.h"
 #include "editing/selection.h"
-#include "editing/text_menu.h"
 #include "editing/typing.h"
 #include "format/format_file.h"
 #include "format/format_save.h"
@@ -63,7 +62,6 @@ void Wire(Program& program) {
     hooks.LostFocus = LostFocus;
     hooks.UpdatePageButtons = modScroll::UpdatePageButtons;
     hooks.PageKey = modScroll::PageKey;
-    hooks.UpdateTextMenu = modBlocks::UpdateTextMenu;
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
     hooks.ReadTextFile = modExport::ReadTextFile;
     hooks.MoveBlock = modBlocks::MoveBlockByKey;

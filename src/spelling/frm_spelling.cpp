@@ -1,7 +1,6 @@
 #include "spelling/frm_spelling.h"
 
 #include "program/program.h"
-#include "spelling/spelling_service.h"
 
 #include <algorithm>
 
@@ -16,7 +15,7 @@ void frmSpelling::Form_Load(Program& program) {
 }
 
 void frmSpelling::Form_Cancel(Program&) {
-    service_.Cancel();
+    decisions_.Cancel();
 }
 
 void frmSpelling::lstSuggestions_Click(Program&, int index) {
@@ -29,34 +28,34 @@ void frmSpelling::lstSuggestions_Click(Program&, int index) {
 void frmSpelling::cmbLanguage_Click(Program&, int index) {
     if (index >= 0 && static_cast<std::size_t>(index) < cmbLanguage.Items.size()) {
         cmbLanguage.ListIndex = index;
-        service_.UseLanguage(cmbLanguage.Items[static_cast<std::size_t>(index)]);
+        decisions_.UseLanguage(cmbLanguage.Items[static_cast<std::size_t>(index)]);
     }
 }
 
 void frmSpelling::cmdChange_Click(Program&) {
-    service_.Change(txtChangeTo.Text, SpellingService::Extent::Once);
+    decisions_.Change(txtChangeTo.Text, WordDecisions::Extent::Once);
 }
 
 void frmSpelling::cmdChangeAll_Click(Program&) {
-    service_.Change(txtChangeTo.Text, SpellingService::Extent::All);
+    decisions_.Change(txtChangeTo.Text, WordDecisions::Extent::All);
 }
 
 void frmSpelling::cmdIgnore_Click(Program&) {
-    service_.Ignore(SpellingService::Extent::Once);
+    decisions_.Ignore(WordDecisions::Extent::Once);
 }
 
 void frmSpelling::cmdIgnoreAll_Click(Program&) {
-    service_.Ignore(SpellingService::Extent::All);
+    decisions_.Ignore(WordDecisions::Extent::All);
 }
 
 void frmSpelling::cmdAdd_Click(Program&) {
-    service_.AddWord();
+    decisions_.AddWord();
 }
 
 void frmSpelling::cmdUndo_Click(Program&) {
-    service_.UndoLast();
+    decisions_.UndoLast();
 }
 
 void frmSpelling::cmdCancel_Click(Program&) {
-    service_.Cancel();
+    decisions_.Cancel();
 }

@@ -2,14 +2,13 @@
 
 #include "program/controls.h"
 #include "program/window.h"
-
-class SpellingService;
+#include "spelling/word_decisions.h"
 
 /// "Check Spelling": the text of an area with a word marked that no dictionary knows, and what to do about
 /// it.
 class frmSpelling : public Window {
 public:
-    explicit frmSpelling(SpellingService& service) : service_(service) {}
+    explicit frmSpelling(WordDecisions& decisions) : decisions_(decisions) {}
 
     StripLabel lblArea; ///< page and number of the area
     TextBox txtText;    ///< the text; the word is its selection. Read only.
@@ -45,5 +44,5 @@ public:
     void cmdCancel_Click(Program& program);
 
 private:
-    SpellingService& service_;
+    WordDecisions& decisions_;
 };

@@ -2,6 +2,7 @@
 
 #include "platform/word_service.h"
 #include "spelling/personal_dictionary.h"
+#include "spelling/word_decisions.h"
 #include "spelling/words.h"
 
 #include <cstddef>
@@ -12,13 +13,11 @@
 #include <string_view>
 #include <vector>
 
-class frmSpelling;
 struct Program;
 
 /// Checks texts with the machine's dictionaries and with the person, in the window frmSpelling, which stands
-/// from the first unknown word to `AppClose`. What the window's handlers call may end the walk, and with it
-/// this object: each is the last thing that its caller does.
-class SpellingService : public WordService {
+/// from the first unknown word to `AppClose`.
+class SpellingService : public WordService, public WordDecisions {
 public:
     explicit SpellingService(Program& program);
 
@@ -32,15 +31,12 @@ public:
     void AppClose() override;
     [[nodiscard]] WrittenDocument Written() const override { return {}; }
 
-    enum class Extent { Once, All };
-    void Change(std::string_view replacement, Extent extent);
-    void Ignore(Extent extent);
-    void AddWord();
-    /// Takes the last decision back, with the changes that followed from it by themselves; in an area that
-    /// was done already the area is put back first.
-    void UndoLast();
-    void Cancel();
-    void UseLanguage(std::string_view language);
+    void Change(std::string_view replacement, Extent extent) override;
+    void Ignore(Extent extent) override;
+    void AddWord() override;
+    void UndoLast() override;
+    void Cancel() override;
+    void UseLanguage(std::string_view language) override;
 
 private:
     enum class Step { Change, ChangeAll, Ignore, IgnoreAll, Add, ByItself };

@@ -1,10 +1,10 @@
 #include "terms/completion.h"
 
 #include "base/text.h"
-#include "editing/keys.h"
 #include "editing/standing_completion.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "terms/placing.h"
 #include "terms/term_line.h"
@@ -16,11 +16,11 @@ namespace modTerms {
 namespace {
 
 WordState& WordOf(Program& program, PageId page) {
-    return program.editing.Words[static_cast<std::size_t>(IndexOf(page))];
+    return program.editing.Words[page];
 }
 
 bool& Active(Program& program, PageId page) {
-    return program.editing.ACActive[static_cast<std::size_t>(IndexOf(page))];
+    return program.editing.ACActive[page];
 }
 
 bool Excluded(int keyCode) {

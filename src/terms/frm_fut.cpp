@@ -1,8 +1,8 @@
 #include "terms/frm_fut.h"
 
 #include "base/numbers.h"
-#include "editing/keys.h"
 #include "pages/fields.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "settings/settings.h"

@@ -47,7 +47,7 @@ TEST(Merge, NamesAnUnsavedProposalAsTypingDoes) {
     EXPECT_EQ(run.program.document.FileName, "Ann Ash.hef");
     EXPECT_EQ(run.program.document.ClientCaption, "Proposal for Ann Ash");
     EXPECT_EQ(run.program.editing.LastKeyChar, "");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][2], "Ann Ash");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][2], "Ann Ash");
 }
 
 TEST(Merge, WithoutASecondAddressLineHasNoDash) {

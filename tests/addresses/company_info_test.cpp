@@ -61,11 +61,11 @@ TEST(CompanyInfo, RewordsTheOpenFormatAndSaysThatItsFileIsBehind) {
     CompanyRun run;
     FormatRecords& format = run.program.format;
     format.FormatOpen = true;
-    LabelChangeRecord& name = format.FormatLabelChanges[0][0];
+    LabelChangeRecord& name = format.FormatLabelChanges[PageId::frmP1][0];
     name.Changed = true;
     name.Saved = true;
     name.Caption = "Acme Events";
-    LabelChangeRecord& other = format.FormatLabelChanges[0][1];
+    LabelChangeRecord& other = format.FormatLabelChanges[PageId::frmP1][1];
     other.Changed = true;
     other.Saved = true;
     other.Caption = "By hand";

@@ -1,9 +1,9 @@
 #include "calculator/equation.h"
 #include "calculator/frm_calc.h"
 
-#include "editing/keys.h"
+#include "program/keys.h"
 #include "program/windows.h"
-#include "shell/command_run.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "terms/placing.h"
 
@@ -16,7 +16,7 @@
 namespace {
 
 struct CalcRun : RunningProgram {
-    CalcRun() { commands::Run(program, CommandId::mnuOptCalc); }
+    CalcRun() { person::Choose(program, CommandId::mnuOptCalc); }
     [[nodiscard]] frmCalc& Calc() { return *static_cast<frmCalc*>(modWindows::Find(program, "frmCalc")); }
     /// Keys into the line, or to the result while that has the keyboard.
     void Type(std::string_view keys) {
@@ -311,7 +311,7 @@ TEST(Calculator, OpensAtTheStartWhereTheSettingsSaySoAndOnce) {
     Window* window = modWindows::Find(run.program, "frmCalc");
     ASSERT_NE(window, nullptr);
     EXPECT_EQ(window->FrontCalls, 0) << "the page keeps the keyboard";
-    commands::Run(run.program, CommandId::mnuOptCalc);
+    person::Choose(run.program, CommandId::mnuOptCalc);
     EXPECT_EQ(modWindows::Find(run.program, "frmCalc"), window);
     EXPECT_EQ(window->FrontCalls, 1);
     window->Form_Cancel(run.program);

@@ -146,19 +146,19 @@ TEST(Contract, ExportRecordsAllLabelsForTheProposalAndForAFormat) {
     window.Choose(run.program, "mnuFileExportAndExit");
     const FormatRecords& format = run.program.format;
     for (std::size_t label = 13; label <= 47; ++label) {
-        const LabelChangeRecord& kept = format.PropLabelChanges[5][label];
+        const LabelChangeRecord& kept = format.PropLabelChanges[PageId::frmP6][label];
         EXPECT_TRUE(kept.Changed);
         EXPECT_EQ(kept.Caption, label == 13 ? "Only line" : "");
         EXPECT_EQ(kept.FontSize, 8);
         EXPECT_TRUE(kept.FontBold);
         EXPECT_EQ(kept.Top, run.Label(PageId::frmP6, static_cast<int>(label)).Top);
-        EXPECT_TRUE(format.FormatLabelChanges[5][label].Changed);
-        EXPECT_FALSE(format.FormatLabelChanges[5][label].Saved);
-        EXPECT_TRUE(format.LabelSavedState[5][label].Changed);
-        EXPECT_EQ(format.LabelSavedState[5][label].Caption, kept.Caption);
+        EXPECT_TRUE(format.FormatLabelChanges[PageId::frmP6][label].Changed);
+        EXPECT_FALSE(format.FormatLabelChanges[PageId::frmP6][label].Saved);
+        EXPECT_TRUE(format.LabelSavedState[PageId::frmP6][label].Changed);
+        EXPECT_EQ(format.LabelSavedState[PageId::frmP6][label].Caption, kept.Caption);
         EXPECT_TRUE(run.Label(PageId::frmP6_1, static_cast<int>(label)).FontBold);
     }
-    EXPECT_FALSE(format.PropLabelChanges[5][48].Changed);
+    EXPECT_FALSE(format.PropLabelChanges[PageId::frmP6][48].Changed);
 }
 
 TEST(Contract, ALargerFontCanPassTheLimitWithoutAWordBeingChanged) {

@@ -56,7 +56,7 @@ TEST(Footnotes, SavingAnEmptyTextLeavesAFileOfNothingAndThePictureOfOne) {
     run.Open().Choose(run.program, "mnuFileSave");
     EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hxt"));
     EXPECT_EQ(run.File(), "");
-    EXPECT_EQ(run.program.main.imgFootNotes.Picture, 1);
+    EXPECT_EQ(run.Main().imgFootNotes.Picture, 1);
 }
 
 TEST(Footnotes, WhatWasTypedIsSavedWithCrLf) {
@@ -128,7 +128,7 @@ TEST(Footnotes, ASaveThatFailsKeepsTheTextAndTheChange) {
     window.Form_Cancel(run.program);
     EXPECT_FALSE(window.Closing);
     EXPECT_EQ(window.txtNotes, "x");
-    EXPECT_EQ(run.program.main.imgFootNotes.Picture, 0);
+    EXPECT_EQ(run.Main().imgFootNotes.Picture, 0);
 }
 
 TEST(Footnotes, AFileThatAnotherProgramHasChangedIsAskedAbout) {
@@ -198,7 +198,7 @@ TEST(Footnotes, LieInTheProposalsOwnFolder) {
     run.folder.Write("Elsewhere/Jane Roe.hxt", "elsewhere");
     run.program.document.FilePath = run.folder / "Elsewhere/";
     static_cast<void>(modFile::OpenEventFile(run.program, "Jane Roe.hef"));
-    EXPECT_EQ(run.program.main.imgFootNotes.Picture, 1);
+    EXPECT_EQ(run.Main().imgFootNotes.Picture, 1);
     frmNotes& window = run.Open();
     EXPECT_EQ(window.txtNotes, "elsewhere");
     window.txtNotes_Change(run.program, "still there");

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 
@@ -445,6 +446,24 @@ TEST(Deposits, AProposalWithoutAFileStartsEmptyAndIsSavedFirst) {
     EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "5");
 }
 
+TEST(Deposits, AFileIsFoundWhateverTheCaseOfItsName) {
+    Deposited run;
+    run.folder.Write("Proposals/JANE ROE.DEP", "Jane Roe\r\na\t\t$ 500.00");
+    frmDeposits& window = run.Open();
+    EXPECT_EQ(window.lst.Items.size(), 1U);
+    window.Choose(run.program, "mnuFileSave"); // its own name is the exact one
+    EXPECT_EQ(run.File(), "Jane Roe\r\na\t\t$ 500.00");
+    EXPECT_TRUE(run.folder.Has("Proposals/JANE ROE.DEP"));
+}
+
+TEST(Deposits, AFolderOrALinkToNowhereOfThatNameIsNoFile) {
+    Deposited run;
+    fs::create_symlink("nowhere", run.folder / "Proposals/Jane Roe.dep");
+    frmDeposits& window = run.Open();
+    EXPECT_TRUE(window.lst.Items.empty());
+    EXPECT_FALSE(window.Locked);
+}
+
 TEST(Deposits, TheCommandBringsTheOpenWindowToTheFront) {
     Deposited run;
     frmDeposits& window = run.Open();
@@ -453,7 +472,9 @@ TEST(Deposits, TheCommandBringsTheOpenWindowToTheFront) {
     EXPECT_EQ(&run.Open(), &window);
     EXPECT_EQ(window.FrontCalls, 1);
     EXPECT_EQ(window.lst.Items.size(), 1U);
-    EXPECT_EQ(run.program.windows.Open.size(), 1U);
+    EXPECT_EQ(std::count_if(run.program.windows.Open.begin(), run.program.windows.Open.end(),
+                            [](const auto& open) { return open->Name() == "frmDeposits"; }),
+              1);
 }
 
 TEST(Deposits, LeavingTheProposalAsksForThemFirstSoThatTheDepositReachesItsFile) {

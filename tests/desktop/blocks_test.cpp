@@ -244,8 +244,8 @@ TEST(BlocksOnScreen, MoveByTheArrowKeys) {
     EXPECT_EQ(run.Shown(37), QStringLiteral("12.00"));
     EXPECT_EQ(run.Shown(3), QString());
     EXPECT_TRUE(run.Blue(4) && run.Blue(37));
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][4], "Chairs");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][3], "");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][4], "Chairs");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][3], "");
     EXPECT_EQ(QApplication::focusWidget(), &run.Field(Text(20)));
     run.recording.questions.ExpectBox(
         {"Cannot move contents down. Text exists in destination.", Buttons::Ok, ""}, Answer::Ok);
@@ -270,9 +270,9 @@ TEST(BlocksOnScreen, MoveWhileTheArrowIsHeldAndAreStoredWhenItIsLetGo) {
         QApplication::sendEvent(keyboard, &press);
     }
     EXPECT_EQ(run.Shown(7), QStringLiteral("Chairs"));
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][7], "");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][7], "");
     QTest::keyRelease(keyboard, Qt::Key_Down);
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][7], "Chairs");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][7], "Chairs");
 }
 
 TEST(BlocksOnScreen, TypingIsDeadUntilTheSelectionIsCleared) {

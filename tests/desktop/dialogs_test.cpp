@@ -398,7 +398,6 @@ TEST(SplashWindow, FillsItsSheetAndAClickBringsTheMainWindow) {
     Program program(surroundings);
     program.folders.InstallFolder = folder.Path();
     Wire(program);
-    recording.questions.Expect("No Events Found");
     FrmMainView window(program, measure);
     events.Follow = [&] { window.Follow(); };
     ASSERT_EQ(modStart::Main(program), modStart::StartResult::Running);
@@ -463,6 +462,50 @@ TEST(Boxes, ShowTheirWordsAndAnswerKeys) {
     EXPECT_EQ(questions.MsgBox("Save?", Buttons::YesNoCancel, ""), Answer::No);
 }
 
+TEST(Boxes, PlainLettersPressNoButtonAndMnemonicsNeedAlt) {
+    QtQuestions questions;
+    AtTheBox([](QWidget* widget) {
+        QTest::keyClicks(widget->focusWidget() != nullptr ? widget->focusWidget() : widget,
+                         QStringLiteral("yYnN"));
+        QTest::qWait(300); // a press by letter would come with an animation
+        EXPECT_TRUE(widget->isVisible());
+        QTest::keyClick(widget, Qt::Key_N, Qt::AltModifier);
+    });
+    EXPECT_EQ(questions.MsgBox("Save?", Buttons::YesNoCancel, ""), Answer::No);
+}
+
+TEST(Boxes, TheGivenDefaultIsPressedByReturnAndWhatIsLostIsNamed) {
+    QtQuestions questions;
+    AtTheBox([](QWidget* widget) {
+        auto* box = qobject_cast<QMessageBox*>(widget);
+        EXPECT_EQ(box->informativeText(), QStringLiteral("Ann.hef, Ann.dep"));
+        EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::No));
+        QTest::keyClick(widget, Qt::Key_Return);
+    });
+    EXPECT_EQ(
+        questions.MsgBox("Delete?", Buttons::YesNo, "", {.Default = Answer::No, .Lost = "Ann.hef, Ann.dep"}),
+        Answer::No);
+}
+
+TEST(Boxes, OneThatComesUnaskedTakesNoKeyInItsFirstHalfSecond) {
+    QtQuestions questions;
+    AtTheBox([](QWidget* widget) {
+        QWidget* button = widget->focusWidget() != nullptr ? widget->focusWidget() : widget;
+        QTest::keyClick(button, Qt::Key_Space);
+        QTest::keyClick(button, Qt::Key_Return);
+        QTest::keyClick(widget, Qt::Key_Escape);
+        QTest::keyClick(widget, Qt::Key_Y, Qt::AltModifier);
+        QTest::qWait(200);
+        QTest::keyClick(button, Qt::Key_Return);
+        EXPECT_TRUE(widget->isVisible());
+        QTest::qWait(400);
+        EXPECT_TRUE(widget->isVisible());
+        QTest::keyClick(button, Qt::Key_Return);
+    });
+    EXPECT_EQ(questions.MsgBox("Bring them back?", Buttons::YesNo, "", {.How = Manner::Came::Unasked}),
+              Answer::Yes);
+}
+
 TEST(Boxes, AnInputBoxGivesWhatWasTypedAndNothingOnEscape) {
     QtQuestions questions;
     AtTheBox([](QWidget* widget) {
@@ -513,7 +556,7 @@ TEST(MainWindow, ANarrowWindowShowsEveryButtonWithItsWholeCaption) {
     constexpr int kNarrow = 780;
     constexpr int kHeight = 560;
     for (const int width : {kNarrow, 1200, kNarrow}) {
-        run.program.main.lblTotal.Caption = "Running Sub-Total = $ 1,234,567.89";
+        run.program.totals.RunningSubTotal = "$ 1,234,567.89";
         run.window->showNormal();
         run.window->resize(width, kHeight);
         run.window->AfterEvent();

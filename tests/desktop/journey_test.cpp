@@ -263,7 +263,7 @@ TEST(Typing, AnInputMethodPassesTheSameFilter) {
     commit.setCommitString(QStringLiteral("1a2"));
     QApplication::sendEvent(QApplication::focusWidget(), &commit);
     EXPECT_EQ(run.Field(Text(PageId::frmP1, 20)).text(), QStringLiteral("12"));
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 12.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 12.0F);
 }
 
 TEST(Typing, BackspaceSelectionAndUndoReachTheModel) {

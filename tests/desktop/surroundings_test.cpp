@@ -51,6 +51,17 @@ TEST(Instance, ASecondClaimIsRefusedWhileTheFirstStands) {
     EXPECT_EQ(other.Claim("/opt/other/"), SingleInstance::Result::Claimed);
 }
 
+TEST(Instance, AFolderReachedByTwoNamesIsOne) {
+    const Locks locks;
+    const ScratchFolder data;
+    data.MakeFolder("real");
+    std::filesystem::create_symlink(data / "real", data / "link");
+    QtSingleInstance first;
+    EXPECT_EQ(first.Claim(data / "real/"), SingleInstance::Result::Claimed);
+    QtSingleInstance second;
+    EXPECT_EQ(second.Claim(data / "link/"), SingleInstance::Result::Taken);
+}
+
 TEST(Instance, ALockFileThatNamesNobodyKeepsNobodyOut) {
     for (const char* left : {"", "7", "torn\n"}) {
         const Locks locks;

@@ -93,7 +93,7 @@ TEST(WindowCompletion, OneUndoTakesItBackToTheTypedWord) {
     run.Press(Qt::Key_Right);
     run.Press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(run.Line().text(), QStringLiteral("cha"));
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "cha");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "cha");
     run.Press(Qt::Key_Shift);
     EXPECT_EQ(run.Line().text(), QStringLiteral("cha")) << "it comes back with a typed key only";
     run.Type(QStringLiteral("i"));
@@ -101,7 +101,7 @@ TEST(WindowCompletion, OneUndoTakesItBackToTheTypedWord) {
     run.Press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(run.Line().text(), QStringLiteral("chai")) << "also while it still stands";
     run.Click(kSecond, 1);
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "chai");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "chai");
 }
 
 TEST(WindowCompletion, NothingCompletesWhileAnInputMethodComposes) {

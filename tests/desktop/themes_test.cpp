@@ -126,7 +126,7 @@ TEST(DarkTheme, ARedRecalculateButtonCanBeRead) {
     for (const bool darkly : {false, true}) {
         const std::unique_ptr<DarkDesktop> dark = darkly ? std::make_unique<DarkDesktop>() : nullptr;
         DesktopRun run;
-        run.program.main.cmdReCalc.BackColor = colors::kOverLimit;
+        run.program.totals.TotalsStale = true;
         run.window->AfterEvent();
         QWidget& button = *run.Child("cmdReCalc");
         const QImage image = Look(button, darkly ? "dark_red" : "light_red");

@@ -144,7 +144,7 @@ TEST(WindowPaste, IntoAnAmountIsTakenWholeAndNumeric) {
     ExpectCursorFollows(run);
     run.Press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(TextOf(run, Text(kSecond, 33)), "");
-    EXPECT_EQ(run.program.totals.AmountTable[33][1], 0.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[33][PageId::frmP2], 0.0F);
     run.Press(Qt::Key_V, Qt::ShiftModifier);
     EXPECT_EQ(TextOf(run, Text(kSecond, 33)), "") << "a letter";
     run.Press(Qt::Key_Insert, Qt::ShiftModifier);
@@ -170,7 +170,7 @@ TEST(WindowPaste, OfLinesBecomesOneLineAndWhatHasNoByteIsTold) {
     run.Press(Qt::Key_Z, Qt::ControlModifier);
     run.Press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(TextOf(run, Text(kSecond, 0)), "") << "pastes can be undone";
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "");
 }
 
 TEST(WindowPaste, TwiceByTheMiddleButtonTogglesNoColumns) {
@@ -204,7 +204,7 @@ TEST(WindowPaste, ByTheMiddleButtonGoesInWhereItIsPressed) {
     TextAreaView& line = run.Field(Text(kSecond, 0));
     QTest::mouseClick(&line, Qt::MiddleButton, Qt::NoModifier, QPoint(0, line.height() / 2));
     EXPECT_EQ(TextOf(run, Text(kSecond, 0)), "12 abc ");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "12 abc");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "12 abc");
     ExpectCursorFollows(run);
     TextAreaView& amount = run.Field(Text(kSecond, 33));
     QTest::mouseClick(&amount, Qt::MiddleButton, Qt::NoModifier, QPoint(2, 4));
@@ -228,7 +228,7 @@ TEST(WindowDrop, PassesTheSameFilterAndPipeline) {
     EXPECT_EQ(run.program.main.Focus, Text(kSecond, 33));
     Drop(run, Text(kSecond, 33), QStringLiteral("1,250"));
     EXPECT_EQ(TextOf(run, Text(kSecond, 33)), "1,250");
-    EXPECT_EQ(run.program.totals.AmountTable[33][1], 1250.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[33][PageId::frmP2], 1250.0F);
     run.ChoosePage(5);
     Drop(run, Text(kFinal, 3), QStringLiteral("5"));
     EXPECT_NE(TextOf(run, Text(kFinal, 3)), "5") << "the total is not typed";
@@ -256,7 +256,7 @@ TEST(WindowDrag, MovesTheMarkedTextWithinItsArea) {
     EXPECT_EQ(TextOf(run, Text(kSecond, 0)), "tables chairs") << "not before it is let go";
     QTest::mouseRelease(&view, Qt::LeftButton, Qt::NoModifier, QPoint(view.width() - 3, y));
     EXPECT_EQ(TextOf(run, Text(kSecond, 0)), "chairstables ");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "chairstables");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "chairstables");
     EXPECT_EQ(view.selectedText(), QStringLiteral("tables "));
     ExpectCursorFollows(run);
     run.Press(Qt::Key_Z, Qt::ControlModifier);
@@ -290,10 +290,10 @@ TEST(WindowUndo, OfTypingGoesThroughThePipeline) {
     run.Type(QStringLiteral("Elm"));
     run.Press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(TextOf(run, Text(kFirst, 3)), "");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][3], "");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][3], "");
     run.Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(TextOf(run, Text(kFirst, 3)), "Elm");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][3], "Elm");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][3], "Elm");
     run.Press(Qt::Key_A, Qt::ControlModifier);
     run.Press(Qt::Key_X, Qt::ControlModifier);
     EXPECT_EQ(TextOf(run, Text(kFirst, 3)), "");
@@ -308,7 +308,7 @@ TEST(WindowInputMethod, CommitsThroughTheFilter) {
     EXPECT_EQ(TextOf(run, Text(kFirst, 3)), "") << "nothing is entered yet";
     Commit(QStringLiteral("\u00E9"));
     EXPECT_EQ(TextOf(run, Text(kFirst, 3)), "\xE9");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][3], "\xE9");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][3], "\xE9");
     Commit(QStringLiteral("a\u2603b"));
     EXPECT_EQ(TextOf(run, Text(kFirst, 3)), "\xE9"
                                             "ab");

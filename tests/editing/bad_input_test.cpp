@@ -1,6 +1,6 @@
 #include "pages/fields.h"
 #include "pages/row_fields.h"
-#include "shell/input.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -46,9 +46,7 @@ TEST_P(BadFigures, AreTakenWholeOrNotAtAll) {
         Typist typist(run.program);
         typist.Click(page, index);
         typist.PasteByKey(figure.Text, run.surroundings.clipboard.Text);
-        EXPECT_EQ(run.program.totals
-                      .AmountTable[static_cast<std::size_t>(index)][static_cast<std::size_t>(IndexOf(page))],
-                  figure.Value);
+        EXPECT_EQ(run.program.totals.AmountTable[static_cast<std::size_t>(index)][page], figure.Value);
         EXPECT_EQ(run.TextOf(page, index).empty(), !figure.Pasted);
         typist.Click(page, page == PageId::frmP1 ? 3 : 0);
         EXPECT_EQ(run.TextOf(page, index), figure.Left);
@@ -100,7 +98,7 @@ TEST(BadFigures, AProductBeyondASingleReachesNoTable) {
     modPages::PlaceColumns(run.program, kSecond, 0, modPages::Columns::On);
     modFields::SetText(run.program, {kSecond, FieldKind::txtQty, 0}, "3e38");
     modFields::SetText(run.program, {kSecond, FieldKind::txtAmt, 0}, "3e38");
-    EXPECT_EQ(run.program.totals.AmountTable[33][1], 0.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[33][PageId::frmP2], 0.0F);
     ExpectFinite(run.program, "product");
 }
 
@@ -173,10 +171,10 @@ TEST(BadText, CharactersWithoutAByteAreLeftOutAndThePersonIsTold) {
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kSecond, 0);
-    modInput::Insert(run.program, {kSecond, FieldKind::txt, 0}, "ab", 1, modInput::By::Mouse);
+    person::Insert(run.program, {kSecond, FieldKind::txt, 0}, "ab", 1, person::By::Mouse);
     EXPECT_EQ(run.TextOf(kSecond, 0), "ab");
     EXPECT_EQ(run.program.main.Notice, "One character was not taken: it cannot be kept in a proposal.");
-    modInput::Insert(run.program, {kSecond, FieldKind::txt, 0}, "", 7, modInput::By::Key);
+    person::Insert(run.program, {kSecond, FieldKind::txt, 0}, "", 7, person::By::Key);
     EXPECT_EQ(run.program.main.Notice, "7 characters were not taken: they cannot be kept in a proposal.");
     typist.Type("c");
     EXPECT_EQ(run.program.main.Notice, "") << "told until the next key";
@@ -188,14 +186,14 @@ TEST(BadText, TheMarksOfAPricedLineCanBeTyped) {
     typist.Click(kSecond, 0);
     typist.Type("\xA5\xA5\xA7");
     EXPECT_EQ(run.TextOf(kSecond, 0), "\xA5\xA5\xA7");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "\xA5\xA5\xA7");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "\xA5\xA5\xA7");
 }
 
 TEST(Locked, AreasTakeNothing) {
     RunningProgram run;
     run.program.format.FormatOpen = true;
-    run.program.format.FormatTextChanges[1][0].FormatText = true;
-    run.program.format.FormatTextChanges[1][33].FormatText = true;
+    run.program.format.FormatTextChanges[PageId::frmP2][0].FormatText = true;
+    run.program.format.FormatTextChanges[PageId::frmP2][33].FormatText = true;
     Typist typist(run.program);
     for (const FieldRef& field :
          {FieldRef{kSecond, FieldKind::txt, 0}, FieldRef{kSecond, FieldKind::txt, 33},

@@ -4,8 +4,7 @@
 #include "editing/selection.h"
 #include "pages/fields.h"
 #include "pages/row_fields.h"
-#include "shell/command_run.h"
-#include "shell/page_switch.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -25,7 +24,7 @@ public:
 
     static FieldRef Text(PageId page, int index) { return {page, FieldKind::txt, index}; }
 
-    void Front(PageId page) { modScroll::UpdatePageButtons(program, IndexOf(page)); }
+    void Front(PageId page) { person::TurnTo(program, IndexOf(page)); }
 
     void Drag(PageId page, float x1, float y1, float x2, float y2) {
         modBlocks::Form_MouseDown(program, page, 1, x1, y1);
@@ -44,7 +43,7 @@ public:
         Drag(page, 800, Area(page, first).Top - 20, right, Area(page, last).Top + 275);
     }
 
-    void Choose(CommandId id) { commands::Run(program, id); }
+    void Choose(CommandId id) { person::Choose(program, id); }
 
     void Put(PageId page, int index, const std::string& text) {
         modFields::SetText(program, Text(page, index), text);
@@ -75,8 +74,7 @@ public:
         return blue;
     }
     [[nodiscard]] const std::string& Stored(PageId page, int index) {
-        return program.document
-            .CurrentTextBuf[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)];
+        return program.document.CurrentTextBuf[page][static_cast<std::size_t>(index)];
     }
     [[nodiscard]] bool Enabled(CommandId id) { return program.main[id].Enabled; }
     void ExpectTold(std::string words) {

@@ -1,9 +1,7 @@
 #include "editing/block_actions.h"
 #include "editing/block_moves.h"
 #include "pages/page_marks.h"
-#include "shell/closing.h"
-#include "shell/frm_main.h"
-#include "shell/input.h"
+#include "support/person.h"
 
 namespace {
 
@@ -83,14 +81,14 @@ TEST(Move, ByMenuBringsStoreTablesAndTotalsAlongAtOnce) {
                                       "Chair covers\xA7"
                                       "19.99");
     EXPECT_EQ(run.Stored(kSecond, 5), "Linen");
-    EXPECT_EQ(run.program.totals.AmountTable[36][1], 0.0F);
-    EXPECT_EQ(run.program.totals.AmountTable[37][1], 59.97F);
-    EXPECT_EQ(run.program.totals.TaxableTable[37][1], 0.0F);
-    EXPECT_EQ(run.program.totals.PageSum[1], 59.97F + 40.0F);
-    EXPECT_EQ(run.program.totals.PageTaxable[1], 40.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[36][PageId::frmP2], 0.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[37][PageId::frmP2], 59.97F);
+    EXPECT_EQ(run.program.totals.TaxableTable[37][PageId::frmP2], 0.0F);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 59.97F + 40.0F);
+    EXPECT_EQ(run.program.totals.PageTaxable[PageId::frmP2], 40.0F);
     EXPECT_FALSE(run.Label(kSecond, 4).Visible) << "the currency sign of amount 36";
     EXPECT_TRUE(run.Label(kSecond, 6).Visible);
-    const auto& props = run.program.format.PropTextChanges[1];
+    const auto& props = run.program.format.PropTextChanges[PageId::frmP2];
     EXPECT_TRUE(props[37].TaxExempt);
     EXPECT_FALSE(props[36].TaxExempt);
     EXPECT_TRUE(props[5].FontBold);
@@ -278,15 +276,15 @@ TEST(Move, MakesEveryPricedRowsAmountItsProductAgain) {
     run.Band(kSecond, 3, 3);
     run.Choose(kDown);
     EXPECT_EQ(run.TextOf(kSecond, 43), "10.00");
-    EXPECT_EQ(run.program.totals.PageSum[1], 10.0F);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 10.0F);
 }
 
 TEST(Move, AnAreaThatReadsTestIsNotRunAgain) {
     BlockRun run;
     run.Put(kFirst, 3, "Test");
     run.Put(kFirst, 4, "Text");
-    run.program.document.CurrentTextBuf[0][3] = "stale";
-    run.program.document.CurrentTextBuf[0][4] = "stale";
+    run.program.document.CurrentTextBuf[PageId::frmP1][3] = "stale";
+    run.program.document.CurrentTextBuf[PageId::frmP1][4] = "stale";
     run.Put(kFirst, 12, "Row");
     run.Band(kFirst, 12, 12);
     run.Choose(kDown);
@@ -352,7 +350,7 @@ TEST(MoveByKey, WaitsWithTheHandlersUntilTheKeyIsLetGo) {
     EXPECT_TRUE(run.program.editing.MoveInProgress);
     EXPECT_EQ(run.Stored(kSecond, 3), "Row");
     EXPECT_EQ(run.program.main.Focus, BlockRun::Text(kSecond, 8)) << "the focus stays";
-    modInput::KeyUp(run.program, keys::kDown, 0, 0, 0);
+    person::KeyUp(run.program, keys::kDown, 0, 0, 0);
     EXPECT_FALSE(run.program.editing.MoveInProgress);
     EXPECT_EQ(run.Stored(kSecond, 3), "");
     EXPECT_EQ(run.Stored(kSecond, 4), "Row");
@@ -436,14 +434,14 @@ TEST(MoveByKey, IsFinishedByWhateverComesNext) {
     {
         BlockRun run;
         held(run);
-        frmMain(run.program).imgPage_Click(2);
+        person::ClickPageButton(run.program, 2);
         EXPECT_EQ(run.Stored(kSecond, 4), "Row") << "another page";
         EXPECT_EQ(run.program.editing.CurrentArea, 0) << "where a paste would go";
     }
     {
         BlockRun run;
         held(run);
-        modInput::NoTaxMarkClick(run.program, kSecond, 40);
+        person::NoTaxMarkClick(run.program, kSecond, 40);
         EXPECT_EQ(run.Stored(kSecond, 4), "Row") << "a click on a mark";
     }
     {
@@ -453,7 +451,7 @@ TEST(MoveByKey, IsFinishedByWhateverComesNext) {
         run.surroundings.questions.ExpectBox({"The file has been changed. Do you want to save it?",
                                               Buttons::YesNoCancel, "Text has been Changed"},
                                              Answer::Cancel);
-        EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program)) << "closing the window";
+        EXPECT_FALSE(person::MayClose(run.program)) << "closing the window";
         EXPECT_FALSE(run.program.editing.MoveInProgress) << "or amounts would be saved in their old rows";
     }
     for (const CommandId id : {CommandId::mnuEditTextCopy, CommandId::mnuEditTextCut,

@@ -1,6 +1,7 @@
 #include "editing/block_actions.h"
 #include "editing/blocks.h"
 #include "editing/columns.h"
+#include "editing/text_menu.h"
 #include "money/totals.h"
 #include "pages/page_marks.h"
 #include "pages/row_fields.h"
@@ -23,10 +24,10 @@ void PutTwoRows(BlockRun& run) {
     run.Put(kSecond, 4, "Linen");
     run.Put(kSecond, 37, "40.00");
     run.Area(kSecond, 4).FontBold = true;
-    run.program.format.PropTextChanges[1][4].FontBold = true;
+    run.program.format.PropTextChanges[PageId::frmP2][4].FontBold = true;
     modPages::SetNoTaxMark(run.program, kSecond, 36, modPages::Mark::Shown);
-    run.program.format.PropTextChanges[1][36].TaxExempt = true;
-    run.program.format.FormatTextChanges[1][36].TaxExempt = true;
+    run.program.format.PropTextChanges[PageId::frmP2][36].TaxExempt = true;
+    run.program.format.FormatTextChanges[PageId::frmP2][36].TaxExempt = true;
     modTotals::CalculateMyTotals(run.program, kSecond); // as on leaving the amounts
 }
 
@@ -38,7 +39,7 @@ const AreaContents kLinenAmount{"40.00", false, "", "", false, false};
 TEST(Contents, ReachBothTablesAndRunNoHandler) {
     BlockRun run;
     run.Put(kSecond, 41, "7");
-    run.program.main.cmdReCalc.BackColor = colors::kButtonFace;
+    run.program.totals.TotalsStale = false;
     modBlocks::PlaceContents(run.program, kSecond, 8, kCovers);
     modBlocks::PlaceContents(run.program, kSecond, 42, kCoversAmount);
     EXPECT_EQ(run.Contents(kSecond, 8), kCovers);
@@ -46,7 +47,7 @@ TEST(Contents, ReachBothTablesAndRunNoHandler) {
     EXPECT_EQ(run.Stored(kSecond, 8), "");
     EXPECT_EQ(run.Stored(kSecond, 42), "");
     EXPECT_EQ(run.TextOf(kSecond, 41), "7") << "no product";
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
     EXPECT_FALSE(run.program.editing.MoveInProgress);
     for (const auto* table : {&run.program.format.PropTextChanges, &run.program.format.FormatTextChanges}) {
         EXPECT_TRUE((*table)[1][8].QtyBox);
@@ -131,10 +132,10 @@ TEST(Delete, RunsTheTotals) {
     run.Put(kSecond, 40, "100");
     run.Band(kSecond, 3, 4, Amounts::With);
     run.Choose(CommandId::mnuEditTextDelete);
-    EXPECT_EQ(run.program.totals.AmountTable[36][1], 0.0F);
-    EXPECT_EQ(run.program.totals.PageSum[1], 100.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[36][PageId::frmP2], 0.0F);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 100.0F);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "100.00");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
 }
 
 TEST(Delete, WithoutAmountsLeavesTheAmountsAndTheirMarks) {
@@ -144,7 +145,7 @@ TEST(Delete, WithoutAmountsLeavesTheAmountsAndTheirMarks) {
     run.Choose(CommandId::mnuEditTextDelete);
     EXPECT_EQ(run.Contents(kSecond, 36), kCoversAmount);
     EXPECT_EQ(run.Contents(kSecond, 37), kLinenAmount);
-    EXPECT_EQ(run.program.totals.PageSum[1], 59.97F + 40.0F);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 59.97F + 40.0F);
 }
 
 TEST(Delete, TakesColumnsFromARowWithoutText) {
@@ -155,7 +156,7 @@ TEST(Delete, TakesColumnsFromARowWithoutText) {
     run.Band(kSecond, 3, 3);
     run.Choose(CommandId::mnuEditTextDelete);
     EXPECT_EQ(run.Stored(kSecond, 3), "");
-    EXPECT_FALSE(run.program.format.PropTextChanges[1][3].QtyBox);
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP2][3].QtyBox);
 }
 
 TEST(Delete, TakesAlsoWhatStandsBeyondAGap) {
@@ -177,7 +178,7 @@ TEST(Delete, OfBoldOrExemptCountsAsAChangedProperty) {
     PutTwoRows(run);
     run.Band(kSecond, 3, 5, Amounts::With);
     run.Choose(CommandId::mnuEditTextDelete);
-    const auto& props = run.program.format.PropTextChanges[1];
+    const auto& props = run.program.format.PropTextChanges[PageId::frmP2];
     EXPECT_TRUE(props[4].Dirty);
     EXPECT_TRUE(props[36].Dirty);
     EXPECT_FALSE(props[5].Dirty) << "nothing stood there";
@@ -227,7 +228,7 @@ TEST(Cut, HoldsTheAreasForAPasteAndTheModeGoesOn) {
     EXPECT_TRUE(run.Enabled(CommandId::mnuEditTextPaste));
     EXPECT_TRUE(run.Enabled(CommandId::mnuEditTextUndo));
     EXPECT_EQ(run.Block().MemoryLeft, (std::vector{kCovers, kLinen}));
-    EXPECT_EQ(run.program.totals.PageSum[1], 0.0F);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 0.0F);
     Typist(run.program).Click(kFirst, 10);
     run.Choose(CommandId::mnuEditTextPaste);
     EXPECT_EQ(run.Contents(kFirst, 10), kCovers);
@@ -273,10 +274,10 @@ TEST(Undo, PutsEverythingBackWhereItWas) {
                                       "3\xA5"
                                       "Chair covers\xA7"
                                       "19.99");
-    EXPECT_TRUE(run.program.format.PropTextChanges[1][36].TaxExempt);
-    EXPECT_TRUE(run.program.format.PropTextChanges[1][4].FontBold);
-    EXPECT_EQ(run.program.totals.PageSum[1], 65.0F);
-    EXPECT_EQ(run.program.totals.PageTaxable[1], 40.0F);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP2][36].TaxExempt);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP2][4].FontBold);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 65.0F);
+    EXPECT_EQ(run.program.totals.PageTaxable[PageId::frmP2], 40.0F);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "65.00");
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "40.00");
     EXPECT_FALSE(run.program.editing.RefireMode);
@@ -325,7 +326,7 @@ TEST(Undo, IsOneLevelAndStaysUntilUsed) {
     typist.Click(kSecond, 20);
     typist.Type("text");
     typist.PutCursor(0, 4);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     EXPECT_TRUE(run.Enabled(CommandId::mnuEditTextSelUCase));
     EXPECT_TRUE(run.Enabled(CommandId::mnuEditTextUndo)) << "text selected";
     run.Choose(CommandId::mnuEditTextUndo);
@@ -355,7 +356,7 @@ TEST(Undo, ReachesTheStoreWhereACompletionStands) {
     run.Band(kSecond, 3, 3);
     run.Choose(CommandId::mnuEditTextDelete);
     Typist(run.program).Click(kSecond, 8);
-    run.program.editing.ACActive[1] = true;
+    run.program.editing.ACActive[PageId::frmP2] = true;
     run.Put(kSecond, 8, "Lamps, small");
     run.Choose(CommandId::mnuEditTextUndo);
     EXPECT_EQ(run.Stored(kSecond, 3), "Chairs");
@@ -411,11 +412,11 @@ TEST(Paste, WritesTheMemoryWithAllThatTravels) {
                                       "Chair covers\xA7"
                                       "19.99");
     EXPECT_EQ(run.Stored(kFirst, 22), "59.97");
-    EXPECT_TRUE(run.program.format.PropTextChanges[0][22].TaxExempt);
-    EXPECT_TRUE(run.program.format.FormatTextChanges[0][22].TaxExempt);
-    EXPECT_TRUE(run.program.format.PropTextChanges[0][13].FontBold);
-    EXPECT_EQ(run.program.format.PropTextChanges[0][12].QtyValue, "3");
-    EXPECT_EQ(run.program.format.FormatTextChanges[0][12].AmtValue, "19.99");
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP1][22].TaxExempt);
+    EXPECT_TRUE(run.program.format.FormatTextChanges[PageId::frmP1][22].TaxExempt);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP1][13].FontBold);
+    EXPECT_EQ(run.program.format.PropTextChanges[PageId::frmP1][12].QtyValue, "3");
+    EXPECT_EQ(run.program.format.FormatTextChanges[PageId::frmP1][12].AmtValue, "19.99");
     EXPECT_TRUE(run.Label(kFirst, 23).Visible) << "the currency sign of amount 22";
     EXPECT_EQ(run.Block().RunStart, (std::array{12, 22}));
     EXPECT_EQ(run.Block().RunEnd, (std::array{13, 23}));
@@ -425,12 +426,12 @@ TEST(Paste, RunsTheTotals) {
     BlockRun run;
     CopyTwoRows(run);
     PasteAt(run, kFirst, 12);
-    EXPECT_EQ(run.program.totals.AmountTable[22][0], 59.97F);
-    EXPECT_EQ(run.program.totals.TaxableTable[22][0], 0.0F);
-    EXPECT_EQ(run.program.totals.PageSum[0], 59.97F + 40.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[22][PageId::frmP1], 59.97F);
+    EXPECT_EQ(run.program.totals.TaxableTable[22][PageId::frmP1], 0.0F);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP1], 59.97F + 40.0F);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "199.94");
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "80.00");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
     EXPECT_FALSE(run.program.editing.RefireMode);
     EXPECT_TRUE(run.program.editing.BlockMode);
 }
@@ -550,7 +551,7 @@ TEST(Paste, WithoutAmountsInMemoryLeavesTheAmountsAlone) {
     PasteAt(run, kSecond, 10);
     EXPECT_EQ(run.Contents(kSecond, 10), kCovers);
     EXPECT_EQ(run.TextOf(kSecond, 43), "7") << "no product, no question";
-    EXPECT_EQ(run.program.totals.AmountTable[43][1], 7.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[43][PageId::frmP2], 7.0F);
 }
 
 TEST(Paste, OverTheSelectionKeepsTheBlueInStepWithTheColumns) {

@@ -1,9 +1,9 @@
 #include "editing/columns.h"
-#include "editing/keys.h"
+#include "editing/text_menu.h"
 #include "pages/fields.h"
 #include "pages/row_fields.h"
-#include "shell/command_run.h"
-#include "shell/input.h"
+#include "program/keys.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -80,13 +80,13 @@ TEST(ColumnsCommand, OnTheAreaBeforeTheLinesOfTheClientPageIsOfferedAndDoesNothi
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kFirst, 9);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     EXPECT_TRUE(run.program.main[CommandId::mnuEditTextColumns].Enabled);
     const TextArea before = run.Area(kFirst, 9);
-    commands::Run(run.program, CommandId::mnuEditTextColumns);
+    person::Choose(run.program, CommandId::mnuEditTextColumns);
     EXPECT_EQ(run.Area(kFirst, 9), before);
     typist.Click(kFirst, 8);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     EXPECT_FALSE(run.program.main[CommandId::mnuEditTextColumns].Enabled);
 }
 
@@ -94,11 +94,11 @@ TEST(ColumnsCommand, SaysWhatItWillDo) {
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kSecond, 4);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     EXPECT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Add Columns");
-    commands::Run(run.program, CommandId::mnuEditTextColumns);
+    person::Choose(run.program, CommandId::mnuEditTextColumns);
     typist.Click(kSecond, 4);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     EXPECT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Remove Columns");
 }
 
@@ -111,10 +111,10 @@ TEST(Boxes, TakeDigitsPointAndCommaAlone) {
         typist.Click(box);
         for (int byte = 1; byte < 256; ++byte) {
             const bool passes = byte == 8 || byte == '.' || byte == ',' || (byte >= '0' && byte <= '9');
-            EXPECT_EQ(modInput::KeyPress(run.program, byte), passes ? byte : 0) << byte;
+            EXPECT_EQ(person::KeyPress(run.program, byte), passes ? byte : 0) << byte;
         }
         run.program.editing.BlockMode = true;
-        EXPECT_EQ(modInput::KeyPress(run.program, '1'), 0);
+        EXPECT_EQ(person::KeyPress(run.program, '1'), 0);
         run.program.editing.BlockMode = false;
     }
 }
@@ -218,9 +218,9 @@ TEST(Product, SumsItsPageAtOnceAndTheFinalPageOnLeaving) {
     typist.Click(Price(0));
     typist.Type("19.99");
     EXPECT_EQ(run.TextOf(kSecond, 33), "59.97");
-    EXPECT_EQ(run.program.totals.PageSum[1], 59.97F + 1.0F);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 59.97F + 1.0F);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "1.00");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
     typist.Press(keys::kEnter);
     typist.Press(keys::kEnter);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "60.97");
@@ -255,7 +255,7 @@ TEST(PricedLine, IsStoredWithItsBoxesAsSoonAsAnyOfThemChanges) {
     typist.Click(kSecond, 2);
     typist.Type(" Chairs ");
     typist.Press(keys::kF8);
-    const auto& stored = run.program.document.CurrentTextBuf[1][2];
+    const auto& stored = run.program.document.CurrentTextBuf[PageId::frmP2][2];
     EXPECT_EQ(stored, "\xA5Qty.\xA5"
                       "Chairs\xA7"
                       "Amt.");
@@ -264,9 +264,9 @@ TEST(PricedLine, IsStoredWithItsBoxesAsSoonAsAnyOfThemChanges) {
                       "3\xA5"
                       "Chairs\xA7"
                       "Amt.");
-    EXPECT_TRUE(run.program.format.PropTextChanges[1][2].QtyBox);
-    EXPECT_EQ(run.program.format.FormatTextChanges[1][2].QtyValue, "3");
-    EXPECT_EQ(run.program.format.FormatTextChanges[1][2].AmtValue, "Amt.");
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP2][2].QtyBox);
+    EXPECT_EQ(run.program.format.FormatTextChanges[PageId::frmP2][2].QtyValue, "3");
+    EXPECT_EQ(run.program.format.FormatTextChanges[PageId::frmP2][2].AmtValue, "Amt.");
     typist.Click(Price(2));
     typist.Type("5");
     typist.Press(keys::kEnter);
@@ -277,8 +277,8 @@ TEST(PricedLine, IsStoredWithItsBoxesAsSoonAsAnyOfThemChanges) {
     typist.Click(kSecond, 2);
     typist.Press(keys::kF8);
     EXPECT_EQ(stored, "Chairs");
-    EXPECT_FALSE(run.program.format.PropTextChanges[1][2].QtyBox);
-    EXPECT_EQ(run.program.format.FormatTextChanges[1][2].QtyValue, "");
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP2][2].QtyBox);
+    EXPECT_EQ(run.program.format.FormatTextChanges[PageId::frmP2][2].QtyValue, "");
     EXPECT_EQ(run.TextOf(kSecond, 2), " Chairs ") << "the area keeps its blanks";
 }
 
@@ -287,20 +287,20 @@ TEST(TaxMark, ByAClickRecalculatesAtOnceAndTurnsTheButtonRed) {
     Typist typist(run.program);
     typist.Click(kSecond, 33);
     typist.Type("100");
-    modInput::FieldMouseDown(run.program, Text(kSecond, 33), 2, 0, 3, 0);
-    commands::Run(run.program, CommandId::mnuEditTextTaxExempt);
+    person::FieldMouseDown(run.program, Text(kSecond, 33), 2, 0, 3, 0);
+    person::Choose(run.program, CommandId::mnuEditTextTaxExempt);
     typist.Click(kSecond, 5);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "0.00");
-    EXPECT_EQ(run.program.totals.TaxableTable[33][1], 0.0F);
-    modInput::NoTaxMarkClick(run.program, kSecond, 33);
+    EXPECT_EQ(run.program.totals.TaxableTable[33][PageId::frmP2], 0.0F);
+    person::NoTaxMarkClick(run.program, kSecond, 33);
     EXPECT_FALSE(run.program.pages[kSecond].imgNoTax[33].Visible);
     EXPECT_EQ(run.program.pages[kSecond].imgNoTax[33].Tag, "Hide");
-    EXPECT_FALSE(run.program.format.PropTextChanges[1][33].TaxExempt);
-    EXPECT_FALSE(run.program.format.FormatTextChanges[1][33].TaxExempt);
-    EXPECT_TRUE(run.program.format.PropTextChanges[1][33].Dirty);
-    EXPECT_EQ(run.program.totals.TaxableTable[33][1], 100.0F);
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP2][33].TaxExempt);
+    EXPECT_FALSE(run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP2][33].Dirty);
+    EXPECT_EQ(run.program.totals.TaxableTable[33][PageId::frmP2], 100.0F);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
     EXPECT_EQ(run.program.main.Focus, Text(kSecond, 33));
 }
 
@@ -312,16 +312,16 @@ TEST(RightPress, FormatsTheAmountItLeavesAndComesBackToIt) {
     Typist typist(run.program);
     typist.Click(kSecond, 33);
     typist.Type("12.5");
-    modInput::FieldMouseDown(run.program, Text(kSecond, 33), 2, 0, 4, 0);
-    EXPECT_TRUE(modInput::TextMenuOpens(run.program));
+    person::FieldMouseDown(run.program, Text(kSecond, 33), 2, 0, 4, 0);
+    EXPECT_TRUE(person::TextMenuOpens(run.program));
     EXPECT_EQ(run.TextOf(kSecond, 33), "12.50");
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "12.50");
     EXPECT_FALSE(run.program.main.Focus) << "the menu has the keyboard";
-    modInput::TextMenuClosed(run.program);
+    person::TextMenuClosed(run.program);
     EXPECT_EQ(run.program.main.Focus, Text(kSecond, 33));
     EXPECT_EQ(run.Area(kSecond, 33).BackColor, colors::kFocused);
     EXPECT_FALSE(run.program.editing.RightClickPending);
-    modInput::TextMenuClosed(run.program);
+    person::TextMenuClosed(run.program);
     EXPECT_EQ(run.program.main.Focus, Text(kSecond, 33));
 }
 
@@ -329,12 +329,12 @@ TEST(RightPress, GivesAnotherAreaTheFocusFirst) {
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kSecond, 3);
-    modInput::FieldMouseDown(run.program, Text(kSecond, 40), 2, 0, 0, 0);
+    person::FieldMouseDown(run.program, Text(kSecond, 40), 2, 0, 0, 0);
     EXPECT_EQ(run.program.main.lblTextNum.Caption, "Page 2, Text Area 41");
     EXPECT_EQ(run.program.editing.CurrentArea, 40);
     EXPECT_EQ(run.program.editing.RightClickArea, 40);
     EXPECT_TRUE(run.program.main[CommandId::mnuEditTextTaxExempt].Enabled);
-    modInput::TextMenuClosed(run.program);
+    person::TextMenuClosed(run.program);
     EXPECT_EQ(run.program.main.Focus, Text(kSecond, 40));
 }
 
@@ -347,7 +347,7 @@ TEST(RightPress, RepaintsEveryPage) {
     modFields::SetText(run.program, Quantity(0), "123456"); // 600 of 540 twips
     typist.Click(kSecond, 3);
     EXPECT_EQ(run.Area(kFirst, 3).BackColor, colors::kResting);
-    modInput::FieldMouseDown(run.program, Text(kSecond, 3), 2, 0, 0, 0);
+    person::FieldMouseDown(run.program, Text(kSecond, 3), 2, 0, 0, 0);
     EXPECT_EQ(run.Area(kFirst, 3).BackColor, colors::kOverLimit);
     EXPECT_EQ(run.program.pages[kSecond].txtQty[0].BackColor, colors::kOverLimit);
     EXPECT_EQ(run.program.pages[kSecond].txtAmt[0].BackColor, colors::kRestingRowField);
@@ -358,13 +358,13 @@ TEST(RightPress, OpensNothingOnTheFinalPageAndInTheBoxes) {
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(PageId::frmP6, 1);
-    modInput::FieldMouseDown(run.program, Text(PageId::frmP6, 4), 2, 0, 0, 0);
-    EXPECT_FALSE(modInput::TextMenuOpens(run.program));
+    person::FieldMouseDown(run.program, Text(PageId::frmP6, 4), 2, 0, 0, 0);
+    EXPECT_FALSE(person::TextMenuOpens(run.program));
     EXPECT_EQ(run.program.main.Focus, Text(PageId::frmP6, 4));
     typist.Click(kSecond, 0);
     typist.Press(keys::kF8);
-    modInput::FieldMouseDown(run.program, Quantity(0), 2, 0, 0, 0);
-    EXPECT_FALSE(modInput::TextMenuOpens(run.program));
+    person::FieldMouseDown(run.program, Quantity(0), 2, 0, 0, 0);
+    EXPECT_FALSE(person::TextMenuOpens(run.program));
     EXPECT_EQ(run.program.main.Focus, Quantity(0));
 }
 

@@ -1,7 +1,7 @@
-#include "editing/keys.h"
 #include "editing/typing.h"
 #include "pages/fields.h"
-#include "shell/input.h"
+#include "program/keys.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -30,12 +30,12 @@ TEST(FinalPage, TakesADepositAsItIsTypedAndWritesItOnLeaving) {
     typist.Type("20.5");
     EXPECT_EQ(run.TextOf(kFinal, 4), "20.5");
     EXPECT_EQ(run.TextOf(PageId::frmP6_1, 4), "20.5");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[5][4], "20.5");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP6][4], "20.5");
     EXPECT_EQ(run.TextOf(kFinal, 5), "87.75") << "100 and 8.25 % tax, less 20.5";
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
     typist.Click(kFinal, 1);
     EXPECT_EQ(run.TextOf(kFinal, 4), "20.50");
-    EXPECT_NE(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_NE(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
     EXPECT_EQ(run.program.editing.LastArea, 4);
 }
 
@@ -85,7 +85,7 @@ TEST(FinalPage, WorksOutTaxAndTaxableAmountOverWhatIsTyped) {
         const std::string before = run.TextOf(kFinal, index);
         typist.Type("7");
         EXPECT_EQ(run.TextOf(kFinal, index), before);
-        EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+        EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
     }
 }
 
@@ -183,7 +183,7 @@ TEST(BlockSelection, LetsNoEditReachAField) {
     typist.Press(keys::kBackspace);
     typist.Type("3");
     typist.PasteByKey("4", run.surroundings.clipboard.Text);
-    modInput::Insert(run.program, {PageId::frmP2, FieldKind::txt, 33}, "5", 0, modInput::By::Mouse);
+    person::Insert(run.program, {PageId::frmP2, FieldKind::txt, 33}, "5", 0, person::By::Mouse);
     EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "12");
 }
 

@@ -1,7 +1,7 @@
-#include "editing/keys.h"
 #include "pages/fields.h"
 #include "pages/row_fields.h"
-#include "shell/page_switch.h"
+#include "program/keys.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -40,7 +40,7 @@ FieldRef Expected(PageId page, int index, int key) {
 
 void Walk(RunningProgram& run, const FieldRef& from, int key, const FieldRef& to) {
     if (run.program.main.PageInFront != from.Page) {
-        modScroll::UpdatePageButtons(run.program, IndexOf(from.Page));
+        person::TurnTo(run.program, IndexOf(from.Page));
     }
     modFields::GiveFocus(run.program, from);
     ASSERT_EQ(run.program.main.Focus, from);
@@ -222,7 +222,7 @@ TEST(ScrollTest, IsMadeForTheBoxesToo) {
         modPages::PlaceColumns(run.program, PageId::frmP2, row, modPages::Columns::On);
     }
     Typist typist(run.program);
-    modScroll::UpdatePageButtons(run.program, 1);
+    person::TurnTo(run.program, 1);
     typist.Click({PageId::frmP2, FieldKind::txtQty, 19});
     typist.Press(keys::kDown);
     EXPECT_GT(run.program.main.VScroll1.Value, 0);

@@ -1,7 +1,7 @@
 #include "editing/row_texts.h"
 #include "pages/fields.h"
 #include "pages/row_fields.h"
-#include "shell/input.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -22,7 +22,7 @@ FieldRef Area(PageId page, int index) {
 }
 
 void Put(RunningProgram& run, PageId page, int index, const std::string& text) {
-    modInput::EditedWithoutKey(run.program, Area(page, index), text, static_cast<int>(text.size()), 0);
+    person::EditedWithoutKey(run.program, Area(page, index), text, static_cast<int>(text.size()), 0);
 }
 
 TEST(PushAtTheEnd, AboveAnAlmostFullRowTheCursorStillFollowsToTheNextRow) {
@@ -103,9 +103,9 @@ TEST(Push, IntoARowWithColumnsLeavesItsOwnRowCyan) {
     typist.Click(kSecond, 0);
     typist.PutCursor(3);
     // A held blank: no release has recoloured anything yet.
-    EXPECT_EQ(modInput::KeyDown(run.program, ' ', 0, 3, 0), Taken::No);
+    EXPECT_EQ(person::KeyDown(run.program, ' ', 0, 3, 0), Taken::No);
     const std::string typed = "abc defghi " + Words(7) + "jklmno";
-    modInput::Edited(run.program, Area(kSecond, 0), typed, 4, 0);
+    person::Edited(run.program, Area(kSecond, 0), typed, 4, 0);
     EXPECT_EQ(run.TextOf(kSecond, 0), typed.substr(0, 70)) << "7000 twips";
     EXPECT_EQ(run.Area(kSecond, 0).BackColor, colors::kFocused)
         << "judged by its own 8640 twips, not by 6270";
@@ -254,7 +254,7 @@ TEST(Limits, ATagWithTheAmountsLimitMakesAnAmountWhateverItsKind) {
     typist.Click(kSecond, 5);
     typist.Type("1x2");
     EXPECT_EQ(run.TextOf(kSecond, 5), "12");
-    EXPECT_EQ(run.program.totals.AmountTable[5][1], 12.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[5][PageId::frmP2], 12.0F);
     typist.Click(kSecond, 6);
     EXPECT_EQ(run.TextOf(kSecond, 5), "12.00");
     run.Area(kFirst, 5).Tag = "Name.020";
@@ -273,7 +273,7 @@ TEST(Limits, RedTurnsCyanOnReleaseOnly) {
     EXPECT_EQ(run.Area(kFirst, 0).BackColor, colors::kOverLimit);
     typist.Hold(keys::kBackspace);
     EXPECT_EQ(run.Area(kFirst, 0).BackColor, colors::kOverLimit);
-    modInput::KeyUp(run.program, keys::kBackspace, 0, 21, 0);
+    person::KeyUp(run.program, keys::kBackspace, 0, 21, 0);
     EXPECT_EQ(run.Area(kFirst, 0).BackColor, colors::kFocused);
 }
 

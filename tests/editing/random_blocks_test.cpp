@@ -3,8 +3,7 @@
 #include "editing/block_actions.h"
 #include "pages/page_geometry.h"
 #include "pages/row_fields.h"
-#include "shell/frm_main.h"
-#include "shell/input.h"
+#include "support/person.h"
 
 #include <cstdlib>
 #include <iostream>
@@ -60,7 +59,7 @@ public:
             break;
         case 12:
             Log << "page\n";
-            frmMain(run_.program).imgPage_Click(Below(6));
+            person::ClickPageButton(run_.program, Below(6));
             break;
         case 13:
             Right();
@@ -129,18 +128,18 @@ private:
     void Right() {
         const FieldRef field = AField();
         Log << "right\n";
-        modInput::FieldMouseDown(run_.program, field, 2, 0, 0, 0);
+        person::FieldMouseDown(run_.program, field, 2, 0, 0, 0);
         if (Below(2) == 0) {
             Command();
         }
-        modInput::TextMenuClosed(run_.program);
+        person::TextMenuClosed(run_.program);
     }
     void Exempt() {
         const PageId page = Front();
         const int row = geometry::AmountOf(page, geometry::FirstRow(page) + Below(6));
         if (run_.program.pages[page].imgNoTax[static_cast<std::size_t>(row)].Visible) {
             Log << "mark " << row << "\n";
-            modInput::NoTaxMarkClick(run_.program, page, row);
+            person::NoTaxMarkClick(run_.program, page, row);
         }
     }
 
@@ -152,11 +151,10 @@ private:
 void ExpectAmountCounted(BlockRun& run, PageId page, std::size_t index) {
     const Program& program = run.program;
     const Page& record = program.pages[page];
-    const auto at = static_cast<std::size_t>(IndexOf(page));
     const std::string_view value = text::Trim(record.txt[index].Text);
-    EXPECT_EQ(program.format.PropTextChanges[at][index].TaxExempt, record.imgNoTax[index].Visible);
+    EXPECT_EQ(program.format.PropTextChanges[page][index].TaxExempt, record.imgNoTax[index].Visible);
     if (value.empty() || numbers::IsNumeric(value, "$")) {
-        EXPECT_EQ(program.totals.AmountTable[index][at], numbers::ToSingle(value, "$").value_or(0));
+        EXPECT_EQ(program.totals.AmountTable[index][page], numbers::ToSingle(value, "$").value_or(0));
         const std::size_t sign = page == PageId::frmP1 ? index + 1 : index - 32;
         EXPECT_EQ(record.lbl[sign].Visible, !value.empty());
     }
@@ -165,7 +163,7 @@ void ExpectAmountCounted(BlockRun& run, PageId page, std::size_t index) {
 void ExpectColumnsWhole(BlockRun& run, PageId page, std::size_t row) {
     const Page& record = run.program.pages[page];
     const bool on = modPages::ColumnsOn(run.program, page, static_cast<int>(row));
-    EXPECT_EQ(run.program.format.PropTextChanges[static_cast<std::size_t>(IndexOf(page))][row].QtyBox, on);
+    EXPECT_EQ(run.program.format.PropTextChanges[page][row].QtyBox, on);
     EXPECT_EQ(record.txt[row].Width, on ? 6270 : 8640);
     const bool selected = record.txt[row].BackColor == colors::kBlockSelected;
     for (const auto* boxes : {&record.txtQty, &record.txtAmt}) {
@@ -181,16 +179,15 @@ void ExpectInStep(BlockRun& run) {
     EXPECT_FALSE(program.editing.MoveInProgress);
     int blue = 0;
     for (const PageId page : kLinePages) {
-        const auto at = static_cast<std::size_t>(IndexOf(page));
         const Page& record = program.pages[page];
         for (std::size_t index = 0; index < record.txt.size(); ++index) {
             const int i = static_cast<int>(index);
             const TextArea& area = record.txt[index];
             SCOPED_TRACE(testing::Message()
-                         << "page " << at + 1 << " area " << i << " \"" << area.Text << "\"");
+                         << "page " << IndexOf(page) + 1 << " area " << i << " \"" << area.Text << "\"");
             blue += run.Blue(page, i) ? 1 : 0;
-            EXPECT_EQ(program.document.CurrentTextBuf[at][index], modFields::ComposeLine(program, page, i));
-            EXPECT_EQ(program.format.PropTextChanges[at][index].FontBold, area.FontBold);
+            EXPECT_EQ(program.document.CurrentTextBuf[page][index], modFields::ComposeLine(program, page, i));
+            EXPECT_EQ(program.format.PropTextChanges[page][index].FontBold, area.FontBold);
             if (geometry::IsAmount(page, i)) {
                 ExpectAmountCounted(run, page, index);
             } else if (geometry::IsDescription(page, i)) {

@@ -1,8 +1,8 @@
 #include "editing/area_mouse.h"
 #include "editing/block_actions.h"
-#include "editing/keys.h"
 #include "pages/row_fields.h"
-#include "shell/frm_main.h"
+#include "program/keys.h"
+#include "support/person.h"
 
 namespace {
 
@@ -181,7 +181,7 @@ TEST(Band, PaintsTheSignsOfItsMode) {
     };
     EXPECT_EQ(signs(), std::vector<Color>(6, 0xFF0000));
     EXPECT_EQ(main.lblTextPos.BackColor, colors::kButtonFace);
-    frmMain(run.program).cmdClearMem_Click();
+    person::ClickClearSelected(run.program);
     EXPECT_EQ(signs(), std::vector<Color>(6, colors::kButtonFace));
     EXPECT_FALSE(run.program.editing.BlockMode);
 }
@@ -281,11 +281,11 @@ TEST(Band, AClickOnThePageChangesNothing) {
 TEST(Band, TakesWhatACompletionShowsForWhatTheAreaHolds) {
     BlockRun run;
     Typist(run.program).Click(kSecond, 2);
-    run.program.editing.ACActive[1] = true;
+    run.program.editing.ACActive[PageId::frmP2] = true;
     run.Put(kSecond, 2, "Chair covers");
     EXPECT_EQ(run.Stored(kSecond, 2), "");
     run.Band(kSecond, 2, 2);
-    EXPECT_FALSE(run.program.editing.ACActive[1]);
+    EXPECT_FALSE(run.program.editing.ACActive[PageId::frmP2]);
     EXPECT_EQ(run.Stored(kSecond, 2), "Chair covers");
 }
 

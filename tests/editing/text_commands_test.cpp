@@ -80,7 +80,7 @@ bool Says(MenuRule rule, BlockRun& run, PageId page, int index) {
 }
 
 void ExpectStates(BlockRun& run, modBlocks::MenuState state, PageId page, int index) {
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     for (const modBlocks::MenuRow& row : modBlocks::TextMenuTable()) {
         EXPECT_EQ(run.Enabled(row.Id), Says(row.In[static_cast<std::size_t>(state)], run, page, index))
             << "entry " << static_cast<int>(row.Id) << " of " << IndexOf(page) << "/" << index;
@@ -119,7 +119,7 @@ TEST(TextMenu, CaptionTellsWhatTheColumnsCommandWouldDo) {
     Typist typist(run.program);
     const auto captionAt = [&](PageId page, int index) {
         typist.Click(page, index);
-        run.program.hooks.UpdateTextMenu(run.program);
+        modBlocks::UpdateTextMenu(run.program);
         return run.program.main[CommandId::mnuEditTextColumns].Caption;
     };
     EXPECT_EQ(captionAt(kSecond, 5), "Remove Columns");
@@ -162,20 +162,20 @@ TEST(Bold, IsAnAreasAndBothTables) {
     };
     run.Choose(CommandId::mnuEditTextBold);
     EXPECT_TRUE(run.Area(kSecond, 4).FontBold);
-    EXPECT_TRUE(run.program.format.PropTextChanges[1][4].FontBold);
-    EXPECT_TRUE(run.program.format.FormatTextChanges[1][4].FontBold);
-    EXPECT_TRUE(run.program.format.PropTextChanges[1][4].Dirty);
-    EXPECT_FALSE(run.program.format.PropTextChanges[1][5].Dirty);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP2][4].FontBold);
+    EXPECT_TRUE(run.program.format.FormatTextChanges[PageId::frmP2][4].FontBold);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP2][4].Dirty);
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP2][5].Dirty);
     EXPECT_EQ(changes, 0);
     EXPECT_EQ(run.program.main.Focus, BlockRun::Text(kSecond, 4));
-    run.program.format.PropTextChanges[1][4].Dirty = false;
+    run.program.format.PropTextChanges[PageId::frmP2][4].Dirty = false;
     run.Choose(CommandId::mnuEditTextBold); // bold already: the entry is closed
-    EXPECT_FALSE(run.program.format.PropTextChanges[1][4].Dirty);
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP2][4].Dirty);
     run.Choose(CommandId::mnuEditTextNormal);
     EXPECT_FALSE(run.Area(kSecond, 4).FontBold);
-    EXPECT_FALSE(run.program.format.PropTextChanges[1][4].FontBold);
-    EXPECT_FALSE(run.program.format.FormatTextChanges[1][4].FontBold);
-    EXPECT_TRUE(run.program.format.PropTextChanges[1][4].Dirty);
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP2][4].FontBold);
+    EXPECT_FALSE(run.program.format.FormatTextChanges[PageId::frmP2][4].FontBold);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP2][4].Dirty);
 }
 
 TEST(Bold, OnTheFinalPageTheCopyFollows) {
@@ -184,7 +184,7 @@ TEST(Bold, OnTheFinalPageTheCopyFollows) {
     run.Choose(CommandId::mnuEditTextBold);
     EXPECT_TRUE(run.Area(PageId::frmP6, 4).FontBold);
     EXPECT_TRUE(run.Area(PageId::frmP6_1, 4).FontBold);
-    EXPECT_TRUE(run.program.format.PropTextChanges[5][4].FontBold);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP6][4].FontBold);
     run.Choose(CommandId::mnuEditTextNormal);
     EXPECT_FALSE(run.Area(PageId::frmP6_1, 4).FontBold);
 }

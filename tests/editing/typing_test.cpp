@@ -1,13 +1,13 @@
 #include "editing/columns.h"
-#include "editing/keys.h"
 #include "editing/row_texts.h"
+#include "editing/text_menu.h"
 #include "editing/typing.h"
 #include "editing/word_marking.h"
 #include "pages/fields.h"
 #include "pages/page_marks.h"
 #include "pages/row_fields.h"
-#include "shell/input.h"
-#include "shell/page_switch.h"
+#include "program/keys.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -38,13 +38,14 @@ TEST(ChangePipeline, StoresTheTrimmedTextAndKeepsTheAreasBlanks) {
     typist.Click(kFirst, 3);
     typist.Type("  Elm ");
     EXPECT_EQ(run.TextOf(kFirst, 3), "  Elm ");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][3], "Elm");
-    EXPECT_EQ(run.program.format.PropTextChanges[0][3].Text, "  Elm ");
-    EXPECT_EQ(run.program.format.FormatTextChanges[0][3].Text, "") << "a format takes texts when it is saved";
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][3], "Elm");
+    EXPECT_EQ(run.program.format.PropTextChanges[PageId::frmP1][3].Text, "  Elm ");
+    EXPECT_EQ(run.program.format.FormatTextChanges[PageId::frmP1][3].Text, "")
+        << "a format takes texts when it is saved";
     EXPECT_EQ(run.program.editing.CurrentKind, "Name");
     EXPECT_EQ(run.program.editing.CurrentLimit, "060");
     EXPECT_EQ(run.program.editing.CurrentWidth, 6120);
-    EXPECT_TRUE(run.program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled);
+    EXPECT_TRUE(run.Main()[CommandId::mnuOptCopyToBusinessAddressBook].Enabled);
 }
 
 TEST(ChangePipeline, TheClientsNameMakesTheFileNameUntilThereIsAFile) {
@@ -56,11 +57,11 @@ TEST(ChangePipeline, TheClientsNameMakesTheFileNameUntilThereIsAFile) {
     EXPECT_EQ(run.program.document.BaseName, "Al");
     EXPECT_EQ(run.program.document.TextFileName, "Al.txt");
     EXPECT_EQ(run.Label(kFirst, 33).Caption, "Proposal for Al");
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Al.hef");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook - File Name = Al.hef");
     typist.Press(keys::kBackspace);
     typist.Press(keys::kBackspace);
     EXPECT_EQ(run.program.document.FileName, ".hef");
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook");
     run.program.document.FileExists = true;
     run.program.document.FileName = "Kept.hef";
     typist.Type("X");
@@ -72,15 +73,15 @@ TEST(ChangePipeline, ATypedAmountFillsTheTablesAndTurnsTheButtonRed) {
     Typist typist(run.program);
     typist.Click(kSecond, 40);
     typist.Type("12");
-    EXPECT_EQ(run.program.totals.AmountTable[40][1], 12.0F);
-    EXPECT_EQ(run.program.totals.TaxableTable[40][1], 12.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[40][PageId::frmP2], 12.0F);
+    EXPECT_EQ(run.program.totals.TaxableTable[40][PageId::frmP2], 12.0F);
     EXPECT_EQ(run.Label(kSecond, 8).Tag, "");
     EXPECT_TRUE(run.Label(kSecond, 8).Visible);
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "") << "totals follow on leaving";
     typist.Press(keys::kBackspace);
     typist.Press(keys::kBackspace);
-    EXPECT_EQ(run.program.totals.AmountTable[40][1], 0.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[40][PageId::frmP2], 0.0F);
     EXPECT_EQ(run.Label(kSecond, 8).Tag, "Hide");
     EXPECT_FALSE(run.Label(kSecond, 8).Visible);
 }
@@ -88,10 +89,10 @@ TEST(ChangePipeline, ATypedAmountFillsTheTablesAndTurnsTheButtonRed) {
 TEST(ChangePipeline, TextThatIsNoNumberCountsAsNothing) {
     for (const char* text : {"-", ",", ".", "1e39", "1-2", "12,50", "1.250,00", "1,2,3"}) {
         RunningProgram run;
-        run.program.totals.AmountTable[20][0] = 7;
+        run.program.totals.AmountTable[20][PageId::frmP1] = 7;
         run.Area(kFirst, 20).Text = "7";
         PutText(run, kFirst, 20, text);
-        EXPECT_EQ(run.program.totals.AmountTable[20][0], 0) << text;
+        EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 0) << text;
         EXPECT_EQ(run.TextOf(kFirst, 20), text);
         EXPECT_FALSE(run.Label(kFirst, 21).Visible);
         EXPECT_EQ(run.Area(kFirst, 20).BackColor, colors::kOverLimit);
@@ -101,17 +102,17 @@ TEST(ChangePipeline, TextThatIsNoNumberCountsAsNothing) {
     }
     RunningProgram run;
     PutText(run, kFirst, 20, "1,234");
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 1234.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 1234.0F);
     PutText(run, kFirst, 20, "1e-50");
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 0.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 0.0F);
 }
 
 TEST(ChangePipeline, AnExemptAmountIsNotTaxable) {
     RunningProgram run;
     modPages::SetNoTaxMark(run.program, kFirst, 20, modPages::Mark::Shown);
     PutText(run, kFirst, 20, "50");
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 50.0F);
-    EXPECT_EQ(run.program.totals.TaxableTable[20][0], 0.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 50.0F);
+    EXPECT_EQ(run.program.totals.TaxableTable[20][PageId::frmP1], 0.0F);
 }
 
 TEST(ChangePipeline, LimitsAreShownAndNeverEnforced) {
@@ -134,24 +135,24 @@ TEST(ChangePipeline, IsSilentWhileFilesAreReadAndPagesAreBuilt) {
         run.program.guards.*flag = true;
         PutText(run, kFirst, 3, "x");
         run.program.guards.*flag = false;
-        EXPECT_EQ(run.program.document.CurrentTextBuf[0][3], "");
+        EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][3], "");
         PutText(run, kFirst, 3, "");
     }
     run.program.editing.MoveInProgress = true;
     PutText(run, kFirst, 3, "x");
     run.program.editing.MoveInProgress = false;
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][3], "");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][3], "");
     run.program.editing.BlockMode = true;
     PutText(run, kFirst, 4, "x");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][4], "");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][4], "");
     run.program.editing.RefireMode = true;
     PutText(run, kFirst, 5, "x");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][5], "x");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][5], "x");
     run.program.editing.BlockMode = false;
     run.program.editing.RefireMode = false;
-    run.program.editing.ACActive[0] = true;
+    run.program.editing.ACActive[PageId::frmP1] = true;
     PutText(run, kFirst, 6, "x");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][6], "");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][6], "");
 }
 
 TEST(Push, ABlankAtTheEndOfATooLongLineMovesTheLastWordAndTheCursorFollows) {
@@ -167,8 +168,8 @@ TEST(Push, ABlankAtTheEndOfATooLongLineMovesTheLastWordAndTheCursorFollows) {
     EXPECT_EQ(run.TextOf(kFirst, 11), "jklmnopq ");
     EXPECT_EQ(run.program.main.Focus, Text(kFirst, 11));
     EXPECT_EQ(run.Area(kFirst, 11).SelStart, 9);
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][10], Words(8).substr(0, 79));
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][11], "jklmnopq");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][10], Words(8).substr(0, 79));
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][11], "jklmnopq");
     EXPECT_EQ(run.Area(kFirst, 10).BackColor, colors::kResting);
 }
 
@@ -313,15 +314,15 @@ TEST(KeyFilter, AmountsTakeFiguresAndEditingKeysOnly) {
         for (int byte = 1; byte < 256; ++byte) {
             const bool passes =
                 byte == 8 || (byte >= '0' && byte <= '9') || byte == ',' || byte == '-' || byte == '.';
-            EXPECT_EQ(modInput::KeyPress(run.program, byte), passes ? byte : 0) << byte;
+            EXPECT_EQ(person::KeyPress(run.program, byte), passes ? byte : 0) << byte;
         }
     }
     typist.Click(kFirst, 3);
     for (int byte = 1; byte < 256; ++byte) {
-        EXPECT_EQ(modInput::KeyPress(run.program, byte), byte == 9 || byte == 13 ? 0 : byte);
+        EXPECT_EQ(person::KeyPress(run.program, byte), byte == 9 || byte == 13 ? 0 : byte);
     }
     run.program.editing.BlockMode = true;
-    EXPECT_EQ(modInput::KeyPress(run.program, 'a'), 0);
+    EXPECT_EQ(person::KeyPress(run.program, 'a'), 0);
 }
 
 TEST(Paste, IntoAnAmountIsTakenWholeAndNumeric) {
@@ -347,7 +348,7 @@ TEST(Leaving, AnAmountIsWrittenUnderItsPatternAndTotalled) {
     typist.Type("1234.5");
     typist.Click(kFirst, 3);
     EXPECT_EQ(run.TextOf(kFirst, 20), "1,234.50");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][20], "1,234.50");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][20], "1,234.50");
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "1,234.50");
     EXPECT_EQ(run.Area(kFirst, 20).BackColor, colors::kResting);
     EXPECT_EQ(run.program.editing.LastArea, 20);
@@ -401,9 +402,9 @@ class DoubleClick : public testing::TestWithParam<Conversion> {};
 TEST_P(DoubleClick, ConvertsTheArea) {
     RunningProgram run;
     PutText(run, kFirst, GetParam().Area, GetParam().From);
-    modInput::FieldDblClick(run.program, Text(kFirst, GetParam().Area), 0);
+    person::FieldDblClick(run.program, Text(kFirst, GetParam().Area), 0);
     EXPECT_EQ(run.TextOf(kFirst, GetParam().Area), GetParam().To);
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][static_cast<std::size_t>(GetParam().Area)],
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][static_cast<std::size_t>(GetParam().Area)],
               GetParam().To);
     const bool converted = std::string_view(GetParam().From) != GetParam().To;
     EXPECT_EQ(run.Area(kFirst, GetParam().Area).SelStart,
@@ -414,10 +415,10 @@ TEST_P(DoubleClick, ConvertsTheArea) {
 TEST(DoubleClick, MarksTheWordAtItsPlaceWhereNothingIsConverted) {
     RunningProgram run;
     PutText(run, kSecond, 40, "it's 12 pm");
-    modScroll::UpdatePageButtons(run.program, 1);
+    person::TurnTo(run.program, 1);
     modFields::GiveFocus(run.program, Text(kSecond, 40));
     const auto marked = [&](int position) {
-        modInput::FieldDblClick(run.program, Text(kSecond, 40), position);
+        person::FieldDblClick(run.program, Text(kSecond, 40), position);
         const TextArea& area = run.Area(kSecond, 40);
         return area.Text.substr(static_cast<std::size_t>(area.SelStart),
                                 static_cast<std::size_t>(area.SelLength));
@@ -433,9 +434,9 @@ TEST(DoubleClick, MarksTheWordAtItsPlaceWhereNothingIsConverted) {
 TEST(DoubleClick, MarksNoWordInADescriptionOrBesideAWord) {
     RunningProgram run;
     PutText(run, kSecond, 5, "chair covers");
-    modScroll::UpdatePageButtons(run.program, 1);
+    person::TurnTo(run.program, 1);
     modFields::GiveFocus(run.program, Text(kSecond, 5));
-    modInput::FieldDblClick(run.program, Text(kSecond, 5), 8);
+    person::FieldDblClick(run.program, Text(kSecond, 5), 8);
     EXPECT_EQ(run.Area(kSecond, 5).SelLength, 0);
     EXPECT_EQ(modText::WordAt("a , b", 2).Length, 0);
     EXPECT_EQ(modText::WordAt("a , b", 2).Start, 2);
@@ -445,11 +446,11 @@ TEST(DoubleClick, MarksNoWordInADescriptionOrBesideAWord) {
 TEST(DoubleClick, TogglesTheColumnsOfADescriptionAndNothingElse) {
     for (const PageId page : kLinePages) {
         RunningProgram run;
-        modScroll::UpdatePageButtons(run.program, IndexOf(page));
+        person::TurnTo(run.program, IndexOf(page));
         const int last = page == kFirst ? 29 : 65;
         for (int index = page == kFirst ? 9 : 0; index <= last; ++index) {
             modFields::GiveFocus(run.program, Text(page, index));
-            modInput::FieldDblClick(run.program, Text(page, index), 0);
+            person::FieldDblClick(run.program, Text(page, index), 0);
             const bool line = page == kFirst ? index >= 10 && index <= 19 : index <= 32;
             EXPECT_EQ(run.Area(page, index).Width == 6270, line) << index;
             EXPECT_EQ(run.program.editing.CurrentArea, index);
@@ -464,7 +465,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Conversion{2, "jane ROE", "Jane Roe"}, Conversion{3, "12 elm street", "12 Elm Street"},
                     Conversion{4, "springfield", "Springfield"}, Conversion{8, "garden hall", "Garden Hall"},
                     Conversion{9, "main road", "Main Road"}, Conversion{5, "1234567890", "(123) 456-7890"},
-                    Conversion{6, "5551234", "() 555-1234"}, Conversion{6, "11234567890", "(1123) 456-7890"},
+                    Conversion{6, "5551234", "555-1234"}, Conversion{6, "11234567890", "11234567890"},
                     Conversion{2, "o'brien-SMITH", "O'brien-smith"},
                     Conversion{8, "the\tgarden (hall)", "The\tGarden (hall)"}, Conversion{0, "", ""},
                     Conversion{7, "call me", "call me"}, Conversion{20, "abc", "abc"}));
@@ -472,11 +473,11 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Status, FollowsAPressOfTheMouse) {
     RunningProgram run;
     PutText(run, kSecond, 5, "abcdef");
-    modScroll::UpdatePageButtons(run.program, 1);
-    modInput::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 4, 0);
+    person::TurnTo(run.program, 1);
+    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 4, 0);
     EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 4");
     EXPECT_EQ(run.program.main.lblTextPos.Caption, "Printer Text Position = 400.");
-    modInput::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 0, 0);
+    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 0, 0);
     EXPECT_EQ(run.program.main.lblTextPos.Caption, "Printer Text Position = .");
 }
 
@@ -539,9 +540,9 @@ TEST(Focus, OfTheFinalPageHasNoCyan) {
 
 TEST(Focus, IsNeverTakenByTheClientsCopy) {
     RunningProgram run;
-    modScroll::UpdatePageButtons(run.program, 6);
+    person::TurnTo(run.program, 6);
     const auto before = run.program.main.Focus;
-    modInput::FieldMouseDown(run.program, {PageId::frmP6_1, FieldKind::txt, 1}, 1, 0, 0, 0);
+    person::FieldMouseDown(run.program, {PageId::frmP6_1, FieldKind::txt, 1}, 1, 0, 0, 0);
     EXPECT_EQ(run.program.main.Focus, before);
     EXPECT_EQ(run.program.main.CurrentPage, 0);
 }
@@ -592,13 +593,13 @@ TEST(Columns, TurnARowIntoAPricedLineAndBack) {
     typist.Type("19.99-");
     EXPECT_EQ(page.txtAmt[4].Text, "19.99") << "no minus";
     EXPECT_EQ(run.TextOf(kSecond, 37), "59.97");
-    EXPECT_EQ(run.program.totals.PageSum[1], 59.97F);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 59.97F);
     typist.Press(keys::kEnter);
     EXPECT_EQ(run.program.main.Focus, Text(kSecond, 37));
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][4], "\xA5"
-                                                         "3\xA5"
-                                                         "Chairs\xA7"
-                                                         "19.99");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][4], "\xA5"
+                                                                     "3\xA5"
+                                                                     "Chairs\xA7"
+                                                                     "19.99");
     typist.Click(kSecond, 4);
     typist.Press(keys::kF8);
     EXPECT_EQ(run.Area(kSecond, 4).Left, 900);
@@ -607,7 +608,7 @@ TEST(Columns, TurnARowIntoAPricedLineAndBack) {
     EXPECT_EQ(page.txtQty[4].Tag, "Hide");
     EXPECT_EQ(page.txtQty[4].Text, "");
     EXPECT_EQ(run.TextOf(kSecond, 37), "59.97") << "the amount stays";
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][4], "Chairs");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][4], "Chairs");
 }
 
 struct Product {
@@ -653,7 +654,7 @@ TEST(Columns, ArrowsGoToTheSameBoxOfTheNextRowOrItsDescription) {
     for (const int row : {3, 4}) {
         modPages::PlaceColumns(run.program, kSecond, row, modPages::Columns::On);
     }
-    modScroll::UpdatePageButtons(run.program, 1);
+    person::TurnTo(run.program, 1);
     Typist typist(run.program);
     typist.Click({kSecond, FieldKind::txtQty, 3});
     typist.Press(keys::kDown);
@@ -675,7 +676,8 @@ TEST(Columns, AQuantityAloneCountsAsUnsaved) {
     modPages::PlaceColumns(run.program, kSecond, 0, modPages::Columns::On);
     run.program.document.SavedTextBuf = run.program.document.CurrentTextBuf;
     modFields::SetText(run.program, {kSecond, FieldKind::txtQty, 0}, "5");
-    EXPECT_NE(run.program.document.CurrentTextBuf[1][0], run.program.document.SavedTextBuf[1][0]);
+    EXPECT_NE(run.program.document.CurrentTextBuf[PageId::frmP2][0],
+              run.program.document.SavedTextBuf[PageId::frmP2][0]);
 }
 
 TEST(TaxMarks, SetByTheMenuChangeTheTotalAtOnce) {
@@ -685,21 +687,21 @@ TEST(TaxMarks, SetByTheMenuChangeTheTotalAtOnce) {
     typist.Type("100");
     typist.Click(kSecond, 34);
     typist.Click(kSecond, 33);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     EXPECT_TRUE(run.program.main[CommandId::mnuEditTextTaxExempt].Enabled);
     modColumns::mnuEditTextTaxExempt_Click(run.program);
     EXPECT_TRUE(run.program.pages[kSecond].imgNoTax[33].Visible);
     EXPECT_EQ(run.program.pages[kSecond].imgNoTax[33].Tag, "");
-    EXPECT_TRUE(run.program.format.FormatTextChanges[1][33].TaxExempt);
+    EXPECT_TRUE(run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "0.00");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
     typist.Click(kSecond, 34);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "0.00");
     typist.Click(kSecond, 33);
     modColumns::mnuEditTextTaxable_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
     typist.Click(kSecond, 0);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     EXPECT_FALSE(run.program.main[CommandId::mnuEditTextTaxExempt].Enabled);
 }
 
@@ -708,8 +710,8 @@ TEST(Refire, RunsEveryHandlerWithTheRealText) {
     run.Area(kSecond, 0).Text = "Chairs";
     run.Area(kSecond, 33).Text = "25";
     modText::RefireTextChanges(run.program, kSecond);
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "Chairs");
-    EXPECT_EQ(run.program.totals.PageSum[1], 25.0F);
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "Chairs");
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 25.0F);
     EXPECT_FALSE(run.program.editing.RefireMode);
     run.program.document.FileName.clear();
     modText::RefireTextChanges(run.program, kFirst);

@@ -46,9 +46,9 @@ struct Formats : RunningProgram {
     void ExpectNoFormat() {
         EXPECT_FALSE(program.format.FormatOpen);
         EXPECT_EQ(program.format.FormatName, "");
-        EXPECT_FALSE(program.format.FormatLabelChanges[0][9].Changed);
+        EXPECT_FALSE(program.format.FormatLabelChanges[PageId::frmP1][9].Changed);
         EXPECT_FALSE(program.settings.LoadDefaultFormat);
-        EXPECT_EQ(program.main.Caption, "Quillbrook");
+        EXPECT_EQ(Main().Caption, "Quillbrook");
         EXPECT_EQ(Label(PageId::frmP1, 9).Caption, "Event Date");
     }
     void Type() {
@@ -82,7 +82,7 @@ TEST(FormatOpen, LaysTheChosenOneAndShowsItsName) {
     EXPECT_EQ(run.program.format.FormatFolder, run.folder / "Proposals/");
     EXPECT_FALSE(run.program.settings.LoadDefaultFormat);
     EXPECT_EQ(run.program.document.FileFilter, "*.hef");
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook - Format File = House.fmt");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook - Format File = House.fmt");
     const PageLabel& label = run.Label(PageId::frmP1, 9);
     EXPECT_EQ(label.Caption, "Day");
     EXPECT_EQ(label.Left, 1200);
@@ -118,7 +118,7 @@ TEST(FormatOpen, AnEmptyOneChangesNothingNotEvenTheCaption) {
     run.folder.Write("Proposals/Empty.fmt", "");
     run.Open("Empty.fmt");
     EXPECT_TRUE(run.program.format.FormatOpen);
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook");
     EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Event Date");
 }
 
@@ -209,7 +209,7 @@ TEST(FormatSave, WithoutANameAsksForOneAndAnEmptyAnswerStops) {
     modFormat::mnuFileFormatSave_Click(run.program);
     EXPECT_TRUE(run.folder.Has("Proposals/Barn.fmt"));
     EXPECT_EQ(run.program.format.FormatName, "Barn.fmt");
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook - Format File = Barn.fmt");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook - Format File = Barn.fmt");
 }
 
 TEST(FormatSave, WhenOnlyTextWasTypedIsRefused) {
@@ -395,7 +395,7 @@ TEST(FormatDefault, NewProposalsBeginWithItAfterARestart) {
     EXPECT_TRUE(later.program.format.FormatOpen);
     EXPECT_EQ(later.program.format.FormatName, "Barn.fmt");
     EXPECT_EQ(later.Label(PageId::frmP1, 9).Left, 1260);
-    EXPECT_EQ(later.program.main.Caption, "Quillbrook - Format File = Barn.fmt");
+    EXPECT_EQ(later.Main().Caption, "Quillbrook - Format File = Barn.fmt");
 }
 
 TEST(ChooserKinds, ATermsListBecomesTheListInUseAndTheWorkingFolderStays) {

@@ -1,11 +1,13 @@
 #include "format/format_file.h"
 
+#include "editing/columns.h"
 #include "format/format_commands.h"
 #include "format/format_lines.h"
 #include "format/format_save.h"
 #include "format/label_designer.h"
 #include "format/label_looks.h"
 #include "format/property_file.h"
+#include "pages/company_block.h"
 #include "pages/page_geometry.h"
 #include "pages/page_marks.h"
 #include "pages/row_fields.h"
@@ -55,7 +57,7 @@ TEST(FormatFile, ABoldStaysInForceForTheTextsAndMarksBehindIt) {
     EXPECT_FALSE(run.Area(PageId::frmP1, 10).FontBold);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 9), "Hall");
     EXPECT_EQ(run.program.pages[PageId::frmP1].imgNoTax[20].Tag, "");
-    EXPECT_TRUE(run.program.format.PropTextChanges[0][9].FontBold);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP1][9].FontBold);
 }
 
 TEST(FormatFile, AMarkTouchesAmountsOnly) {
@@ -63,7 +65,7 @@ TEST(FormatFile, AMarkTouchesAmountsOnly) {
     run.Lay({"frmP1.txt(10).TaxExempt=True", "frmP2.txt(33).TaxExempt=True"});
     EXPECT_EQ(run.program.pages[PageId::frmP1].imgNoTax[10].Tag, kHide);
     EXPECT_EQ(run.program.pages[PageId::frmP2].imgNoTax[33].Tag, "");
-    EXPECT_TRUE(run.program.format.FormatTextChanges[1][33].TaxExempt);
+    EXPECT_TRUE(run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt);
 }
 
 TEST(FormatFile, ARowsProductCountsAtOnceAndNothingIsUnsaved) {
@@ -231,7 +233,7 @@ TEST(PropertyLines, AFaultEndsTheReadingAndTheFileIsKept) {
     run.Open("Jane Roe.hef");
     EXPECT_TRUE(run.Area(PageId::frmP1, 10).FontBold);
     EXPECT_FALSE(run.Area(PageId::frmP1, 11).FontBold);
-    run.program.format.PropTextChanges[0][10].Dirty = true;
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
     run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
     ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
     EXPECT_NE(run.folder.Read("Proposals/Jane Roe.hpf.unread").find("Left=far"), std::string::npos);
@@ -261,7 +263,7 @@ TEST(PropertyLines, WhatAClientWasSentLooksTheSameWithoutTheFormat) {
 TEST(PropertyLines, SayThatAnAreaWhichItsFormatMakesBoldIsNot) {
     Laid run;
     run.Lay({"frmP1.txt(10).FontBold=True"});
-    run.program.format.PropTextChanges[0][10].FontBold = false;
+    run.program.format.PropTextChanges[PageId::frmP1][10].FontBold = false;
     const auto lines = modFormat::PropertyLinesNow(run.program);
     ASSERT_FALSE(lines.empty());
     EXPECT_EQ(lines[0], "frmP1.txt(10).FontBold=False");
@@ -439,6 +441,42 @@ TEST(FormatFile, ComesBackByteForByteFromRandomStates) {
         }
         FAIL() << "seed " << seed << ", " << changes << " changes\n" << difference;
     }
+}
+
+TEST(PropertyLines, ComeBackByteForByteFromRandomStates) {
+    constexpr unsigned kSeeds = 500;
+    Laid run;
+    for (unsigned seed = 1; seed <= kSeeds; ++seed) {
+        FormatRecords& format = run.program.format;
+        format.FormatOpen = false;
+        static_cast<void>(modReset::StartNewFile(run.program));
+        States(run, seed).Make(static_cast<int>(seed % 40) + 1);
+        format.PropLabelChanges = format.FormatLabelChanges;
+        modColumns::CollectQtyBoxes(run.program);
+        const auto first = modFormat::PropertyLinesNow(run.program);
+        static_cast<void>(modReset::StartNewFile(run.program));
+        format.PropertyLines = first;
+        modFormat::ParsePropertyFile(run.program);
+        ASSERT_FALSE(format.PropertyLinesRead) << "seed " << seed;
+        ASSERT_EQ(modFormat::PropertyLinesNow(run.program), first) << "seed " << seed;
+    }
+}
+
+TEST(CompanyLines, ThatAFormatCarriesChangeWithTheSettingsAndAreToSave) {
+    Laid run;
+    const std::string look = " .FontName=Arial .FontBold=False .FontSize=9 .ForeColor=0 .FontItalic=False "
+                             ".FontUnderline=False";
+    run.Lay({"frmP1.lbl(0).Left=1 .Top=2 .Caption=" + run.program.settings.CompanyName + look,
+             "frmP1.lbl(1).Left=1 .Top=2 .Caption=Round the corner" + look});
+    const SettingsRecords before = run.program.settings;
+    run.program.settings.CompanyName = "Acme and Daughters";
+    run.program.settings.CompanyAddress1 = "2 Main Street";
+    run.surroundings.questions.Expect("The open format still carries the old lines on disk; save it.");
+    modPages::CompanyInfoChanged(run.program, before);
+    EXPECT_EQ(run.Label(PageId::frmP1, 0).Caption, "Acme and Daughters");
+    EXPECT_EQ(run.Label(PageId::frmP1, 1).Caption, "Round the corner");
+    EXPECT_EQ(run.program.format.FormatLabelChanges[0][0].Caption, "Acme and Daughters");
+    EXPECT_FALSE(run.program.format.FormatLabelChanges[0][0].Saved);
 }
 
 } // namespace

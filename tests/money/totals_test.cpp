@@ -1,11 +1,9 @@
-#include "editing/keys.h"
 #include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_marks.h"
-#include "proposal/property_file.h"
-#include "proposal/proposal_save.h"
-#include "proposal/reset.h"
+#include "program/keys.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -43,9 +41,9 @@ TEST(RunningTotals, FollowAnAmountThatIsLeft) {
     // Tax on 1234.50 at 8.25 %: 101.84625.
     EXPECT_EQ(Figures(run), (Texts{"1,234.50", "1,234.50", "101.85", "1,336.35", "", "1,336.35"}));
     EXPECT_EQ(Figures(run, PageId::frmP6_1), Figures(run));
-    EXPECT_EQ(run.program.main.lblTotal.Caption, "Running Sub-Total = $ 1,234.50");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
-    EXPECT_EQ(run.program.totals.PageSum[2], 234.5F);
+    EXPECT_EQ(run.Main().lblTotal.Caption, "Running Sub-Total = $ 1,234.50");
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP3], 234.5F);
 }
 
 TEST(RunningTotals, AnExemptRowStillCountsInTheSubtotal) {
@@ -113,7 +111,7 @@ TEST(FullRecalculation, ItsMessageTellsTheFiguresOfThePass) {
          Buttons::Ok, ""},
         Answer::Ok);
     modTotals::cmdReCalc_Click(run.program);
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
 }
 
 TEST(HiddenTotals, AreEmptiedBothWaysAndTheDepositStays) {
@@ -122,7 +120,7 @@ TEST(HiddenTotals, AreEmptiedBothWaysAndTheDepositStays) {
     Amount(run, PageId::frmP6, 4, "30");
     modTotals::mnuOptHideTotals_Click(run.program);
     EXPECT_TRUE(run.program.totals.TotalsHidden);
-    EXPECT_FALSE(run.program.main.cmdReCalc.Visible);
+    EXPECT_FALSE(run.Main().cmdReCalc.Visible);
     EXPECT_EQ(Figures(run), (Texts{"", "", "", "", "30.00", ""}));
     EXPECT_EQ(Figures(run, PageId::frmP6_1), Figures(run));
     modTotals::RecalculateAll(run.program);
@@ -131,56 +129,29 @@ TEST(HiddenTotals, AreEmptiedBothWaysAndTheDepositStays) {
     EXPECT_EQ(Figures(run), (Texts{"", "", "", "", "30.00", ""}));
     EXPECT_FALSE(modTotals::TotalsDiffer(run.program)) << "a save finds nothing apart while they are hidden";
     modTotals::mnuOptHideTotals_Click(run.program);
-    EXPECT_TRUE(run.program.main.cmdReCalc.Visible);
+    EXPECT_TRUE(run.Main().cmdReCalc.Visible);
     EXPECT_EQ(Figures(run), (Texts{"", "", "", "", "30.00", ""}));
     modTotals::UpdateRunningTotals(run.program);
     EXPECT_EQ(Figures(run)[0], "150.00");
 }
 
-TEST(Discrepancy, TwoWaysOfAddingSinglesThatReallyDifferAreTold) {
-    RunningProgram run;
-    // By field: 16777216 + 1 + 1 stays 16777216 in singles. By page: 16777216 + (1 + 1) is 16777218.
-    for (const auto& [page, index, value] :
-         {std::tuple{PageId::frmP1, 20, 16777216.0F}, {PageId::frmP2, 33, 1.0F}, {PageId::frmP2, 34, 1.0F}}) {
-        run.Area(page, index).Text = value > 1 ? "16777216" : "1";
-        run.program.totals
-            .AmountTable[static_cast<std::size_t>(index)][static_cast<std::size_t>(IndexOf(page))] = value;
-        modPages::SetNoTaxMark(run.program, page, index, modPages::Mark::Shown);
-    }
-    modTotals::CalculateMyTotals(run.program, PageId::frmP1);
-    modTotals::CalculateMyTotals(run.program, PageId::frmP2);
-    run.program.document.FileName = "X.hef";
-    run.program.document.BaseName = "X";
-    run.surroundings.questions.ExpectBox(
-        {"A descrepancy has occurred in calculating the totals. Please verify\r\n"
-         "the total amounts manually or press \"Recalculate\" to continue the\r\n"
-         "calculation without true verification. We apologize for the inconvenience.",
-         Buttons::Ok, ""},
-        Answer::Ok);
-    run.surroundings.questions.Expect("File was saved as X.hef");
-    EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
-    EXPECT_EQ(run.program.totals.FullTotal, 16777216.0F);
-    EXPECT_EQ(run.program.totals.RunningTotal, 16777218.0F);
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
-}
-
 TEST(ExemptMark, AClickTakesTheRowBackAtOnce) {
     RunningProgram run;
     Amount(run, PageId::frmP2, 33, "100");
-    run.program.format.PropTextChanges[1][33].TaxExempt = true;
-    run.program.format.FormatTextChanges[1][33].TaxExempt = true;
+    run.program.format.PropTextChanges[PageId::frmP2][33].TaxExempt = true;
+    run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt = true;
     modPages::SetNoTaxMark(run.program, PageId::frmP2, 33, modPages::Mark::Shown);
     modTotals::CalculateMyTotals(run.program, PageId::frmP2);
     modTotals::UpdateRunningTotals(run.program);
     EXPECT_EQ(Figures(run)[1], "0.00");
     modTotals::imgNoTax_Click(run.program, PageId::frmP2, 33);
     EXPECT_EQ(Figures(run)[1], "100.00");
-    EXPECT_EQ(run.program.totals.TaxableTable[33][1], 100.0F);
+    EXPECT_EQ(run.program.totals.TaxableTable[33][PageId::frmP2], 100.0F);
     EXPECT_EQ(run.program.pages[PageId::frmP2].imgNoTax[33].Tag, "Hide");
-    EXPECT_FALSE(run.program.format.PropTextChanges[1][33].TaxExempt);
-    EXPECT_FALSE(run.program.format.FormatTextChanges[1][33].TaxExempt);
-    EXPECT_TRUE(run.program.format.PropTextChanges[1][33].Dirty);
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP2][33].TaxExempt);
+    EXPECT_FALSE(run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP2][33].Dirty);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
     EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP2, FieldKind::txt, 33}));
 }
 
@@ -193,10 +164,10 @@ TEST(FinalPage, ATypedDepositIsTakenAndTheButtonEndsRed) {
     EXPECT_EQ(run.program.totals.Deposit, 40);
     EXPECT_EQ(Figures(run)[5], "68.25");
     EXPECT_EQ(run.TextOf(PageId::frmP6_1, 4), "40");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
     typist.Click(PageId::frmP6, 1);
     EXPECT_EQ(Figures(run)[4], "40.00");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
 }
 
 TEST(FinalPage, AFigureTypedOverTaxOrTaxableIsReplacedAtOnce) {
@@ -211,7 +182,7 @@ TEST(FinalPage, AFigureTypedOverTaxOrTaxableIsReplacedAtOnce) {
     typist.PutCursor(0, 6);
     typist.Type("7");
     EXPECT_EQ(Figures(run)[1], "100.00");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
 }
 
 TEST(FinalPage, ADepositThatIsNoNumberStaysAndCountsAsNothing) {
@@ -227,7 +198,7 @@ TEST(FinalPage, ADepositThatIsNoNumberStaysAndCountsAsNothing) {
     modTotals::SumAgain(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "-") << "the text stays for the person to mend";
     EXPECT_EQ(run.Area(PageId::frmP6, 4).BackColor, colors::kOverLimit);
-    static_cast<void>(modReset::StartNewFile(run.program));
+    person::StartAnew(run.program);
     EXPECT_EQ(run.Area(PageId::frmP6, 4).ToolTipText, "") << "it goes with its proposal";
     modFields::TypeText(run.program, {PageId::frmP6, FieldKind::txt, 4}, "-", 1, 0);
     modFields::TypeText(run.program, {PageId::frmP6, FieldKind::txt, 4}, "40", 2, 0);
@@ -408,7 +379,7 @@ TEST(RunningTotals, AnAmountThatNoSingleHoldsIsNone) {
     RunningProgram run;
     run.Area(PageId::frmP2, 33).Text = "1e39";
     EXPECT_FALSE(modTotals::StoreAmount(run.program, PageId::frmP2, 33));
-    EXPECT_EQ(run.program.totals.AmountTable[33][1], 0);
+    EXPECT_EQ(run.program.totals.AmountTable[33][PageId::frmP2], 0);
     EXPECT_FALSE(run.Label(PageId::frmP2, 1).Visible);
 }
 
@@ -445,7 +416,7 @@ TEST(FinalPage, WhileAFileIsReadItsAreasAreMirroredAndTakenForNothing) {
     modFields::SetText(run.program, {PageId::frmP6, FieldKind::txt, 4}, "75");
     EXPECT_EQ(run.TextOf(PageId::frmP6_1, 4), "75");
     EXPECT_EQ(run.program.totals.Deposit, 0);
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
 }
 
 } // namespace

@@ -49,7 +49,7 @@ TEST(PagesInUse, TakesBlanksForNoLine) {
 
 TEST(PagesInUse, GoesByTheTextsOnThePagesAndNotByThoseLastSaved) {
     RunningProgram run;
-    run.program.document.SavedTextBuf[4][0] = "saved long ago";
+    run.program.document.SavedTextBuf[PageId::frmP5][0] = "saved long ago";
     SetLine(run, PageId::frmP2, 0, "now");
     modPrint::CountPagesInUse(run.program);
     EXPECT_EQ(run.program.document.PagesInUse, 3);
@@ -84,7 +84,7 @@ TEST_P(NumberedPages, StandOnEveryPage) {
     EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Acme - Page 2");
     EXPECT_EQ(run.Label(PageId::frmP5, 0).Caption, "Acme - Page 5");
     EXPECT_EQ(run.Label(PageId::frmP2, 35).Caption, continued);
-    EXPECT_EQ(run.program.main.lblHighestPage.Caption,
+    EXPECT_EQ(run.Main().lblHighestPage.Caption,
               "Utilizing " + std::to_string(used) + " of 6 Available Pages");
 }
 
@@ -96,7 +96,7 @@ TEST(Headings, AreCentredAndKeptWithTheProposal) {
     run.program.document.PageHeading = "Acme - ";
     modPrint::SetPageNumbers(run.program);
     EXPECT_EQ(run.Label(PageId::frmP2, 0).Left, 5470);
-    const LabelChangeRecord& kept = run.program.format.PropLabelChanges[1][0];
+    const LabelChangeRecord& kept = run.program.format.PropLabelChanges[PageId::frmP2][0];
     EXPECT_TRUE(kept.Changed);
     EXPECT_EQ(kept.Caption, "Acme - Page 2");
     EXPECT_EQ(kept.Left, 5470);
@@ -105,7 +105,7 @@ TEST(Headings, AreCentredAndKeptWithTheProposal) {
     // "Acme - Page 6": as long.
     EXPECT_EQ(run.Label(PageId::frmP6, 0).Left, 5470);
     EXPECT_EQ(run.Label(PageId::frmP6_1, 0).Left, 5470);
-    EXPECT_EQ(run.program.format.PropLabelChanges[5][0].Caption, "Acme - Page 6");
+    EXPECT_EQ(run.program.format.PropLabelChanges[PageId::frmP6][0].Caption, "Acme - Page 6");
 }
 
 TEST(PageNumbers, HeadingsAreKeptWithTheProposalAsTheyLook) {
@@ -121,7 +121,7 @@ TEST(PageNumbers, HeadingsAreKeptWithTheProposalAsTheyLook) {
     heading.FontUnderline = true;
     heading.ForeColor = 0x0000FF;
     modPrint::SetPageNumbers(run.program);
-    const LabelChangeRecord& kept = run.program.format.PropLabelChanges[1][0];
+    const LabelChangeRecord& kept = run.program.format.PropLabelChanges[PageId::frmP2][0];
     EXPECT_TRUE(kept.Changed);
     EXPECT_EQ(kept.Caption, heading.Caption);
     EXPECT_EQ(kept.Left, 1000) << "somebody has put it there";
@@ -136,8 +136,10 @@ TEST(PageNumbers, HeadingsAreKeptWithTheProposalAsTheyLook) {
         EXPECT_TRUE(run.program.format.PropLabelChanges[page][0].Changed);
     }
     EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 3");
-    EXPECT_FALSE(run.program.format.PropLabelChanges[0][31].Changed) << "the number alone is no change";
-    EXPECT_FALSE(run.program.format.PropLabelChanges[0][0].Changed) << "page 1 has no running heading";
+    EXPECT_FALSE(run.program.format.PropLabelChanges[PageId::frmP1][31].Changed)
+        << "the number alone is no change";
+    EXPECT_FALSE(run.program.format.PropLabelChanges[PageId::frmP1][0].Changed)
+        << "page 1 has no running heading";
 }
 
 TEST(Footers, SayOfSixUntilAPrintCommandHasRun) {

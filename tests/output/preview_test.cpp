@@ -1,9 +1,7 @@
 #include "output/preview.h"
 
 #include "program/program.h"
-#include "shell/command_run.h"
-#include "shell/frm_main.h"
-#include "shell/page_switch.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -16,13 +14,13 @@ TEST(Preview, FlipsTheCaptionAndTheTwoEntriesAreOpposite) {
     MainWindow& main = run.program.main;
     EXPECT_TRUE(main[CommandId::mnuFilePrintPreview].Enabled);
     EXPECT_FALSE(main[CommandId::mnuFileResume].Enabled);
-    commands::Run(run.program, CommandId::mnuFilePrintPreview);
+    person::Choose(run.program, CommandId::mnuFilePrintPreview);
     EXPECT_EQ(main.cmdPreview.Caption, "Resume Editing");
     EXPECT_FALSE(main[CommandId::mnuFilePrintPreview].Enabled);
     EXPECT_TRUE(main[CommandId::mnuFileResume].Enabled);
     EXPECT_TRUE(run.program.pages[PageId::frmP1].InkShown);
     EXPECT_EQ(run.program.printing.PrintFormName, "frmP1");
-    commands::Run(run.program, CommandId::mnuFileResume);
+    person::Choose(run.program, CommandId::mnuFileResume);
     EXPECT_EQ(main.cmdPreview.Caption, "Print Preview");
     EXPECT_TRUE(main[CommandId::mnuFilePrintPreview].Enabled);
     EXPECT_FALSE(main[CommandId::mnuFileResume].Enabled);
@@ -32,11 +30,11 @@ TEST(Preview, FlipsTheCaptionAndTheTwoEntriesAreOpposite) {
 TEST(Preview, ChangesNothingOfTheProposal) {
     RunningProgram run;
     TypeJaneRoe(run);
-    modScroll::UpdatePageButtons(run.program, 1);
+    person::TurnTo(run.program, 1);
     const Page before = run.program.pages[PageId::frmP2];
     const float total = run.program.totals.Total;
-    frmMain(run.program).cmdPreview_Click();
-    frmMain(run.program).cmdPreview_Click();
+    person::ClickPreviewButton(run.program);
+    person::ClickPreviewButton(run.program);
     const Page& after = run.program.pages[PageId::frmP2];
     EXPECT_EQ(after.txt, before.txt);
     EXPECT_EQ(after.lbl, before.lbl);
@@ -65,10 +63,10 @@ TEST(Preview, EndsWhenAPageIsChosen) {
     for (int from = 0; from < kEditedPageCount; ++from) {
         for (int to = 0; to < kPageCount; ++to) {
             RunningProgram run;
-            modScroll::UpdatePageButtons(run.program, from);
+            person::TurnTo(run.program, from);
             modPrint::TogglePreview(run.program);
             ASSERT_TRUE(run.program.pages[PageAt(from)].InkShown);
-            modScroll::UpdatePageButtons(run.program, to);
+            person::TurnTo(run.program, to);
             EXPECT_EQ(run.program.main.cmdPreview.Caption, "Print Preview");
             EXPECT_FALSE(run.program.pages[PageAt(from)].InkShown);
             EXPECT_FALSE(run.program.pages[PageAt(to)].InkShown);
@@ -80,8 +78,8 @@ TEST(Preview, EndsWhenAPageIsChosen) {
 
 TEST(Preview, OfTheClientsCopyDrawsThePageShownBeforeIt) {
     RunningProgram run;
-    modScroll::UpdatePageButtons(run.program, 2);
-    modScroll::UpdatePageButtons(run.program, 6);
+    person::TurnTo(run.program, 2);
+    person::TurnTo(run.program, 6);
     modPrint::TogglePreview(run.program);
     EXPECT_TRUE(run.program.pages[PageId::frmP3].InkShown);
     EXPECT_FALSE(run.program.pages[PageId::frmP6_1].InkShown);
@@ -91,7 +89,7 @@ TEST(Preview, StaysWhenTheWindowChangesItsSize) {
     RunningProgram run;
     modPrint::TogglePreview(run.program);
     run.program.main.ClientHeight = 7000;
-    modScroll::MDIForm_Resize(run.program);
+    person::ResizeWindow(run.program);
     EXPECT_TRUE(run.program.pages[PageId::frmP1].InkShown);
 }
 
@@ -110,28 +108,28 @@ TEST(Preview, TakesNoCharacters) {
 TEST(Preview, RefusesTheCommandsThatEditThePage) {
     RunningProgram run;
     Typist typist(run.program);
-    modScroll::UpdatePageButtons(run.program, 1);
+    person::TurnTo(run.program, 1);
     typist.Click(PageId::frmP2, 0);
     modPrint::TogglePreview(run.program);
     run.surroundings.questions.ExpectBox({"Please click \"Resume Editing\" first.", Buttons::Ok, ""},
                                          Answer::Ok);
-    commands::Run(run.program, CommandId::mnuEditTextColumns);
+    person::Choose(run.program, CommandId::mnuEditTextColumns);
     run.surroundings.questions.Done();
     EXPECT_EQ(run.Area(PageId::frmP2, 0).Width, 8640);
-    commands::Run(run.program, CommandId::mnuFilePrintPage2);
+    person::Choose(run.program, CommandId::mnuFilePrintPage2);
     EXPECT_EQ(run.surroundings.printers.Named.size(), 1U) << "printing goes on";
 }
 
 TEST(Preview, IsDrawnAnewWhenAPageIsPrintedMeanwhile) {
     RunningProgram run;
-    run.program.document.CurrentTextBuf[0][2] = "Jane";
+    run.program.document.CurrentTextBuf[PageId::frmP1][2] = "Jane";
     modPrint::TogglePreview(run.program);
     const int drawn = run.program.pages[PageId::frmP1].InkVersion;
     run.surroundings.events.OnYield = [&] {
         EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 2");
         EXPECT_GT(run.program.pages[PageId::frmP1].InkVersion, drawn) << "with the new numbers";
     };
-    commands::Run(run.program, CommandId::mnuFilePrintPage6);
+    person::Choose(run.program, CommandId::mnuFilePrintPage6);
     EXPECT_GT(run.program.pages[PageId::frmP1].InkVersion, drawn);
     EXPECT_TRUE(run.program.pages[PageId::frmP1].InkShown) << "and it stays";
     EXPECT_EQ(run.program.main.cmdPreview.Caption, "Resume Editing");
@@ -140,12 +138,12 @@ TEST(Preview, IsDrawnAnewWhenAPageIsPrintedMeanwhile) {
 TEST(Preview, BringsTheTotalsUpToDateWhenTheButtonIsRed) {
     RunningProgram run;
     Typist typist(run.program);
-    modScroll::UpdatePageButtons(run.program, 1);
+    person::TurnTo(run.program, 1);
     typist.Click(PageId::frmP2, 33);
     typist.Type("20");
     typist.Click(PageId::frmP2, 0);
     run.Area(PageId::frmP6, 0).Text = "stale";
-    run.program.main.cmdReCalc.BackColor = colors::kOverLimit;
+    run.program.totals.TotalsStale = true;
     modPrint::TogglePreview(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "20.00");
 }

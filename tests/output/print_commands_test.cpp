@@ -181,7 +181,7 @@ TEST(PrintPage, NumbersThePagesFirst) {
     EXPECT_EQ(run.program.document.PagesInUse, 3);
     EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 3");
     EXPECT_EQ(run.Label(PageId::frmP6_1, 63).Caption, "Page 3 of 3");
-    EXPECT_EQ(run.program.main.lblHighestPage.Caption, "Utilizing 3 of 6 Available Pages");
+    EXPECT_EQ(run.Main().lblHighestPage.Caption, "Utilizing 3 of 6 Available Pages");
     const auto& document = run.surroundings.printers.Paper.Documents.at(0);
     EXPECT_TRUE(std::any_of(document.begin(), document.end(),
                             [](const DrawCall& call) { return call.Text == "Page 1 of 3"; }));

@@ -1,9 +1,7 @@
 #include "output/print_page.h"
 
 #include "program/program.h"
-#include "shell/command_run.h"
-#include "shell/frm_main.h"
-#include "shell/page_switch.h"
+#include "support/person.h"
 #include "support/recording_platform.h"
 #include "support/running_program.h"
 #include "support/typist.h"
@@ -368,22 +366,22 @@ TEST(PrintTheForm, WhatIsTypedWhileEventsRunReachesTheProposal) {
     };
     modPrint::PrintTheForm(run.program, PageId::frmP1);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "Hall");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][8], "Hall");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][8], "Hall");
 }
 
 /// A thousand at 8.25 % makes 1082.5; the running figures write it with a comma and two decimals.
 TEST(PrintTheForm, BringsTheTotalsUpToDateFirstWhenTheButtonIsRed) {
     RunningProgram run;
     Typist typist(run.program);
-    modScroll::UpdatePageButtons(run.program, 1);
+    person::TurnTo(run.program, 1);
     typist.Click(PageId::frmP2, 33);
     typist.Type("1000");
     typist.Click(PageId::frmP2, 0);
     run.Area(PageId::frmP6, 3).Text = "stale";
-    run.program.main.cmdReCalc.BackColor = colors::kOverLimit;
+    run.program.totals.TotalsStale = true;
     modPrint::PrintTheForm(run.program, PageId::frmP6);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 3), "1,082.50");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
     EXPECT_TRUE(Printed(run, "1,082.50"));
     EXPECT_FALSE(Printed(run, "stale"));
 }
@@ -397,7 +395,7 @@ TEST(PrintEntries, PrintTheirOwnPage) {
         {CommandId::mnuFilePrintPage6_1, "frmP6_1"}};
     for (const auto& [entry, page] : entries) {
         RunningProgram run;
-        commands::Run(run.program, entry);
+        person::Choose(run.program, entry);
         ASSERT_EQ(run.surroundings.printers.Named.size(), 1U);
         EXPECT_EQ(run.surroundings.printers.Named[0].first, page);
         EXPECT_EQ(run.program.printing.PrintFormName, page);
@@ -406,15 +404,15 @@ TEST(PrintEntries, PrintTheirOwnPage) {
 
 TEST(PrintEntries, TheToolButtonPrintsAllPages) {
     RunningProgram run;
-    run.program.document.CurrentTextBuf[0][2] = "Jane";
-    frmMain(run.program).imgPrint_Click();
+    run.program.document.CurrentTextBuf[PageId::frmP1][2] = "Jane";
+    person::ClickPrintButton(run.program);
     EXPECT_EQ(run.surroundings.printers.Named.size(), 3U);
 }
 
 TEST(PrintEntries, TheCopiesOfTheFinalPageDifferInTheirSubtitle) {
     RunningProgram run;
     const auto captions = [&](CommandId entry) {
-        commands::Run(run.program, entry);
+        person::Choose(run.program, entry);
         std::vector<std::string> texts;
         for (const DrawCall& call : run.surroundings.printers.Paper.Documents.back()) {
             texts.push_back(call.Text);
@@ -445,27 +443,29 @@ TEST(PrintTheForm, UnderlinesCategoriesWhenTheOptionIsChecked) {
                              [](const DrawCall& call) { return call.Op == What::Line; });
     };
     EXPECT_EQ(lines(), 0);
-    commands::Run(run.program, CommandId::mnuOptUnderline);
+    person::Choose(run.program, CommandId::mnuOptUnderline);
     EXPECT_EQ(lines(), 1);
-    commands::Run(run.program, CommandId::mnuOptUnderline);
+    person::Choose(run.program, CommandId::mnuOptUnderline);
     EXPECT_EQ(lines(), 0);
 }
 
-TEST(PrintTheForm, PrintsTheTotalsAsTheyStandOtherwise) {
+TEST(PrintTheForm, TakesTheTotalsFreshWhateverColourTheButtonHas) {
     RunningProgram run;
     run.Area(PageId::frmP6, 3).Text = "12.00";
+    run.Area(PageId::frmP2, 33).Text = "100";
     modPrint::PrintTheForm(run.program, PageId::frmP6);
-    EXPECT_TRUE(Printed(run, "12.00"));
+    EXPECT_FALSE(Printed(run, "12.00"));
+    EXPECT_TRUE(Printed(run, "108.25"));
 }
 
 TEST(PrintTheForm, PrintsHiddenTotalsAsNothing) {
     RunningProgram run;
     Typist typist(run.program);
-    modScroll::UpdatePageButtons(run.program, 1);
+    person::TurnTo(run.program, 1);
     typist.Click(PageId::frmP2, 33);
     typist.Type("1000");
     typist.Click(PageId::frmP2, 0);
-    commands::Run(run.program, CommandId::mnuOptHideTotals);
+    person::Choose(run.program, CommandId::mnuOptHideTotals);
     modPrint::PrintTheForm(run.program, PageId::frmP6_1);
     EXPECT_FALSE(Printed(run, "1,000.00"));
     EXPECT_FALSE(Printed(run, "1,082.50"));

@@ -2,8 +2,8 @@
 
 #include "base/files.h"
 #include "output/proposal_text.h"
-#include "editing/keys.h"
 #include "pages/row_fields.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "support/running_program.h"
 #include "support/typist.h"

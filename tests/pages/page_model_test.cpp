@@ -2,7 +2,6 @@
 #include "pages/page_geometry.h"
 #include "pages/page_marks.h"
 #include "pages/titles.h"
-#include "proposal/reset.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -333,58 +332,6 @@ TEST(PageModel, ASecondAddressLineMakesTheRemittanceBoxTaller) {
     EXPECT_EQ(page.lne[14].Y1, 14760);
 }
 
-TEST(PageModel, TheAlternateLetterheadBringsTheContractWordingAndStaysForTheRun) {
-    RunningProgram run(RunningProgram::Begin::NotStarted);
-    run.folder.Write("Proposals/SNF Settings.txt", "");
-    run.Start();
-    const auto& lbl = run.program.pages[PageId::frmP1].lbl;
-    const float tops[] = {1080, 1440, 1800, 2160, 2520, 2880, 2160, 2520, 2880};
-    for (std::size_t index = 0; index < 9; ++index) {
-        EXPECT_EQ(lbl[index].Caption, "");
-        EXPECT_EQ(lbl[index].Left, index < 6 ? 1080 : 7560);
-        EXPECT_EQ(lbl[index].Top, tops[index]);
-        EXPECT_EQ(lbl[index].FontSize, 9.75F);
-    }
-    EXPECT_EQ(run.Label(PageId::frmP6, 13).Caption,
-              "All creative ideas in this proposal are the sole property of Acme Events");
-    EXPECT_EQ(run.Label(PageId::frmP6, 32).Caption, "Acme Events is not responsible for lighting candles at "
-                                                    "the event except for those candles out of ordinary");
-    EXPECT_EQ(run.Label(PageId::frmP6_1, 42).Caption,
-              "** Please note that if this is not returned by ____________ there "
-              "can not be any major changes made to this event.");
-    EXPECT_EQ(run.Label(PageId::frmP6, 43).Caption, "");
-    std::filesystem::remove(run.folder / "Proposals/SNF Settings.txt");
-    static_cast<void>(modReset::StartNewFile(run.program));
-    EXPECT_EQ(run.Label(PageId::frmP1, 0).Caption, "");
-}
-
-TEST(PageModel, AResetHidesALabelThatReadsLikeTheSymbolWhoeverTypedIt) {
-    RunningProgram run;
-    run.Label(PageId::frmP1, 9).Caption = "$";
-    modPages::HideOptionalFields(run.program);
-    EXPECT_FALSE(run.Label(PageId::frmP1, 9).Visible);
-    EXPECT_EQ(run.Label(PageId::frmP1, 9).Tag, "Hide");
-    static_cast<void>(modReset::StartNewFile(run.program));
-    EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Event Date");
-    EXPECT_TRUE(run.Label(PageId::frmP1, 9).Visible);
-}
-
-TEST(PageModel, AResetBringsBackWhatWasMovedAndReworded) {
-    RunningProgram run;
-    PageLabel& label = run.Label(PageId::frmP2, 0);
-    label.Left = 1;
-    label.Caption = "Other";
-    label.ForeColor = 0xFF;
-    static_cast<void>(modReset::StartNewFile(run.program));
-    EXPECT_EQ(label.Left, 3130);
-    EXPECT_EQ(label.Caption, "Acme Events - Event Proposal - Page 2");
-    EXPECT_EQ(label.ForeColor, 0U);
-    const LabelBase& base = run.program.pages[PageId::frmP2].LabelBaseState[0];
-    EXPECT_EQ(base.Left, 3130);
-    EXPECT_EQ(base.FontSize, 15.75F);
-    EXPECT_EQ(run.program.pages[PageId::frmP6].LabelBaseState.size(), 65U);
-}
-
 TEST(PageModel, FontsGoToAreasRowLabelsAndSignsAndBoldComesBack) {
     RunningProgram run;
     Program& program = run.program;
@@ -392,8 +339,8 @@ TEST(PageModel, FontsGoToAreasRowLabelsAndSignsAndBoldComesBack) {
     program.run.DefaultFontSize = 8;
     program.run.DefaultFontColor = 0x123456;
     program.run.DefaultFontItalic = true;
-    program.format.PropTextChanges[1][3].FontBold = true;
-    program.format.PropTextChanges[5][4].FontBold = true;
+    program.format.PropTextChanges[PageId::frmP2][3].FontBold = true;
+    program.format.PropTextChanges[PageId::frmP6][4].FontBold = true;
     modPages::ApplyPageFonts(program);
     for (const PageId page : kAllPages) {
         EXPECT_EQ(program.pages[page].FontName, "Arial");
@@ -437,14 +384,6 @@ TEST(PageModel, ToolTipsTellOfTheDoubleClick) {
     EXPECT_EQ(run.Area(PageId::frmP1, 10).ToolTipText, "");
 }
 
-TEST(PageModel, StartUpKeepsTheLabelsPlacesAndAResetEmptiesThem) {
-    RunningProgram run;
-    EXPECT_EQ(run.program.format.PropLabelChanges[0][9].Left, 1080);
-    EXPECT_EQ(run.program.format.PropLabelChanges[5][64].Top, 15030);
-    static_cast<void>(modReset::StartNewFile(run.program));
-    EXPECT_EQ(run.program.format.PropLabelChanges[0][9].Left, 0);
-}
-
 TEST(PageModel, TitlesAreCentredOnEveryPage) {
     RunningProgram run;
     run.program.document.ClientCaption = "Proposal for Jane Roe"; // 21 characters
@@ -454,9 +393,9 @@ TEST(PageModel, TitlesAreCentredOnEveryPage) {
     EXPECT_EQ(run.Label(PageId::frmP6, 64).Caption, "Proposal for Jane Roe - Our Copy"); // 32 characters
     EXPECT_EQ(run.Label(PageId::frmP6, 64).Left, 6120 - 1600);
     EXPECT_EQ(run.Label(PageId::frmP6_1, 64).Caption, "Proposal for Jane Roe - Client's Copy");
-    EXPECT_EQ(run.program.main.lblEvent.Caption, "Proposal for Jane Roe");
+    EXPECT_EQ(run.Main().lblEvent.Caption, "Proposal for Jane Roe");
     modTitles::LayTitles(run.program);
-    EXPECT_EQ(run.program.format.PropLabelChanges[0][33].Caption, "Proposal for Jane Roe");
+    EXPECT_EQ(run.program.format.PropLabelChanges[PageId::frmP1][33].Caption, "Proposal for Jane Roe");
 }
 
 TEST(Geometry, PairsAmountsWithTheirRowsAndSigns) {

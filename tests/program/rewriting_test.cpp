@@ -2,7 +2,7 @@
 
 #include "base/files.h"
 #include "support/failing_disk.h"
-#include "support/running_program.h"
+#include "support/settled.h"
 
 #include <gtest/gtest.h>
 
@@ -14,12 +14,12 @@ using modFile::Rewriting;
 constexpr const char* kQuestion =
     "This terms list was changed by another program since you opened it. Overwrite it?";
 
-Rewriting WriteOver(RunningProgram& run, files::Seen& seen) {
+Rewriting WriteOver(Settled& run, files::Seen& seen) {
     return modFile::Rewrite(run.program, run.folder / "list", "new", seen, "terms list");
 }
 
 TEST(Rewriting, AFileThatIsAsItWasSeenIsOverwrittenWithoutAQuestion) {
-    RunningProgram run(RunningProgram::Begin::NotStarted);
+    Settled run;
     run.folder.Write("list", "old");
     files::Seen seen = files::SeenIn("old");
     EXPECT_EQ(WriteOver(run, seen), Rewriting::Done);
@@ -29,7 +29,7 @@ TEST(Rewriting, AFileThatIsAsItWasSeenIsOverwrittenWithoutAQuestion) {
 }
 
 TEST(Rewriting, SomebodyElsesChangeIsAskedAboutAndNoKeepsIt) {
-    RunningProgram run(RunningProgram::Begin::NotStarted);
+    Settled run;
     run.folder.Write("list", "other");
     files::Seen seen = files::SeenIn("old");
     run.surroundings.questions.ExpectBox({kQuestion, Buttons::YesNo, ""}, Answer::No);
@@ -43,7 +43,7 @@ TEST(Rewriting, SomebodyElsesChangeIsAskedAboutAndNoKeepsIt) {
 }
 
 TEST(Rewriting, AFileThatCouldNotBeReadIsKept) {
-    RunningProgram run(RunningProgram::Begin::NotStarted);
+    Settled run;
     run.folder.Write("list", "never read");
     files::Seen seen{files::Seen::What::Unread, 0, 0};
     EXPECT_EQ(WriteOver(run, seen), Rewriting::Done);
@@ -52,7 +52,7 @@ TEST(Rewriting, AFileThatCouldNotBeReadIsKept) {
 }
 
 TEST(Rewriting, AFailedWriteLeavesTheFileAndWhatIsKnownOfIt) {
-    RunningProgram run(RunningProgram::Begin::NotStarted);
+    Settled run;
     run.folder.Write("list", "old");
     files::Seen seen = files::SeenIn("old");
     const FailingDisk disk{{FailingDisk::Call::Flush, 1, EIO}};

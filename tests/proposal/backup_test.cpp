@@ -1,12 +1,13 @@
 #include "proposal/backup.h"
 
 #include "base/colors.h"
-#include "editing/keys.h"
 #include "pages/fields.h"
+#include "program/keys.h"
 #include "proposal/lifecycle.h"
 #include "proposal/proposal_save.h"
-#include "shell/closing.h"
 #include "support/failing_disk.h"
+#include "support/interruption.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -111,9 +112,9 @@ TEST(Backup, LeavesTheProposalAsItWas) {
     const TotalsRecords totals = run.program.totals;
     const auto lines = run.program.format.PropertyLines;
     const std::map<std::string, std::string> files = run.Files();
-    const std::string title = run.program.main.Caption;
+    const std::string title = run.Main().Caption;
     const auto focus = run.program.main.Focus;
-    const Color button = run.program.main.cmdReCalc.BackColor;
+    const Color button = run.Main().cmdReCalc.BackColor;
     modFile::BackupThisFile(run.program);
     const DocumentState& after = run.program.document;
     EXPECT_EQ(after.FileName, before.FileName);
@@ -127,9 +128,9 @@ TEST(Backup, LeavesTheProposalAsItWas) {
     EXPECT_EQ(run.program.totals.SubTotal, totals.SubTotal);
     EXPECT_EQ(run.program.totals.AmountTable, totals.AmountTable);
     EXPECT_EQ(run.program.format.PropertyLines, lines);
-    EXPECT_EQ(run.program.main.Caption, title);
+    EXPECT_EQ(run.Main().Caption, title);
     EXPECT_EQ(run.program.main.Focus, focus);
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, button);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, button);
     EXPECT_TRUE(modProposal::SomethingChanged(run.program));
     std::map<std::string, std::string> now = run.Files();
     EXPECT_EQ(now.erase("Proposals/Backup/Ann.hef"), 1U);
@@ -147,7 +148,7 @@ TEST(Backup, ClosingAfterOneStillAsks) {
     ASSERT_TRUE(run.folder.Has("Proposals/Backup/Ann.hef"));
     EXPECT_FALSE(run.program.document.FileExists);
     run.surroundings.questions.Expect("The file has been changed. Do you want to save it?", Answer::Cancel);
-    EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program));
+    EXPECT_FALSE(person::MayClose(run.program));
 }
 
 TEST(Backup, TheClientsNameGoesOnMakingTheProposalsAfterOne) {
@@ -159,7 +160,7 @@ TEST(Backup, TheClientsNameGoesOnMakingTheProposalsAfterOne) {
     const std::string client = run.TextOf(PageId::frmP1, 2);
     EXPECT_EQ(run.program.document.FileName, client + ".hef");
     EXPECT_EQ(run.program.document.ClientCaption, "Proposal for " + client);
-    EXPECT_NE(run.program.main.Caption.find(client + ".hef"), std::string::npos);
+    EXPECT_NE(run.Main().Caption.find(client + ".hef"), std::string::npos);
 }
 
 TEST(Backup, ReplacesAReadOnlyOne) {
@@ -207,15 +208,15 @@ TEST(Backup, TakesThePropertiesAlongAndLeavesThemUnsaved) {
     run.SaveAnn();
     run.program.hooks.AssignPropChanges = [](Program& program) {
         program.format.PropertyLines = {"frmP1.lbl(3).Left=900"};
-        program.format.PropTextChanges[0][20].Dirty = false;
+        program.format.PropTextChanges[PageId::frmP1][20].Dirty = false;
     };
-    run.program.format.PropTextChanges[0][20].Dirty = true;
+    run.program.format.PropTextChanges[PageId::frmP1][20].Dirty = true;
     modFile::BackupThisFile(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Ann.hpf"), "frmP1.lbl(3).Left=900\r\n");
     EXPECT_TRUE(run.program.format.PropertyLines.empty());
     EXPECT_TRUE(modFile::PropertiesChanged(run.program));
     EXPECT_FALSE(run.folder.Has("Proposals/Ann.hpf"));
-    run.program.format.PropTextChanges[0][20].Dirty = false;
+    run.program.format.PropTextChanges[PageId::frmP1][20].Dirty = false;
     modFile::BackupThisFile(run.program);
     EXPECT_FALSE(run.folder.Has("Proposals/Backup/Ann.hpf")) << "the properties of an earlier state";
 }
@@ -236,7 +237,7 @@ TEST(Backup, AnInterruptionWritesItAndTheRunEndsWithoutAQuestion) {
     Working run;
     run.SaveAnn();
     run.Fill(PageId::frmP1, 3, "!");
-    modClosing::Interrupted(run.program);
+    Interrupt(run.program);
     EXPECT_TRUE(run.surroundings.events.QuitAsked);
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Ann.hef").size(), 20630U);
     EXPECT_NE(run.folder.Read("Proposals/Backup/Ann.hef"), run.folder.Read("Proposals/Ann.hef"));
@@ -246,7 +247,7 @@ TEST(Backup, AnInterruptionWritesItAndTheRunEndsWithoutAQuestion) {
 TEST(Backup, AnInterruptionWithNothingUnsavedIsAnEndLikeOthers) {
     Working run;
     run.SaveAnn();
-    modClosing::Interrupted(run.program);
+    Interrupt(run.program);
     EXPECT_FALSE(run.folder.Has("Running.txt"));
     EXPECT_FALSE(run.folder.Has("Proposals/Backup/Ann.hef"));
 }

@@ -100,8 +100,8 @@ TEST(Chooser, OkReadsTheProposalAndCloses) {
     EXPECT_TRUE(run.program.document.FileExists);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
     EXPECT_EQ(run.TextOf(PageId::frmP6, 3), "1,504.37");
-    EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + run.Data());
-    EXPECT_TRUE(run.program.main[CommandId::mnuFileDelete].Enabled);
+    EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + run.Data());
+    EXPECT_TRUE(run.Main()[CommandId::mnuFileDelete].Enabled);
     EXPECT_FALSE(modProposal::SomethingChanged(run.program));
 }
 
@@ -205,7 +205,7 @@ TEST(Chooser, AProposalOpenedElsewhereIsSavedThere) {
     run.Select(window, "Far.hef");
     window.cmdOpenOK_Click(run.program);
     EXPECT_EQ(run.program.document.FilePath, run.folder / "Proposals/2008/");
-    EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + run.folder.Path() + "Proposals/2008/");
+    EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + run.folder.Path() + "Proposals/2008/");
 }
 
 TEST(Chooser, AFolderThatVanishedIsToldAndTheListStays) {

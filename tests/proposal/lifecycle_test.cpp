@@ -65,7 +65,7 @@ struct Living : RunningProgram {
         chooser.cmdOpenOK_Click(program);
         modWindows::Sweep(program);
     }
-    [[nodiscard]] bool RestoreEnabled() { return program.main[CommandId::mnuFileRestoreFromBackup].Enabled; }
+    [[nodiscard]] bool RestoreEnabled() { return Main()[CommandId::mnuFileRestoreFromBackup].Enabled; }
 };
 
 TEST(Dirty, AnEmptyProposalIsClean) {
@@ -77,8 +77,7 @@ TEST(Dirty, EveryAreaOfTheEditedPagesCounts) {
     Living run;
     run.program.hooks.CollectQtyBoxes = nullptr; // it would bring the texts back to what the fields show
     for (const PageId page : kEditedPages) {
-        const auto at = static_cast<std::size_t>(IndexOf(page));
-        auto& texts = run.program.document.CurrentTextBuf[at];
+        auto& texts = run.program.document.CurrentTextBuf[page];
         ASSERT_EQ(texts.size(), page == PageId::frmP1 ? 30U : page == PageId::frmP6 ? 6U : 66U);
         for (std::string& text : texts) {
             const std::string before = text;
@@ -93,13 +92,13 @@ TEST(Dirty, EveryAreaOfTheEditedPagesCounts) {
 TEST(Dirty, BlanksAroundTheFiguresOfTheFinalPageDoNotCount) {
     Living run;
     run.program.hooks.CollectQtyBoxes = nullptr; // it would bring the texts back to what the fields show
-    run.program.document.CurrentTextBuf[5][3] = "  1.00";
-    run.program.document.SavedTextBuf[5][3] = "1.00 ";
+    run.program.document.CurrentTextBuf[PageId::frmP6][3] = "  1.00";
+    run.program.document.SavedTextBuf[PageId::frmP6][3] = "1.00 ";
     EXPECT_FALSE(modProposal::SomethingChanged(run.program));
-    run.program.document.CurrentTextBuf[1][3] = "a";
-    run.program.document.SavedTextBuf[1][3] = "a";
+    run.program.document.CurrentTextBuf[PageId::frmP2][3] = "a";
+    run.program.document.SavedTextBuf[PageId::frmP2][3] = "a";
     EXPECT_FALSE(modProposal::SomethingChanged(run.program));
-    run.program.document.CurrentTextBuf[1][3] = "a ";
+    run.program.document.CurrentTextBuf[PageId::frmP2][3] = "a ";
     EXPECT_TRUE(modProposal::SomethingChanged(run.program));
 }
 
@@ -108,10 +107,10 @@ TEST(Dirty, TheRowFieldsAreCollectedBeforeTheComparison) {
     int collected = 0;
     run.program.hooks.CollectQtyBoxes = [&](Program& program) {
         ++collected;
-        program.document.CurrentTextBuf[1][0] = "\xA5"
-                                                "3\xA5"
-                                                "Chairs\xA7"
-                                                "1.00";
+        program.document.CurrentTextBuf[PageId::frmP2][0] = "\xA5"
+                                                            "3\xA5"
+                                                            "Chairs\xA7"
+                                                            "1.00";
     };
     EXPECT_TRUE(modProposal::SomethingChanged(run.program));
     EXPECT_EQ(collected, 1);
@@ -124,7 +123,7 @@ TEST(AskingToSave, SaysNothingWhenNothingChanged) {
 
 TEST(AskingToSave, AChangedPropertyAsksToo) {
     Living run;
-    run.program.format.PropTextChanges[0][10].Dirty = true;
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
     run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::No);
     EXPECT_TRUE(modProposal::MayGoOn(run.program));
 }
@@ -241,12 +240,12 @@ TEST(New, ReadsTheTermsUnlessAListIsPinnedAndShowsTheCalculatorWhenWanted) {
 TEST(Reset, EmptiesNamesTextsTotalsAndMarks) {
     Living run;
     run.SaveAs("Jane Roe");
-    run.program.totals.AmountTable[20][0] = 5;
+    run.program.totals.AmountTable[20][PageId::frmP1] = 5;
     run.program.totals.Deposit = 7;
     run.program.document.PagesInUse = 2;
-    run.program.format.PropTextChanges[0][20].TaxExempt = true;
+    run.program.format.PropTextChanges[PageId::frmP1][20].TaxExempt = true;
     run.program.format.PropertyLines = {"a"};
-    run.program.main.imgFootNotes.Picture = 1;
+    run.program.document.HasNotes = true;
     ASSERT_EQ(modReset::StartNewFile(run.program), modReset::ResetResult::Done);
     const DocumentState& document = run.program.document;
     EXPECT_EQ(document.FileName, "");
@@ -258,17 +257,17 @@ TEST(Reset, EmptiesNamesTextsTotalsAndMarks) {
     EXPECT_EQ(document.ClientCaption, "Proposal for (Client's Name)");
     EXPECT_EQ(document.PageHeading, "Acme Events - Event Proposal - ");
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "");
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 0.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 0.0F);
     EXPECT_EQ(run.program.totals.Deposit, 0.0F);
     EXPECT_EQ(run.program.totals.TaxRate, 8.25F);
-    EXPECT_FALSE(run.program.format.PropTextChanges[0][20].TaxExempt);
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP1][20].TaxExempt);
     EXPECT_TRUE(run.program.format.PropertyLines.empty());
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook");
-    EXPECT_EQ(run.program.main.imgFootNotes.Picture, 0);
-    EXPECT_EQ(run.program.main.lblTotal.Caption, "Running Sub-Total = $ 0.00");
-    EXPECT_EQ(run.program.main.lblHighestPage.Caption, "Available Pages = 6");
-    EXPECT_FALSE(run.program.main[CommandId::mnuFileDelete].Enabled);
-    EXPECT_FALSE(run.program.main[CommandId::mnuOptCopyToBusinessAddressBook].Enabled);
+    EXPECT_EQ(run.Main().Caption, "Quillbrook");
+    EXPECT_EQ(run.Main().imgFootNotes.Picture, 0);
+    EXPECT_EQ(run.Main().lblTotal.Caption, "Running Sub-Total = $ 0.00");
+    EXPECT_EQ(run.Main().lblHighestPage.Caption, "Available Pages = 6");
+    EXPECT_FALSE(run.Main()[CommandId::mnuFileDelete].Enabled);
+    EXPECT_FALSE(run.Main()[CommandId::mnuOptCopyToBusinessAddressBook].Enabled);
     EXPECT_FALSE(run.program.guards.ResetActive);
     EXPECT_EQ(document.FilePath, run.Data());
 }
@@ -345,7 +344,7 @@ TEST(SaveAs, AsksForANameAndSavesUnderIt) {
     EXPECT_EQ(run.program.document.FileName, "Second.hef");
     EXPECT_EQ(run.program.document.BaseName, "Second");
     EXPECT_EQ(run.program.document.TextFileName, "Second.txt");
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Second.hef");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook - File Name = Second.hef");
     EXPECT_FALSE(run.program.document.SaveAsActive);
     // A proposal without properties of its own keeps the font it was written in.
     EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"),
@@ -563,9 +562,9 @@ TEST(Backup, RestoringPutsTheFileBackInPlaceOfTheOther) {
     EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), backup);
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Jane Roe.hef"), backup);
     EXPECT_EQ(run.program.document.FilePath, run.Data());
-    EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + run.Data());
+    EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + run.Data());
     EXPECT_EQ(run.program.document.ClientCaption, "Proposal for Jane Roe");
-    EXPECT_EQ(run.program.main.imgFootNotes.Picture, 1);
+    EXPECT_EQ(run.Main().imgFootNotes.Picture, 1);
     EXPECT_FALSE(run.program.document.FromBackup);
     EXPECT_FALSE(run.RestoreEnabled());
 }
@@ -592,8 +591,8 @@ TEST(Titles, TheClientsLineStandsOnEveryPageAndInTheStrip) {
     EXPECT_EQ(run.Label(PageId::frmP6_1, 64).Caption, "Proposal for Jane Roe - Client's Copy");
     // 21 characters of 100 twips each around the middle of the page.
     EXPECT_EQ(run.Label(PageId::frmP1, 33).Left, 6120.0F - 1050.0F);
-    EXPECT_EQ(run.program.main.lblEvent.Caption, "Proposal for Jane Roe");
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Jane Roe.hef");
+    EXPECT_EQ(run.Main().lblEvent.Caption, "Proposal for Jane Roe");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook - File Name = Jane Roe.hef");
 }
 
 TEST(Titles, AFormatStandsBeforeTheFileName) {
@@ -604,7 +603,7 @@ TEST(Titles, AFormatStandsBeforeTheFileName) {
     run.Touch();
     run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
     modProposal::mnuFileSaveEvent_Click(run.program);
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook: Format File = Mine.fmt - File Name = Jane Roe.hef");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook: Format File = Mine.fmt - File Name = Jane Roe.hef");
 }
 
 } // namespace

@@ -113,8 +113,8 @@ TEST(OpeningAProposal, ReadsBackWhatWasTyped) {
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane Roe");
     EXPECT_EQ(run.TextOf(PageId::frmP1, 21), "75.50");
     EXPECT_TRUE(run.program.pages[PageId::frmP1].imgNoTax[21].Visible);
-    EXPECT_TRUE(run.program.format.PropTextChanges[0][21].TaxExempt);
-    EXPECT_EQ(run.program.totals.TaxableTable[21][0], 0);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP1][21].TaxExempt);
+    EXPECT_EQ(run.program.totals.TaxableTable[21][PageId::frmP1], 0);
     EXPECT_EQ(run.TextOf(PageId::frmP2, 0), "Chair covers");
     EXPECT_EQ(run.program.pages[PageId::frmP2].txtQty[0].Text, "3");
     EXPECT_EQ(run.program.pages[PageId::frmP2].txtAmt[0].Text, "19.99");
@@ -126,11 +126,11 @@ TEST(OpeningAProposal, ReadsBackWhatWasTyped) {
     EXPECT_EQ(run.Label(PageId::frmP5, 33).Tag, "");
     EXPECT_EQ(run.TextOf(PageId::frmP6, 3), "1,504.37");
     EXPECT_EQ(run.TextOf(PageId::frmP6_1, 5), "1,004.37");
-    EXPECT_EQ(run.program.main.lblTotal.Caption, "Running Sub-Total = $ 1,395.47");
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Jane Roe.hef");
+    EXPECT_EQ(run.Main().lblTotal.Caption, "Running Sub-Total = $ 1,395.47");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook - File Name = Jane Roe.hef");
     EXPECT_EQ(run.program.document.TextFileName, "Jane Roe.txt");
     EXPECT_EQ(run.program.document.ClientCaption, "Proposal for Jane Roe");
-    EXPECT_TRUE(run.program.main[CommandId::mnuFileDelete].Enabled);
+    EXPECT_TRUE(run.Main()[CommandId::mnuFileDelete].Enabled);
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
     run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
@@ -169,7 +169,7 @@ TEST(OpeningAProposal, AMarkedTextThatIsNoNumberShowsItsMarkUntilEdited) {
     EXPECT_EQ(Current(run, 0, 20), "abc");
     EXPECT_EQ(Saved(run, 0, 20), "\xD8"
                                  "abc");
-    EXPECT_FALSE(run.program.format.PropTextChanges[0][20].TaxExempt);
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP1][20].TaxExempt);
 }
 
 TEST(OpeningAProposal, AQuantityRowWithAMarkMissingIsPlainText) {
@@ -249,7 +249,7 @@ TEST(OpeningAProposal, TheSampleNeverShowsTheLogo) {
     ASSERT_EQ(Open(run, FileWith({}), "John Doe.hef"), modFile::OpenResult::Opened);
     EXPECT_FALSE(run.program.settings.LogoVisible);
     EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Tag, "Hide");
-    EXPECT_FALSE(run.program.main[CommandId::mnuEditLogoVisible].Checked);
+    EXPECT_FALSE(run.Main()[CommandId::mnuEditLogoVisible].Checked);
 }
 
 TEST(OpeningAProposal, OfAnyShortLengthIsReadAsFarAsItGoes) {
@@ -363,7 +363,7 @@ TEST(Properties, AreKeptAndWrittenBackUnchangedWhileNobodyReadsThem) {
     modFile::ReadFileProperties(run.program);
     EXPECT_EQ(run.program.format.PropertyLines.size(), 2U);
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
-    run.program.format.PropTextChanges[0][20].Dirty = true;
+    run.program.format.PropTextChanges[PageId::frmP1][20].Dirty = true;
     run.surroundings.questions.Expect("File was saved as A.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
     EXPECT_EQ(run.folder.Read("Proposals/A.hpf"), lines);
@@ -406,8 +406,8 @@ TEST(ProposalLayout, ASlotOfNulsThatTheFilesEndCutsIsBlank) {
     RunningProgram run;
     const proposal::Widths widths = modFile::SlotWidths(run.program);
     const proposal::Decoded decoded = proposal::Decode(std::string(60, '\0'), 60, widths);
-    EXPECT_EQ(decoded.Slots[0][0], std::string(25, ' '));
-    EXPECT_EQ(decoded.Slots[0][2], std::string(60, ' '));
+    EXPECT_EQ(decoded.Slots[PageId::frmP1][0], std::string(25, ' '));
+    EXPECT_EQ(decoded.Slots[PageId::frmP1][2], std::string(60, ' '));
 }
 
 TEST(ProposalLayout, AnOldSizeReadAsTwentyRunsThroughTheFileAtOtherOffsets) {
@@ -433,7 +433,7 @@ TEST(OpeningAProposal, BlanksBeforeATextStayAndThoseOfTheFinalPageGo) {
               modFile::OpenResult::Opened);
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "  Ann");
     EXPECT_EQ(run.TextOf(PageId::frmP1, 20), "   5");
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 5);
+    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 5);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "30.00");
 }
 
@@ -443,7 +443,7 @@ TEST(OpeningAProposal, AMarkBehindABlankIsNoMark) {
                                          "5"}})),
               modFile::OpenResult::Opened);
     EXPECT_FALSE(run.program.pages[PageId::frmP1].imgNoTax[20].Visible);
-    EXPECT_EQ(run.program.totals.AmountTable[20][0], 0);
+    EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 0);
 }
 
 TEST(OpeningAProposal, AMarkedAmountLosesTheBlanksAroundItAndIsNotTaxed) {
@@ -496,7 +496,7 @@ TEST(OpeningAProposal, WithHiddenTotalsWritesTheDepositAloneAndIsUnchanged) {
 
 TEST(OpeningAProposal, FiresNoHandlerOfAPageAndPutsItsFlagDown) {
     RunningProgram run;
-    run.program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled = false;
+    run.program.document.HasClient = false;
     const auto answer = run.program.hooks.Change;
     int loud = 0;
     run.program.hooks.Change = [&](Program& program, const FieldRef& field) {
@@ -507,8 +507,8 @@ TEST(OpeningAProposal, FiresNoHandlerOfAPageAndPutsItsFlagDown) {
     EXPECT_EQ(loud, 0);
     EXPECT_FALSE(run.program.guards.Loading);
     EXPECT_EQ(run.program.document.FileName, "A.hef") << "the client read from a file names no file";
-    EXPECT_TRUE(run.program.main[CommandId::mnuOptCopyToPersonalAddressBook].Enabled);
-    EXPECT_EQ(run.program.main.lblDir.Caption, "Current Folder = " + run.program.document.FilePath);
+    EXPECT_TRUE(run.Main()[CommandId::mnuOptCopyToPersonalAddressBook].Enabled);
+    EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + run.program.document.FilePath);
 }
 
 } // namespace

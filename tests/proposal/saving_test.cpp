@@ -79,7 +79,7 @@ TEST(Saving, TellsOfTheTotalsBeforeItAsksForTheName) {
     run.surroundings.questions.Expect(
         "Please enter the client's name in the appropriate area and save again.");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::NotSaved);
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
 }
 
 TEST(Saving, TheTotalsAreWrittenUnderTheirPatterns) {
@@ -160,7 +160,7 @@ TEST(Saving, AFullDiskLeavesASavedProposalUnsavedAgainAndTheNextSaveMendsIt) {
         run.surroundings.questions.Done();
     }
     EXPECT_TRUE(run.program.document.FileExists);
-    EXPECT_EQ(run.program.document.SavedTextBuf[0][3], "12 Elm Street");
+    EXPECT_EQ(run.program.document.SavedTextBuf[PageId::frmP1][3], "12 Elm Street");
     EXPECT_EQ(run.TextOf(PageId::frmP1, 3), "14 Oak Street");
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
@@ -210,7 +210,7 @@ TEST(Saving, QuantityRowsAreGatheredBeforePropertiesAndBytes) {
         gather(program);
     };
     run.program.hooks.AssignPropChanges = [&](Program&) { calls.push_back("properties"); };
-    run.program.format.LabelSavedState[0][3].Changed = true;
+    run.program.format.LabelSavedState[PageId::frmP1][3].Changed = true;
     modPages::EnsureRowFields(run.program, PageId::frmP3);
     modPages::PlaceColumns(run.program, PageId::frmP3, 4, modPages::Columns::On);
     run.program.pages[PageId::frmP3].txtQty[4].Text = "7";
@@ -230,7 +230,7 @@ TEST(Saving, ADiscrepancyIsToldAndTheFileIsWrittenAllTheSame) {
     run.surroundings.questions.Expect("A descrepancy has occurred in calculating the totals.");
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kOverLimit);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
 }
 
 TEST(Saving, HiddenTotalsRaiseNoDiscrepancy) {
@@ -249,8 +249,8 @@ TEST(PropertyFile, IsNotMadeByASaveWithoutChangedProperties) {
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
     EXPECT_FALSE(run.folder.Has("Proposals/Ann.hpf"));
-    run.program.format.PropTextChanges[1][3].Dirty = true;
-    run.program.format.LabelSavedState[0][3].Changed = true;
+    run.program.format.PropTextChanges[PageId::frmP2][3].Dirty = true;
+    run.program.format.LabelSavedState[PageId::frmP1][3].Changed = true;
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
     EXPECT_TRUE(run.folder.Has("Proposals/Ann.hpf"));
@@ -262,13 +262,13 @@ TEST(PropertyFile, HoldsTheLinesThatWereAssignedAndClearsTheLabelsMarks) {
     run.program.hooks.AssignPropChanges = [](Program& program) {
         program.format.PropertyLines = {"frmP1.lbl(3).Left=900", "frmP1.lbl(3).Top=1200"};
     };
-    run.program.format.LabelSavedState[0][3].Changed = true;
-    run.program.format.PropLabelChanges[0][3].Changed = true;
+    run.program.format.LabelSavedState[PageId::frmP1][3].Changed = true;
+    run.program.format.PropLabelChanges[PageId::frmP1][3].Changed = true;
     EXPECT_TRUE(modFile::PropertiesChanged(run.program));
     SaveAnn(run);
     EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "frmP1.lbl(3).Left=900\r\nfrmP1.lbl(3).Top=1200\r\n");
-    EXPECT_FALSE(run.program.format.LabelSavedState[0][3].Changed);
-    EXPECT_TRUE(run.program.format.PropLabelChanges[0][3].Changed)
+    EXPECT_FALSE(run.program.format.LabelSavedState[PageId::frmP1][3].Changed);
+    EXPECT_TRUE(run.program.format.PropLabelChanges[PageId::frmP1][3].Changed)
         << "or the next file would leave the label out";
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
 }
@@ -276,10 +276,10 @@ TEST(PropertyFile, HoldsTheLinesThatWereAssignedAndClearsTheLabelsMarks) {
 TEST(PropertyFile, ThatCouldNotBeWrittenStillCountsAsChanged) {
     RunningProgram run;
     run.program.hooks.AssignPropChanges = [](Program& program) {
-        program.format.PropTextChanges[0][10].Dirty = false;
+        program.format.PropTextChanges[PageId::frmP1][10].Dirty = false;
         program.format.PropertyLines = {"frmP1.txt(10).FontBold=True"};
     };
-    run.program.format.PropTextChanges[0][10].Dirty = true;
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
     run.folder.MakeFolder("Proposals/Ann.hpf");
     modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
     run.surroundings.questions.Expect("An error occurred in SavePropertyFile.");

@@ -4,8 +4,7 @@
 
 #include "pages/fields.h"
 #include "program/windows.h"
-#include "shell/command_run.h"
-#include "shell/page_switch.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -30,7 +29,7 @@ struct SearchRun : RunningProgram {
     }
     frmSearch* Open() {
         modWindows::Sweep(program);
-        commands::Run(program, CommandId::mnuEditFind);
+        person::Choose(program, CommandId::mnuEditFind);
         return static_cast<frmSearch*>(modWindows::Find(program, "frmSearch"));
     }
     void Search(std::string_view phrase, int option = 0) {
@@ -117,7 +116,7 @@ TEST(Search, ThisPageOnlyLooksAtTheOneInFront) {
     SearchRun run;
     run.Put(kSecond, 1, "table");
     run.Put(PageId::frmP3, 2, "table");
-    modScroll::UpdatePageButtons(run.program, 2);
+    person::TurnTo(run.program, 2);
     run.Search("table", 1);
     EXPECT_EQ(run.program.main.Focus, Text(PageId::frmP3, 2));
 }
@@ -166,11 +165,11 @@ TEST(Search, PhrasesThatWereFoundAreOfferedAgain) {
 
 TEST(Search, IsNotPossibleOnTheClientsCopy) {
     SearchRun run;
-    modScroll::UpdatePageButtons(run.program, 6);
+    person::TurnTo(run.program, 6);
     run.surroundings.questions.ExpectBox({"Search is not possible on this Page.", Buttons::Ok, ""},
                                          Answer::Ok);
     EXPECT_EQ(run.Open(), nullptr);
-    modScroll::UpdatePageButtons(run.program, 5);
+    person::TurnTo(run.program, 5);
     EXPECT_NE(run.Open(), nullptr);
 }
 
@@ -240,7 +239,7 @@ TEST(Results, CloseWithTheProposalTheyBelongTo) {
     run.Put(kSecond, 2, "a table");
     run.Search("table");
     run.surroundings.questions.TakeAll(Answer::No);
-    commands::Run(run.program, CommandId::mnuFileNew);
+    person::Choose(run.program, CommandId::mnuFileNew);
     EXPECT_EQ(run.Results(), nullptr);
     EXPECT_FALSE(run.program.search.ResultsOpen);
 }

@@ -94,7 +94,7 @@ TEST(TaxRate, ANewOneIsInTheOpenProposalsFiguresAtOnce) {
     run.surroundings.questions.Expect("New Sales Tax Rate is 7.00 %");
     modTax::SaveTaxRate(run.program, "7.00");
     EXPECT_EQ(fresh, 0) << "nothing to tax";
-    run.program.totals.AmountTable[38][1] = -5;
+    run.program.totals.AmountTable[38][PageId::frmP2] = -5;
     run.surroundings.questions.Expect("New Sales Tax Rate is 8.25 %");
     modTax::SaveTaxRate(run.program, "8.25");
     EXPECT_EQ(fresh, 1);

@@ -1,7 +1,6 @@
 #include "format/label_designer.h"
 #include "format/label_selection.h"
 
-#include "editing/keys.h"
 #include "format/format_commands.h"
 #include "format/frm_label_props.h"
 #include "format/frm_rgb.h"
@@ -12,16 +11,15 @@
 #include "format/label_commit.h"
 #include "format/label_keys.h"
 #include "format/logo.h"
-#include "output/page_count.h"
 #include "pages/page_geometry.h"
+#include "program/keys.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
 #include "proposal/property_file.h"
 #include "proposal/proposal_open.h"
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
-#include "shell/command_run.h"
-#include "shell/page_switch.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -60,11 +58,11 @@ struct Designing : RunningProgram {
             .FormatLabelChanges[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)];
     }
     frmLabelProps& Props() {
-        commands::Run(program, CommandId::mnuEditLabelProps);
+        person::Choose(program, CommandId::mnuEditLabelProps);
         return dynamic_cast<frmLabelProps&>(*modWindows::Find(program, "frmLabelProps"));
     }
     template <typename Form> Form& Open(CommandId id, std::string_view name) {
-        commands::Run(program, id);
+        person::Choose(program, id);
         return dynamic_cast<Form&>(*modWindows::Find(program, name));
     }
 };
@@ -97,7 +95,7 @@ TEST(LabelDrag, InTheFirstDocumentAClickWithoutAMoveDoesNotCount) {
     RunningProgram run;
     lbl_MouseDown(run.program, PageId::frmP1, 9, kLeftButton, 0, 0);
     lbl_MouseUp(run.program, PageId::frmP1, 9);
-    EXPECT_FALSE(run.program.format.PropLabelChanges[0][9].Changed);
+    EXPECT_FALSE(run.program.format.PropLabelChanges[PageId::frmP1][9].Changed);
 }
 
 TEST(LabelDrag, OfOneOfAGroupMovesThatOneAlone) {
@@ -146,11 +144,11 @@ TEST(LabelSelection, ADoubleClickSelectsAndASecondOneTakesItBack) {
 TEST(LabelWindow, AsksForAClickFirst) {
     Designing run;
     run.surroundings.questions.Expect("Please click the label first.");
-    commands::Run(run.program, CommandId::mnuEditLabelProps);
+    person::Choose(run.program, CommandId::mnuEditLabelProps);
     run.Click(9);
-    modScroll::UpdatePageButtons(run.program, 1);
+    person::TurnTo(run.program, 1);
     run.surroundings.questions.Expect("Please click the label first.");
-    commands::Run(run.program, CommandId::mnuEditLabelProps);
+    person::Choose(run.program, CommandId::mnuEditLabelProps);
 }
 
 TEST(LabelWindow, ChangesTheLabelAtOnceAndOkMakesItLast) {
@@ -227,12 +225,12 @@ TEST(LabelWindow, CancelOfAGroupChangeKeepsTheChangesAndDropsTheFlags) {
 
 TEST(LabelWindow, SelectAllTakesEveryLabelButTheSignsAndOpens) {
     Designing run;
-    commands::Run(run.program, CommandId::mnuEditLabelSelectAll);
+    person::Choose(run.program, CommandId::mnuEditLabelSelectAll);
     EXPECT_NE(modWindows::Find(run.program, "frmLabelProps"), nullptr);
     EXPECT_EQ(run.program.designer.ColorOwner, "Label");
     EXPECT_TRUE(IsSelected(run.Label(PageId::frmP1, 0)));
     EXPECT_FALSE(IsSelected(run.Label(PageId::frmP1, 21)));
-    commands::Run(run.program, CommandId::mnuEditLabelDeselectAll);
+    person::Choose(run.program, CommandId::mnuEditLabelDeselectAll);
     EXPECT_FALSE(IsSelected(run.Label(PageId::frmP1, 0)));
 }
 
@@ -240,7 +238,7 @@ TEST(LabelWindow, APageSwitchMakesItsChangesLast) {
     Designing run;
     run.Click(9);
     run.Props().txtCaption_Change(run.program, "Day");
-    modScroll::UpdatePageButtons(run.program, 1);
+    person::TurnTo(run.program, 1);
     modWindows::Sweep(run.program);
     EXPECT_EQ(modWindows::Find(run.program, "frmLabelProps"), nullptr);
     EXPECT_EQ(run.Prop(9).Caption, "Day");
@@ -252,7 +250,7 @@ TEST(LabelWindow, ANewProposalAsksForWhatWasTypedInIt) {
     run.Click(9);
     run.Props().txtCaption_Change(run.program, "Day");
     run.surroundings.questions.Expect("Some text has been changed.", Answer::Cancel);
-    commands::Run(run.program, CommandId::mnuFileNew);
+    person::Choose(run.program, CommandId::mnuFileNew);
     EXPECT_EQ(run.Prop(9).Caption, "Day");
     EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Day");
 }
@@ -292,7 +290,7 @@ TEST(LabelWindow, WhiteTellsItselfBlack) {
 TEST(LabelKeys, DoWhatTheMouseDoes) {
     Designing keys;
     Designing mouse;
-    commands::Run(keys.program, CommandId::mnuEditLabelMode);
+    person::Choose(keys.program, CommandId::mnuEditLabelMode);
     EXPECT_FALSE(keys.program.main.Focus);
     EXPECT_EQ(keys.program.designer.Framed, 0);
     for (int label = 0; label < 9; ++label) {
@@ -334,7 +332,7 @@ TEST(LabelKeys, TheLogoComesLastOnTheFirstPage) {
     run.program.settings.LogoFile = "/srv/logo.png";
     run.program.pages[PageId::frmP1].pic.Picture = {PictureRef::Source::File, "/srv/logo.png"};
     run.program.pages[PageId::frmP1].pic.Visible = true;
-    commands::Run(run.program, CommandId::mnuEditLabelMode);
+    person::Choose(run.program, CommandId::mnuEditLabelMode);
     modLabelKeys::KeyDown(run.program, keys::kTab, keys::kShiftState);
     EXPECT_EQ(run.program.designer.Framed, kLogoInFrame);
     modLabelKeys::KeyDown(run.program, keys::kRight, 0);
@@ -372,7 +370,7 @@ TEST(Snap, AlignsTheHeightOfTheFirstPageAndHalfAStepGoesToTheEvenOne) {
     for (const auto& [from, to] : {std::pair{-270.0F, -360.0F}, {-450.0F, -360.0F}, {-100.0F, -180.0F}}) {
         page.Top = from;
         page.Left = 7;
-        commands::Run(run.program, CommandId::mnuToolsAlignWithSnap);
+        person::Choose(run.program, CommandId::mnuToolsAlignWithSnap);
         EXPECT_EQ(page.Top, to);
         EXPECT_EQ(page.Left, 7);
     }
@@ -400,7 +398,7 @@ TEST(TextProperties, ApplyChangesLaysTheFontAndASizeOfNothingIsTen) {
     frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
     window.lstFont_Click(run.program, 0);
     window.chkItalic_Click(run.program);
-    run.program.format.PropTextChanges[0][3].FontBold = true;
+    run.program.format.PropTextChanges[PageId::frmP1][3].FontBold = true;
     window.cmdOK_Click(run.program);
     EXPECT_EQ(run.Area(PageId::frmP3, 7).FontName, "Arial");
     EXPECT_EQ(run.Area(PageId::frmP3, 7).FontSize, 10);
@@ -518,16 +516,16 @@ TEST(Logo, HidingItKeepsItOutOfPrint) {
     PagePicture& logo = run.program.pages[PageId::frmP1].pic;
     logo.Picture = {PictureRef::Source::File, "/srv/logo.png"};
     run.program.settings.LogoVisible = true;
-    run.program.main[CommandId::mnuEditLogoVisible].Checked = true;
-    commands::Run(run.program, CommandId::mnuEditLogoVisible);
+    run.program.run.LogoChecked = true;
+    person::Choose(run.program, CommandId::mnuEditLogoVisible);
     EXPECT_FALSE(logo.Visible);
     EXPECT_EQ(logo.Tag, kHide);
     EXPECT_NE(run.folder.Read("UserPreferences.txt").find("Logo Visible:False\r\n"), std::string::npos);
-    commands::Run(run.program, CommandId::mnuEditLogoBorder);
+    person::Choose(run.program, CommandId::mnuEditLogoBorder);
     EXPECT_EQ(logo.BorderStyle, 1) << "turning the border on shows the logo";
     EXPECT_TRUE(logo.Visible);
     EXPECT_NE(run.folder.Read("UserPreferences.txt").find("Logo Visible:True\r\n"), std::string::npos);
-    commands::Run(run.program, CommandId::mnuEditLogoBorder);
+    person::Choose(run.program, CommandId::mnuEditLogoBorder);
     EXPECT_EQ(logo.BorderStyle, 0);
     EXPECT_TRUE(logo.Visible);
 }
@@ -538,7 +536,7 @@ TEST(Logo, SavingItAsDefaultWithoutAFormatTouchesOnlyTheSettings) {
     logo.Picture = {PictureRef::Source::File, "/srv/logo.png"};
     logo.Left = 180;
     logo.Top = 90.5F;
-    commands::Run(run.program, CommandId::mnuEditLogoSave);
+    person::Choose(run.program, CommandId::mnuEditLogoSave);
     const std::string settings = run.folder.Read("UserPreferences.txt");
     for (const char* line : {"Logo File:/srv/logo.png\r\n", "Logo Left:180\r\n", "Logo Top:90.5\r\n"}) {
         EXPECT_NE(settings.find(line), std::string::npos) << line;
@@ -557,7 +555,7 @@ TEST(Designer, EveryChangeThatRidesWithAProposalIsSavedAndComesBack) {
             modDesigner::CloseLabelWindow(run.program);
         },
         [](Designing& run) {
-            commands::Run(run.program, CommandId::mnuEditLabelSelectAll);
+            person::Choose(run.program, CommandId::mnuEditLabelSelectAll);
             auto& window = dynamic_cast<frmLabelProps&>(*modWindows::Find(run.program, "frmLabelProps"));
             window.cmdSize_Click(run.program, 2);
             window.cmdOK_Click(run.program);
@@ -575,7 +573,7 @@ TEST(Designer, EveryChangeThatRidesWithAProposalIsSavedAndComesBack) {
         },
         [](Designing& run) {
             run.program.editing.CurrentArea = 10;
-            commands::Run(run.program, CommandId::mnuEditTextBold);
+            person::Choose(run.program, CommandId::mnuEditTextBold);
         },
     };
     for (std::size_t at = 0; at < changes.size(); ++at) {
@@ -591,12 +589,12 @@ TEST(Designer, EveryChangeThatRidesWithAProposalIsSavedAndComesBack) {
         run.surroundings.questions.Expect("File was saved as Ann.hef");
         ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
         EXPECT_FALSE(modFile::PropertiesChanged(run.program)) << at;
-        modPrint::SetPageNumbers(run.program);
+        run.program.hooks.SetPageNumbers(run.program);
         const PageSet before = run.program.pages;
         static_cast<void>(modReset::StartNewFile(run.program));
         ASSERT_EQ(modFile::OpenEventFile(run.program, "Ann.hef"), modFile::OpenResult::Opened);
         modFile::ReadFileProperties(run.program);
-        modPrint::SetPageNumbers(run.program);
+        run.program.hooks.SetPageNumbers(run.program);
         for (const PageId page : kAllPages) {
             for (std::size_t index = 0; index < before[page].lbl.size(); ++index) {
                 PageLabel was = before[page].lbl[index];

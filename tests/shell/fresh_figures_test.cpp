@@ -1,12 +1,12 @@
 #include "editing/fresh_figures.h"
 
-#include "editing/keys.h"
 #include "editing/selection.h"
 #include "money/totals.h"
 #include "output/preview.h"
 #include "output/print.h"
 #include "pages/fields.h"
 #include "pages/page_marks.h"
+#include "program/keys.h"
 #include "proposal/proposal_save.h"
 #include "shell/command_run.h"
 #include "shell/input.h"
@@ -146,7 +146,8 @@ TEST(FreshFigures, AnAmountBeforeABandCounts) {
     // Tax on 75.50: 6.22875.
     EXPECT_EQ(Figures(run), (Texts{"75.50", "75.50", "6.23", "81.73", "0.00", "81.73"}));
     EXPECT_TRUE(Printed(run, "75.50"));
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][33], "75.50") << "the file has what the page shows";
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][33], "75.50")
+        << "the file has what the page shows";
 }
 
 TEST(FreshFigures, ASaveInsideAnAmountSaysNothingOfADiscrepancy) {
@@ -212,22 +213,22 @@ TEST(FreshFigures, AStandingCompletionIsTaken) {
     Typist typist(run.program);
     typist.Click(PageId::frmP2, 0);
     typist.Type("flow");
-    run.program.editing.ACActive[1] = true;
+    run.program.editing.ACActive[PageId::frmP2] = true;
     modFields::TypeText(run.program, {PageId::frmP2, FieldKind::txt, 0}, "flowers", 4, 3);
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "flow");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "flow");
     modFigures::TakeFresh(run.program);
-    EXPECT_FALSE(run.program.editing.ACActive[1]);
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "flowers");
+    EXPECT_FALSE(run.program.editing.ACActive[PageId::frmP2]);
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "flowers");
 }
 
 TEST(FreshFigures, MatchTheFieldsWhateverColourTheButtonHas) {
     RunningProgram run;
     run.Area(PageId::frmP3, 40).Text = "250";
-    run.program.main.cmdReCalc.BackColor = colors::kButtonFace;
+    run.program.totals.TotalsStale = false;
     modFigures::TakeFresh(run.program);
     EXPECT_EQ(Figures(run)[0], "250.00");
-    EXPECT_EQ(run.program.totals.AmountTable[40][2], 250);
-    EXPECT_EQ(run.program.totals.PageSum[2], 250);
+    EXPECT_EQ(run.program.totals.AmountTable[40][PageId::frmP3], 250);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP3], 250);
 }
 
 TEST(FreshFigures, HiddenTotalsStayHidden) {

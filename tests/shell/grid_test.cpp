@@ -1,7 +1,6 @@
 #include "format/grid.h"
 
-#include "shell/command_run.h"
-#include "shell/page_switch.h"
+#include "support/person.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -36,9 +35,9 @@ TEST(Grid, AStepOfNothingDrawsNothing) {
 
 TEST(Grid, TheCommandDrawsOnTheActivePageWithTwoLinesThroughItsCentre) {
     RunningProgram run;
-    modScroll::UpdatePageButtons(run.program, 2);
-    modScroll::UpdatePageButtons(run.program, 6); // the client's copy is no active page
-    commands::Run(run.program, CommandId::mnuToolsDrawCenterLines);
+    person::TurnTo(run.program, 2);
+    person::TurnTo(run.program, 6); // the client's copy is no active page
+    person::Choose(run.program, CommandId::mnuToolsDrawCenterLines);
     const Page& page = run.program.pages[PageId::frmP3];
     EXPECT_FALSE(page.GridPoints.empty());
     EXPECT_EQ(page.CenterLines,
@@ -52,27 +51,27 @@ TEST(Grid, ClearsByItsCommandByAPageSwitchAndByAPreview) {
         const Page& page = run.program.pages[PageId::frmP1];
         return !page.GridPoints.empty() || !page.CenterLines.empty();
     };
-    const auto draw = [&] { commands::Run(run.program, CommandId::mnuToolsDrawCenterLines); };
+    const auto draw = [&] { person::Choose(run.program, CommandId::mnuToolsDrawCenterLines); };
     draw();
     EXPECT_TRUE(drawn());
-    commands::Run(run.program, CommandId::mnuToolsClearCenterLines);
+    person::Choose(run.program, CommandId::mnuToolsClearCenterLines);
     EXPECT_FALSE(drawn());
     draw();
-    modScroll::UpdatePageButtons(run.program, 0);
+    person::TurnTo(run.program, 0);
     EXPECT_FALSE(drawn());
     draw();
-    commands::Run(run.program, CommandId::mnuFilePrintPreview);
+    person::Choose(run.program, CommandId::mnuFilePrintPreview);
     EXPECT_FALSE(drawn());
     draw();
-    commands::Run(run.program, CommandId::mnuFileResume);
+    person::Choose(run.program, CommandId::mnuFileResume);
     EXPECT_FALSE(drawn());
 }
 
 TEST(Grid, StaysWhenTheWindowChangesItsSize) {
     RunningProgram run;
-    commands::Run(run.program, CommandId::mnuToolsDrawCenterLines);
+    person::Choose(run.program, CommandId::mnuToolsDrawCenterLines);
     run.program.main.ClientHeight = 5000;
-    modScroll::MDIForm_Resize(run.program);
+    person::ResizeWindow(run.program);
     EXPECT_FALSE(run.program.pages[PageId::frmP1].GridPoints.empty());
 }
 

@@ -1,7 +1,7 @@
 #include "shell/input.h"
 
-#include "editing/keys.h"
 #include "pages/fields.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
 #include "support/running_program.h"
@@ -131,7 +131,7 @@ TEST(Mouse, AMarkedTextIsDraggedWithinItsField) {
     EXPECT_EQ(run.TextOf(PageId::frmP2, 0), "abc def ") << "not into itself";
     modInput::MoveMarked(run.program, line, 0);
     EXPECT_EQ(run.TextOf(PageId::frmP2, 0), "def abc ");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "def abc");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "def abc");
     EXPECT_EQ(run.Area(PageId::frmP2, 0).SelStart, 0);
     EXPECT_EQ(run.Area(PageId::frmP2, 0).SelLength, 4);
     modInput::MoveMarked(run.program, line, 8);
@@ -149,7 +149,7 @@ TEST(Mouse, AMarkedTextIsDraggedWithinItsField) {
     typist.PutCursor(0, 1);
     modInput::MoveMarked(run.program, amount, 2);
     EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "21-");
-    EXPECT_EQ(run.program.totals.AmountTable[33][1], -21.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[33][PageId::frmP2], -21.0F);
 }
 
 TEST(Mouse, AnAmountTakesANumberFromOutsideWholeOrNotAtAll) {

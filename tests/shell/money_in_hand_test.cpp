@@ -1,10 +1,11 @@
-#include "editing/keys.h"
 #include "editing/selection.h"
+#include "editing/text_menu.h"
 #include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_marks.h"
 #include "pages/row_fields.h"
+#include "program/keys.h"
 #include "proposal/long_texts.h"
 #include "proposal/proposal_open.h"
 #include "proposal/proposal_save.h"
@@ -74,7 +75,7 @@ TEST(NoNumber, AnIntermediateNumberCountsNoLonger) {
         run.Amount(kFirst, 20, "100");
         run.typist.Click(kFirst, 21);
         run.Amount(kFirst, 20, typed);
-        EXPECT_EQ(run.program.totals.AmountTable[20][0], 0) << typed;
+        EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 0) << typed;
         EXPECT_FALSE(run.Label(kFirst, 21).Visible);
         run.Amount(kFirst, 21, "60");
         commands::Run(run.program, CommandId::mnuFilePrintAll);
@@ -136,19 +137,19 @@ TEST(NoNumber, ACommaInABoxIsSeenNotDropped) {
 TEST(ExemptMark, ByTheMenuIsInThePrintedFigures) {
     Anns run;
     run.Amount(kSecond, 33, "100");
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     commands::Run(run.program, CommandId::mnuEditTextTaxExempt);
     EXPECT_EQ(Figures(run), (Texts{"100.00", "0.00", "0.00", "100.00", "", "100.00"}));
     EXPECT_EQ(Figures(run, PageId::frmP6_1), Figures(run));
     commands::Run(run.program, CommandId::mnuEditTextTaxable);
     EXPECT_EQ(Figures(run)[2], "8.25");
-    EXPECT_TRUE(run.program.format.PropTextChanges[1][33].Dirty);
+    EXPECT_TRUE(run.program.format.PropTextChanges[PageId::frmP2][33].Dirty);
 }
 
 TEST(ExemptMark, GoesWithTheTextThatIsTakenAway) {
     Anns run;
     run.Amount(kSecond, 33, "5");
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     commands::Run(run.program, CommandId::mnuEditTextTaxExempt);
     run.typist.Click(kSecond, 33);
     run.typist.PutCursor(0, 4);
@@ -162,8 +163,8 @@ TEST(ExemptMark, GoesWithTheTextThatIsTakenAway) {
     run.typist.Press(keys::kDelete);
     run.typist.Click(kSecond, 0);
     EXPECT_FALSE(run.Marked(kSecond, 33));
-    EXPECT_FALSE(run.program.format.PropTextChanges[1][33].TaxExempt);
-    EXPECT_FALSE(run.program.format.FormatTextChanges[1][33].TaxExempt);
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP2][33].TaxExempt);
+    EXPECT_FALSE(run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt);
     run.Amount(kSecond, 33, "9");
     run.typist.Click(kSecond, 0);
     EXPECT_EQ(Figures(run)[1], "9.00");
@@ -176,7 +177,7 @@ TEST(ExemptMark, SetOnAnEmptyAreaWaitsForTheAmount) {
     run.typist.Press(keys::kBackspace);
     run.typist.Click(kSecond, 34);
     run.typist.Click(kSecond, 33);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     commands::Run(run.program, CommandId::mnuEditTextTaxExempt);
     run.typist.Click(kSecond, 34);
     EXPECT_TRUE(run.Marked(kSecond, 33));
@@ -189,7 +190,7 @@ TEST(ExemptMark, SetOnAnEmptyAreaWaitsForTheAmount) {
 TEST(ExemptMark, OfAnEmptyAreaIsNotWrittenAndNotRead) {
     Anns run;
     run.typist.Click(kFirst, 20);
-    run.program.hooks.UpdateTextMenu(run.program);
+    modBlocks::UpdateTextMenu(run.program);
     commands::Run(run.program, CommandId::mnuEditTextTaxExempt);
     run.Save();
     EXPECT_EQ(run.Slot(1730), Filled(""));
@@ -199,9 +200,9 @@ TEST(ExemptMark, OfAnEmptyAreaIsNotWrittenAndNotRead) {
     run.Reopen();
     EXPECT_EQ(run.TextOf(kFirst, 20), "");
     EXPECT_FALSE(run.Marked(kFirst, 20));
-    EXPECT_FALSE(run.program.format.PropTextChanges[0][20].TaxExempt);
-    EXPECT_EQ(run.program.document.CurrentTextBuf[0][20], "");
-    EXPECT_EQ(run.program.document.SavedTextBuf[0][20], "");
+    EXPECT_FALSE(run.program.format.PropTextChanges[PageId::frmP1][20].TaxExempt);
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][20], "");
+    EXPECT_EQ(run.program.document.SavedTextBuf[PageId::frmP1][20], "");
     run.Save();
     EXPECT_EQ(run.Slot(1730), Filled(""));
 }
@@ -345,7 +346,7 @@ TEST(Currency, TheCheckOfAdditionReadsTheOneInForce) {
                                                "10");
     run.surroundings.questions.ExpectBox({"330", Buttons::Ok, ""}, Answer::Ok);
     modTotals::mnuAdminCheckAddition_Click(run.program);
-    EXPECT_EQ(run.program.totals.AmountTable[65][1], 10);
+    EXPECT_EQ(run.program.totals.AmountTable[65][PageId::frmP2], 10);
 }
 
 // ---- cursor and selection ---------------------------------------------------------------------------------
@@ -421,7 +422,7 @@ TEST(ClientsCopy, FollowsTheFiguresOnEveryWay) {
     modTotals::RecalculateAll(run.program);
     EXPECT_EQ(Figures(run, PageId::frmP6_1), Figures(run)) << "full";
     EXPECT_EQ(Figures(run, PageId::frmP6_1)[3], "108.25");
-    run.program.totals.PageSum[0] = 50;
+    run.program.totals.PageSum[PageId::frmP1] = 50;
     modTotals::UpdateRunningTotals(run.program);
     EXPECT_EQ(Figures(run, PageId::frmP6_1)[0], "50.00") << "running";
     EXPECT_EQ(Figures(run, PageId::frmP6_1), Figures(run));

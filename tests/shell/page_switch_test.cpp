@@ -93,7 +93,7 @@ TEST(PageSwitch, BringsTheNewPageToItsTopAndScrollsItOnce) {
 
 TEST(PageSwitch, LocksFormatTextOnlyInAFormatSession) {
     RunningProgram run;
-    run.program.format.FormatTextChanges[1][4].FormatText = true;
+    run.program.format.FormatTextChanges[PageId::frmP2][4].FormatText = true;
     run.Area(PageId::frmP2, 4).Enabled = false;
     modScroll::UpdatePageButtons(run.program, 1);
     EXPECT_TRUE(run.Area(PageId::frmP2, 4).Enabled);

@@ -1,8 +1,9 @@
 #include "base/text.h"
-#include "editing/keys.h"
+#include "editing/text_menu.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "pages/row_fields.h"
+#include "program/keys.h"
 #include "proposal/proposal_open.h"
 #include "proposal/reset.h"
 #include "settings/tax_rate.h"
@@ -305,7 +306,7 @@ private:
             }
         } else if (chance < 66) {
             Click(AnAmount());
-            program_.hooks.UpdateTextMenu(program_);
+            modBlocks::UpdateTextMenu(program_);
             Chance(60) ? Run(CommandId::mnuEditTextTaxExempt, "make exempt")
                        : Run(CommandId::mnuEditTextTaxable, "make taxable");
         } else if (chance < 69) {

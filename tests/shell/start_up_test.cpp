@@ -128,8 +128,7 @@ TEST(StartUp, TheLabelsPlacesAreNotedAfterTheFirstReset) {
     for (const PageId page : kEditedPages) {
         for (int index = 0; index <= geometry::LastLabel(page); ++index) {
             const auto at = static_cast<std::size_t>(index);
-            const LabelChangeRecord& kept =
-                run.program.format.PropLabelChanges[static_cast<std::size_t>(IndexOf(page))][at];
+            const LabelChangeRecord& kept = run.program.format.PropLabelChanges[page][at];
             EXPECT_EQ(kept.Left, run.program.pages[page].lbl[at].Left);
             EXPECT_EQ(kept.Top, run.program.pages[page].lbl[at].Top);
         }
@@ -244,6 +243,20 @@ TEST(StartUp, SettingsOfGarbageAreToldOnceAndNeverStopIt) {
     }
 }
 
+TEST(StartUp, ANulByteInTheLogoLineStopsNothing) {
+    Starting run;
+    run.Setting("Logo File:", std::string("a\0b.jpg", 7));
+    ASSERT_EQ(run.Main(), modStart::StartResult::Running);
+    EXPECT_TRUE(run.program.main.Loaded);
+    for (const PageId page : kAllPages) {
+        EXPECT_FALSE(run.program.pages[page].txt.empty());
+    }
+    Typist typist(run.program);
+    typist.Click(PageId::frmP5, 0);
+    typist.Type("Last page");
+    EXPECT_EQ(run.TextOf(PageId::frmP5, 0), "Last page");
+}
+
 TEST(StartUp, ARateOfZeroIsAskedForAtEveryStart) {
     Starting run;
     run.folder.Write("Proposals/SalesTax.txt", ".00  ");
@@ -339,7 +352,7 @@ TEST(Exit, NoClosesAndCancelStays) {
 
 TEST(Exit, AChangedPropertyAsksToo) {
     Closing run;
-    run.program.format.LabelSavedState[0][3].Changed = true;
+    run.program.format.LabelSavedState[PageId::frmP1][3].Changed = true;
     run.surroundings.questions.ExpectBox(kExitQuestion, Answer::Cancel);
     EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program));
 }

@@ -1,5 +1,5 @@
 #include "editing/area_mouse.h"
-#include "editing/keys.h"
+#include "program/keys.h"
 #include "shell/command_run.h"
 #include "shell/frm_main.h"
 #include "support/running_program.h"
@@ -58,7 +58,7 @@ TEST(Tutorial, KeepsItsPromises) {
     run.Finds(PageId::frmP1, 0, "June 19, 2027");
     run.Finds(PageId::frmP1, 1, "6:00 PM");
     run.Finds(PageId::frmP1, 5, "(217) 555-0100");
-    EXPECT_EQ(run.program.main.Caption, "Quillbrook - File Name = Jane Roe.hef");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook - File Name = Jane Roe.hef");
 
     run.typist.Click(PageId::frmP1, 10);
     run.TypesAndEnter("Ceremony arch with greenery");

@@ -52,7 +52,7 @@ TEST(SpellingWalk, PutsBackWhatWasCorrectedLessTheParagraphMark) {
     run.surroundings.questions.Expect("SpellCheck Complete");
     modSpelling::mnuEditSpellCheck_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chairs");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][3], "Chairs") << "the store follows";
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][3], "Chairs") << "the store follows";
 }
 
 TEST(SpellingWalk, PassesLockedAreasOver) {

@@ -1,9 +1,10 @@
 #include "support/running_program.h"
-#include "editing/keys.h"
+#include "program/keys.h"
 #include "program/windows.h"
 #include "shell/command_run.h"
 #include "shell/frm_main.h"
 #include "shell/frm_splash.h"
+#include "shell/main_controls.h"
 #include "shell/start_up.h"
 #include "shell/wiring.h"
 #include "support/typist.h"
@@ -40,6 +41,11 @@ void RunningProgram::Start() {
         throw std::runtime_error("the program did not start");
     }
     PassSplash(program);
+}
+
+MainWindow& RunningProgram::Main() {
+    modMain::WorkOutControls(program);
+    return program.main;
 }
 
 void RunningProgram::Setting(std::string_view key, std::string_view value) const {

@@ -18,6 +18,8 @@ public:
     /// One line of the settings file, before the start.
     void Setting(std::string_view key, std::string_view value) const;
 
+    /// The main window as a person sees it now.
+    [[nodiscard]] MainWindow& Main();
     [[nodiscard]] TextArea& Area(PageId page, int index) {
         return program.pages[page].txt[static_cast<std::size_t>(index)];
     }

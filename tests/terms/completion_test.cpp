@@ -1,10 +1,9 @@
 #include "terms/completion.h"
 
-#include "editing/keys.h"
 #include "editing/selection.h"
 #include "pages/fields.h"
-#include "shell/command_run.h"
-#include "shell/input.h"
+#include "program/keys.h"
+#include "support/person.h"
 #include "support/typist.h"
 #include "terms/open_list.h"
 
@@ -69,10 +68,10 @@ TEST(Completion, EnterTakesItWithItsPriceAndStaysInTheLine) {
     run.ExpectTaken("chair covers");
     EXPECT_EQ(run.Text(33), "3.50");
     EXPECT_EQ(run.program.main.Focus, (FieldRef{kPage, FieldKind::txt, 0}));
-    EXPECT_EQ(run.program.totals.AmountTable[33][1], 3.5F);
+    EXPECT_EQ(run.program.totals.AmountTable[33][PageId::frmP2], 3.5F);
     EXPECT_EQ(run.program.totals.SubTotal, 3.5F) << "typed and left at once";
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "3.50");
-    EXPECT_EQ(run.program.main.cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
     run.hand.Press(keys::kEnter);
     EXPECT_EQ(run.program.main.Focus, (FieldRef{kPage, FieldKind::txt, 33})) << "the next Enter moves on";
 }
@@ -98,12 +97,12 @@ TEST(Completion, ShiftAndTheBlankTakeItAndTypeTheBlank) {
     Typing run("Chair Covers[3.5]");
     run.hand.Type("cha");
     const auto& area = run.Area(kPage, 0);
-    ASSERT_EQ(modInput::KeyDown(run.program, keys::kBlank, keys::kShiftState, area.SelStart, area.SelLength),
+    ASSERT_EQ(person::KeyDown(run.program, keys::kBlank, keys::kShiftState, area.SelStart, area.SelLength),
               Taken::No);
     EXPECT_EQ(run.Text(), "chair covers");
-    EXPECT_EQ(modInput::KeyPress(run.program, keys::kBlank), keys::kBlank);
-    modInput::Edited(run.program, *run.program.main.Focus, run.Text() + " ", 13, 0);
-    modInput::KeyUp(run.program, keys::kBlank, keys::kShiftState, 13, 0);
+    EXPECT_EQ(person::KeyPress(run.program, keys::kBlank), keys::kBlank);
+    person::Edited(run.program, *run.program.main.Focus, run.Text() + " ", 13, 0);
+    person::KeyUp(run.program, keys::kBlank, keys::kShiftState, 13, 0);
     EXPECT_EQ(run.Text(), "chair covers ");
     EXPECT_EQ(run.Stored(), "chair covers");
     EXPECT_EQ(run.Text(33), "");
@@ -309,11 +308,11 @@ TEST(Completion, AKeyLetGoInAnotherAreaCompletesNothingThere) {
     run.program.run.ACEnabled = true;
     run.hand.Click(kPage, 1);
     run.hand.Hold(keys::kShift);
-    EXPECT_EQ(modInput::KeyDown(run.program, 'A', 0, 0, 0), Taken::No);
-    EXPECT_EQ(modInput::KeyPress(run.program, 'a'), 'a');
-    modInput::Edited(run.program, {kPage, FieldKind::txt, 1}, "a", 1, 0);
+    EXPECT_EQ(person::KeyDown(run.program, 'A', 0, 0, 0), Taken::No);
+    EXPECT_EQ(person::KeyPress(run.program, 'a'), 'a');
+    person::Edited(run.program, {kPage, FieldKind::txt, 1}, "a", 1, 0);
     modFields::GiveFocus(run.program, {kPage, FieldKind::txt, 0});
-    modInput::KeyUp(run.program, 'A', 0, 3, 0);
+    person::KeyUp(run.program, 'A', 0, 3, 0);
     EXPECT_EQ(run.Text(), "cha");
 }
 
@@ -322,16 +321,16 @@ TEST(Completion, LettersTypedInQuickSuccessionCompleteAtTheFirstRelease) {
     run.hand.Type("c");
     const auto down = [&](char letter) {
         const TextArea& area = run.Area(kPage, 0);
-        EXPECT_EQ(modInput::KeyDown(run.program, letter - 32, 0, area.SelStart, 0), Taken::No);
-        EXPECT_EQ(modInput::KeyPress(run.program, letter), letter);
+        EXPECT_EQ(person::KeyDown(run.program, letter - 32, 0, area.SelStart, 0), Taken::No);
+        EXPECT_EQ(person::KeyPress(run.program, letter), letter);
         const std::string text = run.Text() + letter;
-        modInput::Edited(run.program, {kPage, FieldKind::txt, 0}, text, static_cast<int>(text.size()), 0);
+        person::Edited(run.program, {kPage, FieldKind::txt, 0}, text, static_cast<int>(text.size()), 0);
     };
     down('h');
     down('a');
-    modInput::KeyUp(run.program, 'H', 0, 3, 0);
+    person::KeyUp(run.program, 'H', 0, 3, 0);
     EXPECT_EQ(run.Text(), "chair covers");
-    modInput::KeyUp(run.program, 'A', 0, 3, 9);
+    person::KeyUp(run.program, 'A', 0, 3, 9);
     EXPECT_EQ(run.Selected(), "ir covers");
 }
 
@@ -368,7 +367,7 @@ TEST(Completion, HomeLeavesTheTextStored) {
 TEST(Completion, SearchTakesItFirst) {
     Typing run("Chair Covers[3.5]");
     run.hand.Type("cha");
-    commands::Run(run.program, CommandId::mnuEditFind);
+    person::Choose(run.program, CommandId::mnuEditFind);
     run.ExpectTaken("chair covers");
     EXPECT_EQ(run.Text(33), "");
 }
@@ -380,7 +379,7 @@ TEST(Completion, ASaveTakesTheTextAndNoAmount) {
     run.hand.Click(kPage, 0);
     run.hand.Type("cha");
     run.surroundings.questions.TakeAll();
-    commands::Run(run.program, CommandId::mnuFileSaveEvent);
+    person::Choose(run.program, CommandId::mnuFileSaveEvent);
     EXPECT_NE(run.folder.Read("Proposals/Jane Roe.hef").find("chair covers"), std::string::npos);
     run.ExpectTaken("chair covers");
     EXPECT_EQ(run.Text(33), "");

@@ -1,7 +1,6 @@
-#include "editing/keys.h"
 #include "pages/fields.h"
-#include "shell/command_run.h"
-#include "shell/page_switch.h"
+#include "program/keys.h"
+#include "support/person.h"
 #include "support/typist.h"
 #include "terms/open_list.h"
 #include "terms/placing.h"
@@ -21,7 +20,7 @@ FieldRef Text(PageId page, int index) {
 }
 
 struct DropRun : TermsRun {
-    DropRun() : TermsRun("Chair Covers [3.50]\r\nTable") { modScroll::UpdatePageButtons(program, 1); }
+    DropRun() : TermsRun("Chair Covers [3.50]\r\nTable") { person::TurnTo(program, 1); }
     bool Drop(const FieldRef& field, std::string_view dragged) {
         return modTerms::txt_DragDrop(program, field, dragged);
     }
@@ -34,7 +33,7 @@ TEST(Drop, OnADescriptionGivesTextPriceFocusAndCursor) {
     DropRun run;
     EXPECT_TRUE(run.Drop(Text(kPage, 4), "Chair Covers[3.50] and more"));
     EXPECT_EQ(run.TextOf(kPage, 4), "Chair Covers");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][4], "Chair Covers");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][4], "Chair Covers");
     EXPECT_EQ(run.TextOf(kPage, 37), "3.50");
     EXPECT_EQ(run.program.totals.SubTotal, 3.5F);
     EXPECT_EQ(run.program.main.Focus, Text(kPage, 4));
@@ -58,9 +57,9 @@ TEST(Drop, OnAStandingCompletionTakesItFirst) {
     hand.Type("cha");
     run.Drop(Text(kPage, 0), "Table");
     EXPECT_EQ(run.TextOf(kPage, 0), "chair covers  Table");
-    EXPECT_EQ(run.program.document.CurrentTextBuf[1][0], "chair covers  Table");
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "chair covers  Table");
     EXPECT_EQ(run.TextOf(kPage, 33), "");
-    EXPECT_FALSE(run.program.editing.ACActive[1]);
+    EXPECT_FALSE(run.program.editing.ACActive[PageId::frmP2]);
 }
 
 TEST(Drop, OnALineWithColumnsPricesTheUnit) {
@@ -108,7 +107,7 @@ TEST(Drop, QuantityAndUnitPriceTakeNumbersAndMakeTheProduct) {
 TEST(Drop, TheDepositTakesANumberAndTheOtherFiguresOfItsPageNothing) {
     DropRun run;
     run.Drop(Text(kPage, 33), "1000");
-    modScroll::UpdatePageButtons(run.program, 5);
+    person::TurnTo(run.program, 5);
     EXPECT_TRUE(run.Drop(Text(PageId::frmP6, 4), "250"));
     EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "250.00");
     EXPECT_EQ(run.program.totals.Deposit, 250.0F);
@@ -121,7 +120,7 @@ TEST(Drop, TheDepositTakesANumberAndTheOtherFiguresOfItsPageNothing) {
 
 TEST(Drop, TheClientsAreasTakeTheTextAndNoAmount) {
     DropRun run;
-    modScroll::UpdatePageButtons(run.program, 0);
+    person::TurnTo(run.program, 0);
     EXPECT_TRUE(run.Drop(Text(PageId::frmP1, 8), "Garden Hall [500]"));
     EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "Garden Hall ");
     for (int amount = 20; amount < 30; ++amount) {
@@ -137,9 +136,9 @@ TEST(Drop, IsRefusedInSelectedLockedAndPreviewedAreas) {
     run.program.editing.BlockMode = true;
     EXPECT_FALSE(run.Drop(Text(kPage, 4), "Table"));
     run.program.editing.BlockMode = false;
-    commands::Run(run.program, CommandId::mnuFilePrintPreview);
+    person::Choose(run.program, CommandId::mnuFilePrintPreview);
     EXPECT_FALSE(run.Drop(Text(kPage, 4), "Table"));
-    commands::Run(run.program, CommandId::mnuFileResume);
+    person::Choose(run.program, CommandId::mnuFileResume);
     EXPECT_FALSE(run.Drop(Text(kPage, 4), "[5]")) << "no text at all";
     EXPECT_EQ(run.TextOf(kPage, 4), "");
     EXPECT_TRUE(run.Drop(Text(kPage, 4), "Table"));

@@ -1,7 +1,7 @@
 #include "terms/list_files.h"
 
-#include "editing/keys.h"
-#include "shell/command_run.h"
+#include "program/keys.h"
+#include "support/person.h"
 #include "support/typist.h"
 #include "terms/open_list.h"
 
@@ -108,15 +108,15 @@ TEST(Lists, AnAddAfterOpeningWritesTheListThatWasOpened) {
 TEST(Lists, OneThatThePersonOpenedStaysForTheRun) {
     TermsRun run("Chair");
     WriteLists(run);
-    commands::Run(run.program, CommandId::mnuFileNew);
+    person::Choose(run.program, CommandId::mnuFileNew);
     EXPECT_EQ(run.program.run.FUTFileName, "Default Terms.fut");
     modTerms::OpenList(run.program, "Catering.fut");
-    commands::Run(run.program, CommandId::mnuFileNew);
+    person::Choose(run.program, CommandId::mnuFileNew);
     EXPECT_EQ(run.program.run.FUTFileName, "Catering.fut");
     EXPECT_EQ(run.InMemory(), "Soup|Bread|");
     run.surroundings.questions.ExpectInput("Changing Currency Designator", "$");
     run.surroundings.questions.Expect("Changes will be applied");
-    commands::Run(run.program, CommandId::mnuOptCurrencySymbol); // reads the settings again
+    person::Choose(run.program, CommandId::mnuOptCurrencySymbol); // reads the settings again
     EXPECT_EQ(run.program.run.FUTFileName, "Catering.fut");
 }
 
@@ -128,7 +128,7 @@ TEST(Lists, AProposalsKindChoosesUnlessOneIsPinned) {
     pinned.Start();
     EXPECT_EQ(pinned.program.run.FUTFileName, "Catering.fut");
     EXPECT_EQ(pinned.program.terms.TermCount(), 1);
-    commands::Run(pinned.program, CommandId::mnuFileNew);
+    person::Choose(pinned.program, CommandId::mnuFileNew);
     EXPECT_EQ(pinned.program.run.FUTFileName, "Catering.fut");
 }
 
@@ -268,7 +268,7 @@ TEST(TermsWindow, ThatIsNotShownAtStartSwitchesCompletionOff) {
     run.Start();
     EXPECT_EQ(modWindows::Find(run.program, "frmFUT"), nullptr);
     EXPECT_FALSE(run.program.run.ACEnabled);
-    commands::Run(run.program, CommandId::mnuOptFUT);
+    person::Choose(run.program, CommandId::mnuOptFUT);
     EXPECT_NE(modWindows::Find(run.program, "frmFUT"), nullptr);
     EXPECT_EQ(modWindows::Find(run.program, "frmFUT")->FrontCalls, 1);
 }
@@ -280,7 +280,7 @@ TEST(TermsWindow, StartsMinimisedWhereTheSettingsSaySo) {
     Window* window = modWindows::Find(run.program, "frmFUT");
     ASSERT_NE(window, nullptr);
     EXPECT_TRUE(window->Minimised);
-    commands::Run(run.program, CommandId::mnuOptFUT);
+    person::Choose(run.program, CommandId::mnuOptFUT);
     EXPECT_FALSE(window->Minimised);
 }
 

@@ -1,6 +1,6 @@
 #include "terms/term_list.h"
 
-#include "shell/command_run.h"
+#include "support/person.h"
 #include "support/typist.h"
 #include "terms/frm_add_fut.h"
 #include "terms/frm_edit_fut.h"
@@ -242,7 +242,7 @@ struct AreaRun : TermsRun {
         program.run.ACEnabled = false;
         typist.Click(PageId::frmP2, 0);
     }
-    void Choose(CommandId id) { commands::Run(program, id); }
+    void Choose(CommandId id) { person::Choose(program, id); }
     Typist typist{program};
 };
 

@@ -43,7 +43,7 @@ struct Sample : RunningProgram {
 
     [[nodiscard]] std::vector<int> ExemptAreas(PageId page) const {
         std::vector<int> found;
-        const auto& records = program.format.PropTextChanges[static_cast<std::size_t>(IndexOf(page))];
+        const auto& records = program.format.PropTextChanges[page];
         const auto& marks = program.pages[page].imgNoTax;
         for (std::size_t index = 0; index < marks.size(); ++index) {
             EXPECT_EQ(marks[index].Visible, records[index].TaxExempt) << index;
@@ -127,8 +127,8 @@ TEST(SampleProposal, AddsUp) {
     Sample run;
     EXPECT_EQ(run.FinalPage(PageId::frmP6), Figures());
     EXPECT_EQ(run.FinalPage(PageId::frmP6_1), Figures());
-    EXPECT_EQ(run.program.totals.PageSum, (std::array<float, 5>{3310.0F, 13948.5F, 8324.0F, 0, 0}));
-    EXPECT_EQ(run.program.totals.PageTaxable, (std::array<float, 5>{1035.0F, 13948.5F, 5065.0F, 0, 0}));
+    EXPECT_EQ(run.program.totals.PageSum, (PerLinePage<float>{{3310.0F, 13948.5F, 8324.0F, 0, 0}}));
+    EXPECT_EQ(run.program.totals.PageTaxable, (PerLinePage<float>{{1035.0F, 13948.5F, 5065.0F, 0, 0}}));
 }
 
 TEST(SampleProposal, TheFiguresInTheFileAreThoseThatComeOut) {

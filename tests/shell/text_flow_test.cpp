@@ -1,10 +1,8 @@
-#include "editing/keys.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
+#include "program/keys.h"
 #include "program/program.h"
-#include "shell/command_run.h"
-#include "shell/input.h"
-#include "shell/page_switch.h"
+#include "support/person.h"
 #include "support/reference_flow.h"
 #include "support/running_program.h"
 #include "support/typist.h"
@@ -136,7 +134,7 @@ struct Pair {
             Reference.At(field).Text = modFields::Area(Run.program, field).Text;
             Reference.At(field).Back = modFields::Area(Run.program, field).BackColor;
             Reference.Sheets[5].Rows[static_cast<std::size_t>(i)].Store =
-                Run.program.document.CurrentTextBuf[5][static_cast<std::size_t>(i)];
+                Run.program.document.CurrentTextBuf[PageId::frmP6][static_cast<std::size_t>(i)];
         }
         Reference.Focus = Run.program.main.Focus;
         Reference.TextNum = Run.program.main.lblTextNum.Caption;
@@ -191,18 +189,18 @@ void OnProgram(Pair& pair, const Step& step) {
         break;
     case Do::MakeExempt:
         if (program.main.PageInFront != step.Field.Page) {
-            modScroll::UpdatePageButtons(program, IndexOf(step.Field.Page));
+            person::TurnTo(program, IndexOf(step.Field.Page));
         }
-        modInput::FieldMouseDown(program, step.Field, 2, 0, 0, 0);
-        modInput::FieldMouseUp(program, step.Field, 0, 0);
-        commands::Run(program, CommandId::mnuEditTextTaxExempt);
+        person::FieldMouseDown(program, step.Field, 2, 0, 0, 0);
+        person::FieldMouseUp(program, step.Field, 0, 0);
+        person::Choose(program, CommandId::mnuEditTextTaxExempt);
         break;
     case Do::ClickMark:
         if (program.pages[step.Field.Page].imgNoTax[static_cast<std::size_t>(step.Field.Index)].Visible) {
             if (program.main.PageInFront != step.Field.Page) {
-                modScroll::UpdatePageButtons(program, IndexOf(step.Field.Page));
+                person::TurnTo(program, IndexOf(step.Field.Page));
             }
-            modInput::NoTaxMarkClick(program, step.Field.Page, step.Field.Index);
+            person::NoTaxMarkClick(program, step.Field.Page, step.Field.Index);
         }
         break;
     }
@@ -357,7 +355,7 @@ std::string Difference(const Pair& pair) {
     is.Of("lblTextNum", program.main.lblTextNum.Caption, flow.TextNum);
     is.Of("boxes shown", pair.Run.surroundings.questions.Shown.size(),
           static_cast<std::size_t>(flow.Warnings));
-    is.Of("recalculate button red", program.main.cmdReCalc.BackColor == 255, flow.Stale);
+    is.Of("recalculate button red", program.totals.TotalsStale, flow.Stale);
     is.Of("SubTotal", program.totals.SubTotal, flow.SubTotal);
     is.Of("TaxableTotal", program.totals.TaxableTotal, flow.TaxableTotal);
     is.Of("SalesTax", program.totals.SalesTax, flow.SalesTax);

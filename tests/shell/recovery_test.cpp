@@ -6,6 +6,7 @@
 #include "shell/closing.h"
 #include "shell/start_up.h"
 #include "shell/wiring.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -80,7 +81,7 @@ TEST(Recovery, ChangesOfASavedProposalComeBackAsUnsavedOnes) {
     EXPECT_TRUE(document.FileExists);
     EXPECT_FALSE(document.FromBackup);
     EXPECT_TRUE(modProposal::SomethingChanged(runs.program));
-    EXPECT_EQ(document.SavedTextBuf[0][10], "");
+    EXPECT_EQ(document.SavedTextBuf[PageId::frmP1][10], "");
     EXPECT_TRUE(runs.program.main.Loaded);
     runs.again.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::Saved);

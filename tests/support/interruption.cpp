@@ -1,0 +1,7 @@
+#include "support/interruption.h"
+
+#include "shell/closing.h"
+
+void Interrupt(Program& program) {
+    modClosing::Interrupted(program);
+}
