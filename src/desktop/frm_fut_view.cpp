@@ -141,8 +141,10 @@ FrmFutView::~FrmFutView() {
     if (dock_ != nullptr) {
         for (QObject* part : dock_->findChildren<QObject*>()) {
             part->disconnect(this);
+            part->removeEventFilter(this);
         }
         dock_->disconnect(this);
+        dock_->removeEventFilter(this);
         delete dock_;
     }
 }
