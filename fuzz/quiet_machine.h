@@ -31,7 +31,9 @@ struct QuietMachine {
                       .clock = recording.clock,
                       .instance = recording.instance,
                       .pictures = recording.pictures,
-                      .events = recording.events};
+                      .events = recording.events,
+                      .words = recording.words,
+                      .dictionaries = recording.dictionaries};
     Program program{platform};
     explicit QuietMachine(const std::string& folder) {
         program.folders.InstallFolder = folder;
