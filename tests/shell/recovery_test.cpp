@@ -3,6 +3,7 @@
 #include "proposal/backup.h"
 #include "proposal/lifecycle.h"
 #include "proposal/proposal_save.h"
+#include "shell/closing.h"
 #include "shell/start_up.h"
 #include "shell/wiring.h"
 #include "support/person.h"
