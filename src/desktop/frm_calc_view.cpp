@@ -106,8 +106,8 @@ FrmCalcView::FrmCalcView(Program& program, frmCalc& window, QWidget* over, std::
     column->setSpacing(6);
     BuildLines();
     BuildKeys();
-    column->setSizeConstraint(QLayout::SetFixedSize);
-    equation_->setFixedWidth(210);
+    constexpr int kWidth = 230;
+    setFixedSize(kWidth, column->sizeHint().height());
     equation_->setFocus();
 }
 

@@ -24,6 +24,10 @@ int TermRows::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : rows_;
 }
 
+Qt::ItemFlags TermRows::flags(const QModelIndex& index) const {
+    return QAbstractListModel::flags(index) | Qt::ItemIsDragEnabled;
+}
+
 QVariant TermRows::data(const QModelIndex& index, int role) const {
     constexpr std::size_t kShown = 300; // no row is wider
     if (role != Qt::DisplayRole || index.row() >= program_.terms.TermCount()) {
@@ -137,8 +141,10 @@ FrmFutView::~FrmFutView() {
     if (dock_ != nullptr) {
         for (QObject* part : dock_->findChildren<QObject*>()) {
             part->disconnect(this);
+            part->removeEventFilter(this);
         }
         dock_->disconnect(this);
+        dock_->removeEventFilter(this);
         delete dock_;
     }
 }
@@ -264,7 +270,8 @@ bool FrmFutView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FrmFutView::Open() {
-    PlaceFirst();
+    waiting_ = true;
+    Follow();
 }
 
 void FrmFutView::Leave() {
@@ -285,7 +292,7 @@ void FrmFutView::TakeKeyboard() {
 }
 
 /// The saved place counts when a good part of the window would lie on a screen.
-void FrmFutView::PlaceFirst() {
+QRect FrmFutView::FirstPlace() const {
     const double scale = PixelsPerTwip();
     const QRect saved(qRound(static_cast<double>(model_.Left) * scale),
                       qRound(static_cast<double>(model_.Top) * scale),
@@ -299,13 +306,10 @@ void FrmFutView::PlaceFirst() {
         return seen.width() >= kReachable && seen.height() >= kReachable / 3;
     });
     if (onScreen && saved.height() >= kReachable) {
-        dock_->setGeometry(saved);
-    } else {
-        constexpr QSize kUsual(280, 420);
-        dock_->resize(kUsual);
-        dock_->move(parentWidget()->frameGeometry().topRight() - QPoint(kUsual.width() + 40, -140));
+        return saved;
     }
-    placed_ = true;
+    constexpr QSize kUsual(280, 420);
+    return {parentWidget()->frameGeometry().topRight() - QPoint(kUsual.width() + 40, -140), kUsual};
 }
 
 void FrmFutView::KeepPlace() {
@@ -390,8 +394,16 @@ void FrmFutView::Follow() {
         }
     }
     restore_->setVisible(model_.Minimised);
-    // The page comes first.
-    if (placed_ && program_.main.Loaded && dock_->isHidden() && parentWidget()->isVisible()) {
-        dock_->show();
+    if (waiting_ && program_.main.Loaded && parentWidget()->isVisible()) {
+        waiting_ = false; // the page has come first
+        ShowFirst();
     }
+}
+
+void FrmFutView::ShowFirst() {
+    const QRect place = FirstPlace();
+    dock_->show();
+    dock_->setGeometry(place); // a dock that shows for the first time takes a place of its own
+    placed_ = true;
+    KeepPlace();
 }

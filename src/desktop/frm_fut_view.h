@@ -23,6 +23,7 @@ class TermRows : public QAbstractListModel {
 public:
     TermRows(const Program& program, QObject* parent) : QAbstractListModel(parent), program_(program) {}
     [[nodiscard]] int rowCount(const QModelIndex& parent) const override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex& index) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     /// The lines are others now.
     void Renew();
@@ -93,7 +94,8 @@ private:
     void BuildMenus(QWidget* body);
     void BuildLists();
     void BuildButtons(QWidget* body);
-    void PlaceFirst();
+    [[nodiscard]] QRect FirstPlace() const;
+    void ShowFirst();
     void KeepPlace();
     void FollowMoreLists();
     void FollowButtons();
@@ -112,6 +114,7 @@ private:
     std::array<QPushButton*, 3> cases_{};
     QAction* default_ = nullptr;
     int version_ = -1;
+    bool waiting_ = false; ///< open, and not shown before the page is
     bool placed_ = false;
     bool following_ = false;
 };

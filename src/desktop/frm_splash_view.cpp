@@ -3,8 +3,8 @@
 #include "desktop/convert.h"
 #include "desktop/icons.h"
 #include "desktop/paper_surface.h"
-#include "program/keys.h"
 #include "desktop/paper_text.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "shell/frm_splash.h"
 

@@ -26,6 +26,7 @@ WindowView::~WindowView() {
     // What its parts still have to say while they go is heard by nobody.
     for (QObject* part : findChildren<QObject*>()) {
         part->disconnect(this);
+        part->removeEventFilter(this);
     }
 }
 

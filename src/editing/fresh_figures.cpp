@@ -17,7 +17,7 @@ void SettleTyping(Program& program) {
 
 void TakeFresh(Program& program) {
     if (program.pages[PageId::frmP6].txt.empty()) {
-        return; // asked for before the pages are built
+        return; // pages that are not built have no figures
     }
     SettleTyping(program);
     modTotals::MatchTables(program);

@@ -105,9 +105,6 @@ void SetTax(Program& program, PageId page, int row, Tax tax) {
 void MatchTables(Program& program) {
     for (const PageId page : kLinePages) {
         const auto at = At(IndexOf(page));
-        if (program.pages[page].imgNoTax.empty()) {
-            continue; // not built yet: there is nothing to match
-        }
         for (int index = 0; index <= geometry::LastText(page); ++index) {
             if (!geometry::IsAmount(page, index)) {
                 continue;

@@ -88,7 +88,7 @@ void frmSearch::cmdOK_Click(Program& program) {
         recent.push_back(search.SearchPhrase);
     }
     if (HitCount > 1) {
-        modWindows::Show(program, std::make_unique<frmSR>());
+        modWindows::BringToFront(modWindows::Show(program, std::make_unique<frmSR>()));
     } else if (HitCount == 1) {
         modSearch::GoToSearchHit(program, search.lstResults[1]);
     } else {

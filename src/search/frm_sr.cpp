@@ -13,6 +13,7 @@ void frmSR::Form_Load(Program& program) {
     for (std::size_t line = 0; line < found.size(); ++line) {
         lstResults[line % lstResults.size()].Items.push_back(found[line]);
     }
+    lstResults_Move(0);
     program.search.ResultsOpen = true;
 }
 

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -401,7 +402,9 @@ TEST(Calendar, ANewViewCommandStartsOver) {
     };
     frmDates& window = run.Open();
     EXPECT_EQ(window.lstDates.Items, (Dated::Items{"Jan/21/2008\tToday.hef"}));
-    EXPECT_EQ(run.program.windows.Open.size(), 1U);
+    EXPECT_EQ(std::count_if(run.program.windows.Open.begin(), run.program.windows.Open.end(),
+                            [](const auto& open) { return open->Name() == "frmDates"; }),
+              1);
     EXPECT_EQ(run.program.calendar.Running, 0);
     EXPECT_TRUE(window.Entry("mnuFilePrint").Enabled);
 }

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 
@@ -471,7 +472,9 @@ TEST(Deposits, TheCommandBringsTheOpenWindowToTheFront) {
     EXPECT_EQ(&run.Open(), &window);
     EXPECT_EQ(window.FrontCalls, 1);
     EXPECT_EQ(window.lst.Items.size(), 1U);
-    EXPECT_EQ(run.program.windows.Open.size(), 1U);
+    EXPECT_EQ(std::count_if(run.program.windows.Open.begin(), run.program.windows.Open.end(),
+                            [](const auto& open) { return open->Name() == "frmDeposits"; }),
+              1);
 }
 
 TEST(Deposits, LeavingTheProposalAsksForThemFirstSoThatTheDepositReachesItsFile) {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "desktop/text_area_view.h"
 #include "desktop/frm_main_view.h"
 #include "desktop/page_view.h"
 #include "desktop/paper_text.h"
 #include "desktop/qt_printers.h"
 #include "desktop/qt_surroundings.h"
+#include "desktop/text_area_view.h"
 #include "program/program.h"
 #include "support/recording_platform.h"
 #include "support/scratch_folder.h"

@@ -379,7 +379,7 @@ TEST(Completion, ASaveTakesTheTextAndNoAmount) {
     run.hand.Click(kPage, 0);
     run.hand.Type("cha");
     run.surroundings.questions.TakeAll();
-    commands::Run(run.program, CommandId::mnuFileSaveEvent);
+    person::Choose(run.program, CommandId::mnuFileSaveEvent);
     EXPECT_NE(run.folder.Read("Proposals/Jane Roe.hef").find("chair covers"), std::string::npos);
     run.ExpectTaken("chair covers");
     EXPECT_EQ(run.Text(33), "");
