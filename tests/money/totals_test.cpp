@@ -135,6 +135,24 @@ TEST(HiddenTotals, AreEmptiedBothWaysAndTheDepositStays) {
     EXPECT_EQ(Figures(run)[0], "150.00");
 }
 
+TEST(ClientsCopy, IsBroughtBackByEitherComputation) {
+    RunningProgram run;
+    Amount(run, PageId::frmP1, 20, "100");
+    const auto spoil = [&] {
+        for (TextArea& area : run.program.pages[PageId::frmP6_1].txt) {
+            area.Text = "spoilt";
+        }
+    };
+    modTotals::RecalculateAll(run.program);
+    spoil();
+    modTotals::RecalculateAll(run.program); // writes the same figures, so that no field fires
+    EXPECT_EQ(Figures(run, PageId::frmP6_1), Figures(run));
+    modTotals::UpdateRunningTotals(run.program);
+    spoil();
+    modTotals::UpdateRunningTotals(run.program);
+    EXPECT_EQ(Figures(run, PageId::frmP6_1), Figures(run));
+}
+
 TEST(ExemptMark, AClickTakesTheRowBackAtOnce) {
     RunningProgram run;
     Amount(run, PageId::frmP2, 33, "100");
