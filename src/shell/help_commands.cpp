@@ -39,8 +39,11 @@ void mnuHelpFAQ_Click(Program& program) {
 }
 
 void mnuHelpVersion_Click(Program& program) {
-    const std::string words = text::Lines({version::kTitle, "Version: " + std::string(version::Number()),
-                                           "Comments: " + std::string(version::kComments)});
+    std::string number("Version: ");
+    number += version::Number();
+    std::string comments("Comments: ");
+    comments += version::kComments;
+    const std::string words = text::Lines({version::kTitle, number, comments});
     Tell(program, words);
     Guarded(program, "mnuHelpVersion", [&] {
         const std::string path = paths::ResolveDrive("c:\\QBPVersion.txt", program.folders.Drives);
