@@ -82,7 +82,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     static_cast<void>(modReset::StartNewFile(program));
     program.document.FilePath = "/nonexistent/";
-    modFile::ShowProposal(program, "Fuzz.hef", {bytes, size});
+    modFile::ShowProposal(program, "Fuzz.hef", {bytes, size, {}});
     for (const auto& row : program.totals.AmountTable) {
         for (const float amount : row) {
             Require(std::isfinite(amount));

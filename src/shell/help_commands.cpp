@@ -22,7 +22,9 @@ void Tell(Program& program, std::string_view message) {
 } // namespace
 
 void mnuHelpAbout_Click(Program& program) {
-    const std::string title = std::string(version::kTitle) + " Version " + std::string(version::Number());
+    std::string title(version::kTitle);
+    title += " Version ";
+    title += version::Number();
     Tell(program, text::Lines({title, version::kMaker, version::kWebLine}));
 }
 
