@@ -215,7 +215,7 @@ modCSV::Categories SimpleRecord(const Program& program, std::int32_t index) {
     const std::string_view record = batch_text::RecordAt(batch.List, batch.RecordAt, index, Between(batch));
     const std::vector<std::string_view> pieces =
         batch_text::Cut(record, kSeparators[static_cast<std::size_t>(batch.ListType)],
-                        static_cast<std::size_t>(batch.BatchSelectedLast + 1));
+                        static_cast<std::size_t>(batch.BatchSelectedLast) + 1);
     modCSV::Categories values;
     std::size_t next = 0;
     for (std::size_t category = 0; category < values.size() && next < pieces.size(); ++category) {

@@ -152,6 +152,7 @@ void frmEditor::LoadLineNumbers() {
 
 bool frmEditor::UpdateMyContract(Program& program) {
     std::vector<std::string> lines;
+    lines.reserve(static_cast<std::size_t>(txtCharCount.LineCount()));
     for (int line = 0; line < txtCharCount.LineCount(); ++line) {
         lines.push_back(txtCharCount.LineText(line));
     }

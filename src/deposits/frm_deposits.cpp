@@ -122,7 +122,7 @@ void frmDeposits::TellUnreadable(Program& program, int count) {
 void frmDeposits::Recompute(Program& program) {
     constexpr std::size_t kMost = std::numeric_limits<std::int16_t>::max();
     modDeposits::Sum sum = modDeposits::AddUp(lst.Items);
-    DepositRows = static_cast<std::int16_t>(std::min(lst.Items.size(), kMost)) - 1;
+    DepositRows = static_cast<std::int16_t>(static_cast<int>(std::min(lst.Items.size(), kMost)) - 1);
     DepositAmounts = std::move(sum.Amounts);
     total_ = sum.Total;
     DepositTotal = modDeposits::ToSingle(total_);

@@ -51,7 +51,8 @@ void ContractLayout::LayOut(QTextBlock block) {
     layout.setTextOption(option);
     layout.setFont(document()->defaultFont());
     // The model counts a line end twice, the document once.
-    const auto start = static_cast<std::size_t>(block.position() + block.blockNumber());
+    const auto start =
+        static_cast<std::size_t>(block.position()) + static_cast<std::size_t>(block.blockNumber());
     const auto length = static_cast<std::size_t>(block.length() - 1);
     const std::vector<modWrap::Piece>& lines = Lines();
     auto piece =

@@ -68,7 +68,7 @@ std::string HunspellDictionaries::LocaleLanguage() const {
 
 QString HunspellDictionaries::PathOf(const QString& language) const {
     for (const QString& folder : Folders) {
-        const QString path = folder + QLatin1Char('/') + language;
+        QString path = folder + QLatin1Char('/') + language;
         if (QFile::exists(path + QStringLiteral(".dic")) && QFile::exists(path + QStringLiteral(".aff"))) {
             return path;
         }

@@ -100,7 +100,7 @@ QImage ReadLogo(const std::string& path, const QSize& scaled) {
     if (scaled.isValid() && scaled.width() <= kMostSide && scaled.height() <= kMostSide) {
         reader.setScaledSize(scaled);
     }
-    const QImage picture = reader.read();
+    QImage picture = reader.read();
     if (picture.isNull()) {
         return {};
     }

@@ -91,7 +91,7 @@ QString WriteUnderFreeName(const QString& folder, const QString& name, const QBy
     constexpr int kMostNames = 10000;
     for (int number = 1; number < kMostNames; ++number) {
         const QString suffix = number == 1 ? QString() : QStringLiteral(" (%1)").arg(number);
-        const QString path = folder + QLatin1Char('/') + name + suffix + QStringLiteral(".odt");
+        QString path = folder + QLatin1Char('/') + name + suffix + QStringLiteral(".odt");
         if (PutInPlace(scratch.fileName(), path)) {
             return path;
         }

@@ -24,7 +24,7 @@ public:
     /// The model has been closed; it stays as long as something may still arrive for its view.
     void KeepModel(std::unique_ptr<Window> model) { kept_ = std::move(model); }
     /// Shows it for the first time, and takes it from the screen for good.
-    virtual void Open() { show(); }
+    virtual void Open() { show(); } // NOLINT(bugprone-virtual-near-miss): not the toolkit's own
     virtual void Leave() { hide(); }
     /// Comes to the front when the model has called for it.
     void AnswerCalls();

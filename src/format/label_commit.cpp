@@ -135,7 +135,7 @@ void RestoreLabel(Program& program) {
     const PageId page = *designer.LabelPage;
     const int index = designer.CurrentLabel;
     PageLabel& label = LabelAt(program, page, index);
-    LabelLook look = RecordOf(program.format.LabelSavedState, page, index);
+    LabelLook look = static_cast<const LabelLook&>(RecordOf(program.format.LabelSavedState, page, index));
     look.Left = label.Left; // where it was dragged to meanwhile stays
     look.Top = label.Top;
     PutLook(label, look);

@@ -45,7 +45,8 @@ TEST(AssignmentLines, SayWhatTheyAssignToTheLetter) {
 }
 
 TEST(AssignmentLines, ALabelComesBackAsItWas) {
-    const Reading reading = Read(LabelLine(0, 9, Day()));
+    const std::string line = LabelLine(0, 9, Day()); // what is read looks into it
+    const Reading reading = Read(line);
     ASSERT_EQ(reading.What, Outcome::Line);
     EXPECT_EQ(reading.Values.Page, 0);
     EXPECT_EQ(reading.Values.Index, 9);
