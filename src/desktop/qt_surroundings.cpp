@@ -362,5 +362,6 @@ void QtEventLoop::LetEventsRunFor(int milliseconds) {
 }
 
 void QtEventLoop::Quit() {
-    QCoreApplication::quit();
+    // Not quit(): that asks every window to close first, and one that stays keeps the program running.
+    QCoreApplication::exit(0);
 }
