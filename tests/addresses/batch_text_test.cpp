@@ -182,8 +182,8 @@ TEST(HeadingList, ReadsBackRandomTablesAsTheyWereWritten) {
 TEST(HeadingList, KnowsItsColumnsByNameAndTakesTheFirstOfTwo) {
     const modCSV::Columns columns = modCSV::ReadHeading("x, HOME city ,\"Notes\",home CITY");
     int present = 0;
-    for (std::size_t column = 0; column < columns.CsvColumnPresent.size(); ++column) {
-        present += columns.CsvColumnPresent[column] ? 1 : 0;
+    for (const bool there : columns.CsvColumnPresent) {
+        present += there ? 1 : 0;
     }
     EXPECT_EQ(present, 2);
     const modCSV::Row row = modCSV::ArrangeRow(columns, {"1", "Peoria", "n", "Joliet"});

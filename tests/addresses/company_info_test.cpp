@@ -6,8 +6,6 @@
 
 namespace {
 
-using address_menu::Id;
-
 struct CompanyRun : AddressRun {
     CompanyRun() { modAddress::mnuEditCompInfo_Click(program); }
     [[nodiscard]] std::string Settings() const { return folder.Read("UserPreferences.txt"); }

@@ -335,10 +335,11 @@ TEST(Deposits, ADateThatIsNotRecognisedStaysAndIsTold) {
 }
 
 TEST(Deposits, TheAmountTakesDigitsAndThePoint) {
-    for (const int passes : {'0', '9', '.', '\b', '\t', '\r'}) {
+    // 0 9 . backspace tab return; then - , a blank $
+    for (const int passes : {48, 57, 46, 8, 9, 13}) {
         EXPECT_EQ(frmDeposits::txtAmount_KeyPress(passes), passes);
     }
-    for (const int dropped : {'-', ',', 'a', ' ', '$'}) {
+    for (const int dropped : {45, 44, 97, 32, 36}) {
         EXPECT_EQ(frmDeposits::txtAmount_KeyPress(dropped), 0);
     }
 }
