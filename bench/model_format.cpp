@@ -41,17 +41,6 @@ void LayAFormat(benchmark::State& state) {
 }
 BENCHMARK(LayAFormat)->Unit(benchmark::kMillisecond);
 
-void WriteAFormat(benchmark::State& state) {
-    Letterhead run;
-    for (auto _ : state) {
-        run.program.format.LogoChanged = true;
-        if (modFormat::SaveFileFormat(run.program) != modFormat::FormatSave::Saved) {
-            state.SkipWithError("the format was not saved");
-        }
-    }
-}
-BENCHMARK(WriteAFormat)->Unit(benchmark::kMillisecond);
-
 void WriteTheSameBytes(benchmark::State& state) {
     Letterhead run;
     static_cast<void>(modFormat::SaveFileFormat(run.program));

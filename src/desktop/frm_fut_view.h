@@ -6,6 +6,7 @@
 #include <QDockWidget>
 #include <QListView>
 #include <QListWidget>
+#include <QMainWindow>
 #include <QPointer>
 #include <QPushButton>
 
