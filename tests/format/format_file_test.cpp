@@ -112,12 +112,13 @@ TEST(FormatFile, ASignThatIsNoWordBecomesTheSymbolInForceAndStaysHidden) {
 
 TEST(FormatFile, ABadLineIsPassedOverAndABadValueLeavesTheOneBefore) {
     Laid run;
-    run.Lay(
-        {std::string("frmP1.lbl(9).Left=100 .Top=200 .Caption=A .FontName=Arial .FontBold=True .FontSize=12 "
-                     ".ForeColor=255 .FontItalic=False .FontUnderline=False"),
-         "frmP9.lbl(9).Left=5", "frmP1.lbl(99).Left=5", "rubbish",
-         "frmP1.lbl(10).Left=x .Top=300 .Caption=B .FontName=Arial .FontBold=True .FontSize=999 .ForeColor=1 "
-         ".FontItalic=False .FontUnderline=False"});
+    const std::string good =
+        "frmP1.lbl(9).Left=100 .Top=200 .Caption=A .FontName=Arial .FontBold=True .FontSize=12 "
+        ".ForeColor=255 .FontItalic=False .FontUnderline=False";
+    const std::string bad =
+        "frmP1.lbl(10).Left=x .Top=300 .Caption=B .FontName=Arial .FontBold=True .FontSize=999 .ForeColor=1 "
+        ".FontItalic=False .FontUnderline=False";
+    run.Lay({good, "frmP9.lbl(9).Left=5", "frmP1.lbl(99).Left=5", "rubbish", bad});
     EXPECT_EQ(run.Label(PageId::frmP1, 10).Left, 100);
     EXPECT_EQ(run.Label(PageId::frmP1, 10).Top, 300);
     EXPECT_EQ(run.Label(PageId::frmP1, 10).FontSize, 12);
