@@ -53,6 +53,19 @@ void LostFocus(Program& program, const FieldRef& field) {
     }
 }
 
+/// Brings a field's page to the front and the field into the visible part, a third down where it was outside.
+void ShowField(Program& program, const FieldRef& field) {
+    if (program.main.PageInFront != field.Page) {
+        modScroll::UpdatePageButtons(program, IndexOf(field.Page));
+    }
+    const Page& page = program.pages[field.Page];
+    const TextArea& area = page.txt[static_cast<std::size_t>(field.Index)];
+    const float top = page.Top + area.Top;
+    if (top < 0 || top + area.Height > program.main.ClientHeight) {
+        modScroll::SetScroll(program, static_cast<int>(area.Top - program.main.ClientHeight / 3));
+    }
+}
+
 } // namespace
 
 void Wire(Program& program) {
@@ -62,6 +75,7 @@ void Wire(Program& program) {
     hooks.LostFocus = LostFocus;
     hooks.UpdatePageButtons = modScroll::UpdatePageButtons;
     hooks.PageKey = modScroll::PageKey;
+    hooks.ShowField = ShowField;
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
     hooks.ReadTextFile = modExport::ReadTextFile;
     hooks.MoveBlock = modBlocks::MoveBlockByKey;

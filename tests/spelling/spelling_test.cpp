@@ -137,6 +137,16 @@ TEST(SpellingWindow, ShowsPageAreaTextWordAndSuggestions) {
     EXPECT_FALSE(window.cmdUndo.Enabled);
 }
 
+TEST(SpellingWindow, TheAreaThatIsCheckedComesIntoView) {
+    OwnCheck run;
+    run.Fill(PageId::frmP3, 32, "Chiars");
+    run.Start();
+    EXPECT_EQ(run.program.main.PageInFront, PageId::frmP3);
+    const float top = run.program.pages[PageId::frmP3].Top + run.Area(PageId::frmP3, 32).Top;
+    EXPECT_GE(top, 0);
+    EXPECT_LE(top + run.Area(PageId::frmP3, 32).Height, run.program.main.ClientHeight);
+}
+
 TEST(SpellingWindow, ChangeTakesTheWordAndGoesOnToTheNext) {
     OwnCheck run;
     run.Fill(PageId::frmP2, 3, "Chiars and Tabels");
