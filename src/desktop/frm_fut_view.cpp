@@ -30,7 +30,7 @@ Qt::ItemFlags TermRows::flags(const QModelIndex& index) const {
 
 QVariant TermRows::data(const QModelIndex& index, int role) const {
     constexpr std::size_t kShown = 300; // no row is wider
-    if (role != Qt::DisplayRole || index.row() >= program_.terms.TermCount()) {
+    if (role != Qt::DisplayRole || !index.isValid() || index.row() >= program_.terms.TermCount()) {
         return {};
     }
     const std::string_view line = program_.terms.Lines[static_cast<std::size_t>(index.row())];

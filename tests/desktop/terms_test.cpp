@@ -51,6 +51,18 @@ struct TermsDesktop : DesktopRun {
     [[nodiscard]] frmFUT& List() { return *static_cast<frmFUT*>(modWindows::Find(program, "frmFUT")); }
 };
 
+TEST(TermsWindow, AListWithNothingCurrentIsCopiedAsNothing) {
+    TermsDesktop run;
+    run.folder.Write("Proposals/Default Terms.fut", "");
+    modTerms::ListInUseChanged(run.program);
+    commands::Run(run.program, CommandId::mnuOptFUT);
+    run.window->AfterEvent();
+    auto* list = run.Find<QListView>("lstFUT");
+    ASSERT_NE(list, nullptr);
+    QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier); // the toolkit asks for the words of no row
+    EXPECT_FALSE(list->model()->data(QModelIndex(), Qt::DisplayRole).isValid());
+}
+
 TEST(WindowCompletion, ShowsWhatWasNotTypedAsSelected) {
     TermsDesktop run;
     run.Type(QStringLiteral("cha"));
