@@ -168,8 +168,14 @@ TEST(FormatFile, AnOpenedProposalIsTheSameUnderAFormatThatFillsEveryRow) {
                         run.program.format.PropTextChanges[static_cast<std::size_t>(IndexOf(page))][index];
                     const auto& kept =
                         run.program.format.FormatTextChanges[static_cast<std::size_t>(IndexOf(page))][index];
-                    all.push_back(props.Text + props.QtyValue + props.AmtValue);
-                    all.push_back(kept.Text + (kept.TaxExempt ? "x" : ""));
+                    for (const TextChangeRecord* table : {&props, &kept}) {
+                        all.push_back(table->Text + '|' + table->QtyValue + '|' + table->AmtValue +
+                                      (table->QtyBox ? "q" : "") + (table->TaxExempt ? "x" : ""));
+                        EXPECT_EQ(table->QtyBox,
+                                  geometry::IsDescription(page, static_cast<int>(index)) &&
+                                      modPages::ColumnsOn(run.program, page, static_cast<int>(index)))
+                            << index;
+                    }
                 }
             }
             for (std::size_t row = 0; row < record.txtQty.size(); ++row) {
