@@ -147,6 +147,7 @@ void DrawLogo(QPainter& painter, const std::string& path, const QRectF& place) {
     const QImage picture = ReadLogo(path, MadeOfLines(path) ? device : QSize());
     if (!picture.isNull()) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.setRenderHint(QPainter::LosslessImageRendering); // in a PDF its colours stay its own
         painter.drawImage(place, picture);
     }
 }

@@ -17,6 +17,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/rewriting.h"
+#include "program/saved_notice.h"
 #include "proposal/file_names.h"
 #include "settings/settings.h"
 
@@ -167,6 +168,7 @@ bool Written(Program& program, const std::string& path, bool agreed) {
     });
     if (written) {
         format.FormatSeen = seen;
+        TellSaved(program, "Format", path);
     }
     return written;
 }

@@ -83,13 +83,8 @@ void CreateNewFUTFile(Program& program) {
             return;
         }
     }
-    const bool made = Guarded(program, "CreateNewFUTFile", [&] {
-        const std::string path = PathOf(program, name);
-        if (files::Exists(path)) {
-            files::Delete(path);
-        }
-        files::WriteWhole(path, "");
-    });
+    const bool made =
+        Guarded(program, "CreateNewFUTFile", [&] { files::WriteWhole(PathOf(program, name), ""); });
     if (made) {
         OpenList(program, name);
     }
