@@ -14,10 +14,12 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QSessionManager>
 #include <QTest>
 #include <QWheelEvent>
+#include <QtTest/qtestspontaneevent.h>
 
 #include <gtest/gtest.h>
 
@@ -32,6 +34,7 @@ void TurnWheel(QWidget* over, int eighths) {
     const QPointF middle = over->rect().center();
     QWheelEvent turn(middle, over->mapToGlobal(middle), {}, QPoint(0, eighths), Qt::NoButton, Qt::NoModifier,
                      Qt::NoScrollPhase, false);
+    QSpontaneKeyEvent::setSpontaneous(&turn); // a real wheel's turn goes on to the widgets behind
     QApplication::sendEvent(over, &turn);
 }
 
@@ -191,8 +194,9 @@ TEST(Mnemonics, EveryButtonOfAWindowHasALetterOfItsOwn) {
         ASSERT_NE(view, nullptr);
         std::set<QString> letters;
         for (const QPushButton* button : view->findChildren<QPushButton*>()) {
-            if (mnemonics::Plain(button->text()).size() < 2) {
-                continue;
+            const QString caption = mnemonics::Plain(button->text());
+            if (caption.size() < 2 || !caption.contains(QRegularExpression(QStringLiteral("[A-Za-z]")))) {
+                continue; // a figure or a sign
             }
             const QString key = button->shortcut().toString();
             EXPECT_NE(key, QString()) << button->text().toStdString();
@@ -216,7 +220,7 @@ TEST(Mnemonics, KeepTheLetterTheyHaveAndLeaveTheMenusTheirs) {
     EXPECT_EQ(second.text(), QStringLiteral("Save &As"));
     EXPECT_EQ(first.text(), QStringLiteral("Sa&ve")) << "s is taken, a is given";
     EXPECT_EQ(sign.text(), QStringLiteral("+"));
-    EXPECT_EQ(again.text(), QStringLiteral("Ask a&gain"));
+    EXPECT_EQ(again.text(), QStringLiteral("As&k again"));
     EXPECT_EQ(help.shortcut(), QKeySequence(Qt::Key_F1));
 }
 

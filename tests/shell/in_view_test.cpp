@@ -1,5 +1,6 @@
 #include "editing/navigation.h"
 #include "pages/fields.h"
+#include "pages/page_geometry.h"
 #include "program/program.h"
 #include "shell/frm_main.h"
 #include "shell/page_switch.h"
