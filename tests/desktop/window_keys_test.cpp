@@ -19,7 +19,6 @@
 #include <QSessionManager>
 #include <QTest>
 #include <QWheelEvent>
-#include <QtTest/qtestspontaneevent.h>
 
 #include <gtest/gtest.h>
 
@@ -30,12 +29,18 @@ namespace {
 
 constexpr int kNotch = 120;
 
+/// As a wheel's turn comes: to the widget under the pointer, then to those behind until one takes it.
 void TurnWheel(QWidget* over, int eighths) {
-    const QPointF middle = over->rect().center();
-    QWheelEvent turn(middle, over->mapToGlobal(middle), {}, QPoint(0, eighths), Qt::NoButton, Qt::NoModifier,
-                     Qt::NoScrollPhase, false);
-    QSpontaneKeyEvent::setSpontaneous(&turn); // a real wheel's turn goes on to the widgets behind
-    QApplication::sendEvent(over, &turn);
+    for (QWidget* at = over; at != nullptr; at = at->parentWidget()) {
+        const QPointF middle = at->rect().center();
+        QWheelEvent turn(middle, at->mapToGlobal(middle), {}, QPoint(0, eighths), Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+        turn.ignore();
+        QApplication::sendEvent(at, &turn);
+        if (turn.isAccepted()) {
+            return;
+        }
+    }
 }
 
 /// A field's height within the desk.
