@@ -36,9 +36,9 @@ void Tell(Program& program, std::string_view words) {
     program.platform.questions.MsgBox(words, Buttons::Ok, "");
 }
 
-bool Confirmed(Program& program, std::string_view question) {
-    return program.platform.questions.MsgBox(question, Buttons::YesNo, "", {.Default = Answer::No}) ==
-           Answer::Yes;
+bool Confirmed(Program& program, std::string_view question, const std::string& lost) {
+    return program.platform.questions.MsgBox(question, Buttons::YesNo, "",
+                                             {.Default = Answer::No, .Lost = lost}) == Answer::Yes;
 }
 
 std::string TargetFolder(const Program& program) {
@@ -182,7 +182,7 @@ FormatSave SaveSteps(Program& program, const Name& name) {
     }
     const std::string path = paths::Join(TargetFolder(program), name.File);
     if (name.Asked && files::Exists(path)) {
-        if (!Confirmed(program, "File already exists. Overwrite?")) {
+        if (!Confirmed(program, "File already exists. Overwrite?", name.File)) {
             return FormatSave::NotSaved;
         }
     }

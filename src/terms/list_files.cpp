@@ -77,9 +77,9 @@ void CreateNewFUTFile(Program& program) {
     std::string name = std::string(wanted) + std::string(kExtension);
     if (const std::optional<std::string> taken = NameOnDisk(program, name)) {
         name = *taken;
-        if (program.platform.questions.MsgBox("File already exists. Overwrite?", Buttons::YesNo,
-                                              "Duplicate Frequent Terms File Exists",
-                                              kKeepsByDefault) != Answer::Yes) {
+        if (program.platform.questions.MsgBox(
+                "File already exists. Overwrite?", Buttons::YesNo, "Duplicate Frequent Terms File Exists",
+                {.Default = Answer::No, .Lost = "The terms of " + name}) != Answer::Yes) {
             return;
         }
     }

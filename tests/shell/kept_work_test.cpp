@@ -351,7 +351,7 @@ TEST(KeptWork, WhateverCallFailsEveryKindOfFileStandsWholeAndAFailureIsTold) {
             run.SaveAnn();
             kind.Prepare(run);
             before = run.folder.Read(kind.File);
-            run.surroundings.questions.TakeAll(Answer::Ok);
+            run.surroundings.questions.TakeAll(Answer::Yes);
             kind.Rewrite(run);
             after = run.folder.Read(kind.File);
             ASSERT_NE(before, after) << kind.Name;
