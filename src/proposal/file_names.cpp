@@ -78,4 +78,19 @@ void SetBaseName(Program& program, std::string_view baseName) {
     program.document.DepositFile = program.document.BaseName + ".dep";
 }
 
+void NameAfterClient(Program& program, std::string_view client) {
+    // Blanks around a name cannot be seen in a list of files.
+    const std::string name(text::Trim(client));
+    DocumentState& document = program.document;
+    const std::string textFile = document.TextFileName;
+    SetBaseName(program, name);
+    document.FileName = name + ".hef";
+    if (name.empty()) {
+        document.TextFileName = textFile;
+    }
+    if (!document.TitleGiven) {
+        document.ClientCaption = "Proposal for " + name;
+    }
+}
+
 } // namespace modNames

@@ -26,4 +26,7 @@ void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::st
 /// The side files' names after a new file name.
 void SetBaseName(Program& program, std::string_view baseName);
 
+/// A proposal without a file takes its names, and its title unless that was given, from the client's.
+void NameAfterClient(Program& program, std::string_view client);
+
 } // namespace modNames

@@ -28,14 +28,6 @@ namespace modProposal {
 
 namespace {
 
-/// An empty proposal is none from the backups, and must not be saved among them.
-void LeaveBackup(Program& program) {
-    program.document.FromBackup = false;
-    if (paths::SameFolder(program.document.FilePath, modFolders::BackupFolder(program))) {
-        program.document.FilePath = modFolders::DataFolder(program);
-    }
-}
-
 void SaveAsSteps(Program& program) {
     DocumentState& document = program.document;
     if (program.totals.HasAmounts()) {
@@ -139,6 +131,13 @@ bool MayGoOn(Program& program) {
     const bool goOn = !program.document.Cancelled;
     program.document.Cancelled = false;
     return goOn && MayLeaveFormat(program);
+}
+
+void LeaveBackup(Program& program) {
+    program.document.FromBackup = false;
+    if (paths::SameFolder(program.document.FilePath, modFolders::BackupFolder(program))) {
+        program.document.FilePath = modFolders::DataFolder(program);
+    }
 }
 
 bool MayLeaveFormat(Program& program) {
