@@ -115,5 +115,7 @@ QString TestHook::AnswerTo(const QString& question) {
     if (widget == nullptr) {
         return verb == QLatin1String("where") ? Entry(name) : QString();
     }
-    return verb == QLatin1String("where") ? Place(*widget) : widget->property("text").toString();
+    // An answer is one line.
+    return verb == QLatin1String("where") ? Place(*widget)
+                                          : widget->property("text").toString().replace(u'\n', u' ');
 }
