@@ -38,7 +38,7 @@ void ClearFormat(Program& program) {
         program.settings.LoadDefaultFormat = loadDefault;
         return;
     }
-    modProposal::LeaveBackup(program);
+    modNames::LeaveBackup(program);
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }
 

@@ -11,7 +11,6 @@
 #include "program/windows.h"
 #include "proposal/delete_files.h"
 #include "proposal/file_names.h"
-#include "proposal/lifecycle.h"
 #include "proposal/property_file.h"
 #include "proposal/proposal_open.h"
 #include "proposal/reset.h"
@@ -201,7 +200,7 @@ void frmFile::OpenFormat(Program& program) {
         return;
     }
     Finish(program);
-    modProposal::LeaveBackup(program);
+    modNames::LeaveBackup(program);
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }
 

@@ -133,13 +133,6 @@ bool MayGoOn(Program& program) {
     return goOn && MayLeaveFormat(program);
 }
 
-void LeaveBackup(Program& program) {
-    program.document.FromBackup = false;
-    if (paths::SameFolder(program.document.FilePath, modFolders::BackupFolder(program))) {
-        program.document.FilePath = modFolders::DataFolder(program);
-    }
-}
-
 bool MayLeaveFormat(Program& program) {
     return !program.hooks.MayLeaveFormat || program.hooks.MayLeaveFormat(program);
 }
@@ -158,7 +151,7 @@ void mnuFileNew_Click(Program& program) {
         return;
     }
     const bool format = program.format.FormatOpen;
-    LeaveBackup(program);
+    modNames::LeaveBackup(program);
     if (!format) {
         modTitles::SetPageHeading(program, "Contract Proposal");
         Page& page = program.pages[PageId::frmP1];
@@ -225,7 +218,7 @@ void mnuFileDelete_Click(Program& program) {
         return;
     }
     if (modReset::StartNewFile(program) == modReset::ResetResult::Done) {
-        LeaveBackup(program);
+        modNames::LeaveBackup(program);
     }
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }

@@ -17,9 +17,6 @@ void AskToSave(Program& program);
 /// The question about the open format alone.
 [[nodiscard]] bool MayLeaveFormat(Program& program);
 
-/// An empty proposal is none from the backups, and must not be saved among them.
-void LeaveBackup(Program& program);
-
 void SaveEventFileAs(Program& program);
 
 void mnuFileNew_Click(Program& program);
