@@ -8,7 +8,7 @@
 #include "output/print_page.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "pages/text_width.h"
 #include "program/program.h"
 #include "shell/main_load.h"
@@ -75,7 +75,6 @@ struct Desktop {
         folder.Write("Proposals/SalesTax.txt", Shipped("Proposals/SalesTax.txt"));
         program.folders.InstallFolder = folder.Path();
         Wire(program);
-        program.hooks.ReadEventDates = nullptr; // the folder of a measure holds no proposals
         window = std::make_unique<FrmMainView>(program, qt.measure);
         qt.events.Follow = [this] { window->Follow(); };
         modMain::MDIForm_Load(program); // without the splash, which waits for a person
