@@ -76,21 +76,22 @@ TEST(Keys, TermsKeysAreHeardOnLinePagesOnlyAndReachTheFieldToo) {
     RunningProgram run;
     run.folder.Write("Proposals/Other Terms.fut", "Arch\r\n");
     const std::string list = run.program.run.FUTFileName;
-    ASSERT_EQ(modWindows::Find(run.program, "frmFUT"), nullptr);
+    const auto window = [&] { return modWindows::Find(run.program, "frmFUT"); };
+    ASSERT_NE(window(), nullptr);
+    modWindows::Close(run.program, *window()); // the settings have shown it
     modScroll::UpdatePageButtons(run.program, 1);
     modFields::GiveFocus(run.program, {PageId::frmP2, FieldKind::txt, 0});
     const int before = run.program.editing.KeyCounter;
     EXPECT_EQ(KeyDown(run.program, keys::kF5, 0, 0, 0), Taken::No);
-    Window* terms = modWindows::Find(run.program, "frmFUT");
-    ASSERT_NE(terms, nullptr);
+    ASSERT_NE(window(), nullptr);
     EXPECT_EQ(KeyDown(run.program, keys::kF6, 0, 0, 0), Taken::No);
     EXPECT_NE(run.program.run.FUTFileName, list) << "the next list";
     EXPECT_EQ(run.program.editing.KeyCounter, before + 2);
     modScroll::UpdatePageButtons(run.program, 5);
     modFields::GiveFocus(run.program, {PageId::frmP6, FieldKind::txt, 0});
-    modWindows::Close(run.program, *terms);
+    modWindows::Close(run.program, *window());
     EXPECT_EQ(KeyDown(run.program, keys::kF5, 0, 0, 0), Taken::No);
-    EXPECT_EQ(modWindows::Find(run.program, "frmFUT"), nullptr);
+    EXPECT_EQ(window(), nullptr);
 }
 
 TEST(Keys, ACharacterGoesToTheFieldThatHasTheFocusAfterTheKey) {
