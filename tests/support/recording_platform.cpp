@@ -219,10 +219,13 @@ bool FakeDictionaries::Use(std::string_view language) {
         return false;
     }
     InUse = language;
-    return true;
+    return Real == nullptr || Real->Use(language);
 }
 
 std::vector<std::string> FakeDictionaries::Suggestions(std::string_view word) const {
+    if (Real != nullptr) {
+        return Real->Suggestions(word);
+    }
     const auto known = Unknown.find(std::string(word));
     return known == Unknown.end() ? std::vector<std::string>{} : known->second;
 }

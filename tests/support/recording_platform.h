@@ -278,16 +278,19 @@ public:
 
 class FakeDictionaries : public Dictionaries {
 public:
+    Dictionaries* Real = nullptr; ///< answers in this one's place, where a test has it
     std::vector<std::string> Installed{"de_DE", "en_US"};
     std::string Locale = "en_US";
     std::string InUse;
     std::string Broken;                                      ///< cannot be read
     std::map<std::string, std::vector<std::string>> Unknown; ///< wrong words with what is suggested for them
-    [[nodiscard]] std::vector<std::string> Languages() const override { return Installed; }
+    [[nodiscard]] std::vector<std::string> Languages() const override {
+        return Real != nullptr ? Real->Languages() : Installed;
+    }
     [[nodiscard]] std::string LocaleLanguage() const override { return Locale; }
     [[nodiscard]] bool Use(std::string_view language) override;
     [[nodiscard]] bool Knows(std::string_view word) const override {
-        return !Unknown.contains(std::string(word));
+        return Real != nullptr ? Real->Knows(word) : !Unknown.contains(std::string(word));
     }
     [[nodiscard]] std::vector<std::string> Suggestions(std::string_view word) const override;
 };
