@@ -90,7 +90,6 @@ struct Desktop {
         folder.MakeFolder("Proposals/Backup");
         program.folders.InstallFolder = folder.Path();
         Wire(program);
-        program.hooks.ReadEventDates = nullptr; // the folder of a measure is filled later
         window = std::make_unique<FrmMainView>(program, qt.measure);
         events.Follow = [this] { window->Follow(); };
         modMain::MDIForm_Load(program);

@@ -1,67 +1,27 @@
 #include "base/files.h"
+#include "editing/standing_completion.h"
+#include "pages/fields.h"
+#include "program/keys.h"
 #include "program/program.h"
-#include "shell/main_load.h"
-#include "shell/wiring.h"
-#include "support/recording_platform.h"
+#include "quiet_program.h"
+#include "support/typist.h"
 #include "terms/completion.h"
 #include "terms/placing.h"
 #include "terms/term_line.h"
 #include "terms/term_list.h"
 #include "terms/term_match.h"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <filesystem>
 #include <string>
-
-#include <unistd.h>
+#include <vector>
 
 /// Arbitrary bytes read as a frequent terms list: its lines complete words, go into fields and are written
 /// again.
 
 namespace {
-
-/// Answers every box and never complains: a fuzzer has no script.
-class QuietQuestions : public Questions {
-public:
-    Answer Ask(std::string_view, Buttons, std::string_view, const Manner&) override { return Answer::Ok; }
-    std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
-};
-
-struct Machine {
-    QuietQuestions quiet;
-    RecordingPlatform recording;
-    Platform platform{.questions = quiet,
-                      .measure = recording.measure,
-                      .printers = recording.printers,
-                      .screen = recording.screen,
-                      .clipboard = recording.clipboard,
-                      .shell = recording.shell,
-                      .clock = recording.clock,
-                      .instance = recording.instance,
-                      .pictures = recording.pictures,
-                      .events = recording.events,
-                      .words = recording.words,
-                      .dictionaries = recording.dictionaries};
-    Program program{platform};
-    Machine() {
-        const std::filesystem::path folder =
-            std::filesystem::temp_directory_path() / ("terms_fuzzer." + std::to_string(::getpid()));
-        std::filesystem::create_directories(folder);
-        program.folders.InstallFolder = folder.string() + "/";
-        program.settings.CurrencySymbol = "$";
-        Wire(program);
-        modMain::MDIForm_Load(program);
-        program.folders.ProposalsFolder = program.folders.InstallFolder;
-        program.run.ACEnabled = true;
-    }
-};
-
-void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 void CompleteEveryWord(Program& program) {
     const auto& lines = program.terms.Lines;
@@ -78,16 +38,44 @@ void CompleteEveryWord(Program& program) {
     }
 }
 
+/// The first terms by the keys of a person: each word is completed, and taken or left.
+void TypeTerms(Program& program) {
+    constexpr std::size_t kTyped = 12;
+    constexpr std::size_t kLetters = 5;
+    constexpr std::array kThen{keys::kEnter, keys::kRight, keys::kDown, keys::kBackspace};
+    program.editing.KeyCounter = 0; // nothing is saved on the way
+    Typist hand(program);
+    const std::vector<std::string> terms(
+        program.terms.Lines.begin(), program.terms.Lines.begin() + static_cast<std::ptrdiff_t>(std::min(
+                                                                       kTyped, program.terms.Lines.size())));
+    for (std::size_t each = 0; each < terms.size(); ++each) {
+        for (const int index : {0, 33}) {
+            modFields::SetText(program, {PageId::frmP2, FieldKind::txt, index}, "");
+        }
+        hand.Click(PageId::frmP2, 0);
+        std::string word(modTerms::PlainText(terms[each]).substr(0, kLetters));
+        hand.Type(word);
+        const TextArea& area = program.pages[PageId::frmP2].txt[0];
+        Require(area.SelStart >= 0 && area.SelStart + area.SelLength <= static_cast<int>(area.Text.size()));
+        hand.Press(kThen[each % kThen.size()]);
+        program.editing.KeyCounter = 0;
+        modText::TakeCompletion(program);
+        Require(program.document.CurrentTextBuf[PageId::frmP2][0] == area.Text);
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static Machine machine; // one program for the whole run
+    static QuietProgram machine; // one program for the whole run
     Program& program = machine.program;
+    program.run.ACEnabled = true;
     const std::string bytes(reinterpret_cast<const char*>(data), size);
     files::WriteWhole(modTerms::PathInUse(program), bytes);
     modTerms::ReadFrequentlyUsedTerms(program);
     Require(program.terms.ReadWhole);
     CompleteEveryWord(program);
+    TypeTerms(program);
 
     const FieldRef line{PageId::frmP2, FieldKind::txt, 0};
     for (const std::string_view each : program.terms.Lines) {

@@ -53,10 +53,7 @@ void Write(Program& program, const AreaText& value) {
     const FieldRef field = Client(value.Area);
     program.editing.LastKeyChar.clear(); // a stale key must not move the text on into another row
     modFields::SetText(program, field, value.Text);
-    TextArea& area = modFields::Area(program, field);
-    if (area.BackColor == colors::kOverLimit && !modAreaColours::OverLimit(program, PageId::frmP1, area)) {
-        area.BackColor = program.main.Focus == field ? colors::kFocused : colors::kResting;
-    }
+    modAreaColours::ColourAfterCommand(program, field);
 }
 
 Consent AskToReplace(Program& program, const std::vector<AreaText>& values) {

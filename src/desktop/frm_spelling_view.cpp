@@ -2,6 +2,9 @@
 
 #include "desktop/convert.h"
 #include "desktop/dialog_parts.h"
+#include "desktop/frm_main_view.h"
+#include "desktop/page_view.h"
+#include "desktop/text_area_view.h"
 #include "program/program.h"
 
 #include <QComboBox>
@@ -10,9 +13,20 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QTextEdit>
 
+#include <algorithm>
 #include <array>
+
+namespace {
+
+/// A line of a page takes no control characters.
+int LineCharacter(int keyAscii) {
+    return keyAscii >= ' ' ? keyAscii : 0;
+}
+
+} // namespace
 
 FrmSpellingView::FrmSpellingView(Program& program, frmSpelling& window, QWidget* over,
                                  std::function<void()> afterEvent)
@@ -23,7 +37,10 @@ FrmSpellingView::FrmSpellingView(Program& program, frmSpelling& window, QWidget*
     BuildTexts();
     BuildButtons();
     Connect();
-    setMinimumWidth(560);
+    constexpr int kNarrowest = 560;
+    setMinimumWidth(kNarrowest);
+    // No higher than it must be: the page behind shows what is checked.
+    resize(kNarrowest, layout()->minimumSize().height());
     FrmSpellingView::Follow();
     changeTo_->setFocus();
     changeTo_->selectAll();
@@ -40,22 +57,24 @@ void FrmSpellingView::BuildTexts() {
     text_->setAccessibleName(tr("Text"));
     text_->setReadOnly(true);
     text_->setTabChangesFocus(true);
-    text_->setMinimumHeight(text_->fontMetrics().lineSpacing() * 4);
+    constexpr int kTextLines = 3, kSuggestionLines = 5, kBorders = 12;
+    text_->setMinimumHeight(text_->fontMetrics().lineSpacing() * kTextLines + kBorders);
     text_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     column->addWidget(text_, 1);
     word_ = dialog::Words(this, "lblWord", "");
     column->addWidget(word_);
     QLabel* change = dialog::Words(this, "lblChangeTo", spelling_.lblChangeTo.Caption);
     column->addWidget(change);
-    changeTo_ = new QLineEdit(this);
-    changeTo_->setObjectName(QStringLiteral("txtChangeTo"));
+    changeTo_ = dialog::FilteredEdit(this, "txtChangeTo", tr("Change to"), LineCharacter);
     change->setBuddy(changeTo_);
     column->addWidget(changeTo_);
     QLabel* suggestions = dialog::Words(this, "lblSuggestions", spelling_.lblSuggestions.Caption);
     column->addWidget(suggestions);
     suggestions_ = new QListWidget(this);
     suggestions_->setObjectName(QStringLiteral("lstSuggestions"));
+    suggestions_->setAccessibleName(tr("Suggestions"));
     suggestions->setBuddy(suggestions_);
+    suggestions_->setMinimumHeight(suggestions_->fontMetrics().lineSpacing() * kSuggestionLines + kBorders);
     column->addWidget(suggestions_, 2);
     tooLong_ = dialog::Words(this, "lblTooLong", "");
     QPalette warning = tooLong_->palette();
@@ -143,8 +162,60 @@ void FrmSpellingView::FollowText() {
     }
 }
 
+QRect FrmSpellingView::AreaOnScreen() const {
+    const SpellingState& state = program_.spelling;
+    auto* main = qobject_cast<FrmMainView*>(parentWidget());
+    if (main == nullptr || state.Position >= state.Areas.size()) {
+        return {};
+    }
+    const FieldRef& field = state.Areas[state.Position];
+    const TextAreaView* area = main->PageOf(field.Page).Field(field);
+    return area == nullptr || !area->isVisible() ? QRect()
+                                                 : QRect(area->mapToGlobal(QPoint(0, 0)), area->size());
+}
+
+void FrmSpellingView::StepAside() {
+    const QRect area = AreaOnScreen();
+    const QScreen* place = screen();
+    QRect frame = frameGeometry();
+    if (frame.size() == size()) { // no borders yet
+        frame = frame.marginsAdded(QMargins(4, 30, 4, 4));
+    }
+    if (!isVisible() || place == nullptr || !frame.intersects(area)) {
+        return;
+    }
+    constexpr int kGap = 8;
+    const QRect room = place->availableGeometry();
+    QRect best = frame;
+    const auto covered = [&](const QRect& at) {
+        const QRect both = at.intersected(area);
+        return both.width() * both.height();
+    };
+    for (const QPoint& corner :
+         {QPoint(frame.left(), area.bottom() + kGap),
+          QPoint(frame.left(), area.top() - kGap - frame.height()), QPoint(area.right() + kGap, frame.top()),
+          QPoint(area.left() - kGap - frame.width(), frame.top())}) {
+        QRect at(corner, frame.size());
+        at.moveLeft(std::max(room.left(), std::min(at.left(), room.right() - at.width())));
+        at.moveTop(std::max(room.top(), std::min(at.top(), room.bottom() - at.height())));
+        if (covered(at) < covered(best)) {
+            best = at;
+        }
+    }
+    move(best.topLeft());
+}
+
+void FrmSpellingView::showEvent(QShowEvent* event) {
+    WindowView::showEvent(event);
+    QMetaObject::invokeMethod(
+        this, [this] { StepAside(); }, Qt::QueuedConnection);
+}
+
 void FrmSpellingView::Follow() {
     WindowView::Follow();
+    // The page behind has its place when the event has come to its end.
+    QMetaObject::invokeMethod(
+        this, [this] { StepAside(); }, Qt::QueuedConnection);
     area_->setText(convert::ToQString(spelling_.lblArea.Caption));
     word_->setText(convert::ToQString(spelling_.lblWord.Caption));
     FollowText();
@@ -166,7 +237,7 @@ void FrmSpellingView::Follow() {
         changeTo_->selectAll();
     }
     language_->setCurrentIndex(spelling_.cmbLanguage.ListIndex);
-    tooLong_->setText(convert::ToQString(spelling_.lblTooLong.Caption));
+    tooLong_->setText(convert::ToQString(spelling_.lblTooLong.Caption).remove(QLatin1Char('\r')));
     tooLong_->setVisible(!spelling_.lblTooLong.Caption.empty());
     undo_->setEnabled(spelling_.cmdUndo.Enabled);
 }

@@ -16,7 +16,14 @@ public:
     FrmSpellingView(Program& program, frmSpelling& window, QWidget* over, std::function<void()> afterEvent);
     void Follow() override;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
+    /// The area that is being checked, as it stands on the page behind; empty when it cannot be seen.
+    [[nodiscard]] QRect AreaOnScreen() const;
+    /// Moves off that area as far as the screen has room.
+    void StepAside();
     void BuildTexts();
     void BuildButtons();
     void Connect();

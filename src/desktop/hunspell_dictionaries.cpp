@@ -13,13 +13,36 @@
 
 #include <hunspell.hxx>
 
+#include <algorithm>
+#include <optional>
 #include <set>
+#include <string_view>
+
+namespace {
+
+/// Dictionaries have names of their own for some encodings.
+std::string EncodingOf(const std::string& name) {
+    constexpr std::string_view kCodePage = "microsoft-cp";
+    if (name.starts_with(kCodePage)) {
+        return "windows-" + name.substr(kCodePage.size());
+    }
+    return name.starts_with("TIS620") ? "TIS-620" : name;
+}
+
+/// Dictionaries spell with the straight apostrophe.
+std::string Straightened(std::string_view word) {
+    std::string plain(word);
+    std::replace(plain.begin(), plain.end(), '\x92', '\'');
+    return plain;
+}
+
+} // namespace
 
 struct HunspellDictionaries::Loaded {
     Loaded(const QString& path)
         : Checker(QFile::encodeName(path + QStringLiteral(".aff")).constData(),
                   QFile::encodeName(path + QStringLiteral(".dic")).constData()),
-          Encoding(Checker.get_dict_encoding()) {}
+          Encoding(EncodingOf(Checker.get_dict_encoding())) {}
 
     /// The word in the dictionary's own bytes; nothing when it has no such character.
     [[nodiscard]] std::optional<std::string> Encode(std::string_view word) const {
@@ -88,7 +111,11 @@ bool HunspellDictionaries::Use(std::string_view language) {
         !QFile(path + QStringLiteral(".aff")).open(QIODevice::ReadOnly)) {
         return false;
     }
-    inUse_ = loaded_.emplace(name, std::make_unique<Loaded>(path)).first->second.get();
+    auto loaded = std::make_unique<Loaded>(path);
+    if (!QStringEncoder(loaded->Encoding.c_str()).isValid()) {
+        return false; // every word would be unknown
+    }
+    inUse_ = loaded_.emplace(name, std::move(loaded)).first->second.get();
     return true;
 }
 
@@ -96,17 +123,13 @@ bool HunspellDictionaries::Knows(std::string_view word) const {
     if (inUse_ == nullptr) {
         return true;
     }
-    std::string plain(word);
-    for (char& character : plain) {
-        character = character == '\x92' ? '\'' : character; // the curly apostrophe
-    }
-    const auto bytes = inUse_->Encode(plain);
+    const auto bytes = inUse_->Encode(Straightened(word));
     return bytes && inUse_->Checker.spell(*bytes);
 }
 
 std::vector<std::string> HunspellDictionaries::Suggestions(std::string_view word) const {
     std::vector<std::string> result;
-    const auto bytes = inUse_ == nullptr ? std::nullopt : inUse_->Encode(word);
+    const auto bytes = inUse_ == nullptr ? std::nullopt : inUse_->Encode(Straightened(word));
     if (!bytes) {
         return result;
     }

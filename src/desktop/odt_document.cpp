@@ -65,6 +65,7 @@ struct ParagraphStyle {
     bool Bold = false;
     bool Rule = false;
     bool Heading = false;
+    const char* MarginRight = nullptr;
 };
 
 /// The default style "Standard" carries the column stop; the others follow it.
@@ -73,6 +74,7 @@ constexpr std::array kStyles{
     ParagraphStyle{.Name = "Heading_20_1", .Display = "Heading 1", .Bold = true, .Heading = true},
     ParagraphStyle{.Name = "Main_20_Category", .Display = "Main Category", .Bold = true},
     ParagraphStyle{.Name = "Rule", .Display = "Rule", .Rule = true},
+    ParagraphStyle{.Name = "Half_20_Rule", .Display = "Half Rule", .Rule = true, .MarginRight = "3.5in"},
     ParagraphStyle{.Name = "Figure", .Display = "Figure"}};
 
 void WriteStyle(QXmlStreamWriter& xml, const ParagraphStyle& style) {
@@ -99,6 +101,9 @@ void WriteStyle(QXmlStreamWriter& xml, const ParagraphStyle& style) {
         fo("border-bottom", "0.5pt solid #000000");
         fo("line-height", "6pt");
         fo("margin-bottom", "6pt");
+    }
+    if (style.MarginRight != nullptr) {
+        fo("margin-right", style.MarginRight);
     }
     if (style.Heading) {
         fo("keep-with-next", "always");
@@ -149,14 +154,15 @@ QByteArray Styles() {
     });
 }
 
-const char* StyleOf(LineKind kind) {
-    switch (kind) {
+const char* StyleOf(const DocumentLine& line) {
+    constexpr std::size_t kFullRule = 90;
+    switch (line.Kind) {
     case LineKind::Title:
         return "Heading_20_1";
     case LineKind::MainCategory:
         return "Main_20_Category";
     case LineKind::Rule:
-        return "Rule";
+        return line.Text.size() < kFullRule ? "Half_20_Rule" : "Rule";
     case LineKind::Figure:
         return "Figure";
     case LineKind::Row:
@@ -165,7 +171,7 @@ const char* StyleOf(LineKind kind) {
     return "Standard";
 }
 
-/// XML knows no control characters, and folds runs of blanks unless they are told.
+/// XML knows no control characters, and folds runs of blanks, and blanks at the ends, unless they are told.
 void WriteText(QXmlStreamWriter& xml, const QString& text) {
     QString run;
     const auto flush = [&] {
@@ -182,7 +188,8 @@ void WriteText(QXmlStreamWriter& xml, const QString& text) {
             while (at + 1 < text.size() && text[at + 1] == QLatin1Char('\t')) {
                 ++at;
             }
-        } else if (character == QLatin1Char(' ') && (at == 0 || text[at - 1] == QLatin1Char(' '))) {
+        } else if (character == QLatin1Char(' ') &&
+                   (at == 0 || at + 1 == text.size() || text[at - 1] == QLatin1Char(' '))) {
             flush();
             xml.writeEmptyElement(Space(kText), QStringLiteral("s"));
         } else if (character >= QLatin1Char(' ')) {
@@ -199,7 +206,7 @@ QByteArray Content(const std::vector<DocumentLine>& lines) {
         for (const DocumentLine& line : lines) {
             const bool heading = line.Kind == LineKind::Title;
             xml.writeStartElement(Space(kText), heading ? QStringLiteral("h") : QStringLiteral("p"));
-            xml.writeAttribute(Space(kText), QStringLiteral("style-name"), QLatin1String(StyleOf(line.Kind)));
+            xml.writeAttribute(Space(kText), QStringLiteral("style-name"), QLatin1String(StyleOf(line)));
             if (heading) {
                 xml.writeAttribute(Space(kText), QStringLiteral("outline-level"), QStringLiteral("1"));
             }

@@ -1,6 +1,7 @@
 #include "desktop/qt_word_services.h"
 
-#include "base/files.h"
+#include "base/ansi.h"
+#include "base/file_error.h"
 #include "desktop/convert.h"
 #include "desktop/odt_document.h"
 
@@ -19,6 +20,11 @@ namespace {
 
 const QString kOdt = QStringLiteral("application/vnd.oasis.opendocument.text");
 
+/// A path that the program's characters cannot spell is told as an address that leads there.
+std::string Spelled(const QString& path) {
+    return ansi::FromUtf8(path.toStdString()).value_or(QUrl::fromLocalFile(path).toEncoded().toStdString());
+}
+
 class OdtService : public WordService {
 public:
     explicit OdtService(QString name) : name_(std::move(name)) {}
@@ -31,7 +37,7 @@ public:
             folder = QDir::homePath();
         }
         const QString path = desktop::WriteUnderFreeName(folder, name_, odt::Make(lines));
-        written_.Path = convert::ToModel(path);
+        written_.Path = Spelled(path);
         written_.Opened =
             show_ && desktop::HasProgramFor(kOdt) && QDesktopServices::openUrl(QUrl::fromLocalFile(path));
     }
@@ -48,8 +54,12 @@ private:
     WrittenDocument written_;
 };
 
-[[noreturn]] void Fail(const QString& path, const QString& why) {
-    throw files::FileError(files::kPathAccess, convert::ToModel(path + QStringLiteral(": ") + why));
+/// With the number that the log has for it, where the system gave one.
+[[noreturn]] void Fail(const QString& path, int systemError, const QString& why) {
+    if (systemError != 0) {
+        files::Fail(systemError, Spelled(path));
+    }
+    throw files::FileError(files::kPathAccess, Spelled(path) + ": " + convert::ToModel(why));
 }
 
 /// A name that is taken is not an error; anything else is.
@@ -65,7 +75,7 @@ bool PutInPlace(const QString& from, const QString& to) {
         return false;
     }
     if (!QFile::rename(from, to)) {
-        Fail(to, QString::fromLocal8Bit(strerror(errno)));
+        Fail(to, errno, {});
     }
     return true;
 }
@@ -81,11 +91,13 @@ namespace desktop {
 
 QString WriteUnderFreeName(const QString& folder, const QString& name, const QByteArray& bytes) {
     QTemporaryFile scratch(folder + QStringLiteral("/.quillbrook-XXXXXX"));
+    errno = 0;
     if (!scratch.open()) {
-        Fail(folder, scratch.errorString());
+        Fail(folder, errno, scratch.errorString());
     }
+    errno = 0;
     if (scratch.write(bytes) != bytes.size() || !scratch.flush() || ::fsync(scratch.handle()) != 0) {
-        Fail(folder, scratch.errorString());
+        Fail(folder, errno, scratch.errorString());
     }
     scratch.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
     constexpr int kMostNames = 10000;
@@ -96,7 +108,7 @@ QString WriteUnderFreeName(const QString& folder, const QString& name, const QBy
             return path;
         }
     }
-    Fail(folder, QStringLiteral("too many documents of that name"));
+    Fail(folder, 0, QStringLiteral("too many documents of that name"));
 }
 
 bool HasProgramFor(const QString& mimeType) {
@@ -107,8 +119,11 @@ bool HasProgramFor(const QString& mimeType) {
                 continue;
             }
             const QByteArray wanted = mimeType.toLatin1() + '=';
+            bool taken =
+                false; // what a person took away from a kind of document stands in a section of its own
             for (const QByteArray& line : file.readAll().split('\n')) {
-                if (line.startsWith(wanted) && line.trimmed().size() > wanted.size()) {
+                taken = line.startsWith('[') ? line.startsWith("[Removed Associations]") : taken;
+                if (!taken && line.startsWith(wanted) && line.trimmed().size() > wanted.size()) {
                     return true;
                 }
             }

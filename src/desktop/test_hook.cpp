@@ -90,5 +90,7 @@ QString TestHook::AnswerTo(const QString& question) {
     if (widget == nullptr) {
         return {};
     }
-    return verb == QLatin1String("where") ? Place(*widget) : widget->property("text").toString();
+    // An answer is one line.
+    return verb == QLatin1String("where") ? Place(*widget)
+                                          : widget->property("text").toString().replace(u'\n', u' ');
 }

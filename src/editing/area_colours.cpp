@@ -3,6 +3,7 @@
 #include "editing/area_facts.h"
 #include "editing/columns.h"
 #include "money/totals.h"
+#include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "pages/text_width.h"
 #include "program/program.h"
@@ -21,6 +22,15 @@ bool OverLimit(const Program& program, PageId page, const TextArea& area) {
     return modPages::MeasureTextWidth(program, page, area.Text) >= area.Width ||
            static_cast<int>(area.Text.size()) > geometry::LimitOf(area.Tag) ||
            modTotals::IsNoNumber(program, area);
+}
+
+void ColourAfterCommand(Program& program, const FieldRef& field) {
+    TextArea& area = modFields::Area(program, field);
+    if (area.BackColor == colors::kBlockSelected) {
+        return;
+    }
+    const Color within = program.main.Focus == field ? colors::kFocused : colors::kResting;
+    area.BackColor = OverLimit(program, field.Page, area) ? colors::kOverLimit : within;
 }
 
 void ResetMyTextBoxColors(Program& program, PageId page) {

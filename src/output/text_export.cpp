@@ -36,25 +36,45 @@ void GoToClientName(Program& program) {
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, kClientName});
 }
 
+/// Adds to what the strip has to tell.
+void TellInStrip(Program& program, const std::string& words) {
+    std::string& notice = program.main.Notice;
+    notice += (notice.empty() ? "" : " ") + words;
+}
+
+std::string ScratchPath(const Program& program) {
+    return paths::Join(modFolders::DataFolder(program), kScratchFile);
+}
+
+/// Deletes the scratch file, if there is one; false when it stays.
+bool DropScratchFile(const Program& program) {
+    try {
+        if (files::Exists(ScratchPath(program))) {
+            files::Delete(ScratchPath(program));
+        }
+        return true;
+    } catch (const files::FileError&) {
+        return false;
+    }
+}
+
 /// The scratch file holds the text while it goes elsewhere. It is a convenience: a folder that takes none
 /// stops nothing.
 class ScratchFile {
 public:
-    ScratchFile(Program& program, std::string_view text)
-        : program_(program), path_(paths::Join(modFolders::DataFolder(program), kScratchFile)) {
+    ScratchFile(Program& program, std::string_view text) : program_(program) {
         try {
-            files::WriteWhole(path_, text);
+            files::WriteWhole(ScratchPath(program), text);
         } catch (const files::FileError& error) {
-            program.main.Notice = "The scratch file " + path_ + " could not be written: " + error.what();
+            told_ = "The scratch file " + ScratchPath(program) + " could not be written: " + error.what();
         }
     }
     ~ScratchFile() {
-        try {
-            if (files::Exists(path_)) {
-                files::Delete(path_);
-            }
-        } catch (const files::FileError&) {
-            program_.main.Notice = "The scratch file " + path_ + " could not be deleted.";
+        if (!DropScratchFile(program_) && told_.empty()) {
+            told_ = "The scratch file " + ScratchPath(program_) + " could not be deleted.";
+        }
+        if (!told_.empty()) {
+            TellInStrip(program_, told_); // beside what the export itself has told
         }
     }
     ScratchFile(const ScratchFile&) = delete;
@@ -62,7 +82,7 @@ public:
 
 private:
     Program& program_;
-    std::string path_;
+    std::string told_;
 };
 
 void TakeFigures(Program& program) {
@@ -121,6 +141,18 @@ void CopyToClipboard(Program& program) {
     program.platform.questions.MsgBox("Proposal copied to memory.", Buttons::Ok, "");
 }
 
+/// A proposal that has no file yet may be called what no file can be called.
+std::string DocumentName(std::string_view baseName) {
+    constexpr std::size_t kLongest = 200; // room for a number and the extension, in whatever characters
+    std::string name(text::Trim(baseName).substr(0, kLongest));
+    for (char& character : name) {
+        const bool control = static_cast<unsigned char>(character) < ' ';
+        character = control || modNames::HasIllegalCharacter({&character, 1}) ? '-' : character;
+    }
+    name = text::Trim(name);
+    return name.empty() || name.front() == '.' ? "Proposal" + name : name;
+}
+
 void ExportToDocument(Program& program) {
     const std::vector<DocumentLine> lines = ProposalLines(program);
     const ScratchFile scratch(program, PlainText(lines));
@@ -135,9 +167,8 @@ std::string NoWordProcessorMessage() {
 
 void SaveAsWordDoc(Program& program, const std::vector<DocumentLine>& lines) {
     Guarded(program, "SaveAsWordDoc", [&] {
-        const std::string name =
-            program.document.BaseName.empty() ? std::string("Proposal") : program.document.BaseName;
-        const std::unique_ptr<WordService> service = program.platform.words.ForWriting(name);
+        const std::unique_ptr<WordService> service =
+            program.platform.words.ForWriting(DocumentName(program.document.BaseName));
         if (service == nullptr) {
             program.platform.questions.MsgBox(NoWordProcessorMessage(), Buttons::Ok, "");
             return;
@@ -162,6 +193,8 @@ void SaveFileAsText(Program& program) {
         state.ExportToWord = false;
     });
     Guarded(program, "SaveFileAsText", [&] {
+        // What a run that broke off has left; a file that cannot be deleted is told where it is written.
+        static_cast<void>(DropScratchFile(program));
         TakeFigures(program);
         if (state.ExportToClipboard || state.ExportToWord) {
             state.ExportFileName = kScratchFile;

@@ -17,7 +17,7 @@ public:
     ListBox lstSuggestions;
     StripLabel lblChangeTo{.Caption = "Change &to", .ToolTipText = ""};
     TextBox txtChangeTo;
-    StripLabel lblLanguage{.Caption = "&Language", .ToolTipText = ""};
+    StripLabel lblLanguage{.Caption = "Languag&e", .ToolTipText = ""};
     ListBox cmbLanguage;
     StripLabel lblTooLong; ///< tells of the area before, when it became longer than its place
     CommandButton cmdChange{.Caption = "&Change", .ToolTipText = ""};

@@ -14,16 +14,15 @@ std::string PathOf(const Program& program) {
 } // namespace
 
 void PersonalDictionary::Read(const Program& program) {
-    words_.clear();
     const std::string path = PathOf(program);
-    if (!files::Exists(path)) {
-        return;
-    }
-    for (const std::string& line : text::SplitLines(files::ReadAll(path))) {
+    std::set<std::string> words;
+    for (const std::string& line :
+         text::SplitLines(files::Exists(path) ? files::ReadAll(path) : std::string())) {
         if (const std::string_view word = text::Trim(line); !word.empty()) {
-            words_.emplace(word);
+            words.emplace(word);
         }
     }
+    words_ = std::move(words);
 }
 
 bool PersonalDictionary::Knows(std::string_view word) const {
@@ -41,12 +40,14 @@ void PersonalDictionary::Write(const Program& program, const std::set<std::strin
 }
 
 void PersonalDictionary::Add(const Program& program, std::string_view word) {
+    Read(program);
     std::set<std::string> words = words_;
     words.emplace(word);
     Write(program, words);
 }
 
 void PersonalDictionary::Remove(const Program& program, std::string_view word) {
+    Read(program);
     std::set<std::string> words = words_;
     words.erase(std::string(word));
     Write(program, words);

@@ -88,6 +88,9 @@ void SpellingService::ShowWord() {
 }
 
 void SpellingService::Remember(Step step) {
+    if (step != Step::ByItself) {
+        program_.spelling.TooLong.clear(); // the person has seen it beside this word
+    }
     decisions_.push_back({step, program_.spelling.Position, word_.Start, std::string(Word()), text_});
 }
 

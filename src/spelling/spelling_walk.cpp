@@ -2,6 +2,7 @@
 
 #include "base/guard.h"
 #include "base/text.h"
+#include "editing/area_colours.h"
 #include "editing/area_contents.h"
 #include "editing/fresh_figures.h"
 #include "money/totals.h"
@@ -53,6 +54,7 @@ void PutBack(Program& program, const SpelledArea& area) {
     for (const SpelledArea::Half& half : area.Before) {
         modBlocks::PlaceContents(program, area.Page, half.Index, half.Contents);
         modBlocks::RunChange(program, area.Page, half.Index);
+        modAreaColours::ColourAfterCommand(program, {area.Page, FieldKind::txt, half.Index});
     }
     FiguresFollow(program, area.Page);
 }
@@ -63,9 +65,12 @@ void Assign(Program& program, const FieldRef& field, const std::string& text) {
     // As if nothing had been typed: a text that became longer shows its length, it pushes nothing.
     program.editing.LastKeyChar.clear();
     modFields::SetText(program, field, text);
+    modAreaColours::ColourAfterCommand(program, field);
     FiguresFollow(program, field.Page);
-    const bool tooLong = modFields::Area(program, field).BackColor == colors::kOverLimit;
-    state.TooLong = tooLong ? AreaInWords(program) + " is now longer than its place." : "";
+    if (modFields::Area(program, field).BackColor == colors::kOverLimit) {
+        state.TooLong += state.TooLong.empty() ? "" : text::kCrLf;
+        state.TooLong += AreaInWords(program) + " is now longer than its place.";
+    }
 }
 
 /// What the service made of the text, less the paragraph mark of its document.
@@ -109,6 +114,10 @@ void End(Program& program) {
     state.Service.reset();
     state.Areas.clear();
     state.Changed.clear();
+    if (!state.TooLong.empty()) {
+        program.main.Notice = state.TooLong; // no further word came up to tell it beside
+        state.TooLong.clear();
+    }
     if (complete) {
         program.platform.questions.MsgBox("SpellCheck Complete", Buttons::Ok, "");
     }

@@ -4,7 +4,6 @@
 #include "desktop/paper_surface.h"
 #include "output/print_page.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
 #include "pages/row_fields.h"
 
 #include <QDateTime>

@@ -1,14 +1,23 @@
 #include "output/text_export.h"
 
 #include "base/files.h"
+#include "money/amounts.h"
+#include "money/totals.h"
 #include "output/proposal_text.h"
+#include "pages/fields.h"
 #include "pages/row_fields.h"
 #include "program/keys.h"
 #include "program/program.h"
+#include "support/failing_disk.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
 
 namespace {
 
@@ -277,6 +286,216 @@ TEST(TextExport, AnExportTakesTheAmountThatIsBeingTyped) {
     EXPECT_NE(
         run.surroundings.clipboard.Text.find("\r\nSubtotal:\t\t$ 75.50\r\nTaxable Amount:\t\t$ 75.50\r\n"),
         std::string::npos);
+}
+
+/// A proposal with a row of every kind on each page, typed by hand.
+struct EveryKindOfRow : JustNamed {
+    explicit EveryKindOfRow(int pagesInUse) {
+        Rows(PageId::frmP1, 10, 20);
+        const std::array more{PageId::frmP2, PageId::frmP3, PageId::frmP4, PageId::frmP5};
+        for (int page = 0; page < pagesInUse - 2; ++page) {
+            person::TurnTo(program, page + 1);
+            Rows(more[static_cast<std::size_t>(page)], 0, 33);
+            Fill(more[static_cast<std::size_t>(page)], 32, "Last");
+            Fill(more[static_cast<std::size_t>(page)], 65, "10");
+        }
+        person::TurnTo(program, 0);
+        typist.Click(PageId::frmP1, 7);
+    }
+    void Rows(PageId page, int row, int amount) {
+        Fill(page, row, "Chairs");
+        Fill(page, row + 1, "Ceremony");
+        person::Choose(program, CommandId::mnuEditTextBold);
+        typist.Click(page, row + 2);
+        typist.Press(keys::kF8);
+        typist.Type("3");
+        typist.Press(keys::kEnter);
+        typist.Type("Covers");
+        typist.Press(keys::kEnter);
+        typist.Type("19.99");
+        typist.Press(keys::kEnter);
+        Fill(page, amount + 3, "45");
+        Fill(page, row + 5, "Runner");
+        Fill(page, amount + 5, "75.5");
+        person::Choose(program, CommandId::mnuEditTextTaxExempt);
+        Fill(page, row + 6, "Dinner");
+        person::Choose(program, CommandId::mnuEditTextBold);
+        Fill(page, amount + 6, "100");
+    }
+    void EmptyContract() {
+        for (int label = 13; label <= 47; ++label) {
+            Label(PageId::frmP6, label).Caption.clear();
+        }
+    }
+};
+
+/// What those rows are in the text, the rows below them on the page left empty.
+const std::string kEveryKind =
+    "Chairs\r\n"
+    "Ceremony\r\n---------------------------------------------\r\n"
+    "Desc:\t\t\tCovers\r\nQty:\t\t\t3\r\nAmt Each:\t\t$ 19.99\r\nSubtotal:\t\t$ 59.97\r\n\r\n"
+    "\r\nSubtotal:\t\t$ 45.00\r\n\r\n"
+    "\r\n"
+    "Runner\r\nSubtotal:\t\t$ 75.50\r\n\r\n"
+    "Dinner\r\n---------------------------------------------\r\nSubtotal:\t\t$ 100.00\r\n\r\n";
+
+struct ByHand {
+    int PagesInUse;
+    std::array<std::string, 6> Figures;
+};
+
+// A page's rows come to 280.47, of which 75.50 are exempt; from the second page on ten more, taxable. The tax
+// is 8.25 of a hundred.
+const std::array kByHand{ByHand{2, {"280.47", "204.97", "16.91", "297.38", "0.00", "297.38"}},
+                         ByHand{3, {"570.94", "419.94", "34.65", "605.59", "0.00", "605.59"}},
+                         ByHand{4, {"861.41", "634.91", "52.38", "913.79", "0.00", "913.79"}},
+                         ByHand{5, {"1,151.88", "849.88", "70.12", "1,222.00", "0.00", "1,222.00"}},
+                         ByHand{6, {"1,442.35", "1,064.85", "87.85", "1,530.20", "0.00", "1,530.20"}}};
+
+std::string Expected(const ByHand& proposal, const std::string& contract) {
+    std::string text = General(kEmptyGeneral, "Proposal for Jane Roe") + kEveryKind + Repeat("\r\n", 3);
+    for (int page = 2; page < proposal.PagesInUse; ++page) {
+        text += kEveryKind + Repeat("\r\n", 25) + "Last\r\nSubtotal:\t\t$ 10.00\r\n\r\n";
+    }
+    return text + Totals(proposal.Figures) + contract + kSignatures;
+}
+
+TEST(TextExport, EveryKindOfRowOnEveryNumberOfPagesIsWhatIsWrittenByHand) {
+    for (const ByHand& proposal : kByHand) {
+        EveryKindOfRow run(proposal.PagesInUse);
+        run.surroundings.questions.Expect("File was saved as ");
+        modExport::mnuFileSaveAsText_Click(run.program);
+        ASSERT_EQ(run.program.document.PagesInUse, proposal.PagesInUse);
+        EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.txt"), Expected(proposal, Contract() + kLine35))
+            << proposal.PagesInUse;
+        EXPECT_EQ(run.Exported(), Expected(proposal, Contract() + kLine35)) << proposal.PagesInUse;
+    }
+}
+
+TEST(TextExport, WithAnEmptyContractTheRestStandsAsItIs) {
+    for (const ByHand& proposal : kByHand) {
+        EveryKindOfRow run(proposal.PagesInUse);
+        run.EmptyContract();
+        EXPECT_EQ(run.Exported(), Expected(proposal, "\r\n")) << proposal.PagesInUse;
+    }
+}
+
+/// What lies in the folder of proposals.
+std::vector<std::string> FilesOf(const JustNamed& run) {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(run.folder / "Proposals")) {
+        names.push_back(entry.path().filename().string());
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+using Call = FailingDisk::Call;
+constexpr std::array kSteps{FailingDisk::Failure{Call::Open, 1, ENOSPC, FailingDisk::kForever},
+                            FailingDisk::Failure{Call::Open, 1, EACCES, FailingDisk::kForever},
+                            FailingDisk::Failure{Call::Write, 1, ENOSPC, FailingDisk::kForever},
+                            FailingDisk::Failure{Call::Flush, 1, EIO, FailingDisk::kForever},
+                            FailingDisk::Failure{Call::Close, 1, EIO, FailingDisk::kForever},
+                            FailingDisk::Failure{Call::Rename, 1, EIO, FailingDisk::kForever}};
+
+TEST(TextExport, WhateverStepFailsIsToldAndNoHalfTextStaysUnderTheName) {
+    for (const FailingDisk::Failure& step : kSteps) {
+        JustNamed run;
+        const std::vector<std::string> before = FilesOf(run);
+        {
+            const FailingDisk disk{step};
+            run.surroundings.questions.Expect("SaveFileAsText");
+            modExport::mnuFileSaveAsText_Click(run.program);
+            EXPECT_GT(disk.Failed(), 0);
+        }
+        run.surroundings.questions.Done();
+        EXPECT_EQ(FilesOf(run), before) << static_cast<int>(step.What);
+    }
+}
+
+TEST(TextExport, WhateverStepFailsTheTextThatWasThereStandsWhole) {
+    for (const FailingDisk::Failure& step : kSteps) {
+        JustNamed run;
+        run.folder.Write("Proposals/Jane Roe.txt", "mine");
+        const std::vector<std::string> before = FilesOf(run);
+        {
+            const FailingDisk disk{step};
+            run.surroundings.questions.Expect("already exists", Answer::Yes);
+            run.surroundings.questions.Expect("SaveFileAsText");
+            modExport::mnuFileSaveAsText_Click(run.program);
+        }
+        run.surroundings.questions.Done();
+        EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.txt"), "mine") << static_cast<int>(step.What);
+        EXPECT_EQ(FilesOf(run), before) << static_cast<int>(step.What);
+    }
+}
+
+TEST(TextExport, AFullDiskStopsNeitherClipboardNorDocument) {
+    JustNamed run;
+    const FailingDisk disk{{Call::Write, 1, ENOSPC, FailingDisk::kForever}};
+    EXPECT_TRUE(run.Exported().starts_with("Acme Events - Proposal for Jane Roe\r\n"));
+    modExport::mnuFileSaveToWord_Click(run.program);
+    EXPECT_EQ(run.surroundings.words.Word.Inserted.size(), 1U);
+    const std::string& notice = run.program.main.Notice;
+    EXPECT_TRUE(notice.starts_with("The proposal was exported to /home/user/Documents/Jane Roe.odt"))
+        << notice;
+    EXPECT_NE(notice.find("TempClipboardInfo.txt could not be written"), std::string::npos) << notice;
+}
+
+TEST(TextExport, AReadOnlyTextIsReplacedAfterTheYes) {
+    JustNamed run;
+    run.folder.Write("Proposals/Jane Roe.txt", "mine");
+    std::filesystem::permissions(run.folder / "Proposals/Jane Roe.txt", std::filesystem::perms::owner_read);
+    run.surroundings.questions.Expect("already exists", Answer::Yes);
+    run.surroundings.questions.Expect("File was saved as ");
+    modExport::mnuFileSaveAsText_Click(run.program);
+    EXPECT_TRUE(
+        run.folder.Read("Proposals/Jane Roe.txt").starts_with("Acme Events - Proposal for Jane Roe\r\n"));
+}
+
+TEST(TextExport, AFolderThatIsGoneIsTold) {
+    JustNamed run;
+    std::filesystem::remove_all(run.folder / "Proposals");
+    run.surroundings.questions.Expect("SaveFileAsText");
+    modExport::mnuFileSaveAsText_Click(run.program);
+    EXPECT_FALSE(std::filesystem::exists(run.folder / "Proposals"));
+    EXPECT_TRUE(run.Exported().starts_with("Acme Events - Proposal for Jane Roe\r\n"));
+}
+
+TEST(TextExport, AScratchFileOfAnEarlierRunGoes) {
+    JustNamed run;
+    run.folder.Write("Proposals/TempClipboardInfo.txt", "old");
+    run.surroundings.questions.Expect("File was saved as ");
+    modExport::mnuFileSaveAsText_Click(run.program);
+    EXPECT_FALSE(files::Exists(run.folder / "Proposals/TempClipboardInfo.txt"));
+}
+
+TEST(TextExport, TotalsThatDifferAreToldAndTheExportGoesOn) {
+    JustNamed run;
+    // Added field by field 16777216 + 1 + 1 stays 16777216 in singles, added by page it is 16777218.
+    for (const auto& [page, index, text] :
+         {std::tuple{PageId::frmP1, 20, "16777216"}, {PageId::frmP2, 33, "1"}, {PageId::frmP2, 34, "1"}}) {
+        modFields::SetText(run.program, {page, FieldKind::txt, index}, text);
+        modTotals::SetTax(run.program, page, index, modTotals::Tax::Exempt);
+    }
+    run.surroundings.questions.ExpectBox(
+        {"A descrepancy has occurred in calculating the totals. Please verify\r\nthe total amounts manually "
+         "or press \"Recalculate\" to continue the\r\ncalculation without true verification. We apologize "
+         "for the inconvenience.",
+         Buttons::Ok, ""},
+        Answer::Ok);
+    EXPECT_TRUE(run.Exported().starts_with("Acme Events - Proposal for Jane Roe\r\n"));
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
+}
+
+TEST(DocumentExport, APersonsNameThatNoFileCanHaveIsMendedForTheDocument) {
+    JustNamed run;
+    run.program.document.BaseName = "Roe / Doe: June";
+    modExport::mnuFileSaveToWord_Click(run.program);
+    EXPECT_EQ(run.surroundings.words.Word.Name, "Roe - Doe- June");
+    run.program.document.BaseName = "";
+    modExport::mnuFileSaveToWord_Click(run.program);
+    EXPECT_EQ(run.surroundings.words.Word.Name, "Proposal");
 }
 
 TEST(DocumentExport, HandsTheLinesToANewDocumentAndTellsItsPath) {

@@ -1,14 +1,19 @@
 #include "spelling/spelling_walk.h"
 
 #include "base/files.h"
+#include "pages/fields.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "spelling/frm_spelling.h"
 #include "spelling/spelling_service.h"
+#include "support/failing_disk.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
 #include <gtest/gtest.h>
+
+#include <cerrno>
 
 namespace {
 
@@ -197,6 +202,50 @@ TEST(SpellingWindow, AWordThatIsAddedIsKnownFromThenOn) {
     run.Start();
 }
 
+TEST(SpellingWindow, WordsThatWereAddedBeforeStayWhenTheyCouldNotBeRead) {
+    OwnCheck run;
+    run.folder.Write("PersonalDictionary.txt", "aaa\r\nbbb\r\n");
+    run.Fill(PageId::frmP2, 3, "zzyzx");
+    {
+        const FailingDisk disk{{FailingDisk::Call::Read, 1, EIO, FailingDisk::kForever}};
+        run.surroundings.questions.Expect("SpellCheckText");
+        run.Start();
+        run.surroundings.questions.Expect("AddToDictionary");
+        run.Window().cmdAdd_Click(run.program);
+    }
+    EXPECT_EQ(run.folder.Read("PersonalDictionary.txt"), "aaa\r\nbbb\r\n");
+    EXPECT_EQ(run.Window().lblWord.Caption, "Not in the dictionary: zzyzx");
+    run.ExpectEnd();
+    run.Window().cmdAdd_Click(run.program);
+    EXPECT_EQ(run.folder.Read("PersonalDictionary.txt"), "aaa\r\nbbb\r\nzzyzx\r\n");
+}
+
+TEST(SpellingWindow, AWordThatWasWrittenIntoTheFileMeanwhileStays) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "zzyzx Tabels");
+    run.Start();
+    run.folder.Write("PersonalDictionary.txt", "mine\n");
+    run.Window().cmdAdd_Click(run.program);
+    EXPECT_EQ(run.folder.Read("PersonalDictionary.txt"), "mine\r\nzzyzx\r\n");
+    run.Window().cmdUndo_Click(run.program);
+    EXPECT_EQ(run.folder.Read("PersonalDictionary.txt"), "mine\r\n");
+    EXPECT_EQ(run.Window().lblWord.Caption, "Not in the dictionary: zzyzx");
+}
+
+TEST(SpellingWindow, AWordThatCannotBeAddedIsToldAndStaysTheOneInQuestion) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "zzyzx");
+    run.Start();
+    {
+        const FailingDisk disk{{FailingDisk::Call::Write, 1, ENOSPC, FailingDisk::kForever}};
+        run.surroundings.questions.Expect("AddToDictionary");
+        run.Window().cmdAdd_Click(run.program);
+    }
+    EXPECT_FALSE(files::Exists(run.folder / "PersonalDictionary.txt"));
+    EXPECT_EQ(run.Window().lblWord.Caption, "Not in the dictionary: zzyzx");
+    EXPECT_FALSE(run.Window().cmdUndo.Enabled);
+}
+
 TEST(SpellingWindow, UndoTakesTheLastChangeBackWithinTheText) {
     OwnCheck run;
     run.Fill(PageId::frmP2, 3, "Chiars and Tabels");
@@ -261,6 +310,85 @@ TEST(SpellingWindow, TellsOfAnAreaThatBecameTooLong) {
     run.Window().txtChangeTo.Text = std::string(90, 'x');
     run.Window().cmdChange_Click(run.program);
     EXPECT_EQ(run.Window().lblTooLong.Caption, "Page 2, text area 3 is now longer than its place.");
+}
+
+TEST(SpellingWindow, TellsOfEveryAreaThatBecameTooLongByItself) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Fill(PageId::frmP2, 4, "Chiars");
+    run.Fill(PageId::frmP3, 0, "Tabels");
+    run.Start();
+    run.Window().txtChangeTo.Text = std::string(90, 'x');
+    run.Window().cmdChangeAll_Click(run.program);
+    EXPECT_EQ(run.Window().lblTooLong.Caption, "Page 2, text area 3 is now longer than its place.\r\n"
+                                               "Page 2, text area 4 is now longer than its place.");
+    run.ExpectEnd();
+    run.Window().cmdIgnore_Click(run.program);
+    EXPECT_EQ(run.program.main.Notice, "") << "it was told already";
+}
+
+TEST(SpellingWindow, TheLastAreaThatBecameTooLongIsToldInTheStrip) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Start();
+    run.Window().txtChangeTo.Text = std::string(90, 'x');
+    run.ExpectEnd();
+    run.Window().cmdChange_Click(run.program);
+    EXPECT_EQ(run.program.main.Notice, "Page 2, text area 3 is now longer than its place.");
+    EXPECT_EQ(run.Area(PageId::frmP2, 3).BackColor, colors::kOverLimit);
+}
+
+TEST(SpellingWindow, AnAreaThatFitsAgainIsNoLongerRed) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    modFields::SetText(run.program, {PageId::frmP2, FieldKind::txt, 3}, "Chiars" + std::string(90, 'x'));
+    ASSERT_EQ(run.Area(PageId::frmP2, 3).BackColor, colors::kOverLimit);
+    run.surroundings.dictionaries.Unknown["Chiars" + std::string(90, 'x')] = {"Chairs"};
+    run.Start();
+    run.ExpectEnd();
+    run.Window().cmdChange_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chairs");
+    EXPECT_EQ(run.Area(PageId::frmP2, 3).BackColor, colors::kResting);
+    EXPECT_EQ(run.program.main.Notice, "");
+}
+
+TEST(SpellingWindow, UndoPutsColumnsAmountAndTotalsBackAsTheyWere) {
+    OwnCheck run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 3);
+    typist.Press(keys::kF8);
+    typist.Type("3");
+    typist.Press(keys::kEnter);
+    typist.Type("Chiars");
+    typist.Press(keys::kEnter);
+    typist.Type("19.99");
+    typist.Press(keys::kEnter);
+    run.Fill(PageId::frmP3, 0, "Tabels");
+    const Page before = run.program.pages[PageId::frmP2];
+    run.Start();
+    run.Window().txtChangeTo.Text = std::string(90, 'x');
+    run.Window().cmdChange_Click(run.program);
+    ASSERT_EQ(run.TextOf(PageId::frmP2, 3), std::string(90, 'x'));
+    run.Window().cmdUndo_Click(run.program);
+    const Page& after = run.program.pages[PageId::frmP2];
+    EXPECT_EQ(after.txt[3].Text, "Chiars");
+    EXPECT_EQ(after.txt[3].BackColor, before.txt[3].BackColor);
+    EXPECT_EQ(after.txt[3].Width, before.txt[3].Width);
+    EXPECT_EQ(after.txtQty[3].Text, "3");
+    EXPECT_EQ(after.txtAmt[3].Text, before.txtAmt[3].Text);
+    EXPECT_EQ(after.txt[36].Text, "59.97");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "59.97");
+    run.Window().cmdCancel_Click(run.program);
+}
+
+TEST(SpellingWindow, WhereNothingIsChangedNothingIsAssigned) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "zzyzx");
+    const auto before = run.program.document.CurrentTextBuf[PageId::frmP2];
+    run.Start();
+    run.ExpectEnd();
+    run.Window().cmdIgnoreAll_Click(run.program);
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2], before);
 }
 
 TEST(SpellingWindow, AnotherLanguageIsRememberedForTheRun) {

@@ -39,6 +39,12 @@ void ScriptedQuestions::Done() {
 
 Answer ScriptedQuestions::Ask(std::string_view text, Buttons buttons, std::string_view title,
                               const Manner& manner) {
+    if (!allowed_.empty() && text == allowed_) {
+        if (onAllowed_) {
+            onAllowed_();
+        }
+        return Answer::Ok;
+    }
     const Box shown{std::string(text), buttons, std::string(title)};
     Shown.push_back(shown);
     Manners.push_back(manner);
@@ -213,10 +219,13 @@ bool FakeDictionaries::Use(std::string_view language) {
         return false;
     }
     InUse = language;
-    return true;
+    return Real == nullptr || Real->Use(language);
 }
 
 std::vector<std::string> FakeDictionaries::Suggestions(std::string_view word) const {
+    if (Real != nullptr) {
+        return Real->Suggestions(word);
+    }
     const auto known = Unknown.find(std::string(word));
     return known == Unknown.end() ? std::vector<std::string>{} : known->second;
 }

@@ -31,6 +31,11 @@ public:
     void ExpectBox(Box box, Answer answer);
     /// The next input box: its title, and what the person types (empty for Cancel).
     void ExpectInput(std::string title, std::string reply);
+    /// A box with these words may come or not; it is acknowledged and not recorded. No words: none may.
+    void Allow(std::string text, std::function<void()> onCome = {}) {
+        allowed_ = std::move(text);
+        onAllowed_ = std::move(onCome);
+    }
     /// Fails if an expected box was not shown.
     void Done();
     /// Boxes that no script expects are answered so and recorded: for random runs, which look at `Shown`.
@@ -58,6 +63,8 @@ private:
         std::string Reply;
     };
     std::deque<Step> script_;
+    std::string allowed_;
+    std::function<void()> onAllowed_;
     bool takeAll_ = false;
     Answer takeAllBy_ = Answer::Ok;
 };
@@ -271,16 +278,19 @@ public:
 
 class FakeDictionaries : public Dictionaries {
 public:
+    Dictionaries* Real = nullptr; ///< answers in this one's place, where a test has it
     std::vector<std::string> Installed{"de_DE", "en_US"};
     std::string Locale = "en_US";
     std::string InUse;
     std::string Broken;                                      ///< cannot be read
     std::map<std::string, std::vector<std::string>> Unknown; ///< wrong words with what is suggested for them
-    [[nodiscard]] std::vector<std::string> Languages() const override { return Installed; }
+    [[nodiscard]] std::vector<std::string> Languages() const override {
+        return Real != nullptr ? Real->Languages() : Installed;
+    }
     [[nodiscard]] std::string LocaleLanguage() const override { return Locale; }
     [[nodiscard]] bool Use(std::string_view language) override;
     [[nodiscard]] bool Knows(std::string_view word) const override {
-        return !Unknown.contains(std::string(word));
+        return Real != nullptr ? Real->Knows(word) : !Unknown.contains(std::string(word));
     }
     [[nodiscard]] std::vector<std::string> Suggestions(std::string_view word) const override;
 };
