@@ -11,7 +11,7 @@
 #include "output/print_page.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "pages/text_width.h"
 #include "program/program.h"
 #include "proposal/reset.h"
@@ -81,7 +81,6 @@ struct Desktop {
         folder.Write("Proposals/SalesTax.txt", Shipped("Proposals/SalesTax.txt"));
         program.folders.InstallFolder = folder.Path();
         Wire(program);
-        program.hooks.ReadEventDates = nullptr; // the folder of a measure holds no proposals
         window = std::make_unique<FrmMainView>(program, qt.measure);
         qt.events.Follow = [this] { window->Follow(); };
         modMain::MDIForm_Load(program); // without the splash, which waits for a person

@@ -46,7 +46,6 @@ struct FullProposal {
         program.settings.PrefsRead = true;
         program.main.ClientHeight = 9000;
         Wire(program);
-        program.hooks.ReadEventDates = nullptr; // the folder of a measure holds no proposals
         modMain::MDIForm_Load(program);
         program.document.FilePath = program.folders.ProposalsFolder;
         Fill();

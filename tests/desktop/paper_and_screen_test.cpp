@@ -5,7 +5,6 @@
 #include "output/print_page.h"
 #include "pages/logo.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
 #include "pages/row_fields.h"
 
 #include <QDateTime>

@@ -9,7 +9,6 @@
 #include "format/property_file.h"
 #include "pages/company_block.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
 #include "pages/row_fields.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
