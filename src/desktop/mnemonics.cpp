@@ -72,6 +72,13 @@ bool HasItsOwnKey(const QAbstractButton& button) {
     return !button.shortcut().isEmpty() && button.shortcut() != QKeySequence::mnemonic(button.text());
 }
 
+template <typename Kind> void GiveTo(Kind& part, QString& taken) {
+    const QString caption = Lettered(part.text(), taken);
+    if (part.text() != caption) {
+        part.setText(caption);
+    }
+}
+
 bool IsWorded(const QAbstractButton& button) {
     return (qobject_cast<const QPushButton*>(&button) != nullptr ||
             qobject_cast<const QCheckBox*>(&button) != nullptr ||
@@ -103,7 +110,9 @@ QString LettersOf(const QMenuBar& menus) {
 void Give(QWidget& window, const QString& taken) {
     QString given = taken;
     for (const QMenuBar* menus : window.findChildren<QMenuBar*>()) {
-        given += LettersOf(*menus);
+        for (QAction* menu : menus->actions()) {
+            GiveTo(*menu, given);
+        }
     }
     for (const QLabel* label : window.findChildren<QLabel*>()) {
         if (label->buddy() != nullptr) {
@@ -111,12 +120,8 @@ void Give(QWidget& window, const QString& taken) {
         }
     }
     for (QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
-        if (!IsWorded(*button)) {
-            continue;
-        }
-        const QString caption = Lettered(button->text(), given);
-        if (button->text() != caption) {
-            button->setText(caption);
+        if (IsWorded(*button)) {
+            GiveTo(*button, given);
         }
     }
 }

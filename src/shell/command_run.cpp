@@ -54,7 +54,8 @@ void Run(Program& program, CommandId id) {
         return;
     }
     const Entry& entry = Find(id);
-    if (IsUnder(entry, CommandId::mnuFile) || IsUnder(entry, CommandId::mnuFileFormat)) {
+    const bool leaves = id == CommandId::mnuFileExit; // the end of the run settles the label window itself
+    if (!leaves && (IsUnder(entry, CommandId::mnuFile) || IsUnder(entry, CommandId::mnuFileFormat))) {
         // What is saved, printed or left behind holds what was typed in the label window.
         modDesigner::CloseLabelWindow(program);
     }
