@@ -31,6 +31,11 @@ TEST(Preview, ChangesNothingOfTheProposal) {
     RunningProgram run;
     TypeJaneRoe(run);
     person::TurnTo(run.program, 1);
+    run.program.pages[PageId::frmP2].imgNoTax[33].Tag.clear();
+    run.program.pages[PageId::frmP2].imgNoTax[33].Visible = true;
+    person::ClickPreviewButton(run.program); // the figures follow the mark
+    person::ClickPreviewButton(run.program);
+    ASSERT_TRUE(run.program.pages[PageId::frmP2].imgNoTax[33].Visible);
     const Page before = run.program.pages[PageId::frmP2];
     const float total = run.program.totals.Total;
     person::ClickPreviewButton(run.program);

@@ -22,6 +22,8 @@ TEST(TextFile, TellsUtf8FromTheProgramsOwnCharacters) {
         << "nor is half a pair";
     EXPECT_EQ(modExport::DecodeTextFile("\xC3\xA9\xFF"), "\xC3\x83\xC2\xA9\xC3\xBF")
         << "one byte that is none makes all of it the program's own";
+    EXPECT_EQ(modExport::DecodeTextFile("\xF0\x9F\x98\x80 a"), "\xF0\x9F\x98\x80 a");
+    EXPECT_EQ(modExport::DecodeTextFile("\xF0\x9F\x98 a").substr(0, 2), "\xC3\xB0") << "nor is this";
     EXPECT_EQ(modExport::DecodeTextFile("ab\xE2\x82"), "ab\xC3\xA2\xE2\x80\x9A") << "nor is one cut short";
 }
 

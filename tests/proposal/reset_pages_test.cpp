@@ -44,6 +44,16 @@ TEST(ResetPages, AResetHidesALabelThatReadsLikeTheSymbolWhoeverTypedIt) {
     EXPECT_TRUE(run.Label(PageId::frmP1, 9).Visible);
 }
 
+TEST(ResetPages, TheContractsLinesStandOneBelowTheOther) {
+    RunningProgram run;
+    for (const PageId page : {PageId::frmP6, PageId::frmP6_1}) {
+        for (int line = 0; line < 35; ++line) {
+            EXPECT_EQ(run.Label(page, 13 + line).Left, 720) << line;
+            EXPECT_EQ(run.Label(page, 13 + line).Top, static_cast<float>(2880 + 270 * line)) << line;
+        }
+    }
+}
+
 TEST(ResetPages, AResetBringsBackWhatWasMovedAndReworded) {
     RunningProgram run;
     PageLabel& label = run.Label(PageId::frmP2, 0);

@@ -488,6 +488,30 @@ TEST(Colours, OfALabelAreKeptByAnyWayOfClosing) {
     EXPECT_EQ(run.Prop(9).ForeColor, 128U);
 }
 
+TEST(LabelProps, TheFontOfTheLabelIsTheOneMarked) {
+    Designing run;
+    run.Click(9);
+    const frmLabelProps& props = run.Props();
+    ASSERT_GE(props.lstFont.ListIndex, 0);
+    EXPECT_EQ(props.lstFont.Items[static_cast<std::size_t>(props.lstFont.ListIndex)], "Times New Roman");
+}
+
+TEST(LabelProps, AColourOfTheGroupIsRecordedForEachLabelTheLastIncluded) {
+    Designing run;
+    person::TurnTo(run.program, 5);
+    person::Choose(run.program, CommandId::mnuEditLabelSelectAll);
+    auto& window = dynamic_cast<frmLabelProps&>(*modWindows::Find(run.program, "frmLabelProps"));
+    window.cmdColor_Click(run.program, 0);
+    modDesigner::CloseLabelWindow(run.program);
+    const auto chosen = run.Label(PageId::frmP6, 1).ForeColor;
+    EXPECT_NE(chosen, 0U);
+    for (const int index : {1, 20, 64}) {
+        EXPECT_EQ(run.Label(PageId::frmP6, index).ForeColor, chosen) << index;
+        EXPECT_EQ(run.Prop(index, PageId::frmP6).ForeColor, chosen) << index;
+        EXPECT_TRUE(run.Prop(index, PageId::frmP6).Changed) << index;
+    }
+}
+
 TEST(Titles, AnEmptySubTitleIsTheNameWithoutItsExtension) {
     Designing run;
     Typist typist(run.program);
@@ -495,6 +519,7 @@ TEST(Titles, AnEmptySubTitleIsTheNameWithoutItsExtension) {
     typist.Type("Jane Roe");
     frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
     EXPECT_EQ(window.txtSubTitle.Text, "Proposal for Jane Roe");
+    EXPECT_EQ(window.txtSubTitle.SelLength, 21) << "typing takes its place";
     window.txtTitle_Change("Ours - ");
     window.txtSubTitle_Change("The Roe Wedding");
     window.cmdOK_Click(run.program);

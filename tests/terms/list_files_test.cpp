@@ -209,6 +209,7 @@ TEST(DeletedList, NeedsTheListOfListsAndASelection) {
 TEST(DeletedList, IsAskedForByNameAndTheFirstOneOpens) {
     TermsRun run("Chair");
     WriteLists(run);
+    run.List().lstFUT.ListIndex = 0;
     run.List().mnuFileShowAll_Click(run.program);
     run.List().lstMoreFUT_Move(1);
     run.surroundings.questions.ExpectBox({"Delete the list Default Terms with 1 terms?", Buttons::YesNo, ""},
@@ -222,6 +223,7 @@ TEST(DeletedList, IsAskedForByNameAndTheFirstOneOpens) {
     EXPECT_EQ(run.List().Caption, "Catering");
     EXPECT_EQ(run.InMemory(), "Soup|Bread|");
     EXPECT_TRUE(run.List().lstFUT.Visible);
+    EXPECT_EQ(run.List().lstFUT.ListIndex, -1) << "no term of the new list was chosen";
 }
 
 TEST(DeletedList, TheLastOneLeavesAnEmptyDefault) {
