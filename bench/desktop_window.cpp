@@ -16,6 +16,8 @@
 #include "shell/wiring.h"
 #include "support/recording_platform.h"
 #include "support/scratch_folder.h"
+#include "terms/frm_fut.h"
+#include "terms/term_list.h"
 
 #include <QApplication>
 #include <QFile>
@@ -127,6 +129,86 @@ void KeyToPaintedFrame(benchmark::State& state) {
     state.counters["p99_ms"] = spans[spans.size() * 99 / 100];
 }
 BENCHMARK(KeyToPaintedFrame)->Unit(benchmark::kMillisecond);
+
+/// A list as long as lists may be, in use and on screen; no two terms begin alike.
+void UseLongList(Desktop& desktop) {
+    constexpr int kLetters = 23;
+    std::string bytes;
+    for (int line = 0; line < modTerms::kMostTerms; ++line) {
+        std::string word;
+        for (int rest = line + kLetters * kLetters * kLetters; rest > 0; rest /= kLetters) {
+            word.insert(word.begin(), static_cast<char>('a' + rest % kLetters));
+        }
+        bytes += (line == 0 ? "" : "\r\n") + word + " chairs, number " + std::to_string(line) + " [3.50]";
+    }
+    desktop.folder.Write("Proposals/" + desktop.program.run.FUTFileName, bytes);
+    desktop.program.run.ACEnabled = true;
+    desktop.program.run.ACStartLen = 2;
+    modTerms::mnuOptFUT_Click(desktop.program);
+    modTerms::ListInUseChanged(desktop.program);
+    desktop.window->AfterEvent();
+    QCoreApplication::processEvents();
+}
+
+/// From a key in a description to the painted frame, press and release, while words are completed: every
+/// third and fourth letter brings a term, the next one types over it.
+void KeyWithCompletionToPaintedFrame(benchmark::State& state) {
+    Desktop desktop;
+    UseLongList(desktop);
+    modScroll::UpdatePageButtons(desktop.program, 1);
+    modFields::GiveFocus(desktop.program, {PageId::frmP2, FieldKind::txt, 0});
+    desktop.program.main.BringUp = true;
+    desktop.window->AfterEvent();
+    QCoreApplication::processEvents();
+    QWidget* line = desktop.window->PageOf(PageId::frmP2).findChild<QWidget*>(QStringLiteral("txt(0)"));
+    std::vector<double> spans;
+    int completed = 0;
+    int count = 0;
+    std::string word;
+    for (auto _ : state) {
+        const int letter = count % 6;
+        if (letter == 0) {
+            const auto& lines = desktop.program.terms.Lines;
+            word = lines[static_cast<std::size_t>(count) * 37 % lines.size()].substr(0, 4);
+            word += "q ";
+            if (count % 48 == 0) {
+                modFields::SetText(desktop.program, {PageId::frmP2, FieldKind::txt, 0}, "");
+                desktop.window->AfterEvent();
+                QCoreApplication::processEvents();
+            }
+        }
+        ++count;
+        desktop.program.editing.KeyCounter = 0;
+        const auto start = Clock::now();
+        QTest::keyClick(line, word[static_cast<std::size_t>(letter)]);
+        QCoreApplication::processEvents();
+        const double span = Milliseconds(Clock::now() - start);
+        state.SetIterationTime(span / 1000);
+        spans.push_back(span);
+        completed += desktop.program.pages[PageId::frmP2].txt[0].SelLength > 0 ? 1 : 0;
+    }
+    std::sort(spans.begin(), spans.end());
+    state.counters["p50_ms"] = spans[spans.size() / 2];
+    state.counters["p99_ms"] = spans[spans.size() * 99 / 100];
+    if (count > 100 && completed < count / 5) {
+        state.SkipWithError("words were not completed");
+    }
+}
+BENCHMARK(KeyWithCompletionToPaintedFrame)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// A list of 32,000 terms that was read comes to the screen, to the painted frame.
+void LongListToPaintedFrame(benchmark::State& state) {
+    Desktop desktop;
+    UseLongList(desktop);
+    for (auto _ : state) {
+        state.PauseTiming();
+        modTerms::ReadFrequentlyUsedTerms(desktop.program);
+        state.ResumeTiming();
+        desktop.window->AfterEvent();
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(LongListToPaintedFrame)->Unit(benchmark::kMicrosecond);
 
 /// One step of a label in the hand, from the pointer's move to the painted frame.
 void DragStepToPaintedFrame(benchmark::State& state) {

@@ -1,18 +1,26 @@
 #include "base/files.h"
+#include "editing/standing_completion.h"
+#include "pages/fields.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "shell/main_load.h"
 #include "shell/wiring.h"
 #include "support/recording_platform.h"
+#include "support/typist.h"
 #include "terms/completion.h"
 #include "terms/placing.h"
 #include "terms/term_line.h"
 #include "terms/term_list.h"
 #include "terms/term_match.h"
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include <unistd.h>
 
@@ -78,6 +86,32 @@ void CompleteEveryWord(Program& program) {
     }
 }
 
+/// The first terms by the keys of a person: each word is completed, and taken or left.
+void TypeTerms(Program& program) {
+    constexpr std::size_t kTyped = 12;
+    constexpr std::size_t kLetters = 5;
+    constexpr std::array kThen{keys::kEnter, keys::kRight, keys::kDown, keys::kBackspace};
+    program.editing.KeyCounter = 0; // nothing is saved on the way
+    Typist hand(program);
+    const std::vector<std::string> terms(
+        program.terms.Lines.begin(), program.terms.Lines.begin() + static_cast<std::ptrdiff_t>(std::min(
+                                                                       kTyped, program.terms.Lines.size())));
+    for (std::size_t each = 0; each < terms.size(); ++each) {
+        for (const int index : {0, 33}) {
+            modFields::SetText(program, {PageId::frmP2, FieldKind::txt, index}, "");
+        }
+        hand.Click(PageId::frmP2, 0);
+        std::string word(modTerms::PlainText(terms[each]).substr(0, kLetters));
+        hand.Type(word);
+        const TextArea& area = program.pages[PageId::frmP2].txt[0];
+        Require(area.SelStart >= 0 && area.SelStart + area.SelLength <= static_cast<int>(area.Text.size()));
+        hand.Press(kThen[each % kThen.size()]);
+        program.editing.KeyCounter = 0;
+        modText::TakeCompletion(program);
+        Require(program.document.CurrentTextBuf[PageId::frmP2][0] == area.Text);
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -88,6 +122,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     modTerms::ReadFrequentlyUsedTerms(program);
     Require(program.terms.ReadWhole);
     CompleteEveryWord(program);
+    TypeTerms(program);
 
     const FieldRef line{PageId::frmP2, FieldKind::txt, 0};
     for (const std::string_view each : program.terms.Lines) {

@@ -20,6 +20,32 @@ bool IsOperator(char character) {
     return kInOrder.find(character) != std::string_view::npos;
 }
 
+namespace {
+
+/// A comma with a digit before it and three behind it, and no fourth.
+bool BetweenThousands(std::string_view line, std::size_t at) {
+    constexpr std::size_t kGroup = 3;
+    const std::string_view behind = line.substr(at + 1);
+    return at > 0 && IsDigit(line[at - 1]) && behind.size() >= kGroup &&
+           std::all_of(behind.begin(), behind.begin() + kGroup, IsDigit) &&
+           (behind.size() == kGroup || !IsDigit(behind[kGroup]));
+}
+
+} // namespace
+
+std::string PlainLine(std::string_view pasted) {
+    std::string line(pasted);
+    std::erase_if(line, [](char each) { return static_cast<unsigned char>(each) <= ' ' || each == '\xA0'; });
+    std::string plain;
+    for (std::size_t at = 0; at < line.size(); ++at) {
+        if (line[at] == ',' && BetweenThousands(line, at)) {
+            continue;
+        }
+        plain += line[at] == 'x' || line[at] == 'X' ? '*' : line[at];
+    }
+    return plain;
+}
+
 bool IsPercentage(std::string_view equation) {
     return equation.size() >= 4 && IsDigit(equation.front()) && equation.ends_with("%=") &&
            IsDigit(equation[equation.size() - 3]);

@@ -28,4 +28,8 @@ struct Parts {
 
 [[nodiscard]] bool IsOperator(char character);
 
+/// A line from outside, as it can stand among typed ones: without blanks, an x as the sign of multiplication,
+/// numbers without the commas between their thousands. Everything else stays, to be refused with the line.
+[[nodiscard]] std::string PlainLine(std::string_view pasted);
+
 } // namespace modCalculator

@@ -70,6 +70,12 @@ void frmCalc::Echo(bool calculated) {
     lblE.ToolTipText = calculated ? "" : "Not calculated";
 }
 
+void frmCalc::Answered(bool calculated) {
+    ResultStands = calculated;
+    cmdCopy.Enabled = calculated;
+    Echo(calculated);
+}
+
 void frmCalc::txtE_Change(std::string_view text, int selStart, By by) {
     const std::string answer = numbers::PlainNumber(Ans);
     const bool operatorFirst =
@@ -166,8 +172,7 @@ void frmCalc::cmdClear_MouseDown(int button) {
     }
     SetEquation("", 0);
     txtR.Text.clear();
-    ResultStands = false;
-    cmdCopy.Enabled = false;
+    Answered(false);
     lblE.Caption = "Equation";
     Echo(true);
 }
@@ -206,7 +211,9 @@ void frmCalc::ParseEquation(Program& program) {
         RightOperand = parts->Right;
         const std::optional<double> value = modCalculator::Evaluate(*parts);
         if (!value) {
-            return; // the line stays as it is, to be put right
+            // The line stays as it is, to be put right; the result before it is no answer to it.
+            Answered(false);
+            return;
         }
         Ans = *value;
         txtR.Text = numbers::PlainNumber(Ans);
@@ -214,10 +221,8 @@ void frmCalc::ParseEquation(Program& program) {
         txtR.SelLength = static_cast<int>(txtR.Text.size());
         txtR_GotFocus();
     }
-    ResultStands = parts.has_value();
-    cmdCopy.Enabled = ResultStands;
     lblE.Caption = equation + txtR.Text;
-    Echo(ResultStands);
+    Answered(parts.has_value());
     txtE.Text.clear();
     txtE.SelStart = 0;
 }

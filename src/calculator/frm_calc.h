@@ -80,6 +80,8 @@ private:
     void SetEquation(std::string_view text, int selStart);
     void SeperateInputs();
     void Echo(bool calculated);
+    /// Whether `txtR` is the answer to the line above it.
+    void Answered(bool calculated);
 };
 
 namespace modCalculator {

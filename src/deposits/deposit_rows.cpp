@@ -198,6 +198,9 @@ std::string MakeFile(std::string_view name, const std::vector<std::string>& rows
         bytes += text::kCrLf;
         bytes += row;
     }
+    if (!rows.empty() && rows.back().empty()) {
+        bytes += text::kCrLf; // read again, an empty last row is one only with its own line end
+    }
     return bytes;
 }
 

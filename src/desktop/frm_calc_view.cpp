@@ -1,6 +1,7 @@
 #include "desktop/frm_calc_view.h"
 
 #include "base/guard.h"
+#include "calculator/equation.h"
 #include "calculator/frm_calc.h"
 #include "desktop/convert.h"
 #include "desktop/term_drag.h"
@@ -19,6 +20,9 @@ namespace {
 
 /// The character of a key that enters one, 0 otherwise.
 int CharacterOf(const QKeyEvent& event) {
+    if (event.key() == Qt::Key_Comma && event.modifiers().testFlag(Qt::KeypadModifier)) {
+        return '.'; // the number pad's point, on keyboards where it is a comma
+    }
     const auto held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     if (event.text().size() != 1 || !event.text().front().isPrint() || held != Qt::NoModifier) {
         return 0;
@@ -66,7 +70,9 @@ void EquationEdit::focusInEvent(QFocusEvent* event) {
 }
 
 void ResultEdit::keyPressEvent(QKeyEvent* event) {
-    if (const int character = CharacterOf(*event)) {
+    if (event->matches(QKeySequence::Copy) && !MayCopy()) {
+        event->accept();
+    } else if (const int character = CharacterOf(*event)) {
         Typed(character);
     } else if (event->key() == Qt::Key_Backspace) {
         Typed('\b');
@@ -87,6 +93,19 @@ void ResultEdit::mousePressEvent(QMouseEvent* event) {
     pressed_ = event->position().toPoint();
     setFocus(Qt::MouseFocusReason);
     selectAll();
+}
+
+void ResultEdit::mouseReleaseEvent(QMouseEvent* event) {
+    // The line edit's own way offers what is marked to the middle button.
+    if (MayCopy()) {
+        QLineEdit::mouseReleaseEvent(event);
+    }
+}
+
+void ResultEdit::contextMenuEvent(QContextMenuEvent* event) {
+    if (MayCopy()) {
+        QLineEdit::contextMenuEvent(event);
+    }
 }
 
 void ResultEdit::mouseMoveEvent(QMouseEvent* event) {
@@ -143,15 +162,10 @@ void FrmCalcView::BuildLines() {
         });
     };
     connect(equation_, &QLineEdit::textEdited, this, [this](const QString& now) {
-        // What came by paste or drop keeps only what could have been typed.
-        QString kept;
-        for (const QChar character : now) {
-            const auto byte = convert::ToByte(character);
-            const bool plain = byte && (character.isDigit() || QStringLiteral(".=+-*/").contains(character));
-            kept += plain ? QString(character) : QString();
-        }
-        if (kept != now) {
-            equation_->setText(kept);
+        // Also what came by paste or drop.
+        const QString plain = convert::ToQString(modCalculator::PlainLine(convert::FromPerson(now).Text));
+        if (plain != now) {
+            equation_->setText(plain);
         }
         equation_->Changed(false);
     });
@@ -161,6 +175,7 @@ void FrmCalcView::BuildLines() {
             model_.txtE_GotFocus();
         }
     };
+    result_->MayCopy = [this] { return model_.ResultStands; };
     result_->Typed = [this](int character) { Do([&] { model_.txtR_KeyPress(program_, character); }); };
     result_->Arrived = [this] {
         if (!following_) {

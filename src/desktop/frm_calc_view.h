@@ -38,11 +38,15 @@ public:
     std::function<void(int)> Typed;
     std::function<void()> Arrived;
     std::function<void()> Dragged;
+    /// A result that answers no line is not taken away.
+    std::function<bool()> MayCopy;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
 
 private:

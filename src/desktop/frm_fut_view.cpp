@@ -30,7 +30,7 @@ Qt::ItemFlags TermRows::flags(const QModelIndex& index) const {
 
 QVariant TermRows::data(const QModelIndex& index, int role) const {
     constexpr std::size_t kShown = 300; // no row is wider
-    if (role != Qt::DisplayRole || index.row() >= program_.terms.TermCount()) {
+    if (role != Qt::DisplayRole || !index.isValid() || index.row() >= program_.terms.TermCount()) {
         return {};
     }
     const std::string_view line = program_.terms.Lines[static_cast<std::size_t>(index.row())];
@@ -101,7 +101,7 @@ FrmFutView::FrmFutView(Program& program, frmFUT& window, QWidget* over, std::fun
     setObjectName(QString());
     dock_->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
     dock_->setAttribute(Qt::WA_ShowWithoutActivating);
-    dock_->Moved = [this] { KeepPlace(); };
+    dock_->Moved = [this] { KeepPlaceSoon(); };
     dock_->Closed = [this] { Do([this] { model_.Form_Cancel(program_); }); };
     dock_->Escaped = [this] { Do([this] { model_.Form_Escape(program_); }); };
 
@@ -132,8 +132,12 @@ FrmFutView::FrmFutView(Program& program, frmFUT& window, QWidget* over, std::fun
     }
     dock_->setFloating(true);
     dock_->hide();
-    connect(dock_, &QDockWidget::topLevelChanged, this, [this] { KeepPlace(); });
-    connect(dock_, &QDockWidget::dockLocationChanged, this, [this] { KeepPlace(); });
+    connect(dock_, &QDockWidget::topLevelChanged, this, [this] { KeepSide(); });
+    connect(dock_, &QDockWidget::dockLocationChanged, this, [this] { KeepSide(); });
+    constexpr int kRest = 400; // longer than the way to a side takes
+    resting_.setSingleShot(true);
+    resting_.setInterval(kRest);
+    connect(&resting_, &QTimer::timeout, this, [this] { KeepPlace(); });
 }
 
 FrmFutView::~FrmFutView() {
@@ -164,8 +168,10 @@ void FrmFutView::BuildMenus(QWidget* body) {
                             void (frmFUT::*run)(Program&)) {
         QAction* action = menu->addAction(convert::ToQString(entry.Caption));
         action->setObjectName(QLatin1String(name));
-        connect(action, &QAction::triggered, this,
-                [this, run] { Do([this, run] { (model_.*run)(program_); }); });
+        connect(action, &QAction::triggered, this, [this, run] {
+            KeepPlace();
+            Do([this, run] { (model_.*run)(program_); });
+        });
         return action;
     };
     add(file_, "mnuFileShowAll", model_.mnuFileShowAll, &frmFUT::mnuFileShowAll_Click);
@@ -259,6 +265,7 @@ void FrmFutView::BuildButtons(QWidget* body) {
 
 bool FrmFutView::eventFilter(QObject* watched, QEvent* event) {
     if (watched == body_ && event->type() == QEvent::MouseButtonDblClick) {
+        KeepPlace();
         Do([this] { model_.Form_DblClick(program_); });
         return true;
     }
@@ -309,20 +316,44 @@ QRect FrmFutView::FirstPlace() const {
         return saved;
     }
     constexpr QSize kUsual(280, 420);
-    return {parentWidget()->frameGeometry().topRight() - QPoint(kUsual.width() + 40, -140), kUsual};
+    const QRect room = parentWidget()->screen()->availableGeometry();
+    QRect usual(parentWidget()->frameGeometry().topRight() - QPoint(kUsual.width() + 40, -140),
+                kUsual.boundedTo(room.size()));
+    usual.moveRight(qMin(usual.right(), room.right()));
+    usual.moveBottom(qMin(usual.bottom(), room.bottom()));
+    usual.moveLeft(qMax(usual.left(), room.left()));
+    usual.moveTop(qMax(usual.top(), room.top()));
+    return usual;
 }
 
-void FrmFutView::KeepPlace() {
+void FrmFutView::KeepPlaceSoon() {
+    if (placed_) {
+        resting_.start();
+    }
+}
+
+void FrmFutView::KeepSide() {
     if (!placed_) {
         return;
     }
+    const frmFUT::Side before = model_.Docked;
     auto* main = qobject_cast<QMainWindow*>(dock_->parentWidget());
     const Qt::DockWidgetArea area =
         dock_->isFloating() || main == nullptr ? Qt::NoDockWidgetArea : main->dockWidgetArea(dock_);
     model_.Docked = area == Qt::LeftDockWidgetArea    ? frmFUT::Side::Left
                     : area == Qt::RightDockWidgetArea ? frmFUT::Side::Right
                                                       : frmFUT::Side::None;
-    if (model_.Docked != frmFUT::Side::None || model_.Minimised) {
+    if (model_.Docked == frmFUT::Side::None && before != frmFUT::Side::None && !model_.Minimised) {
+        // As large as it was: at a side it has the main window's height.
+        const double pixels = PixelsPerTwip();
+        dock_->resize(qRound(static_cast<double>(model_.Width) * pixels),
+                      qRound(static_cast<double>(model_.Height) * pixels));
+    }
+}
+
+void FrmFutView::KeepPlace() {
+    resting_.stop();
+    if (!placed_ || !dock_->isFloating() || model_.Docked != frmFUT::Side::None || model_.Minimised) {
         return; // the place is that of the floating window
     }
     const float twips = static_cast<float>(1 / PixelsPerTwip());

@@ -9,6 +9,7 @@
 #include <QMainWindow>
 #include <QPointer>
 #include <QPushButton>
+#include <QTimer>
 
 #include <array>
 #include <functional>
@@ -97,7 +98,12 @@ private:
     void BuildButtons(QWidget* body);
     [[nodiscard]] QRect FirstPlace() const;
     void ShowFirst();
+    /// The floating window's place and size go into the model.
     void KeepPlace();
+    /// It has docked or come loose.
+    void KeepSide();
+    /// Moved or sized: kept when it rests, for a window on its way to a side is no place of its own.
+    void KeepPlaceSoon();
     void FollowMoreLists();
     void FollowButtons();
     [[nodiscard]] double PixelsPerTwip() const;
@@ -114,6 +120,7 @@ private:
     std::array<QPushButton*, 4> options_{};
     std::array<QPushButton*, 3> cases_{};
     QAction* default_ = nullptr;
+    QTimer resting_;
     int version_ = -1;
     bool waiting_ = false; ///< open, and not shown before the page is
     bool placed_ = false;

@@ -420,9 +420,11 @@ void FrmMainView::FollowPages() {
     PageView& view = PageOf(front);
     const Page& page = program_.pages[front];
     const double scale = PixelsPerTwip();
-    // The paper stays where it is while a mouse button is held: the press would mark text on its way.
-    const bool held =
-        QGuiApplication::mouseButtons() != Qt::NoButton && !view.isHidden() && view.width() > desk_->width();
+    // The paper stays where it is while a mouse button is held: the press would mark text on its way. A hand
+    // that changes the room for it, as by a window let go at a side, presses no text.
+    const bool held = QGuiApplication::mouseButtons() != Qt::NoButton && !view.isHidden() &&
+                      view.width() > desk_->width() && desk_->width() == placedFor_;
+    placedFor_ = desk_->width();
     const int x = held ? view.x() : PaperLeft(front, view.width()) + qRound(page.Left * scale);
     const int y = qRound(page.Top * scale);
     if (view.pos() != QPoint(x, y)) {

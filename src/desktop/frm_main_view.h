@@ -89,6 +89,7 @@ private:
     QScrollBar* scroll_ = nullptr;
     QScrollBar* across_ = nullptr; ///< shows while the page is wider than the desk
     std::optional<FieldRef> sideShownFor_;
+    int placedFor_ = 0; ///< the desk's width for which the paper was placed last
     struct Shown {
         QLabel* Widget;
         const StripLabel* Record;

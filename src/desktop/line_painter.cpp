@@ -103,6 +103,24 @@ void LinePainter::Paint(QPainter& painter, const Marks& marks, Keyboard keyboard
     }
 }
 
+void LinePainter::PaintRefusal(QPainter& painter, const QRectF& area) {
+    constexpr QColor kRefusing(0xB0, 0x00, 0x10);
+    painter.fillRect(area, QColor(255, 255, 255, 150));
+    painter.fillRect(area, QBrush(kRefusing, Qt::BDiagPattern));
+    const double side = qMin(area.height() - 2, 22.0);
+    const QRectF sign(area.center().x() - side / 2, area.center().y() - side / 2, side, side);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::white);
+    painter.drawEllipse(sign);
+    painter.setPen(QPen(kRefusing, qMax(2.0, side / 7)));
+    const double inside = painter.pen().widthF() / 2 + 1;
+    const QRectF ring = sign.adjusted(inside, inside, -inside, -inside);
+    painter.drawEllipse(ring);
+    const double slant = ring.width() * 0.35;
+    painter.drawLine(ring.center() - QPointF(slant, slant), ring.center() + QPointF(slant, slant));
+    painter.setBrush(Qt::NoBrush);
+}
+
 void LinePainter::PaintRing(QPainter& painter, const QRectF& area) const {
     // Colour alone must not tell where the keyboard is.
     const bool selected = shown_.BackColor == colors::kBlockSelected;

@@ -48,6 +48,8 @@ public:
     };
     /// The painter's unit is a twip, its origin the area's corner.
     void Paint(QPainter& painter, const Marks& marks, Keyboard keyboard) const;
+    /// A field over which what is dragged cannot be let go, in pixels: struck through, with a no-entry sign.
+    static void PaintRefusal(QPainter& painter, const QRectF& area);
     /// The ring of the area that has the keyboard, in pixels.
     void PaintRing(QPainter& painter, const QRectF& area) const;
 

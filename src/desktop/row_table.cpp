@@ -27,6 +27,9 @@ int RowModel::columnCount(const QModelIndex& parent) const {
 }
 
 QVariant RowModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid()) {
+        return {};
+    }
     switch (role) {
     case Qt::DisplayRole:
         return Words ? QVariant(Words(index.row(), index.column())) : QVariant();

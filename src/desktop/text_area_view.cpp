@@ -176,8 +176,11 @@ void TextAreaView::paintEvent(QPaintEvent*) {
     painter.scale(page_.Scale, page_.Scale);
     line_.Paint(painter, marks, KeyboardNow());
     painter.restore();
-    if (hasFocus()) {
+    if (hasFocus() || sign_ == DragSign::Takes) {
         line_.PaintRing(painter, QRectF(rect()));
+    }
+    if (sign_ == DragSign::Refuses) {
+        LinePainter::PaintRefusal(painter, QRectF(rect()));
     }
 }
 
@@ -478,35 +481,53 @@ void TextAreaView::mouseDoubleClickEvent(QMouseEvent* event) {
     Done();
 }
 
-bool TextAreaView::TakesTerm() const {
-    return modTerms::TakesDrop(page_.program, field_, page_.program.terms.DraggedTerm);
+void TextAreaView::ShowSign(DragSign sign) {
+    if (sign_ != sign) {
+        sign_ = sign;
+        update();
+    }
+}
+
+void TextAreaView::TermOver(QDropEvent* event) {
+    if (modTerms::TakesDrop(page_.program, field_, page_.program.terms.DraggedTerm)) {
+        ShowSign(DragSign::Takes);
+        event->acceptProposedAction();
+    } else {
+        ShowSign(DragSign::Refuses);
+        event->setDropAction(Qt::IgnoreAction);
+        event->ignore();
+    }
 }
 
 void TextAreaView::dragEnterEvent(QDragEnterEvent* event) {
     if (!termdrag::Is(event->mimeData())) {
         QLineEdit::dragEnterEvent(event);
-    } else if (TakesTerm()) {
-        event->acceptProposedAction();
-    } else {
-        event->ignore(); // the pointer shows that it is refused
+        return;
     }
+    TermOver(event);
+    event->accept(); // the moves that follow answer; only who has taken the entry is told when it ends
 }
 
 void TextAreaView::dragMoveEvent(QDragMoveEvent* event) {
     if (!termdrag::Is(event->mimeData())) {
         QLineEdit::dragMoveEvent(event);
-    } else if (TakesTerm()) {
-        event->acceptProposedAction();
     } else {
-        event->ignore();
+        TermOver(event);
     }
+}
+
+void TextAreaView::dragLeaveEvent(QDragLeaveEvent* event) {
+    ShowSign(DragSign::None);
+    QLineEdit::dragLeaveEvent(event);
 }
 
 void TextAreaView::dropEvent(QDropEvent* event) {
     if (termdrag::Is(event->mimeData())) {
         Program& program = page_.program;
         program.main.Notice.clear();
+        ShowSign(DragSign::None);
         if (modTerms::txt_DragDrop(program, field_, program.terms.DraggedTerm)) {
+            TakeRecord(); // one undo takes it back
             program.main.BringUp = true;
             event->acceptProposedAction();
         } else {

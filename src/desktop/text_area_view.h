@@ -40,6 +40,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -65,8 +66,10 @@ private:
     void TakeRecord();
     /// A completion comes behind what was typed, as one edit that can be undone.
     [[nodiscard]] bool TakeCompletion(const TextArea& record, const QString& wanted);
-    /// Whether a term or result under the pointer may be let go here.
-    [[nodiscard]] bool TakesTerm() const;
+    /// A term or result is under the pointer: the field shows whether it may be let go here.
+    void TermOver(QDropEvent* event);
+    enum class DragSign { None, Takes, Refuses };
+    void ShowSign(DragSign sign);
     void KeyTyped(QKeyEvent* event, int code);
     void TextTyped(QKeyEvent* event);
     void OfferMarkedText() const;
@@ -85,6 +88,7 @@ private:
     bool dragging_ = false;
     bool marking_ = false; ///< the pressed mouse has moved far enough to mark text
     int dropAt_ = 0;
+    DragSign sign_ = DragSign::None; ///< a term or result is over the field
     double pressedAt_ = 0;
     int anchor_ = 0;
     QString preedit_;

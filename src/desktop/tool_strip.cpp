@@ -301,6 +301,14 @@ void ToolStrip::resizeEvent(QResizeEvent* event) {
     PlaceCommands();
 }
 
+QSize ToolStrip::minimumSizeHint() const {
+    const bool below = rows_->indexOf(buttons_) >= 0;
+    const int commands = buttons_->minimumSizeHint().width();
+    const int first = row_->minimumSize().width() - (below ? 0 : commands);
+    const QMargins around = rows_->contentsMargins();
+    return {qMax(first, commands) + around.left() + around.right(), QWidget::minimumSizeHint().height()};
+}
+
 /// No caption is cut: where one row has not the room for all, the commands go below.
 void ToolStrip::PlaceCommands() {
     const bool below = rows_->indexOf(buttons_) >= 0;

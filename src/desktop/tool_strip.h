@@ -70,6 +70,8 @@ class ToolStrip : public QWidget {
 public:
     ToolStrip(Program& program, std::function<void()> afterEvent, QWidget* parent);
     void Follow();
+    /// With the command buttons below: what stands beside the page may take the room.
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

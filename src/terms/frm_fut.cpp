@@ -245,8 +245,12 @@ void TermsKey(Program& program, int keyCode) {
 }
 
 void ListInUseChanged(Program& program) {
+    const std::string before = program.terms.Path;
     TakeListInUse(program);
     if (frmFUT* window = OpenWindow(program)) {
+        if (program.terms.Path != before) {
+            window->lstFUT.ListIndex = -1; // a line of the other list was chosen
+        }
         window->FollowList(program);
     }
 }

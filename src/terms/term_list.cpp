@@ -102,6 +102,11 @@ std::string OneLine(std::string_view text) {
     return line;
 }
 
+bool Holds(const LineList& lines, std::string_view term) {
+    return std::any_of(lines.begin(), lines.end(),
+                       [&](const std::string& line) { return text::EqualNoCase(text::Trim(line), term); });
+}
+
 std::string InCase(std::string_view line, LetterCase to) {
     switch (to) {
     case LetterCase::Lower:
@@ -221,10 +226,7 @@ bool AddTerm(Program& program, std::string_view text) {
     }
     const auto add = [&](LineList& lines) {
         // Another program may have added the very term meanwhile.
-        const bool there = std::any_of(lines.begin(), lines.end(), [&](const std::string& line) {
-            return text::EqualNoCase(text::Trim(line), term);
-        });
-        if (!there) {
+        if (!Holds(lines, term)) {
             lines.push_back(term);
         }
     };
@@ -261,6 +263,8 @@ bool ReplaceTerm(Program& program, std::string_view line, std::string_view text)
         const auto found = std::find(changed.begin(), changed.end(), wanted);
         if (found != changed.end()) {
             *found = term;
+        } else if (!Holds(changed, term)) {
+            changed.push_back(term); // another program has taken the line away; the person's words stay
         }
     };
     return SaveFrequentlyUsedTerms(program, replace) == Saved::Yes;

@@ -124,7 +124,10 @@ TEST(Calculator, AFailureKeepsTheLineToBePutRight) {
         run.Type(line);
         run.ExpectShows(line, line, "6");
         EXPECT_EQ(run.Calc().Ans, 6);
+        run.ExpectRefused();
         run.Type("\b\b");
+        EXPECT_EQ(run.Calc().lblE.ForeColor, colors::kBlack) << "it is being put right";
+        EXPECT_FALSE(run.Calc().cmdCopy.Enabled) << "there is no result of it yet";
         EXPECT_EQ(run.Calc().txtE.Text, std::string(line).substr(0, std::string(line).size() - 2));
     }
 }
@@ -170,6 +173,15 @@ TEST(Calculator, APercentageThatComesByOtherMeansIsTold) {
     run.Calc().txtE_KeyUp(run.program);
     run.ExpectShows("", "5%=", "");
     run.ExpectRefused();
+}
+
+TEST(Calculator, ALineFromOutsideIsMadePlainAndNeverAnotherNumber) {
+    using modCalculator::PlainLine;
+    EXPECT_EQ(PlainLine("1,250.00"), "1250.00");
+    EXPECT_EQ(PlainLine(" 12 x 1,234,567 ="), "12*1234567=");
+    for (const char* odd : {"1,25", "1,2500", ",250", "1.250,5", "10%=", "$5", "one", "1e3*2="}) {
+        EXPECT_EQ(PlainLine(odd), odd) << "what is no number is refused with its line";
+    }
 }
 
 TEST(Calculator, AnOperatorFirstGoesOnFromTheLastResult) {

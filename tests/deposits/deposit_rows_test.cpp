@@ -122,4 +122,11 @@ TEST(DepositRows, TheFileEndsWithoutALineEnd) {
     EXPECT_TRUE(ParseFile("").Empty);
 }
 
+TEST(DepositRows, AnEmptyLastRowIsKeptByTheFile) {
+    const DepositList list = ParseFile("Jane Roe\r\n\n");
+    EXPECT_EQ(list.Rows, (std::vector<std::string>{""}));
+    EXPECT_EQ(ParseFile(MakeFile(list.Name, list.Rows)).Rows, list.Rows);
+    EXPECT_EQ(MakeFile("Jane Roe", {"", "a", ""}), "Jane Roe\r\n\r\na\r\n\r\n");
+}
+
 } // namespace

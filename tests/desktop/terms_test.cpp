@@ -17,10 +17,17 @@
 #include <QListWidget>
 #include <QMimeData>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
 
 // Frequent terms, completion, search and calculator with the real widgets of the window.
 
@@ -43,6 +50,18 @@ struct TermsDesktop : DesktopRun {
     [[nodiscard]] TextAreaView& Line(int index = 0) { return Field(Text(kSecond, index)); }
     [[nodiscard]] frmFUT& List() { return *static_cast<frmFUT*>(modWindows::Find(program, "frmFUT")); }
 };
+
+TEST(TermsWindow, AListWithNothingCurrentIsCopiedAsNothing) {
+    TermsDesktop run;
+    run.folder.Write("Proposals/Default Terms.fut", "");
+    modTerms::ListInUseChanged(run.program);
+    commands::Run(run.program, CommandId::mnuOptFUT);
+    run.window->AfterEvent();
+    auto* list = run.Find<QListView>("lstFUT");
+    ASSERT_NE(list, nullptr);
+    QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier); // the toolkit asks for the words of no row
+    EXPECT_FALSE(list->model()->data(QModelIndex(), Qt::DisplayRole).isValid());
+}
 
 TEST(WindowCompletion, ShowsWhatWasNotTypedAsSelected) {
     TermsDesktop run;
@@ -129,12 +148,62 @@ bool DropTerm(TermsDesktop& run, const FieldRef& field, const std::string& term)
     QApplication::sendEvent(&view, &enter);
     QDragMoveEvent move(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&view, &move);
-    EXPECT_EQ(enter.isAccepted(), move.isAccepted());
-    if (enter.isAccepted()) {
+    EXPECT_TRUE(enter.isAccepted()) << "who takes no entry is not told when it ends";
+    if (move.isAccepted()) {
         QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(&view, &drop);
     }
-    return enter.isAccepted();
+    return move.isAccepted();
+}
+
+/// How a field looks with a term over it.
+QImage WithTermOver(TermsDesktop& run, const FieldRef& field, const std::string& term) {
+    run.program.terms.DraggedTerm = term;
+    QMimeData data;
+    data.setData(QStringLiteral("application/x-quillbrook-term"), "1");
+    TextAreaView& view = run.Field(field);
+    QDragEnterEvent enter(view.rect().center(), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&view, &enter);
+    QImage seen = view.grab().toImage();
+    QDragLeaveEvent leave;
+    QApplication::sendEvent(&view, &leave);
+    return seen;
+}
+
+TEST(WindowDrop, AFieldShowsWhetherItTakesWhatIsOverIt) {
+    TermsDesktop run;
+    const QImage amount = run.Line(34).grab().toImage();
+    const QImage line = run.Line(4).grab().toImage();
+    const QImage refused = WithTermOver(run, Text(kSecond, 34), "Chair Covers[3.50]");
+    const QImage taken = WithTermOver(run, Text(kSecond, 4), "Chair Covers[3.50]");
+    const auto reds = [](const QImage& image) {
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor color = image.pixelColor(x, y);
+                count += color.red() > 150 && color.green() < 80 && color.blue() < 80 ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    EXPECT_EQ(reds(amount), 0);
+    EXPECT_GT(reds(refused), 40);
+    EXPECT_EQ(reds(taken), 0);
+    EXPECT_NE(taken, line);
+    EXPECT_EQ(run.Line(34).grab().toImage(), amount) << "the sign goes with what was dragged";
+    EXPECT_EQ(run.Line(4).grab().toImage(), line);
+    EXPECT_NE(WithTermOver(run, Text(kSecond, 34), "37.5"), refused) << "a figure is welcome there";
+}
+
+TEST(WindowDrop, OneUndoTakesItBack) {
+    TermsDesktop run;
+    run.Click(kSecond, 4);
+    run.Type(QStringLiteral("ten"));
+    EXPECT_TRUE(DropTerm(run, Text(kSecond, 4), "Chair Covers"));
+    EXPECT_EQ(run.Line(4).text(), QStringLiteral("ten Chair Covers"));
+    run.Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(run.Line(4).text(), QStringLiteral("ten"));
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][4], "ten");
 }
 
 TEST(WindowDrop, ATermGoesIntoADescriptionAndNotIntoAnAmount) {
@@ -222,6 +291,63 @@ TEST(WindowTerms, DockedAtASideItTakesItsRoomFromThePageAndComesLoose) {
     EXPECT_EQ(run.Child("desk")->width(), before);
 }
 
+TEST(WindowTerms, HasRoomAtASideOfTheSmallestScreen) {
+    TermsDesktop run;
+    run.window->resize(1024, 700);
+    QApplication::processEvents();
+    const int page = run.window->centralWidget()->minimumSizeHint().width();
+    EXPECT_LE(page + run.Find<TermsDock>("frmFUT")->minimumSizeHint().width() + 20, 1024)
+        << "it could not be let go there";
+}
+
+TEST(WindowTerms, ComesLooseAsLargeAsItWas) {
+    TermsDesktop run;
+    auto* dock = run.Find<TermsDock>("frmFUT");
+    dock->resize(300, 350);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return run.List().Width == 300 * 15; }));
+    dock->setFloating(false);
+    run.window->addDockWidget(Qt::RightDockWidgetArea, dock);
+    QTest::qWait(500);
+    EXPECT_GT(dock->height(), 350);
+    EXPECT_EQ(run.List().Width, 300 * 15) << "the place at a side is no place of the floating window";
+    dock->setFloating(true);
+    QTest::qWait(500);
+    EXPECT_EQ(dock->size(), QSize(300, 350));
+    EXPECT_EQ(run.List().Height, 350 * 15);
+}
+
+TEST(WindowTerms, OpensOnAScreenWhateverPlaceWasSaved) {
+    for (const FutPosition& saved : {FutPosition{-90000, 100, 3600, 6000},
+                                     FutPosition{100, 900000, 3600, 6000}, FutPosition{0, 0, 0, 0}}) {
+        TermsDesktop run;
+        run.Find<TermsDock>("frmFUT")->close();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        run.program.settings.FUTPosition = saved;
+        commands::Run(run.program, CommandId::mnuOptFUT);
+        run.window->AfterEvent();
+        auto* dock = run.Find<TermsDock>("frmFUT");
+        const QRect seen = dock->screen()->availableGeometry() & dock->geometry();
+        EXPECT_GE(seen.width(), 60);
+        EXPECT_GE(seen.height(), 60);
+    }
+}
+
+TEST(WindowTerms, MinimisedItIsAButtonThatBringsTheListBack) {
+    TermsDesktop run;
+    auto* list = run.Find<TermListView>("lstFUT");
+    const int height = run.Find<TermsDock>("frmFUT")->height();
+    run.List().Minimised = true;
+    run.window->AfterEvent();
+    EXPECT_FALSE(list->isVisible());
+    EXPECT_LT(run.Find<TermsDock>("frmFUT")->height(), 100);
+    auto* restore = run.Find<QPushButton>("cmdRestore");
+    EXPECT_TRUE(restore->isVisible());
+    QTest::mouseClick(restore, Qt::LeftButton);
+    EXPECT_TRUE(list->isVisible());
+    EXPECT_FALSE(restore->isVisible());
+    EXPECT_EQ(run.Find<TermsDock>("frmFUT")->height(), height);
+}
+
 TEST(WindowTerms, ClosingTheFrameClosesTheWindow) {
     TermsDesktop run;
     run.Find<TermsDock>("frmFUT")->close();
@@ -273,14 +399,89 @@ TEST(WindowCalculator, EnterOnAButtonEvaluatesAndTheRightButtonClears) {
     EXPECT_FALSE(run.Find<QPushButton>("cmdCopy")->isEnabled());
 }
 
-TEST(WindowCalculator, APastedLineKeepsOnlyWhatCouldBeTyped) {
+TEST(WindowCalculator, APastedLineIsMadePlainAndKeepsWhatIsNoNumber) {
     DesktopRun run;
     commands::Run(run.program, CommandId::mnuOptCalc);
     run.window->AfterEvent();
     auto* line = run.Find<EquationEdit>("txtE");
     run.clipboard.SetText("+$1,250 % 3");
     QTest::keyClick(line, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(line->text(), QStringLiteral("+12503")) << "no result is put before a pasted line";
+    EXPECT_EQ(line->text(), QStringLiteral("+$1250%3")) << "no result is put before a pasted line";
+    line->clear();
+    run.clipboard.SetText("1,250.00\n");
+    QTest::keyClick(line, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(line->text(), QStringLiteral("1250.00"));
+}
+
+TEST(WindowCalculator, AResultThatAnswersNoLineIsNotTakenAway) {
+    DesktopRun run;
+    commands::Run(run.program, CommandId::mnuOptCalc);
+    run.window->AfterEvent();
+    auto* line = run.Find<EquationEdit>("txtE");
+    auto* result = run.Find<ResultEdit>("txtR");
+    QTest::keyClicks(line, QStringLiteral("6*7="));
+    QTest::keyClick(result, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(run.clipboard.GetText(), "42");
+    run.clipboard.SetText("mine");
+    for (const char* refused : {"25=", "5/0="}) {
+        QTest::keyClicks(line, QLatin1String(refused));
+        EXPECT_EQ(result->text(), QStringLiteral("42"));
+        result->setFocus();
+        result->selectAll();
+        QTest::keyClick(result, Qt::Key_C, Qt::ControlModifier);
+        QTest::keyClick(result, Qt::Key_Insert, Qt::ControlModifier);
+        EXPECT_EQ(run.clipboard.GetText(), "mine") << refused;
+        EXPECT_EQ(run.Find<QLabel>("lblE")->toolTip(), QStringLiteral("Not calculated"));
+    }
+}
+
+TEST(WindowCalculator, ThePointOfTheNumberPadIsAPointWhateverItsKeySays) {
+    DesktopRun run;
+    commands::Run(run.program, CommandId::mnuOptCalc);
+    run.window->AfterEvent();
+    auto* line = run.Find<EquationEdit>("txtE");
+    QTest::keyClick(line, Qt::Key_2, Qt::KeypadModifier);
+    QKeyEvent comma(QEvent::KeyPress, Qt::Key_Comma, Qt::KeypadModifier, QStringLiteral(","));
+    QApplication::sendEvent(line, &comma);
+    QTest::keyClick(line, Qt::Key_5, Qt::KeypadModifier);
+    QTest::keyClick(line, Qt::Key_Asterisk, Qt::KeypadModifier);
+    QTest::keyClick(line, Qt::Key_4, Qt::KeypadModifier);
+    QTest::keyClick(line, Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(run.Find<ResultEdit>("txtR")->text(), QStringLiteral("10"));
+}
+
+TEST(WindowSearch, TheWheelOverAnyListTurnsAllThree) {
+    DesktopRun run;
+    for (int row = 0; row < 33; ++row) {
+        modFields::SetText(run.program, Text(kSecond, row), "roses " + std::to_string(row));
+    }
+    commands::Run(run.program, CommandId::mnuEditFind);
+    run.window->AfterEvent();
+    auto* phrase = run.Find<QComboBox>("cmbSearch");
+    QTest::keyClicks(phrase, QStringLiteral("roses"));
+    QTest::keyClick(phrase, Qt::Key_Return);
+    QApplication::processEvents();
+    std::array<QListWidget*, 3> lists{};
+    for (std::size_t list = 0; list < lists.size(); ++list) {
+        lists[list] = run.Find<QListWidget>(("lstResults(" + std::to_string(list) + ")").c_str());
+    }
+    int before = 0;
+    for (QListWidget* turned : lists) {
+        const QPointF at(turned->viewport()->rect().center());
+        QWheelEvent wheel(at, turned->viewport()->mapToGlobal(at), {}, QPoint(0, -120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(turned->viewport(), &wheel);
+        const int now = turned->verticalScrollBar()->value();
+        EXPECT_GT(now, before);
+        before = now;
+        for (const QListWidget* list : lists) {
+            EXPECT_EQ(list->verticalScrollBar()->value(), now);
+        }
+    }
+    // The top lines are the same hit in all three.
+    for (const QListWidget* list : lists) {
+        EXPECT_EQ(list->row(list->itemAt(4, 4)), before);
+    }
 }
 
 TEST(WindowSearch, FindsJumpsAndKeepsTheResultsInStep) {

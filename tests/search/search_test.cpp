@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 
 // Looking for a phrase, by the dialog and by the results.
@@ -161,6 +162,24 @@ TEST(Search, PhrasesThatWereFoundAreOfferedAgain) {
     EXPECT_EQ(run.program.search.SearchPhrase, "chair");
     again->Form_Cancel(run.program);
     EXPECT_EQ(run.program.search.SearchPhrase, "");
+}
+
+TEST(Search, PhrasesAreKeptInNoFile) {
+    SearchRun run;
+    run.Put(kSecond, 1, "seldomword");
+    run.Search("seldomword");
+    ASSERT_EQ(run.program.search.RecentSearches.size(), 1U);
+    run.Put(kSecond, 1, "");
+    run.surroundings.questions.TakeAll(Answer::No);
+    ASSERT_TRUE(person::MayClose(run.program));
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(run.folder.Path())) {
+        if (entry.is_regular_file()) {
+            const std::string name = std::filesystem::relative(entry.path(), run.folder.Path()).string();
+            EXPECT_EQ(run.folder.Read(name).find("seldomword"), std::string::npos) << name;
+        }
+    }
+    const SearchRun again;
+    EXPECT_TRUE(again.program.search.RecentSearches.empty());
 }
 
 TEST(Search, IsNotPossibleOnTheClientsCopy) {

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <random>
 #include <string>
 
 // Completion while typing, by the keys of a person.
@@ -272,6 +274,117 @@ TEST(Completion, AKeyThatPutsNoCharacterCompletesNothing) {
             EXPECT_EQ(run.Text(1), "cha") << key << " " << shift;
         }
     }
+}
+
+TEST(Completion, NoKeysWithoutACharacterEverChangeATextThroughIt) {
+    std::mt19937 random(3);
+    constexpr std::array kKeys{keys::kEnter,
+                               keys::kTab,
+                               keys::kRight,
+                               keys::kLeft,
+                               keys::kUp,
+                               keys::kDown,
+                               keys::kInsert,
+                               keys::kShift,
+                               17,
+                               18,
+                               20,
+                               27,
+                               35,
+                               36,
+                               112,
+                               keys::kPageDown};
+    constexpr std::array kHeld{0, 0, 0, keys::kShiftState, keys::kCtrlState, keys::kAltState};
+    Typing run("Chair Covers[3.5]\r\nTable [9]", "0");
+    run.program.run.ACEnabled = false;
+    for (int index = 0; index < 6; ++index) {
+        run.hand.Click(kPage, index);
+        run.hand.Type(index % 2 == 0 ? "cha" : "x tab");
+    }
+    run.program.run.ACEnabled = true;
+    for (int step = 0; step < 5000; ++step) {
+        if (random() % 8 == 0) {
+            run.hand.Click(kPage, static_cast<int>(random() % 6));
+        }
+        const int key = kKeys[random() % kKeys.size()];
+        const bool moves = key == keys::kUp || key == keys::kDown; // with Ctrl they move the lines themselves
+        run.hand.Press(key, moves ? 0 : kHeld[random() % kHeld.size()]);
+        for (int index = 0; index < 6; ++index) {
+            ASSERT_EQ(run.Text(index), index % 2 == 0 ? "cha" : "x tab") << "step " << step;
+            ASSERT_EQ(run.Text(33 + index), "") << "step " << step;
+        }
+    }
+}
+
+TEST(Completion, InBoldFitsWhatBoldMeasuresAndIsTakenAsElsewhere) {
+    Typing run("Chair Covers[3.5]");
+    person::Choose(run.program, CommandId::mnuEditTextBold);
+    run.hand.Type("cha");
+    EXPECT_EQ(run.Selected(), "ir covers");
+    person::Choose(run.program, CommandId::mnuEditTextNormal);
+    person::Choose(run.program, CommandId::mnuEditTextBold);
+    EXPECT_EQ(run.Text(), "chair covers");
+    run.hand.Press(keys::kRight);
+    run.ExpectTaken("chair covers");
+    EXPECT_TRUE(run.Area(kPage, 0).FontBold);
+}
+
+TEST(Completion, TypingOverOneAtTheEndOfAFullLinePushesAsTypingDoes) {
+    Typing run("zebra crossing");
+    std::string line;
+    while (line.size() < 80) {
+        line += "word ";
+    }
+    run.hand.Type(line + "zeb");
+    ASSERT_EQ(run.Selected(), "ra crossing");
+    run.hand.Type(" and then some");
+    EXPECT_EQ(run.Text() + " " + run.Text(1), line + "zeb and then some") << "no letter of the offer remains";
+}
+
+TEST(Completion, PastedOverItIsGoneAndThePasteIsStored) {
+    Typing run("Chair Covers[3.5]");
+    run.hand.Type("cha");
+    run.hand.PasteByKey("mber music", run.surroundings.clipboard.Text);
+    EXPECT_EQ(run.Text(), "chamber music");
+    run.hand.Press(keys::kDown);
+    EXPECT_EQ(run.Stored(), "chamber music");
+    EXPECT_EQ(run.Text(33), "");
+}
+
+TEST(Completion, PrintingPreviewExportAndCopyTakeItFirst) {
+    for (const CommandId command : {CommandId::mnuFilePrintPreview, CommandId::mnuFilePrintAll,
+                                    CommandId::mnuFileCopyProposal, CommandId::mnuFileSaveAsText}) {
+        Typing run("Chair Covers[3.5]");
+        run.hand.Click(PageId::frmP1, 2);
+        run.hand.Type("Jane Roe");
+        run.hand.Click(kPage, 0);
+        run.hand.Type("cha");
+        run.surroundings.questions.TakeAll(Answer::Yes);
+        person::Choose(run.program, command);
+        EXPECT_EQ(run.Stored(), "chair covers") << static_cast<int>(command);
+        EXPECT_EQ(run.Text(33), "") << static_cast<int>(command);
+        EXPECT_FALSE(run.Active()) << static_cast<int>(command);
+    }
+}
+
+TEST(Completion, ClosingAsksAboutOneThatStandsOverASavedText) {
+    Typing run("Chair Covers[3.5]");
+    run.hand.Click(PageId::frmP1, 2);
+    run.hand.Type("Jane Roe");
+    run.program.run.ACEnabled = false;
+    run.hand.Click(kPage, 0);
+    run.hand.Type("chai");
+    run.surroundings.questions.Expect("File was saved");
+    person::Choose(run.program, CommandId::mnuFileSaveEvent);
+    run.program.run.ACEnabled = true;
+    run.hand.Press(keys::kBackspace);
+    run.hand.Press(keys::kBackspace);
+    run.hand.Press(keys::kBackspace);
+    run.hand.Press(keys::kBackspace);
+    run.hand.Type("chai");
+    ASSERT_EQ(run.Text(), "chair covers");
+    run.surroundings.questions.Expect("The file has been changed. Do you want to save it?", Answer::Cancel);
+    EXPECT_FALSE(person::MayClose(run.program)) << "what is on the screen is not what is on the disk";
 }
 
 TEST(Completion, ArrivingAtAWordCompletesNothingAndAWordBegunElsewhereIsOver) {
