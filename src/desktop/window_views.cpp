@@ -4,6 +4,7 @@
 #include "desktop/paper_surface.h"
 #include "program/program.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QScreen>
 
@@ -130,13 +131,17 @@ void WindowViews::Follow() {
         // Its own button may still be on the stack.
         WindowView* view = at->second.release();
         leaving_[at->first] = view;
+        const QPointer<QWidget> opener = openers_[at->first];
+        openers_.erase(at->first);
         at = views_.erase(at);
         const bool active = view->HasKeyboard();
         view->Leave();
         view->deleteLater();
         if (active) {
-            over_.activateWindow(); // the keyboard goes back to the page, also where no window manager sees
-                                    // to it
+            // The keyboard goes back to where the window was opened from, also where no window manager sees
+            // to it.
+            QWidget& back = opener != nullptr && opener->isVisible() ? *opener : over_;
+            back.activateWindow();
         }
     }
     for (const std::unique_ptr<Window>& window : open) {
@@ -146,6 +151,7 @@ void WindowViews::Follow() {
         auto& view = views_[window.get()];
         const bool fresh = view == nullptr;
         if (fresh) {
+            openers_[window.get()] = QApplication::activeWindow();
             view = MakeWindowView(program_, *window, &over_, afterEvent_);
         }
         view->Follow();

@@ -72,6 +72,9 @@ void SettleLogoVisibility(Program& program) {
 
 void LoadLogo(Program& program) {
     const SettingsRecords& settings = program.settings;
+    // One that is chosen later hangs there, too.
+    Logo(program).Left = settings.LogoLeft;
+    Logo(program).Top = settings.LogoTop;
     if (settings.LogoFile.empty() || text::EqualNoCase(settings.LogoFile, "events.jpg")) {
         HideLogo(program);
         return;
@@ -84,8 +87,6 @@ void LoadLogo(Program& program) {
         HideLogo(program);
         return;
     }
-    Logo(program).Left = settings.LogoLeft;
-    Logo(program).Top = settings.LogoTop;
     if (const auto message = ScaledMessage(*size)) {
         program.main.Notice = *message;
     }

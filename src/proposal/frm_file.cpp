@@ -200,6 +200,7 @@ void frmFile::OpenFormat(Program& program) {
         return;
     }
     Finish(program);
+    modNames::LeaveBackup(program);
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }
 

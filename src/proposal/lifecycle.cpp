@@ -28,14 +28,6 @@ namespace modProposal {
 
 namespace {
 
-/// An empty proposal is none from the backups, and must not be saved among them.
-void LeaveBackup(Program& program) {
-    program.document.FromBackup = false;
-    if (paths::SameFolder(program.document.FilePath, modFolders::BackupFolder(program))) {
-        program.document.FilePath = modFolders::DataFolder(program);
-    }
-}
-
 void SaveAsSteps(Program& program) {
     DocumentState& document = program.document;
     if (program.totals.HasAmounts()) {
@@ -159,7 +151,7 @@ void mnuFileNew_Click(Program& program) {
         return;
     }
     const bool format = program.format.FormatOpen;
-    LeaveBackup(program);
+    modNames::LeaveBackup(program);
     if (!format) {
         modTitles::SetPageHeading(program, "Contract Proposal");
         Page& page = program.pages[PageId::frmP1];
@@ -226,7 +218,7 @@ void mnuFileDelete_Click(Program& program) {
         return;
     }
     if (modReset::StartNewFile(program) == modReset::ResetResult::Done) {
-        LeaveBackup(program);
+        modNames::LeaveBackup(program);
     }
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }

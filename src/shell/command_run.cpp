@@ -46,7 +46,8 @@ void Run(Program& program, CommandId id) {
     if (RefuseInPreview(program, id)) {
         return;
     }
-    if (IsUnder(entry, CommandId::mnuFile) || IsUnder(entry, CommandId::mnuFileFormat)) {
+    const bool leaves = id == CommandId::mnuFileExit; // the end of the run settles the label window itself
+    if (!leaves && (IsUnder(entry, CommandId::mnuFile) || IsUnder(entry, CommandId::mnuFileFormat))) {
         // What is saved, printed or left behind holds what was typed in the label window.
         modDesigner::CloseLabelWindow(program);
     }

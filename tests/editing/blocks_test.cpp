@@ -3,7 +3,6 @@
 #include "editing/columns.h"
 #include "editing/text_menu.h"
 #include "money/totals.h"
-#include "pages/page_marks.h"
 #include "pages/row_fields.h"
 #include "proposal/reset.h"
 

@@ -4,7 +4,6 @@
 #include "editing/typing.h"
 #include "editing/word_marking.h"
 #include "pages/fields.h"
-#include "pages/page_marks.h"
 #include "pages/row_fields.h"
 #include "program/keys.h"
 #include "support/person.h"

@@ -1,6 +1,6 @@
 #include "pages/page_fonts.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "pages/titles.h"
 #include "support/running_program.h"
 

@@ -1,7 +1,6 @@
 #include "base/files.h"
 #include "money/totals.h"
 #include "pages/fields.h"
-#include "pages/quantity_row.h"
 #include "pages/row_fields.h"
 #include "proposal/lifecycle.h"
 #include "proposal/property_file.h"
@@ -83,7 +82,7 @@ TEST(ProposalLayout, AFullWidthMarkedAmountLosesItsLastCharacter) {
 }
 
 TEST(ProposalLayout, SplitsQuantityRowsOnlyWithAllThreeMarks) {
-    const auto row = quantity_row::Split("\xA5"
+    const auto row = modPages::SplitLine("\xA5"
                                          "3\xA5"
                                          "Chair covers\xA7"
                                          "19.99");
@@ -91,7 +90,7 @@ TEST(ProposalLayout, SplitsQuantityRowsOnlyWithAllThreeMarks) {
     EXPECT_EQ(row.Quantity, "3");
     EXPECT_EQ(row.Description, "Chair covers");
     EXPECT_EQ(row.Amount, "19.99");
-    EXPECT_TRUE(quantity_row::Split("\xA5\xA5\xA7").IsRow);
+    EXPECT_TRUE(modPages::SplitLine("\xA5\xA5\xA7").IsRow);
     for (const char* text : {"", "\xA5",
                              "\xA5"
                              "3",
@@ -102,7 +101,7 @@ TEST(ProposalLayout, SplitsQuantityRowsOnlyWithAllThreeMarks) {
                              "3\xA5"
                              "y\xA7",
                              "\xA5\xA7\xA5"}) {
-        EXPECT_FALSE(quantity_row::Split(text).IsRow) << text;
+        EXPECT_FALSE(modPages::SplitLine(text).IsRow) << text;
     }
 }
 
