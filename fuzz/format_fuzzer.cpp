@@ -1,12 +1,12 @@
 #include "format/format_file.h"
 #include "format/format_lines.h"
-#include "language_machine.h"
+#include "language_program.h"
 
 /// Arbitrary bytes read as a format: onto the pages, and out again. What was written once is read and written
 /// again to the same bytes.
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static LanguageMachine machine; // one program for the whole run; every input starts from its reset
+    static LanguageProgram machine; // one program for the whole run; every input starts from its reset
     Program& program = machine.program;
     const auto written = [&] {
         return modFormat::LinesOf(program, modFormat::TablesNow(program, modFormat::Texts::LayoutAndTexts))

@@ -1,10 +1,10 @@
 #include "format/property_file.h"
-#include "language_machine.h"
+#include "language_program.h"
 
 /// Arbitrary bytes read as the property file of a proposal, and the lines that it would be saved with.
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static LanguageMachine machine;
+    static LanguageProgram machine;
     Program& program = machine.program;
     machine.Reset();
     program.format.PropertyLines = text::SplitLines({reinterpret_cast<const char*>(data), size});

@@ -11,8 +11,10 @@
 #include <iterator>
 #include <random>
 #include <string>
+#include <string_view>
 
-/// A program for fuzz targets: every box is answered, nothing is shown, and its folder is the target's own.
+/// Answers every box and never complains: a fuzzer has no script. Only plain boxes are acknowledged; nothing
+/// else is agreed to.
 class QuietQuestions : public Questions {
 public:
     std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
@@ -23,9 +25,8 @@ protected:
     }
 };
 
-struct QuietProgram {
-    std::filesystem::path folder = std::filesystem::temp_directory_path() /
-                                   ("quillbrook-fuzz-" + std::to_string(std::random_device{}()));
+/// A program for fuzz targets on a platform that records everything, before its start.
+struct QuietMachine {
     QuietQuestions quiet;
     RecordingPlatform recording;
     Platform platform{.questions = quiet,
@@ -42,28 +43,47 @@ struct QuietProgram {
                       .dictionaries = recording.dictionaries};
     Program program{platform};
 
-    QuietProgram() {
-        std::filesystem::create_directories(folder / "Proposals" / "Backup");
-        program.folders.InstallFolder = folder.string() + "/";
-        program.settings.CurrencySymbol = "$";
+    explicit QuietMachine(const std::string& folder) {
+        program.folders.InstallFolder = folder;
+        program.folders.Drives.Home = folder;
+        program.main.ClientHeight = 9000;
+        program.main.ClientWidth = 14000;
         Wire(program);
+    }
+};
+
+/// One that has started, with a proposal in a folder of its own that goes with it.
+struct QuietProgram : QuietMachine {
+    QuietProgram() : QuietMachine(NewFolder()), proposals(program.folders.InstallFolder + "Proposals/") {
+        std::filesystem::create_directories(proposals + "Backup");
+        program.settings.CurrencySymbol = "$";
         modMain::MDIForm_Load(program);
         program.document.BaseName = "Fuzz";
         program.document.FileName = "Fuzz.hef";
-        program.document.FilePath = folder.string() + "/Proposals/";
+        program.document.FilePath = proposals;
         program.document.FileExists = true;
     }
     ~QuietProgram() {
         std::error_code ignored;
-        std::filesystem::remove_all(folder, ignored);
+        std::filesystem::remove_all(program.folders.InstallFolder, ignored);
     }
+    QuietProgram(const QuietProgram&) = delete;
+    QuietProgram& operator=(const QuietProgram&) = delete;
+
     void Write(const char* name, const std::string& bytes) const {
-        std::ofstream(folder / "Proposals" / name, std::ios::binary) << bytes;
+        std::ofstream(proposals + name, std::ios::binary) << bytes;
     }
     [[nodiscard]] std::string Read(const char* name) const {
-        std::ifstream in(folder / "Proposals" / name, std::ios::binary);
+        std::ifstream in(proposals + name, std::ios::binary);
         return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
     }
+
+private:
+    static std::string NewFolder() {
+        const std::string name = "quillbrook-fuzz-" + std::to_string(std::random_device{}());
+        return (std::filesystem::temp_directory_path() / name).string() + "/";
+    }
+    std::string proposals;
 };
 
 inline void Require(bool holds) {

@@ -1,5 +1,5 @@
 #include "program/windows.h"
-#include "quiet_machine.h"
+#include "quiet_program.h"
 #include "shell/frm_splash.h"
 #include "shell/start_up.h"
 #include "support/scratch_folder.h"

@@ -1,4 +1,4 @@
-#include "quiet_machine.h"
+#include "quiet_program.h"
 #include "settings/frm_tax.h"
 #include "settings/printer_offsets.h"
 #include "settings/tax_rate.h"
@@ -6,22 +6,11 @@
 
 #include <cmath>
 #include <cstdint>
-#include <cstdlib>
 #include <memory>
 #include <string>
 
 /// Arbitrary bytes as the tax rate and as the printer offsets: what is read is a number, and what is written
 /// is read again as it was.
-
-namespace {
-
-void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const auto folder = std::make_unique<ScratchFolder>();

@@ -3,9 +3,7 @@
 #include "pages/fields.h"
 #include "program/keys.h"
 #include "program/program.h"
-#include "shell/main_load.h"
-#include "shell/wiring.h"
-#include "support/recording_platform.h"
+#include "quiet_program.h"
 #include "support/typist.h"
 #include "terms/completion.h"
 #include "terms/placing.h"
@@ -17,59 +15,13 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <filesystem>
 #include <string>
 #include <vector>
-
-#include <unistd.h>
 
 /// Arbitrary bytes read as a frequent terms list: its lines complete words, go into fields and are written
 /// again.
 
 namespace {
-
-/// Answers every box and never complains: a fuzzer has no script.
-class QuietQuestions : public Questions {
-public:
-    Answer Ask(std::string_view, Buttons, std::string_view, const Manner&) override { return Answer::Ok; }
-    std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
-};
-
-struct Machine {
-    QuietQuestions quiet;
-    RecordingPlatform recording;
-    Platform platform{.questions = quiet,
-                      .measure = recording.measure,
-                      .printers = recording.printers,
-                      .screen = recording.screen,
-                      .clipboard = recording.clipboard,
-                      .shell = recording.shell,
-                      .clock = recording.clock,
-                      .instance = recording.instance,
-                      .pictures = recording.pictures,
-                      .events = recording.events,
-                      .words = recording.words,
-                      .dictionaries = recording.dictionaries};
-    Program program{platform};
-    Machine() {
-        const std::filesystem::path folder =
-            std::filesystem::temp_directory_path() / ("terms_fuzzer." + std::to_string(::getpid()));
-        std::filesystem::create_directories(folder);
-        program.folders.InstallFolder = folder.string() + "/";
-        program.settings.CurrencySymbol = "$";
-        Wire(program);
-        modMain::MDIForm_Load(program);
-        program.folders.ProposalsFolder = program.folders.InstallFolder;
-        program.run.ACEnabled = true;
-    }
-};
-
-void Require(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 void CompleteEveryWord(Program& program) {
     const auto& lines = program.terms.Lines;
@@ -115,8 +67,9 @@ void TypeTerms(Program& program) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static Machine machine; // one program for the whole run
+    static QuietProgram machine; // one program for the whole run
     Program& program = machine.program;
+    program.run.ACEnabled = true;
     const std::string bytes(reinterpret_cast<const char*>(data), size);
     files::WriteWhole(modTerms::PathInUse(program), bytes);
     modTerms::ReadFrequentlyUsedTerms(program);

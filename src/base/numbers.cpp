@@ -450,6 +450,10 @@ bool IsNumeric(std::string_view text, std::string_view currency) {
     return ToDouble(text, currency).has_value();
 }
 
+bool IsNoNumber(std::string_view text, std::string_view currency) {
+    return text.find_first_not_of(' ') != std::string_view::npos && !IsNumeric(text, currency);
+}
+
 double Val(std::string_view text) {
     std::string plain;
     bool point = false;

@@ -12,6 +12,8 @@ namespace numbers {
 /// currency sign before or after, brackets for a negative. At least one digit. A value that a single cannot
 /// hold is no number.
 [[nodiscard]] bool IsNumeric(std::string_view text, std::string_view currency = "$");
+/// Neither blank nor a number: what a person has to mend.
+[[nodiscard]] bool IsNoNumber(std::string_view text, std::string_view currency = "$");
 /// The value, when the text is numeric.
 [[nodiscard]] std::optional<double> ToDouble(std::string_view text, std::string_view currency = "$");
 [[nodiscard]] std::optional<float> ToSingle(std::string_view text, std::string_view currency = "$");

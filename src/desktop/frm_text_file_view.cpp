@@ -17,16 +17,16 @@
 namespace {
 
 /// A text as it is shown: a line of a megabyte would be laid out as one, so it stands in pieces.
-struct Shown {
+struct Pieces {
     QString Text;
     std::vector<int> GoOn; ///< numbers of the lines that the file has as one with the line before
 };
 
-Shown InPieces(const std::string& utf8) {
+Pieces InPieces(const std::string& utf8) {
     constexpr qsizetype kLongest = 4000;
     const QString text = QString::fromStdString(utf8);
-    Shown shown;
-    shown.Text.reserve(text.size());
+    Pieces pieces;
+    pieces.Text.reserve(text.size());
     qsizetype run = 0;
     int line = 0;
     for (const QChar character : text) {
@@ -34,21 +34,21 @@ Shown InPieces(const std::string& utf8) {
             run = 0;
             ++line;
         } else if (++run > kLongest && !character.isLowSurrogate()) {
-            shown.Text += QLatin1Char('\n');
-            shown.GoOn.push_back(++line);
+            pieces.Text += QLatin1Char('\n');
+            pieces.GoOn.push_back(++line);
             run = 1;
         }
-        shown.Text += character.isNull() ? QChar(0x2400) : character;
+        pieces.Text += character.isNull() ? QChar(0x2400) : character;
     }
-    return shown;
+    return pieces;
 }
 
 constexpr int kGoesOn = 1;
 
 void Show(QPlainTextEdit& edit, const std::string& utf8) {
-    const Shown shown = InPieces(utf8);
-    edit.setPlainText(shown.Text);
-    for (const int line : shown.GoOn) {
+    const Pieces pieces = InPieces(utf8);
+    edit.setPlainText(pieces.Text);
+    for (const int line : pieces.GoOn) {
         edit.document()->findBlockByNumber(line).setUserState(kGoesOn);
     }
 }

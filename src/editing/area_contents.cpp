@@ -4,7 +4,6 @@
 #include "base/text.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
 #include "pages/row_fields.h"
 #include "program/program.h"
 

@@ -4,12 +4,11 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "editing/area_contents.h"
+#include "editing/backup_counter.h"
 #include "editing/navigation.h"
 #include "money/amounts.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
-#include "pages/quantity_row.h"
 #include "pages/row_fields.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -35,7 +34,7 @@ FieldRef Description(PageId page, int row) {
 void StoreRow(Program& program, PageId page, int row) {
     const auto index = static_cast<std::size_t>(row);
     const bool on = modPages::ColumnsOn(program, page, row);
-    program.document.CurrentTextBuf[page][index] = modFields::ComposeLine(program, page, row);
+    program.document.CurrentTextBuf[page][index] = modPages::ComposeLine(program, page, row);
     for (TextChangeTable* table : {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
         TextChangeRecord& record = (*table)[page][index];
         record.QtyBox = on;
@@ -70,7 +69,7 @@ void TakeProduct(Program& program, PageId page, int row) {
 
 bool HoldsPlaceholder(FieldKind kind, std::string_view value) {
     return value ==
-           (kind == FieldKind::txtQty ? quantity_row::kQuantityPlaceholder : quantity_row::kPricePlaceholder);
+           (kind == FieldKind::txtQty ? modPages::kQuantityPlaceholder : modPages::kPricePlaceholder);
 }
 
 void TellNoNumber(Program& program, const FieldRef& field) {
@@ -142,8 +141,8 @@ void ToggleColumns(Program& program) {
     if (on) {
         modPages::PlaceColumns(program, page, row, modPages::Columns::On);
         FollowSelection(program, page, row);
-        modFields::SetText(program, Quantity(page, row), quantity_row::kQuantityPlaceholder);
-        modFields::SetText(program, Price(page, row), quantity_row::kPricePlaceholder);
+        modFields::SetText(program, Quantity(page, row), modPages::kQuantityPlaceholder);
+        modFields::SetText(program, Price(page, row), modPages::kPricePlaceholder);
         StoreRow(program, page, row);
         modFields::GiveFocus(program, Quantity(page, row));
         TextArea& box = modFields::Area(program, Quantity(page, row));
@@ -163,9 +162,8 @@ void ToggleColumns(Program& program) {
 }
 
 bool IsNoNumber(const Program& program, FieldKind kind, const TextArea& box) {
-    const std::string_view value = text::Trim(box.Text);
-    return box.Visible && !value.empty() && !HoldsPlaceholder(kind, value) &&
-           !numbers::IsNumeric(value, program.settings.CurrencySymbol);
+    return box.Visible && !HoldsPlaceholder(kind, text::Trim(box.Text)) &&
+           numbers::IsNoNumber(box.Text, program.settings.CurrencySymbol);
 }
 
 void txtQty_Change(Program& program, PageId page, int row) {
@@ -180,6 +178,7 @@ Taken Box_KeyDown(Program& program, const FieldRef& field, int keyCode, int shif
     if (program.editing.BlockMode || program.guards.HandlersSilent()) {
         return Taken::No;
     }
+    modBackup::CountTowardsBackup(program, field.Page, field.Index);
     const int last = static_cast<int>(program.pages[field.Page].txtQty.size()) - 1;
     if (keyCode == keys::kTab && shift == keys::kShiftState) {
         modNavigate::MoveBack(program, field);
@@ -297,7 +296,7 @@ void CollectQtyBoxes(Program& program) {
             }
             for (std::size_t index = 0; index < record.txt.size(); ++index) {
                 program.document.CurrentTextBuf[page][index] =
-                    modFields::ComposeLine(program, page, static_cast<int>(index));
+                    modPages::ComposeLine(program, page, static_cast<int>(index));
             }
         }
     });

@@ -8,6 +8,7 @@
 #include "editing/backup_counter.h"
 #include "editing/columns.h"
 #include "editing/navigation.h"
+#include "editing/number_keys.h"
 #include "editing/push.h"
 #include "editing/standing_completion.h"
 #include "editing/status_line.h"
@@ -20,6 +21,7 @@
 #include "pages/titles.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "proposal/file_names.h"
 
 #include <limits>
 #include <string>
@@ -29,12 +31,10 @@ namespace modText {
 
 namespace {
 
-constexpr int kDepositArea = 4;
-
 /// The line goes to the store, and what is known of the row's columns to the tables.
 void StoreLine(Program& program, PageId page, int index) {
     const auto row = static_cast<std::size_t>(index);
-    program.document.CurrentTextBuf[page][row] = modFields::ComposeLine(program, page, index);
+    program.document.CurrentTextBuf[page][row] = modPages::ComposeLine(program, page, index);
     if (!geometry::IsDescription(page, index)) {
         return;
     }
@@ -70,19 +70,7 @@ void TakeEditingState(Program& program, PageId page, int index) {
 
 /// The client's name makes the proposal's, as long as it has no file.
 void TakeClientName(Program& program) {
-    // Blanks around a name cannot be seen in a list of files.
-    const std::string name(text::Trim(Area(program, PageId::frmP1, kClientName).Text));
-    DocumentState& document = program.document;
-    document.FileName = name + ".hef";
-    document.BaseName = name;
-    document.FootnoteFile = name + ".hxt";
-    document.DepositFile = name + ".dep";
-    if (!document.TitleGiven) {
-        document.ClientCaption = "Proposal for " + name;
-    }
-    if (!name.empty()) {
-        document.TextFileName = name + ".txt";
-    }
+    modNames::NameAfterClient(program, Area(program, PageId::frmP1, kClientName).Text);
     modTitles::UpdateEventNameLabels(program);
 }
 
@@ -133,39 +121,12 @@ bool ChangesSilent(const Program& program, PageId page) {
            (program.editing.BlockMode && !program.editing.RefireMode) || Completing(program, page);
 }
 
-/// A copied cell or line often brings its line end along.
-std::string_view WithoutLineEnds(std::string_view value) {
-    constexpr std::string_view kAround = " \t\r\n";
-    const std::size_t from = value.find_first_not_of(kAround);
-    return from == std::string_view::npos ? std::string_view()
-                                          : value.substr(from, value.find_last_not_of(kAround) - from + 1);
-}
-
-/// A paste into an amount: all of it, when it is a number.
-void PasteNumber(Program& program, PageId page, int index) {
-    const std::string clipboard = program.platform.clipboard.GetText();
-    const std::string_view line = WithoutLineEnds(clipboard);
-    TextArea& area = Area(program, page, index);
-    if (area.Locked || !numbers::IsNumeric(line, program.settings.CurrencySymbol)) {
-        return;
-    }
-    std::string value = area.Text;
-    modFields::SetCursor(area, area.SelStart, area.SelLength);
-    const int start = area.SelStart;
-    value.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(area.SelLength), line);
-    modFields::TypeText(program, Field(page, index), value, start + static_cast<int>(line.size()), 0);
-}
-
 void NoteKey(Program& program, PageId page, int index, int keyCode) {
     const TextArea& area = Area(program, page, index);
     program.editing.CursorPos = area.SelStart;
     modStatus::ShowCursor(program);
     modStatus::ShowTextPosition(program, area);
     program.editing.LastKeyChar = std::string(1, static_cast<char>(keyCode));
-}
-
-bool IsPaste(int keyCode, int shift) {
-    return keyCode == keys::kV && shift == keys::kCtrlState;
 }
 
 Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int shift) {
@@ -194,9 +155,10 @@ Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int
         return Taken::Yes;
     }
     NoteKey(program, page, index, keyCode);
-    if (IsPaste(keyCode, shift) && IsAmountLimit(geometry::LimitText(Area(program, page, index).Tag))) {
+    if (modNumberKeys::IsPaste(keyCode, shift) &&
+        IsAmountLimit(geometry::LimitText(Area(program, page, index).Tag))) {
         if (!program.editing.BlockMode) {
-            PasteNumber(program, page, index);
+            modNumberKeys::PasteNumber(program, page, index);
         }
         return Taken::Yes;
     }
@@ -211,33 +173,12 @@ constexpr std::string_view kKeydownNames[] = {"Page 1 Keydown", "Page 2 Keydown"
 } // namespace
 
 void txt_Change(Program& program, PageId page, int index) {
-    if (page == PageId::frmP6_1) {
-        return;
-    }
-    if (IsFinalPage(page)) {
-        modTotals::FinalPageChange(program, index);
-        if (!program.guards.HandlersSilent()) {
-            modAreaColours::ColourArea(program, page, Area(program, page, index));
-        }
-        return;
-    }
     if (!ChangesSilent(program, page)) {
         LinePageChange(program, page, index);
     }
 }
 
 Taken txt_KeyDown(Program& program, PageId page, int index, int keyCode, int shift) {
-    if (IsFinalPage(page)) {
-        if (IsPaste(keyCode, shift)) {
-            PasteNumber(program, page, index);
-            return Taken::Yes;
-        }
-        if (keyCode == keys::kTab && shift == keys::kShiftState) {
-            modNavigate::MoveBack(program, Field(page, index));
-            return Taken::Yes;
-        }
-        return Taken::No;
-    }
     Taken taken = Taken::No;
     Guarded(program, kKeydownNames[IndexOf(page)],
             [&] { taken = LinePageKeyDown(program, page, index, keyCode, shift); });
@@ -250,32 +191,15 @@ void txt_KeyPress(Program& program, PageId page, int index, int& keyAscii) {
         keyAscii = 0;
         return;
     }
-    if (IsAmountLimit(geometry::LimitText(area.Tag)) || IsFinalPage(page)) {
-        const bool editing =
-            keyAscii == keys::kBackspace || keyAscii == keys::kTab || keyAscii == keys::kEnter;
-        const bool figure =
-            (keyAscii >= '0' && keyAscii <= '9') || keyAscii == ',' || keyAscii == '-' || keyAscii == '.';
-        if (!editing && !figure) {
-            keyAscii = 0;
-        }
-    }
-    if (keyAscii == keys::kEnter || keyAscii == keys::kTab) {
+    const bool figures = IsAmountLimit(geometry::LimitText(area.Tag));
+    if (keyAscii == keys::kEnter || keyAscii == keys::kTab || (figures && !modNumberKeys::Passes(keyAscii))) {
         keyAscii = 0;
-        if (IsFinalPage(page) && index == kDepositArea) {
-            modTotals::RewriteDeposit(program);
-            modTotals::UpdateRunningTotals(program);
-        }
     }
 }
 
 void txt_KeyUp(Program& program, PageId page, int index, int keyCode, int shift) {
     TextArea& area = Area(program, page, index);
     EditingState& editing = program.editing;
-    if (IsFinalPage(page)) {
-        editing.CursorPos = area.SelStart;
-        modStatus::ShowCursor(program);
-        return;
-    }
     if (editing.BlockMode) {
         return;
     }

@@ -5,7 +5,7 @@
 
 struct Program;
 
-/// What typing does in the text areas of frmP1 to frmP6.
+/// What typing does in the text areas of the line pages, frmP1 to frmP5.
 namespace modText {
 
 /// A text changed, by the person or by program. Quiet while pages are filled, read, printed or formatted,

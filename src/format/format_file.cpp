@@ -12,7 +12,6 @@
 #include "format/logo.h"
 #include "pages/page_fonts.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
 #include "pages/row_fields.h"
 #include "program/errors.h"
 #include "program/program.h"

@@ -91,7 +91,7 @@ void AddLabels(const Program& program, std::vector<std::string>& lines) {
     program.format.PropTextChanges[at][index].QtyBox = row->Columns;
     if (row->Columns && !before) {
         // A row may have columns and nothing in them; its proposal is unchanged all the same.
-        std::string line = modFields::ComposeLine(program, page, row->Index);
+        std::string line = modPages::ComposeLine(program, page, row->Index);
         program.document.SavedTextBuf[at][index] = line;
         program.document.CurrentTextBuf[at][index] = std::move(line);
     }

@@ -6,7 +6,7 @@
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "program/program.h"
 
 #include <optional>
@@ -26,7 +26,7 @@ const TextArea& AreaOf(const Program& program, PageId page, int index) {
 
 /// What a text counts: a number as it is, anything else as nothing.
 float ValueOf(const Program& program, std::string_view value) {
-    return numbers::ToSingle(text::Trim(value), program.settings.CurrencySymbol).value_or(0.0F);
+    return numbers::ToSingle(value, program.settings.CurrencySymbol).value_or(0.0F);
 }
 
 bool MarkVisible(const Program& program, PageId page, int index) {

@@ -5,7 +5,7 @@
 #include "base/text.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "program/errors.h"
 #include "program/program.h"
 
@@ -66,7 +66,7 @@ bool MarkVisible(const Page& page, std::size_t index) {
 }
 
 std::optional<float> Numeric(const Program& program, std::string_view value) {
-    return numbers::ToSingle(text::Trim(value), program.settings.CurrencySymbol);
+    return numbers::ToSingle(value, program.settings.CurrencySymbol);
 }
 
 /// The pass over all amount fields; the figures of `totals` that it owns follow.
@@ -173,8 +173,7 @@ bool IsNoNumber(const Program& program, const TextArea& area) {
     if (kind != "Amou" && kind != "Depo") {
         return false;
     }
-    const std::string_view value = text::Trim(area.Text);
-    return !value.empty() && !Numeric(program, value);
+    return numbers::IsNoNumber(area.Text, program.settings.CurrencySymbol);
 }
 
 void TellNoNumber(const Program& program, TextArea& area) {

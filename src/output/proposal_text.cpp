@@ -2,7 +2,6 @@
 
 #include "base/text.h"
 #include "pages/page_geometry.h"
-#include "pages/quantity_row.h"
 #include "pages/row_fields.h"
 #include "program/program.h"
 
@@ -94,7 +93,7 @@ void LineItem(const Program& program, Lines& lines, PageId page, int row) {
         lines.Empty();
         return;
     }
-    if (!priced || area.Text.empty() || quantity == quantity_row::kQuantityPlaceholder) {
+    if (!priced || area.Text.empty() || quantity == modPages::kQuantityPlaceholder) {
         lines.Add(area.FontBold ? LineKind::MainCategory : LineKind::Row, area.Text);
         if (area.FontBold) {
             lines.Rule(kCategoryRule);

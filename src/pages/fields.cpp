@@ -1,9 +1,5 @@
 #include "pages/fields.h"
 
-#include "base/text.h"
-#include "pages/page_geometry.h"
-#include "pages/quantity_row.h"
-#include "pages/row_fields.h"
 #include "program/program.h"
 
 #include <algorithm>
@@ -105,20 +101,6 @@ void DropFocus(Program& program) {
     if (program.hooks.LostFocus && Exists(program, left)) {
         program.hooks.LostFocus(program, left);
     }
-}
-
-std::string ComposeLine(const Program& program, PageId page, int index) {
-    const Page& record = program.pages[page];
-    const std::string& value = record.txt[static_cast<std::size_t>(index)].Text;
-    if (!IsLinePage(page)) {
-        return value;
-    }
-    const std::string_view trimmed = text::Trim(value);
-    if (!geometry::IsDescription(page, index) || !modPages::ColumnsOn(program, page, index)) {
-        return std::string(trimmed);
-    }
-    const auto row = static_cast<std::size_t>(index);
-    return quantity_row::Compose(record.txtQty[row].Text, trimmed, record.txtAmt[row].Text);
 }
 
 } // namespace modFields

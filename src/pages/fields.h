@@ -2,7 +2,6 @@
 
 #include "program/page_records.h"
 
-#include <string>
 #include <string_view>
 
 struct Program;
@@ -32,10 +31,5 @@ void DropFocus(Program& program);
 
 /// Cursor and selection are kept within the text.
 void SetCursor(TextArea& area, int selStart, int selLength = 0);
-
-/// The line that the stores and the file hold for a text area of pages 1 to 5: the trimmed text, or for a row
-/// with columns on: 0xA5, quantity, 0xA5, trimmed text, 0xA7, unit price. Areas of the final page: the text
-/// as it stands.
-[[nodiscard]] std::string ComposeLine(const Program& program, PageId page, int index);
 
 } // namespace modFields

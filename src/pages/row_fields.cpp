@@ -1,6 +1,7 @@
 #include "pages/row_fields.h"
 
 #include "base/guard.h"
+#include "base/text.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"
 
@@ -54,6 +55,17 @@ void PlaceRowFields(Page& page, int row) {
 /// How many elements the row arrays have on a line page.
 int RowCount(PageId page) {
     return geometry::LastRow(page) + 1;
+}
+
+/// A row with columns as the stores and the file hold it.
+std::string WithMarks(std::string_view quantity, std::string_view description, std::string_view price) {
+    std::string line(1, kQuantityMark);
+    line += quantity;
+    line += kQuantityMark;
+    line += description;
+    line += kPriceMark;
+    line += price;
+    return line;
 }
 
 } // namespace
@@ -110,6 +122,74 @@ void ShowCurrency(Program& program) {
     for (const PageId page : kLinePages) {
         for (PageLabel& label : program.pages[page].lblAt) {
             label.Caption = "@ " + program.settings.CurrencySymbol;
+        }
+    }
+}
+
+std::string ComposeLine(const Program& program, PageId page, int index) {
+    const Page& record = program.pages[page];
+    const std::string& value = record.txt[static_cast<std::size_t>(index)].Text;
+    if (!IsLinePage(page)) {
+        return value;
+    }
+    const std::string_view trimmed = text::Trim(value);
+    if (!geometry::IsDescription(page, index) || !ColumnsOn(program, page, index)) {
+        return std::string(trimmed);
+    }
+    const auto row = static_cast<std::size_t>(index);
+    return WithMarks(record.txtQty[row].Text, trimmed, record.txtAmt[row].Text);
+}
+
+QuantityRow SplitLine(std::string_view text) {
+    QuantityRow row;
+    if (text.empty() || text.front() != kQuantityMark) {
+        return row;
+    }
+    const std::size_t second = text.find(kQuantityMark, 1);
+    if (second == std::string_view::npos) {
+        return row;
+    }
+    const std::size_t price = text.find(kPriceMark, second + 1);
+    if (price == std::string_view::npos) {
+        return row;
+    }
+    row.IsRow = true;
+    row.Quantity = text.substr(1, second - 1);
+    row.Description = text.substr(second + 1, price - second - 1);
+    row.Amount = text.substr(price + 1);
+    return row;
+}
+
+void SetCurrencySign(Program& program, PageId page, int amount, Mark mark) {
+    // An area can be an amount by its Tag alone; only those of the amount column have a sign beside them.
+    if (!geometry::IsAmount(page, amount)) {
+        return;
+    }
+    PageLabel& sign =
+        program.pages[page].lbl[static_cast<std::size_t>(geometry::CurrencyLabelIndex(page, amount))];
+    sign.Visible = mark == Mark::Shown;
+    sign.Tag = mark == Mark::Shown ? "" : kHide;
+}
+
+void SetNoTaxMark(Program& program, PageId page, int index, Mark mark) {
+    PageImage& image = program.pages[page].imgNoTax[static_cast<std::size_t>(index)];
+    image.Visible = mark == Mark::Shown;
+    image.Tag = mark == Mark::Shown ? "" : kHide;
+}
+
+void HideOptionalFields(Program& program) {
+    for (const PageId page : kLinePages) {
+        for (PageLabel& label : program.pages[page].lbl) {
+            if (label.Caption == program.settings.CurrencySymbol) {
+                label.Visible = false;
+                label.Tag = kHide;
+            }
+        }
+    }
+    for (const PageId page : kAllPages) {
+        for (PageImage& image : program.pages[page].imgNoTax) {
+            image.Visible = false;
+            image.Tag = kHide;
         }
     }
 }

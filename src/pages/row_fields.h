@@ -2,10 +2,20 @@
 
 #include "program/page_records.h"
 
+#include <string>
+#include <string_view>
+
 struct Program;
 
-/// The quantity and unit price fields of a page's rows.
+/// What stands in a row of a page beside its description: quantity and unit price, the currency sign and the
+/// exempt mark of its amount; and the one line that the stores and the file have of it.
 namespace modPages {
+
+inline constexpr char kQuantityMark = '\xA5';
+inline constexpr char kPriceMark = '\xA7';
+
+/// What the two boxes hold before a person fills them.
+inline constexpr std::string_view kQuantityPlaceholder = "Qty.", kPricePlaceholder = "Amt.";
 
 /// Creates the row fields of a line page when that has not been done.
 void EnsureRowFields(Program& program, PageId page);
@@ -18,5 +28,28 @@ void ShowCurrency(Program& program);
 enum class Columns { Off, On };
 void PlaceColumns(Program& program, PageId page, int row, Columns columns);
 [[nodiscard]] bool ColumnsOn(const Program& program, PageId page, int row);
+
+/// The line that the stores and the file hold for a text area of pages 1 to 5: the trimmed text, or for a row
+/// with columns on: quantity, trimmed text and unit price between their marks. Areas of the final page: the
+/// text as it stands.
+[[nodiscard]] std::string ComposeLine(const Program& program, PageId page, int index);
+
+/// A description that is a quantity row, taken apart; nothing when one of the marks is missing.
+struct QuantityRow {
+    bool IsRow = false;
+    std::string Quantity;
+    std::string Description;
+    std::string Amount;
+};
+[[nodiscard]] QuantityRow SplitLine(std::string_view text);
+
+/// Shows or hides the currency sign beside an area of the amount column, with its Tag.
+enum class Mark { Hidden, Shown };
+void SetCurrencySign(Program& program, PageId page, int amount, Mark mark);
+/// Shows or hides the exempt mark of an area, with its Tag. The tables are not touched.
+void SetNoTaxMark(Program& program, PageId page, int index, Mark mark);
+
+/// After the defaults: hides the currency signs of frmP1 to frmP5 and the exempt marks of all pages.
+void HideOptionalFields(Program& program);
 
 } // namespace modPages

@@ -21,9 +21,7 @@ struct Hooks {
     Call CollectQtyBoxes;     ///< bring the stores up to what the row fields show
     Call TakeFreshFigures;    ///< what is being typed is settled and everything summed, before others see it
     Call DeSelectAllControls; ///< end a block selection on all pages
-    std::function<void(Program&, int)> PageKey;   ///< a page-up (33) or page-down (34) key
-    std::function<void(Program&, int)> MoveBlock; ///< an up (38) or down (40) key while areas are selected
-    std::function<void(Program&, int)> TermsKey;  ///< F5 (116) or F6 (117) on a line page
+    std::function<void(Program&, int)> PageKey; ///< a page-up (33) or page-down (34) key
     /// The list in use may be another one now; it is read at once where it is needed.
     Call ReadFrequentlyUsedTerms;
     /// A key let go in a text area of a line page: completes the word at the cursor.
@@ -31,9 +29,7 @@ struct Hooks {
     /// A key pressed while a completion stands: whether it has accepted it and is used up.
     std::function<bool(Program&, const FieldRef&, int keyCode, int shift)> CompletionKey;
     std::function<void(Program&, const std::string&)> ReadTextFile; ///< shows a text file, by its full path
-    Call ShowTermsWindow;
-    Call ShowCalculator;
-    Call ReadEventDates;
+    Call ShowCalculator; ///< its window, as a new proposal brings it back
     /// The assignment language of format and property files.
     Call OpenFormatFile;
     Call ParsePropertyFile;

@@ -3,6 +3,7 @@
 #include "base/text.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
+#include "pages/row_fields.h"
 #include "program/program.h"
 #include "proposal/slot_widths.h"
 
@@ -23,7 +24,7 @@ std::string ProposalBytes(const Program& program) {
             const bool marked = at < kLinePageCount && program.format.PropTextChanges[at][index].TaxExempt &&
                                 !text::Trim(texts[index]).empty();
             fields[at].push_back(
-                {columns ? modFields::ComposeLine(program, page, row) : texts[index], marked});
+                {columns ? modPages::ComposeLine(program, page, row) : texts[index], marked});
         }
     }
     return proposal::Encode(fields, SlotWidths(program));

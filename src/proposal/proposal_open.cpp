@@ -8,8 +8,6 @@
 #include "money/totals.h"
 #include "pages/logo.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
-#include "pages/quantity_row.h"
 #include "pages/row_fields.h"
 #include "pages/titles.h"
 #include "program/data_folders.h"
@@ -43,7 +41,7 @@ template <typename Change> void InBothTables(Program& program, PageId page, int 
     }
 }
 
-void TakeQuantityRow(Program& program, PageId page, int index, const quantity_row::QuantityRow& row) {
+void TakeQuantityRow(Program& program, PageId page, int index, const modPages::QuantityRow& row) {
     modPages::EnsureRowFields(program, page);
     Page& record = program.pages[page];
     const auto at = static_cast<std::size_t>(index);
@@ -86,7 +84,7 @@ void TakeText(Program& program, PageId page, int index, std::string_view slot) {
     format.FormatText = false;
     program.document.SavedTextBuf[page][at] = value;
     program.document.CurrentTextBuf[page][at] = value;
-    const quantity_row::QuantityRow row = quantity_row::Split(value);
+    const modPages::QuantityRow row = modPages::SplitLine(value);
     const bool description = geometry::IsDescription(page, index);
     if (row.IsRow && description) {
         TakeQuantityRow(program, page, index, row);
@@ -168,14 +166,9 @@ void TakeKind(Program& program) {
 }
 
 void SettleLogo(Program& program) {
-    PagePicture& logo = program.pages[PageId::frmP1].pic;
     if (program.document.FileName == "John Doe.hef") {
-        // The sample stands for any business; ours has no place on it.
-        logo.Visible = false;
-        logo.Tag = kHide;
-        program.settings.LogoVisible = false;
+        // The sample stands for any business; ours has no place on it, and is back with the next proposal.
         program.run.LogoChecked = false;
-        return;
     }
     modLogo::SettleLogoVisibility(program);
 }
@@ -204,9 +197,6 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
     DocumentState& document = program.document;
     document.FileName = fileName;
     document.SavedFile = raw.Seen;
-    if (text::EqualNoCase(paths::ExtensionOf(fileName), "hef")) {
-        document.DocumentKind = "Event";
-    }
     document.FolderOnShow = document.FilePath;
     {
         const ScopedFlag loading(program.guards.Loading);

@@ -8,7 +8,7 @@
 #include "pages/page_defaults.h"
 #include "pages/page_fonts.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "pages/titles.h"
 #include "program/errors.h"
 #include "program/program.h"

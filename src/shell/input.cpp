@@ -5,6 +5,7 @@
 #include "editing/area_mouse.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
+#include "editing/final_page.h"
 #include "editing/navigation.h"
 #include "editing/selection.h"
 #include "editing/typing.h"
@@ -16,9 +17,9 @@
 #include "pages/page_geometry.h"
 #include "program/program.h"
 #include "shell/page_switch.h"
+#include "terms/frm_fut.h"
 
 #include <algorithm>
-#include <functional>
 #include <optional>
 
 namespace modInput {
@@ -43,12 +44,6 @@ std::optional<FieldRef> TypingField(const Program& program) {
     return focus && program.pages[focus->Page].InkShown ? std::nullopt : focus;
 }
 
-void Call(const std::function<void(Program&, int)>& hook, Program& program, int keyCode) {
-    if (hook) {
-        hook(program, keyCode);
-    }
-}
-
 /// The page's own keys come before the field's.
 Taken Form_KeyDown(Program& program, int keyCode, int shift) {
     if (keyCode != keys::kUp && keyCode != keys::kDown) {
@@ -70,11 +65,11 @@ Taken Form_KeyDown(Program& program, int keyCode, int shift) {
     }
     if (program.editing.BlockMode && (keyCode == keys::kUp || keyCode == keys::kDown)) {
         // The block moves; the focus stays where it is.
-        Call(program.hooks.MoveBlock, program, keyCode);
+        modBlocks::MoveBlockByKey(program, keyCode);
         return Taken::Yes;
     }
     if (keyCode == keys::kF5 || keyCode == keys::kF6) {
-        Call(program.hooks.TermsKey, program, keyCode);
+        modTerms::TermsKey(program, keyCode);
     }
     return Taken::No;
 }
@@ -112,9 +107,45 @@ void ShowCaret(Program& program) {
     }
 }
 
+/// A key that moves the cursor or the focus shows where it went.
+void ShowTypingField(Program& program) {
+    if (const std::optional<FieldRef> focus = TypingField(program)) {
+        modScroll::BringIntoView(program, *focus);
+    }
+}
+
+bool MovesTheCursor(int keyCode) {
+    return keyCode == keys::kLeft || keyCode == keys::kRight || keyCode == keys::kHome ||
+           keyCode == keys::kEnd;
+}
+
 Taken FieldKeyDown(Program& program, const FieldRef& field, int keyCode, int shift) {
-    return IsText(field) ? modText::txt_KeyDown(program, field.Page, field.Index, keyCode, shift)
-                         : modColumns::Box_KeyDown(program, field, keyCode, shift);
+    if (!IsText(field)) {
+        return modColumns::Box_KeyDown(program, field, keyCode, shift);
+    }
+    return IsFinalPage(field.Page) ? modFinalPage::txt_KeyDown(program, field.Index, keyCode, shift)
+                                   : modText::txt_KeyDown(program, field.Page, field.Index, keyCode, shift);
+}
+
+void FieldKeyPress(Program& program, const FieldRef& field, int& keyAscii) {
+    if (!IsText(field)) {
+        modColumns::Box_KeyPress(program, field, keyAscii);
+    } else if (IsFinalPage(field.Page)) {
+        modFinalPage::txt_KeyPress(program, field.Index, keyAscii);
+    } else {
+        modText::txt_KeyPress(program, field.Page, field.Index, keyAscii);
+    }
+}
+
+void FieldKeyUp(Program& program, const FieldRef& field, int keyCode, int shift) {
+    if (!IsText(field)) {
+        return; // nothing follows a key let go in a row's box
+    }
+    if (IsFinalPage(field.Page)) {
+        modFinalPage::txt_KeyUp(program, field.Index);
+    } else {
+        modText::txt_KeyUp(program, field.Page, field.Index, keyCode, shift);
+    }
 }
 
 } // namespace
@@ -136,6 +167,9 @@ Taken KeyDown(Program& program, int keyCode, int shift, int selStart, int selLen
     if (taken == Taken::Yes) {
         ShowCaret(program);
     }
+    if (taken == Taken::Yes || MovesTheCursor(keyCode)) {
+        ShowTypingField(program);
+    }
     return taken;
 }
 
@@ -146,11 +180,7 @@ int KeyPress(Program& program, int keyAscii) {
     }
     const FieldRef field = *focus;
     int kept = keyAscii;
-    if (IsText(field)) {
-        modText::txt_KeyPress(program, field.Page, field.Index, kept);
-    } else {
-        modColumns::Box_KeyPress(program, field, kept);
-    }
+    FieldKeyPress(program, field, kept);
     program.editing.Typed.Character = kept >= keys::kBlank;
     return kept;
 }
@@ -163,6 +193,7 @@ void Edited(Program& program, const FieldRef& field, std::string_view text, int 
     NoteTyped(program, field);
     modFields::TypeText(program, field, text, selStart, selLength);
     ShowCaret(program);
+    ShowTypingField(program);
 }
 
 void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view text, int selStart,
@@ -174,6 +205,7 @@ void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view 
     }
     modFields::TypeText(program, field, text, selStart, selLength);
     ShowCaret(program);
+    ShowTypingField(program);
 }
 
 void TellRefused(Program& program, int count) {
@@ -245,6 +277,7 @@ void MoveMarked(Program& program, const FieldRef& field, int to) {
 void FieldEntered(Program& program, const FieldRef& field) {
     modNavigate::Arrive(program, field);
     ShowCaret(program);
+    ShowTypingField(program);
 }
 
 void CursorMoved(Program& program, const FieldRef& field, int selStart, int selLength) {
@@ -256,9 +289,7 @@ void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength
     if (const std::optional<FieldRef> focus = TypingField(program)) {
         const FieldRef field = *focus;
         PutCursor(program, field, selStart, selLength);
-        if (IsText(field)) {
-            modText::txt_KeyUp(program, field.Page, field.Index, keyCode, shift);
-        }
+        FieldKeyUp(program, field, keyCode, shift);
     }
     modBlocks::Form_KeyUp(program);
     ShowCaret(program);

@@ -1,6 +1,8 @@
 #include "shell/main_load.h"
 
 #include "base/guard.h"
+#include "calculator/frm_calc.h"
+#include "calendar/read_event_dates.h"
 #include "pages/fields.h"
 #include "pages/label_records.h"
 #include "pages/page_defaults.h"
@@ -20,6 +22,7 @@
 #include "shell/load_fonts.h"
 #include "shell/main_controls.h"
 #include "shell/tool_buttons.h"
+#include "terms/frm_fut.h"
 #include "terms/list_files.h"
 #include "terms/term_list.h"
 
@@ -41,12 +44,12 @@ void OpenSideWindows(Program& program) {
     if (program.platform.screen.WidthInPixels() >= kWideScreen) {
         if (!program.settings.ShowFUT) {
             program.run.ACEnabled = false;
-        } else if (program.hooks.ShowTermsWindow) {
-            program.hooks.ShowTermsWindow(program);
+        } else {
+            modTerms::ShowTermsWindow(program);
         }
     }
-    if (program.settings.ShowCalc && program.hooks.ShowCalculator) {
-        program.hooks.ShowCalculator(program);
+    if (program.settings.ShowCalc) {
+        modCalculator::ShowCalculator(program);
     }
 }
 
@@ -98,9 +101,7 @@ void LoadSteps(Program& program) {
     }
     modPages::ApplyPageFonts(program);
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
-    if (program.hooks.ReadEventDates) {
-        program.hooks.ReadEventDates(program);
-    }
+    modCalendar::ReadEventDatesAtStart(program);
 }
 
 } // namespace

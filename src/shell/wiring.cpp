@@ -1,9 +1,9 @@
 #include "shell/wiring.h"
 
 #include "calculator/frm_calc.h"
-#include "calendar/read_event_dates.h"
 #include "editing/block_moves.h"
 #include "editing/columns.h"
+#include "editing/final_page.h"
 #include "editing/fresh_figures.h"
 #include "editing/leaving.h"
 #include "editing/selection.h"
@@ -21,10 +21,19 @@
 
 namespace {
 
+/// On the client's copy of the final page nobody types, and nothing follows from its texts.
+void AreaChange(Program& program, const FieldRef& field) {
+    if (IsLinePage(field.Page)) {
+        modText::txt_Change(program, field.Page, field.Index);
+    } else if (IsFinalPage(field.Page)) {
+        modFinalPage::txt_Change(program, field.Index);
+    }
+}
+
 void Change(Program& program, const FieldRef& field) {
     switch (field.Kind) {
     case FieldKind::txt:
-        modText::txt_Change(program, field.Page, field.Index);
+        AreaChange(program, field);
         break;
     case FieldKind::txtQty:
         modColumns::txtQty_Change(program, field.Page, field.Index);
@@ -78,15 +87,11 @@ void Wire(Program& program) {
     hooks.ShowField = ShowField;
     hooks.DeSelectAllControls = modBlocks::DeSelectAllControls;
     hooks.ReadTextFile = modExport::ReadTextFile;
-    hooks.MoveBlock = modBlocks::MoveBlockByKey;
     hooks.TakeFreshFigures = modFigures::TakeFresh;
-    hooks.ReadEventDates = modCalendar::ReadEventDatesAtStart;
     hooks.CollectQtyBoxes = modColumns::CollectQtyBoxes;
-    hooks.TermsKey = modTerms::TermsKey;
     hooks.ReadFrequentlyUsedTerms = modTerms::ListInUseChanged;
     hooks.CompleteWord = modTerms::CompleteWord;
     hooks.CompletionKey = modTerms::CompletionKey;
-    hooks.ShowTermsWindow = modTerms::ShowTermsWindow;
     hooks.ShowCalculator = modCalculator::ShowCalculator;
     hooks.OpenFormatFile = modFormat::OpenFormatFile;
     hooks.ParsePropertyFile = modFormat::ParsePropertyFile;

@@ -7,6 +7,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/saved_notice.h"
 #include "terms/term_line.h"
 
 #include <algorithm>
@@ -204,6 +205,7 @@ Saved SaveFrequentlyUsedTerms(Program& program, const Change& change) {
     });
     if (saved == Saved::Yes) {
         ReadFrequentlyUsedTerms(program);
+        TellSaved(program, "Terms list", program.terms.Path);
     }
     return held ? saved : Saved::Failed;
 }

@@ -20,11 +20,12 @@ DesktopRun::DesktopRun() {
     program.folders.Drives.Home = folder / "Home/";
     printers.MakeCurrent("Print to PDF");
     Wire(program);
-    program.hooks.ReadEventDates = nullptr; // a folder without proposals is told of at the start
+    recording.questions.Allow(kNoEvents); // its folder has no proposals
     window = std::make_unique<FrmMainView>(program, measure);
     events.Follow = [this] { window->Follow(); };
     EXPECT_EQ(modStart::Main(program), modStart::StartResult::Running);
     PassSplash(program);
+    recording.questions.Allow({});
     window->AfterEvent();
     window->showNormal();
     window->resize(1024, 768);

@@ -1,6 +1,6 @@
 #include "editing/block_actions.h"
 #include "editing/block_moves.h"
-#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "support/person.h"
 
 namespace {

@@ -192,7 +192,6 @@ TEST(BlockSelection, HasItsArrowsBeforeTheFields) {
     Typist typist(run.program);
     typist.Click(PageId::frmP2, 3);
     run.program.editing.BlockMode = true;
-    run.program.hooks.MoveBlock = nullptr;
     typist.Press(keys::kDown);
     EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP2, FieldKind::txt, 3}));
     typist.Press(keys::kEnter);

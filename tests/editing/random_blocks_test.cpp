@@ -186,7 +186,7 @@ void ExpectInStep(BlockRun& run) {
             SCOPED_TRACE(testing::Message()
                          << "page " << IndexOf(page) + 1 << " area " << i << " \"" << area.Text << "\"");
             blue += run.Blue(page, i) ? 1 : 0;
-            EXPECT_EQ(program.document.CurrentTextBuf[page][index], modFields::ComposeLine(program, page, i));
+            EXPECT_EQ(program.document.CurrentTextBuf[page][index], modPages::ComposeLine(program, page, i));
             EXPECT_EQ(program.format.PropTextChanges[page][index].FontBold, area.FontBold);
             if (geometry::IsAmount(page, i)) {
                 ExpectAmountCounted(run, page, index);

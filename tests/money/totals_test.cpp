@@ -1,7 +1,7 @@
 #include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/fields.h"
-#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "program/keys.h"
 #include "support/person.h"
 #include "support/running_program.h"

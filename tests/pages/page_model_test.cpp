@@ -1,6 +1,6 @@
 #include "pages/page_fonts.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "pages/titles.h"
 #include "support/running_program.h"
 
@@ -414,6 +414,7 @@ TEST(Geometry, PairsAmountsWithTheirRowsAndSigns) {
     EXPECT_FALSE(geometry::IsAmount(PageId::frmP6, 0));
     EXPECT_EQ(geometry::LimitOf("Push.120"), 120);
     EXPECT_EQ(geometry::LimitOf(""), 0);
+    EXPECT_EQ(geometry::LimitOf("Push.1/9"), 1) << "what is no digit ends it";
 }
 
 } // namespace

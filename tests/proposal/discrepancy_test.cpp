@@ -1,5 +1,5 @@
 #include "money/totals.h"
-#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "proposal/proposal_save.h"
 #include "support/running_program.h"
 

@@ -1,7 +1,6 @@
 #include "base/files.h"
 #include "money/totals.h"
 #include "pages/fields.h"
-#include "pages/quantity_row.h"
 #include "pages/row_fields.h"
 #include "proposal/lifecycle.h"
 #include "proposal/property_file.h"
@@ -10,6 +9,7 @@
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
 #include "proposal/slot_widths.h"
+#include "support/person.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -83,7 +83,7 @@ TEST(ProposalLayout, AFullWidthMarkedAmountLosesItsLastCharacter) {
 }
 
 TEST(ProposalLayout, SplitsQuantityRowsOnlyWithAllThreeMarks) {
-    const auto row = quantity_row::Split("\xA5"
+    const auto row = modPages::SplitLine("\xA5"
                                          "3\xA5"
                                          "Chair covers\xA7"
                                          "19.99");
@@ -91,7 +91,7 @@ TEST(ProposalLayout, SplitsQuantityRowsOnlyWithAllThreeMarks) {
     EXPECT_EQ(row.Quantity, "3");
     EXPECT_EQ(row.Description, "Chair covers");
     EXPECT_EQ(row.Amount, "19.99");
-    EXPECT_TRUE(quantity_row::Split("\xA5\xA5\xA7").IsRow);
+    EXPECT_TRUE(modPages::SplitLine("\xA5\xA5\xA7").IsRow);
     for (const char* text : {"", "\xA5",
                              "\xA5"
                              "3",
@@ -102,7 +102,7 @@ TEST(ProposalLayout, SplitsQuantityRowsOnlyWithAllThreeMarks) {
                              "3\xA5"
                              "y\xA7",
                              "\xA5\xA7\xA5"}) {
-        EXPECT_FALSE(quantity_row::Split(text).IsRow) << text;
+        EXPECT_FALSE(modPages::SplitLine(text).IsRow) << text;
     }
 }
 
@@ -247,9 +247,28 @@ TEST(OpeningAProposal, TheSampleNeverShowsTheLogo) {
     RunningProgram run;
     run.program.settings.LogoVisible = true;
     ASSERT_EQ(Open(run, FileWith({}), "John Doe.hef"), modFile::OpenResult::Opened);
-    EXPECT_FALSE(run.program.settings.LogoVisible);
     EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Tag, "Hide");
     EXPECT_FALSE(run.Main()[CommandId::mnuEditLogoVisible].Checked);
+}
+
+TEST(OpeningAProposal, AfterTheSampleTheLogoIsBackWithTheNextProposal) {
+    RunningProgram run;
+    const std::string picture = run.folder / "logo.png";
+    run.folder.Write("logo.png", "x");
+    run.surroundings.pictures.Known[picture] = {1500, 900};
+    run.program.settings.LogoFile = picture;
+    run.program.settings.LogoVisible = true;
+    const PagePicture& logo = run.program.pages[PageId::frmP1].pic;
+    ASSERT_EQ(Open(run, FileWith({}), "John Doe.hef"), modFile::OpenResult::Opened);
+    EXPECT_EQ(logo.Tag, "Hide");
+    person::TurnTo(run.program, 1);
+    person::TurnTo(run.program, 0);
+    EXPECT_EQ(logo.Tag, "Hide") << "while the sample stands";
+    EXPECT_FALSE(logo.Visible);
+    person::StartAnew(run.program);
+    EXPECT_EQ(logo.Tag, "");
+    EXPECT_TRUE(logo.Visible);
+    EXPECT_TRUE(run.Main()[CommandId::mnuEditLogoVisible].Checked);
 }
 
 TEST(OpeningAProposal, OfAnyShortLengthIsReadAsFarAsItGoes) {

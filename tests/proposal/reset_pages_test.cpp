@@ -1,4 +1,4 @@
-#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "proposal/reset.h"
 #include "support/running_program.h"
 

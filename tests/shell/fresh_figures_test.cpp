@@ -5,7 +5,7 @@
 #include "output/preview.h"
 #include "output/print.h"
 #include "pages/fields.h"
-#include "pages/page_marks.h"
+#include "pages/row_fields.h"
 #include "program/keys.h"
 #include "proposal/proposal_save.h"
 #include "shell/command_run.h"

@@ -3,6 +3,7 @@
 #include "pages/fields.h"
 #include "program/keys.h"
 #include "program/program.h"
+#include "program/windows.h"
 #include "shell/page_switch.h"
 #include "support/running_program.h"
 #include "support/typist.h"
@@ -49,12 +50,14 @@ TEST(Keys, UpAndDownMoveTheBlockWhileAreasAreSelected) {
     Typist typist(run.program);
     modScroll::UpdatePageButtons(run.program, 1);
     typist.Click(PageId::frmP2, 5);
-    std::vector<int> moved;
-    run.program.hooks.MoveBlock = [&](Program&, int key) { moved.push_back(key); };
-    run.program.editing.BlockMode = true;
+    typist.Type("Chairs");
+    EXPECT_EQ(KeyDown(run.program, keys::kDown, keys::kShiftState, 0, 0), Taken::Yes);
     EXPECT_EQ(KeyDown(run.program, keys::kDown, 0, 0, 0), Taken::Yes);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 5), "");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 6), "Chairs");
     EXPECT_EQ(KeyDown(run.program, keys::kUp, 0, 0, 0), Taken::Yes);
-    EXPECT_EQ(moved, (std::vector<int>{40, 38}));
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 5), "Chairs");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 6), "");
     EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP2, FieldKind::txt, 5}));
 }
 
@@ -63,28 +66,32 @@ TEST(Keys, UpAndDownMoveTheFocusOtherwise) {
     Typist typist(run.program);
     modScroll::UpdatePageButtons(run.program, 1);
     typist.Click(PageId::frmP2, 5);
-    bool moved = false;
-    run.program.hooks.MoveBlock = [&](Program&, int) { moved = true; };
+    typist.Type("Chairs");
     EXPECT_EQ(KeyDown(run.program, keys::kDown, 0, 0, 0), Taken::Yes);
-    EXPECT_FALSE(moved);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 5), "Chairs");
     EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP2, FieldKind::txt, 6}));
 }
 
 TEST(Keys, TermsKeysAreHeardOnLinePagesOnlyAndReachTheFieldToo) {
     RunningProgram run;
-    std::vector<int> heard;
-    run.program.hooks.TermsKey = [&](Program&, int key) { heard.push_back(key); };
+    run.folder.Write("Proposals/Other Terms.fut", "Arch\r\n");
+    const std::string list = run.program.run.FUTFileName;
+    const auto window = [&] { return modWindows::Find(run.program, "frmFUT"); };
+    ASSERT_NE(window(), nullptr);
+    modWindows::Close(run.program, *window()); // the settings have shown it
     modScroll::UpdatePageButtons(run.program, 1);
     modFields::GiveFocus(run.program, {PageId::frmP2, FieldKind::txt, 0});
     const int before = run.program.editing.KeyCounter;
-    static_cast<void>(KeyDown(run.program, keys::kF5, 0, 0, 0));
-    static_cast<void>(KeyDown(run.program, keys::kF6, 0, 0, 0));
-    EXPECT_EQ(heard, (std::vector<int>{116, 117}));
+    EXPECT_EQ(KeyDown(run.program, keys::kF5, 0, 0, 0), Taken::No);
+    ASSERT_NE(window(), nullptr);
+    EXPECT_EQ(KeyDown(run.program, keys::kF6, 0, 0, 0), Taken::No);
+    EXPECT_NE(run.program.run.FUTFileName, list) << "the next list";
     EXPECT_EQ(run.program.editing.KeyCounter, before + 2);
     modScroll::UpdatePageButtons(run.program, 5);
     modFields::GiveFocus(run.program, {PageId::frmP6, FieldKind::txt, 0});
-    static_cast<void>(KeyDown(run.program, keys::kF5, 0, 0, 0));
-    EXPECT_EQ(heard.size(), 2U);
+    modWindows::Close(run.program, *window());
+    EXPECT_EQ(KeyDown(run.program, keys::kF5, 0, 0, 0), Taken::No);
+    EXPECT_EQ(window(), nullptr);
 }
 
 TEST(Keys, ACharacterGoesToTheFieldThatHasTheFocusAfterTheKey) {

@@ -3,7 +3,6 @@
 #include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/fields.h"
-#include "pages/page_marks.h"
 #include "pages/row_fields.h"
 #include "program/keys.h"
 #include "proposal/long_texts.h"

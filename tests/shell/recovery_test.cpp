@@ -40,13 +40,13 @@ struct Runs {
         }
         Start(program, again);
     }
-    void Start(Program& one, RecordingPlatform&) const {
+    void Start(Program& one, RecordingPlatform& surroundings) const {
         one.folders.InstallFolder = first->folder.Path();
         one.folders.Drives.Home = first->folder / "Home/";
         one.main.ClientHeight = 9000;
         one.main.ClientWidth = 14000;
         Wire(one);
-        one.hooks.ReadEventDates = nullptr; // a folder without proposals is told of at the start
+        surroundings.questions.Allow(kNoEvents);
         ASSERT_EQ(modStart::Main(one), modStart::StartResult::Running);
         PassSplash(one);
     }

@@ -139,21 +139,17 @@ TEST(StartUp, RoomsAreCalledInOrderAndTheEventListLast) {
     Starting run;
     run.Setting("Show Calc:", "True");
     std::vector<std::string> calls;
-    run.program.hooks.ShowTermsWindow = [&](Program& program) {
-        EXPECT_TRUE(program.guards.ResetActive);
-        EXPECT_TRUE(program.settings.PrefsRead);
-        EXPECT_TRUE(program.run.FontsLoaded);
-        calls.emplace_back("terms");
-    };
-    run.program.hooks.ShowCalculator = [&](Program&) { calls.emplace_back("calculator"); };
-    run.program.hooks.ReadEventDates = [&](Program& program) {
-        EXPECT_FALSE(program.guards.ResetActive);
-        EXPECT_TRUE(program.guards.KeepPageContent);
-        EXPECT_TRUE(program.pages[PageId::frmP5].RowFieldsMade);
+    run.surroundings.questions.Allow(kNoEvents, [&] {
+        EXPECT_FALSE(run.program.guards.ResetActive);
+        EXPECT_TRUE(run.program.guards.KeepPageContent);
+        EXPECT_TRUE(run.program.pages[PageId::frmP5].RowFieldsMade);
+        for (const char* name : {"frmFUT", "frmCalc"}) {
+            calls.emplace_back(modWindows::Find(run.program, name) != nullptr ? name : "none");
+        }
         calls.emplace_back("events");
-    };
+    });
     ASSERT_EQ(run.Main(), modStart::StartResult::Running);
-    EXPECT_EQ(calls, (std::vector<std::string>{"terms", "calculator", "events"}));
+    EXPECT_EQ(calls, (std::vector<std::string>{"frmFUT", "frmCalc", "events"}));
 }
 
 TEST(StartUp, NoFieldsChangeHandlerRunsBeforeTheProposalStands) {
@@ -170,18 +166,16 @@ TEST(StartUp, TheScreensWidthDecidesOverTheTermsAndTheCompletion) {
     struct Case {
         int Pixels;
         const char* ShowFUT;
-        int Shown;
+        bool Shown;
         bool Completes;
     };
-    for (const Case& one : {Case{1024, "True", 1, true}, Case{1023, "True", 0, true},
-                            Case{1024, "False", 0, false}, Case{800, "False", 0, true}}) {
+    for (const Case& one : {Case{1024, "True", true, true}, Case{1023, "True", false, true},
+                            Case{1024, "False", false, false}, Case{800, "False", false, true}}) {
         Starting run;
         run.Setting("Show FUT:", one.ShowFUT);
         run.surroundings.screen.Pixels = one.Pixels;
-        int shown = 0;
-        run.program.hooks.ShowTermsWindow = [&](Program&) { ++shown; };
         ASSERT_EQ(run.Main(), modStart::StartResult::Running);
-        EXPECT_EQ(shown, one.Shown) << one.Pixels << one.ShowFUT;
+        EXPECT_EQ(modWindows::Find(run.program, "frmFUT") != nullptr, one.Shown) << one.Pixels << one.ShowFUT;
         EXPECT_EQ(run.program.run.ACEnabled, one.Completes) << one.Pixels << one.ShowFUT;
         EXPECT_EQ(run.program.run.ACStartLen, 2);
     }
@@ -269,7 +263,7 @@ TEST(StartUp, ARateOfZeroIsAskedForAtEveryStart) {
 
 TEST(StartUp, AFailureOfTheLoadIsReportedAndToldAndTheRunEnds) {
     Starting run;
-    run.program.hooks.ReadEventDates = [](Program&) { throw std::runtime_error("no list"); };
+    run.program.hooks.GotFocus = [](Program&, const FieldRef&) { throw std::runtime_error("no field"); };
     run.surroundings.questions.Expect("An error occurred in MDIForm_Load.");
     run.surroundings.questions.ExpectBox({"Error encountered during Load Process.", Buttons::Ok, ""},
                                          Answer::Ok);

@@ -31,6 +31,11 @@ public:
     void ExpectBox(Box box, Answer answer);
     /// The next input box: its title, and what the person types (empty for Cancel).
     void ExpectInput(std::string title, std::string reply);
+    /// A box with these words may come or not; it is acknowledged and not recorded. No words: none may.
+    void Allow(std::string text, std::function<void()> onCome = {}) {
+        allowed_ = std::move(text);
+        onAllowed_ = std::move(onCome);
+    }
     /// Fails if an expected box was not shown.
     void Done();
     /// Boxes that no script expects are answered so and recorded: for random runs, which look at `Shown`.
@@ -58,6 +63,8 @@ private:
         std::string Reply;
     };
     std::deque<Step> script_;
+    std::string allowed_;
+    std::function<void()> onAllowed_;
     bool takeAll_ = false;
     Answer takeAllBy_ = Answer::Ok;
 };

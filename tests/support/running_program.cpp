@@ -30,7 +30,7 @@ RunningProgram::RunningProgram(Begin begin) {
     program.main.ClientHeight = 9000;
     program.main.ClientWidth = 14000;
     Wire(program);
-    program.hooks.ReadEventDates = nullptr; // a folder without proposals is told of at the start
+    surroundings.questions.Allow(kNoEvents); // its folder has no proposals
     if (begin == Begin::Started) {
         Start();
     }
@@ -41,6 +41,7 @@ void RunningProgram::Start() {
         throw std::runtime_error("the program did not start");
     }
     PassSplash(program);
+    surroundings.questions.Allow({});
 }
 
 MainWindow& RunningProgram::Main() {

@@ -7,6 +7,9 @@
 #include <string>
 #include <string_view>
 
+/// What a start tells of a folder without proposals.
+inline constexpr char kNoEvents[] = "No Events Found";
+
 /// A program that has started on a recording platform, in a folder of its own with the settings of a business
 /// that calls itself Acme Events.
 class RunningProgram {
