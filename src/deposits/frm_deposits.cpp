@@ -341,8 +341,9 @@ bool frmDeposits::SettlePendingAmount(Program& program) {
     if (Locked || !notAdded_ || txtAmount.Text.empty()) {
         return true;
     }
-    switch (program.platform.questions.MsgBox("The amount has not been added to the list. Add it?",
-                                              Buttons::YesNoCancel, "")) {
+    switch (program.platform.questions.MsgBox(
+        "The amount has not been added to the list. Add it?", Buttons::YesNoCancel, "",
+        {.Default = Answer::Yes, .Lost = "The amount " + txtAmount.Text})) {
     case Answer::Yes:
         return AddOrReplace(program) == Added::Yes;
     case Answer::No:
@@ -401,8 +402,9 @@ bool frmDeposits::MayLeave(Program& program, Leaving) {
     if (!DepositChanged || Locked) {
         return true;
     }
-    switch (program.platform.questions.MsgBox("The deposit list has changed. Save changes?",
-                                              Buttons::YesNoCancel, "Deposit List Modified")) {
+    switch (program.platform.questions.MsgBox(
+        "The deposit list has changed. Save changes?", Buttons::YesNoCancel, "Deposit List Modified",
+        {.Default = Answer::Yes, .Lost = "The changes of the deposit list"})) {
     case Answer::Yes:
         return SaveDepositInfo(program);
     case Answer::No:
