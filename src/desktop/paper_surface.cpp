@@ -35,11 +35,6 @@ bool MadeOfLines(const std::string& path) {
     return text::EqualNoCase(paths::ExtensionOf(path), "svg");
 }
 
-bool IsPhotograph(const std::string& path) {
-    const std::string_view kind = paths::ExtensionOf(path);
-    return text::EqualNoCase(kind, "jpg") || text::EqualNoCase(kind, "jpeg");
-}
-
 /// Whether a file ends before its picture does: the readers of some formats fill up what is missing, and say
 /// nothing.
 bool IsCutShort(const QString& file, const QByteArray& format) {
@@ -167,7 +162,7 @@ void DrawLogo(QPainter& painter, const std::string& path, const QRectF& place) {
     }
     constexpr qint64 kMostWithoutLoss = 4'000'000; // points; more would make a file of many megabytes
     const bool few = qint64{picture.width()} * picture.height() <= kMostWithoutLoss;
-    painter.setRenderHint(QPainter::LosslessImageRendering, lines || (few && !IsPhotograph(path)));
+    painter.setRenderHint(QPainter::LosslessImageRendering, lines || few);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(place, picture);
 }

@@ -1,11 +1,14 @@
 #include "desktop/window_views.h"
 
 #include "desktop/convert.h"
+#include "desktop/mnemonics.h"
 #include "desktop/paper_surface.h"
 #include "program/program.h"
 
 #include <QApplication>
 #include <QEvent>
+#include <QMainWindow>
+#include <QMenuBar>
 #include <QScreen>
 
 #include <algorithm>
@@ -155,6 +158,10 @@ void WindowViews::Follow() {
             view = MakeWindowView(program_, *window, &over_, afterEvent_);
         }
         view->Follow();
+        // A window that stands beside the page, or within the main window, leaves the menu bar its letters.
+        const auto* main = qobject_cast<QMainWindow*>(&over_);
+        mnemonics::Give(*view, view->isModal() || main == nullptr ? QString()
+                                                                  : mnemonics::LettersOf(*main->menuBar()));
         if (fresh) {
             view->Open();
         }

@@ -13,6 +13,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/saved_notice.h"
 #include "proposal/file_names.h"
 
 namespace modExport {
@@ -49,8 +50,8 @@ std::string ScratchPath(const Program& program) {
 /// Deletes the scratch file, if there is one; false when it stays.
 bool DropScratchFile(const Program& program) {
     try {
-        if (files::Exists(ScratchPath(program))) {
-            files::Delete(ScratchPath(program));
+        if (const std::string path = ScratchPath(program); files::ExistsExactly(path)) {
+            files::Delete(path);
         }
         return true;
     } catch (const files::FileError&) {
@@ -127,7 +128,8 @@ void WriteTextFile(Program& program) {
         return;
     }
     const std::string path = paths::Join(folder, program.exporting.ExportFileName);
-    files::WriteWhole(path, PlainText(ProposalLines(program)));
+    files::WriteWhole(path, ProposalText(program));
+    TellSaved(program, "Text", path);
     program.platform.questions.MsgBox("File was saved as " + path, Buttons::Ok, "");
 }
 

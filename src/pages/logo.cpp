@@ -51,21 +51,21 @@ std::optional<PictureSize> PutLogo(Program& program, const std::string& path) {
     if (size) {
         Logo(program).Picture = {PictureRef::Source::File, path};
         Logo(program).Size = Fitted(*size);
-        SettleLogoVisibility(program);
         program.run.LogoChecked = program.settings.LogoVisible;
+        SettleLogoVisibility(program);
     }
     return size;
 }
 
 void HideLogo(Program& program) {
     Logo(program).Picture = {};
-    SettleLogoVisibility(program);
     program.run.LogoChecked = false;
+    SettleLogoVisibility(program);
 }
 
 void SettleLogoVisibility(Program& program) {
     PagePicture& logo = Logo(program);
-    const bool shown = program.settings.LogoVisible && logo.Picture.From != PictureRef::Source::None;
+    const bool shown = program.run.LogoChecked && logo.Picture.From != PictureRef::Source::None;
     logo.Visible = shown;
     logo.Tag = shown ? "" : kHide;
 }

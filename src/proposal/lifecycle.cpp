@@ -12,6 +12,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/rewriting.h"
+#include "program/saved_notice.h"
 #include "program/windows.h"
 #include "proposal/delete_files.h"
 #include "proposal/file_names.h"
@@ -232,6 +233,7 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
         files::Seen seen = files::LookAt(target);
         modFile::WriteOver(target, bytes, seen);
         document.SavedFile = seen;
+        TellSaved(program, "Backup put back, proposal", target);
         if (!document.TitleGiven) {
             document.ClientCaption = "Proposal for " + document.BaseName;
             modTitles::UpdateFooters(program);

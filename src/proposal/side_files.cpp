@@ -8,6 +8,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/saved_notice.h"
 #include "proposal/proposal_save.h"
 
 namespace modSideFile {
@@ -106,6 +107,7 @@ bool Write(Program& program, Known& known, std::string_view name, std::string_vi
         known.There = true;
         known.Seen = files::SeenIn(bytes);
         written = true;
+        TellSaved(program, name.ends_with(".dep") ? "Deposit list" : "Footnotes", path);
     });
     return written;
 }

@@ -1,4 +1,6 @@
 #include "desktop/desktop_run.h"
+#include "desktop/elided_label.h"
+#include "desktop/window_run.h"
 #include "program/windows.h"
 #include "shell/command_run.h"
 #include "support/running_program.h"
@@ -7,6 +9,7 @@
 #include <QDialog>
 #include <QImage>
 #include <QPushButton>
+#include <QScreen>
 #include <QStyle>
 #include <QTest>
 
@@ -93,6 +96,21 @@ double InkContrast(QWidget& widget) {
     return strongest;
 }
 
+/// Words on labels and buttons.
+void ExpectReadable(const QDialog& view, const std::string& name) {
+    for (QLabel* label : view.findChildren<QLabel*>()) {
+        if (label->isVisible() && !label->text().isEmpty()) {
+            EXPECT_GE(InkContrast(*label), 4.5) << name << ' ' << label->objectName().toStdString();
+        }
+    }
+    for (QAbstractButton* button : view.findChildren<QAbstractButton*>()) {
+        // One without words is a colour to choose.
+        if (button->isVisible() && button->isEnabled() && !button->text().isEmpty()) {
+            EXPECT_GE(InkContrast(*button), 4.5) << name << ' ' << button->objectName().toStdString();
+        }
+    }
+}
+
 TEST(DarkTheme, PaperStaysPaper) {
     const DarkDesktop dark;
     DesktopRun run;
@@ -152,17 +170,52 @@ TEST(DarkTheme, SmallWindowsCanBeRead) {
         auto* view = run.window->findChild<QDialog*>(QString::fromStdString(name));
         EXPECT_TRUE(QTest::qWaitFor([view] { return QApplication::activeWindow() == view; }));
         Look(*view, ("dark_" + name).c_str());
-        for (QLabel* label : view->findChildren<QLabel*>()) {
-            if (label->isVisible() && !label->text().isEmpty()) {
-                EXPECT_GE(InkContrast(*label), 4.5) << name << ' ' << label->objectName().toStdString();
-            }
+        ExpectReadable(*view, name);
+        QTest::keyClick(view, Qt::Key_Escape);
+    }
+}
+
+TEST(DarkTheme, WindowsBesideTheProposalCanBeRead) {
+    const DarkDesktop dark;
+    for (const CommandId id : {CommandId::mnuFileOpenFootnotes, CommandId::mnuManageDeposits,
+                               CommandId::mnuManageEditor, CommandId::mnuViewEventDates}) {
+        DesktopRun run;
+        run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+        commands::Run(run.program, id);
+        run.window->AfterEvent();
+        ASSERT_FALSE(run.program.windows.Open.empty());
+        const std::string name(run.program.windows.Open.back()->Name());
+        auto* view = run.window->findChild<QDialog*>(QString::fromStdString(name));
+        ASSERT_NE(view, nullptr) << name;
+        EXPECT_TRUE(QTest::qWaitFor([view] { return QApplication::activeWindow() == view; }));
+        if (auto* lines = view->findChild<QPushButton*>(QStringLiteral("cmdLines"))) {
+            lines->click(); // 35 lines: the text stands on red
+            Look(*view, "dark_frmEditor_lines");
+            EXPECT_GE(InkContrast(*view->findChild<QWidget*>(QStringLiteral("txtCharCount"))), 4.5);
+            lines->click();
         }
-        for (QAbstractButton* button : view->findChildren<QAbstractButton*>()) {
-            if (button->isVisible() && button->isEnabled() && !button->text().isEmpty()) {
-                EXPECT_GE(InkContrast(*button), 4.5) << name << ' ' << button->objectName().toStdString();
+        Look(*view, ("dark_" + name).c_str());
+        ExpectReadable(*view, name);
+        for (const char* text : {"txtCharCount", "lstDates", "month"}) {
+            if (auto* area = view->findChild<QWidget*>(QLatin1String(text))) {
+                EXPECT_GE(InkContrast(*area), 4.5) << text;
             }
         }
         QTest::keyClick(view, Qt::Key_Escape);
+    }
+}
+
+/// Nothing is cut off: every label and button has the room that its words need.
+void ExpectWordsWhole(const QWidget& view, const std::string& name) {
+    for (const QWidget* part : view.findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<const QLabel*>(part);
+        const bool elided = qobject_cast<const ElidedLabel*>(part) != nullptr;
+        const bool words =
+            (label != nullptr && !label->wordWrap()) || qobject_cast<const QAbstractButton*>(part) != nullptr;
+        if (words && !elided && part->isVisible()) {
+            EXPECT_GE(part->width(), part->minimumSizeHint().width())
+                << name << ' ' << part->objectName().toStdString();
+        }
     }
 }
 
@@ -170,26 +223,22 @@ TEST(LightTheme, SmallWindowsAsTheyLook) {
     for (const CommandId id :
          {CommandId::mnuFileOpenEvent, CommandId::mnuOptPrinter, CommandId::mnuOptACStart,
           CommandId::mnuOptSalesTax, CommandId::mnuOptUserPref, CommandId::mnuToolsPrinterOffsets,
-          CommandId::mnuToolsSnap, CommandId::mnuEditAllTextFonts, CommandId::mnuEditTitles,
-          CommandId::mnuEditLabelSelectAll}) {
-        DesktopRun run;
-        commands::Run(run.program, id);
-        run.window->AfterEvent();
-        ASSERT_FALSE(run.program.windows.Open.empty());
+          CommandId::mnuEditAllTextFonts, CommandId::mnuEditTitles, CommandId::mnuToolsSnap,
+          CommandId::mnuEditFind, CommandId::mnuManageEditor, CommandId::mnuManageDeposits,
+          CommandId::mnuFileOpenFootnotes, CommandId::mnuFileOpenAddressBook}) {
+        WindowRun run;
+        const std::size_t before = run.program.windows.Open.size();
+        run.Command(id);
+        ASSERT_GT(run.program.windows.Open.size(), before) << static_cast<int>(id);
         const std::string name(run.program.windows.Open.back()->Name());
         auto* view = run.window->findChild<QDialog*>(QString::fromStdString(name));
-        EXPECT_TRUE(QTest::qWaitFor([view] { return QApplication::activeWindow() == view; }));
+        ASSERT_NE(view, nullptr) << name;
+        EXPECT_TRUE(QTest::qWaitFor([view] { return QApplication::activeWindow() == view; })) << name;
         Look(*view, ("light_" + name).c_str());
-        // Nothing is cut off: every label and button has the room that its words need.
-        for (QWidget* part : view->findChildren<QWidget*>()) {
-            const auto* label = qobject_cast<QLabel*>(part);
-            const bool words =
-                (label != nullptr && !label->wordWrap()) || qobject_cast<QAbstractButton*>(part) != nullptr;
-            if (words && part->isVisible()) {
-                EXPECT_GE(part->width(), part->minimumSizeHint().width())
-                    << name << ' ' << part->objectName().toStdString();
-            }
-        }
+        ExpectWordsWhole(*view, name);
+        const QSize screen = view->screen()->availableSize();
+        EXPECT_LE(view->width(), screen.width()) << name;
+        EXPECT_LE(view->height(), screen.height()) << name;
         QTest::keyClick(view, Qt::Key_Escape);
     }
 }

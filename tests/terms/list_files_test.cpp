@@ -89,6 +89,16 @@ TEST(Lists, F6OpensTheNextOneAndWraps) {
     EXPECT_EQ(run.program.run.FUTFileName, "Wedding Terms.fut") << "not a key of the final page";
 }
 
+TEST(Lists, ANameInAnotherCaseIsTheOneOnDisk) {
+    TermsRun run("Chair");
+    WriteLists(run);
+    modTerms::OpenList(run.program, "CATERING.fut");
+    EXPECT_TRUE(modTerms::AddTerm(run.program, "Fish"));
+    EXPECT_EQ(run.program.run.FUTFileName, "Catering.fut");
+    EXPECT_EQ(run.OnDisk("Catering.fut"), "Soup\r\nBread\r\nFish");
+    EXPECT_FALSE(run.folder.Has("Proposals/CATERING.fut"));
+}
+
 TEST(Lists, AnAddAfterOpeningWritesTheListThatWasOpened) {
     TermsRun run("Chair");
     WriteLists(run);
@@ -174,6 +184,7 @@ TEST(NewList, OverwritesAnExistingOneOnlyWhenAsked) {
     expect(Answer::No);
     run.List().mnuFileNewFUT_Click(run.program);
     EXPECT_EQ(run.OnDisk(), "Chair");
+    EXPECT_EQ(run.surroundings.questions.Manners.back().Lost, "The terms of Default Terms.fut");
     expect(Answer::Yes);
     run.List().mnuFileNewFUT_Click(run.program);
     EXPECT_EQ(run.OnDisk(), "");
