@@ -366,7 +366,7 @@ Outcome ConfirmAddressChange(Program& program, AddressWindow& window) {
         "Record Has Changed")) {
     case Answer::Yes:
         book.AddressSaveCancelled = false;
-        SaveAddressRecord(program, window);
+        static_cast<void>(SaveAddressRecord(program, window)); // AddressSaveCancelled says what came of it
         break;
     case Answer::No:
         book.AddressSaveCancelled = false;

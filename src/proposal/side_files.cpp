@@ -41,7 +41,7 @@ void FollowOne(Program& program, const DocumentState& before, std::string_view e
         return;
     }
     const std::string target = paths::Join(to, is);
-    if (before.FileExists && !before.BaseName.empty() && modFile::FileIsThere(from, was)) {
+    if (before.FileExists && !before.BaseName.empty() && files::FileIsThere(from, was)) {
         const std::string bytes = files::ReadAll(paths::Join(from, was));
         files::WriteWhole(target, bytes);
     } else if (files::Exists(target)) {

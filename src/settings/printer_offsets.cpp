@@ -65,8 +65,8 @@ void SavePrinterOffsets(Program& program) {
         bytes += kYKey;
         bytes += InchesOf(program.printing.PrinterOffsetY);
         // Refused: what the other program wrote is kept, and these hold for this run.
-        static_cast<void>(modFile::Rewrite(program, PathOf(program), bytes, program.settings.OffsetsFile,
-                                           "printer offsets file"));
+        static_cast<void>(modRewrite::Rewrite(program, PathOf(program), bytes, program.settings.OffsetsFile,
+                                              "printer offsets file"));
     });
 }
 
