@@ -153,7 +153,10 @@ void CalendarBesideARawRead(benchmark::State& state) {
         modCalendar::mnuViewEventDates_Click(desktop.program);
         desktop.window->AfterEvent();
         QCoreApplication::processEvents(); // the list is on the screen
-        calendar += Milliseconds(Clock::now() - read);
+        const auto shown = Clock::now();
+        calendar += Milliseconds(shown - read);
+        // Nobody was answered either while the list was sorted and painted.
+        desktop.events.Longest = std::max(desktop.events.Longest, Milliseconds(shown - desktop.events.Last));
         listing += Milliseconds(listed - start);
         raw += Milliseconds(read - listed);
     }
@@ -161,7 +164,8 @@ void CalendarBesideARawRead(benchmark::State& state) {
     state.counters["raw_ms"] = raw / rounds;
     state.counters["listing_ms"] = listing / rounds;
     state.counters["calendar_ms"] = calendar / rounds;
-    state.counters["ratio"] = calendar / (raw + listing);
+    state.counters["times_raw"] = calendar / raw;
+    state.counters["times_raw_and_listing"] = calendar / (raw + listing);
     state.counters["longest_silence_ms"] = desktop.events.Longest;
 }
 BENCHMARK(CalendarBesideARawRead)->Arg(0)->Arg(90000)->Iterations(10)->Unit(benchmark::kMillisecond);

@@ -1,8 +1,11 @@
+#include "desktop/font_list_view.h"
 #include "desktop/frm_main_view.h"
 #include "desktop/page_view.h"
 #include "desktop/qt_platform.h"
+#include "format/assignment_lines.h"
 #include "format/label_commit.h"
 #include "format/label_designer.h"
+#include "format/label_looks.h"
 #include "output/preview.h"
 #include "output/print.h"
 #include "output/print_page.h"
@@ -11,6 +14,7 @@
 #include "pages/row_fields.h"
 #include "pages/text_width.h"
 #include "program/program.h"
+#include "proposal/reset.h"
 #include "shell/main_load.h"
 #include "shell/page_switch.h"
 #include "shell/wiring.h"
@@ -232,6 +236,91 @@ void DragStepToPaintedFrame(benchmark::State& state) {
     state.counters["p99_ms"] = spans[spans.size() * 99 / 100];
 }
 BENCHMARK(DragStepToPaintedFrame)->Unit(benchmark::kMillisecond);
+
+/// A format with every label of every page, 150 texts and a logo, from its choice in the chooser to the
+/// painted frame. The picture has been shown before.
+void LayAFormatToPaintedFrame(benchmark::State& state) {
+    Desktop desktop;
+    Program& program = desktop.program;
+    QImage picture(600, 240, QImage::Format_RGB32);
+    picture.fill(Qt::darkBlue);
+    const std::string logo = desktop.folder / "logo.png";
+    picture.save(QString::fromStdString(logo));
+    program.settings.LogoVisible = true;
+    std::string file;
+    std::size_t lines = 0;
+    const auto add = [&](const std::string& line) {
+        file += line + "\r\n";
+        ++lines;
+    };
+    int texts = 0;
+    for (const PageId page : kLinePages) {
+        const auto& areas = program.pages[page].txt;
+        for (std::size_t index = 0; index < areas.size() && texts < 150; ++index) {
+            if (areas[index].Tag != "Amount.020") {
+                add(assignment::TextLine(IndexOf(page), static_cast<int>(index), "White folding chairs"));
+                ++texts;
+            }
+        }
+    }
+    for (const PageId page : kEditedPages) {
+        for (int index = 0; index <= geometry::LastLabel(page); ++index) {
+            LabelLook look = modDesigner::LookOf(modDesigner::LabelAt(program, page, index));
+            look.Left += 180;
+            look.FontSize = 9;
+            add(assignment::LabelLine(IndexOf(page), index, look));
+        }
+    }
+    add(assignment::PictureLine(logo, 360, 360));
+    add(assignment::FontLine({"Times New Roman", 10, 0, false}));
+    desktop.folder.Write("Proposals/House.fmt", file);
+    const auto lay = [&] {
+        program.format.FormatFolder = desktop.folder / "Proposals/";
+        program.format.FormatName = "House.fmt";
+        program.format.FormatOpen = true;
+        static_cast<void>(modReset::StartNewFile(program));
+        desktop.window->AfterEvent();
+        QCoreApplication::processEvents();
+    };
+    lay();
+    if (!program.pages[PageId::frmP1].pic.Visible || program.pages[PageId::frmP5].lbl[34].FontSize != 9) {
+        state.SkipWithError("the format was not laid");
+        return;
+    }
+    std::vector<double> spans;
+    for (auto _ : state) {
+        state.PauseTiming();
+        program.format.FormatOpen = false;
+        static_cast<void>(modReset::StartNewFile(program));
+        desktop.window->AfterEvent();
+        QCoreApplication::processEvents();
+        state.ResumeTiming();
+        const auto start = Clock::now();
+        lay();
+        spans.push_back(Milliseconds(Clock::now() - start));
+    }
+    std::sort(spans.begin(), spans.end());
+    state.counters["lines"] = static_cast<double>(lines);
+    state.counters["p50_ms"] = spans[spans.size() / 2];
+    state.counters["p99_ms"] = spans[spans.size() * 99 / 100];
+}
+BENCHMARK(LayAFormatToPaintedFrame)->Unit(benchmark::kMillisecond);
+
+/// The list of 2,000 families, from its making to the painted frame.
+void TwoThousandFamiliesToPaintedFrame(benchmark::State& state) {
+    std::vector<std::string> families;
+    constexpr int kFamilies = 2000;
+    for (int family = 0; family < kFamilies; ++family) {
+        families.push_back("Family " + std::to_string(family));
+    }
+    for (auto _ : state) {
+        FontListView list(nullptr, families);
+        list.resize(240, 200);
+        list.show();
+        benchmark::DoNotOptimize(list.grab());
+    }
+}
+BENCHMARK(TwoThousandFamiliesToPaintedFrame)->Unit(benchmark::kMillisecond);
 
 /// A change of the size of all labels of the final page, to the painted frame.
 void GroupChangeToPaintedFrame(benchmark::State& state) {

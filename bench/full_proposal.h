@@ -10,8 +10,11 @@
 /// Says yes to everything, so that only the program's own work is measured.
 class Agreeing : public Questions {
 public:
+    Answer ToThreeAnswers = Answer::Yes; ///< where there are three to choose from
     Answer Ask(std::string_view, Buttons buttons, std::string_view, const Manner&) override {
-        return buttons == Buttons::Ok ? Answer::Ok : Answer::Yes;
+        return buttons == Buttons::Ok            ? Answer::Ok
+               : buttons == Buttons::YesNoCancel ? ToThreeAnswers
+                                                 : Answer::Yes;
     }
     std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
 };

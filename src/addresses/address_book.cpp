@@ -10,6 +10,7 @@
 #include "base/text.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/saved_notice.h"
 
 #include <algorithm>
 
@@ -309,6 +310,7 @@ Outcome SaveAddressRecord(Program& program, AddressWindow& window) {
         return Outcome::Stopped;
     }
     book.AddressSaveCancelled = false;
+    TellSaved(program, "Address", BookPath(program));
     ForgetChanges(program, window);
     book.AddressNameChanged = false;
     book.AddressRecordNew = false;
@@ -363,7 +365,7 @@ Outcome ConfirmAddressChange(Program& program, AddressWindow& window) {
     AddressRecords& book = program.addresses;
     switch (program.platform.questions.MsgBox(
         "The current Record has been changed. Do you want to save the changes?", Buttons::YesNoCancel,
-        "Record Has Changed")) {
+        "Record Has Changed", {.Default = Answer::Yes, .Lost = "The changes of this record"})) {
     case Answer::Yes:
         book.AddressSaveCancelled = false;
         static_cast<void>(SaveAddressRecord(program, window)); // AddressSaveCancelled says what came of it

@@ -181,7 +181,7 @@ Parsed ParseCsvAddressList(Program& program) {
                      "and will be excluded from the Batch Import Process for the",
                      "following reason: The record(s) contain an odd number of quotation",
                      "symbols. Do you wish to import the rest of the records anyway?"}),
-        Buttons::YesNo, "Bad data in some records.");
+        Buttons::YesNo, "Bad data in some records.", {.Default = Answer::No});
     return answer == Answer::Yes ? Parsed::Yes : Parsed::No;
 }
 

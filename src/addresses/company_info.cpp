@@ -90,7 +90,7 @@ Outcome MayLeaveCompanyInfo(Program& program, AddressWindow& window) {
     }
     switch (program.platform.questions.MsgBox(
         "The current Record has been changed. Do you want to save the changes?", Buttons::YesNoCancel,
-        "Record Has Changed")) {
+        "Record Has Changed", {.Default = Answer::Yes, .Lost = "The changes of this record"})) {
     case Answer::Yes:
         return SaveCompanyInfo(program, window);
     case Answer::No:

@@ -71,6 +71,16 @@ bool ReadBeginning(int folder, const char* name, std::size_t most, std::string& 
     return good;
 }
 
+/// Null at the end alone: half a folder must not look like a whole one.
+const dirent* NextIn(DIR* listing, std::string_view folder) {
+    errno = 0;
+    const dirent* entry = ::readdir(listing);
+    if (entry == nullptr && errno != 0) {
+        throw FileError(kDeviceError, "Device I/O error: " + std::string(folder));
+    }
+    return entry;
+}
+
 [[noreturn]] void FailMove(int systemError, std::string_view from, std::string_view to) {
     switch (systemError) {
     case EEXIST:
@@ -91,10 +101,27 @@ bool ReadBeginning(int folder, const char* name, std::size_t most, std::string& 
     }
 }
 
+/// A file has one name only here: an empty file of our own takes the place, which nobody else has then, and
+/// is what the move replaces.
+void MoveOntoOwnPlace(const std::string& source, const std::string& target, std::string_view from,
+                      std::string_view to) {
+    constexpr mode_t kOwners = 0600;
+    const int place = ::open(target.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kOwners);
+    if (place < 0) {
+        FailMove(errno, from, to);
+    }
+    ::close(place);
+    if (::rename(source.c_str(), target.c_str()) != 0) {
+        const int failed = errno;
+        ::unlink(target.c_str());
+        FailMove(failed, from, to);
+    }
+}
+
 } // namespace
 
 void ScanHeads(std::string_view folder, std::string_view ending, std::size_t most,
-               const std::function<bool(FileHead&&)>& visit) {
+               const std::function<bool(FileHead&&)>& visit, const std::function<bool()>& goOn) {
     const std::optional<std::string> native = file_places::Locate(folder);
     DIR* listing = native ? ::opendir(native->c_str()) : nullptr;
     if (listing == nullptr) {
@@ -104,7 +131,10 @@ void ScanHeads(std::string_view folder, std::string_view ending, std::size_t mos
     }
     const OnLeaving close([listing] { ::closedir(listing); });
     const int handle = ::dirfd(listing);
-    while (const dirent* entry = ::readdir(listing)) {
+    while (const dirent* entry = NextIn(listing, folder)) {
+        if (goOn && !goOn()) {
+            return;
+        }
         if (!EndsLike(entry->d_name, ending) || !IsRegular(handle, *entry)) {
             continue;
         }
@@ -132,6 +162,10 @@ void MoveNew(std::string_view from, std::string_view to) {
     }
     // A file system that knows no such move: a second name is only made where there is none.
     if (::link(source.c_str(), target.c_str()) != 0) {
+        if (errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS) {
+            MoveOntoOwnPlace(source, target, from, to);
+            return;
+        }
         FailMove(errno, from, to);
     }
     if (::unlink(source.c_str()) != 0) {

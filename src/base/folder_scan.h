@@ -17,10 +17,11 @@ struct FileHead {
 
 /// Visits the regular files whose names end so (given in lower case, meant without regard to it), in the
 /// folder's own order: one open, one read and one close each; nothing is opened for `most` 0. The visitor
-/// ends the scan with false. Names that the program's characters cannot hold are passed over. Throws
-/// FileError when the folder cannot be listed.
+/// ends the scan with false, and so does `goOn`, which is asked at every name of the folder. Names that the
+/// program's characters cannot hold are passed over. Throws FileError when the folder cannot be listed to its
+/// end.
 void ScanHeads(std::string_view folder, std::string_view ending, std::size_t most,
-               const std::function<bool(FileHead&&)>& visit);
+               const std::function<bool(FileHead&&)>& visit, const std::function<bool()>& goOn = {});
 
 /// Moves a file to another name on the same volume and never over anything that is there. Both names are
 /// taken to the letter. Throws FileError.

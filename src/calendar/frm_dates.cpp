@@ -173,11 +173,11 @@ void frmDates::lstDates_DblClick(Program& program) {
 
 void frmDates::PickDay(Program& program, int day) {
     ShadedDay = day;
-    ++Picks;
     const std::vector<EventRow>& rows = program.calendar.Rows;
     for (std::size_t row = 0; row < rows.size() && row < lstDates.Items.size(); ++row) {
         if (rows[row].Day == day) {
             lstDates.ListIndex = static_cast<int>(row);
+            ++Picks;
             return;
         }
     }

@@ -16,7 +16,7 @@ public:
     StripLabel lblUndated;        ///< how many proposals have no date that can be read
     StripLabel lblNotice;         ///< what the last command has done
     std::optional<int> ShadedDay; ///< the day that was picked in the month beside the list
-    int Picks = 0;                ///< counts those picks; the front end brings each into view
+    int Picks = 0;                ///< counts the picks that have rows; the front end brings each into view
 
     frmDates();
     [[nodiscard]] std::string_view Name() const override { return "frmDates"; }

@@ -66,11 +66,7 @@ bool Gather(Program& program, Breather& breather, int rebuild, Gathered& found) 
     if (!files::IsFolder(folder)) {
         return breather.GoOn(rebuild); // no folder, no proposal
     }
-    files::ScanHeads(folder, kProposals, kDateBytes, [&](files::FileHead&& head) {
-        whole = breather.GoOn(rebuild);
-        if (!whole) {
-            return false;
-        }
+    const auto take = [&](files::FileHead&& head) {
         // A file too short for a date field has none.
         const bool full = head.Readable && head.Bytes.size() == kDateBytes;
         const std::optional<int> day = full ? reader.Read(head.Bytes) : std::nullopt;
@@ -79,6 +75,11 @@ bool Gather(Program& program, Breather& breather, int rebuild, Gathered& found) 
         found.Days.push_back(day.value_or(0));
         found.Dated.push_back(day.has_value());
         return true;
+    };
+    // Many other files may lie between the proposals.
+    files::ScanHeads(folder, kProposals, kDateBytes, take, [&] {
+        whole = breather.GoOn(rebuild);
+        return whole;
     });
     return whole && breather.GoOn(rebuild);
 }
@@ -217,14 +218,18 @@ void EndRebuild(Program& program) {
 }
 
 bool CanRestore(const Program& program) {
+    const std::string backup = modFolders::BackupFolder(program);
+    if (!files::IsFolder(backup)) {
+        return false;
+    }
     bool any = false;
     try {
-        files::ScanHeads(modFolders::BackupFolder(program), ".hef.old", 0, [&](files::FileHead&&) {
+        files::ScanHeads(backup, ".hef.old", 0, [&](files::FileHead&&) {
             any = true;
             return false;
         });
     } catch (const files::FileError&) {
-        return false; // a folder that is not there, or cannot be looked into, gives nothing back
+        return true; // the command tells what is wrong with the folder
     }
     return any;
 }

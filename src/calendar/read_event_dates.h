@@ -20,7 +20,7 @@ void EndRebuild(Program& program);
 /// The rebuild at start-up: nobody sees its list, only that there is no proposal.
 void ReadEventDatesAtStart(Program& program);
 
-/// Whether there are moved proposals in the backup folder.
+/// Whether there are moved proposals in the backup folder, as far as it can be looked into.
 [[nodiscard]] bool CanRestore(const Program& program);
 
 } // namespace modCalendar

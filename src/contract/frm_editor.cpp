@@ -6,6 +6,7 @@
 #include "contract/contract_lines.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "proposal/side_files.h"
 
 #include <algorithm>
 #include <limits>
@@ -130,6 +131,8 @@ void frmEditor::cmdLines_Click(Program& program) {
         SavedEditorText = txtCharCount.Text();
         numbered_.SetFont(program.platform.measure, txtCharCount.Font());
         LoadLineNumbers();
+        placeBefore_ = SelStart;
+        SelStart = 0;
         ShowingLineCount = true;
         Locked = true;
     } else {
@@ -138,8 +141,8 @@ void frmEditor::cmdLines_Click(Program& program) {
         ShowingLineCount = false;
         Locked = false;
         BackColor = colors::kWhite;
+        SelStart = placeBefore_;
     }
-    SelStart = 0;
     SelLength = 0;
     ++Revision;
     ShowPosition();
@@ -314,6 +317,12 @@ bool frmEditor::MayLeave(Program& program, Leaving) {
                "The Contract Language has not been exported to the proposal. Exit anyway?", Buttons::YesNo,
                "Contract Language has been Changed",
                {.Default = Answer::No, .Lost = "The contract language as it was changed"}) == Answer::Yes;
+}
+
+void frmEditor::KeepUnsaved(Program& program) {
+    if (EditorDirty) {
+        modSideFile::KeepInBackup(program, program.document.BaseName + ".contract.txt", txtCharCount.Text());
+    }
 }
 
 void frmEditor::Form_Cancel(Program& program) {

@@ -48,6 +48,7 @@ public:
     void Form_Load(Program& program) override;
     void Form_Cancel(Program& program) override;
     [[nodiscard]] bool MayLeave(Program& program, Leaving leaving) override;
+    void KeepUnsaved(Program& program) override;
 
     /// The text that shows: the person's, or the one with line numbers, which is not wrapped again.
     [[nodiscard]] const ContractText& Shown() const { return ShowingLineCount ? numbered_ : txtCharCount; }
@@ -87,6 +88,7 @@ private:
     void ShowPosition();
 
     ContractText numbered_;
+    int placeBefore_ = 0; ///< of the caret, before the line numbers came
 };
 
 namespace modContract {

@@ -111,8 +111,10 @@ bool frmNotes::MayLeave(Program& program, Leaving) {
     if (Locked || FootnoteText == FootnoteSavedText) {
         return true;
     }
-    switch (program.platform.questions.MsgBox("The Footnote File has been changed. Do you want to save it?",
-                                              Buttons::YesNoCancel, "Footnotes have been Changed")) {
+    switch (program.platform.questions.MsgBox(
+        "The Footnote File has been changed. Do you want to save it?", Buttons::YesNoCancel,
+        "Footnotes have been Changed",
+        {.Default = Answer::Yes, .Lost = "The footnotes as they were changed"})) {
     case Answer::Yes:
         return SaveFootnoteFile(program);
     case Answer::No:

@@ -151,6 +151,7 @@ void frmDeposits::txtName_Change(Program&, std::string_view text) {
 void frmDeposits::txtDate_Change(Program&, std::string_view text) {
     if (txtDate.Text != text) {
         touched_ = true;
+        notAdded_ = notAdded_ || DepositEditing;
     }
     txtDate.Text = text;
     DepositDateText = text;
@@ -161,7 +162,7 @@ void frmDeposits::txtDate_Change(Program&, std::string_view text) {
 void frmDeposits::txtAmount_Change(Program&, std::string_view text) {
     if (txtAmount.Text != text) {
         touched_ = true;
-        amountTyped_ = true;
+        notAdded_ = true;
     }
     txtAmount.Text = text;
     DepositAmountText = modDeposits::AmountText(text);
@@ -180,8 +181,10 @@ void frmDeposits::txtDate_LostFocus(Program& program) {
     const std::optional<double> day = dates::Recognise(txtDate.Text, ThisYear(program));
     if (day) {
         const bool touched = touched_;
+        const bool notAdded = notAdded_;
         txtDate_Change(program, dates::FormatDate(*day, kDatePattern));
         touched_ = touched; // another writing of the same day
+        notAdded_ = notAdded;
         return;
     }
     program.platform.questions.MsgBox(
@@ -236,7 +239,7 @@ frmDeposits::Added frmDeposits::AddOrReplace(Program& program) {
         modDeposits::MakeRow(DepositDateText, program.settings.CurrencySymbol, DepositAmountText);
     DepositChanged = true;
     touched_ = false;
-    amountTyped_ = false;
+    notAdded_ = false;
     if (!DepositEditing || !editedRow_) {
         lst.Add(std::move(row));
         Recompute(program);
@@ -294,7 +297,7 @@ void frmDeposits::mnuEditItem_Click(Program& program) {
     txtDate_Change(program, modDeposits::DateOf(item));
     txtAmount_Change(program, modDeposits::AmountTextOf(item));
     touched_ = true;
-    amountTyped_ = false; // the list has it still
+    notAdded_ = false; // the list has it still
     txtDate.SelectAll();
     txtAmount.SelLength = 0;
     txtName.SelLength = 0;
@@ -332,11 +335,12 @@ void frmDeposits::mnuOptFormat_Click() {
 }
 
 bool frmDeposits::SettlePendingAmount(Program& program) {
-    if (Locked || !amountTyped_ || txtAmount.Text.empty()) {
+    if (Locked || !notAdded_ || txtAmount.Text.empty()) {
         return true;
     }
-    switch (program.platform.questions.MsgBox("The amount has not been added to the list. Add it?",
-                                              Buttons::YesNoCancel, "")) {
+    switch (program.platform.questions.MsgBox(
+        "The amount has not been added to the list. Add it?", Buttons::YesNoCancel, "",
+        {.Default = Answer::Yes, .Lost = "The amount " + txtAmount.Text})) {
     case Answer::Yes:
         return AddOrReplace(program) == Added::Yes;
     case Answer::No:
@@ -372,9 +376,13 @@ void frmDeposits::PutTotalIntoProposal(Program& program) {
     const float total = DepositTotal;
     const bool ours = settled_ && *settled_ == standing;
     settled_ = total;
-    if (standing != 0 && standing != total && !ours) {
+    const std::string_view written =
+        text::Trim(program.pages[kDepositField.Page].txt[static_cast<std::size_t>(kDepositField.Index)].Text);
+    const bool noFigure = !written.empty() && !numbers::IsNumeric(written, program.settings.CurrencySymbol);
+    if (noFigure || (standing != 0 && standing != total && !ours)) {
         const std::string question =
-            "The deposit in the proposal is " + numbers::FormatSingle(standing, kRowPattern) +
+            "The deposit in the proposal is " +
+            (noFigure ? std::string(written) : numbers::FormatSingle(standing, kRowPattern)) +
             ". Replace it with the list's total, " + modDeposits::Shown(total_) + "?";
         if (program.platform.questions.MsgBox(question, Buttons::YesNo, "", {.Default = Answer::No}) !=
             Answer::Yes) {
@@ -391,8 +399,9 @@ bool frmDeposits::MayLeave(Program& program, Leaving) {
     if (!DepositChanged || Locked) {
         return true;
     }
-    switch (program.platform.questions.MsgBox("The deposit list has changed. Save changes?",
-                                              Buttons::YesNoCancel, "Deposit List Modified")) {
+    switch (program.platform.questions.MsgBox(
+        "The deposit list has changed. Save changes?", Buttons::YesNoCancel, "Deposit List Modified",
+        {.Default = Answer::Yes, .Lost = "The changes of the deposit list"})) {
     case Answer::Yes:
         return SaveDepositInfo(program);
     case Answer::No:
@@ -414,7 +423,7 @@ void frmDeposits::KeepUnsaved(Program& program) {
         return;
     }
     std::vector<std::string> rows = lst.Items;
-    if (amountTyped_ && !DepositAmountText.empty()) {
+    if (notAdded_ && !DepositAmountText.empty()) {
         rows.push_back(
             modDeposits::MakeRow(DepositDateText, program.settings.CurrencySymbol, DepositAmountText));
     }

@@ -93,7 +93,7 @@ private:
     bool fileFollows_ = false;     ///< or its name changed: the file is written though the list is empty
     std::optional<int> editedRow_; ///< the row that mnuEditItem took
     bool touched_ = false;         ///< a field was touched since the last add
-    bool amountTyped_ = false;     ///< and it was the amount
+    bool notAdded_ = false;        ///< an amount was typed, or the row that was taken changed, since then
 };
 
 namespace modDeposits {

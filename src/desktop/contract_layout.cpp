@@ -16,22 +16,49 @@ namespace {
 
 constexpr double kMargin = 4;
 
+QTextOption LineOption() {
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAnywhere);
+    option.setUseDesignMetrics(true);
+    return option;
+}
+
+/// Type comes in whole pixels and letters stand in steps of a 64th of one. What is missing or too much beside
+/// the paper goes between the letters, so that each of them stands where it stands there.
+void Space(QFont& face, const TextFont& font, double pixelsPerTwip) {
+    const QString sample =
+        QStringLiteral("The client agrees to pay the balance of $1,250.00 in full, no later than 10 days "
+                       "before the event; Deposits (1/2) are Quickly just fixed, vexing AND ZERO.");
+    const double paper = QFontMetricsF(paper::Face(font)).horizontalAdvance(sample) * pixelsPerTwip;
+    double percent = 100;
+    for (int round = 0; round < 3; ++round) {
+        QTextLayout layout(sample, face);
+        layout.setTextOption(LineOption());
+        layout.beginLayout();
+        QTextLine line = layout.createLine();
+        line.setNumColumns(static_cast<int>(sample.size()));
+        layout.endLayout();
+        percent *= paper / std::max(1.0, line.naturalTextWidth());
+        face.setLetterSpacing(QFont::PercentageSpacing, percent);
+    }
+}
+
 } // namespace
 
 ContractLayout::ContractLayout(QTextDocument* document) : QAbstractTextDocumentLayout(document) {}
 
 void ContractLayout::SetFont(const TextFont& font, double pixelsPerTwip) {
     QFont face(convert::ToQString(font.Name));
-    // In points of the screen, so that broken sizes stay what they are.
-    face.setPointSizeF(std::max(1.0, static_cast<double>(font.Size)));
+    const double size = std::max(1.0, double(font.Size) * paper::kTwipsPerPoint * pixelsPerTwip);
+    face.setPixelSize(std::max(1, static_cast<int>(std::lround(size))));
     face.setBold(font.Bold);
     face.setItalic(font.Italic);
     face.setKerning(false);
     face.setHintingPreference(QFont::PreferNoHinting);
     face.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferNoShaping | QFont::PreferAntialias));
+    Space(face, font, pixelsPerTwip);
     document()->setDefaultFont(face);
-    lineHeight_ = std::ceil(
-        std::max(QFontMetricsF(face).height(), double(font.Size) * paper::kTwipsPerPoint * pixelsPerTwip));
+    lineHeight_ = std::ceil(std::max(QFontMetricsF(face).height(), size));
     LayOutAll();
 }
 
@@ -45,10 +72,7 @@ void ContractLayout::LayOutAll() {
 
 void ContractLayout::LayOut(QTextBlock block) {
     QTextLayout& layout = *block.layout();
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAnywhere);
-    option.setUseDesignMetrics(true);
-    layout.setTextOption(option);
+    layout.setTextOption(LineOption());
     layout.setFont(document()->defaultFont());
     // The model counts a line end twice, the document once.
     const auto start =

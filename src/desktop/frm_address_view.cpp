@@ -64,10 +64,14 @@ FrmAddressView::FrmAddressView(Program& program, frmAddress& window, QWidget* ov
     stack_->addWidget(book);
     import_ = new ImportPanelView(program_, address_, stack_,
                                   [this](const std::function<void()>& call) { Do([&] { call(); }); });
-    stack_->addWidget(import_);
+    const bool company = program_.addresses.CompanyInfoMode;
+    if (company) {
+        import_->hide(); // nothing is imported there, and the window need not be as wide as its panels
+    } else {
+        stack_->addWidget(import_);
+    }
 
     FrmAddressView::Follow();
-    const bool company = program_.addresses.CompanyInfoMode;
     bar_->setVisible(!company);
     const int letter = fontMetrics().averageCharWidth();
     const QSize wanted(letter * (company ? 70 : 118),

@@ -76,6 +76,7 @@ void FrmDatesView::Build() {
         return dates_.ShadedDay && static_cast<std::size_t>(at) < rows.size() &&
                rows[static_cast<std::size_t>(at)].Day == *dates_.ShadedDay;
     };
+    list_->Rows.Tip = [this](int at) { return list_->Rows.Words(at, 2); };
     const QFontMetrics metrics(list_->font());
     list_->setColumnWidth(0, metrics.horizontalAdvance(QStringLiteral("Wed")) + 24);
     list_->setColumnWidth(1, metrics.horizontalAdvance(QStringLiteral("May/28/2008")) + 24);
@@ -150,9 +151,12 @@ void FrmDatesView::Follow() {
     MarkDays();
     ShowWords(*undated_, dates_.lblUndated);
     ShowWords(*notice_, dates_.lblNotice);
+    if (shaded_ != dates_.ShadedDay) {
+        shaded_ = dates_.ShadedDay;
+        list_->Rows.Repaint();
+    }
     if (picks_ != dates_.Picks) {
         picks_ = dates_.Picks;
-        list_->Rows.Repaint();
         const QModelIndex current = list_->currentIndex();
         if (current.isValid()) {
             list_->scrollTo(current, QAbstractItemView::PositionAtTop);

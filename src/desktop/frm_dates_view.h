@@ -4,6 +4,7 @@
 
 #include <QDate>
 
+#include <optional>
 #include <vector>
 
 class QCalendarWidget;
@@ -34,5 +35,6 @@ private:
     QLabel* undated_ = nullptr;
     QLabel* notice_ = nullptr;
     std::vector<int> days_; ///< with events, as the month shows them
+    std::optional<int> shaded_;
     int picks_ = 0;
 };

@@ -60,6 +60,9 @@ void FrmDepositsView::Build() {
         }
         return convert::ToQString(column == 0 ? item.substr(0, first) : item.substr(item.rfind('\t') + 1));
     };
+    list_->Rows.Tip = [this](int row) {
+        return convert::ToQString(deposits_.lst.Items[static_cast<std::size_t>(row)]).simplified();
+    };
     list_->setColumnWidth(0, 200);
     grid->addWidget(list_, 4, 0, 1, 3);
     grid->setRowStretch(4, 1);

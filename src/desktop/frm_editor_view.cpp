@@ -4,6 +4,7 @@
 #include "desktop/contract_edit.h"
 #include "desktop/convert.h"
 #include "desktop/dialog_parts.h"
+#include "desktop/mnemonics.h"
 #include "desktop/paper_surface.h"
 #include "desktop/window_menu_bar.h"
 #include "program/program.h"
@@ -200,7 +201,7 @@ void FrmEditorView::Follow() {
     if (italic_->isChecked() != editor_.chkItalic.Value) {
         italic_->setChecked(editor_.chkItalic.Value);
     }
-    words(lines_, editor_.cmdLines.Caption);
+    mnemonics::SetCaption(*lines_, convert::ToQString(editor_.cmdLines.Caption));
     words(position_, editor_.lblCharCount.Caption);
     words(notice_, editor_.lblNotice.Caption);
     text_->Follow();

@@ -1,9 +1,12 @@
 #include "desktop/frm_file_view.h"
 
+#include "base/guard.h"
 #include "desktop/convert.h"
+#include "desktop/elided_label.h"
 #include "program/program.h"
 
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QVBoxLayout>
 
 namespace {
@@ -29,6 +32,21 @@ bool Shows(const QListWidget& list, const ListBox& record) {
     return same;
 }
 
+QString At(const std::vector<std::string>& words, std::size_t row) {
+    return row < words.size() ? convert::ToQString(words[row]) : QString();
+}
+
+bool Shows(const QTreeWidget& table, const frmFile& file) {
+    bool same = static_cast<std::size_t>(table.topLevelItemCount()) == file.FileList1.Items.size();
+    for (int row = 0; same && row < table.topLevelItemCount(); ++row) {
+        const auto at = static_cast<std::size_t>(row);
+        const QTreeWidgetItem& item = *table.topLevelItem(row);
+        same = item.text(0) == At(file.FileList1.Items, at) && item.text(1) == At(file.FileDates, at) &&
+               item.text(2) == At(file.FileSizes, at);
+    }
+    return same;
+}
+
 QListWidget* List(QWidget* parent, const char* name, const QString& spoken) {
     auto* list = new ChoiceList(parent);
     list->setObjectName(QLatin1String(name));
@@ -38,6 +56,38 @@ QListWidget* List(QWidget* parent, const char* name, const QString& spoken) {
 }
 
 } // namespace
+
+FileTable::FileTable(QWidget* parent, const char* name, const QString& spoken) : QTreeWidget(parent) {
+    setObjectName(QLatin1String(name));
+    setAccessibleName(spoken);
+    setHeaderLabels({tr("Name"), tr("Changed"), tr("Size")});
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setTabKeyNavigation(false);
+    header()->setSectionsClickable(true);
+    header()->setSortIndicatorShown(true);
+    header()->setStretchLastSection(false);
+    header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    header()->setSectionResizeMode(2, QHeaderView::ResizeToContents);
+    headerItem()->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
+}
+
+void FileTable::Choose(int row) {
+    QTreeWidgetItem* item = topLevelItem(row);
+    setCurrentItem(item);
+    if (item == nullptr) {
+        clearSelection();
+    }
+}
+
+void FileTable::focusInEvent(QFocusEvent* event) {
+    // The table's own handler would choose a row.
+    QAbstractScrollArea::focusInEvent(event); // NOLINT(bugprone-parent-virtual-call)
+    viewport()->update();
+}
 
 FrmFileView::FrmFileView(Program& program, frmFile& window, QWidget* over, std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)), file_(window) {
@@ -55,9 +105,9 @@ void FrmFileView::Build() {
     help->setObjectName(QStringLiteral("lblHelp"));
     help->setWordWrap(true);
     column->addWidget(help);
-    folder_ = new QLabel(this);
+    folder_ = new ElidedLabel(this);
     folder_->setObjectName(QStringLiteral("lblFolder"));
-    folder_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    folder_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     QFont strong = folder_->font();
     strong.setBold(true);
     folder_->setFont(strong);
@@ -73,8 +123,21 @@ void FrmFileView::Build() {
     folders_ = List(this, "Dir1", tr("Folders"));
     left->addWidget(folders_, 1);
     lists->addLayout(left, 2);
-    files_ = List(this, "FileList1", tr("Files"));
-    lists->addWidget(files_, 3);
+    auto* right = new QVBoxLayout;
+    auto* filter = new QHBoxLayout;
+    auto* words = new QLabel(u'&' + convert::ToQString(file_.lblFilter.Caption), this);
+    words->setObjectName(QStringLiteral("lblFilter"));
+    filter->addWidget(words);
+    filter_ = new QLineEdit(this);
+    filter_->setObjectName(QStringLiteral("txtFilter"));
+    filter_->setAccessibleName(convert::ToQString(file_.lblFilter.Caption));
+    filter_->setClearButtonEnabled(true);
+    words->setBuddy(filter_);
+    filter->addWidget(filter_, 1);
+    right->addLayout(filter);
+    files_ = new FileTable(this, "FileList1", tr("Files"));
+    right->addWidget(files_, 1);
+    lists->addLayout(right, 5);
     column->addLayout(lists, 1);
 
     panel_ = new QWidget(this);
@@ -84,10 +147,10 @@ void FrmFileView::Build() {
     point_ = new QLabel(panel_);
     point_->setObjectName(QStringLiteral("lblPointOpen"));
     confirm->addWidget(point_);
-    name_ = new QLabel(panel_);
+    name_ = new ElidedLabel(panel_);
     name_->setObjectName(QStringLiteral("lblOpenFileName"));
     name_->setFont(strong);
-    name_->setTextFormat(Qt::PlainText);
+    name_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     confirm->addWidget(name_, 1);
     back_ = new QPushButton(convert::ToQString(file_.cmdOpenBack.Caption), panel_);
     back_->setObjectName(QStringLiteral("cmdOpenBack"));
@@ -110,7 +173,7 @@ void FrmFileView::Build() {
         button->setAutoDefault(false);
     }
     column->addLayout(row);
-    resize(660, 480);
+    resize(740, 500);
     // Keyboard first where the hand goes first.
     setTabOrder(files_, ok_);
     setTabOrder(ok_, cancel_);
@@ -118,7 +181,8 @@ void FrmFileView::Build() {
     setTabOrder(back_, ignore_);
     setTabOrder(ignore_, drive_);
     setTabOrder(drive_, folders_);
-    setTabOrder(folders_, files_);
+    setTabOrder(folders_, filter_);
+    setTabOrder(filter_, files_);
 }
 
 void FrmFileView::Connect() {
@@ -126,23 +190,7 @@ void FrmFileView::Connect() {
             [this](int index) { Do([&] { file_.Drive1_Change(program_, index); }); });
     connect(folders_, &QListWidget::itemActivated, this,
             [this] { Do([&] { file_.Dir1_Change(program_, folders_->currentRow()); }); });
-    connect(files_, &QListWidget::currentRowChanged, this, [this](int row) {
-        // Rows set from the record are the record's already.
-        if (row >= 0 && row != file_.FileList1.ListIndex) {
-            Do([&] { file_.FileList1_Click(program_, row); });
-        }
-    });
-    connect(files_, &QListWidget::itemClicked, this, [this] {
-        if (!file_.picFileOpen) {
-            Do([&] { file_.FileList1_Click(program_, files_->currentRow()); });
-        }
-    });
-    connect(files_, &QListWidget::itemActivated, this, [this] {
-        Do([&] {
-            file_.FileList1_Click(program_, files_->currentRow());
-            file_.cmdOpenOK_Click(program_);
-        });
-    });
+    ConnectFiles();
     connect(ok_, &QPushButton::clicked, this, [this] { Do([&] { file_.cmdOpenOK_Click(program_); }); });
     connect(back_, &QPushButton::clicked, this, [this] { Do([&] { file_.cmdOpenBack_Click(program_); }); });
     connect(cancel_, &QPushButton::clicked, this,
@@ -150,15 +198,64 @@ void FrmFileView::Connect() {
     connect(ignore_, &QCheckBox::clicked, this, [this] { Do([&] { file_.chkProp_Click(program_); }); });
 }
 
-void FrmFileView::FollowList(QListWidget& list, const ListBox& record) {
-    if (!Shows(list, record)) {
-        list.clear();
-        for (const std::string& item : record.Items) {
-            list.addItem(convert::ToQString(item));
+void FrmFileView::ConnectFiles() {
+    connect(files_, &QTreeWidget::currentItemChanged, this, [this] {
+        // Rows set from the record are the record's already.
+        const int row = files_->CurrentRow();
+        if (!following_ && row >= 0 && row != file_.FileList1.ListIndex) {
+            Do([&] { file_.FileList1_Click(program_, row); });
+        }
+    });
+    connect(files_, &QTreeWidget::itemClicked, this, [this] {
+        if (!file_.picFileOpen) {
+            Do([&] { file_.FileList1_Click(program_, files_->CurrentRow()); });
+        }
+    });
+    connect(files_, &QTreeWidget::itemActivated, this, [this] {
+        Do([&] {
+            file_.FileList1_Click(program_, files_->CurrentRow());
+            file_.cmdOpenOK_Click(program_);
+        });
+    });
+    connect(files_->header(), &QHeaderView::sectionClicked, this, [this](int column) {
+        Do([&] { file_.FileList1_ColumnClick(program_, static_cast<FileColumn>(column)); });
+    });
+    connect(filter_, &QLineEdit::textEdited, this, [this](const QString& text) {
+        Do([&] { file_.txtFilter_Change(program_, convert::FromPerson(text).Text); });
+    });
+}
+
+void FrmFileView::FollowFolders() {
+    if (!Shows(*folders_, file_.Dir1)) {
+        folders_->clear();
+        for (const std::string& item : file_.Dir1.Items) {
+            folders_->addItem(convert::ToQString(item));
         }
     }
-    if (list.currentRow() != record.ListIndex) {
-        list.setCurrentRow(record.ListIndex);
+    if (folders_->currentRow() != file_.Dir1.ListIndex) {
+        folders_->setCurrentRow(file_.Dir1.ListIndex);
+    }
+}
+
+void FrmFileView::FollowFiles() {
+    const ScopedFlag following(following_);
+    if (!Shows(*files_, file_)) {
+        files_->clear();
+        for (std::size_t row = 0; row < file_.FileList1.Items.size(); ++row) {
+            auto* item = new QTreeWidgetItem(
+                files_, {At(file_.FileList1.Items, row), At(file_.FileDates, row), At(file_.FileSizes, row)});
+            item->setTextAlignment(2, Qt::AlignRight | Qt::AlignVCenter);
+            item->setToolTip(0, At(file_.FileList1.Items, row));
+        }
+    }
+    files_->header()->setSortIndicator(static_cast<int>(file_.SortedBy),
+                                       file_.Backwards ? Qt::DescendingOrder : Qt::AscendingOrder);
+    if (files_->CurrentRow() != file_.FileList1.ListIndex) {
+        files_->Choose(file_.FileList1.ListIndex);
+    }
+    const QString filter = convert::ToQString(file_.txtFilter.Text);
+    if (filter_->text() != filter) {
+        filter_->setText(filter);
     }
 }
 
@@ -179,9 +276,9 @@ void FrmFileView::Follow() {
     }
     // While nothing has changed the folder under the person's keys stays marked.
     if (moved || !Shows(*folders_, file_.Dir1)) {
-        FollowList(*folders_, file_.Dir1);
+        FollowFolders();
     }
-    FollowList(*files_, file_.FileList1);
+    FollowFiles();
     point_->setText(convert::ToQString(file_.lblPointOpen.Caption));
     name_->setText(convert::ToQString(file_.lblOpenFileName.Caption));
     panel_->setEnabled(file_.picFileOpen);

@@ -6,8 +6,23 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QTreeWidget>
+
+/// Files in rows of name, date and size. A click on a column's head sorts by it. The keyboard's coming
+/// chooses nothing; the first arrow key does.
+class FileTable : public QTreeWidget {
+    Q_OBJECT
+public:
+    FileTable(QWidget* parent, const char* name, const QString& spoken);
+    [[nodiscard]] int CurrentRow() const { return indexOfTopLevelItem(currentItem()); }
+    void Choose(int row);
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+};
 
 /// The file chooser: places and folders at the left, files at the right, the confirm panel below.
 class FrmFileView : public WindowView {
@@ -19,12 +34,16 @@ public:
 private:
     void Build();
     void Connect();
-    void FollowList(QListWidget& list, const ListBox& record);
+    void ConnectFiles();
+    void FollowFolders();
+    void FollowFiles();
 
     frmFile& file_;
+    bool following_ = false;
     QComboBox* drive_ = nullptr;
     QListWidget* folders_ = nullptr;
-    QListWidget* files_ = nullptr;
+    FileTable* files_ = nullptr;
+    QLineEdit* filter_ = nullptr;
     QLabel* folder_ = nullptr;
     QLabel* name_ = nullptr;
     QLabel* point_ = nullptr;

@@ -2,6 +2,7 @@
 
 #include "base/guard.h"
 #include "desktop/convert.h"
+#include "desktop/mnemonics.h"
 #include "desktop/paper_surface.h"
 #include "desktop/term_drag.h"
 #include "program/program.h"
@@ -382,14 +383,16 @@ void FrmFutView::FollowMoreLists() {
 
 void FrmFutView::FollowButtons() {
     for (std::size_t index = 0; index < options_.size(); ++index) {
-        options_[index]->setText(convert::ToQString(model_.cmdOpt[index].Caption));
+        mnemonics::SetCaption(*options_[index], convert::ToQString(model_.cmdOpt[index].Caption));
         options_[index]->setEnabled(model_.cmdOpt[index].Enabled);
     }
     for (std::size_t index = 0; index < cases_.size(); ++index) {
-        cases_[index]->setText(convert::ToQString(model_.cmdCase[index].Caption));
+        mnemonics::SetCaption(*cases_[index], convert::ToQString(model_.cmdCase[index].Caption));
         cases_[index]->setEnabled(model_.cmdCase[index].Enabled);
     }
     default_->setEnabled(model_.mnuFileDefaultFUT.Enabled);
+    const auto* main = qobject_cast<const QMainWindow*>(parentWidget());
+    mnemonics::Give(*content_, main == nullptr ? QString() : mnemonics::LettersOf(*main->menuBar()));
 }
 
 void FrmFutView::Follow() {

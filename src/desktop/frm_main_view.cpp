@@ -1,6 +1,7 @@
 #include "desktop/frm_main_view.h"
 
 #include "base/guard.h"
+#include "desktop/activity_watch.h"
 #include "desktop/convert.h"
 #include "desktop/elided_label.h"
 #include "desktop/icons.h"
@@ -9,6 +10,7 @@
 #include "desktop/tool_strip.h"
 #include "desktop/window_views.h"
 #include "editing/text_menu.h"
+#include "output/preview.h"
 #include "pages/fields.h"
 #include "program/program.h"
 #include "program/windows.h"
@@ -28,6 +30,7 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QScreen>
+#include <QShortcut>
 #include <QStatusTipEvent>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -97,6 +100,13 @@ FrmMainView::FrmMainView(Program& program, const QtTextMeasure& measure)
             AfterEvent();
         });
     BuildStrips();
+    BuildKeys();
+    since_.start();
+    Now = [this] { return since_.elapsed(); };
+    new ActivityWatch(this, [this] {
+        notices_.Activity(Now());
+        FollowNotice();
+    });
     windows_ = std::make_unique<WindowViews>(program_, *this, [this] { AfterEvent(); });
     setMinimumSize(640, 400); // fits the smallest screen; the page scrolls
 }
@@ -176,16 +186,40 @@ void FrmMainView::BuildStrips() {
     setCentralWidget(whole);
 
     desk_->Resized = [this] { Resized(); };
-    desk_->Wheel = [this](QWheelEvent* event) {
-        const bool sideways = qAbs(event->angleDelta().x()) > qAbs(event->angleDelta().y());
-        QCoreApplication::sendEvent(sideways ? across_ : scroll_, event);
-    };
+    desk_->Wheel = [this](QWheelEvent* event) { TurnWheel(event); };
+    scroll_->installEventFilter(this);
     connect(across_, &QScrollBar::valueChanged, this, [this] { Follow(); });
     // Only what a person does to the bar counts; positions set from the record do not come back.
     connect(scroll_, &QScrollBar::actionTriggered, this, [this] {
         modScroll::SetScroll(program_, scroll_->sliderPosition());
         AfterEvent();
     });
+}
+
+void FrmMainView::BuildKeys() {
+    const auto key = [this](const QKeySequence& keys, std::function<void()> act) {
+        auto* shortcut = new QShortcut(keys, this);
+        connect(shortcut, &QShortcut::activated, this, [this, act = std::move(act)] {
+            act();
+            AfterEvent();
+        });
+        return shortcut;
+    };
+    key(Qt::Key_F1, [this] { commands::Run(program_, CommandId::mnuHelpContents); });
+    key(Qt::Key_F10, [this] { menuBar()->setActiveAction(menuBar()->actions().constFirst()); });
+    // The menu's entry of that key is off while a preview is up, so that the key is free to end it.
+    const auto resume = [this] { frmMain(program_).cmdPreview_Click(); };
+    endPreview_ = {key(Qt::Key_Escape, resume), key(QKeySequence(QStringLiteral("Ctrl+R")), resume)};
+}
+
+void FrmMainView::TurnWheel(QWheelEvent* event) {
+    event->accept();
+    if (qAbs(event->angleDelta().x()) > qAbs(event->angleDelta().y())) {
+        QCoreApplication::sendEvent(across_, event);
+        return;
+    }
+    modScroll::Wheel(program_, event->angleDelta().y());
+    AfterEvent();
 }
 
 void FrmMainView::KeepPlace() {
@@ -218,6 +252,9 @@ bool FrmMainView::eventFilter(QObject* watched, QEvent* event) {
     if (watched == folder_ && event->type() == QEvent::Enter) {
         frmMain(program_).lblDir_MouseMove();
         AfterEvent();
+    } else if (watched == scroll_ && event->type() == QEvent::Wheel) {
+        TurnWheel(static_cast<QWheelEvent*>(event)); // the bar's own step is half a window
+        return true;
     } else if (watched == area_ && event->type() == QEvent::MouseButtonDblClick) {
         frmMain(program_).lblTextNum_DblClick();
         AfterEvent();
@@ -332,6 +369,9 @@ void FrmMainView::Follow() {
             ShowFirst();
         }
     }
+    for (QShortcut* key : endPreview_) {
+        key->setEnabled(modPrint::PreviewStands(program_));
+    }
     windows_->Follow();
     if (program_.main.BringUp) {
         program_.main.BringUp = false;
@@ -375,7 +415,12 @@ void FrmMainView::FollowLabels() {
             shown.Widget->setPalette(palette);
         }
     }
-    const QString notice = convert::ToQString(program_.main.Notice);
+    notices_.Follow(program_, Now());
+    FollowNotice();
+}
+
+void FrmMainView::FollowNotice() {
+    const QString notice = convert::ToQString(notices_.Text());
     if (notice_->text() != notice) {
         notice_->setText(notice);
     }
@@ -392,9 +437,10 @@ int FrmMainView::PaperLeft(PageId front, int paperWidth) {
     across_->setSingleStep(kAcrossStep);
     // A narrow desk shows the side on which the field with the keyboard lies, until a person moves it.
     const std::optional<FieldRef>& focus = program_.main.Focus;
-    if (across_->isHidden() || focus != sideShownFor_) {
+    if (across_->isHidden() || focus != sideShownFor_ || desk_->width() != sideShownOn_) {
         across_->show();
         sideShownFor_ = focus;
+        sideShownOn_ = desk_->width();
         int right = 0;
         if (focus && focus->Page == front) {
             constexpr int kBeside = 12;
@@ -491,7 +537,7 @@ bool FrmMainView::event(QEvent* event) {
     if (event->type() == QEvent::StatusTip) {
         // What a menu entry has to say stands where the program's own notices stand.
         const QString tip = static_cast<QStatusTipEvent*>(event)->tip();
-        notice_->setText(tip.isEmpty() ? convert::ToQString(program_.main.Notice) : tip);
+        notice_->setText(tip.isEmpty() ? convert::ToQString(notices_.Text()) : tip);
         return true;
     }
     return QMainWindow::event(event);

@@ -2,7 +2,9 @@
 
 #include "desktop/menus.h"
 #include "program/page_records.h"
+#include "shell/notice_strip.h"
 
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QMainWindow>
 #include <QScrollBar>
@@ -14,6 +16,7 @@
 #include <vector>
 
 class PageView;
+class QShortcut;
 class QtTextMeasure;
 class ToolStrip;
 class WindowViews;
@@ -58,6 +61,8 @@ public:
     [[nodiscard]] Menus& MenuTree() { return *menus_; }
     /// Device-independent pixels to the twip.
     [[nodiscard]] double PixelsPerTwip() const;
+    /// Milliseconds since the window was made; a test sets its own clock.
+    std::function<qint64()> Now;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -69,6 +74,10 @@ protected:
 
 private:
     void BuildStrips();
+    /// Keys that work wherever the keyboard is in the window: help, menu bar, and the ends of a preview.
+    void BuildKeys();
+    void FollowNotice();
+    void TurnWheel(QWheelEvent* event);
     void Resized();
     void ResizeSoon();
     void ResizeModel();
@@ -89,6 +98,7 @@ private:
     QScrollBar* scroll_ = nullptr;
     QScrollBar* across_ = nullptr; ///< shows while the page is wider than the desk
     std::optional<FieldRef> sideShownFor_;
+    int sideShownOn_ = 0; ///< the desk's width then
     int placedFor_ = 0; ///< the desk's width for which the paper was placed last
     struct Shown {
         QLabel* Widget;
@@ -96,6 +106,9 @@ private:
     };
     std::vector<Shown> labels_;
     QLabel* notice_ = nullptr;
+    NoticeStrip notices_;
+    QElapsedTimer since_;
+    std::array<QShortcut*, 2> endPreview_{}; ///< only while one is up
     QLabel* folder_ = nullptr;
     QLabel* area_ = nullptr;
     std::array<PageView*, kPageCount> pages_{};

@@ -1,6 +1,7 @@
 #include "desktop/import_panel_view.h"
 
 #include "desktop/convert.h"
+#include "desktop/mnemonics.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -132,7 +133,7 @@ void ImportPanelView::Follow() {
     for (std::size_t index = 0; index < categories_.size(); ++index) {
         QPushButton& category = *categories_[index];
         const StripLabel& record = address_.lblFormat[index];
-        category.setText(convert::ToQString(record.Caption));
+        mnemonics::SetCaption(category, convert::ToQString(record.Caption));
         category.setChecked(record.BackColor == colors::kFocused);
         const QString sheet =
             QStringLiteral("QPushButton { background: %1; color: black; border: 1px solid #606060; "
@@ -145,7 +146,7 @@ void ImportPanelView::Follow() {
     }
     for (std::size_t index = 0; index < types_.size(); ++index) {
         QRadioButton& option = *types_[index];
-        option.setText(convert::ToQString(address_.optList[index].Caption));
+        mnemonics::SetCaption(option, convert::ToQString(address_.optList[index].Caption));
         option.setToolTip(convert::ToQString(address_.optListTip[index]));
         if (option.isChecked() != address_.optList[index].Value) {
             option.setChecked(address_.optList[index].Value);

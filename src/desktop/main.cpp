@@ -6,6 +6,7 @@
 #include "desktop/qt_platform.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/saved_notice.h"
 #include "shell/closing.h"
 #include "shell/start_up.h"
 #include "shell/wiring.h"
@@ -18,6 +19,7 @@
 #include <QApplication>
 
 #include <exception>
+#include <string>
 
 namespace {
 
@@ -34,6 +36,7 @@ int Run() {
     FrmMainView window(program, surroundings.measure);
     surroundings.questions.Over = &window;
     surroundings.questions.BeforeAsking = [&] { window.Follow(); };
+    surroundings.printers.Written = [&](const std::string& path) { TellSaved(program, "PDF", path); };
     surroundings.words.MakeSpelling = [&] { return modSpelling::MakeService(program); };
     surroundings.events.Follow = [&] { window.Follow(); };
     const EndSignals endings([&] { modClosing::Interrupted(program); },

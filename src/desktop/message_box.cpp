@@ -1,5 +1,7 @@
 #include "desktop/message_box.h"
 
+#include "desktop/mnemonics.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
@@ -42,6 +44,7 @@ void MessageBox::KeepLines() {
 
 void MessageBox::showEvent(QShowEvent* event) {
     KeepLines();
+    mnemonics::Give(*this);
     stands_.start();
     QMessageBox::showEvent(event);
 }

@@ -144,11 +144,27 @@ QImage LogoPicture(const std::string& path) {
 
 void DrawLogo(QPainter& painter, const std::string& path, const QRectF& place) {
     const QSize device = painter.deviceTransform().mapRect(place).size().toSize();
-    const QImage picture = ReadLogo(path, MadeOfLines(path) ? device : QSize());
-    if (!picture.isNull()) {
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.drawImage(place, picture);
+    const bool lines = MadeOfLines(path);
+    QImage picture = lines ? ReadLogo(path, device) : QImage();
+    if (picture.isNull()) {
+        picture = LogoPicture(path);
     }
+    if (picture.isNull()) {
+        return;
+    }
+    // A screen takes one point in several of a picture that is drawn much smaller; shrunk first, none is
+    // lost.
+    const bool onScreen =
+        painter.paintEngine() != nullptr && painter.paintEngine()->type() == QPaintEngine::Raster;
+    if (!lines && onScreen && !device.isEmpty() && picture.width() >= 2 * device.width()) {
+        const QImage shrunk = ReadLogo(path, device);
+        picture = shrunk.isNull() ? picture : shrunk;
+    }
+    constexpr qint64 kMostWithoutLoss = 4'000'000; // points; more would make a file of many megabytes
+    const bool few = qint64{picture.width()} * picture.height() <= kMostWithoutLoss;
+    painter.setRenderHint(QPainter::LosslessImageRendering, lines || few);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(place, picture);
 }
 
 } // namespace paper
@@ -161,13 +177,17 @@ void PaperRecord::Replay(QPainter& painter) const {
         painter.setPen(convert::ToQColor(text.Ink));
         paper::Draw(painter, text.Corner, text.Words, text.Font, text.Underline);
     }
-    for (const Rule& rule : Rules) {
-        if (!CanBeDrawn(rule.Line.p1()) || !CanBeDrawn(rule.Line.p2())) {
-            continue;
+    auto rule = Rules.begin();
+    const auto drawRules = [&](std::size_t logosBelow) {
+        for (; rule != Rules.end() && rule->Logos <= logosBelow; ++rule) {
+            if (CanBeDrawn(rule->Line.p1()) && CanBeDrawn(rule->Line.p2())) {
+                painter.setPen(QPen(convert::ToQColor(rule->Ink), paper::kRuleWidth));
+                painter.drawLine(rule->Line);
+            }
         }
-        painter.setPen(QPen(convert::ToQColor(rule.Ink), paper::kRuleWidth));
-        painter.drawLine(rule.Line);
-    }
+    };
+    std::size_t logos = 0;
+    drawRules(logos);
     for (const Image& image : Images) {
         if (!CanBeDrawn(image.Corner)) {
             continue;
@@ -182,7 +202,9 @@ void PaperRecord::Replay(QPainter& painter) const {
                 ? QSizeF(static_cast<double>(image.Size->Width), static_cast<double>(image.Size->Height))
                 : QSizeF(paper::LogoPicture(image.Picture.Path).size()) * kTwipsPerPixel;
         paper::DrawLogo(painter, image.Picture.Path, QRectF(image.Corner, size));
+        drawRules(++logos);
     }
+    drawRules(Rules.size());
 }
 
 QPointF PaperSurface::OnPaper(float x, float y) const {
@@ -207,10 +229,11 @@ void PaperSurface::Print(std::string_view text) {
 }
 
 void PaperSurface::Line(float x1, float y1, float x2, float y2) {
-    Record.Rules.push_back({QLineF(OnPaper(x1, y1), OnPaper(x2, y2)), ForeColor});
+    Record.Rules.push_back({QLineF(OnPaper(x1, y1), OnPaper(x2, y2)), ForeColor, logos_});
 }
 
 void PaperSurface::PaintPicture(const PictureRef& picture, float x, float y,
                                 std::optional<PictureSize> size) {
+    logos_ += picture.From == PictureRef::Source::File ? 1 : 0;
     Record.Images.push_back({picture, OnPaper(x, y), size});
 }

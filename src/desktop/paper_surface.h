@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QPainter>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,7 @@ public:
     struct Rule {
         QLineF Line;
         Color Ink = 0;
+        std::size_t Logos = 0; ///< so many lie below it: a border lies over its picture
     };
     struct Image {
         PictureRef Picture;
@@ -43,7 +45,10 @@ public:
     explicit PaperSurface(const TextMeasure& measure) : measure_(measure) {}
     PaperRecord Record;
 
-    void Cls() override { Record = {}; }
+    void Cls() override {
+        Record = {};
+        logos_ = 0;
+    }
     [[nodiscard]] float TextWidth(std::string_view text) const override;
     [[nodiscard]] float TextHeight() const override;
     void Print(std::string_view text) override;
@@ -54,6 +59,7 @@ private:
     [[nodiscard]] TextFont Now() const { return {Font, FontSize, FontBold, FontItalic}; }
     [[nodiscard]] QPointF OnPaper(float x, float y) const;
     const TextMeasure& measure_;
+    std::size_t logos_ = 0;
 };
 
 namespace paper {
@@ -69,7 +75,8 @@ void DrawNoTaxMark(QPainter& painter, QPointF corner, double side);
 /// no picture, is cut short, or has more than a hundred million points.
 [[nodiscard]] QImage LogoPicture(const std::string& path);
 
-/// Draws it into that place; one that is made of lines as sharp as the device can.
+/// Draws it into that place; one that is made of lines as sharp as the device can. A file takes its points
+/// without loss, but for those of a photograph.
 void DrawLogo(QPainter& painter, const std::string& path, const QRectF& place);
 
 } // namespace paper

@@ -3,6 +3,7 @@
 #include "base/ansi.h"
 #include "base/files.h"
 #include "desktop/convert.h"
+#include "desktop/message_box.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -57,8 +58,11 @@ public:
 private:
     [[nodiscard]] bool MayBeReplaced(const QString& name) {
         const QString question = QObject::tr("%1 already exists.\nDo you want to replace it?").arg(name);
-        return QMessageBox::warning(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
-                                    QMessageBox::No) == QMessageBox::Yes;
+        MessageBox box(QMessageBox::Warning, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
+                       this, MessageBox::Came::OnRequest);
+        box.setDefaultButton(QMessageBox::No);
+        box.setEscapeButton(QMessageBox::No);
+        return box.exec() == QMessageBox::Yes;
     }
 };
 
@@ -217,6 +221,9 @@ void QtPrinters::EndCommand() {
             QFile::remove(file_); // half a PDF looks like a proposal and cannot be opened
         }
         throw;
+    }
+    if (Written) {
+        Written(*path);
     }
 }
 

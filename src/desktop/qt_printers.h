@@ -6,6 +6,7 @@
 #include <QString>
 
 #include <functional>
+#include <string>
 #include <vector>
 
 /// The system's printers and "Print to PDF", which is always there and stands last.
@@ -23,6 +24,8 @@ public:
 
     /// Asks for the file of "Print to PDF"; empty when the person gives none.
     std::function<QString(const QString& suggested)> AskForFile;
+    /// Hears the path of every PDF that was written.
+    std::function<void(const std::string& path)> Written;
 
     /// The documents as one PDF, in memory: letter pages, one unit to the twip, selectable text.
     [[nodiscard]] static QByteArray MakePdf(const std::vector<const PaperRecord*>& pages,

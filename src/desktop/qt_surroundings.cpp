@@ -5,6 +5,7 @@
 #include "base/paths.h"
 #include "desktop/convert.h"
 #include "desktop/message_box.h"
+#include "desktop/mnemonics.h"
 #include "desktop/paper_surface.h"
 
 #include <QApplication>
@@ -94,12 +95,16 @@ constexpr int kInputWidth = 420;
 
 /// As wide as the longest line of a text, where that is neither narrow nor wider than a page is read.
 int WidthOf(const QLabel& label, const QString& text) {
-    constexpr int kWidest = 640;
+    constexpr int kWidestToRead = 640;
+    constexpr int kBeside = 60; // margins and frame
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const int widestHere =
+        screen == nullptr ? kWidestToRead : qMin(kWidestToRead, screen->availableSize().width() - kBeside);
     int widest = 0;
     for (const QString& line : text.split(u'\n')) {
         widest = qMax(widest, label.fontMetrics().horizontalAdvance(line));
     }
-    return qBound(kInputWidth - 40, widest, kWidest);
+    return qMin(qMax(kInputWidth - 40, widest), widestHere);
 }
 
 /// A lock file that names nobody is left from a crash in the middle of its writing, or from a full disk; the
@@ -199,6 +204,7 @@ std::string QtQuestions::InputBox(std::string_view prompt, std::string_view titl
                 dialog.setTextValue(convert::ToQString(incoming.Text));
             }
         });
+    mnemonics::Give(dialog);
     dialog.resize(qMax(kInputWidth, dialog.sizeHint().width()), dialog.sizeHint().height());
     return dialog.exec() == QDialog::Accepted ? convert::ToModel(dialog.textValue()) : std::string();
 }

@@ -33,6 +33,8 @@ QVariant RowModel::data(const QModelIndex& index, int role) const {
     switch (role) {
     case Qt::DisplayRole:
         return Words ? QVariant(Words(index.row(), index.column())) : QVariant();
+    case Qt::ToolTipRole:
+        return Tip ? QVariant(Tip(index.row())) : QVariant();
     case Qt::BackgroundRole:
         if (Shaded && Shaded(index.row())) {
             return QColor(120, 160, 220, 70);

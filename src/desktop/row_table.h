@@ -17,6 +17,8 @@ public:
     /// The words of a row in each column; asked only for the rows that are on the screen.
     std::function<QString(int row, int column)> Words;
     std::function<bool(int row)> Shaded;
+    /// What a column may have no room for.
+    std::function<QString(int row)> Tip;
     int Columns = 1;
     int RightColumn = -1; ///< figures stand at the right
 

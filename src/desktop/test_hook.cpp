@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QLocalSocket>
+#include <QMenu>
+#include <QMenuBar>
 #include <QVariant>
 #include <QWidget>
 
@@ -33,9 +35,32 @@ QWidget* Named(const QString& name) {
     return nullptr;
 }
 
-QString Place(const QWidget& widget) {
-    const QRect there(widget.mapToGlobal(QPoint(0, 0)), widget.size());
+QString Place(const QWidget& widget, const QRect& part) {
+    const QRect there(widget.mapToGlobal(part.topLeft()), part.size());
     return QStringLiteral("%1 %2 %3 %4").arg(there.x()).arg(there.y()).arg(there.width()).arg(there.height());
+}
+
+QString Place(const QWidget& widget) {
+    return Place(widget, widget.rect());
+}
+
+/// The place of an entry of a menu that is open, or of the menu bar.
+template <typename Menu> QString EntryOf(const Menu& menu, const QString& name) {
+    for (QAction* entry : menu.actions()) {
+        if (entry->objectName() == name && entry->isVisible()) {
+            return Place(menu, menu.actionGeometry(entry));
+        }
+    }
+    return {};
+}
+
+QString Entry(const QString& name) {
+    QWidget* front = InFront();
+    if (const auto* menu = qobject_cast<QMenu*>(front)) {
+        return EntryOf(*menu, name);
+    }
+    const auto* bar = front == nullptr ? nullptr : front->findChild<QMenuBar*>();
+    return bar == nullptr ? QString() : EntryOf(*bar, name);
 }
 
 } // namespace
@@ -88,7 +113,7 @@ QString TestHook::AnswerTo(const QString& question) {
     }
     const QWidget* widget = Named(name);
     if (widget == nullptr) {
-        return {};
+        return verb == QLatin1String("where") ? Entry(name) : QString();
     }
     // An answer is one line.
     return verb == QLatin1String("where") ? Place(*widget)

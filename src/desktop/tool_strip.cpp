@@ -14,6 +14,8 @@
 #include <QStyle>
 #include <QStyleOption>
 
+#include <initializer_list>
+
 namespace {
 
 QColor Mixed(const QColor& one, const QColor& other, float share) {
@@ -40,6 +42,18 @@ void PaintFrame(QPainter& painter, const QAbstractButton& button, modToolButtons
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(frame, 4, 4);
     }
+}
+
+/// Wide enough for either caption, so that nothing beside it moves.
+void KeepWidth(QPushButton& button, std::initializer_list<QString> captions) {
+    const QString shown = button.text();
+    int widest = 0;
+    for (const QString& caption : captions) {
+        button.setText(caption);
+        widest = qMax(widest, button.sizeHint().width());
+    }
+    button.setText(shown);
+    button.setMinimumWidth(widest);
 }
 
 bool ChangesLook(QEvent::Type type) {
@@ -197,8 +211,9 @@ ToolStrip::ToolStrip(Program& program, std::function<void()> afterEvent, QWidget
     commands->setSpacing(1);
     buttonsAt_ = row->count();
     row->addWidget(buttons_);
-    AddCommand(QStringLiteral("cmdPreview"), main.cmdPreview,
-               [this] { frmMain(program_).cmdPreview_Click(); });
+    QPushButton* preview = AddCommand(QStringLiteral("cmdPreview"), main.cmdPreview,
+                                      [this] { frmMain(program_).cmdPreview_Click(); });
+    KeepWidth(*preview, {tr("Print Preview"), tr("Resume Editing")});
     AddCommand(QStringLiteral("cmdReCalc"), main.cmdReCalc, [this] { frmMain(program_).cmdReCalc_Click(); });
     AddCommand(QStringLiteral("cmdTaxRate"), main.cmdTaxRate,
                [this] { frmMain(program_).cmdTaxRate_Click(); });

@@ -1,10 +1,14 @@
 #include "desktop/window_views.h"
 
 #include "desktop/convert.h"
+#include "desktop/mnemonics.h"
 #include "desktop/paper_surface.h"
 #include "program/program.h"
 
+#include <QApplication>
 #include <QEvent>
+#include <QMainWindow>
+#include <QMenuBar>
 #include <QScreen>
 
 #include <algorithm>
@@ -130,13 +134,17 @@ void WindowViews::Follow() {
         // Its own button may still be on the stack.
         WindowView* view = at->second.release();
         leaving_[at->first] = view;
+        const QPointer<QWidget> opener = openers_[at->first];
+        openers_.erase(at->first);
         at = views_.erase(at);
         const bool active = view->HasKeyboard();
         view->Leave();
         view->deleteLater();
         if (active) {
-            over_.activateWindow(); // the keyboard goes back to the page, also where no window manager sees
-                                    // to it
+            // The keyboard goes back to where the window was opened from, also where no window manager sees
+            // to it.
+            QWidget& back = opener != nullptr && opener->isVisible() ? *opener : over_;
+            back.activateWindow();
         }
     }
     for (const std::unique_ptr<Window>& window : open) {
@@ -146,9 +154,14 @@ void WindowViews::Follow() {
         auto& view = views_[window.get()];
         const bool fresh = view == nullptr;
         if (fresh) {
+            openers_[window.get()] = QApplication::activeWindow();
             view = MakeWindowView(program_, *window, &over_, afterEvent_);
         }
         view->Follow();
+        // A window that stands beside the page, or within the main window, leaves the menu bar its letters.
+        const auto* main = qobject_cast<QMainWindow*>(&over_);
+        mnemonics::Give(*view, view->isModal() || main == nullptr ? QString()
+                                                                  : mnemonics::LettersOf(*main->menuBar()));
         if (fresh) {
             view->Open();
         }

@@ -69,6 +69,7 @@ private:
     QWidget& over_;
     std::function<void()> afterEvent_;
     std::map<Window*, std::unique_ptr<WindowView>> views_;
+    std::map<const Window*, QPointer<QWidget>> openers_; ///< what had the keyboard when a window came
     /// Hidden, and gone as soon as no event of theirs is on its way.
     std::map<Window*, QPointer<WindowView>> leaving_;
 };

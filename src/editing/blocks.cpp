@@ -11,6 +11,8 @@
 #include "program/errors.h"
 #include "program/program.h"
 
+#include <string>
+
 namespace modBlocks {
 
 namespace {
@@ -100,6 +102,16 @@ bool AnyText(const Program& program, const PasteTarget& target) {
     return false;
 }
 
+/// "Page 2, lines 3 to 6"
+std::string PlaceOf(const PasteTarget& target) {
+    const int first = target.First - RowsOf(target.Page).First + 1;
+    const int last = target.Last - RowsOf(target.Page).First + 1;
+    const std::string lines = first == last
+                                  ? ", line " + std::to_string(first)
+                                  : ", lines " + std::to_string(first) + " to " + std::to_string(last);
+    return "The texts of " + std::string(geometry::PageCaption(target.Page)) + lines;
+}
+
 bool MayWrite(Program& program, const PasteTarget& target) {
     if (target.Last > RowsOf(target.Page).Last || target.LastAmount > geometry::LastText(target.Page)) {
         Tell(program, "Cannot paste here. Out of space.");
@@ -110,7 +122,7 @@ bool MayWrite(Program& program, const PasteTarget& target) {
     }
     const Answer answer = program.platform.questions.MsgBox(
         "Text is present in destination areas. Over-write this text with that in memory?", Buttons::YesNo,
-        "Text areas are not all empty.", {.Default = Answer::No});
+        "Text areas are not all empty.", {.Default = Answer::No, .Lost = PlaceOf(target)});
     if (answer != Answer::Yes) {
         Tell(program, "Action Cancelled.");
         return false;

@@ -4,6 +4,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "editing/area_contents.h"
+#include "editing/backup_counter.h"
 #include "editing/navigation.h"
 #include "money/amounts.h"
 #include "pages/fields.h"
@@ -177,6 +178,7 @@ Taken Box_KeyDown(Program& program, const FieldRef& field, int keyCode, int shif
     if (program.editing.BlockMode || program.guards.HandlersSilent()) {
         return Taken::No;
     }
+    modBackup::CountTowardsBackup(program, field.Page, field.Index);
     const int last = static_cast<int>(program.pages[field.Page].txtQty.size()) - 1;
     if (keyCode == keys::kTab && shift == keys::kShiftState) {
         modNavigate::MoveBack(program, field);

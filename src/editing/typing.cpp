@@ -21,6 +21,7 @@
 #include "pages/titles.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "proposal/file_names.h"
 
 #include <limits>
 #include <string>
@@ -69,19 +70,7 @@ void TakeEditingState(Program& program, PageId page, int index) {
 
 /// The client's name makes the proposal's, as long as it has no file.
 void TakeClientName(Program& program) {
-    // Blanks around a name cannot be seen in a list of files.
-    const std::string name(text::Trim(Area(program, PageId::frmP1, kClientName).Text));
-    DocumentState& document = program.document;
-    document.FileName = name + ".hef";
-    document.BaseName = name;
-    document.FootnoteFile = name + ".hxt";
-    document.DepositFile = name + ".dep";
-    if (!document.TitleGiven) {
-        document.ClientCaption = "Proposal for " + name;
-    }
-    if (!name.empty()) {
-        document.TextFileName = name + ".txt";
-    }
+    modNames::NameAfterClient(program, Area(program, PageId::frmP1, kClientName).Text);
     modTitles::UpdateEventNameLabels(program);
 }
 

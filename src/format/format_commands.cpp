@@ -38,12 +38,14 @@ void ClearFormat(Program& program) {
         program.settings.LoadDefaultFormat = loadDefault;
         return;
     }
+    modNames::LeaveBackup(program);
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }
 
 bool IsDefault(const Program& program) {
     const std::string path = paths::Join(program.format.FormatFolder, program.format.FormatName);
-    return text::EqualNoCase(program.settings.DefaultFormatPath, path);
+    return text::EqualNoCase(paths::ResolveDrive(program.settings.DefaultFormatPath, program.folders.Drives),
+                             path);
 }
 
 /// The format that new proposals began with is gone; without this each of them would ask for it.
@@ -115,7 +117,11 @@ void mnuFileFormatDelete_Click(Program& program) {
     const Answer answer =
         questions.MsgBox(text::Lines({"Are you sure you want to delete the shown Format?",
                                       program.format.FormatName + " in " + program.format.FormatFolder}),
-                         Buttons::YesNo, "Deleting Format FIle", {.Default = Answer::No});
+                         Buttons::YesNo, "Deleting Format FIle",
+                         {.Default = Answer::No,
+                          .Lost = FormatIsUnsaved(program) ? "The format " + program.format.FormatName +
+                                                                 " has changes that are not saved."
+                                                           : std::string()});
     if (answer != Answer::Yes) {
         return;
     }

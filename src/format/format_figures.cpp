@@ -58,9 +58,8 @@ void TakeClientName(Program& program) {
     if (text::Trim(name).empty()) {
         return;
     }
-    modNames::SetBaseName(program, name);
-    program.document.FileName = name + ".hef";
-    program.document.ClientCaption = "Proposal for " + name;
+    modNames::NameAfterClient(program, name);
+    program.document.HasClient = true;
     modTitles::UpdateFooters(program);
 }
 

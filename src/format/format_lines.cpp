@@ -6,6 +6,7 @@
 #include "format/line_effects.h"
 #include "pages/page_geometry.h"
 #include "pages/row_fields.h"
+#include "pages/titles.h"
 #include "program/errors.h"
 #include "program/program.h"
 
@@ -13,7 +14,7 @@ namespace modFormat {
 
 namespace {
 
-/// Areas of that width hold figures, which are never part of a format.
+/// Areas of that width hold figures: those of a proposal never get into a format.
 constexpr std::string_view kFigureWidth = "020";
 
 void TakeAreas(const Program& program, PageId page, Texts texts, FormatTables& tables) {
@@ -21,11 +22,11 @@ void TakeAreas(const Program& program, PageId page, Texts texts, FormatTables& t
     for (std::size_t index = 0; index < areas.size(); ++index) {
         const TextArea& area = areas[index];
         TextChangeRecord& record = tables.Areas[page][index];
-        if (!area.Text.empty() && text::Right(area.Tag, 3) != kFigureWidth) {
-            record.Text = area.Text;
-        }
-        if (texts == Texts::LayoutOnly) {
+        const bool figure = text::Right(area.Tag, 3) == kFigureWidth;
+        if (figure || texts == Texts::LayoutOnly) {
             record.Text = program.format.InFile[page][index].Text;
+        } else if (!area.Text.empty()) {
+            record.Text = area.Text;
         }
         record.FontBold = area.FontBold;
         record.TaxExempt = program.pages[page].imgNoTax[index].Tag != kHide;
@@ -40,13 +41,20 @@ void TakeAreas(const Program& program, PageId page, Texts texts, FormatTables& t
     }
 }
 
-void TakeLabels(const Program& program, LabelChangeTable& table) {
+void TakeLabels(const Program& program, Texts texts, LabelChangeTable& table) {
     for (const PageId page : kEditedPages) {
         const auto& labels = program.pages[page].lbl;
         for (std::size_t index = 0; index < labels.size(); ++index) {
-            if (table[page][index].Changed) {
-                modDesigner::PutLook(table[page][index], modDesigner::LookOf(labels[index]));
+            if (!table[page][index].Changed) {
+                continue;
             }
+            PageLabel label = labels[index];
+            const int at = static_cast<int>(index);
+            if (texts == Texts::LayoutOnly && at == geometry::TitleLabel(page)) {
+                // Each proposal lays its own; whose this one is, is nobody else's to read.
+                modTitles::SetTitleWords(program, page, at, label, modTitles::NobodysTitle(page));
+            }
+            modDesigner::PutLook(table[page][index], modDesigner::LookOf(label));
         }
     }
 }
@@ -103,7 +111,7 @@ FormatTables TablesNow(const Program& program, Texts texts) {
     for (const PageId page : kLinePages) {
         TakeAreas(program, page, texts, tables);
     }
-    TakeLabels(program, tables.Labels);
+    TakeLabels(program, texts, tables.Labels);
     return tables;
 }
 

@@ -17,6 +17,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/rewriting.h"
+#include "program/saved_notice.h"
 #include "proposal/file_names.h"
 #include "settings/settings.h"
 
@@ -35,9 +36,9 @@ void Tell(Program& program, std::string_view words) {
     program.platform.questions.MsgBox(words, Buttons::Ok, "");
 }
 
-bool Confirmed(Program& program, std::string_view question) {
-    return program.platform.questions.MsgBox(question, Buttons::YesNo, "", {.Default = Answer::No}) ==
-           Answer::Yes;
+bool Confirmed(Program& program, std::string_view question, const std::string& lost) {
+    return program.platform.questions.MsgBox(question, Buttons::YesNo, "",
+                                             {.Default = Answer::No, .Lost = lost}) == Answer::Yes;
 }
 
 std::string TargetFolder(const Program& program) {
@@ -167,6 +168,7 @@ bool Written(Program& program, const std::string& path, bool agreed) {
     });
     if (written) {
         format.FormatSeen = seen;
+        TellSaved(program, "Format", path);
     }
     return written;
 }
@@ -180,7 +182,7 @@ FormatSave SaveSteps(Program& program, const Name& name) {
     }
     const std::string path = paths::Join(TargetFolder(program), name.File);
     if (name.Asked && files::Exists(path)) {
-        if (!Confirmed(program, "File already exists. Overwrite?")) {
+        if (!Confirmed(program, "File already exists. Overwrite?", name.File)) {
             return FormatSave::NotSaved;
         }
     }

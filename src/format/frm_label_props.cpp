@@ -165,6 +165,18 @@ void CloseLabelWindow(Program& program) {
     }
 }
 
+void CloseChangedLabelWindow(Program& program) {
+    const DesignerRecords& designer = program.designer;
+    if (!designer.LabelPropsOpen || !designer.LabelPage) {
+        return;
+    }
+    const LabelLook& before =
+        RecordOf(program.format.LabelSavedState, *designer.LabelPage, designer.CurrentLabel);
+    if (designer.Changed != GroupChanges{} || designer.LabelEdit != before) {
+        CloseLabelWindow(program);
+    }
+}
+
 void FinishLabelInWindow(Program& program) {
     if (!MultipleLabelsSelected(program)) {
         CommitLabelProps(program, program.designer.CurrentLabel);

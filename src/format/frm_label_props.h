@@ -61,6 +61,8 @@ namespace modDesigner {
 
 /// The label window closes as if OK had been pressed, on the page of its label. Does nothing without one.
 void CloseLabelWindow(Program& program);
+/// The same when something was changed in it; otherwise it stays.
+void CloseChangedLabelWindow(Program& program);
 /// The label in the window counts as finished, since another one is pressed; the window stays.
 void FinishLabelInWindow(Program& program);
 /// The window, where it is open, shows the label just pressed.

@@ -15,9 +15,10 @@ bool HoldsWord(std::string_view caption) {
     return std::any_of(caption.begin(), caption.end(), [](char character) {
         const auto byte = static_cast<unsigned char>(character);
         constexpr unsigned char kFirstAccented = 0xC0;
+        constexpr std::string_view kBeforeThose = "\x8A\x8C\x8E\x9A\x9C\x9E\x9F\xAA\xB5\xBA";
         const bool sign = byte == 0xD7 || byte == 0xF7; // the multiplication and the division sign
         return (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z') ||
-               (byte >= kFirstAccented && !sign);
+               (byte >= kFirstAccented && !sign) || kBeforeThose.find(character) != std::string_view::npos;
     });
 }
 

@@ -127,8 +127,8 @@ void mnuEditLogoSave_Click(Program& program) {
 
 void mnuEditLogoVisible_Click(Program& program) {
     program.settings.LogoVisible = !program.run.LogoChecked;
-    modLogo::SettleLogoVisibility(program);
     program.run.LogoChecked = program.settings.LogoVisible;
+    modLogo::SettleLogoVisibility(program);
     SaveVisibility(program);
     if (program.settings.LogoVisible && Logo(program).Picture.From == PictureRef::Source::None) {
         program.main.Notice = "There is no logo to show; choose one with Select Different Logo.";
@@ -141,8 +141,8 @@ void mnuEditLogoBorder_Click(Program& program) {
     Logo(program).BorderStyle = entry.Checked ? 0 : 1;
     if (!entry.Checked) {
         program.settings.LogoVisible = true;
-        modLogo::SettleLogoVisibility(program);
         program.run.LogoChecked = true;
+        modLogo::SettleLogoVisibility(program);
     }
     SaveVisibility(program);
 }

@@ -17,20 +17,24 @@ template <typename Fields> void ShowAll(Fields& fields) {
 
 } // namespace
 
+bool PreviewStands(const Program& program) {
+    return program.main.cmdPreview.Caption == "Resume Editing";
+}
+
 void TogglePreview(Program& program) {
     MainWindow& main = program.main;
-    const bool start = main.cmdPreview.Caption == "Print Preview";
+    const bool start = !PreviewStands(program);
     main.cmdPreview.Caption = start ? "Resume Editing" : "Print Preview";
     main[CommandId::mnuFilePrintPreview].Enabled = !start;
     main[CommandId::mnuFileResume].Enabled = start;
     if (!start) {
-        ResumeEditing(program, main.ActivePage);
+        ResumeEditing(program, main.PageInFront);
         return;
     }
-    program.printing.PrintFormName = geometry::PageName(main.ActivePage);
+    program.printing.PrintFormName = geometry::PageName(main.PageInFront);
     Guarded(program, "PrintTheForm", [&] {
         PrepareDrawing(program);
-        program.pages[main.ActivePage].InkShown = true;
+        program.pages[main.PageInFront].InkShown = true;
     });
 }
 

@@ -20,12 +20,15 @@ namespace modPrint {
 
 namespace {
 
-PrintCommand CommandFor(const Program& program) {
+/// One page alone is another file than the proposal.
+PrintCommand CommandFor(const Program& program, const std::vector<PageId>& pages) {
     const DocumentState& document = program.document;
     const std::string folder =
         document.FilePath.empty() ? modFolders::DataFolder(program) : document.FilePath;
     const std::string base = document.BaseName.empty() ? "Proposal" : document.BaseName;
-    return {paths::Join(folder, base + ".pdf")};
+    const std::string part =
+        pages.size() == 1 ? ", " + std::string(geometry::PageCaption(pages.front())) : "";
+    return {paths::Join(folder, base + part + ".pdf")};
 }
 
 std::string MessageFor(const Program& program, PageId page) {
@@ -54,7 +57,7 @@ void PrintPages(Program& program, const std::vector<PageId>& pages) {
     }
     const ScopedFlag running(program.printing.CommandRunning);
     Printers& printers = program.platform.printers;
-    if (!printers.BeginCommand(CommandFor(program))) {
+    if (!printers.BeginCommand(CommandFor(program, pages))) {
         return;
     }
     PrepareDrawing(program);

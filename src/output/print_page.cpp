@@ -141,6 +141,10 @@ void PrepareDrawing(Program& program) {
     active.CenterLines.clear();
     active.GridPoints.clear();
     ++active.InkVersion;
+    Page& front = program.pages[program.main.PageInFront];
+    if (front.Id != active.Id) { // the client's copy
+        ++front.InkVersion;
+    }
 }
 
 void PrintTheForm(Program& program, PageId page) {

@@ -13,6 +13,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/saved_notice.h"
 #include "proposal/file_names.h"
 
 namespace modExport {
@@ -128,6 +129,7 @@ void WriteTextFile(Program& program) {
     }
     const std::string path = paths::Join(folder, program.exporting.ExportFileName);
     files::WriteWhole(path, PlainText(ProposalLines(program)));
+    TellSaved(program, "Text", path);
     program.platform.questions.MsgBox("File was saved as " + path, Buttons::Ok, "");
 }
 

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 namespace modPages {
 
@@ -29,18 +30,25 @@ void Reword(PageLabel& label, const std::string& was, const std::string& is) {
     }
 }
 
+constexpr std::size_t kFirstBelow = 60; ///< of the labels below the second address line
+constexpr std::size_t kLastBelow = 62;
+
+/// How far the lines below the second address line move, in twips.
+float MoveBelow(const SettingsRecords& before, const SettingsRecords& now) {
+    if (before.CompanyAddress2.empty() == now.CompanyAddress2.empty()) {
+        return 0;
+    }
+    return now.CompanyAddress2.empty() ? -kRow : kRow;
+}
+
 void FinalPage(Page& page, const SettingsRecords& before, const SettingsRecords& now) {
     const std::string representative = "Representative for ";
     Reword(page.lbl[kRepresentative], representative + before.CompanyName, representative + now.CompanyName);
     for (std::size_t line = 0; line < kRemittanceLines; ++line) {
         Reword(page.lbl[kRemittance + line], before.*kLetterhead[line], now.*kLetterhead[line]);
     }
-    if (before.CompanyAddress2.empty() == now.CompanyAddress2.empty()) {
-        return;
-    }
-    const float down = now.CompanyAddress2.empty() ? -kRow : kRow;
-    for (std::size_t label = 60; label <= 62; ++label) {
-        page.lbl[label].Top += down;
+    for (std::size_t label = kFirstBelow; label <= kLastBelow; ++label) {
+        page.lbl[label].Top += MoveBelow(before, now);
     }
 }
 
@@ -57,8 +65,23 @@ bool RewordInFormat(Program& program, PageId page, std::size_t index, const std:
     return true;
 }
 
-bool RewordFormat(Program& program, const SettingsRecords& before, const SettingsRecords& now) {
+/// The places that the open format has given the lines below the second address line; true when it has one.
+bool MoveInFormat(Program& program, float down) {
     bool any = false;
+    for (std::size_t label = kFirstBelow; down != 0 && label <= kLastBelow; ++label) {
+        LabelChangeRecord& record = program.format.FormatLabelChanges[PageId::frmP6][label];
+        if (record.Changed) {
+            record.Top += down;
+            record.Saved = false;
+            record.FromFormat = false;
+            any = true;
+        }
+    }
+    return any;
+}
+
+bool RewordFormat(Program& program, const SettingsRecords& before, const SettingsRecords& now) {
+    bool any = MoveInFormat(program, MoveBelow(before, now));
     for (std::size_t line = 0; line < kLetterhead.size(); ++line) {
         any =
             RewordInFormat(program, PageId::frmP1, line, before.*kLetterhead[line], now.*kLetterhead[line]) ||
@@ -76,10 +99,35 @@ bool RewordFormat(Program& program, const SettingsRecords& before, const Setting
     return any;
 }
 
+/// Labels that ride with the proposal's properties have changed against its file: that is seen when the
+/// proposal is left.
+void FollowInProperties(Program& program, PageId page, const std::vector<PageLabel>& before) {
+    FormatRecords& format = program.format;
+    const auto& labels = program.pages[page].lbl;
+    for (std::size_t index = 0; index < labels.size(); ++index) {
+        const PageLabel& label = labels[index];
+        LabelChangeRecord& record = format.PropLabelChanges[page][index];
+        const bool rides =
+            record.Changed || (format.FormatOpen && format.FormatLabelChanges[page][index].Changed);
+        if (!rides || label == before[index]) {
+            continue;
+        }
+        if (record.Changed) {
+            record.Caption = label.Caption;
+            record.Top = label.Top;
+        }
+        if (program.document.FileExists) {
+            format.LabelSavedState[page][index].Changed = true;
+        }
+    }
+}
+
 } // namespace
 
 void CompanyInfoChanged(Program& program, const SettingsRecords& before) {
     const SettingsRecords& now = program.settings;
+    const std::vector<PageLabel> clientBefore = program.pages[PageId::frmP1].lbl;
+    const std::vector<PageLabel> finalBefore = program.pages[PageId::frmP6].lbl;
     if (!program.run.AltLetterhead) {
         Page& client = program.pages[PageId::frmP1];
         for (std::size_t line = 0; line < kLetterhead.size(); ++line) {
@@ -89,6 +137,8 @@ void CompanyInfoChanged(Program& program, const SettingsRecords& before) {
     for (const PageId page : {PageId::frmP6, PageId::frmP6_1}) {
         FinalPage(program.pages[page], before, now);
     }
+    FollowInProperties(program, PageId::frmP1, clientBefore);
+    FollowInProperties(program, PageId::frmP6, finalBefore);
     SizeRemittanceBox(program);
     program.document.CompanyBlockPending = true;
     modTitles::SetPageHeading(program, "Contract Proposal");

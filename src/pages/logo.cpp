@@ -51,27 +51,30 @@ std::optional<PictureSize> PutLogo(Program& program, const std::string& path) {
     if (size) {
         Logo(program).Picture = {PictureRef::Source::File, path};
         Logo(program).Size = Fitted(*size);
-        SettleLogoVisibility(program);
         program.run.LogoChecked = program.settings.LogoVisible;
+        SettleLogoVisibility(program);
     }
     return size;
 }
 
 void HideLogo(Program& program) {
     Logo(program).Picture = {};
-    SettleLogoVisibility(program);
     program.run.LogoChecked = false;
+    SettleLogoVisibility(program);
 }
 
 void SettleLogoVisibility(Program& program) {
     PagePicture& logo = Logo(program);
-    const bool shown = program.settings.LogoVisible && logo.Picture.From != PictureRef::Source::None;
+    const bool shown = program.run.LogoChecked && logo.Picture.From != PictureRef::Source::None;
     logo.Visible = shown;
     logo.Tag = shown ? "" : kHide;
 }
 
 void LoadLogo(Program& program) {
     const SettingsRecords& settings = program.settings;
+    // One that is chosen later hangs there, too.
+    Logo(program).Left = settings.LogoLeft;
+    Logo(program).Top = settings.LogoTop;
     if (settings.LogoFile.empty() || text::EqualNoCase(settings.LogoFile, "events.jpg")) {
         HideLogo(program);
         return;
@@ -84,8 +87,6 @@ void LoadLogo(Program& program) {
         HideLogo(program);
         return;
     }
-    Logo(program).Left = settings.LogoLeft;
-    Logo(program).Top = settings.LogoTop;
     if (const auto message = ScaledMessage(*size)) {
         program.main.Notice = *message;
     }

@@ -24,6 +24,8 @@ float BuiltLeft(PageId page, int index) {
     return final ? 5310.0F : 4860.0F;
 }
 
+constexpr const char* kNobody = "Proposal for (Client's Name)";
+
 std::string TitleOn(PageId page, const std::string& title) {
     return page == PageId::frmP6     ? title + " - Our Copy"
            : page == PageId::frmP6_1 ? title + " - Client's Copy"
@@ -35,7 +37,7 @@ enum class Place { Kept, Centred };
 void LayLines(Program& program, Place place) {
     std::string& title = program.document.ClientCaption;
     if (title.empty()) {
-        title = "Proposal for (Client's Name)";
+        title = kNobody;
     }
     for (const PageId page : kAllPages) {
         const int index = geometry::TitleLabel(page);
@@ -72,6 +74,10 @@ void SetTitleWords(const Program& program, PageId page, int index, PageLabel& la
     if (stood) {
         Centre(program, label);
     }
+}
+
+std::string NobodysTitle(PageId page) {
+    return TitleOn(page, kNobody);
 }
 
 bool StandsCentred(const Program& program, PageId page, int index, const PageLabel& label) {

@@ -26,6 +26,9 @@ void LayTitles(Program& program);
 /// pages are built with it; otherwise somebody has put it where it is.
 void SetTitleWords(const Program& program, PageId page, int index, PageLabel& label, std::string words);
 
+/// The title on a page of a proposal that has no client yet.
+[[nodiscard]] std::string NobodysTitle(PageId page);
+
 /// Whether a title stands in the middle of the page, to a twip, or where pages are built with it.
 [[nodiscard]] bool StandsCentred(const Program& program, PageId page, int index, const PageLabel& label);
 /// Puts a label there.

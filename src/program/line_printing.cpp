@@ -6,7 +6,6 @@
 #include "program/program.h"
 #include "program/text_wrap.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace modLines {
@@ -58,26 +57,46 @@ private:
         printer_.CurrentY = y;
     }
 
-    /// Each tab goes to the next stop; what stands behind the last is wrapped within its own column.
+    /// Each tab goes to the next stop, on the next line where none is left on this one; what stands behind
+    /// the last is wrapped within its own column.
     void PutColumns(std::string_view line) {
         float x = sheet_.Left;
         std::size_t at = 0;
         for (std::size_t tab = line.find('\t'); tab != std::string_view::npos; tab = line.find('\t', at)) {
-            const std::string_view words = line.substr(at, tab - at);
-            if (!words.empty()) {
-                PutAt(x, words);
-                x += printer_.TextWidth(words);
-            }
+            x = PutWords(x, line.substr(at, tab - at));
             x = sheet_.Left + (std::floor((x - sheet_.Left) / sheet_.TabStop) + 1) * sheet_.TabStop;
+            if (x + sheet_.TabStop > printer_.ScaleWidth - sheet_.Right) {
+                printer_.CurrentY += printer_.TextHeight();
+                x = sheet_.Left;
+            }
             at = tab + 1;
         }
-        constexpr float kNarrowest = 2880;
-        const float room = std::max(kNarrowest, printer_.ScaleWidth - sheet_.Right - x);
         const std::string_view rest = line.substr(at);
-        for (const modWrap::Piece& piece : modWrap::WrapParagraph(rest, advances_, room)) {
+        for (const modWrap::Piece& piece : modWrap::WrapParagraph(rest, advances_, RoomFrom(x))) {
             PutAt(x, rest.substr(piece.Start, piece.Length));
             printer_.CurrentY += printer_.TextHeight();
         }
+    }
+
+    [[nodiscard]] float RoomFrom(float x) const { return printer_.ScaleWidth - sheet_.Right - x; }
+
+    /// Words in front of a tab, over as many lines as they take; the place behind them.
+    float PutWords(float x, std::string_view words) {
+        if (words.empty()) {
+            return x;
+        }
+        if (x > sheet_.Left && printer_.TextWidth(words) > RoomFrom(x)) {
+            printer_.CurrentY += printer_.TextHeight();
+            x = sheet_.Left;
+        }
+        const std::vector<modWrap::Piece> pieces = modWrap::WrapParagraph(words, advances_, RoomFrom(x));
+        for (const modWrap::Piece& piece : pieces) {
+            if (piece.Start > 0) {
+                printer_.CurrentY += printer_.TextHeight();
+            }
+            PutAt(x, words.substr(piece.Start, piece.Length));
+        }
+        return x + printer_.TextWidth(words.substr(pieces.back().Start));
     }
 
     Printer& printer_;

@@ -5,6 +5,7 @@
 #include "base/files.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
 
@@ -76,6 +77,28 @@ void SetBaseName(Program& program, std::string_view baseName) {
     program.document.TextFileName = program.document.BaseName + ".txt";
     program.document.FootnoteFile = program.document.BaseName + ".hxt";
     program.document.DepositFile = program.document.BaseName + ".dep";
+}
+
+void LeaveBackup(Program& program) {
+    program.document.FromBackup = false;
+    if (paths::SameFolder(program.document.FilePath, modFolders::BackupFolder(program))) {
+        program.document.FilePath = modFolders::DataFolder(program);
+    }
+}
+
+void NameAfterClient(Program& program, std::string_view client) {
+    // Blanks around a name cannot be seen in a list of files.
+    const std::string name(text::Trim(client));
+    DocumentState& document = program.document;
+    const std::string textFile = document.TextFileName;
+    SetBaseName(program, name);
+    document.FileName = name + ".hef";
+    if (name.empty()) {
+        document.TextFileName = textFile;
+    }
+    if (!document.TitleGiven) {
+        document.ClientCaption = "Proposal for " + name;
+    }
 }
 
 } // namespace modNames

@@ -26,4 +26,10 @@ void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::st
 /// The side files' names after a new file name.
 void SetBaseName(Program& program, std::string_view baseName);
 
+/// An empty proposal is none from the backups, and must not be saved among them.
+void LeaveBackup(Program& program);
+
+/// A proposal without a file takes its names, and its title unless that was given, from the client's.
+void NameAfterClient(Program& program, std::string_view client);
+
 } // namespace modNames

@@ -1,6 +1,9 @@
 #include "proposal/frm_file.h"
 
+#include "base/dates.h"
+#include "base/file_error.h"
 #include "base/files.h"
+#include "base/numbers.h"
 #include "base/paths.h"
 #include "base/text.h"
 #include "pages/fields.h"
@@ -16,6 +19,8 @@
 #include "proposal/reset.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -32,6 +37,16 @@ std::string Above(std::string_view folder) {
     }
     const std::string_view above = paths::Folder(bare);
     return above.empty() ? std::string(folder) : std::string(above);
+}
+
+std::string SizeText(std::uintmax_t size) {
+    constexpr double kKilo = 1024;
+    const auto bytes = static_cast<double>(size);
+    if (bytes < kKilo) {
+        return std::to_string(size) + (size == 1 ? " byte" : " bytes");
+    }
+    const bool mega = bytes >= kKilo * kKilo;
+    return numbers::Format(bytes / (mega ? kKilo * kKilo : kKilo), "#,##0.0") + (mega ? " MB" : " KB");
 }
 
 bool IsProposalName(std::string_view name) {
@@ -76,7 +91,7 @@ void frmFile::Form_Cancel(Program& program) {
 void frmFile::GoTo(Program& program, std::string_view folder) {
     const std::string wanted = paths::WithSeparator(folder);
     try {
-        FileList1.Items = files::List(wanted, program.document.FileFilter);
+        LookAtFiles(program, wanted);
     } catch (const std::exception& error) {
         if (Folder.empty()) {
             Folder = wanted; // nothing was listed yet: show where we are, with an empty list
@@ -84,8 +99,12 @@ void frmFile::GoTo(Program& program, std::string_view folder) {
         ReportError(program, "frmFile", error);
         return;
     }
+    if (Folder != wanted) {
+        txtFilter.Text.clear();
+    }
     Folder = wanted;
     cmdOpenBack_Click(program); // nothing of the new list is chosen
+    ShowFound(program);
     Dir1.Items = files::Subfolders(wanted);
     if (Folder != "/") {
         Dir1.Items.insert(Dir1.Items.begin(), std::string(kUp));
@@ -98,6 +117,64 @@ void frmFile::GoTo(Program& program, std::string_view folder) {
             Drive1.ListIndex = static_cast<int>(index);
         }
     }
+}
+
+void frmFile::LookAtFiles(Program& program, const std::string& folder) {
+    std::vector<Found> found;
+    for (std::string& name : files::List(folder, program.document.FileFilter)) {
+        Found file{std::move(name)};
+        try {
+            const std::string path = paths::Join(folder, file.Name);
+            file.Size = files::Length(path);
+            file.Modified = files::ModifiedSerial(path);
+        } catch (const files::FileError&) {
+            file.Modified = 0; // gone meanwhile, or closed to us: choosing it tells
+        }
+        found.push_back(std::move(file));
+    }
+    found_ = std::move(found);
+}
+
+void frmFile::ShowFound(Program& program) {
+    std::vector<Found> shown;
+    const std::string part = text::Lower(txtFilter.Text);
+    std::copy_if(found_.begin(), found_.end(), std::back_inserter(shown),
+                 [&](const Found& file) { return text::Lower(file.Name).find(part) != std::string::npos; });
+    // Files of one day or size stand by name.
+    if (SortedBy == FileColumn::Modified) {
+        std::ranges::stable_sort(shown, {}, &Found::Modified);
+    } else if (SortedBy == FileColumn::Size) {
+        std::ranges::stable_sort(shown, {}, &Found::Size);
+    }
+    if (Backwards) {
+        std::ranges::reverse(shown);
+    }
+    FileList1.Items.clear();
+    FileDates.clear();
+    FileSizes.clear();
+    FileList1.ListIndex = -1;
+    for (const Found& file : shown) {
+        if (file.Name == selected_) {
+            FileList1.ListIndex = static_cast<int>(FileList1.Items.size());
+        }
+        FileList1.Items.push_back(file.Name);
+        FileDates.push_back(dates::GeneralDate(file.Modified));
+        FileSizes.push_back(SizeText(file.Size));
+    }
+    if (FileList1.ListIndex < 0) {
+        cmdOpenBack_Click(program);
+    }
+}
+
+void frmFile::FileList1_ColumnClick(Program& program, FileColumn column) {
+    Backwards = column == SortedBy ? !Backwards : column != FileColumn::Name;
+    SortedBy = column;
+    ShowFound(program);
+}
+
+void frmFile::txtFilter_Change(Program& program, std::string_view text) {
+    txtFilter.Text = text;
+    ShowFound(program);
 }
 
 void frmFile::RefreshList(Program& program) {
@@ -200,6 +277,7 @@ void frmFile::OpenFormat(Program& program) {
         return;
     }
     Finish(program);
+    modNames::LeaveBackup(program);
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }
 

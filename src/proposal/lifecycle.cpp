@@ -12,6 +12,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/rewriting.h"
+#include "program/saved_notice.h"
 #include "program/windows.h"
 #include "proposal/delete_files.h"
 #include "proposal/file_names.h"
@@ -27,14 +28,6 @@
 namespace modProposal {
 
 namespace {
-
-/// An empty proposal is none from the backups, and must not be saved among them.
-void LeaveBackup(Program& program) {
-    program.document.FromBackup = false;
-    if (paths::SameFolder(program.document.FilePath, modFolders::BackupFolder(program))) {
-        program.document.FilePath = modFolders::DataFolder(program);
-    }
-}
 
 void SaveAsSteps(Program& program) {
     DocumentState& document = program.document;
@@ -159,7 +152,7 @@ void mnuFileNew_Click(Program& program) {
         return;
     }
     const bool format = program.format.FormatOpen;
-    LeaveBackup(program);
+    modNames::LeaveBackup(program);
     if (!format) {
         modTitles::SetPageHeading(program, "Contract Proposal");
         Page& page = program.pages[PageId::frmP1];
@@ -226,7 +219,7 @@ void mnuFileDelete_Click(Program& program) {
         return;
     }
     if (modReset::StartNewFile(program) == modReset::ResetResult::Done) {
-        LeaveBackup(program);
+        modNames::LeaveBackup(program);
     }
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }
@@ -240,6 +233,7 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
         files::Seen seen = files::LookAt(target);
         modRewrite::WriteOver(target, bytes, seen);
         document.SavedFile = seen;
+        TellSaved(program, "Backup put back, proposal", target);
         if (!document.TitleGiven) {
             document.ClientCaption = "Proposal for " + document.BaseName;
             modTitles::UpdateFooters(program);

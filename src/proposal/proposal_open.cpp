@@ -166,14 +166,9 @@ void TakeKind(Program& program) {
 }
 
 void SettleLogo(Program& program) {
-    PagePicture& logo = program.pages[PageId::frmP1].pic;
     if (program.document.FileName == "John Doe.hef") {
-        // The sample stands for any business; ours has no place on it.
-        logo.Visible = false;
-        logo.Tag = kHide;
-        program.settings.LogoVisible = false;
+        // The sample stands for any business; ours has no place on it, and is back with the next proposal.
         program.run.LogoChecked = false;
-        return;
     }
     modLogo::SettleLogoVisibility(program);
 }

@@ -9,6 +9,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/rewriting.h"
+#include "program/saved_notice.h"
 #include "proposal/file_names.h"
 #include "proposal/long_texts.h"
 #include "proposal/property_file.h"
@@ -156,6 +157,7 @@ void SavingSteps(Program& program, SaveResult& result) {
         modRecovery::NothingUnsaved(program);
     }
     modTitles::UpdateEventNameLabels(program);
+    TellSaved(program, "Proposal", path);
     program.platform.questions.MsgBox("File was saved as " + document.FileName, Buttons::Ok, "");
 }
 

@@ -8,6 +8,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/saved_notice.h"
 #include "proposal/proposal_save.h"
 
 namespace modSideFile {
@@ -32,6 +33,17 @@ std::string FreeBackupName(const Program& program, std::string_view name) {
     return free;
 }
 
+/// Out of the way of another proposal's; the backup folder may lie on another volume.
+void MoveAside(const Program& program, const std::string& path, std::string_view name) {
+    const std::string kept = FreeBackupName(program, name);
+    try {
+        files::Rename(path, kept);
+    } catch (const files::FileError&) {
+        files::Copy(path, kept);
+        files::Delete(path);
+    }
+}
+
 void FollowOne(Program& program, const DocumentState& before, std::string_view extension) {
     const std::string was = before.BaseName + std::string(extension);
     const std::string is = program.document.BaseName + std::string(extension);
@@ -43,9 +55,12 @@ void FollowOne(Program& program, const DocumentState& before, std::string_view e
     const std::string target = paths::Join(to, is);
     if (before.FileExists && !before.BaseName.empty() && files::FileIsThere(from, was)) {
         const std::string bytes = files::ReadAll(paths::Join(from, was));
+        if (files::ExistsExactly(target) && files::LookAt(target) != files::SeenIn(bytes)) {
+            MoveAside(program, target, is); // what was replaced is the proposal, not what lay beside it
+        }
         files::WriteWhole(target, bytes);
     } else if (files::Exists(target)) {
-        files::Rename(target, FreeBackupName(program, is));
+        MoveAside(program, target, is);
     }
 }
 
@@ -92,6 +107,7 @@ bool Write(Program& program, Known& known, std::string_view name, std::string_vi
         known.There = true;
         known.Seen = files::SeenIn(bytes);
         written = true;
+        TellSaved(program, name.ends_with(".dep") ? "Deposit list" : "Footnotes", path);
     });
     return written;
 }
@@ -112,7 +128,8 @@ void KeepInBackup(Program& program, std::string_view name, std::string_view byte
 
 void FollowSaveAs(Program& program, const DocumentState& before) {
     for (const std::string_view extension : {".hxt", ".dep"}) {
-        FollowOne(program, before, extension);
+        // The one goes along though the other cannot.
+        Guarded(program, "SaveEventFileAs", [&] { FollowOne(program, before, extension); });
     }
 }
 

@@ -39,8 +39,8 @@ struct Known {
 /// Puts unsaved work beside the backup; nobody is asked or told. Failures go to the log alone.
 void KeepInBackup(Program& program, std::string_view name, std::string_view bytes);
 
-/// After Save As: the files of the proposal as it was go with it. Where it had none and another proposal's
-/// lie under the new name, those go into the backup folder.
+/// After Save As: the files of the proposal as it was go with it. Another proposal's that lie under the new
+/// name go into the backup folder. Reports as "SaveEventFileAs".
 void FollowSaveAs(Program& program, const DocumentState& before);
 
 } // namespace modSideFile

@@ -113,8 +113,11 @@ bool MayStart(Program& program) {
         return false;
     }
     if (program.search.ResultsOpen) {
-        if (program.platform.questions.MsgBox("This will clear the current search results. Continue.",
-                                              Buttons::YesNo, "Starting New Search") != Answer::Yes) {
+        if (program.platform.questions.MsgBox(
+                "This will clear the current search results. Continue.", Buttons::YesNo,
+                "Starting New Search",
+                {.Default = Answer::No, .Lost = "The results for \"" + program.search.SearchPhrase + "\""}) !=
+            Answer::Yes) {
             return false;
         }
         if (Window* results = modWindows::Find(program, "frmSR")) {

@@ -7,6 +7,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/rewriting.h"
+#include "program/saved_notice.h"
 
 #include <cmath>
 
@@ -65,8 +66,10 @@ void SavePrinterOffsets(Program& program) {
         bytes += kYKey;
         bytes += InchesOf(program.printing.PrinterOffsetY);
         // Refused: what the other program wrote is kept, and these hold for this run.
-        static_cast<void>(modRewrite::Rewrite(program, PathOf(program), bytes, program.settings.OffsetsFile,
-                                              "printer offsets file"));
+        if (modRewrite::Rewrite(program, PathOf(program), bytes, program.settings.OffsetsFile,
+                                "printer offsets file") == modRewrite::Rewriting::Done) {
+            TellSaved(program, "Printer offsets", PathOf(program));
+        }
     });
 }
 

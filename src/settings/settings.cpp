@@ -9,6 +9,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/rewriting.h"
+#include "program/saved_notice.h"
 #include "settings/printer_offsets.h"
 
 #include <array>
@@ -371,6 +372,7 @@ bool Store(Program& program, std::initializer_list<Change> changes) {
         program.settings.Lines = before;
         return false;
     }
+    TellSaved(program, "Settings", PathOf(program));
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/rewriting.h"
+#include "program/saved_notice.h"
 
 #include <string>
 
@@ -49,6 +50,7 @@ void SaveTaxRate(Program& program, std::string_view rateText) {
         if (program.totals.HasAmounts() && program.hooks.TakeFreshFigures) {
             program.hooks.TakeFreshFigures(program);
         }
+        TellSaved(program, "Tax rate", PathOf(program));
         program.platform.questions.MsgBox("New Sales Tax Rate is " +
                                               numbers::FormatSingle(program.totals.TaxRate, "##.00") + " %",
                                           Buttons::Ok, "");

@@ -2,6 +2,7 @@
 
 #include "editing/selection.h"
 #include "format/format_save.h"
+#include "format/frm_label_props.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/backup.h"
@@ -28,6 +29,8 @@ bool MDIForm_QueryUnload(Program& program) {
     if (program.main.Closing) {
         return true;
     }
+    // Words typed on to a label must not go without a question.
+    modDesigner::CloseChangedLabelWindow(program);
     // The windows beside the proposal first: a deposit that is saved there still reaches the proposal's file.
     if (!modWindows::MayLeave(program, Leaving::Run)) {
         return false;
@@ -65,6 +68,7 @@ void KeepUnsaved(Program& program) {
     if (program.main.Closing || !program.main.Loaded) {
         return;
     }
+    modDesigner::CloseChangedLabelWindow(program);
     modWindows::KeepUnsaved(program);
     if (modProposal::SomethingChanged(program) || modFile::PropertiesChanged(program)) {
         modFile::BackupThisFile(program); // the marker stays: the next start offers it

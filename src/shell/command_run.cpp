@@ -7,7 +7,10 @@
 #include "program/program.h"
 #include "shell/command_table.h"
 #include "shell/main_controls.h"
+#include "shell/page_switch.h"
 #include "shell/preview_refusals.h"
+
+#include <optional>
 
 namespace commands {
 
@@ -24,7 +27,7 @@ bool IsUnder(const Entry& entry, CommandId menu) {
 
 } // namespace
 
-void Run(Program& program, CommandId id) {
+bool MayRun(Program& program, CommandId id) {
     modMain::WorkOutControls(program);
     const Entry& entry = Find(id);
     modBlocks::FinishMove(program); // an arrow still held: what moved must be stored before anything else
@@ -35,23 +38,34 @@ void Run(Program& program, CommandId id) {
     }
     if (entry.Pending()) {
         program.main.Notice = kNotBuilt; // a tool button leads here, too
-        return;
+        return false;
     }
     if (!IsAvailable(program, id) || !program.main[id].Visible) {
-        return;
+        return false;
     }
     if (program.printing.CommandRunning) {
-        return; // the pages under way are the proposal's as it stands
+        return false; // the pages under way are the proposal's as it stands
     }
-    if (RefuseInPreview(program, id)) {
+    return !RefuseInPreview(program, id);
+}
+
+void Run(Program& program, CommandId id) {
+    if (!MayRun(program, id)) {
         return;
     }
-    if (IsUnder(entry, CommandId::mnuFile) || IsUnder(entry, CommandId::mnuFileFormat)) {
+    const Entry& entry = Find(id);
+    const bool leaves = id == CommandId::mnuFileExit; // the end of the run settles the label window itself
+    if (!leaves && (IsUnder(entry, CommandId::mnuFile) || IsUnder(entry, CommandId::mnuFileFormat))) {
         // What is saved, printed or left behind holds what was typed in the label window.
         modDesigner::CloseLabelWindow(program);
     }
-    if (entry.Run != nullptr) {
-        entry.Run(program);
+    if (entry.Run == nullptr) {
+        return;
+    }
+    const std::optional<FieldRef> before = program.main.Focus;
+    entry.Run(program);
+    if (program.main.Focus && program.main.Focus != before) {
+        modScroll::BringIntoView(program, *program.main.Focus);
     }
 }
 

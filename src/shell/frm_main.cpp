@@ -17,13 +17,15 @@ void frmMain::cmdClearMem_Click() {
 }
 
 void frmMain::cmdPreview_Click() {
-    modBlocks::FinishMove(program_);
-    modPrint::TogglePreview(program_);
+    const bool stands = modPrint::PreviewStands(program_);
+    commands::Run(program_, stands ? CommandId::mnuFileResume : CommandId::mnuFilePrintPreview);
 }
 
 void frmMain::cmdReCalc_Click() {
-    modBlocks::FinishMove(program_);
-    modTotals::cmdReCalc_Click(program_);
+    // The button tells the figures, the menu does not; what stands against one stands against the other.
+    if (commands::MayRun(program_, CommandId::mnuToolsRecalculate)) {
+        modTotals::cmdReCalc_Click(program_);
+    }
 }
 
 void frmMain::cmdTaxRate_Click() {
@@ -90,6 +92,8 @@ void frmMain::imgPage_Click(int index) {
     if (page == PageId::frmP6_1) {
         modFields::DropFocus(program_);
     } else {
-        modNavigate::Arrive(program_, {page, FieldKind::txt, page == PageId::frmP6 ? kDeposit : 0});
+        const FieldRef first{page, FieldKind::txt, page == PageId::frmP6 ? kDeposit : 0};
+        modNavigate::Arrive(program_, first);
+        modScroll::BringIntoView(program_, first);
     }
 }

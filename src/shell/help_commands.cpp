@@ -49,9 +49,6 @@ void mnuHelpVersion_Click(Program& program) {
     Tell(program, words);
     Guarded(program, "mnuHelpVersion", [&] {
         const std::string path = paths::ResolveDrive("c:\\QBPVersion.txt", program.folders.Drives);
-        if (files::Exists(path)) {
-            files::Delete(path); // also one that may only be read
-        }
         files::WriteWhole(path, words);
     });
 }

@@ -107,6 +107,18 @@ void ShowCaret(Program& program) {
     }
 }
 
+/// A key that moves the cursor or the focus shows where it went.
+void ShowTypingField(Program& program) {
+    if (const std::optional<FieldRef> focus = TypingField(program)) {
+        modScroll::BringIntoView(program, *focus);
+    }
+}
+
+bool MovesTheCursor(int keyCode) {
+    return keyCode == keys::kLeft || keyCode == keys::kRight || keyCode == keys::kHome ||
+           keyCode == keys::kEnd;
+}
+
 Taken FieldKeyDown(Program& program, const FieldRef& field, int keyCode, int shift) {
     if (!IsText(field)) {
         return modColumns::Box_KeyDown(program, field, keyCode, shift);
@@ -155,6 +167,9 @@ Taken KeyDown(Program& program, int keyCode, int shift, int selStart, int selLen
     if (taken == Taken::Yes) {
         ShowCaret(program);
     }
+    if (taken == Taken::Yes || MovesTheCursor(keyCode)) {
+        ShowTypingField(program);
+    }
     return taken;
 }
 
@@ -178,6 +193,7 @@ void Edited(Program& program, const FieldRef& field, std::string_view text, int 
     NoteTyped(program, field);
     modFields::TypeText(program, field, text, selStart, selLength);
     ShowCaret(program);
+    ShowTypingField(program);
 }
 
 void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view text, int selStart,
@@ -189,6 +205,7 @@ void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view 
     }
     modFields::TypeText(program, field, text, selStart, selLength);
     ShowCaret(program);
+    ShowTypingField(program);
 }
 
 void TellRefused(Program& program, int count) {
@@ -260,6 +277,7 @@ void MoveMarked(Program& program, const FieldRef& field, int to) {
 void FieldEntered(Program& program, const FieldRef& field) {
     modNavigate::Arrive(program, field);
     ShowCaret(program);
+    ShowTypingField(program);
 }
 
 void CursorMoved(Program& program, const FieldRef& field, int selStart, int selLength) {

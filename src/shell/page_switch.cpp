@@ -4,6 +4,7 @@
 #include "format/frm_label_props.h"
 #include "format/label_keys.h"
 #include "output/preview.h"
+#include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "pages/page_show.h"
 #include "program/errors.h"
@@ -12,6 +13,7 @@
 #include "program/windows.h"
 
 #include <algorithm>
+#include <cmath>
 #include <string_view>
 
 namespace modScroll {
@@ -42,6 +44,15 @@ void CentreOnScreen(Program& program) {
     const float twips = screen.TwipsPerPixel();
     main.Left = (static_cast<float>(screen.WidthInPixels()) * twips - main.Width) / 2;
     main.Top = (static_cast<float>(screen.HeightInPixels()) * twips - main.Height) / 2;
+}
+
+/// From one line of a page to the next; the final page, which has none, goes by the pages of lines.
+float RowPitch(const Program& program) {
+    const PageId front = program.main.PageInFront;
+    const PageId page = IsLinePage(front) ? front : PageId::frmP2;
+    const auto first = static_cast<std::size_t>(geometry::FirstRow(page));
+    const auto& areas = program.pages[page].txt;
+    return areas[first + 1].Top - areas[first].Top;
 }
 
 /// The strip is made wide enough for any screen first, then as wide as the window, and repaints before the
@@ -98,7 +109,7 @@ void UpdatePageButtons(Program& program, int pageIndex) {
     modDesigner::CloseLabelWindow(program);
     if (!program.guards.StartingUp && main.cmdPreview.Caption == "Resume Editing") {
         main.cmdPreview.Caption = "Print Preview";
-        modPrint::ResumeEditing(program, main.ActivePage);
+        modPrint::ResumeEditing(program, main.PageInFront);
     }
     for (ImageButton& button : main.imgPage) {
         button.Picture = 0;
@@ -149,6 +160,29 @@ void VScroll1_Change(Program& program) {
         return;
     }
     program.pages[main.PageInFront].Top = -static_cast<float>(main.VScroll1.Value);
+}
+
+void BringIntoView(Program& program, const FieldRef& field) {
+    const MainWindow& main = program.main;
+    const Page& page = program.pages[field.Page];
+    const TextArea& area = modFields::Area(program, field);
+    if (field.Page != main.PageInFront || page.InkShown || main.ClientHeight < 2 * area.Height) {
+        return;
+    }
+    const float beside = std::min(RowPitch(program), (main.ClientHeight - area.Height) / 2);
+    const auto shown = static_cast<float>(main.VScroll1.Value);
+    if (area.Top < shown) {
+        SetScroll(program, static_cast<int>(area.Top - beside));
+    } else if (area.Top + area.Height > shown + main.ClientHeight) {
+        SetScroll(program, static_cast<int>(area.Top + area.Height + beside - main.ClientHeight));
+    }
+}
+
+void Wheel(Program& program, int eighths) {
+    constexpr float kNotch = 120;
+    constexpr float kRows = 3;
+    const float rows = static_cast<float>(eighths) / kNotch * kRows;
+    SetScroll(program, program.main.VScroll1.Value - static_cast<int>(std::lround(rows * RowPitch(program))));
 }
 
 void PageKey(Program& program, int keyCode) {

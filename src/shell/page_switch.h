@@ -20,6 +20,14 @@ void PageKey(Program& program, int keyCode);
 void SetScroll(Program& program, int value);
 void VScroll1_Change(Program& program);
 
+/// Scrolls the page in front until the whole field shows with about a row beside it. A field that shows, one
+/// of another page and a page that is only ink leave the position alone.
+void BringIntoView(Program& program, const FieldRef& field);
+
+/// The mouse wheel, in eighths of a degree as the devices give them (120 a notch, up is more): a notch is
+/// three rows of the page.
+void Wheel(Program& program, int eighths);
+
 /// The main window has a new size or state. A window that is neither minimised nor maximised is centred on
 /// the screen; the information strip follows the width and pending events run, so that it repaints. Fits
 /// frmP1, whichever page is in front; that one stays where the person had it, preview and all. The floating

@@ -1,5 +1,6 @@
 #include "shell/preview_refusals.h"
 
+#include "output/preview.h"
 #include "program/program.h"
 #include "shell/command_table.h"
 
@@ -28,7 +29,7 @@ bool Edits(CommandId id) {
 } // namespace
 
 bool RefusedInPreview(const Program& program, CommandId id) {
-    return program.main.cmdPreview.Caption == "Resume Editing" && Edits(id);
+    return modPrint::PreviewStands(program) && Edits(id);
 }
 
 bool RefuseInPreview(Program& program, CommandId id) {

@@ -77,19 +77,14 @@ void CreateNewFUTFile(Program& program) {
     std::string name = std::string(wanted) + std::string(kExtension);
     if (const std::optional<std::string> taken = NameOnDisk(program, name)) {
         name = *taken;
-        if (program.platform.questions.MsgBox("File already exists. Overwrite?", Buttons::YesNo,
-                                              "Duplicate Frequent Terms File Exists",
-                                              kKeepsByDefault) != Answer::Yes) {
+        if (program.platform.questions.MsgBox(
+                "File already exists. Overwrite?", Buttons::YesNo, "Duplicate Frequent Terms File Exists",
+                {.Default = Answer::No, .Lost = "The terms of " + name}) != Answer::Yes) {
             return;
         }
     }
-    const bool made = Guarded(program, "CreateNewFUTFile", [&] {
-        const std::string path = PathOf(program, name);
-        if (files::Exists(path)) {
-            files::Delete(path);
-        }
-        files::WriteWhole(path, "");
-    });
+    const bool made =
+        Guarded(program, "CreateNewFUTFile", [&] { files::WriteWhole(PathOf(program, name), ""); });
     if (made) {
         OpenList(program, name);
     }

@@ -7,6 +7,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/saved_notice.h"
 #include "terms/term_line.h"
 
 #include <algorithm>
@@ -203,6 +204,7 @@ Saved SaveFrequentlyUsedTerms(Program& program, const Change& change) {
     });
     if (saved == Saved::Yes) {
         ReadFrequentlyUsedTerms(program);
+        TellSaved(program, "Terms list", program.terms.Path);
     }
     return held ? saved : Saved::Failed;
 }

@@ -2,6 +2,8 @@
 
 #include "addresses/address_fields.h"
 
+#include "proposal/property_file.h"
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -75,6 +77,52 @@ TEST(CompanyInfo, RewordsTheOpenFormatAndSaysThatItsFileIsBehind) {
     EXPECT_FALSE(name.Saved);
     EXPECT_TRUE(other.Saved);
     EXPECT_TRUE(format.Touched);
+}
+
+TEST(CompanyInfo, MovesTheLinesThatTheOpenFormatHasPlaced) {
+    CompanyRun run;
+    FormatRecords& format = run.program.format;
+    format.FormatOpen = true;
+    LabelChangeRecord& placed = format.FormatLabelChanges[PageId::frmP6][60];
+    placed.Changed = true;
+    placed.Saved = true;
+    placed.Top = 9000;
+    const LabelChangeRecord& other = format.FormatLabelChanges[PageId::frmP6][61];
+    const std::string told = "The open format still carries the old lines on disk; save it.";
+    run.Type(2, "Suite 2");
+    run.Questions().ExpectBox({told, Buttons::Ok, ""}, Answer::Ok);
+    run.Window().cmdSave_Click(run.program);
+    EXPECT_EQ(placed.Top, 9270);
+    EXPECT_FALSE(placed.Saved);
+    EXPECT_EQ(other.Top, 0) << "the format says nothing of it";
+    EXPECT_TRUE(format.Touched);
+    modWindows::Sweep(run.program);
+    modAddress::mnuEditCompInfo_Click(run.program);
+    run.Type(2, "Suite 3");
+    run.Window().cmdSave_Click(run.program);
+    EXPECT_EQ(placed.Top, 9270);
+    modWindows::Sweep(run.program);
+    modAddress::mnuEditCompInfo_Click(run.program);
+    run.Type(2, "");
+    run.Questions().ExpectBox({told, Buttons::Ok, ""}, Answer::Ok);
+    run.Window().cmdSave_Click(run.program);
+    EXPECT_EQ(placed.Top, 9000);
+}
+
+TEST(CompanyInfo, ChangesASavedProposalOnlyWhereItsOwnLayoutHasTheLine) {
+    CompanyRun run;
+    run.program.document.FileExists = true;
+    run.Type(0, "Birch & Sons");
+    run.Window().cmdSave_Click(run.program);
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+    LabelChangeRecord& own = run.program.format.PropLabelChanges[PageId::frmP1][0];
+    own.Changed = true;
+    modWindows::Sweep(run.program);
+    modAddress::mnuEditCompInfo_Click(run.program);
+    run.Type(0, "Cedar & Sons");
+    run.Window().cmdSave_Click(run.program);
+    EXPECT_TRUE(modFile::PropertiesChanged(run.program));
+    EXPECT_EQ(own.Caption, "Cedar & Sons");
 }
 
 TEST(CompanyInfo, WithTheAlternateLetterheadLeavesItEmpty) {

@@ -312,9 +312,12 @@ TEST(Calendar, APickedDayIsShadedAndCurrentAndSelectsNothing) {
     EXPECT_EQ(window.ShadedDay, 39469);
     EXPECT_EQ(window.lstDates.ListIndex, 1);
     EXPECT_EQ(window.lstDates.SelCount(), 0);
+    EXPECT_EQ(window.Picks, 1);
+    // A day without events shades nothing, and nothing is scrolled.
     window.PickDay(run.program, 1);
+    EXPECT_EQ(window.ShadedDay, 1);
     EXPECT_EQ(window.lstDates.ListIndex, 1);
-    EXPECT_EQ(window.Picks, 2);
+    EXPECT_EQ(window.Picks, 1);
 }
 
 std::vector<std::string> Printed(Dated& run) {

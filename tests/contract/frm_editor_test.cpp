@@ -316,4 +316,29 @@ TEST(Contract, HelpOpensItsTopic) {
     EXPECT_EQ(run.surroundings.shell.Opened.back(), run.program.folders.InstallFolder + "Help/editor.htm");
 }
 
+TEST(Contract, TheCaretIsWhereItWasWhenTheLineNumbersGo) {
+    Contracted run;
+    frmEditor& window = run.Open();
+    run.Replace(window, "one\r\ntwo");
+    window.Moved(7, 0);
+    window.cmdLines_Click(run.program);
+    EXPECT_EQ(window.SelStart, 0);
+    window.Moved(3, 0);
+    window.cmdLines_Click(run.program);
+    EXPECT_EQ(window.SelStart, 7);
+    EXPECT_EQ(window.lblCharCount.Caption, "Current Position = 7. Text contains 8 characters.");
+}
+
+TEST(Contract, WhenTheRunIsEndedFromOutsideAChangedWordingIsKeptInBackup) {
+    Contracted run;
+    frmEditor& window = run.Open();
+    modWindows::KeepUnsaved(run.program);
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Unnamed.contract.txt")); // nothing was changed
+    run.Replace(window, "Half is due now.\r\nThe rest later.");
+    window.cmdLines_Click(run.program); // the numbers are no part of it
+    modWindows::KeepUnsaved(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Unnamed.contract.txt"),
+              "Half is due now.\r\nThe rest later.");
+}
+
 } // namespace

@@ -1,5 +1,6 @@
 #include "contract/frm_notes.h"
 
+#include "base/text.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
 #include "proposal/proposal_open.h"
@@ -304,6 +305,60 @@ TEST(Footnotes, WithoutAPrinterItIsSaid) {
     run.program.run.NoPrinter = true;
     run.Boxes().ExpectBox({"Could not find Printer.", Buttons::Ok, ""}, Answer::Ok);
     run.Open().Choose(run.program, "mnuFilePrint");
+}
+
+TEST(Footnotes, LongLinesWithTabsArePrintedWithinTheMarginsToTheLastWord) {
+    Noted run;
+    frmNotes& window = run.Open();
+    std::string words;
+    for (int word = 100; word < 150; ++word) {
+        words += "word" + std::to_string(word) + " "; // 800 twips each: 40 000 of 11 160
+    }
+    window.txtNotes_Change(run.program,
+                           words + "\tbehind\t" + words + "\nMenu\t" + words + "\na\t\t\t\t\t\t\t\t\tz");
+    window.Choose(run.program, "mnuFilePrint");
+    std::string printed;
+    float y = 0;
+    for (const DrawCall& call : Printed(run)) {
+        EXPECT_GE(call.X, 540);
+        EXPECT_LE(call.X + 100 * static_cast<float>(text::RTrim(call.Text).size()), 12240 - 540) << call.Text;
+        EXPECT_GE(call.Y, y);
+        y = call.Y;
+        printed += call.Text;
+    }
+    EXPECT_EQ(printed, "Notes for Jane Roe" + words + "behind" + words + "Menu" + words + "az");
+}
+
+TEST(Footnotes, SaveAsOverAProposalWithFootnotesPutsThoseAsideAndBringsItsOwn) {
+    Noted run;
+    run.File("mine");
+    run.folder.Write("Proposals/Second.hef", "another's");
+    run.folder.Write("Proposals/Second.hxt", "another's notes");
+    run.folder.Write("Proposals/Second.dep", "Another\r\na\t\t$ 1.00");
+    run.Boxes().ExpectInput("Saving File As...", "Second");
+    run.Boxes().Expect("already exists. Overwrite?", Answer::Yes);
+    run.Boxes().Expect("File was saved as Second.hef");
+    modProposal::SaveEventFileAs(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Second.hxt"), "mine");
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Second.hxt.old"), "another's notes");
+    EXPECT_FALSE(run.folder.Has("Proposals/Second.dep"));
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Second.dep.old"), "Another\r\na\t\t$ 1.00");
+    EXPECT_EQ(run.File(), "mine");
+    EXPECT_EQ(run.Main().imgFootNotes.Picture, 1);
+}
+
+TEST(Footnotes, SaveAsTellsOfFootnotesThatCannotGoAlongAndTheDepositsGoAllTheSame) {
+    Noted run;
+    run.File("mine");
+    run.folder.Write("Proposals/Jane Roe.dep", "Jane Roe\r\na\t\t$ 500.00");
+    run.folder.MakeFolder("Proposals/Second.hxt");
+    run.Boxes().ExpectInput("Saving File As...", "Second");
+    run.Boxes().Expect("File was saved as Second.hef");
+    run.Boxes().Expect("An error occurred in SaveEventFileAs.");
+    modProposal::SaveEventFileAs(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Second.dep"), "Jane Roe\r\na\t\t$ 500.00");
+    EXPECT_EQ(run.File(), "mine");
+    EXPECT_EQ(run.Main().imgFootNotes.Picture, 0);
 }
 
 } // namespace

@@ -261,22 +261,22 @@ struct ChooserRun : DesktopRun {
         Press(Qt::Key_O, Qt::ControlModifier);
         view = window->findChild<FrmFileView*>(QStringLiteral("frmFile"));
         EXPECT_TRUE(Stands(view));
-        files = view->findChild<QListWidget*>(QStringLiteral("FileList1"));
+        files = view->findChild<FileTable*>(QStringLiteral("FileList1"));
         folders = view->findChild<QListWidget*>(QStringLiteral("Dir1"));
     }
     [[nodiscard]] QLabel* Label(const char* name) const {
         return view->findChild<QLabel*>(QLatin1String(name));
     }
     FrmFileView* view = nullptr;
-    QListWidget* files = nullptr;
+    FileTable* files = nullptr;
     QListWidget* folders = nullptr;
 };
 
 TEST(ChooserWindow, NothingIsChosenUntilThePersonChooses) {
     ChooserRun run;
     EXPECT_EQ(QApplication::focusWidget(), run.files);
-    EXPECT_EQ(run.files->count(), 3);
-    EXPECT_EQ(run.files->currentRow(), -1);
+    EXPECT_EQ(run.files->topLevelItemCount(), 3);
+    EXPECT_EQ(run.files->CurrentRow(), -1);
     EXPECT_FALSE(run.Label("lblOpenFileName")->isVisible());
     EXPECT_FALSE(run.view->findChild<QPushButton*>(QStringLiteral("cmdOpenOK"))->isEnabled());
     QTest::keyClick(run.view, Qt::Key_Escape);
@@ -297,13 +297,13 @@ TEST(ChooserWindow, TheFirstDownChoosesTheFirstFileAndReturnOpensIt) {
 
 TEST(ChooserWindow, AClickShowsThePanelAndReturnToListTakesItBack) {
     ChooserRun run;
-    const QRect second = run.files->visualItemRect(run.files->item(1));
+    const QRect second = run.files->visualItemRect(run.files->topLevelItem(1));
     QTest::mouseClick(run.files->viewport(), Qt::LeftButton, Qt::NoModifier, second.center());
     EXPECT_EQ(run.Label("lblOpenFileName")->text(), QStringLiteral("Bob.hef"));
     EXPECT_EQ(run.Label("lblPointOpen")->text(), QStringLiteral("Open"));
     QTest::mouseClick(run.view->findChild<QPushButton*>(QStringLiteral("cmdOpenBack")), Qt::LeftButton);
     EXPECT_FALSE(run.Label("lblOpenFileName")->isVisible());
-    EXPECT_EQ(run.files->currentRow(), -1);
+    EXPECT_EQ(run.files->CurrentRow(), -1);
     QTest::mouseClick(run.view->findChild<QPushButton*>(QStringLiteral("cmdOpenCancel")), Qt::LeftButton);
     EXPECT_EQ(run.program.document.FileName, "");
 }
@@ -318,18 +318,18 @@ TEST(ChooserWindow, FoldersOpenWithReturnOrADoubleClick) {
     }
     QTest::keyClick(run.folders, Qt::Key_Return);
     EXPECT_EQ(run.Label("lblFolder")->text().toStdString(), run.folder / "Proposals/2008/");
-    EXPECT_EQ(run.files->count(), 0);
+    EXPECT_EQ(run.files->topLevelItemCount(), 0);
     const QRect up = run.folders->visualItemRect(run.folders->item(0));
     QTest::mouseClick(run.folders->viewport(), Qt::LeftButton, Qt::NoModifier, up.center());
     QTest::mouseDClick(run.folders->viewport(), Qt::LeftButton, Qt::NoModifier, up.center());
     EXPECT_EQ(run.Label("lblFolder")->text().toStdString(), run.folder / "Proposals/");
-    EXPECT_EQ(run.files->count(), 3);
+    EXPECT_EQ(run.files->topLevelItemCount(), 3);
     QTest::keyClick(run.view, Qt::Key_Escape);
 }
 
 TEST(ChooserWindow, FoldersThatCameMeanwhileShowWhereTheyOpen) {
     ChooserRun run;
-    const QRect first = run.files->visualItemRect(run.files->item(0));
+    const QRect first = run.files->visualItemRect(run.files->topLevelItem(0));
     QTest::mouseClick(run.files->viewport(), Qt::LeftButton, Qt::NoModifier, first.center());
     std::filesystem::remove(run.folder / "Proposals/Ann.hef");
     run.folder.MakeFolder("Proposals/1999");
@@ -362,7 +362,7 @@ TEST(ChooserWindow, DeletesInDeleteModeAndSaysSo) {
     auto* view = run.window->findChild<FrmFileView*>(QStringLiteral("frmFile"));
     ASSERT_NE(view, nullptr);
     EXPECT_EQ(view->windowTitle(), QStringLiteral("Selecting Files to Delete"));
-    auto* files = view->findChild<QListWidget*>(QStringLiteral("FileList1"));
+    auto* files = view->findChild<FileTable*>(QStringLiteral("FileList1"));
     ASSERT_TRUE(Stands(view));
     QTest::keyClick(files, Qt::Key_Down);
     EXPECT_EQ(view->findChild<QLabel*>(QStringLiteral("lblPointOpen"))->text(), QStringLiteral("Delete"));
@@ -370,7 +370,7 @@ TEST(ChooserWindow, DeletesInDeleteModeAndSaysSo) {
     QTest::mouseClick(view->findChild<QPushButton*>(QStringLiteral("cmdOpenOK")), Qt::LeftButton);
     EXPECT_FALSE(run.folder.Has("Proposals/Ann.hef"));
     EXPECT_FALSE(run.folder.Has("Proposals/Ann.dep"));
-    EXPECT_EQ(files->count(), 1);
+    EXPECT_EQ(files->topLevelItemCount(), 1);
     EXPECT_EQ(view->windowTitle(), QStringLiteral("Delete File..."));
     QTest::keyClick(view, Qt::Key_Escape);
 }

@@ -3,6 +3,7 @@
 #include "desktop/desktop_run.h"
 #include "desktop/paper_surface.h"
 #include "output/print_page.h"
+#include "pages/logo.h"
 #include "pages/page_geometry.h"
 #include "pages/row_fields.h"
 
@@ -431,6 +432,90 @@ TEST(LiveLogo, LiesOverTheLabelsAsOnPaper) {
         EXPECT_EQ(live.pixelColor(x, corner.center().y()), QColor(0x20, 0x40, 0x60));
     }
 }
+
+/// A white picture with a dark core, so that a border round it shows; `wide` by `high` points.
+std::string CoreInWhite(const ScratchFolder& folder, int wide, int high) {
+    QImage picture(wide, high, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter(&picture).fillRect(wide / 4, high / 4, wide / 2, high / 2, QColor(0x20, 0x40, 0x60));
+    const std::string file = folder / "core.png";
+    EXPECT_TRUE(picture.save(QString::fromStdString(file)));
+    return file;
+}
+
+/// The same in lines, which have no points of their own.
+std::string CoreInLines(const ScratchFolder& folder) {
+    folder.Write("core.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='96' height='64'>"
+                             "<rect x='24' y='16' width='48' height='32' fill='#204060'/></svg>");
+    return folder / "core.svg";
+}
+
+enum class Border { Without, With };
+struct LogoCase {
+    const char* Name;
+    std::string (*Make)(const ScratchFolder&);
+    Border Edge;
+    PictureSize Shown; ///< twips
+};
+
+class LogoOnPaper : public testing::TestWithParam<LogoCase> {};
+
+TEST_P(LogoOnPaper, IsTheLogoOnTheScreenAndOfThePreview) {
+    FullProposal run(Letterhead::Own);
+    PagePicture& pic = run.On(PageId::frmP1).pic;
+    const std::string file = GetParam().Make(run.folder);
+    run.recording.pictures.Known[file] = QtPictures().Load(file).value_or(PictureSize{});
+    ASSERT_TRUE(modLogo::ShowLogo(run.program, file));
+    EXPECT_FLOAT_EQ(pic.Size.Width, GetParam().Shown.Width);
+    EXPECT_FLOAT_EQ(pic.Size.Height, GetParam().Shown.Height);
+    pic.Left = 720;
+    pic.Top = 9700; // between the venue's box and the first row
+    pic.BorderStyle = GetParam().Edge == Border::With ? 1 : 0;
+    run.window->AfterEvent();
+    const QImage paper = Paper(run, run.Print(), 1);
+    run.WhitenFields();
+    const std::string live = std::string(GetParam().Name) + "Live";
+    ExpectSame(run.Screen(PageId::frmP1), paper, live.c_str(), PageId::frmP1);
+    run.window->MenuTree().Action(CommandId::mnuFilePrintPreview)->trigger();
+    ExpectSame(run.Screen(PageId::frmP1), paper, GetParam().Name, PageId::frmP1);
+    // Its border lies within the picture's place; nothing else of the page stands along its upper edge.
+    const auto pixel = [](float twips) {
+        return static_cast<int>(std::lround(static_cast<double>(twips) * kDpi / kTwipsPerInch));
+    };
+    int dark = 0;
+    for (int x = pixel(pic.Left) + 4; x < pixel(pic.Left + pic.Size.Width) - 4; ++x) {
+        dark += qGray(paper.pixel(x, pixel(pic.Top))) < 128 || qGray(paper.pixel(x, pixel(pic.Top) + 1)) < 128
+                    ? 1
+                    : 0;
+    }
+    const int wide = pixel(pic.Size.Width) - 8;
+    EXPECT_EQ(dark > wide * 9 / 10, GetParam().Edge == Border::With) << dark << " of " << wide;
+    // The core reaches from a quarter to three quarters of it, in one colour.
+    EXPECT_EQ(
+        paper.pixelColor(pixel(pic.Left + pic.Size.Width * 0.27F), pixel(pic.Top + pic.Size.Height / 2)),
+        QColor(0x20, 0x40, 0x60));
+    EXPECT_NE(
+        paper.pixelColor(pixel(pic.Left + pic.Size.Width * 0.23F), pixel(pic.Top + pic.Size.Height / 2)),
+        QColor(0x20, 0x40, 0x60));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    AllKinds, LogoOnPaper,
+    testing::Values(LogoCase{"Points",
+                             [](const ScratchFolder& f) { return CoreInWhite(f, 96, 64); },
+                             Border::Without,
+                             {1440, 960}},
+                    LogoCase{"PointsWithBorder",
+                             [](const ScratchFolder& f) { return CoreInWhite(f, 96, 64); },
+                             Border::With,
+                             {1440, 960}},
+                    LogoCase{"Lines", CoreInLines, Border::Without, {1440, 960}},
+                    LogoCase{"LinesWithBorder", CoreInLines, Border::With, {1440, 960}},
+                    LogoCase{"ScaledIntoItsBox",
+                             [](const ScratchFolder& f) { return CoreInWhite(f, 1440, 1152); },
+                             Border::With,
+                             {5400, 4320}}),
+    [](const auto& logo) { return logo.param.Name; });
 
 TEST(Logo, OnceReadItStaysThoughItsFileGoesAndANewOneIsSeen) {
     const ScratchFolder folder;

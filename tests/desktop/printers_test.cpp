@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QFile>
 #include <QFileDialog>
+#include <QImage>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -192,6 +193,30 @@ TEST(Paper, AFileThatCannotBeWrittenIsAFailure) {
     press.printers.EndCommand();
     EXPECT_FALSE(PdfText(press.pdf, 1).contains(QStringLiteral("lost")));
     EXPECT_TRUE(PdfText(press.pdf, 1).contains(QStringLiteral("kept")));
+}
+
+TEST(Paper, KeepsEveryPointOfALogo) {
+    Press press;
+    QImage noise(64, 64, QImage::Format_RGB32);
+    for (int y = 0; y < noise.height(); ++y) {
+        for (int x = 0; x < noise.width(); ++x) {
+            noise.setPixel(x, y, qRgb(x * 37 % 256, y * 61 % 256, (x * y) % 256));
+        }
+    }
+    const QString logo = QString::fromStdString(press.folder / "noise.png");
+    ASSERT_TRUE(noise.save(logo));
+    std::string told;
+    press.printers.Written = [&](const std::string& path) { told = path; };
+    press.Paper().PaintPicture({PictureRef::Source::File, logo.toStdString()}, 1440, 1440,
+                               PictureSize{2880, 2880});
+    press.Paper().EndDoc();
+    press.printers.EndCommand();
+    EXPECT_EQ(told, press.pdf.toStdString());
+    QFile file(press.pdf);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    EXPECT_TRUE(bytes.contains("/Subtype /Image"));
+    EXPECT_FALSE(bytes.contains("DCTDecode")) << "a lossy picture";
 }
 
 TEST(Paper, LeavesNoHalfAFileOnAFullDisk) {

@@ -2,6 +2,7 @@
 #include "desktop/desktop_run.h"
 #include "desktop/frm_calc_view.h"
 #include "desktop/frm_fut_view.h"
+#include "desktop/mnemonics.h"
 #include "pages/fields.h"
 #include "program/windows.h"
 #include "search/frm_sr.h"
@@ -246,9 +247,9 @@ TEST(WindowTerms, ArrowsAndEnterWorkTheList) {
 TEST(WindowTerms, TheButtonsAndTheListOfListsFollow) {
     TermsDesktop run;
     auto* toggle = run.Find<QPushButton>("cmdOpt(0)");
-    EXPECT_EQ(toggle->text(), QStringLiteral("Disable Auto Complete"));
+    EXPECT_EQ(mnemonics::Plain(toggle->text()), QStringLiteral("Disable Auto Complete"));
     QTest::mouseClick(toggle, Qt::LeftButton);
-    EXPECT_EQ(toggle->text(), QStringLiteral("Enable Auto Complete"));
+    EXPECT_EQ(mnemonics::Plain(toggle->text()), QStringLiteral("Enable Auto Complete"));
     EXPECT_FALSE(run.program.run.ACEnabled);
     run.Click(kSecond, 0);
     run.Press(Qt::Key_F5);

@@ -1,4 +1,6 @@
 #include "desktop/desktop_run.h"
+#include "desktop/elided_label.h"
+#include "desktop/window_run.h"
 #include "program/windows.h"
 #include "shell/command_run.h"
 #include "support/running_program.h"
@@ -7,6 +9,7 @@
 #include <QDialog>
 #include <QImage>
 #include <QPushButton>
+#include <QScreen>
 #include <QStyle>
 #include <QTest>
 
@@ -165,27 +168,40 @@ TEST(DarkTheme, SmallWindowsCanBeRead) {
     }
 }
 
+/// Nothing is cut off: every label and button has the room that its words need.
+void ExpectWordsWhole(const QWidget& view, const std::string& name) {
+    for (const QWidget* part : view.findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<const QLabel*>(part);
+        const bool elided = qobject_cast<const ElidedLabel*>(part) != nullptr;
+        const bool words =
+            (label != nullptr && !label->wordWrap()) || qobject_cast<const QAbstractButton*>(part) != nullptr;
+        if (words && !elided && part->isVisible()) {
+            EXPECT_GE(part->width(), part->minimumSizeHint().width())
+                << name << ' ' << part->objectName().toStdString();
+        }
+    }
+}
+
 TEST(LightTheme, SmallWindowsAsTheyLook) {
     for (const CommandId id :
          {CommandId::mnuFileOpenEvent, CommandId::mnuOptPrinter, CommandId::mnuOptACStart,
-          CommandId::mnuOptSalesTax, CommandId::mnuOptUserPref, CommandId::mnuToolsPrinterOffsets}) {
-        DesktopRun run;
-        commands::Run(run.program, id);
-        run.window->AfterEvent();
-        const std::string name(modWindows::TopModal(run.program)->Name());
+          CommandId::mnuOptSalesTax, CommandId::mnuOptUserPref, CommandId::mnuToolsPrinterOffsets,
+          CommandId::mnuEditAllTextFonts, CommandId::mnuEditTitles, CommandId::mnuToolsSnap,
+          CommandId::mnuEditFind, CommandId::mnuManageEditor, CommandId::mnuManageDeposits,
+          CommandId::mnuFileOpenFootnotes, CommandId::mnuFileOpenAddressBook}) {
+        WindowRun run;
+        const std::size_t before = run.program.windows.Open.size();
+        run.Command(id);
+        ASSERT_GT(run.program.windows.Open.size(), before) << static_cast<int>(id);
+        const std::string name(run.program.windows.Open.back()->Name());
         auto* view = run.window->findChild<QDialog*>(QString::fromStdString(name));
-        EXPECT_TRUE(QTest::qWaitFor([view] { return QApplication::activeWindow() == view; }));
+        ASSERT_NE(view, nullptr) << name;
+        EXPECT_TRUE(QTest::qWaitFor([view] { return QApplication::activeWindow() == view; })) << name;
         Look(*view, ("light_" + name).c_str());
-        // Nothing is cut off: every label and button has the room that its words need.
-        for (QWidget* part : view->findChildren<QWidget*>()) {
-            const auto* label = qobject_cast<QLabel*>(part);
-            const bool words =
-                (label != nullptr && !label->wordWrap()) || qobject_cast<QAbstractButton*>(part) != nullptr;
-            if (words && part->isVisible()) {
-                EXPECT_GE(part->width(), part->minimumSizeHint().width())
-                    << name << ' ' << part->objectName().toStdString();
-            }
-        }
+        ExpectWordsWhole(*view, name);
+        const QSize screen = view->screen()->availableSize();
+        EXPECT_LE(view->width(), screen.width()) << name;
+        EXPECT_LE(view->height(), screen.height()) << name;
         QTest::keyClick(view, Qt::Key_Escape);
     }
 }

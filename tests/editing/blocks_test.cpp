@@ -520,6 +520,10 @@ TEST(Paste, AsksBeforeItWritesOverText) {
     PasteAt(run, kSecond, 10);
     EXPECT_EQ(run.TextOf(kSecond, 10), "");
     EXPECT_EQ(run.TextOf(kSecond, 11), "Lamps");
+    const auto& manners = run.surroundings.questions.Manners;
+    EXPECT_TRUE(std::any_of(manners.begin(), manners.end(), [](const Manner& manner) {
+        return manner.Lost == "The texts of Page 2, lines 11 to 12" && manner.Default == Answer::No;
+    }));
     run.surroundings.questions.ExpectBox({kAskOver, Buttons::YesNo, kAskTitle}, Answer::Yes);
     PasteAt(run, kSecond, 10);
     EXPECT_EQ(run.TextOf(kSecond, 11), "Linen");

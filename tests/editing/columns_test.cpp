@@ -73,7 +73,7 @@ TEST(ColumnsKey, CountsAsAKeyButLeavesCursorAndLastKeyAlone) {
     EXPECT_EQ(run.program.editing.KeyCounter, counted + 1);
     EXPECT_EQ(run.program.editing.LastKeyChar, "B");
     typist.Press(keys::kDelete);
-    EXPECT_EQ(run.program.editing.KeyCounter, counted + 1) << "keys in the boxes do not count";
+    EXPECT_EQ(run.program.editing.KeyCounter, counted + 2) << "keys in the boxes count";
 }
 
 TEST(ColumnsCommand, OnTheAreaBeforeTheLinesOfTheClientPageIsOfferedAndDoesNothing) {

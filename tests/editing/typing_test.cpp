@@ -525,6 +525,25 @@ TEST(AutomaticBackup, RunsOnTheTwentiethKeyButNotInTheClientsName) {
     EXPECT_EQ(run.program.editing.KeyCounter, 0);
 }
 
+TEST(AutomaticBackup, KeysInQuantitiesAndPricesCount) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(kFirst, 2);
+    typist.Type("Ann");
+    typist.Click(kFirst, 12);
+    typist.Press(keys::kF8);
+    run.program.editing.KeyCounter = 0;
+    typist.Click({kFirst, FieldKind::txtQty, 12});
+    typist.Type("1234567890");
+    typist.Click({kFirst, FieldKind::txtAmt, 12});
+    typist.Type("123456789");
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Ann.hef"));
+    typist.Type("0");
+    EXPECT_TRUE(run.folder.Has("Proposals/Backup/Ann.hef"));
+    EXPECT_EQ(run.program.editing.KeyCounter, 0);
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{kFirst, FieldKind::txtAmt, 12}));
+}
+
 TEST(Focus, OfTheFinalPageHasNoCyan) {
     RunningProgram run;
     Typist typist(run.program);

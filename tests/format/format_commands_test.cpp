@@ -43,6 +43,10 @@ struct Formats : RunningProgram {
         Chooser().cmdOpenOK_Click(program);
         modWindows::Sweep(program);
     }
+    void OpenProposal(std::string_view name) {
+        modProposal::mnuFileOpenEvent_Click(program);
+        Choose(name);
+    }
     void ExpectNoFormat() {
         EXPECT_FALSE(program.format.FormatOpen);
         EXPECT_EQ(program.format.FormatName, "");
@@ -290,6 +294,57 @@ TEST(FormatSave, AClientsDataAreAskedForAndLayoutOnlyWritesNoneOfThem) {
               "frmP1.txt(2).Text=Jane Roe\r\nfrmP1.txt(10).Text=Arch\r\n" + std::string(kHouse));
 }
 
+/// Everything that the client's file has in its amounts.
+TEST(FormatSave, AmountsOfAnOpenedProposalAreNoPartOfAFormat) {
+    Formats run;
+    run.Open();
+    run.OpenProposal("Jane Roe.hef");
+    run.program.format.LogoChanged = true;
+    run.Questions().Expect("Shall the texts", Answer::No);
+    modFormat::mnuFileFormatSave_Click(run.program);
+    const std::string file = run.folder.Read("Proposals/House.fmt");
+    EXPECT_NE(file.find("frmP1.txt(10).Text=Ceremony arch\r\n"), std::string::npos);
+    for (const char* amount : {"frmP1.txt(20).Text", "frmP1.txt(21).Text", "1,250.00", "75.50", "59.97"}) {
+        EXPECT_EQ(file.find(amount), std::string::npos) << amount;
+    }
+}
+
+TEST(FormatSave, AnAmountThatSomebodyWroteIntoTheFileStays) {
+    Formats run;
+    run.folder.Write("Proposals/Fee.fmt", "frmP1.txt(20).Text=5.00\r\n" + std::string(kHouse));
+    run.Open("Fee.fmt");
+    run.program.format.LogoChanged = true;
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Fee.fmt"), "frmP1.txt(20).Text=5.00\r\n" + std::string(kHouse));
+}
+
+TEST(FormatSave, LayoutOnlyDoesNotTellWhoseProposalItWasMadeWith) {
+    Formats run;
+    run.Open();
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Jane Roe");
+    run.Drag(33);
+    modDesigner::lbl_MouseDown(run.program, PageId::frmP6, 64, modDesigner::kLeftButton, 0, 0);
+    modDesigner::lbl_MouseUp(run.program, PageId::frmP6, 64);
+    run.Questions().Expect("Shall the texts", Answer::Yes);
+    modFormat::mnuFileFormatSave_Click(run.program);
+    const std::string file = run.folder.Read("Proposals/House.fmt");
+    EXPECT_EQ(file.find("Jane"), std::string::npos) << file;
+    EXPECT_NE(file.find(".Caption=Proposal for (Client's Name) .FontName="), std::string::npos) << file;
+    EXPECT_NE(file.find(".Caption=Proposal for (Client's Name) - Our Copy .FontName="), std::string::npos)
+        << file;
+    // The one that was moved stays where it is, the other stands in the middle with the next client's name.
+    const float left = run.Label(PageId::frmP1, 33).Left;
+    const PageLabel before = run.Label(PageId::frmP6, 64);
+    run.Questions().Expect("Some text has been changed.", Answer::No);
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Left, left);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Jane Roe");
+    EXPECT_EQ(run.Label(PageId::frmP6, 64), before);
+}
+
 TEST(FormatSave, ALogoWithoutAFontWritesAllLinesAndThenReports) {
     Formats run;
     run.program.run.DefaultFontName = "";
@@ -352,6 +407,50 @@ TEST(FormatDelete, TheDefaultFormatIsForgottenInTheSettings) {
     modFormat::mnuFileFormatDelete_Click(run.program);
     EXPECT_TRUE(run.HasSetting("Default File Format:"));
     EXPECT_TRUE(run.HasSetting("Load Default Format:False"));
+}
+
+TEST(FormatDelete, TheDefaultFormatIsKnownByAPathWithADriveToo) {
+    Formats run;
+    run.program.folders.Drives.Home = run.folder.Path();
+    run.program.settings.DefaultFormatPath = "c:\\Proposals\\House.fmt";
+    run.program.settings.LoadDefaultFormat = true;
+    modProposal::mnuFileNew_Click(run.program);
+    ASSERT_TRUE(run.program.format.FormatOpen);
+    run.Questions().Expect("Are you sure", Answer::Yes);
+    run.Questions().Expect("This was the default format.");
+    modFormat::mnuFileFormatDelete_Click(run.program);
+    EXPECT_EQ(run.program.settings.DefaultFormatPath, "");
+}
+
+TEST(FormatDelete, ChangesThatGoWithTheFileAreNamed) {
+    Formats run;
+    run.Open();
+    run.Drag(9);
+    run.Questions().Expect("Some text has been changed.", Answer::No);
+    run.Questions().Expect("Are you sure", Answer::No);
+    modFormat::mnuFileFormatDelete_Click(run.program);
+    EXPECT_EQ(run.Questions().Manners.back().Lost, "The format House.fmt has changes that are not saved.");
+}
+
+TEST(FormatCommands, LeaveTheBackupsWithTheProposalThatWasOpenedThere) {
+    for (const bool clear : {true, false}) {
+        Formats run;
+        run.folder.Write("Proposals/Backup/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+        modProposal::mnuFileOpenEvent_Click(run.program);
+        const auto& folders = run.Chooser().Dir1.Items;
+        const auto backup = std::find(folders.begin(), folders.end(), "Backup");
+        run.Chooser().Dir1_Change(run.program, static_cast<int>(backup - folders.begin()));
+        run.Choose("Jane Roe.hef");
+        ASSERT_TRUE(run.program.document.FromBackup);
+        if (clear) {
+            run.Questions().ExpectBox(kClearQuestion, Answer::Yes);
+            modFormat::mnuFileFormatNew_Click(run.program);
+        } else {
+            run.Open();
+        }
+        EXPECT_FALSE(run.program.document.FromBackup);
+        EXPECT_EQ(run.program.document.FilePath, run.folder / "Proposals/");
+    }
 }
 
 TEST(FormatDelete, AFileThatHasGoneMeanwhileIsToldAndTheFormatStays) {

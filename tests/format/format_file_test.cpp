@@ -17,6 +17,7 @@
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
 #include "support/running_program.h"
+#include "support/sequences.h"
 #include "support/typist.h"
 
 #include <gtest/gtest.h>
@@ -78,6 +79,26 @@ TEST(FormatFile, ARowsProductCountsAtOnceAndNothingIsUnsaved) {
     EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Jane Roe");
     EXPECT_FALSE(modProposal::SomethingChanged(run.program));
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+}
+
+TEST(FormatFile, AClientsNameMakesTheProposalsNamesAsTypingDoes) {
+    Laid laid;
+    laid.Lay({"frmP1.txt(2).Text= Jane Roe  "});
+    Laid typed;
+    Typist typist(typed.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type(" Jane Roe  ");
+    const DocumentState& one = laid.program.document;
+    const DocumentState& other = typed.program.document;
+    EXPECT_EQ(one.FileName, "Jane Roe.hef");
+    EXPECT_EQ(one.FileName, other.FileName);
+    EXPECT_EQ(one.BaseName, other.BaseName);
+    EXPECT_EQ(one.DepositFile, other.DepositFile);
+    EXPECT_EQ(one.FootnoteFile, other.FootnoteFile);
+    EXPECT_EQ(one.TextFileName, other.TextFileName);
+    EXPECT_EQ(one.ClientCaption, other.ClientCaption);
+    EXPECT_EQ(one.HasClient, other.HasClient);
+    EXPECT_EQ(laid.Label(PageId::frmP4, 36), typed.Label(PageId::frmP4, 36));
 }
 
 TEST(FormatFile, LabelsOfTheFinalPageReachBothCopiesButForTheTitlesWords) {
@@ -163,12 +184,12 @@ TEST(FormatFile, AnOpenedProposalIsTheSameUnderAFormatThatFillsEveryRow) {
                 all.push_back(record.txt[index].Text);
                 if (IsLinePage(page)) {
                     all.push_back(record.imgNoTax[index].Tag);
-                    const auto& props = run.program.format.PropTextChanges
-                                            .Each[static_cast<std::size_t>(IndexOf(page))][index];
-                    const auto& kept = run.program.format.FormatTextChanges
-                                           .Each[static_cast<std::size_t>(IndexOf(page))][index];
-                    all.push_back(props.Text + props.QtyValue + props.AmtValue);
-                    all.push_back(kept.Text + (kept.TaxExempt ? "x" : ""));
+                    const auto& props = run.program.format.PropTextChanges[page][index];
+                    const auto& kept = run.program.format.FormatTextChanges[page][index];
+                    for (const TextChangeRecord& record : {props, kept}) {
+                        all.push_back(record.Text + "|" + record.QtyValue + "|" + record.AmtValue +
+                                      (record.TaxExempt ? "x" : "") + (record.QtyBox ? "q" : ""));
+                    }
                 }
             }
             for (std::size_t row = 0; row < record.txtQty.size(); ++row) {
@@ -406,16 +427,12 @@ std::string RoundTrip(Laid& run, const std::vector<std::string>& start, unsigned
 }
 
 TEST(FormatFile, ComesBackByteForByteFromRandomStates) {
-#ifdef NDEBUG
-    constexpr unsigned kSeeds = 20000;
-#else
-    constexpr unsigned kSeeds = 1000;
-#endif
+    const unsigned seeds = SequencesAsked(1000, 20000);
     constexpr int kMostChanges = 40;
     constexpr unsigned kStatesInARow = 10;
     Laid run;
     std::vector<std::string> start;
-    for (unsigned seed = 1; seed <= kSeeds; ++seed) {
+    for (unsigned seed = 1; seed <= seeds; ++seed) {
         if (seed % kStatesInARow == 1) {
             start.clear();
             run.program.format.FormatOpen = false;
@@ -443,9 +460,9 @@ TEST(FormatFile, ComesBackByteForByteFromRandomStates) {
 }
 
 TEST(PropertyLines, ComeBackByteForByteFromRandomStates) {
-    constexpr unsigned kSeeds = 500;
+    const unsigned seeds = SequencesAsked(500, 20000);
     Laid run;
-    for (unsigned seed = 1; seed <= kSeeds; ++seed) {
+    for (unsigned seed = 1; seed <= seeds; ++seed) {
         FormatRecords& format = run.program.format;
         format.FormatOpen = false;
         static_cast<void>(modReset::StartNewFile(run.program));

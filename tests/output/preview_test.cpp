@@ -76,13 +76,22 @@ TEST(Preview, EndsWhenAPageIsChosen) {
     }
 }
 
-TEST(Preview, OfTheClientsCopyDrawsThePageShownBeforeIt) {
+TEST(Preview, OfTheClientsCopyShowsThatPagesPaper) {
     RunningProgram run;
     person::TurnTo(run.program, 2);
     person::TurnTo(run.program, 6);
+    const int drawn = run.program.pages[PageId::frmP6_1].InkVersion;
     modPrint::TogglePreview(run.program);
-    EXPECT_TRUE(run.program.pages[PageId::frmP3].InkShown);
+    EXPECT_TRUE(run.program.pages[PageId::frmP6_1].InkShown);
+    EXPECT_GT(run.program.pages[PageId::frmP6_1].InkVersion, drawn);
+    EXPECT_FALSE(run.program.pages[PageId::frmP3].InkShown);
+    EXPECT_EQ(run.program.printing.PrintFormName, "frmP6_1");
+    modPrint::TogglePreview(run.program);
     EXPECT_FALSE(run.program.pages[PageId::frmP6_1].InkShown);
+    modPrint::TogglePreview(run.program);
+    person::TurnTo(run.program, 0);
+    EXPECT_FALSE(run.program.pages[PageId::frmP6_1].InkShown);
+    EXPECT_EQ(run.program.main.cmdPreview.Caption, "Print Preview");
 }
 
 TEST(Preview, StaysWhenTheWindowChangesItsSize) {

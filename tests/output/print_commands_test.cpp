@@ -122,6 +122,19 @@ TEST(PrintAll, SuggestsTheProposalsOwnName) {
               run.folder.Path() + "Proposals/Proposal.pdf");
 }
 
+TEST(PrintPage, SuggestsANameWithThePageInIt) {
+    Proposal run(2);
+    run.program.document.FilePath = run.folder.Path() + "Proposals/";
+    run.program.document.BaseName = "Jane Roe";
+    modPrint::mnuFilePrintPage_Click(run.program, PageId::frmP1);
+    modPrint::mnuFilePrintPage_Click(run.program, PageId::frmP6);
+    modPrint::mnuFilePrintPage_Click(run.program, PageId::frmP6_1);
+    const auto& commands = run.surroundings.printers.Commands;
+    EXPECT_EQ(commands.at(0).SuggestedFile, run.folder.Path() + "Proposals/Jane Roe, Page 1.pdf");
+    EXPECT_EQ(commands.at(1).SuggestedFile, run.folder.Path() + "Proposals/Jane Roe, Page 6.pdf");
+    EXPECT_EQ(commands.at(2).SuggestedFile, run.folder.Path() + "Proposals/Jane Roe, Page 6 Copy.pdf");
+}
+
 TEST(PrintAll, LosesOnlyThePageThatFails) {
     Proposal run(2);
     int ended = 0;

@@ -1,3 +1,5 @@
+#include "base/dates.h"
+#include "base/files.h"
 #include "program/windows.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
@@ -7,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -356,6 +359,95 @@ TEST(Chooser, InDeleteModeAFileThatVanishedIsTold) {
     run.surroundings.questions.Expect("An error occurred in frmFile.");
     window.cmdOpenOK_Click(run.program);
     EXPECT_EQ(window.FileList1.Items, std::vector<std::string>{"Jane Roe.hef"});
+}
+
+/// Three proposals whose orders by name, date and size are three different ones.
+struct Sorting : Choosing {
+    Sorting() {
+        std::filesystem::remove(folder / "Proposals/Jane Roe.hef");
+        constexpr std::size_t kMega = std::size_t{1024} * 1024;
+        Make("Ann.hef", 2048, 10);
+        Make("bob.hef", 1, 30);
+        Make("Carl.hef", 3 * kMega, 20);
+    }
+    void Make(const std::string& name, std::size_t size, int minutesAgo) const {
+        folder.Write("Proposals/" + name, std::string(size, 'x'));
+        std::filesystem::last_write_time(folder / ("Proposals/" + name),
+                                         std::filesystem::file_time_type::clock::now() -
+                                             std::chrono::minutes(minutesAgo));
+    }
+    using Names = std::vector<std::string>;
+};
+
+TEST(ChooserColumns, TellDateAndSizeOfEveryFile) {
+    Sorting run;
+    const frmFile& window = run.Show();
+    EXPECT_EQ(window.FileList1.Items, (Sorting::Names{"Ann.hef", "bob.hef", "Carl.hef"}));
+    EXPECT_EQ(window.FileSizes, (Sorting::Names{"2.0 KB", "1 byte", "3.0 MB"}));
+    ASSERT_EQ(window.FileDates.size(), 3U);
+    for (std::size_t row = 0; row < 3; ++row) {
+        const std::string path = run.folder / ("Proposals/" + window.FileList1.Items[row]);
+        EXPECT_EQ(window.FileDates[row], dates::GeneralDate(files::ModifiedSerial(path)));
+    }
+}
+
+TEST(ChooserColumns, SortNewestAndLargestFirstAndTheOtherWayAgain) {
+    Sorting run;
+    frmFile& window = run.Show();
+    window.FileList1_ColumnClick(run.program, FileColumn::Modified);
+    EXPECT_EQ(window.FileList1.Items, (Sorting::Names{"Ann.hef", "Carl.hef", "bob.hef"}));
+    window.FileList1_ColumnClick(run.program, FileColumn::Modified);
+    EXPECT_EQ(window.FileList1.Items, (Sorting::Names{"bob.hef", "Carl.hef", "Ann.hef"}));
+    window.FileList1_ColumnClick(run.program, FileColumn::Size);
+    EXPECT_EQ(window.FileList1.Items, (Sorting::Names{"Carl.hef", "Ann.hef", "bob.hef"}));
+    EXPECT_EQ(window.FileSizes, (Sorting::Names{"3.0 MB", "2.0 KB", "1 byte"}));
+    window.FileList1_ColumnClick(run.program, FileColumn::Name);
+    EXPECT_EQ(window.FileList1.Items, (Sorting::Names{"Ann.hef", "bob.hef", "Carl.hef"}));
+    window.FileList1_ColumnClick(run.program, FileColumn::Name);
+    EXPECT_EQ(window.FileList1.Items, (Sorting::Names{"Carl.hef", "bob.hef", "Ann.hef"}));
+}
+
+TEST(ChooserColumns, TheChosenFileStaysChosenInAnotherOrder) {
+    Sorting run;
+    frmFile& window = run.Show();
+    run.Select(window, "bob.hef");
+    window.FileList1_ColumnClick(run.program, FileColumn::Modified);
+    EXPECT_EQ(window.FileList1.ListIndex, 2);
+    EXPECT_TRUE(window.picFileOpen);
+    EXPECT_EQ(window.lblOpenFileName.Caption, "bob.hef");
+}
+
+TEST(ChooserFilter, LeavesOutNamesWithoutItsCharactersInAnyCase) {
+    Sorting run;
+    frmFile& window = run.Show();
+    window.txtFilter_Change(run.program, "B");
+    EXPECT_EQ(window.FileList1.Items, Sorting::Names{"bob.hef"});
+    EXPECT_EQ(window.FileSizes, Sorting::Names{"1 byte"});
+    window.txtFilter_Change(run.program, "zz");
+    EXPECT_TRUE(window.FileList1.Items.empty());
+    window.txtFilter_Change(run.program, "");
+    EXPECT_EQ(window.FileList1.Items.size(), 3U);
+}
+
+TEST(ChooserFilter, AFileThatNoLongerShowsIsNoLongerChosen) {
+    Sorting run;
+    frmFile& window = run.Show();
+    run.Select(window, "Ann.hef");
+    window.txtFilter_Change(run.program, "a"); // Ann and Carl
+    EXPECT_TRUE(window.picFileOpen);
+    window.txtFilter_Change(run.program, "carl");
+    EXPECT_FALSE(window.picFileOpen);
+    EXPECT_EQ(window.FileList1.ListIndex, -1);
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_NE(modWindows::Find(run.program, "frmFile"), nullptr) << "nothing is opened";
+}
+
+TEST(ChooserFilter, GoesWithItsFolder) {
+    Sorting run;
+    frmFile& window = run.Show();
+    window.txtFilter_Change(run.program, "bob");
+    run.Enter(window, "2008");
+    EXPECT_EQ(window.txtFilter.Text, "");
 }
 
 } // namespace

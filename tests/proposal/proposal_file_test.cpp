@@ -9,6 +9,7 @@
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
 #include "proposal/slot_widths.h"
+#include "support/person.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -247,9 +248,28 @@ TEST(OpeningAProposal, TheSampleNeverShowsTheLogo) {
     RunningProgram run;
     run.program.settings.LogoVisible = true;
     ASSERT_EQ(Open(run, FileWith({}), "John Doe.hef"), modFile::OpenResult::Opened);
-    EXPECT_FALSE(run.program.settings.LogoVisible);
     EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Tag, "Hide");
     EXPECT_FALSE(run.Main()[CommandId::mnuEditLogoVisible].Checked);
+}
+
+TEST(OpeningAProposal, AfterTheSampleTheLogoIsBackWithTheNextProposal) {
+    RunningProgram run;
+    const std::string picture = run.folder / "logo.png";
+    run.folder.Write("logo.png", "x");
+    run.surroundings.pictures.Known[picture] = {1500, 900};
+    run.program.settings.LogoFile = picture;
+    run.program.settings.LogoVisible = true;
+    const PagePicture& logo = run.program.pages[PageId::frmP1].pic;
+    ASSERT_EQ(Open(run, FileWith({}), "John Doe.hef"), modFile::OpenResult::Opened);
+    EXPECT_EQ(logo.Tag, "Hide");
+    person::TurnTo(run.program, 1);
+    person::TurnTo(run.program, 0);
+    EXPECT_EQ(logo.Tag, "Hide") << "while the sample stands";
+    EXPECT_FALSE(logo.Visible);
+    person::StartAnew(run.program);
+    EXPECT_EQ(logo.Tag, "");
+    EXPECT_TRUE(logo.Visible);
+    EXPECT_TRUE(run.Main()[CommandId::mnuEditLogoVisible].Checked);
 }
 
 TEST(OpeningAProposal, OfAnyShortLengthIsReadAsFarAsItGoes) {

@@ -19,6 +19,7 @@
 #include "proposal/proposal_open.h"
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
+#include "shell/closing.h"
 #include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
@@ -253,6 +254,32 @@ TEST(LabelWindow, ANewProposalAsksForWhatWasTypedInIt) {
     person::Choose(run.program, CommandId::mnuFileNew);
     EXPECT_EQ(run.Prop(9).Caption, "Day");
     EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Day");
+}
+
+TEST(LabelWindow, TheEndOfTheRunAsksForWhatWasTypedInItAndClosesAnUntouchedOneAsCancel) {
+    Designing run;
+    run.Click(9);
+    run.program.document.SavedStateStale = false;
+    for (auto& page : run.program.format.LabelSavedState) {
+        for (LabelChangeRecord& label : page) {
+            label.Changed = false;
+        }
+    }
+    run.Props();
+    EXPECT_TRUE(modClosing::MDIForm_QueryUnload(run.program)) << "nothing was typed";
+    EXPECT_TRUE(run.program.designer.LabelPropsOpen);
+    dynamic_cast<frmLabelProps&>(*modWindows::Find(run.program, "frmLabelProps"))
+        .txtCaption_Change(run.program, "Day");
+    run.surroundings.questions.Expect("The file has been changed.", Answer::Cancel);
+    EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program));
+    EXPECT_EQ(run.Prop(9).Caption, "Day");
+    modWindows::Sweep(run.program);
+    run.Click(10);
+    run.Props();
+    run.surroundings.questions.Expect("The file has been changed.", Answer::No);
+    person::Choose(run.program, CommandId::mnuFileExit);
+    EXPECT_TRUE(run.program.main.Closing);
+    EXPECT_EQ(run.Label(PageId::frmP1, 10).Caption, "Event Time");
 }
 
 TEST(LabelWindow, AnotherLabelPressedMakesTheFirstOnesWordsLast) {

@@ -6,14 +6,17 @@
 #include "proposal/lifecycle.h"
 #include "proposal/property_file.h"
 #include "proposal/proposal_save.h"
+#include "proposal/side_files.h"
 #include "settings/network_share.h"
 #include "settings/printer_offsets.h"
 #include "settings/settings.h"
 #include "settings/tax_rate.h"
 #include "shell/option_commands.h"
 #include "support/failing_disk.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
+#include "terms/term_list.h"
 
 #include <gtest/gtest.h>
 
@@ -282,6 +285,11 @@ struct Kind {
     std::function<void(Kept&)> Rewrite;
 };
 
+void WriteBeside(Kept& run, std::string_view name, std::string_view bytes) {
+    modSideFile::Known known = modSideFile::Read(run.program, name, "Read");
+    static_cast<void>(modSideFile::Write(run.program, known, name, bytes, "Overwrite it?", "Write"));
+}
+
 const std::vector<Kind>& Kinds() {
     static const std::vector<Kind> kinds{
         {"proposal", "Proposals/Ann.hef", [](Kept& run) { run.Fill(3, "12 Elm Street"); },
@@ -314,6 +322,20 @@ const std::vector<Kind>& Kinds() {
              run.Fill(3, "12 Elm Street");
          },
          [](Kept& run) { modFile::BackupThisFile(run.program); }},
+        {"footnotes", "Proposals/Ann.hxt",
+         [](Kept& run) { run.folder.Write("Proposals/Ann.hxt", "Call the florist."); },
+         [](Kept& run) { WriteBeside(run, "Ann.hxt", "Call the florist and the band."); }},
+        {"deposit list", "Proposals/Ann.dep", [](Kept& run) { run.folder.Write("Proposals/Ann.dep", "Ann"); },
+         [](Kept& run) { WriteBeside(run, "Ann.dep", "Ann Roe"); }},
+        {"terms list", "Proposals/Default Terms.fut",
+         [](Kept& run) {
+             run.folder.Write("Proposals/Default Terms.fut", "Arch, white metal [90.00]\r\n");
+             modTerms::ReadFrequentlyUsedTerms(run.program);
+         },
+         [](Kept& run) { static_cast<void>(modTerms::AddTerm(run.program, "Gazebo, white")); }},
+        {"text", "Proposals/Ann.txt",
+         [](Kept& run) { run.folder.Write("Proposals/Ann.txt", "an older text"); },
+         [](Kept& run) { person::Choose(run.program, CommandId::mnuFileSaveAsText); }},
     };
     return kinds;
 }
@@ -329,7 +351,7 @@ TEST(KeptWork, WhateverCallFailsEveryKindOfFileStandsWholeAndAFailureIsTold) {
             run.SaveAnn();
             kind.Prepare(run);
             before = run.folder.Read(kind.File);
-            run.surroundings.questions.TakeAll(Answer::Ok);
+            run.surroundings.questions.TakeAll(Answer::Yes);
             kind.Rewrite(run);
             after = run.folder.Read(kind.File);
             ASSERT_NE(before, after) << kind.Name;

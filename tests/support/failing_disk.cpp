@@ -7,12 +7,13 @@
 #include <cstdio>
 #include <stdexcept>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/types.h>
 
 namespace {
 
-constexpr std::size_t kCalls = 8;
+constexpr std::size_t kCalls = 14;
 FailingDisk* disk = nullptr; // the calls come without an object of ours
 
 bool Fails(FailingDisk::Call call) {
@@ -63,6 +64,12 @@ int __real_ftruncate(int file, off_t length);
 int __real_fchmod(int file, mode_t mode);
 int __real_close(int file);
 int __real_rename(const char* from, const char* to);
+int __real_renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags);
+int __real_link(const char* from, const char* to);
+int __real_unlink(const char* path);
+int __real_openat(int folder, const char* path, int flags, ...);
+DIR* __real_opendir(const char* path);
+dirent* __real_readdir(DIR* listing);
 
 int __wrap_open(const char* path, int flags, ...) {
     mode_t mode = 0;
@@ -130,6 +137,31 @@ int __wrap_close(int file) {
 
 int __wrap_rename(const char* from, const char* to) {
     return Fails(FailingDisk::Call::Rename) ? -1 : __real_rename(from, to);
+}
+
+int __wrap_renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) {
+    return Fails(FailingDisk::Call::Move) ? -1 : __real_renameat2(fromFolder, from, toFolder, to, flags);
+}
+
+int __wrap_link(const char* from, const char* to) {
+    return Fails(FailingDisk::Call::Link) ? -1 : __real_link(from, to);
+}
+
+int __wrap_unlink(const char* path) {
+    return Fails(FailingDisk::Call::Unlink) ? -1 : __real_unlink(path);
+}
+
+/// Nothing is made in this way.
+int __wrap_openat(int folder, const char* path, int flags, ...) {
+    return Fails(FailingDisk::Call::OpenIn) ? -1 : __real_openat(folder, path, flags);
+}
+
+DIR* __wrap_opendir(const char* path) {
+    return Fails(FailingDisk::Call::OpenFolder) ? nullptr : __real_opendir(path);
+}
+
+dirent* __wrap_readdir(DIR* listing) {
+    return Fails(FailingDisk::Call::ListFolder) ? nullptr : __real_readdir(listing);
 }
 
 } // extern "C"

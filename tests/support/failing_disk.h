@@ -7,7 +7,22 @@
 /// linker leads those calls here; the rest of the process sees the disk as it is.
 class FailingDisk {
 public:
-    enum class Call { Open, Read, Write, SetLength, GiveMode, Flush, Close, Rename };
+    enum class Call {
+        Open,
+        Read,
+        Write,
+        SetLength,
+        GiveMode,
+        Flush,
+        Close,
+        Rename,
+        Move, ///< a rename over nothing
+        Link,
+        Unlink,
+        OpenIn, ///< in a folder that is open
+        OpenFolder,
+        ListFolder
+    };
     struct Failure {
         Call What;
         int Nth;       ///< the how-manieth call of its kind, from 1

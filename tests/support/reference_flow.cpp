@@ -523,13 +523,13 @@ void ReferenceFlow::KeyDown(int keyCode) {
     if (keyCode == 33 || keyCode == 34 || IsFinal(field)) {
         return; // page keys never reach a field; the final page hears no others
     }
-    if (IsBox(field)) {
-        BoxKeyDown(keyCode);
-        return;
-    }
     ++KeyCounter;
     if (KeyCounter >= 20 && !(field.Page == PageId::frmP1 && field.Index == 2)) {
         KeyCounter = 0;
+    }
+    if (IsBox(field)) {
+        BoxKeyDown(keyCode);
+        return;
     }
     if (keyCode == kF8Key && IsLine(field.Page, field.Index)) {
         ToggleColumns(field.Page, field.Index);

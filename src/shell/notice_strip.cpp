@@ -1,0 +1,34 @@
+#include "shell/notice_strip.h"
+
+#include "program/program.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::int64_t kLongEnough = 5000;
+/// A longer pause between two keys is no reading time: the person looked elsewhere.
+constexpr std::int64_t kLongestPause = 1000;
+
+} // namespace
+
+void NoticeStrip::Follow(const Program& program, std::int64_t now) {
+    const std::string& told = program.main.Notice;
+    if (told == told_) {
+        return;
+    }
+    told_ = told;
+    if (!told.empty()) {
+        text_ = told;
+        onShow_ = 0;
+        last_ = now;
+    }
+}
+
+void NoticeStrip::Activity(std::int64_t now) {
+    onShow_ += std::clamp(now - last_, std::int64_t{0}, kLongestPause);
+    last_ = now;
+    if (onShow_ >= kLongEnough) {
+        text_.clear();
+    }
+}

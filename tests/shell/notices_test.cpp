@@ -1,0 +1,115 @@
+#include "shell/notice_strip.h"
+
+#include "output/print.h"
+#include "program/saved_notice.h"
+#include "proposal/proposal_save.h"
+#include "settings/printer_offsets.h"
+#include "settings/tax_rate.h"
+#include "support/person.h"
+#include "support/running_program.h"
+#include "support/typist.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(Notice, StaysUntilItHasBeenOnShowForFiveSecondsOfActivity) {
+    RunningProgram run;
+    NoticeStrip strip;
+    run.program.main.Notice = "One character was not taken.";
+    strip.Follow(run.program, 1000);
+    EXPECT_EQ(strip.Text(), "One character was not taken.");
+    run.program.main.Notice.clear(); // the next key
+    for (int second = 2; second <= 5; ++second) {
+        strip.Activity(second * 1000);
+        strip.Follow(run.program, second * 1000);
+        EXPECT_NE(strip.Text(), "") << second;
+    }
+    strip.Activity(5999);
+    EXPECT_NE(strip.Text(), "");
+    strip.Activity(6000);
+    EXPECT_EQ(strip.Text(), "");
+}
+
+TEST(Notice, WaitsForAPersonWhoIsAway) {
+    RunningProgram run;
+    NoticeStrip strip;
+    run.program.main.Notice = "No backup was written.";
+    strip.Follow(run.program, 0);
+    strip.Activity(3'600'000); // an hour at lunch counts as a second
+    EXPECT_EQ(strip.Text(), "No backup was written.");
+    for (int key = 1; key <= 3; ++key) {
+        strip.Activity(3'600'000 + key * 1000);
+        EXPECT_NE(strip.Text(), "");
+    }
+    strip.Activity(3'604'000);
+    EXPECT_EQ(strip.Text(), "");
+}
+
+TEST(Notice, AnotherOneTakesItsPlaceAndHasItsOwnTime) {
+    RunningProgram run;
+    NoticeStrip strip;
+    run.program.main.Notice = "first";
+    strip.Follow(run.program, 0);
+    strip.Activity(900);
+    strip.Activity(1800);
+    run.program.main.Notice = "second";
+    strip.Follow(run.program, 4000);
+    EXPECT_EQ(strip.Text(), "second");
+    for (int at = 5000; at < 9000; at += 1000) {
+        strip.Activity(at);
+    }
+    EXPECT_EQ(strip.Text(), "second");
+    strip.Activity(9000);
+    EXPECT_EQ(strip.Text(), "");
+}
+
+TEST(Notice, TheSameWordsAfterAKeyAreToldAgain) {
+    RunningProgram run;
+    NoticeStrip strip;
+    for (const int start : {0, 100'000}) {
+        run.program.main.Notice = "again";
+        strip.Follow(run.program, start);
+        EXPECT_EQ(strip.Text(), "again");
+        run.program.main.Notice.clear();
+        strip.Follow(run.program, start);
+        for (int key = 1; key <= 5; ++key) {
+            strip.Activity(start + key * 1000);
+        }
+        EXPECT_EQ(strip.Text(), "");
+    }
+}
+
+TEST(SavedNotice, TellsWhatWasSavedAndWhere) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Ann");
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    person::Choose(run.program, CommandId::mnuFileSaveEvent);
+    EXPECT_EQ(run.program.main.Notice, "Proposal saved: " + run.folder / "Proposals/Ann.hef");
+    run.surroundings.questions.Expect("New Sales Tax Rate is 7.00 %");
+    modTax::SaveTaxRate(run.program, "7.00");
+    EXPECT_EQ(run.program.main.Notice, "Tax rate saved: " + run.folder / "Proposals/SalesTax.txt");
+    modOffsets::SavePrinterOffsets(run.program);
+    EXPECT_EQ(run.program.main.Notice,
+              "Printer offsets saved: " + run.folder / "Proposals/PrinterOffsets.txt");
+    person::Choose(run.program, CommandId::mnuOptSetDefaultFonts);
+    EXPECT_EQ(run.program.main.Notice, "Settings saved: " + run.folder / "UserPreferences.txt");
+    run.surroundings.questions.Expect("File was saved as ");
+    person::Choose(run.program, CommandId::mnuFileSaveAsText);
+    EXPECT_EQ(run.program.main.Notice, "Text saved: " + run.folder / "Proposals/Ann.txt");
+}
+
+TEST(SavedNotice, IsNotGivenForASaveThatFailed) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Ann");
+    run.folder.MakeFolder("Proposals/Ann.hef");
+    run.surroundings.questions.Expect("An error occurred in SaveEventFile.");
+    person::Choose(run.program, CommandId::mnuFileSaveEvent);
+    EXPECT_EQ(run.program.main.Notice.find("saved"), std::string::npos);
+}
+
+} // namespace
