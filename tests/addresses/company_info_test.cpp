@@ -64,6 +64,7 @@ TEST(CompanyInfo, RewordsTheOpenFormatAndSaysThatItsFileIsBehind) {
     LabelChangeRecord& name = format.FormatLabelChanges[PageId::frmP1][0];
     name.Changed = true;
     name.Saved = true;
+    name.FromFormat = true;
     name.Caption = "Acme Events";
     LabelChangeRecord& other = format.FormatLabelChanges[PageId::frmP1][1];
     other.Changed = true;
@@ -75,6 +76,7 @@ TEST(CompanyInfo, RewordsTheOpenFormatAndSaysThatItsFileIsBehind) {
     run.Window().cmdSave_Click(run.program);
     EXPECT_EQ(name.Caption, "Birch & Sons");
     EXPECT_FALSE(name.Saved);
+    EXPECT_FALSE(name.FromFormat) << "a change of the person's own, asked about when the format is left";
     EXPECT_TRUE(other.Saved);
     EXPECT_TRUE(format.Touched);
 }

@@ -156,6 +156,10 @@ TEST(Calendar, OneSelectedRowOpensAnyNumberIsDeleted) {
     run.Select(window, {0, 1});
     EXPECT_FALSE(window.Entry("mnuFileOpen").Enabled);
     EXPECT_TRUE(window.Entry("mnuOptDelete").Enabled);
+    run.Select(window, {1});
+    EXPECT_EQ(window.lstDates.Selected, (std::vector<bool>{false, true})) << "what is no longer selected";
+    window.Choose(run.program, "mnuOptDelete");
+    EXPECT_EQ(window.lstDates.Items, (Dated::Items{"Jan/21/2008\tA.hef"}));
 }
 
 TEST(Calendar, DeletedProposalsLieInBackupAndComeBackAllOfThem) {

@@ -187,6 +187,18 @@ TEST(Deposits, EditingTakesTheBareFigureAndPutsTheRowBackInItsPlace) {
     EXPECT_EQ(window.lst.SelCount(), 0);
 }
 
+TEST(Deposits, TheTotalFollowsAnEditedRow) {
+    Deposited run;
+    run.File("Jane Roe\r\na\t\t$ 100.00\r\nb\t\t$ 400.00");
+    frmDeposits& window = run.Open();
+    window.lst_Click({0}, 0);
+    run.Boxes().Expect("has been placed");
+    window.Choose(run.program, "mnuEditItem");
+    run.Add(window, "1/1/2008", "25.50");
+    EXPECT_EQ(window.DepositTotal, 425.5F);
+    EXPECT_EQ(window.lblTotal.Caption, "Total Deposit = $ 425.5");
+}
+
 TEST(Deposits, TheTakenRowIsFollowedWhenOthersGoAndForgottenWhenItGoes) {
     Deposited run;
     run.File("Jane Roe\r\na\t\t$ 100.00\r\nb\t\t$ 150.00\r\nc\t\t$ 250.00");

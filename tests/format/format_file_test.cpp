@@ -186,9 +186,13 @@ TEST(FormatFile, AnOpenedProposalIsTheSameUnderAFormatThatFillsEveryRow) {
                     all.push_back(record.imgNoTax[index].Tag);
                     const auto& props = run.program.format.PropTextChanges[page][index];
                     const auto& kept = run.program.format.FormatTextChanges[page][index];
-                    for (const TextChangeRecord& record : {props, kept}) {
-                        all.push_back(record.Text + "|" + record.QtyValue + "|" + record.AmtValue +
-                                      (record.TaxExempt ? "x" : "") + (record.QtyBox ? "q" : ""));
+                    for (const TextChangeRecord* table : {&props, &kept}) {
+                        all.push_back(table->Text + '|' + table->QtyValue + '|' + table->AmtValue +
+                                      (table->QtyBox ? "q" : "") + (table->TaxExempt ? "x" : ""));
+                        EXPECT_EQ(table->QtyBox,
+                                  geometry::IsDescription(page, static_cast<int>(index)) &&
+                                      modPages::ColumnsOn(run.program, page, static_cast<int>(index)))
+                            << index;
                     }
                 }
             }

@@ -3,7 +3,6 @@
 #include "format/label_designer.h"
 #include "format/label_looks.h"
 #include "pages/page_geometry.h"
-#include "pages/page_marks.h"
 #include "pages/row_fields.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"

@@ -528,4 +528,23 @@ TEST(DocumentExport, ADocumentThatCannotBeWrittenIsReported) {
     EXPECT_FALSE(run.program.exporting.ExportToWord);
 }
 
+TEST(HtmlExport, KeepsTitlesBoldRulesAsRulesAndFiguresInAColumnOfTheirOwn) {
+    EXPECT_EQ(modExport::HtmlTable({{LineKind::Title, "Grand & Totals"},
+                                    {LineKind::Rule, kRule},
+                                    {LineKind::MainCategory, "<Food>"},
+                                    {LineKind::Row, "Desc:\t\t\tChairs"},
+                                    {LineKind::Figure, "Total:\t\t\t$ 5.00"},
+                                    {LineKind::Row, "alone"},
+                                    {LineKind::Row, ""}}),
+              "<table>\n"
+              "<tr><td colspan=\"2\"><b>Grand &amp; Totals</b></td></tr>\n"
+              "<tr><td colspan=\"2\"><hr></td></tr>\n"
+              "<tr><td colspan=\"2\"><b>&lt;Food&gt;</b></td></tr>\n"
+              "<tr><td>Desc:</td><td>Chairs</td></tr>\n"
+              "<tr><td>Total:</td><td align=\"right\">$ 5.00</td></tr>\n"
+              "<tr><td colspan=\"2\">alone</td></tr>\n"
+              "<tr><td colspan=\"2\">&nbsp;</td></tr>\n"
+              "</table>\n");
+}
+
 } // namespace

@@ -20,6 +20,8 @@ TEST(TextFile, TellsUtf8FromTheProgramsOwnCharacters) {
         << "an overlong sequence is none";
     EXPECT_EQ(modExport::DecodeTextFile("\xED\xA0\x80"), "\xC3\xAD\xC2\xA0\xE2\x82\xAC")
         << "nor is half a pair";
+    EXPECT_EQ(modExport::DecodeTextFile("\xC3\xA9\xFF"), "\xC3\x83\xC2\xA9\xC3\xBF")
+        << "one byte that is none makes all of it the program's own";
     EXPECT_EQ(modExport::DecodeTextFile("ab\xE2\x82"), "ab\xC3\xA2\xE2\x80\x9A") << "nor is one cut short";
 }
 

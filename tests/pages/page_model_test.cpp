@@ -414,6 +414,7 @@ TEST(Geometry, PairsAmountsWithTheirRowsAndSigns) {
     EXPECT_FALSE(geometry::IsAmount(PageId::frmP6, 0));
     EXPECT_EQ(geometry::LimitOf("Push.120"), 120);
     EXPECT_EQ(geometry::LimitOf(""), 0);
+    EXPECT_EQ(geometry::LimitOf("Push.1/9"), 1) << "what is no digit ends it";
 }
 
 } // namespace

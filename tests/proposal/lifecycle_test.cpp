@@ -1,3 +1,4 @@
+#include "base/colors.h"
 #include "program/windows.h"
 #include "proposal/backup.h"
 #include "proposal/file_names.h"
@@ -246,7 +247,11 @@ TEST(Reset, EmptiesNamesTextsTotalsAndMarks) {
     run.program.format.PropTextChanges[PageId::frmP1][20].TaxExempt = true;
     run.program.format.PropertyLines = {"a"};
     run.program.document.HasNotes = true;
+    run.program.pages[PageId::frmP1].txt[20].SelStart = 3;
+    run.program.pages[PageId::frmP6].txt[4].BackColor = colors::kOverLimit;
     ASSERT_EQ(modReset::StartNewFile(run.program), modReset::ResetResult::Done);
+    EXPECT_EQ(run.program.pages[PageId::frmP1].txt[20].SelStart, 0);
+    EXPECT_EQ(run.program.pages[PageId::frmP6].txt[4].BackColor, colors::kResting);
     const DocumentState& document = run.program.document;
     EXPECT_EQ(document.FileName, "");
     EXPECT_EQ(document.BaseName, "");

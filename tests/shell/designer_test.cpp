@@ -572,6 +572,20 @@ TEST(Logo, SavingItAsDefaultWithoutAFormatTouchesOnlyTheSettings) {
     EXPECT_FALSE(run.program.format.LogoChanged);
 }
 
+TEST(Logo, SavingItAsDefaultMakesItTheOpenFormatsToo) {
+    Designing run;
+    run.program.format.FormatOpen = true;
+    PagePicture& logo = run.program.pages[PageId::frmP1].pic;
+    logo.Picture = {PictureRef::Source::File, "/srv/logo.png"};
+    logo.Left = 180;
+    logo.Top = 90.5F;
+    person::Choose(run.program, CommandId::mnuEditLogoSave);
+    EXPECT_EQ(run.program.format.LogoPath, "/srv/logo.png");
+    EXPECT_EQ(run.program.format.LogoLeft, 180);
+    EXPECT_EQ(run.program.format.LogoTop, 90.5F);
+    EXPECT_TRUE(run.program.format.LogoChanged);
+}
+
 TEST(Designer, EveryChangeThatRidesWithAProposalIsSavedAndComesBack) {
     using Change = std::function<void(Designing&)>;
     const std::vector<Change> changes{

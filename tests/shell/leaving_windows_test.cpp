@@ -79,6 +79,14 @@ TEST(LeavingWindows, ARunThatIsEndedFromOutsideKeepsThemBesideTheBackup) {
     EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe.hxt"));
 }
 
+TEST(LeavingWindows, WhatWasDiscardedAtTheExitIsNotKeptWhenTheSessionEndsMeanwhile) {
+    Leaving run;
+    run.Change();
+    run.program.main.Closing = true;
+    modClosing::KeepUnsaved(run.program);
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Jane Roe.hxt"));
+}
+
 TEST(LeavingWindows, ADepositWithoutAmountsSurvivesSavingAndRecalculation) {
     RunningProgram run;
     Typist typist(run.program);

@@ -429,6 +429,27 @@ TEST(Completion, AKeyLetGoInAnotherAreaCompletesNothingThere) {
     EXPECT_EQ(run.Text(), "cha");
 }
 
+TEST(Completion, ALetterOfAnotherAreaIsForgottenOnceOneIsTypedHere) {
+    Typing run("Chair Covers");
+    const auto hold = [&](char letter, int index) {
+        const FieldRef field{kPage, FieldKind::txt, index};
+        const int at = run.Area(kPage, index).SelStart;
+        EXPECT_EQ(person::KeyDown(run.program, letter - 32, 0, at, 0), Taken::No);
+        EXPECT_EQ(person::KeyPress(run.program, letter), letter);
+        const std::string text = run.Text(index) + letter;
+        person::Edited(run.program, field, text, static_cast<int>(text.size()), 0);
+    };
+    hold('x', 0);
+    run.hand.Click(kPage, 1);
+    run.hand.Type("c");
+    hold('h', 1);
+    hold('a', 1);
+    person::KeyUp(run.program, 'X', 0, 3, 0);
+    EXPECT_EQ(run.Text(1), "cha") << "the key let go put its letter elsewhere";
+    person::KeyUp(run.program, 'A', 0, 3, 0);
+    EXPECT_EQ(run.Text(1), "chair covers");
+}
+
 TEST(Completion, LettersTypedInQuickSuccessionCompleteAtTheFirstRelease) {
     Typing run("Chair Covers");
     run.hand.Type("c");

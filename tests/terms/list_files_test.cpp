@@ -89,6 +89,16 @@ TEST(Lists, F6OpensTheNextOneAndWraps) {
     EXPECT_EQ(run.program.run.FUTFileName, "Wedding Terms.fut") << "not a key of the final page";
 }
 
+TEST(Lists, ANameInAnotherCaseIsTheOneOnDisk) {
+    TermsRun run("Chair");
+    WriteLists(run);
+    modTerms::OpenList(run.program, "CATERING.fut");
+    EXPECT_TRUE(modTerms::AddTerm(run.program, "Fish"));
+    EXPECT_EQ(run.program.run.FUTFileName, "Catering.fut");
+    EXPECT_EQ(run.OnDisk("Catering.fut"), "Soup\r\nBread\r\nFish");
+    EXPECT_FALSE(run.folder.Has("Proposals/CATERING.fut"));
+}
+
 TEST(Lists, AnAddAfterOpeningWritesTheListThatWasOpened) {
     TermsRun run("Chair");
     WriteLists(run);
