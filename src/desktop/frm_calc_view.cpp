@@ -300,6 +300,7 @@ void FrmCalcView::Follow() {
     const ScopedFlag following(following_);
     echo_->setText(convert::ToQString(model_.lblE.Caption));
     echo_->setToolTip(convert::ToQString(model_.lblE.ToolTipText));
+    echo_->setAccessibleDescription(echo_->toolTip());
     const bool refused = model_.lblE.ForeColor != colors::kBlack;
     QPalette ink = palette();
     if (refused) {

@@ -435,7 +435,8 @@ int FrmMainView::PaperLeft(PageId front, int paperWidth) {
     across_->setRange(0, -room);
     across_->setPageStep(desk_->width());
     across_->setSingleStep(kAcrossStep);
-    // A narrow desk shows the side on which the field with the keyboard lies, until a person moves it.
+    // A narrow desk shows the side on which the field with the keyboard lies, until a person moves it or the
+    // desk gets another width.
     const std::optional<FieldRef>& focus = program_.main.Focus;
     if (across_->isHidden() || focus != sideShownFor_ || desk_->width() != sideShownOn_) {
         across_->show();
@@ -470,8 +471,8 @@ void FrmMainView::FollowPages() {
     // that changes the room for it, as by a window let go at a side, presses no text.
     const bool held = QGuiApplication::mouseButtons() != Qt::NoButton && !view.isHidden() &&
                       view.width() > desk_->width() && desk_->width() == placedFor_;
-    placedFor_ = desk_->width();
     const int x = held ? view.x() : PaperLeft(front, view.width()) + qRound(page.Left * scale);
+    placedFor_ = desk_->width();
     const int y = qRound(page.Top * scale);
     if (view.pos() != QPoint(x, y)) {
         view.move(x, y);

@@ -141,6 +141,16 @@ void FrmSRView::Fill() {
     lists_[0]->setFocus();
 }
 
+void FrmSRView::showEvent(QShowEvent* event) {
+    WindowView::showEvent(event);
+    if (!placed_) {
+        placed_ = true;
+        constexpr int kFoot = 60; // its own frame, and the status strip below
+        const QRect over = parentWidget()->frameGeometry();
+        move(over.center().x() - width() / 2, qMax(over.top(), over.bottom() - height() - kFoot));
+    }
+}
+
 void FrmSRView::Follow() {
     WindowView::Follow();
     const ScopedFlag following(following_);

@@ -29,9 +29,14 @@ public:
     FrmSRView(Program& program, frmSR& window, QWidget* over, std::function<void()> afterEvent);
     void Follow() override;
 
+protected:
+    /// At the foot of the main window, where it covers few of the hits that it leads to.
+    void showEvent(QShowEvent* event) override;
+
 private:
     void Fill();
     frmSR& model_;
     std::array<QListWidget*, 3> lists_{};
     bool following_ = false;
+    bool placed_ = false;
 };

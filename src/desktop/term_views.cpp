@@ -43,7 +43,11 @@ FrmAddFutView::FrmAddFutView(Program& program, frmAddFUT& window, QWidget* over,
     dialog::Foot(column, {save, clear, done});
     connect(text_, &QLineEdit::textChanged, this,
             [this] { model_.txtAddFUT.Text = convert::ToModel(text_->text()); });
-    connect(save, &QPushButton::clicked, this, [this] { Do([this] { model_.cmdSave_Click(program_); }); });
+    connect(save, &QPushButton::clicked, this, [this] {
+        Do([this] { model_.cmdSave_Click(program_); });
+        text_->selectAll(); // what was refused is typed over or changed
+        text_->setFocus();
+    });
     connect(clear, &QPushButton::clicked, this, [this] { Do([this] { model_.cmdClear_Click(); }); });
     connect(done, &QPushButton::clicked, this, [this] { Do([this] { model_.cmdExit_Click(program_); }); });
     text_->setFocus();

@@ -72,6 +72,9 @@ void TextAreaView::PlaceCursor(const TextArea& record) {
     if (record.SelLength > 0) {
         setSelection(record.SelStart, record.SelLength);
     } else {
+        if (hasSelectedText() && cursorPosition() == record.SelStart) {
+            setCursorPosition(0); // what is typed from here on is taken back by itself
+        }
         deselect();
         setCursorPosition(record.SelStart);
     }

@@ -53,7 +53,8 @@ void SplitAtReturns(std::string_view piece, bool ended, std::vector<std::string_
 /// The lines of a text without copying them: a list of 32,000 is read on every change.
 std::vector<std::string_view> LinesOf(std::string_view bytes) {
     std::vector<std::string_view> lines;
-    lines.reserve(static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n')) + 1);
+    constexpr std::size_t kUsualLength = 24;
+    lines.reserve(std::min(bytes.size() / kUsualLength, static_cast<std::size_t>(kMostTerms)) + 1);
     while (!bytes.empty()) {
         const std::size_t end = bytes.find('\n');
         SplitAtReturns(bytes.substr(0, end), end != std::string_view::npos, lines);

@@ -124,6 +124,18 @@ TEST(WindowCompletion, OneUndoTakesItBackToTheTypedWord) {
     EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "chai");
 }
 
+TEST(WindowCompletion, WhatIsTypedBehindItIsTakenBackByItself) {
+    TermsDesktop run;
+    run.Type(QStringLiteral("cha"));
+    run.Press(Qt::Key_Right);
+    run.Type(QStringLiteral(" in white"));
+    run.Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(run.Line().text(), QStringLiteral("chair covers"));
+    run.Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(run.Line().text(), QStringLiteral("cha"));
+    EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP2][0], "cha");
+}
+
 TEST(WindowCompletion, NothingCompletesWhileAnInputMethodComposes) {
     TermsDesktop run;
     run.Type(QStringLiteral("x "));
@@ -299,6 +311,22 @@ TEST(WindowTerms, HasRoomAtASideOfTheSmallestScreen) {
     const int page = run.window->centralWidget()->minimumSizeHint().width();
     EXPECT_LE(page + run.Find<TermsDock>("frmFUT")->minimumSizeHint().width() + 20, 1024)
         << "it could not be let go there";
+}
+
+TEST(WindowTerms, BesideItThePageShowsTheFieldWithTheKeyboard) {
+    TermsDesktop run;
+    run.window->resize(1024, 700);
+    run.Click(kSecond, 33);
+    auto* dock = run.Find<TermsDock>("frmFUT");
+    dock->setFloating(false);
+    run.window->addDockWidget(Qt::LeftDockWidgetArea, dock);
+    QTest::qWait(500);
+    const QWidget* desk = run.Child("desk");
+    ASSERT_LT(desk->width(), run.window->PageOf(kSecond).width());
+    const QRect amount(run.Line(33).mapTo(desk, QPoint(0, 0)), run.Line(33).size());
+    EXPECT_TRUE(desk->rect().contains(amount)) << "it is not cut off by the list that has come beside it";
+    dock->setFloating(true);
+    QApplication::processEvents();
 }
 
 TEST(WindowTerms, ComesLooseAsLargeAsItWas) {
