@@ -12,7 +12,7 @@ void Leave(Program& program);
 
 /// A key in the label mode. `Menu` says which menu opens at the framed thing.
 enum class Menu { None, Label, Logo };
-[[nodiscard]] Menu KeyDown(Program& program, int keyCode, int shift);
+Menu KeyDown(Program& program, int keyCode, int shift);
 
 /// The page in front has changed: the frame goes to its first label.
 void PageChanged(Program& program);

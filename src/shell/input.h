@@ -71,7 +71,7 @@ void LogoMouseDown(Program& program, int button, float x, float y);
 void LogoMouseUp(Program& program);
 void LogoDblClick(Program& program);
 /// A key while labels have the keyboard.
-[[nodiscard]] modLabelKeys::Menu LabelKeyDown(Program& program, int keyCode, int shift);
+modLabelKeys::Menu LabelKeyDown(Program& program, int keyCode, int shift);
 void NoTaxMarkClick(Program& program, PageId page, int index);
 
 } // namespace modInput
