@@ -26,6 +26,9 @@ struct Letterhead : FullProposal {
             }
         }
         program.format.LogoPath = "/srv/logo.png";
+        // A logo without a font ends a save behind its last line, in a report.
+        program.run.DefaultFontName = "Times New Roman";
+        program.run.DefaultFontSize = 10;
         program.format.FormatFolder = folder / "Proposals/";
         program.format.FormatName = "House.fmt";
     }

@@ -168,7 +168,7 @@ FrmLabelPropsView::FrmLabelPropsView(Program& program, frmLabelProps& window, QW
     QPushButton* ok = dialog::Button(this, "cmdOK", window.cmdOK);
     QPushButton* cancel = dialog::Button(this, "cmdCancel", window.cmdCancel);
     dialog::Foot(column, {ok, cancel, more});
-    setMinimumWidth(360);
+    column->addStrut(360); // at least; a wide caption makes the window wider
     Connect(caption_,
             [this](const std::string& text) { Do([&] { model_.txtCaption_Change(program_, text); }); });
     fonts_->Chosen = [this](int index) { Do([&] { model_.lstFont_Click(program_, index); }); };
@@ -263,7 +263,7 @@ FrmTextPropsView::FrmTextPropsView(Program& program, frmTextProps& window, QWidg
     QPushButton* cancel = dialog::Button(this, "cmdCancel", window.cmdCancel);
     QPushButton* standard = dialog::Button(this, "cmdDefault", window.cmdDefault);
     dialog::Foot(column, {ok, cancel, standard});
-    setMinimumWidth(440);
+    column->addStrut(440); // at least; a wide caption makes the window wider
     fonts_->Chosen = [this](int index) { Do([&] { model_.lstFont_Click(program_, index); }); };
     connect(italic_, &QCheckBox::clicked, this, [this] { Do([&] { model_.chkItalic_Click(program_); }); });
     connect(more, &QPushButton::clicked, this, [this] { Do([&] { model_.cmdColors_Click(program_); }); });
@@ -457,7 +457,7 @@ FrmTitleView::FrmTitleView(Program& program, frmTitle& window, QWidget* over,
     QPushButton* ok = dialog::Button(this, "cmdOK", window.cmdOK);
     QPushButton* standard = dialog::Button(this, "cmdDefault", window.cmdDefault);
     dialog::Foot(column, {ok, standard});
-    setMinimumWidth(460);
+    column->addStrut(460); // at least; a wide caption makes the window wider
     connect(ok, &QPushButton::clicked, this, [this] { Do([&] { model_.cmdOK_Click(program_); }); });
     connect(standard, &QPushButton::clicked, this,
             [this] { Do([&] { model_.cmdDefault_Click(program_); }); });

@@ -18,6 +18,21 @@ namespace {
 
 constexpr Color kWhiteButton = colors::kWhite;
 
+/// Whether the selected labels of the page, but for the currency signs, are all alike in a field.
+template <typename Field> bool SelectedAgree(const Program& program, PageId page, Field PageLabel::*field) {
+    const PageLabel* first = nullptr;
+    for (const PageLabel& label : program.pages[page].lbl) {
+        if (!modDesigner::IsSelected(label) || label.Caption == program.settings.CurrencySymbol) {
+            continue;
+        }
+        if (first != nullptr && first->*field != label.*field) {
+            return false;
+        }
+        first = &label;
+    }
+    return true;
+}
+
 bool IsTitle(PageId page, int index) {
     return index == geometry::TitleLabel(page) || (index == 0 && page != PageId::frmP1);
 }
@@ -55,8 +70,13 @@ void frmLabelProps::ShowLabel(Program& program) {
     lblNotHere.Caption = title ? "Change these words with Proposal Page Titles and Subtitles." : "";
     const auto found = std::find(lstFont.Items.begin(), lstFont.Items.end(), edit.FontName);
     lstFont.ListIndex = found == lstFont.Items.end() ? -1 : static_cast<int>(found - lstFont.Items.begin());
-    lblFontName.Caption = "Font = " + edit.FontName;
-    lblSize.Caption = "Label Font Size = " + numbers::PlainNumber(edit.FontSize);
+    const auto agree = [&](auto PageLabel::*field) {
+        return !group || !designer.LabelPage || SelectedAgree(program, *designer.LabelPage, field);
+    };
+    constexpr const char* kSeveral = "(several)";
+    lblFontName.Caption = "Font = " + (agree(&PageLabel::FontName) ? edit.FontName : kSeveral);
+    lblSize.Caption =
+        "Label Font Size = " + (agree(&PageLabel::FontSize) ? numbers::PlainNumber(edit.FontSize) : kSeveral);
     chkBold.Value = edit.FontBold;
     chkItalic.Value = edit.FontItalic;
     chkUnderline.Value = edit.FontUnderline;

@@ -199,6 +199,21 @@ TEST(DesignerOnScreen, AGridIsOnePixelAPointAndTwoLinesAtEveryScale) {
     run.ExpectWindowFollows();
 }
 
+TEST(DesignerOnScreen, MoreColorsGivesTheKeyboardBackToTheWindowItWasOpenedFrom) {
+    Designer run;
+    QTest::mouseClick(&run.View(9), Qt::LeftButton);
+    run.Choose(CommandId::mnuEditLabelProps);
+    auto* labels = run.Find<QDialog>("frmLabelProps");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == labels; }));
+    QTest::mouseClick(&run.In<QPushButton>("frmLabelProps", "cmdColors"), Qt::LeftButton);
+    auto* colours = run.Find<QDialog>("frmRGB");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == colours; }));
+    QTest::keyClick(colours, Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == labels; }));
+    QTest::keyClick(labels, Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == run.window.get(); }));
+}
+
 /// The window's own controls by the keyboard, from its menu to its end.
 TEST(DesignerOnScreen, TheSnapWindowWorksByKeysAndByMouse) {
     Designer run;

@@ -194,6 +194,7 @@ private:
         pic.Tag.clear();
         pic.Visible = true;
         program.settings.LogoVisible = true;
+        program.run.LogoChecked = true;
         On(PageId::frmP1).HasLogo = true;
     }
 };

@@ -229,6 +229,11 @@ TEST(LabelWindow, SelectAllTakesEveryLabelButTheSignsAndOpens) {
     person::Choose(run.program, CommandId::mnuEditLabelSelectAll);
     EXPECT_NE(modWindows::Find(run.program, "frmLabelProps"), nullptr);
     EXPECT_EQ(run.program.designer.ColorOwner, "Label");
+    auto& window = dynamic_cast<frmLabelProps&>(*modWindows::Find(run.program, "frmLabelProps"));
+    EXPECT_EQ(window.lblSize.Caption, "Label Font Size = (several)") << "no size that is none of theirs";
+    EXPECT_EQ(window.lblFontName.Caption, "Font = Times New Roman");
+    window.cmdSize_Click(run.program, 3);
+    EXPECT_EQ(window.lblSize.Caption, "Label Font Size = 12");
     EXPECT_TRUE(IsSelected(run.Label(PageId::frmP1, 0)));
     EXPECT_FALSE(IsSelected(run.Label(PageId::frmP1, 21)));
     person::Choose(run.program, CommandId::mnuEditLabelDeselectAll);
@@ -363,8 +368,8 @@ TEST(LabelKeys, TheLogoComesLastOnTheFirstPage) {
     modLabelKeys::KeyDown(run.program, keys::kTab, keys::kShiftState);
     EXPECT_EQ(run.program.designer.Framed, kLogoInFrame);
     modLabelKeys::KeyDown(run.program, keys::kRight, 0);
-    EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Left, 180);
-    EXPECT_EQ(run.program.format.LogoLeft, 180);
+    EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Left, 1260) << "a step from the settings' place";
+    EXPECT_EQ(run.program.format.LogoLeft, 1260);
     EXPECT_EQ(run.program.format.LogoPath, "/srv/logo.png") << "a logo that was dragged is the format's";
     EXPECT_EQ(run.program.main.Notice, "Kept only by a format or by Save this Logo as Default.");
 }
@@ -616,6 +621,44 @@ TEST(Designer, EveryChangeThatRidesWithAProposalIsSavedAndComesBack) {
             run.program.editing.CurrentArea = 10;
             person::Choose(run.program, CommandId::mnuEditTextBold);
         },
+        [](Designing& run) {
+            run.program.editing.CurrentArea = 10;
+            person::Choose(run.program, CommandId::mnuEditTextBold);
+            person::Choose(run.program, CommandId::mnuEditTextNormal);
+        },
+        [](Designing& run) {
+            frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+            window.lstFont_Click(run.program, 0);
+            window.cmdDefault_Click(run.program);
+            window.cmdCancel_Click(run.program);
+        },
+        [](Designing& run) {
+            frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+            window.cmdColors_Click(run.program);
+            auto& colours = dynamic_cast<frmRGB&>(*modWindows::Find(run.program, "frmRGB"));
+            colours.Grn_Change(run.program, 128);
+            colours.cmdOK_Click(run.program);
+            window.cmdOK_Click(run.program);
+        },
+        [](Designing& run) {
+            person::Choose(run.program, CommandId::mnuEditLabelMode);
+            modLabelKeys::KeyDown(run.program, keys::kTab, 0);
+            modLabelKeys::KeyDown(run.program, keys::kRight, 0);
+            modLabelKeys::Leave(run.program);
+        },
+        [](Designing& run) { run.Drag(33, 180, 0); },
+        [](Designing& run) { run.Drag(64, -180, 180, PageId::frmP6); },
+        [](Designing& run) {
+            run.DoubleClick(34, PageId::frmP2);
+            run.DoubleClick(35, PageId::frmP2);
+            frmLabelProps& window = run.Props();
+            window.chkUnderline_Click(run.program);
+            window.cmdColors_Click(run.program);
+            auto& colours = dynamic_cast<frmRGB&>(*modWindows::Find(run.program, "frmRGB"));
+            colours.Blu_Change(run.program, 200);
+            colours.cmdOK_Click(run.program);
+            window.cmdOK_Click(run.program);
+        },
     };
     for (std::size_t at = 0; at < changes.size(); ++at) {
         Designing run;
@@ -649,6 +692,8 @@ TEST(Designer, EveryChangeThatRidesWithAProposalIsSavedAndComesBack) {
             for (std::size_t index = 0; index < before[page].txt.size(); ++index) {
                 EXPECT_EQ(before[page].txt[index].FontBold, run.program.pages[page].txt[index].FontBold);
                 EXPECT_EQ(before[page].txt[index].FontSize, run.program.pages[page].txt[index].FontSize);
+                EXPECT_EQ(before[page].txt[index].FontName, run.program.pages[page].txt[index].FontName);
+                EXPECT_EQ(before[page].txt[index].ForeColor, run.program.pages[page].txt[index].ForeColor);
             }
         }
     }
