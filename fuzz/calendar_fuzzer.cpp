@@ -9,7 +9,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static QuietProgram machine;
     Program& program = machine.program;
     machine.Write("Fuzz.hef", std::string(reinterpret_cast<const char*>(data), size));
-    modCalendar::ReadEventDates(program);
+    static_cast<void>(modCalendar::ReadEventDates(program));
     const CalendarRecords& calendar = program.calendar;
     Require(calendar.EventFiles.size() == 1 && calendar.EventSerial.size() == 1);
     Require(calendar.Rows.size() + static_cast<std::size_t>(calendar.Undated) == 1);

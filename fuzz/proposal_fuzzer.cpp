@@ -16,8 +16,8 @@ namespace {
 proposal::Fields FieldsOf(const proposal::Decoded& decoded) {
     proposal::Fields fields;
     for (std::size_t page = 0; page < decoded.Slots.size(); ++page) {
-        for (const std::string_view slot : decoded.Slots[page]) {
-            fields[page].push_back({std::string(slot), false});
+        for (const std::string_view slot : decoded.Slots.Each[page]) {
+            fields.Each[page].push_back({std::string(slot), false});
         }
     }
     return fields;

@@ -368,7 +368,7 @@ Outcome ConfirmAddressChange(Program& program, AddressWindow& window) {
         "Record Has Changed", {.Default = Answer::Yes, .Lost = "The changes of this record"})) {
     case Answer::Yes:
         book.AddressSaveCancelled = false;
-        SaveAddressRecord(program, window);
+        static_cast<void>(SaveAddressRecord(program, window)); // AddressSaveCancelled says what came of it
         break;
     case Answer::No:
         book.AddressSaveCancelled = false;

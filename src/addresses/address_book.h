@@ -33,9 +33,9 @@ void ShowAddressRecord(Program& program, AddressWindow& window);
 /// Writes the fields into the book: over the record that was read, or behind the last one when the record is
 /// new or has another name. Stopped with `AddressSaveCancelled` set when nothing was written. Reports as
 /// "SaveAddressRecord".
-Outcome SaveAddressRecord(Program& program, AddressWindow& window);
+[[nodiscard]] Outcome SaveAddressRecord(Program& program, AddressWindow& window);
 /// Empties the fields for a new record.
-Outcome NewAddressRecord(Program& program, AddressWindow& window);
+[[nodiscard]] Outcome NewAddressRecord(Program& program, AddressWindow& window);
 /// Asks, then takes the current record out of the book. Reports as "DeleteAddressRecord".
 void DeleteAddressRecord(Program& program, AddressWindow& window);
 

@@ -60,7 +60,7 @@ void mnuFileOpenAddressBook_Click(Program& program) {
     }
     frmAddress& window = ShowWindow(program);
     if (OpenBook(program, window, AddressBook::Personal) == Outcome::Done) {
-        NewAddressRecord(program, window);
+        static_cast<void>(NewAddressRecord(program, window));
     }
 }
 

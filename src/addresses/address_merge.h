@@ -10,9 +10,9 @@ enum class Merged { Yes, No };
 
 /// The record shown goes into the client's lines of frmP1 as if it were typed. What stands there is asked
 /// about first.
-Merged MergeClient(Program& program, AddressWindow& window);
+[[nodiscard]] Merged MergeClient(Program& program, AddressWindow& window);
 /// Name and first address line go into the venue's lines.
-Merged MergeVenue(Program& program, AddressWindow& window);
+[[nodiscard]] Merged MergeVenue(Program& program, AddressWindow& window);
 
 /// Fills the fields from the client's lines of frmP1; they count as typed.
 void FillFromProposal(Program& program, AddressWindow& window);

@@ -28,7 +28,7 @@ constexpr std::array kNotWhileImporting{
 /// The other book opens with a record of its own to be typed; none of the first one stays in the fields.
 void OpenOther(Program& program, AddressWindow& window, AddressBook book) {
     if (modAddress::OpenBook(program, window, book) == modAddress::Outcome::Done) {
-        modAddress::NewAddressRecord(program, window);
+        static_cast<void>(modAddress::NewAddressRecord(program, window));
     }
 }
 
@@ -113,7 +113,7 @@ void frmAddress::Run(Program& program, Id id) {
         OpenOther(program, *this, AddressBook::Business);
         break;
     case Id::mnuFileNew:
-        modAddress::NewAddressRecord(program, *this);
+        static_cast<void>(modAddress::NewAddressRecord(program, *this));
         break;
     case Id::mnuFileDelete:
         if (lstNames.ListIndex < 0) {
@@ -135,7 +135,7 @@ void frmAddress::Run(Program& program, Id id) {
         modAddress::FindInAddressBook(program, *this, modAddress::Search::Again);
         break;
     case Id::mnuOptMerge:
-        modAddress::MergeClient(program, *this);
+        static_cast<void>(modAddress::MergeClient(program, *this)); // what came of it has been told
         break;
     case Id::mnuOptMergeExit:
         if (modAddress::MergeClient(program, *this) == modAddress::Merged::Yes) {
@@ -143,7 +143,7 @@ void frmAddress::Run(Program& program, Id id) {
         }
         break;
     case Id::mnuOptMergeCeremony:
-        modAddress::MergeVenue(program, *this);
+        static_cast<void>(modAddress::MergeVenue(program, *this)); // what came of it has been told
         break;
     case Id::mnuOptCopyNameAddress:
         modAddress::CopyRecord(program, *this, modAddress::CopyWhat::NameAndAddress);
@@ -218,7 +218,7 @@ void frmAddress::cmdSave_Click(Program& program) {
     } else if (program.addresses.Batch.BatchRunning) {
         modAddress::SaveBatchRecord(program, *this);
     } else {
-        modAddress::SaveAddressRecord(program, *this);
+        static_cast<void>(modAddress::SaveAddressRecord(program, *this)); // what came of it has been told
     }
 }
 

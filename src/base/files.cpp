@@ -247,18 +247,14 @@ std::vector<std::string> Subfolders(std::string_view folder) {
     return names;
 }
 
-} // namespace files
-
-namespace modFile {
-
 bool FileIsThere(std::string_view folder, std::string_view name) {
-    return !name.empty() && files::Exists(paths::Join(folder, name));
+    return !name.empty() && Exists(paths::Join(folder, name));
 }
 
 bool FolderExists(std::string_view parent, std::string_view name) {
-    const std::vector<std::string> names = files::Subfolders(parent);
+    const std::vector<std::string> names = Subfolders(parent);
     return std::any_of(names.begin(), names.end(),
                        [&](const std::string& found) { return text::EqualNoCase(found, name); });
 }
 
-} // namespace modFile
+} // namespace files

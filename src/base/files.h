@@ -44,7 +44,7 @@ void Copy(std::string_view from, std::string_view to);
 void Rename(std::string_view from, std::string_view to);
 /// Gives a file the name with ".unread" at its end (and a number, when there is one already): what it holds
 /// is nowhere else. Returns the new path.
-std::string KeepUnread(std::string_view path);
+[[nodiscard]] std::string KeepUnread(std::string_view path);
 /// Deletes what runs that broke off have left in a folder in the middle of writing. Never fails.
 void RemoveLeftOvers(std::string_view folder);
 void MakeFolder(std::string_view path);
@@ -57,13 +57,9 @@ void MakeFolder(std::string_view path);
 [[nodiscard]] std::vector<std::string> Subfolders(std::string_view folder);
 [[nodiscard]] bool Matches(std::string_view name, std::string_view patterns);
 
-} // namespace files
-
-namespace modFile {
-
 /// A name lookup in the folder.
 [[nodiscard]] bool FileIsThere(std::string_view folder, std::string_view name);
 /// Whether the parent has a subfolder of that name.
 [[nodiscard]] bool FolderExists(std::string_view parent, std::string_view name);
 
-} // namespace modFile
+} // namespace files

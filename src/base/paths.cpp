@@ -50,7 +50,8 @@ bool SameFolder(std::string_view one, std::string_view other) {
 }
 
 bool HasDrive(std::string_view path) {
-    return path.size() >= 2 && path[1] == ':' && path[0] < 'z' + 1 && ansi::IsLetter(path[0]);
+    const auto within = [&](char from, char to) { return path[0] >= from && path[0] <= to; };
+    return path.size() >= 2 && path[1] == ':' && (within('a', 'z') || within('A', 'Z'));
 }
 
 bool IsAbsolute(std::string_view path) {

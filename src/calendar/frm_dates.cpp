@@ -32,7 +32,7 @@ void RebuildShown(Program& program) {
             window->lstDates.Clear();
             window->Form_Follow(program);
         }
-        ReadEventDates(program);
+        static_cast<void>(ReadEventDates(program)); // what was read in time is shown
     }
     // Events have run: the window that stood there may have closed.
     if (frmDates* window = Shown(program)) {

@@ -15,6 +15,6 @@ namespace modCalendar {
 
 /// Moves every proposal that was moved away back to its name; says so when there is none. False then. Reports
 /// as "mnuOptUndoDelete_Click".
-bool RestoreFromBackup(Program& program);
+[[nodiscard]] bool RestoreFromBackup(Program& program);
 
 } // namespace modCalendar

@@ -14,7 +14,7 @@ void SetView(Program& program, View view);
 /// Rebuilds the list from the flags, with the busy pointer, and lets events run meanwhile. With no proposal
 /// at all it says so and clears the flags. A rebuild that starts within another ends the older one; so does
 /// `EndRebuild`: false then. Reports as "ReadEventDates".
-bool ReadEventDates(Program& program);
+[[nodiscard]] bool ReadEventDates(Program& program);
 void EndRebuild(Program& program);
 
 /// The rebuild at start-up: nobody sees its list, only that there is no proposal.

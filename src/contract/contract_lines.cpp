@@ -7,7 +7,7 @@ namespace modContract {
 
 namespace {
 
-constexpr auto kFinal = static_cast<std::size_t>(kEditedPageCount - 1);
+constexpr PageId kFinal = PageId::frmP6;
 
 void Record(const PageLabel& label, LabelChangeRecord& record) {
     record.Changed = true;

@@ -77,7 +77,7 @@ private:
     void LoadMyControls(Program& program);
     void LoadCharacterEditor(Program& program);
     void LoadLineNumbers();
-    bool UpdateMyContract(Program& program);
+    [[nodiscard]] bool UpdateMyContract(Program& program);
     void ReplaceLinefeeds(Program& program);
     void ParseTextStrings(Program& program);
     void mnuEditCopy_Click(Program& program);

@@ -85,7 +85,7 @@ void frmNotes::txtNotes_Change(Program&, std::string_view text) {
 
 void frmNotes::Run(Program& program, std::string_view name) {
     if (name == "mnuFileSave") {
-        SaveFootnoteFile(program);
+        static_cast<void>(SaveFootnoteFile(program)); // what came of it has been told
     } else if (name == "mnuFilePrint") {
         mnuFilePrint_Click(program);
     }

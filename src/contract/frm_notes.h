@@ -34,7 +34,7 @@ public:
     /// The person has edited; `text` with LF between its lines.
     void txtNotes_Change(Program& program, std::string_view text);
     /// Reports as "SaveFootnoteFile". False when it was not saved.
-    bool SaveFootnoteFile(Program& program);
+    [[nodiscard]] bool SaveFootnoteFile(Program& program);
 
 protected:
     void Run(Program& program, std::string_view name) override;

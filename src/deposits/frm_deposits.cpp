@@ -272,7 +272,7 @@ void frmDeposits::lst_Click(const std::vector<int>& selected, int current) {
 void frmDeposits::Run(Program& program, std::string_view name) {
     if (name == "mnuFileSave") {
         if (SettlePendingAmount(program)) {
-            SaveDepositInfo(program);
+            static_cast<void>(SaveDepositInfo(program)); // what came of it has been told
         }
     } else if (name == "mnuFilePrint") {
         mnuFilePrint_Click(program);

@@ -64,14 +64,14 @@ public:
 
     /// Writes the list and puts its total into the proposal. False when it was not saved. Reports as
     /// "SaveDepositInfo".
-    bool SaveDepositInfo(Program& program);
+    [[nodiscard]] bool SaveDepositInfo(Program& program);
 
 protected:
     void Run(Program& program, std::string_view name) override;
 
 private:
     enum class Added { Yes, No };
-    Added AddOrReplace(Program& program);
+    [[nodiscard]] Added AddOrReplace(Program& program);
     /// An amount that was typed and not added: Add it? False on Cancel, or when it could not be added.
     [[nodiscard]] bool SettlePendingAmount(Program& program);
     [[nodiscard]] std::string DepositFile(const Program& program) const;

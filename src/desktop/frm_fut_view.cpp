@@ -203,8 +203,7 @@ void FrmFutView::BuildLists() {
     terms_->Entered = [this] { Do([this] { model_.lstFUT_Enter(program_); }); };
     terms_->Dragged = [this] {
         model_.lstFUT_MouseMove(program_);
-        const termdrag::Ended ended = termdrag::Run(program_, terms_);
-        static_cast<void>(ended);
+        termdrag::Run(program_, terms_);
         Do([] {});
     };
 

@@ -44,7 +44,7 @@ void txt_LostFocus(Program& program, PageId page, int index) {
     TextArea& area = Area(program, page, index);
     editing.LastArea = index;
     if (IsFinalPage(page)) {
-        modTotals::FinalPageLostFocus(program, index);
+        modTotals::FinalPageLostFocus(program);
         return;
     }
     if (area.BackColor != colors::kBlockSelected || !editing.BlockMode) {

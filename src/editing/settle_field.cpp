@@ -57,7 +57,7 @@ void SettleField(Program& program, const FieldRef& field) {
     if (field.Kind != FieldKind::txt) {
         modColumns::SettleBox(program, field);
     } else if (field.Page == PageId::frmP6) {
-        modTotals::FinalPageLostFocus(program, field.Index);
+        modTotals::FinalPageLostFocus(program);
     } else if (geometry::IsAmount(field.Page, field.Index)) {
         modTotals::LeaveAmount(program, field.Page, field.Index);
     }

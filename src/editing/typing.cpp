@@ -75,7 +75,7 @@ void TakeClientName(Program& program) {
 }
 
 void TakeAmount(Program& program, PageId page, int index) {
-    static_cast<void>(modTotals::StoreAmount(program, page, index));
+    modTotals::StoreAmount(program, page, index);
     if (!program.editing.RefireMode) {
         modTotals::NoteEmptied(program, page, index);
     }

@@ -12,7 +12,7 @@ namespace modFormat {
 namespace {
 
 template <typename Test> bool AnyArea(const TextChangeTable& table, Test test) {
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+    for (const PageId page : kLinePages) {
         if (std::any_of(table[page].begin(), table[page].end(), test)) {
             return true;
         }
@@ -32,7 +32,7 @@ bool FormatHasChanges(Program& program) {
     if (format.LogoChanged) {
         return true;
     }
-    for (std::size_t page = 0; page < kLinePageCount; ++page) {
+    for (const PageId page : kLinePages) {
         for (std::size_t index = 0; index < format.PropTextChanges[page].size(); ++index) {
             format.FormatTextChanges[page][index].FontBold = format.PropTextChanges[page][index].FontBold;
         }

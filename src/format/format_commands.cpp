@@ -91,12 +91,12 @@ void mnuFileFormatOpen_Click(Program& program) {
 }
 
 void mnuFileFormatSave_Click(Program& program) {
-    SaveFileFormat(program);
+    static_cast<void>(SaveFileFormat(program)); // what came of it has been told
 }
 
 void mnuFileFormatSaveAs_Click(Program& program) {
     program.format.FormatSaveAs = true;
-    SaveFileFormat(program);
+    static_cast<void>(SaveFileFormat(program)); // what came of it has been told
 }
 
 void mnuFileFormatDelete_Click(Program& program) {
@@ -149,7 +149,7 @@ void mnuFileFormatDefault_Click(Program& program) {
         return;
     }
     program.format.FormatMakeDefault = true;
-    SaveFileFormat(program);
+    static_cast<void>(SaveFileFormat(program)); // what came of it has been told
 }
 
 } // namespace modFormat

@@ -43,7 +43,7 @@ bool TakeAmounts(Program& program, PageId page) {
         }
         const std::string& value = program.pages[page].txt[static_cast<std::size_t>(index)].Text;
         if (!text::Trim(value).empty()) {
-            static_cast<void>(modTotals::StoreAmount(program, page, index));
+            modTotals::StoreAmount(program, page, index);
             any = true;
         }
     }

@@ -24,14 +24,13 @@ using assignment::Fields;
 using assignment::Kind;
 
 TextChangeRecord& AreaRecord(Program& program, int page, int index) {
-    return program.format.FormatTextChanges[static_cast<std::size_t>(page)][static_cast<std::size_t>(index)];
+    return program.format.FormatTextChanges[PageAt(page)][static_cast<std::size_t>(index)];
 }
 
 void TakeArea(Program& program, const assignment::AreaAssignment& line) {
     TextArea& area = program.pages[PageAt(line.Page)].txt[static_cast<std::size_t>(line.Index)];
     TextChangeRecord& record = AreaRecord(program, line.Page, line.Index);
-    AreaInFormat& kept =
-        program.format.InFile[static_cast<std::size_t>(line.Page)][static_cast<std::size_t>(line.Index)];
+    AreaInFormat& kept = program.format.InFile[PageAt(line.Page)][static_cast<std::size_t>(line.Index)];
     const bool marks = line.TaxExempt && geometry::IsAmount(PageAt(line.Page), line.Index);
     if (line.Bold && (line.SetsWeight || line.Text || marks)) {
         area.FontBold = true;

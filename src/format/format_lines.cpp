@@ -64,8 +64,7 @@ void AddAreas(const FormatTables& tables, std::vector<std::string>& lines) {
     bool inForce = false;
     for (int page = 0; page < kLinePageCount; ++page) {
         for (int index = 0; index <= geometry::LastText(PageAt(page)); ++index) {
-            const TextChangeRecord& record =
-                tables.Areas[static_cast<std::size_t>(page)][static_cast<std::size_t>(index)];
+            const TextChangeRecord& record = tables.Areas[PageAt(page)][static_cast<std::size_t>(index)];
             if (record.FontBold) {
                 lines.push_back(assignment::BoldLine(page, index, true));
                 inForce = true;
@@ -86,8 +85,7 @@ void AddAreas(const FormatTables& tables, std::vector<std::string>& lines) {
 void AddRows(const FormatTables& tables, std::vector<std::string>& lines) {
     for (int page = 0; page < kLinePageCount; ++page) {
         for (int row = geometry::FirstRow(PageAt(page)); row <= geometry::LastRow(PageAt(page)); ++row) {
-            const TextChangeRecord& record =
-                tables.Areas[static_cast<std::size_t>(page)][static_cast<std::size_t>(row)];
+            const TextChangeRecord& record = tables.Areas[PageAt(page)][static_cast<std::size_t>(row)];
             if (record.QtyBox) {
                 lines.push_back(assignment::RowLine(page, row, true, record.QtyValue, record.AmtValue));
             }

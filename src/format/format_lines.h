@@ -34,6 +34,6 @@ struct FormatText {
 /// Both: the format tables and `FormatLines` are what a save writes. Reports as "AssignFormatPropChanges".
 /// True when the save will fail behind the last line.
 enum class AfterLast { Ends, Fails };
-AfterLast AssignFormatPropChanges(Program& program, Texts texts = Texts::LayoutAndTexts);
+[[nodiscard]] AfterLast AssignFormatPropChanges(Program& program, Texts texts = Texts::LayoutAndTexts);
 
 } // namespace modFormat

@@ -134,7 +134,7 @@ void TakeAsSaved(Program& program) {
             label.Saved = label.Changed;
         }
     }
-    for (std::size_t page = 0; page < format.FormatTextChanges.size(); ++page) {
+    for (const PageId page : kEditedPages) {
         for (std::size_t index = 0; index < format.FormatTextChanges[page].size(); ++index) {
             TextChangeRecord& area = format.FormatTextChanges[page][index];
             area.QtyChanged = false;
@@ -163,8 +163,8 @@ bool Written(Program& program, const std::string& path, bool agreed) {
     files::Seen seen = agreed ? files::LookAt(path) : format.FormatSeen;
     bool written = false;
     Guarded(program, "SaveFileFormat", [&] {
-        written = modFile::Rewrite(program, path, BytesOf(format.FormatLines), seen, "format") ==
-                  modFile::Rewriting::Done;
+        written = modRewrite::Rewrite(program, path, BytesOf(format.FormatLines), seen, "format") ==
+                  modRewrite::Rewriting::Done;
     });
     if (written) {
         format.FormatSeen = seen;

@@ -11,7 +11,7 @@ enum class FormatSave { Saved, NotSaved };
 /// `FormatSaveAs` is set, about a file of that name, about the texts of the open proposal. With
 /// `FormatMakeDefault` new proposals begin with it. Both marks are cleared in every case. When it was not
 /// saved, the file, the name and the settings are as before. Reports as "SaveFileFormat".
-FormatSave SaveFileFormat(Program& program);
+[[nodiscard]] FormatSave SaveFileFormat(Program& program);
 
 /// Makes a format file the one that new proposals begin with: both settings lines, when the file is there.
 /// False when they could not be written; then nothing has changed.

@@ -23,7 +23,7 @@ public:
     CheckBox chkItalic{.Caption = "Italic"};
     CheckBox chkUnderline{.Caption = "Underline"};
     std::array<CommandButton, 9> cmdSize;
-    /// Eight colours and white, whose tip is the last one's; people know it so.
+    /// Eight colours and white, whose tip is that of the colour before it.
     std::array<CommandButton, 9> cmdColor;
     CommandButton cmdColors{.Caption = "More Colors", .ToolTipText = ""};
     CommandButton cmdOK{.Caption = "OK", .ToolTipText = ""};

@@ -15,7 +15,7 @@ inline constexpr int kRightButton = 2;
 void lbl_MouseDown(Program& program, PageId page, int index, int button, float x, float y);
 /// One snap step on each axis, or none; no edge of the page stops a label. True when it moved: the front end
 /// repeats an event until it did not, so that the label is under the pointer.
-bool lbl_MouseMove(Program& program, PageId page, int index, float x, float y);
+[[nodiscard]] bool lbl_MouseMove(Program& program, PageId page, int index, float x, float y);
 /// What differs from the proposal's table has moved. An untouched table holds 0, so a mere click brings a
 /// label into the tables; that is wanted.
 void lbl_MouseUp(Program& program, PageId page, int index);

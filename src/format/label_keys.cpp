@@ -59,7 +59,7 @@ void PressLabel(Program& program, int button, float across, float down) {
     const float snap = program.format.SnapTwips;
     modDesigner::lbl_MouseDown(program, page, index, button, 0, 0);
     if (across != 0 || down != 0) {
-        modDesigner::lbl_MouseMove(program, page, index, across * snap, down * snap);
+        static_cast<void>(modDesigner::lbl_MouseMove(program, page, index, across * snap, down * snap));
     }
     modDesigner::lbl_MouseUp(program, page, index);
 }
@@ -68,7 +68,7 @@ void PressLogo(Program& program, int button, float across, float down) {
     const float snap = program.format.SnapTwips;
     modLogo::pic_MouseDown(program, button, 0, 0);
     if (across != 0 || down != 0) {
-        modLogo::pic_MouseMove(program, across * snap, down * snap);
+        static_cast<void>(modLogo::pic_MouseMove(program, across * snap, down * snap));
     }
     modLogo::pic_MouseUp(program);
 }

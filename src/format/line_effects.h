@@ -13,7 +13,7 @@ namespace modFormat {
 
 /// A label of the edited pages takes the look of its line. A sign beside an amount whose caption in the file
 /// is no word or number shows the currency in force. Returns the look as it was laid.
-LabelLook LayLabelLine(Program& program, PageId page, int index, LabelLook look);
+[[nodiscard]] LabelLook LayLabelLine(Program& program, PageId page, int index, LabelLook look);
 
 /// The columns of a row, the boxes with what the line brings when they are on.
 void LayRow(Program& program, const assignment::RowAssignment& row);

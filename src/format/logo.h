@@ -26,7 +26,7 @@ void mnuEditLogoBorder_Click(Program& program);
 /// logo's commands.
 void pic_MouseDown(Program& program, int button, float x, float y);
 /// True when it moved.
-bool pic_MouseMove(Program& program, float x, float y);
+[[nodiscard]] bool pic_MouseMove(Program& program, float x, float y);
 void pic_MouseUp(Program& program);
 void pic_DblClick(Program& program);
 

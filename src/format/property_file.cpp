@@ -73,7 +73,7 @@ void AddLabels(const Program& program, std::vector<std::string>& lines) {
     if (line->SetsWeight) {
         const auto index = static_cast<std::size_t>(line->Index);
         program.pages[PageAt(line->Page)].txt[index].FontBold = line->Bold;
-        program.format.PropTextChanges[static_cast<std::size_t>(line->Page)][index].FontBold = line->Bold;
+        program.format.PropTextChanges[PageAt(line->Page)][index].FontBold = line->Bold;
     }
     return true;
 }
@@ -86,14 +86,13 @@ void AddLabels(const Program& program, std::vector<std::string>& lines) {
         return false;
     }
     LayColumns(program, *row);
-    const auto at = static_cast<std::size_t>(row->Page);
     const auto index = static_cast<std::size_t>(row->Index);
-    program.format.PropTextChanges[at][index].QtyBox = row->Columns;
+    program.format.PropTextChanges[page][index].QtyBox = row->Columns;
     if (row->Columns && !before) {
         // A row may have columns and nothing in them; its proposal is unchanged all the same.
         std::string line = modPages::ComposeLine(program, page, row->Index);
-        program.document.SavedTextBuf[at][index] = line;
-        program.document.CurrentTextBuf[at][index] = std::move(line);
+        program.document.SavedTextBuf[page][index] = line;
+        program.document.CurrentTextBuf[page][index] = std::move(line);
     }
     return true;
 }
@@ -161,9 +160,8 @@ void LayTitlesAsRead(Program& program) {
     const LabelChangeTable before = program.format.PropLabelChanges;
     modTitles::LayTitles(program);
     for (const PageId page : kEditedPages) {
-        const auto at = static_cast<std::size_t>(IndexOf(page));
         const auto index = static_cast<std::size_t>(geometry::TitleLabel(page));
-        program.format.PropLabelChanges[at][index].Changed = before[at][index].Changed;
+        program.format.PropLabelChanges[page][index].Changed = before[page][index].Changed;
     }
 }
 
@@ -171,12 +169,13 @@ void LayTitlesAsRead(Program& program) {
 void TakeTitles(Program& program) {
     DocumentState& document = program.document;
     const LabelChangeTable& table = program.format.PropLabelChanges;
-    const LabelChangeRecord& heading = table[1][0];
+    const LabelChangeRecord& heading = table[PageId::frmP2][0];
     constexpr std::string_view kPageOfHeading = "Page 2";
     if (heading.Changed && heading.Caption.ends_with(kPageOfHeading)) {
         document.PageHeading = heading.Caption.substr(0, heading.Caption.size() - kPageOfHeading.size());
     }
-    const LabelChangeRecord& title = table[0][static_cast<std::size_t>(geometry::TitleLabel(PageId::frmP1))];
+    const LabelChangeRecord& title =
+        table[PageId::frmP1][static_cast<std::size_t>(geometry::TitleLabel(PageId::frmP1))];
     if (title.Changed && !title.Caption.empty()) {
         document.ClientCaption = title.Caption;
         document.TitleGiven = title.Caption != "Proposal for " + document.BaseName;

@@ -36,12 +36,11 @@ bool MarkVisible(const Program& program, PageId page, int index) {
 void PutMark(Program& program, PageId page, int row, Tax tax) {
     const bool exempt = tax == Tax::Exempt;
     modPages::SetNoTaxMark(program, page, row, exempt ? modPages::Mark::Shown : modPages::Mark::Hidden);
-    const auto at = At(IndexOf(page));
-    TextChangeRecord& props = program.format.PropTextChanges[at][At(row)];
+    TextChangeRecord& props = program.format.PropTextChanges[page][At(row)];
     props.TaxExempt = exempt;
     props.Dirty = true;
-    program.format.FormatTextChanges[at][At(row)].TaxExempt = exempt;
-    program.totals.TaxableTable[At(row)][at] = exempt ? 0 : program.totals.AmountTable[At(row)][at];
+    program.format.FormatTextChanges[page][At(row)].TaxExempt = exempt;
+    program.totals.TaxableTable[At(row)][page] = exempt ? 0 : program.totals.AmountTable[At(row)][page];
 }
 
 void DropMarkOfEmpty(Program& program, PageId page, int index) {
@@ -52,21 +51,18 @@ void DropMarkOfEmpty(Program& program, PageId page, int index) {
 
 } // namespace
 
-bool StoreAmount(Program& program, PageId page, int index) {
+void StoreAmount(Program& program, PageId page, int index) {
     TextArea& area = program.pages[page].txt[At(index)];
-    const bool noNumber = IsNoNumber(program, area);
     const float amount = ValueOf(program, area.Text);
-    const auto at = At(IndexOf(page));
-    program.totals.AmountTable[At(index)][at] = amount;
-    program.totals.TaxableTable[At(index)][at] = MarkVisible(program, page, index) ? 0 : amount;
-    const bool counts = !noNumber && !text::Trim(area.Text).empty();
+    program.totals.AmountTable[At(index)][page] = amount;
+    program.totals.TaxableTable[At(index)][page] = MarkVisible(program, page, index) ? 0 : amount;
+    const bool counts = !IsNoNumber(program, area) && !text::Trim(area.Text).empty();
     modPages::SetCurrencySign(program, page, index, counts ? modPages::Mark::Shown : modPages::Mark::Hidden);
     TellNoNumber(program, area);
-    return !noNumber;
 }
 
 void LeaveAmount(Program& program, PageId page, int index) {
-    static_cast<void>(StoreAmount(program, page, index));
+    StoreAmount(program, page, index);
     const std::string value = AreaOf(program, page, index).Text;
     if (const auto number = numbers::ToDouble(value, program.settings.CurrencySymbol)) {
         const ScopedFlag refiring(program.editing.RefireMode,
@@ -104,16 +100,15 @@ void SetTax(Program& program, PageId page, int row, Tax tax) {
 
 void MatchTables(Program& program) {
     for (const PageId page : kLinePages) {
-        const auto at = At(IndexOf(page));
         for (int index = 0; index <= geometry::LastText(page); ++index) {
             if (!geometry::IsAmount(page, index)) {
                 continue;
             }
             const float amount = ValueOf(program, AreaOf(program, page, index).Text);
             const float taxable = MarkVisible(program, page, index) ? 0 : amount;
-            if (program.totals.AmountTable[At(index)][at] != amount ||
-                program.totals.TaxableTable[At(index)][at] != taxable) {
-                static_cast<void>(StoreAmount(program, page, index));
+            if (program.totals.AmountTable[At(index)][page] != amount ||
+                program.totals.TaxableTable[At(index)][page] != taxable) {
+                StoreAmount(program, page, index);
                 TextArea& area = program.pages[page].txt[At(index)];
                 if (IsNoNumber(program, area) && area.BackColor != colors::kBlockSelected) {
                     area.BackColor = colors::kOverLimit;

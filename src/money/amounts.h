@@ -8,8 +8,8 @@ struct Program;
 namespace modTotals {
 
 /// The tables' entries and the currency sign for an amount area. An empty text and one that is no number
-/// count as nothing; the latter says so in its tool tip and keeps its text. False for what is no number.
-[[nodiscard]] bool StoreAmount(Program& program, PageId page, int index);
+/// count as nothing; the latter says so in its tool tip and keeps its text.
+void StoreAmount(Program& program, PageId page, int index);
 
 /// What leaving an amount does: tables, pattern, sign, page sum and running totals. A change handler that is
 /// quiet during a block selection runs all the same, so that the store has what the page shows.

@@ -338,8 +338,7 @@ void RewriteDeposit(Program& program) {
     WriteDeposit(program);
 }
 
-void FinalPageLostFocus(Program& program, int index) {
-    static_cast<void>(index);
+void FinalPageLostFocus(Program& program) {
     const TotalsRecords& totals = program.totals;
     if (totals.Deposit + totals.SubTotal + totals.SalesTax + totals.TaxableTotal == 0) {
         return;

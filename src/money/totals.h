@@ -51,7 +51,7 @@ void FinalPageChange(Program& program, int index);
 /// Writes the deposit under its pattern, which then counts as if typed.
 void RewriteDeposit(Program& program);
 /// An area of the final page was left.
-void FinalPageLostFocus(Program& program, int index);
+void FinalPageLostFocus(Program& program);
 
 /// Recomputes everything from the texts just read from a file; shows the message for a deposit that is no
 /// number.

@@ -110,7 +110,7 @@ bool NameIsSettled(Program& program, const std::string& folder) {
         GoToClientName(program);
         return false;
     }
-    if (modFile::FileIsThere(folder, name)) {
+    if (files::FileIsThere(folder, name)) {
         modNames::ShowDuplicateFileOptions(program, folder, name);
         if (document.Cancelled) {
             document.Cancelled = false;

@@ -113,7 +113,7 @@ void ClientPageDefaults(Program& program, Page& page) {
         ResetRowFields(page, "", "");
     }
     ResetLabels(page, Weight::Bold);
-    if (modFile::FileIsThere(program.folders.ProposalsFolder, kAlternateSwitch)) {
+    if (files::FileIsThere(program.folders.ProposalsFolder, kAlternateSwitch)) {
         program.run.AltLetterhead = true;
     }
     LayLetterhead(program, page);

@@ -28,7 +28,7 @@ public:
     /// Name of the current printer; empty when there is none.
     [[nodiscard]] virtual std::string Current() const = 0;
     /// Exact match of the name; false when there is no such printer.
-    virtual bool MakeCurrent(std::string_view name) = 0;
+    [[nodiscard]] virtual bool MakeCurrent(std::string_view name) = 0;
     /// Only while there is a current printer.
     [[nodiscard]] virtual Printer& Device() = 0;
 

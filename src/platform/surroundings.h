@@ -46,7 +46,8 @@ public:
     virtual void Open(std::string_view target) = 0;
     /// `folder` is seen from the system's folder of program links: empty is that folder itself,
     /// "..\..\Desktop" the desktop. False when the link could not be made.
-    virtual bool CreateLink(std::string_view folder, std::string_view name, std::string_view target) = 0;
+    [[nodiscard]] virtual bool CreateLink(std::string_view folder, std::string_view name,
+                                          std::string_view target) = 0;
 };
 
 class Clock {

@@ -11,9 +11,6 @@ template <typename T, int Count> struct PerPage {
 
     [[nodiscard]] T& operator[](PageId page) { return Each[static_cast<std::size_t>(page)]; }
     [[nodiscard]] const T& operator[](PageId page) const { return Each[static_cast<std::size_t>(page)]; }
-    /// By number, for who walks a file's pages in its order.
-    [[nodiscard]] T& operator[](std::size_t page) { return Each[page]; }
-    [[nodiscard]] const T& operator[](std::size_t page) const { return Each[page]; }
     [[nodiscard]] constexpr std::size_t size() const { return Each.size(); }
     [[nodiscard]] auto begin() { return Each.begin(); }
     [[nodiscard]] auto end() { return Each.end(); }

@@ -6,7 +6,7 @@
 
 #include <string>
 
-namespace modFile {
+namespace modRewrite {
 
 bool MayOverwrite(Program& program, std::string_view path, const files::Seen& seen, std::string_view what) {
     // One that could not be read is no news to the person, and is kept.
@@ -23,7 +23,7 @@ bool MayOverwrite(Program& program, std::string_view path, const files::Seen& se
 void WriteOver(std::string_view path, std::string_view bytes, files::Seen& seen) {
     if (files::ExistsExactly(path) &&
         (seen.Was == files::Seen::What::Unread || files::LookAt(path).Was == files::Seen::What::Unread)) {
-        files::KeepUnread(path);
+        static_cast<void>(files::KeepUnread(path));
     }
     files::WriteWhole(path, bytes);
     seen = files::SeenIn(bytes);
@@ -38,4 +38,4 @@ Rewriting Rewrite(Program& program, std::string_view path, std::string_view byte
     return Rewriting::Done;
 }
 
-} // namespace modFile
+} // namespace modRewrite

@@ -7,7 +7,7 @@
 struct Program;
 
 /// The one way to overwrite a file that the program has read: a proposal, the settings, a terms list ...
-namespace modFile {
+namespace modRewrite {
 
 /// Whether the file may be overwritten. Yes when it is as it was seen, and when it is not there; otherwise
 /// the person is asked: "This " and `what` ("proposal", "terms list") "was changed by another program since
@@ -24,4 +24,4 @@ enum class Rewriting { Done, Refused };
 [[nodiscard]] Rewriting Rewrite(Program& program, std::string_view path, std::string_view bytes,
                                 files::Seen& seen, std::string_view what);
 
-} // namespace modFile
+} // namespace modRewrite

@@ -80,7 +80,7 @@ void SaveAsSteps(Program& program) {
         document.SavedStateStale = true; // they are asked about again when the proposal is left
     }
     modSideFile::FollowSaveAs(program, before);
-    document.HasNotes = modFile::FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile);
+    document.HasNotes = files::FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile);
     modTitles::UpdateEventNameLabels(program);
 }
 
@@ -231,7 +231,7 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
         const std::string target = paths::Join(folder, document.FileName);
         const std::string bytes = files::ReadAll(paths::Join(document.FilePath, document.FileName));
         files::Seen seen = files::LookAt(target);
-        modFile::WriteOver(target, bytes, seen);
+        modRewrite::WriteOver(target, bytes, seen);
         document.SavedFile = seen;
         TellSaved(program, "Backup put back, proposal", target);
         if (!document.TitleGiven) {
@@ -239,14 +239,14 @@ void mnuFileRestoreFromBackup_Click(Program& program) {
             modTitles::UpdateFooters(program);
         }
         const std::string layout = document.BaseName + ".hpf";
-        if (modFile::FileIsThere(document.FilePath, layout)) {
+        if (files::FileIsThere(document.FilePath, layout)) {
             files::Copy(paths::Join(document.FilePath, layout), paths::Join(folder, layout));
             program.format.PropertyPath = paths::Join(folder, layout);
             program.format.PropertySeen = files::LookAt(program.format.PropertyPath);
         }
         document.FilePath = folder;
         document.FolderOnShow = folder;
-        document.HasNotes = modFile::FileIsThere(folder, document.FootnoteFile);
+        document.HasNotes = files::FileIsThere(folder, document.FootnoteFile);
         document.FromBackup = false;
     });
 }

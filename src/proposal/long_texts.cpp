@@ -12,16 +12,15 @@ namespace modFile {
 std::vector<std::string> LongTexts(const Program& program) {
     const proposal::Widths widths = SlotWidths(program);
     std::vector<std::string> places;
-    for (std::size_t page = 0; page < kEditedPageCount; ++page) {
+    for (const PageId page : kEditedPages) {
         const auto& texts = program.document.CurrentTextBuf[page];
         const std::size_t count = std::min(texts.size(), widths[page].size());
         for (std::size_t index = 0; index < count; ++index) {
-            const bool marked = page < kLinePageCount &&
-                                program.format.PropTextChanges[page][index].TaxExempt &&
+            const bool marked = IsLinePage(page) && program.format.PropTextChanges[page][index].TaxExempt &&
                                 !text::Trim(texts[index]).empty();
             const std::size_t room = static_cast<std::size_t>(std::max(widths[page][index], 0));
             if (text::RTrim(texts[index]).size() + (marked ? 1U : 0U) > room) {
-                places.push_back("Page " + std::to_string(page + 1) + ", Text Area " +
+                places.push_back("Page " + std::to_string(IndexOf(page) + 1) + ", Text Area " +
                                  std::to_string(index + 1));
             }
         }

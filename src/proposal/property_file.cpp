@@ -61,7 +61,8 @@ SaveResult SavePropertyFile(Program& program) {
         const std::string bytes = BytesOfLines(format.PropertyLines);
         // Under another name, whoever chose that name has agreed to what it replaces.
         files::Seen seen = path == format.PropertyPath ? format.PropertySeen : files::LookAt(path);
-        written = Rewrite(program, path, bytes, seen, "layout of the proposal") == Rewriting::Done;
+        written = modRewrite::Rewrite(program, path, bytes, seen, "layout of the proposal") ==
+                  modRewrite::Rewriting::Done;
         if (written) {
             format.PropertyPath = path;
             format.PropertySeen = seen;
@@ -93,8 +94,8 @@ void TakeProperties(Program& program, const std::string& path) {
 void ReadFileProperties(Program& program) {
     Guarded(program, "ReadFileProperties", [&] {
         // A backup may have its own layout beside it; what is saved goes to the data folder all the same.
-        const bool own =
-            program.document.FromBackup && FileIsThere(program.document.FilePath, PropertyName(program));
+        const bool own = program.document.FromBackup &&
+                         files::FileIsThere(program.document.FilePath, PropertyName(program));
         TakeProperties(program, paths::Join(own ? program.document.FilePath : PropertyFolder(program),
                                             PropertyName(program)));
     });

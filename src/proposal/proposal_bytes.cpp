@@ -14,16 +14,15 @@ namespace modFile {
 std::string ProposalBytes(const Program& program) {
     proposal::Fields fields;
     for (const PageId page : kEditedPages) {
-        const auto at = static_cast<std::size_t>(IndexOf(page));
-        const auto& texts = program.document.CurrentTextBuf[at];
-        fields[at].reserve(texts.size());
+        const auto& texts = program.document.CurrentTextBuf[page];
+        fields[page].reserve(texts.size());
         for (std::size_t index = 0; index < texts.size(); ++index) {
             const int row = static_cast<int>(index);
             const bool columns = program.pages[page].RowFieldsMade && geometry::IsDescription(page, row);
             // A mark beside nothing says nothing and would come back as a text.
-            const bool marked = at < kLinePageCount && program.format.PropTextChanges[at][index].TaxExempt &&
+            const bool marked = IsLinePage(page) && program.format.PropTextChanges[page][index].TaxExempt &&
                                 !text::Trim(texts[index]).empty();
-            fields[at].push_back(
+            fields[page].push_back(
                 {columns ? modPages::ComposeLine(program, page, row) : texts[index], marked});
         }
     }

@@ -209,7 +209,7 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
     modNames::SetBaseName(program, paths::BaseOf(fileName));
     document.ClientCaption = "Proposal for " + document.BaseName;
     TakeKind(program);
-    document.HasNotes = FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile);
+    document.HasNotes = files::FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile);
     if (program.hooks.ReadFrequentlyUsedTerms) {
         program.hooks.ReadFrequentlyUsedTerms(program);
     }

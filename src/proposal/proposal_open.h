@@ -29,6 +29,6 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
 
 /// Both in one. A file that cannot be read leaves the proposal that stands.
 enum class OpenResult { Opened, NotOpened };
-OpenResult OpenEventFile(Program& program, std::string_view fileName);
+[[nodiscard]] OpenResult OpenEventFile(Program& program, std::string_view fileName);
 
 } // namespace modFile

@@ -67,7 +67,7 @@ bool NameIsSettled(Program& program) {
         return true;
     }
     if (document.FileExists && !document.SaveAsActive && files::ChangedSince(path, document.SavedFile)) {
-        return MayOverwrite(program, path, document.SavedFile, "proposal");
+        return modRewrite::MayOverwrite(program, path, document.SavedFile, "proposal");
     }
     if (!document.FileExists || ClientNameChanged(program)) {
         modNames::ShowDuplicateFileOptions(program, document.FileName);
@@ -146,7 +146,7 @@ void SavingSteps(Program& program, SaveResult& result) {
     document.SavedStateStale = properties;
     const std::string bytes = ProposalBytes(program);
     modRecovery::TellOfSave(program, bytes);
-    WriteOver(path, bytes, document.SavedFile);
+    modRewrite::WriteOver(path, bytes, document.SavedFile);
     document.TextFileName = std::string(paths::BaseOf(document.FileName)) + ".txt";
     program.format.EditingFormat = false;
     document.SavedTextBuf = document.CurrentTextBuf;

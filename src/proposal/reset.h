@@ -8,6 +8,6 @@ enum class ResetResult { Done, Refused };
 
 /// The reset: an empty proposal on all pages. Refused when the person goes on editing a format. Reports as
 /// "StartNewFile".
-ResetResult StartNewFile(Program& program);
+[[nodiscard]] ResetResult StartNewFile(Program& program);
 
 } // namespace modReset

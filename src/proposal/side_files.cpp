@@ -53,7 +53,7 @@ void FollowOne(Program& program, const DocumentState& before, std::string_view e
         return;
     }
     const std::string target = paths::Join(to, is);
-    if (before.FileExists && !before.BaseName.empty() && modFile::FileIsThere(from, was)) {
+    if (before.FileExists && !before.BaseName.empty() && files::FileIsThere(from, was)) {
         const std::string bytes = files::ReadAll(paths::Join(from, was));
         if (files::ExistsExactly(target) && files::LookAt(target) != files::SeenIn(bytes)) {
             MoveAside(program, target, is); // what was replaced is the proposal, not what lay beside it

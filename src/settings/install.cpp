@@ -56,7 +56,7 @@ void Fill(const Places& places) {
 } // namespace
 
 std::string Locate(const Places& places) {
-    if (modFile::FileIsThere(places.Executable, "UserPreferences.txt") &&
+    if (files::FileIsThere(places.Executable, "UserPreferences.txt") &&
         ::access(ansi::ToUtf8(places.Executable).c_str(), W_OK) == 0) {
         return places.Executable;
     }

@@ -66,8 +66,8 @@ void SavePrinterOffsets(Program& program) {
         bytes += kYKey;
         bytes += InchesOf(program.printing.PrinterOffsetY);
         // Refused: what the other program wrote is kept, and these hold for this run.
-        if (modFile::Rewrite(program, PathOf(program), bytes, program.settings.OffsetsFile,
-                             "printer offsets file") == modFile::Rewriting::Done) {
+        if (modRewrite::Rewrite(program, PathOf(program), bytes, program.settings.OffsetsFile,
+                                "printer offsets file") == modRewrite::Rewriting::Done) {
             TellSaved(program, "Printer offsets", PathOf(program));
         }
     });

@@ -227,7 +227,7 @@ std::string ChooseFolder(Program& program) {
     folders.SharedFolder =
         paths::WithSeparator(paths::ResolveDrive(program.settings.SharedDirectory, folders.Drives));
     std::string shared = paths::WithSeparator(paths::Join(folders.SharedFolder, kProposals));
-    if (modFile::FolderExists(folders.SharedFolder, kProposals)) {
+    if (files::FolderExists(folders.SharedFolder, kProposals)) {
         return shared;
     }
     Questions& questions = program.platform.questions;
@@ -267,7 +267,7 @@ void EnsureFolders(Program& program) {
         if (!files::IsFolder(folder)) {
             files::MakeFolder(folder);
         }
-        if (!modFile::FolderExists(folder, kBackup)) {
+        if (!files::FolderExists(folder, kBackup)) {
             files::MakeFolder(paths::Join(folder, kBackup));
         }
     } catch (const std::exception& error) {
@@ -357,8 +357,8 @@ bool SaveUserPreferences(Program& program) {
     bool written = false;
     const bool done = Guarded(program, "RequestNetworkSharePath", [&] {
         SettingsRecords& settings = program.settings;
-        written = modFile::Rewrite(program, PathOf(program), BytesOf(settings.Lines), settings.SettingsFile,
-                                   "settings file") == modFile::Rewriting::Done;
+        written = modRewrite::Rewrite(program, PathOf(program), BytesOf(settings.Lines),
+                                      settings.SettingsFile, "settings file") == modRewrite::Rewriting::Done;
     });
     return done && written;
 }

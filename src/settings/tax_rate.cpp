@@ -42,8 +42,8 @@ void SaveTaxRate(Program& program, std::string_view rateText) {
     Guarded(program, "SaveTaxRate", [&] {
         std::string five(rateText.substr(0, kTaxLength));
         five.resize(kTaxLength, ' ');
-        if (modFile::Rewrite(program, PathOf(program), five, program.settings.TaxFile, "tax rate") !=
-            modFile::Rewriting::Done) {
+        if (modRewrite::Rewrite(program, PathOf(program), five, program.settings.TaxFile, "tax rate") !=
+            modRewrite::Rewriting::Done) {
             return;
         }
         program.totals.TaxRate = numbers::ValSingle(five);

@@ -22,7 +22,7 @@ void OpenNextList(Program& program);
 void CreateNewFUTFile(Program& program);
 
 /// Asks, deletes the file and opens the first list that is left; false when nothing was deleted.
-bool DeleteList(Program& program, std::string_view fileName);
+[[nodiscard]] bool DeleteList(Program& program, std::string_view fileName);
 
 /// Lists that an installation lays down: made empty where they are missing.
 void LayDownLists(Program& program);

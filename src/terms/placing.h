@@ -20,7 +20,7 @@ void PlaceAmount(Program& program, const FieldRef& description, std::string_view
 /// Lets it go there: a text goes behind what a text area holds, a description's price into its line; a number
 /// replaces what a field of figures holds, as typed and left. The field gets the focus, the cursor behind its
 /// text. False when the field does not take it.
-bool txt_DragDrop(Program& program, const FieldRef& field, std::string_view dragged);
+[[nodiscard]] bool txt_DragDrop(Program& program, const FieldRef& field, std::string_view dragged);
 
 /// The field that the cursor is or was in last.
 [[nodiscard]] FieldRef LastField(const Program& program);

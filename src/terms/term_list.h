@@ -37,15 +37,15 @@ void EnsureRead(Program& program);
 /// written memory holds what was read. Reports as "SaveFrequentlyUsedTerms".
 using Change = std::function<void(LineList&)>;
 enum class Saved { Yes, No, Failed };
-Saved SaveFrequentlyUsedTerms(Program& program, const Change& change);
+[[nodiscard]] Saved SaveFrequentlyUsedTerms(Program& program, const Change& change);
 
 /// Adds a term at the end, after the checks and with their messages. False when it was not added.
-bool AddTerm(Program& program, std::string_view text);
+[[nodiscard]] bool AddTerm(Program& program, std::string_view text);
 /// Takes out the first line that is exactly this text. A failure has a message of its own besides the report.
-bool RemoveTerm(Program& program, std::string_view line);
+[[nodiscard]] bool RemoveTerm(Program& program, std::string_view line);
 /// Puts a text in the place of the first line that is exactly `line`; nothing when there is none. False, with
 /// a message, for an empty text.
-bool ReplaceTerm(Program& program, std::string_view line, std::string_view text);
+[[nodiscard]] bool ReplaceTerm(Program& program, std::string_view line, std::string_view text);
 
 enum class LetterCase { Lower, Proper, Upper };
 /// Asks, then rewrites all terms.

@@ -62,10 +62,10 @@ TEST(Files, NamesAreFoundWithoutRegardToCaseAnExactOneFirst) {
     folder.Write("Backup/jane.hef", "lower");
     EXPECT_EQ(files::ReadAll(folder / "backup/jane.hef"), "lower");
     EXPECT_EQ(files::ReadAll(folder / "backup/Jane.HEF"), "upper");
-    EXPECT_TRUE(modFile::FileIsThere(folder.Path(), "backup/JANE.hef"));
-    EXPECT_TRUE(modFile::FolderExists(folder.Path(), "BACKUP"));
-    EXPECT_FALSE(modFile::FolderExists(folder.Path(), "Jane.HEF"));
-    EXPECT_FALSE(modFile::FileIsThere(folder.Path(), ""));
+    EXPECT_TRUE(files::FileIsThere(folder.Path(), "backup/JANE.hef"));
+    EXPECT_TRUE(files::FolderExists(folder.Path(), "BACKUP"));
+    EXPECT_FALSE(files::FolderExists(folder.Path(), "Jane.HEF"));
+    EXPECT_FALSE(files::FileIsThere(folder.Path(), ""));
 }
 
 TEST(Files, NamesHoldEveryCharacterOfTheProgram) {
@@ -156,8 +156,8 @@ TEST(Files, PredicatesNeverThrow) {
     EXPECT_FALSE(files::ExistsExactly(hostile));
     EXPECT_FALSE(files::IsFolder(hostile));
     EXPECT_FALSE(files::IsFolder("/" + hostile + "/"));
-    EXPECT_FALSE(modFile::FileIsThere("/tmp", hostile));
-    EXPECT_FALSE(modFile::FolderExists(hostile, "x"));
+    EXPECT_FALSE(files::FileIsThere("/tmp", hostile));
+    EXPECT_FALSE(files::FolderExists(hostile, "x"));
     EXPECT_FALSE(files::Exists(""));
     EXPECT_FALSE(files::ExistsExactly("/none/of/these"));
     EXPECT_FALSE(files::Exists("/tmp/" + std::string(5000, 'x')));

@@ -18,7 +18,7 @@ DesktopRun::DesktopRun() {
     program.folders.InstallFolder = folder.Path();
     folder.MakeFolder("Home");
     program.folders.Drives.Home = folder / "Home/";
-    printers.MakeCurrent("Print to PDF");
+    static_cast<void>(printers.MakeCurrent("Print to PDF"));
     Wire(program);
     recording.questions.Allow(kNoEvents); // its folder has no proposals
     window = std::make_unique<FrmMainView>(program, measure);

@@ -48,8 +48,9 @@ struct FullProposal : DesktopRun {
     void Put(PageId page, int index, std::string text) {
         TextArea& area = On(page).txt[static_cast<std::size_t>(index)];
         area.Text = text;
-        program.document.CurrentTextBuf[static_cast<std::size_t>(std::min(IndexOf(page), 5))]
-                                       [static_cast<std::size_t>(index)] = std::move(text);
+        program.document.CurrentTextBuf
+            .Each[static_cast<std::size_t>(std::min(IndexOf(page), 5))][static_cast<std::size_t>(index)] =
+            std::move(text);
         if (IsLinePage(page) && geometry::IsAmount(page, index)) {
             modPages::SetCurrencySign(program, page, index, modPages::Mark::Shown);
         }

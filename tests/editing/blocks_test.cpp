@@ -49,10 +49,10 @@ TEST(Contents, ReachBothTablesAndRunNoHandler) {
     EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
     EXPECT_FALSE(run.program.editing.MoveInProgress);
     for (const auto* table : {&run.program.format.PropTextChanges, &run.program.format.FormatTextChanges}) {
-        EXPECT_TRUE((*table)[1][8].QtyBox);
-        EXPECT_EQ((*table)[1][8].QtyValue, "3");
-        EXPECT_EQ((*table)[1][8].AmtValue, "19.99");
-        EXPECT_TRUE((*table)[1][42].TaxExempt);
+        EXPECT_TRUE((*table).Each[1][8].QtyBox);
+        EXPECT_EQ((*table).Each[1][8].QtyValue, "3");
+        EXPECT_EQ((*table).Each[1][8].AmtValue, "19.99");
+        EXPECT_TRUE((*table).Each[1][42].TaxExempt);
     }
 }
 
@@ -92,7 +92,7 @@ TEST(Delete, EmptiesTheSelectedAreasWithAllThatBelongsToThem) {
         EXPECT_EQ(run.Area(kSecond, index).ForeColor, colors::kBlack);
         for (const auto* table :
              {&run.program.format.PropTextChanges, &run.program.format.FormatTextChanges}) {
-            const TextChangeRecord& record = (*table)[1][static_cast<std::size_t>(index)];
+            const TextChangeRecord& record = (*table).Each[1][static_cast<std::size_t>(index)];
             EXPECT_FALSE(record.FontBold || record.TaxExempt || record.QtyBox) << index;
             EXPECT_EQ(record.QtyValue + record.AmtValue, "") << index;
         }

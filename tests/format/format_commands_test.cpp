@@ -63,7 +63,7 @@ struct Formats : RunningProgram {
     /// Drags a label one step to the right.
     void Drag(int label) {
         modDesigner::lbl_MouseDown(program, PageId::frmP1, label, modDesigner::kLeftButton, 0, 0);
-        modDesigner::lbl_MouseMove(program, PageId::frmP1, label, 180, 0);
+        static_cast<void>(modDesigner::lbl_MouseMove(program, PageId::frmP1, label, 180, 0));
         modDesigner::lbl_MouseUp(program, PageId::frmP1, label);
     }
     [[nodiscard]] std::string Settings() const { return folder.Read("UserPreferences.txt"); }

@@ -184,10 +184,8 @@ TEST(FormatFile, AnOpenedProposalIsTheSameUnderAFormatThatFillsEveryRow) {
                 all.push_back(record.txt[index].Text);
                 if (IsLinePage(page)) {
                     all.push_back(record.imgNoTax[index].Tag);
-                    const auto& props =
-                        run.program.format.PropTextChanges[static_cast<std::size_t>(IndexOf(page))][index];
-                    const auto& kept =
-                        run.program.format.FormatTextChanges[static_cast<std::size_t>(IndexOf(page))][index];
+                    const auto& props = run.program.format.PropTextChanges[page][index];
+                    const auto& kept = run.program.format.FormatTextChanges[page][index];
                     for (const TextChangeRecord* table : {&props, &kept}) {
                         all.push_back(table->Text + '|' + table->QtyValue + '|' + table->AmtValue +
                                       (table->QtyBox ? "q" : "") + (table->TaxExempt ? "x" : ""));
@@ -359,8 +357,8 @@ private:
         case 1: {
             const bool bold = Flip();
             program.pages[page].txt[area].FontBold = bold;
-            program.format.PropTextChanges[at][area].FontBold = bold;
-            program.format.FormatTextChanges[at][area].FontBold = bold;
+            program.format.PropTextChanges.Each[at][area].FontBold = bold;
+            program.format.FormatTextChanges.Each[at][area].FontBold = bold;
             break;
         }
         case 2:
@@ -497,8 +495,8 @@ TEST(CompanyLines, ThatAFormatCarriesChangeWithTheSettingsAndAreToSave) {
     modPages::CompanyInfoChanged(run.program, before);
     EXPECT_EQ(run.Label(PageId::frmP1, 0).Caption, "Acme and Daughters");
     EXPECT_EQ(run.Label(PageId::frmP1, 1).Caption, "Round the corner");
-    EXPECT_EQ(run.program.format.FormatLabelChanges[0][0].Caption, "Acme and Daughters");
-    EXPECT_FALSE(run.program.format.FormatLabelChanges[0][0].Saved);
+    EXPECT_EQ(run.program.format.FormatLabelChanges.Each[0][0].Caption, "Acme and Daughters");
+    EXPECT_FALSE(run.program.format.FormatLabelChanges.Each[0][0].Saved);
 }
 
 } // namespace

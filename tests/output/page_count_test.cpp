@@ -9,9 +9,8 @@
 namespace {
 
 void SetLine(RunningProgram& run, PageId page, int index, std::string text) {
-    run.program.document
-        .CurrentTextBuf[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)] =
-        std::move(text);
+    run.program.document.CurrentTextBuf
+        .Each[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)] = std::move(text);
 }
 
 TEST(PagesInUse, IsTheHighestPageWithALineAndTheFinalPage) {
@@ -133,7 +132,7 @@ TEST(PageNumbers, HeadingsAreKeptWithTheProposalAsTheyLook) {
     EXPECT_TRUE(kept.FontUnderline);
     EXPECT_EQ(kept.ForeColor, 0x0000FFU);
     for (const std::size_t page : {1U, 2U, 3U, 4U, 5U}) {
-        EXPECT_TRUE(run.program.format.PropLabelChanges[page][0].Changed);
+        EXPECT_TRUE(run.program.format.PropLabelChanges.Each[page][0].Changed);
     }
     EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 3");
     EXPECT_FALSE(run.program.format.PropLabelChanges[PageId::frmP1][31].Changed)

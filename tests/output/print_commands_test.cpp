@@ -17,7 +17,7 @@ using Names = std::vector<std::pair<std::string, int>>;
 /// A proposal whose highest line stands on a page.
 struct Proposal : RunningProgram {
     explicit Proposal(int pagesInUse) {
-        program.document.CurrentTextBuf[static_cast<std::size_t>(pagesInUse - 2)][0] = "text";
+        program.document.CurrentTextBuf.Each[static_cast<std::size_t>(pagesInUse - 2)][0] = "text";
         surroundings.events.OnYield = [this] {
             if (Window* window = modWindows::Find(program, "frmDialog")) {
                 Messages.push_back(dynamic_cast<frmDialog&>(*window).lblMessage.Caption);

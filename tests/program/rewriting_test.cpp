@@ -10,12 +10,12 @@
 
 namespace {
 
-using modFile::Rewriting;
+using modRewrite::Rewriting;
 constexpr const char* kQuestion =
     "This terms list was changed by another program since you opened it. Overwrite it?";
 
 Rewriting WriteOver(Settled& run, files::Seen& seen) {
-    return modFile::Rewrite(run.program, run.folder / "list", "new", seen, "terms list");
+    return modRewrite::Rewrite(run.program, run.folder / "list", "new", seen, "terms list");
 }
 
 TEST(Rewriting, AFileThatIsAsItWasSeenIsOverwrittenWithoutAQuestion) {

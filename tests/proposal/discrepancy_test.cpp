@@ -15,8 +15,8 @@ TEST(Discrepancy, TwoWaysOfAddingSinglesThatReallyDifferAreTold) {
     for (const auto& [page, index, value] :
          {std::tuple{PageId::frmP1, 20, 16777216.0F}, {PageId::frmP2, 33, 1.0F}, {PageId::frmP2, 34, 1.0F}}) {
         run.Area(page, index).Text = value > 1 ? "16777216" : "1";
-        run.program.totals
-            .AmountTable[static_cast<std::size_t>(index)][static_cast<std::size_t>(IndexOf(page))] = value;
+        run.program.totals.AmountTable[static_cast<std::size_t>(index)]
+            .Each[static_cast<std::size_t>(IndexOf(page))] = value;
         modPages::SetNoTaxMark(run.program, page, index, modPages::Mark::Shown);
     }
     modTotals::CalculateMyTotals(run.program, PageId::frmP1);

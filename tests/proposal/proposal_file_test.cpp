@@ -43,12 +43,13 @@ modFile::OpenResult Open(RunningProgram& run, const std::string& bytes, const ch
 }
 
 const std::string& Current(RunningProgram& run, int page, int index) {
-    return run.program.document
-        .CurrentTextBuf[static_cast<std::size_t>(page)][static_cast<std::size_t>(index)];
+    return run.program.document.CurrentTextBuf
+        .Each[static_cast<std::size_t>(page)][static_cast<std::size_t>(index)];
 }
 
 const std::string& Saved(RunningProgram& run, int page, int index) {
-    return run.program.document.SavedTextBuf[static_cast<std::size_t>(page)][static_cast<std::size_t>(index)];
+    return run.program.document.SavedTextBuf
+        .Each[static_cast<std::size_t>(page)][static_cast<std::size_t>(index)];
 }
 
 TEST(ProposalLayout, HasItsSlotsAtTheirOffsets) {
@@ -59,7 +60,7 @@ TEST(ProposalLayout, HasItsSlotsAtTheirOffsets) {
     std::size_t position = 0;
     for (const auto& [page, offset] : pages) {
         EXPECT_EQ(position, offset);
-        for (const int width : widths[static_cast<std::size_t>(page)]) {
+        for (const int width : widths.Each[static_cast<std::size_t>(page)]) {
             position += static_cast<std::size_t>(width);
         }
     }
@@ -71,10 +72,10 @@ TEST(ProposalLayout, AFullWidthMarkedAmountLosesItsLastCharacter) {
     const proposal::Widths widths = modFile::SlotWidths(run.program);
     proposal::Fields fields;
     for (std::size_t page = 0; page < widths.size(); ++page) {
-        fields[page].resize(widths[page].size());
+        fields.Each[page].resize(widths.Each[page].size());
     }
-    fields[0][20] = {"12345678901234567890", true};
-    fields[0][21] = {"7", false};
+    fields.Each[0][20] = {"12345678901234567890", true};
+    fields.Each[0][21] = {"7", false};
     const std::string bytes = proposal::Encode(fields, widths);
     EXPECT_EQ(bytes.size(), 20630U);
     EXPECT_EQ(bytes.substr(kFirstAmountOffset, 21), "\xD8"

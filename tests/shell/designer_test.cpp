@@ -42,7 +42,7 @@ struct Designing : RunningProgram {
     }
     void Drag(int index, float across, float down, PageId page = PageId::frmP1) {
         Press(index, page);
-        lbl_MouseMove(program, page, index, 10 + across, 10 + down);
+        static_cast<void>(lbl_MouseMove(program, page, index, 10 + across, 10 + down));
         lbl_MouseUp(program, page, index);
     }
     void DoubleClick(int index, PageId page = PageId::frmP1) {
@@ -51,12 +51,12 @@ struct Designing : RunningProgram {
         lbl_MouseUp(program, page, index);
     }
     LabelChangeRecord& Prop(int index, PageId page = PageId::frmP1) {
-        return program.format
-            .PropLabelChanges[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)];
+        return program.format.PropLabelChanges
+            .Each[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)];
     }
     LabelChangeRecord& Format(int index, PageId page = PageId::frmP1) {
-        return program.format
-            .FormatLabelChanges[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)];
+        return program.format.FormatLabelChanges
+            .Each[static_cast<std::size_t>(IndexOf(page))][static_cast<std::size_t>(index)];
     }
     frmLabelProps& Props() {
         person::Choose(program, CommandId::mnuEditLabelProps);
@@ -111,7 +111,7 @@ TEST(LabelDrag, OfOneOfAGroupMovesThatOneAlone) {
 TEST(LabelDrag, OnTheFinalPageTheCopyFollowsAtTheRelease) {
     Designing run;
     run.Press(49, PageId::frmP6);
-    lbl_MouseMove(run.program, PageId::frmP6, 49, 190, 10);
+    static_cast<void>(lbl_MouseMove(run.program, PageId::frmP6, 49, 190, 10));
     EXPECT_EQ(run.Label(PageId::frmP6_1, 49).Left, 720);
     lbl_MouseUp(run.program, PageId::frmP6, 49);
     EXPECT_EQ(run.Label(PageId::frmP6_1, 49).Left, 900);
@@ -335,7 +335,7 @@ TEST(LabelKeys, DoWhatTheMouseDoes) {
     }
     const auto step = [&](float across, float down) {
         lbl_MouseDown(mouse.program, PageId::frmP1, 9, kLeftButton, 0, 0);
-        lbl_MouseMove(mouse.program, PageId::frmP1, 9, across, down);
+        static_cast<void>(lbl_MouseMove(mouse.program, PageId::frmP1, 9, across, down));
         lbl_MouseUp(mouse.program, PageId::frmP1, 9);
     };
     step(180, 0);

@@ -297,7 +297,7 @@ void ComparePage(Comparison& is, const Program& program, const ReferenceFlow& fl
         const ReferenceFlow::Row& row = sheet.Rows[i];
         is.Here("text", area.Text, sheet.txt[i].Text);
         is.Here("colour", area.BackColor, sheet.txt[i].Back);
-        is.Here("store", program.document.CurrentTextBuf[page][i], row.Store);
+        is.Here("store", program.document.CurrentTextBuf.Each[page][i], row.Store);
         if (page == 5) {
             continue;
         }
@@ -305,15 +305,15 @@ void ComparePage(Comparison& is, const Program& program, const ReferenceFlow& fl
             is.Here("left", area.Left, sheet.txt[i].Left);
             is.Here("width", area.Width, sheet.txt[i].Width);
         }
-        const TextChangeRecord& props = program.format.PropTextChanges[page][i];
-        const TextChangeRecord& base = program.format.FormatTextChanges[page][i];
+        const TextChangeRecord& props = program.format.PropTextChanges.Each[page][i];
+        const TextChangeRecord& base = program.format.FormatTextChanges.Each[page][i];
         is.Here("text in the properties", props.Text, row.PropText);
         is.Here("quantity row", props.QtyBox, row.QtyBox);
         is.Here("quantity row in the baseline", base.QtyBox, row.QtyBox);
         is.Here("quantity in the baseline", base.QtyValue, row.QtyValue);
         is.Here("price in the baseline", base.AmtValue, row.AmtValue);
-        is.Here("amount", program.totals.AmountTable[i][page], row.Amount);
-        is.Here("taxable", program.totals.TaxableTable[i][page], row.Taxable);
+        is.Here("amount", program.totals.AmountTable[i].Each[page], row.Amount);
+        is.Here("taxable", program.totals.TaxableTable[i].Each[page], row.Taxable);
         is.Here("tax mark", shown.imgNoTax[i].Visible, row.Exempt);
         if (sheet.txt[i].Kind == "Amou") {
             const std::size_t sign = page == 0 ? i + 1 : i - 32;
@@ -327,8 +327,8 @@ void ComparePage(Comparison& is, const Program& program, const ReferenceFlow& fl
         CompareField(is, shown.txtAmt[i], sheet.amt[i]);
     }
     if (page < 5) {
-        is.Of("page sum", program.totals.PageSum[page], sheet.Sum);
-        is.Of("taxable sum of the page", program.totals.PageTaxable[page], sheet.TaxableSum);
+        is.Of("page sum", program.totals.PageSum.Each[page], sheet.Sum);
+        is.Of("taxable sum of the page", program.totals.PageTaxable.Each[page], sheet.TaxableSum);
     }
 }
 

@@ -31,9 +31,9 @@ struct Typing : TermsRun {
         return area.Text.substr(static_cast<std::size_t>(area.SelStart),
                                 static_cast<std::size_t>(area.SelLength));
     }
-    [[nodiscard]] bool Active() const { return program.editing.ACActive[kStore]; }
+    [[nodiscard]] bool Active() const { return program.editing.ACActive.Each[kStore]; }
     [[nodiscard]] const std::string& Stored(std::size_t index = 0) const {
-        return program.document.CurrentTextBuf[kStore][index];
+        return program.document.CurrentTextBuf.Each[kStore][index];
     }
     void ExpectTaken(std::string_view text) {
         EXPECT_EQ(Text(), text);
