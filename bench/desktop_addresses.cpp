@@ -4,10 +4,12 @@
 #include "addresses/frm_address.h"
 #include "desktop/frm_address_view.h"
 #include "desktop/name_list_view.h"
+#include "desktop/qt_surroundings.h"
 #include "program/windows.h"
 #include "support/running_program.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QTest>
 
 #include <benchmark/benchmark.h>
@@ -65,5 +67,38 @@ void DeleteToTheListOnScreen(benchmark::State& state) {
     }
 }
 BENCHMARK(DeleteToTheListOnScreen)->Unit(benchmark::kMillisecond)->Iterations(100);
+
+std::string CopiedList() {
+    constexpr std::size_t kTenMegabytes = 10U << 20U;
+    std::string list = "First Name,Last Name,Home Street,Home City,Home Phone,E-mail Address\r\n";
+    while (list.size() < kTenMegabytes) {
+        list +=
+            "\"Ann\",\"Ash\",\"1 Elm St, Rear\",\"Springfield\",\"(217) 555-0100\",\"ann@example.com\"\r\n";
+    }
+    return list;
+}
+
+/// From "Begin Batch Process Now" to the first record of ten megabytes on screen, the clipboard included. The
+/// window answers nothing meanwhile.
+void TenCopiedMegabytesToTheFirstRecord(benchmark::State& state) {
+    BookOnScreen run;
+    const QtClipboard clipboard;
+    QGuiApplication::clipboard()->setText(QString::fromStdString(CopiedList()));
+    constexpr int kHeadingList = 3;
+    for (auto _ : state) {
+        state.PauseTiming();
+        run.address->Run(run.program, address_menu::Id::mnuToolsImportBatch);
+        run.address->optList_Click(run.program, kHeadingList);
+        run.Paint();
+        state.ResumeTiming();
+        run.surroundings.clipboard.Text = clipboard.GetText();
+        run.address->cmdOK_Click(run.program);
+        run.Paint();
+        state.PauseTiming();
+        run.address->cmdEndBatch_Click(run.program);
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(TenCopiedMegabytesToTheFirstRecord)->Unit(benchmark::kMillisecond);
 
 } // namespace

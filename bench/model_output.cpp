@@ -23,7 +23,7 @@ BENCHMARK(ExportOfAFullProposalToText)->Unit(benchmark::kMicrosecond);
 void RawWriteOfTheSameText(benchmark::State& state) {
     FullProposal full;
     modPrint::CountPagesInUse(full.program);
-    const std::string text = modExport::PlainText(modExport::ProposalLines(full.program));
+    const std::string text = modExport::ProposalText(full.program);
     const std::string path = full.folder / "Proposals/Raw.txt";
     for (auto _ : state) {
         files::WriteWhole(path, text);

@@ -64,17 +64,36 @@ batch_text::Between Between(const BatchRecords& batch) {
     return batch.ListType == kLinesType ? batch_text::Between::EmptyLines : batch_text::Between::Lines;
 }
 
-/// While a list is chosen the rest of the window stands still.
-void DisableAllMenuOptions(AddressWindow& window, bool enabled) {
+enum class Use { Allowed, Refused };
+
+/// What leads to another record or out of the window: list, menus, exit.
+void EnableLoadMenuOptions(AddressWindow& window, Use use = Use::Allowed) {
+    const bool enabled = use == Use::Allowed;
+    window.lstNames.Enabled = enabled;
+    window.cmdExit.Enabled = enabled;
+    for (const Id menu : {Id::mnuFile, Id::mnuEdit, Id::mnuOptions, Id::mnuTools}) {
+        window[menu].Enabled = enabled;
+    }
+}
+
+/// What a changed text needs: the fields and their save.
+void EnableTextChangeMenuOptions(AddressWindow& window, Use use = Use::Allowed) {
+    const bool enabled = use == Use::Allowed;
     for (AddressField& field : window.txt) {
         field.Enabled = enabled;
     }
     window.cmdSave.Enabled = enabled;
-    window.cmdExit.Enabled = enabled;
-    window.lstNames.Enabled = enabled;
-    for (const Id menu : {Id::mnuFile, Id::mnuEdit, Id::mnuOptions, Id::mnuTools}) {
-        window[menu].Enabled = enabled;
-    }
+}
+
+/// While a list is chosen the rest of the window stands still.
+void DisableAllMenuOptions(AddressWindow& window) {
+    EnableLoadMenuOptions(window, Use::Refused);
+    EnableTextChangeMenuOptions(window, Use::Refused);
+}
+
+void EnableAllMenuOptions(AddressWindow& window) {
+    EnableLoadMenuOptions(window);
+    EnableTextChangeMenuOptions(window);
 }
 
 void RefreshLabelCaptions(const Program& program, AddressWindow& window) {
@@ -150,9 +169,21 @@ void TakeRecords(BatchRecords& batch, batch_text::Records records) {
     batch.BatchRecordLast = static_cast<std::int32_t>(batch.RecordAt.size()) - 2;
 }
 
+/// What of the clipboard a book can keep; the rest is told before a record is shown.
+std::string CopiedList(Program& program) {
+    Clipboard::Taken taken = program.platform.clipboard.Take();
+    if (taken.LeftOut > 0 && !taken.Text.empty()) {
+        Tell(program,
+             std::to_string(taken.LeftOut) +
+                 (taken.LeftOut == 1 ? " character of this list cannot" : " characters of this list cannot") +
+                 " be kept in an address book and will be left out. Please look at each record.");
+    }
+    return std::move(taken.Text);
+}
+
 Parsed ParseCsvAddressList(Program& program) {
     BatchRecords& batch = Batch(program);
-    batch.List = program.platform.clipboard.GetText();
+    batch.List = CopiedList(program);
     if (batch.List.empty()) {
         Tell(program, "There's nothing in memory to batch process.");
         return Parsed::No;
@@ -187,7 +218,7 @@ Parsed ParseCsvAddressList(Program& program) {
 
 Parsed ParseBatchData(Program& program) {
     BatchRecords& batch = Batch(program);
-    batch.List = program.platform.clipboard.GetText();
+    batch.List = CopiedList(program);
     if (batch.List.empty()) {
         Tell(program, "There's nothing in the Clipboard Memory.");
         return Parsed::No;
@@ -326,7 +357,7 @@ void mnuToolsImportBatch_Click(Program& program, AddressWindow& window) {
     window.Caption =
         "Beginning Batch Import/" + std::string(NamesOf(program.addresses.Book).Target) + " Address Book";
     RefreshLabelCaptions(program, window);
-    DisableAllMenuOptions(window, false);
+    DisableAllMenuOptions(window);
     for (StripLabel& category : window.lblFormat) {
         category.BackColor = colors::kFocused;
     }
@@ -369,7 +400,7 @@ void RefreshFormatListTypes(Program& program, AddressWindow& window) {
 }
 
 void BeginBatch(Program& program, AddressWindow& window) {
-    DisableAllMenuOptions(window, true);
+    EnableAllMenuOptions(window);
     window.picImport = false;
     window.picBatchProcess = true;
     BatchRecords& batch = Batch(program);
@@ -386,7 +417,7 @@ void BeginBatch(Program& program, AddressWindow& window) {
 }
 
 void CancelImport(Program& program, AddressWindow& window) {
-    DisableAllMenuOptions(window, true);
+    EnableAllMenuOptions(window);
     window.picImport = false;
     window.Caption = Batch(program).CaptionBefore;
     optList_Click(program, window, kLinesType);
@@ -405,8 +436,8 @@ void SkipBatchRecord(Program& program, AddressWindow& window) {
 }
 
 void EndBatch(Program& program, AddressWindow& window) {
-    Batch(program).BatchStopped = true;
     LeaveRun(program, window);
+    Batch(program).BatchStopped = true; // until the next run begins
 }
 
 void ShowBatchHelp(Program& program) {

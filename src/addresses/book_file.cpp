@@ -127,10 +127,37 @@ std::int32_t AddRecord(const Program& program, std::string_view record) {
     return Whole(files::AppendRecord(BookPath(program), record) * kRecordLength);
 }
 
+namespace {
+
+/// Goes when it did not take the book's place.
+class WorkFile {
+public:
+    explicit WorkFile(std::string path) : path_(std::move(path)) {}
+    ~WorkFile() {
+        try {
+            Drop();
+        } catch (const files::FileError&) { // it goes before the next delete
+        }
+    }
+    WorkFile(const WorkFile&) = delete;
+    WorkFile& operator=(const WorkFile&) = delete;
+    void Drop() const {
+        if (files::ExistsExactly(path_)) {
+            files::Delete(path_);
+        }
+    }
+    [[nodiscard]] const std::string& Path() const { return path_; }
+
+private:
+    std::string path_;
+};
+
+} // namespace
+
 std::optional<std::int32_t> RemoveRecord(const Program& program, std::int32_t number,
                                          std::string_view asRead) {
     const std::string path = BookPath(program);
-    const std::string work = WorkPath(program);
+    const WorkFile work(WorkPath(program));
     while (true) {
         const std::optional<files::Stamp> before = files::StampOf(path);
         const std::optional<std::int32_t> at = Locate(program, number, asRead);
@@ -139,17 +166,15 @@ std::optional<std::int32_t> RemoveRecord(const Program& program, std::int32_t nu
         }
         std::string bytes = ReadBook(program);
         bytes.erase(static_cast<std::size_t>(OffsetOf(*at)), kRecordLength);
-        if (files::ExistsExactly(work)) {
-            files::Delete(work);
-        }
-        files::WriteWhole(work, bytes);
-        if (files::ReadAll(work, kBookLimit) != bytes) {
+        work.Drop();
+        files::WriteWhole(work.Path(), bytes);
+        if (files::ReadAll(work.Path(), kBookLimit) != bytes) {
             throw files::FileError(files::kDeviceError,
-                                   "The work file does not hold what was written: " + work);
+                                   "The work file does not hold what was written: " + work.Path());
         }
         // Another program may have written a record while this one was busy with the copy.
         if (files::StampOf(path) == before) {
-            files::Replace(work, path);
+            files::Replace(work.Path(), path);
             return at;
         }
     }

@@ -8,7 +8,6 @@
 #include <cerrno>
 #include <cstdlib>
 #include <memory>
-#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -44,6 +43,7 @@ public:
     }
     ~RecordFile() {
         if (file_ >= 0) {
+            // What was written has been flushed: a close has nothing left to lose.
             ::close(file_);
         }
     }
@@ -80,8 +80,8 @@ public:
         return bytes;
     }
 
-    /// Bytes written before the first failure; `error` is 0 when all went well.
-    std::size_t Write(std::uintmax_t offset, std::string_view bytes, int& error) const {
+    /// The error of the system, 0 when the bytes stand on the disk. After a failure any of them may.
+    [[nodiscard]] int Write(std::uintmax_t offset, std::string_view bytes) const {
         std::size_t done = 0;
         while (done < bytes.size()) {
             const ssize_t put =
@@ -89,20 +89,17 @@ public:
             if (put < 0 && errno == EINTR) {
                 continue;
             }
-            if (put < 0) {
-                error = errno;
-                return done;
+            if (put <= 0) {
+                return put < 0 ? errno : ENOSPC;
             }
             done += static_cast<std::size_t>(put);
         }
-        error = Flush();
-        return done;
+        return Flush();
     }
 
     void PutBack(std::uintmax_t offset, std::string_view old) const {
-        int error = 0;
-        static_cast<void>(Write(offset, old, error));
-        if (error != 0) {
+        // What was not reached need not be written again, on a disk that takes nothing any more.
+        if (Write(offset, old) != 0 && Read(offset, old.size()) != old) {
             throw FileError(kDeviceError,
                             "The record could neither be written nor put back as it was: " + path_);
         }
@@ -111,13 +108,6 @@ public:
     void CutOff(std::uintmax_t length) const {
         if (::ftruncate(file_, static_cast<off_t>(length)) != 0) {
             throw FileError(kDeviceError, "The record could neither be written nor taken back: " + path_);
-        }
-    }
-
-    void Close() {
-        const int file = std::exchange(file_, -1);
-        if (::close(file) != 0 && errno != EINTR) {
-            Fail(errno, path_);
         }
     }
 
@@ -164,13 +154,10 @@ InPlace WriteOver(std::string_view path, std::uintmax_t offset, std::string_view
     if (file.Read(offset, expected.size()) != expected || bytes.size() != expected.size()) {
         return InPlace::Differs;
     }
-    int error = 0;
-    const std::size_t done = file.Write(offset, bytes, error);
-    if (error != 0) {
-        file.PutBack(offset, expected.substr(0, done));
+    if (const int error = file.Write(offset, bytes); error != 0) {
+        file.PutBack(offset, expected);
         Fail(error, path);
     }
-    file.Close();
     return InPlace::Written;
 }
 
@@ -179,14 +166,13 @@ std::uintmax_t AppendRecord(std::string_view path, std::string_view record) {
     const std::uintmax_t number = file.Length() / record.size();
     const std::uintmax_t offset = number * record.size();
     const std::string stump = file.Read(offset, record.size());
-    int error = 0;
-    const std::size_t done = file.Write(offset, record, error);
-    if (error != 0) {
+    if (const int error = file.Write(offset, record); error != 0) {
         file.CutOff(offset + stump.size());
-        file.PutBack(offset, std::string_view(stump).substr(0, done));
+        if (!stump.empty()) {
+            file.PutBack(offset, stump);
+        }
         Fail(error, path);
     }
-    file.Close();
     return number + 1;
 }
 

@@ -143,6 +143,7 @@ void frmDeposits::MoveFocus(Program& program, std::string_view control) {
 void frmDeposits::txtName_Change(Program&, std::string_view text) {
     if (txtName.Text != text) {
         txtName.Text = text;
+        txtName.SelLength = 0; // what was marked is no more
         DepositChanged = true;
         fileFollows_ = fileFollows_ || file_.There;
     }
@@ -152,6 +153,7 @@ void frmDeposits::txtDate_Change(Program&, std::string_view text) {
     if (txtDate.Text != text) {
         touched_ = true;
         notAdded_ = notAdded_ || DepositEditing;
+        txtDate.SelLength = 0;
     }
     txtDate.Text = text;
     DepositDateText = text;
@@ -163,6 +165,7 @@ void frmDeposits::txtAmount_Change(Program&, std::string_view text) {
     if (txtAmount.Text != text) {
         touched_ = true;
         notAdded_ = true;
+        txtAmount.SelLength = 0;
     }
     txtAmount.Text = text;
     DepositAmountText = modDeposits::AmountText(text);

@@ -147,6 +147,8 @@ void ContractEdit::Follow() {
         layout_->SetFont(text.Font(), PixelsPerTwip());
         QTextCursor cursor(document());
         cursor.setPosition(DocumentPlace(editor_.SelStart));
+        setTextCursor(cursor); // the beginning of what is marked comes into view, too
+        ensureCursorVisible();
         cursor.setPosition(DocumentPlace(editor_.SelStart + editor_.SelLength), QTextCursor::KeepAnchor);
         setTextCursor(cursor);
         ensureCursorVisible();

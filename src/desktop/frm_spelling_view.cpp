@@ -178,8 +178,9 @@ void FrmSpellingView::StepAside() {
     const QRect area = AreaOnScreen();
     const QScreen* place = screen();
     QRect frame = frameGeometry();
-    if (frame.size() == size()) { // no borders yet
-        frame = frame.marginsAdded(QMargins(4, 30, 4, 4));
+    if (frame.size() == size()) { // the borders are not known yet
+        constexpr QSize kBorders(8, 34);
+        frame.setSize(size() + kBorders);
     }
     if (!isVisible() || place == nullptr || !frame.intersects(area)) {
         return;
@@ -202,7 +203,9 @@ void FrmSpellingView::StepAside() {
             best = at;
         }
     }
-    move(best.topLeft());
+    if (best != frame) {
+        move(best.topLeft());
+    }
 }
 
 void FrmSpellingView::showEvent(QShowEvent* event) {

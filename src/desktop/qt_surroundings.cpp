@@ -266,15 +266,24 @@ void QtClipboard::SetUnicodeText(std::string_view utf8) {
         QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())));
 }
 
-std::string QtClipboard::GetText() const {
-    // Line ends stay: what to make of them is the caller's.
-    std::string result;
-    for (const QChar character : QGuiApplication::clipboard()->text()) {
-        if (const auto byte = convert::ToByte(character)) {
-            result += *byte;
+Clipboard::Taken QtClipboard::Take() const {
+    // Line ends stay: what to make of them is the caller's. A copied list may hold millions of characters.
+    const QString text = QGuiApplication::clipboard()->text();
+    Taken taken;
+    taken.Text.resize(static_cast<std::size_t>(text.size()));
+    std::size_t kept = 0;
+    for (const QChar character : text) {
+        constexpr char16_t kLastPlain = 0x7F;
+        if (character.unicode() <= kLastPlain) {
+            taken.Text[kept++] = static_cast<char>(character.unicode());
+        } else if (const auto byte = convert::ToByte(character)) {
+            taken.Text[kept++] = *byte;
+        } else if (!character.isLowSurrogate()) {
+            ++taken.LeftOut;
         }
     }
-    return result;
+    taken.Text.resize(kept);
+    return taken;
 }
 
 void QtShell::Open(std::string_view target) {

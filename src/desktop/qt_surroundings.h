@@ -49,7 +49,7 @@ public:
     void SetText(std::string_view text) override;
     void SetTextAndTable(std::string_view text, std::string_view html) override;
     void SetUnicodeText(std::string_view utf8) override;
-    [[nodiscard]] std::string GetText() const override;
+    [[nodiscard]] Taken Take() const override;
 };
 
 class QtShell : public Shell {

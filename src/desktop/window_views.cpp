@@ -158,10 +158,12 @@ void WindowViews::Follow() {
             view = MakeWindowView(program_, *window, &over_, afterEvent_);
         }
         view->Follow();
-        // A window that stands beside the page, or within the main window, leaves the menu bar its letters.
+        // A window that stands beside the page, or within the main window, leaves the menu bar its letters;
+        // one with menus of its own has the keyboard to itself.
         const auto* main = qobject_cast<QMainWindow*>(&over_);
-        mnemonics::Give(*view, view->isModal() || main == nullptr ? QString()
-                                                                  : mnemonics::LettersOf(*main->menuBar()));
+        const bool byItself = view->isModal() || main == nullptr ||
+                              (view->windowType() == Qt::Dialog && view->findChild<QMenuBar*>() != nullptr);
+        mnemonics::Give(*view, byItself ? QString() : mnemonics::LettersOf(*main->menuBar()));
         if (fresh) {
             view->Open();
         }

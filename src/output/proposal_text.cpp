@@ -6,6 +6,8 @@
 #include "program/program.h"
 
 #include <array>
+#include <initializer_list>
+#include <utility>
 
 namespace modExport {
 
@@ -13,22 +15,67 @@ namespace {
 
 constexpr std::size_t kFullRule = 90, kCategoryRule = 45;
 
+using Pieces = std::initializer_list<std::string_view>;
+
+/// Takes the text line by line; a line comes in pieces that stand one behind the other.
+class LineSink {
+public:
+    virtual ~LineSink() = default;
+    virtual void Take(LineKind kind, Pieces pieces) = 0;
+};
+
+void Append(std::string& text, Pieces pieces) {
+    for (const std::string_view piece : pieces) {
+        text += piece;
+    }
+}
+
+class AsLines : public LineSink {
+public:
+    AsLines() {
+        constexpr std::size_t kFullProposal = 800;
+        Result.reserve(kFullProposal);
+    }
+    void Take(LineKind kind, Pieces pieces) override {
+        DocumentLine& line = Result.emplace_back();
+        line.Kind = kind;
+        Append(line.Text, pieces);
+    }
+    std::vector<DocumentLine> Result;
+};
+
+class AsText : public LineSink {
+public:
+    AsText() {
+        constexpr std::size_t kFullProposal = 32000;
+        Result.reserve(kFullProposal);
+    }
+    void Take(LineKind, Pieces pieces) override {
+        Append(Result, pieces);
+        Result += text::kCrLf;
+    }
+    std::string Result;
+};
+
 class Lines {
 public:
-    explicit Lines(const Program& program) : program_(program) {}
+    Lines(const Program& program, LineSink& sink) : program_(program), sink_(sink) {}
 
-    void Add(LineKind kind, std::string text) { lines_.push_back({kind, std::move(text)}); }
-    void Title(std::string_view text) { Add(LineKind::Title, std::string(text)); }
-    void Row(std::string_view text) { Add(LineKind::Row, std::string(text)); }
+    void Add(LineKind kind, Pieces pieces) { sink_.Take(kind, pieces); }
+    void Title(std::string_view text) { Add(LineKind::Title, {text}); }
+    void Row(std::string_view text) { Add(LineKind::Row, {text}); }
+    void Row(std::string_view caption, std::string_view text) { Add(LineKind::Row, {caption, text}); }
     void Empty(int count = 1) {
         for (int line = 0; line < count; ++line) {
             Row("");
         }
     }
-    void Rule(std::size_t length = kFullRule) { Add(LineKind::Rule, std::string(length, '-')); }
+    void Rule(std::size_t length = kFullRule) {
+        static const std::string kHyphens(kFullRule, '-');
+        Add(LineKind::Rule, {std::string_view(kHyphens).substr(0, length)});
+    }
     void Figure(std::string_view caption, std::string_view value) {
-        Add(LineKind::Figure,
-            std::string(caption) + program_.settings.CurrencySymbol + " " + std::string(value));
+        Add(LineKind::Figure, {caption, program_.settings.CurrencySymbol, " ", value});
     }
 
     void Block(std::string_view title) {
@@ -43,11 +90,9 @@ public:
         return program_.pages[page].txt[static_cast<std::size_t>(area)].Text;
     }
 
-    std::vector<DocumentLine> Take() { return std::move(lines_); }
-
 private:
     const Program& program_;
-    std::vector<DocumentLine> lines_;
+    LineSink& sink_;
 };
 
 /// The client page's labels, each with the area of the same place in the list.
@@ -56,8 +101,8 @@ constexpr std::array kPlaceLabels{19, 20};
 constexpr int kPlaceTitle = 18, kFirstPlaceArea = 8;
 
 void ClientRow(Lines& lines, int label, int area) {
-    lines.Row(lines.Caption(PageId::frmP1, label) + ":\t\t" +
-              std::string(text::Trim(lines.Text(PageId::frmP1, area))));
+    lines.Add(LineKind::Row,
+              {lines.Caption(PageId::frmP1, label), ":\t\t", text::Trim(lines.Text(PageId::frmP1, area))});
 }
 
 void GeneralInformation(Lines& lines) {
@@ -94,13 +139,13 @@ void LineItem(const Program& program, Lines& lines, PageId page, int row) {
         return;
     }
     if (!priced || area.Text.empty() || quantity == modPages::kQuantityPlaceholder) {
-        lines.Add(area.FontBold ? LineKind::MainCategory : LineKind::Row, area.Text);
+        lines.Add(area.FontBold ? LineKind::MainCategory : LineKind::Row, {area.Text});
         if (area.FontBold) {
             lines.Rule(kCategoryRule);
         }
     } else {
-        lines.Row("Desc:\t\t\t" + area.Text);
-        lines.Row("Qty:\t\t\t" + quantity);
+        lines.Row("Desc:\t\t\t", area.Text);
+        lines.Row("Qty:\t\t\t", quantity);
         lines.Figure("Amt Each:\t\t", BoxText(record.txtAmt, row));
     }
     if (!amount.empty()) {
@@ -191,15 +236,30 @@ std::string Escaped(std::string_view value) {
 
 } // namespace
 
-std::vector<DocumentLine> ProposalLines(const Program& program) {
-    Lines lines(program);
-    lines.Title(program.settings.CompanyName + " - " + program.document.ClientCaption);
+namespace {
+
+void WriteProposal(const Program& program, LineSink& sink) {
+    Lines lines(program, sink);
+    lines.Add(LineKind::Title, {program.settings.CompanyName, " - ", program.document.ClientCaption});
     lines.Empty();
     GeneralInformation(lines);
     LineItems(program, lines);
     GrandTotals(program, lines);
     ContractAndSignatures(lines);
-    return lines.Take();
+}
+
+} // namespace
+
+std::vector<DocumentLine> ProposalLines(const Program& program) {
+    AsLines lines;
+    WriteProposal(program, lines);
+    return std::move(lines.Result);
+}
+
+std::string ProposalText(const Program& program) {
+    AsText text;
+    WriteProposal(program, text);
+    return std::move(text.Result);
 }
 
 std::string PlainText(const std::vector<DocumentLine>& lines) {

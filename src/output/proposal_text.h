@@ -14,6 +14,9 @@ namespace modExport {
 /// From what stands on the pages. `CountPagesInUse` and the totals must be fresh.
 [[nodiscard]] std::vector<DocumentLine> ProposalLines(const Program& program);
 
+/// The same in its plain form at once.
+[[nodiscard]] std::string ProposalText(const Program& program);
+
 /// The plain form: every line with CR LF.
 [[nodiscard]] std::string PlainText(const std::vector<DocumentLine>& lines);
 

@@ -50,8 +50,8 @@ std::string ScratchPath(const Program& program) {
 /// Deletes the scratch file, if there is one; false when it stays.
 bool DropScratchFile(const Program& program) {
     try {
-        if (files::Exists(ScratchPath(program))) {
-            files::Delete(ScratchPath(program));
+        if (const std::string path = ScratchPath(program); files::ExistsExactly(path)) {
+            files::Delete(path);
         }
         return true;
     } catch (const files::FileError&) {
@@ -128,7 +128,7 @@ void WriteTextFile(Program& program) {
         return;
     }
     const std::string path = paths::Join(folder, program.exporting.ExportFileName);
-    files::WriteWhole(path, PlainText(ProposalLines(program)));
+    files::WriteWhole(path, ProposalText(program));
     TellSaved(program, "Text", path);
     program.platform.questions.MsgBox("File was saved as " + path, Buttons::Ok, "");
 }

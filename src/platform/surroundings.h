@@ -2,6 +2,7 @@
 
 #include "platform/drawing_surface.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,8 +18,7 @@ public:
     [[nodiscard]] virtual float TwipsPerPixel() const = 0;
 };
 
-/// Clipboard text in the program's own characters. `GetText` gives what has a byte; nothing when the
-/// clipboard holds no text.
+/// Clipboard text in the program's own characters.
 class Clipboard {
 public:
     virtual ~Clipboard() = default;
@@ -29,7 +29,13 @@ public:
     virtual void SetTextAndTable(std::string_view text, std::string_view html) = 0;
     /// Any text, in UTF-8: what was read from elsewhere and is handed on as it came.
     virtual void SetUnicodeText(std::string_view utf8) = 0;
-    [[nodiscard]] virtual std::string GetText() const = 0;
+    /// What has a byte, with the line ends that it came with; nothing when the clipboard holds no text.
+    struct Taken {
+        std::string Text;
+        std::size_t LeftOut = 0; ///< characters that have none
+    };
+    [[nodiscard]] virtual Taken Take() const = 0;
+    [[nodiscard]] std::string GetText() const { return Take().Text; }
 };
 
 /// Opening documents and pages in other programs, and links on the desktop.

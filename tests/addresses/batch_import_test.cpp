@@ -188,6 +188,7 @@ TEST(BatchImport, EndingKeepsWhatWasSaved) {
     run.Type(1, "typed");
     window.cmdEndBatch_Click(run.program);
     run.ExpectIdle();
+    EXPECT_TRUE(run.program.addresses.Batch.BatchStopped);
     EXPECT_EQ(run.ReadBook(), AddressRun::Book({"Ann Ash"}));
 }
 
@@ -280,6 +281,21 @@ TEST(BatchImport, AnEmptyClipboardIsToldAndEnds) {
                                   Answer::Ok);
     heading.Window().cmdOK_Click(heading.program);
     heading.ExpectIdle();
+}
+
+TEST(BatchImport, CharactersThatNoBookCanKeepAreToldBeforeTheFirstRecord) {
+    for (const int type : {kLines, kHeading}) {
+        ImportRun run(type == kLines ? "ukasz" : "Name,Nickname\r\nukasz,");
+        run.surroundings.clipboard.LeftOut = 2;
+        run.Choose(type);
+        run.Questions().ExpectBox(
+            {"2 characters of this list cannot be kept in an address book and will be left "
+             "out. Please look at each record.",
+             Buttons::Ok, ""},
+            Answer::Ok);
+        run.Window().cmdOK_Click(run.program);
+        EXPECT_EQ(run.Text(0), "ukasz");
+    }
 }
 
 TEST(HeadingImport, AListOfOneLineIsRefused) {

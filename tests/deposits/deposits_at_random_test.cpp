@@ -262,4 +262,17 @@ TEST(Deposits, AChangedDateOfATakenRowIsAskedForBeforeTheListIsSaved) {
     EXPECT_EQ(run.File(), "Jane Roe\r\n1/22/2008\t\t$ 500.00");
 }
 
+TEST(Deposits, ADateThatIsRewrittenIsNotMarkedInPart) {
+    Deposited run;
+    frmDeposits& window = run.Window();
+    window.txtDate_Change(run.program, "no date");
+    window.txtAmount_Change(run.program, "5");
+    window.cmdSave_Click(run.program); // marks the box at fault
+    EXPECT_EQ(window.txtDate.SelLength, 7);
+    window.txtDate_Change(run.program, "1/5/2008");
+    window.MoveFocus(run.program, "txtAmount");
+    EXPECT_EQ(window.txtDate.Text, "Jan 05, 2008");
+    EXPECT_EQ(window.txtDate.SelLength, 0);
+}
+
 } // namespace

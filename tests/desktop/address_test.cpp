@@ -12,6 +12,7 @@
 #include <QContextMenuEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -112,6 +113,16 @@ TEST(AddressWindow, OpensTheRecordOfTheRowThatIsClicked) {
     run.Press(Qt::Key_Down);
     EXPECT_EQ(run.Line(1)->text(), "z");
     run.ExpectFollows();
+}
+
+TEST(AddressWindow, HasTheLettersOfItsOwnMenus) {
+    const AddressDesktop run;
+    QStringList menus;
+    for (const QAction* menu : run.view->findChild<QMenuBar*>()->actions()) {
+        menus += menu->text();
+    }
+    EXPECT_EQ(menus.mid(0, 3),
+              (QStringList{QStringLiteral("&File"), QStringLiteral("&Edit"), QStringLiteral("&Options")}));
 }
 
 TEST(AddressWindow, LettersInTheListJumpToTheName) {

@@ -35,6 +35,12 @@ TEST(CalendarWindow, ColumnsHoldWeekdayDateAndFile) {
     EXPECT_EQ(run.Part<QLabel>("lblUndated")->toolTip(), QStringLiteral("Jane Roe.hef"));
 }
 
+TEST(CalendarWindow, ANameThatIsCutOffStandsInTheTip) {
+    CalendarRun run;
+    const auto* list = run.Part<RowTable>("lstDates");
+    EXPECT_EQ(list->Rows.data(list->Rows.index(1, 2), Qt::ToolTipRole).toString(), QStringLiteral("Ann.hef"));
+}
+
 TEST(CalendarWindow, TheMonthMarksTheDaysWithEventsThatItCanShow) {
     CalendarRun run;
     auto* month = run.Part<QCalendarWidget>("month");

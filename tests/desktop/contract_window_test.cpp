@@ -137,6 +137,26 @@ TEST(ContractWindow, FindMarksTheWordsAndEscapeLeavesTheSearchFirst) {
     run.Leave();
 }
 
+TEST(ContractWindow, WhatIsFoundComesIntoViewFromItsFirstLetterOn) {
+    EditorRun run;
+    run.Fill(QString(60, u'a') + QStringLiteral(" ") + kTerms);
+    run.view->resize(420, 400);
+    QApplication::processEvents();
+    run.text->horizontalScrollBar()->setValue(run.text->horizontalScrollBar()->maximum());
+    run.Press(Qt::Key_F, Qt::ControlModifier);
+    run.Type(QStringLiteral("agrees"));
+    run.Press(Qt::Key_Return);
+    const QTextCursor found = run.text->textCursor();
+    ASSERT_EQ(found.selectedText(), QStringLiteral("agrees"));
+    for (const int place : {found.selectionStart(), found.selectionEnd()}) {
+        QTextCursor edge(run.text->document());
+        edge.setPosition(place);
+        EXPECT_TRUE(run.text->viewport()->rect().contains(run.text->cursorRect(edge).center()));
+    }
+    run.Press(Qt::Key_Escape);
+    run.Leave();
+}
+
 TEST(ContractWindow, LineCountsLockTheTextAndAreTheWidgetsLinesToo) {
     EditorRun run;
     run.Fill(kTerms);

@@ -49,6 +49,7 @@ TEST(Document, HasAParagraphOfItsKindForEachLine) {
                        {LineKind::Rule, std::string(90, '-')},
                        {LineKind::Row, "Client's Name:\t\tJane Roe"},
                        {LineKind::MainCategory, "Ceremony"},
+                       {LineKind::Rule, std::string(45, '-')},
                        {LineKind::Row, ""},
                        {LineKind::Figure, "Subtotal:\t\t$ 45.00"}}),
               (Paragraphs{"Heading_20_1|1|General Information", "Rule|0|",

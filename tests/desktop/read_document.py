@@ -9,6 +9,8 @@ from xml.etree import ElementTree
 MIME = "application/vnd.oasis.opendocument.text"
 TEXT = "{urn:oasis:names:tc:opendocument:xmlns:text:1.0}"
 OFFICE = "{urn:oasis:names:tc:opendocument:xmlns:office:1.0}"
+STYLE = "{urn:oasis:names:tc:opendocument:xmlns:style:1.0}"
+FO = "{urn:oasis:names:tc:opendocument:xmlns:xsl-fo-compatible:1.0}"
 MANIFEST = "{urn:oasis:names:tc:opendocument:xmlns:manifest:1.0}"
 
 
@@ -38,7 +40,10 @@ def main():
         there = set(package.namelist()) - {"mimetype", "META-INF/manifest.xml"}
         if told != there | {"/"}:
             raise SystemExit(f"the list of parts is wrong: {sorted(told)}")
-        ElementTree.fromstring(package.read("styles.xml"))
+        styles = ElementTree.fromstring(package.read("styles.xml"))
+        page = styles.find(f".//{STYLE}page-layout-properties")
+        if (page.get(FO + "page-width"), page.get(FO + "page-height")) != ("8.5in", "11in"):
+            raise SystemExit("no letter page")
         body = ElementTree.fromstring(package.read("content.xml")).find(f"{OFFICE}body/{OFFICE}text")
     for paragraph in body:
         if paragraph.tag not in (TEXT + "p", TEXT + "h"):

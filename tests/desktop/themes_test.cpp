@@ -96,6 +96,20 @@ double InkContrast(QWidget& widget) {
     return strongest;
 }
 
+/// Words on labels and buttons.
+void ExpectReadable(const QDialog& view, const std::string& name) {
+    for (QLabel* label : view.findChildren<QLabel*>()) {
+        if (label->isVisible() && !label->text().isEmpty()) {
+            EXPECT_GE(InkContrast(*label), 4.5) << name << ' ' << label->objectName().toStdString();
+        }
+    }
+    for (QAbstractButton* button : view.findChildren<QAbstractButton*>()) {
+        if (button->isVisible() && button->isEnabled()) {
+            EXPECT_GE(InkContrast(*button), 4.5) << name << ' ' << button->objectName().toStdString();
+        }
+    }
+}
+
 TEST(DarkTheme, PaperStaysPaper) {
     const DarkDesktop dark;
     DesktopRun run;
@@ -154,14 +168,35 @@ TEST(DarkTheme, SmallWindowsCanBeRead) {
         auto* view = run.window->findChild<QDialog*>(QString::fromStdString(name));
         EXPECT_TRUE(QTest::qWaitFor([view] { return QApplication::activeWindow() == view; }));
         Look(*view, ("dark_" + name).c_str());
-        for (QLabel* label : view->findChildren<QLabel*>()) {
-            if (label->isVisible() && !label->text().isEmpty()) {
-                EXPECT_GE(InkContrast(*label), 4.5) << name << ' ' << label->objectName().toStdString();
-            }
+        ExpectReadable(*view, name);
+        QTest::keyClick(view, Qt::Key_Escape);
+    }
+}
+
+TEST(DarkTheme, WindowsBesideTheProposalCanBeRead) {
+    const DarkDesktop dark;
+    for (const CommandId id : {CommandId::mnuFileOpenFootnotes, CommandId::mnuManageDeposits,
+                               CommandId::mnuManageEditor, CommandId::mnuViewEventDates}) {
+        DesktopRun run;
+        run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+        commands::Run(run.program, id);
+        run.window->AfterEvent();
+        ASSERT_FALSE(run.program.windows.Open.empty());
+        const std::string name(run.program.windows.Open.back()->Name());
+        auto* view = run.window->findChild<QDialog*>(QString::fromStdString(name));
+        ASSERT_NE(view, nullptr) << name;
+        EXPECT_TRUE(QTest::qWaitFor([view] { return QApplication::activeWindow() == view; }));
+        if (auto* lines = view->findChild<QPushButton*>(QStringLiteral("cmdLines"))) {
+            lines->click(); // 35 lines: the text stands on red
+            Look(*view, "dark_frmEditor_lines");
+            EXPECT_GE(InkContrast(*view->findChild<QWidget*>(QStringLiteral("txtCharCount"))), 4.5);
+            lines->click();
         }
-        for (QAbstractButton* button : view->findChildren<QAbstractButton*>()) {
-            if (button->isVisible() && button->isEnabled()) {
-                EXPECT_GE(InkContrast(*button), 4.5) << name << ' ' << button->objectName().toStdString();
+        Look(*view, ("dark_" + name).c_str());
+        ExpectReadable(*view, name);
+        for (const char* text : {"txtCharCount", "lstDates", "month"}) {
+            if (auto* area = view->findChild<QWidget*>(QLatin1String(text))) {
+                EXPECT_GE(InkContrast(*area), 4.5) << text;
             }
         }
         QTest::keyClick(view, Qt::Key_Escape);

@@ -58,6 +58,7 @@ extern "C" {
 
 int __real_open(const char* path, int flags, ...);
 ssize_t __real_read(int file, void* bytes, size_t count);
+ssize_t __real_pread(int file, void* bytes, size_t count, off_t place);
 ssize_t __real_write(int file, const void* bytes, size_t count);
 ssize_t __real_pwrite(int file, const void* bytes, size_t count, off_t place);
 int __real_ftruncate(int file, off_t length);
@@ -84,6 +85,10 @@ int __wrap_open(const char* path, int flags, ...) {
 
 ssize_t __wrap_read(int file, void* bytes, size_t count) {
     return Fails(FailingDisk::Call::Read) ? -1 : __real_read(file, bytes, count);
+}
+
+ssize_t __wrap_pread(int file, void* bytes, size_t count, off_t place) {
+    return Fails(FailingDisk::Call::Read) ? -1 : __real_pread(file, bytes, count, place);
 }
 
 /// A disk that gets full takes some bytes before it says so.
@@ -121,6 +126,10 @@ int __wrap_fchmod(int file, mode_t mode) {
 
 /// No test waits for a device: what it reads back need not have come through a power cut.
 int __wrap_fsync(int) {
+    return Fails(FailingDisk::Call::Flush) ? -1 : 0;
+}
+
+int __wrap_fdatasync(int) {
     return Fails(FailingDisk::Call::Flush) ? -1 : 0;
 }
 

@@ -186,7 +186,8 @@ public:
         Html = html;
     }
     void SetUnicodeText(std::string_view utf8) override { Unicode = utf8; }
-    [[nodiscard]] std::string GetText() const override { return Text; }
+    std::size_t LeftOut = 0; ///< characters of the text that no byte stands for
+    [[nodiscard]] Taken Take() const override { return {Text, LeftOut}; }
 };
 
 class RecordingShell : public Shell {
