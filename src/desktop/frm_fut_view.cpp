@@ -438,5 +438,13 @@ void FrmFutView::ShowFirst() {
     dock_->show();
     dock_->setGeometry(place); // a dock that shows for the first time takes a place of its own
     placed_ = true;
-    KeepPlace();
+    // The whole window's place, which it gets back when it is restored.
+    const float twips = static_cast<float>(1 / PixelsPerTwip());
+    model_.Left = static_cast<float>(place.x()) * twips;
+    model_.Top = static_cast<float>(place.y()) * twips;
+    model_.Width = static_cast<float>(place.width()) * twips;
+    model_.Height = static_cast<float>(place.height()) * twips;
+    if (model_.Minimised) {
+        dock_->resize(place.width(), dock_->minimumSizeHint().height());
+    }
 }

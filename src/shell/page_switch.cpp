@@ -11,6 +11,7 @@
 #include "program/keys.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "terms/frm_fut.h"
 
 #include <algorithm>
 #include <cmath>
@@ -30,10 +31,15 @@ void FollowMainWindow(Program& program) {
         if (window == nullptr) {
             continue;
         }
+        auto* terms = dynamic_cast<frmFUT*>(window);
+        if (terms != nullptr && !terms->Minimised) {
+            terms->StartedMinimised = false;
+        }
         if (program.main.State == WindowState::Minimised) {
             window->Minimised = true;
         } else if (program.main.State == WindowState::Maximised) {
-            window->Minimised = false;
+            // The main window is made large at the start, too: what the settings keep small stays so.
+            window->Minimised = terms != nullptr && terms->StartedMinimised;
         }
     }
 }

@@ -224,7 +224,9 @@ void mnuOptFUT_Click(Program& program) {
 
 void ShowTermsWindow(Program& program) {
     if (OpenWindow(program) == nullptr) {
-        ShownWindow(program).Minimised = program.settings.MinimizeFUT;
+        frmFUT& window = ShownWindow(program);
+        window.Minimised = program.settings.MinimizeFUT;
+        window.StartedMinimised = window.Minimised;
     }
 }
 

@@ -38,7 +38,8 @@ public:
     MenuEntry mnuFileDelete{.Caption = "Delete this Frequent Terms List"};
     MenuEntry mnuFileDefaultFUT{.Caption = "Make this the Default Frequent Terms List"};
     MenuEntry mnuWindowSavePosition{.Caption = "Save Window Position and Size"};
-    Side Docked = Side::None; ///< at a side of the main window; the front end keeps it true
+    bool StartedMinimised = false; ///< as the settings say, until it is restored for the first time
+    Side Docked = Side::None;      ///< at a side of the main window; the front end keeps it true
 
     /// The list gets no narrower, twips.
     static constexpr float kLeastWidth = 2700;

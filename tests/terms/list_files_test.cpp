@@ -293,8 +293,18 @@ TEST(TermsWindow, StartsMinimisedWhereTheSettingsSaySo) {
     Window* window = modWindows::Find(run.program, "frmFUT");
     ASSERT_NE(window, nullptr);
     EXPECT_TRUE(window->Minimised);
+    const auto mainWindowGets = [&](WindowState state) {
+        run.program.main.State = state;
+        person::ResizeWindow(run.program);
+    };
+    mainWindowGets(WindowState::Maximised);
+    EXPECT_TRUE(window->Minimised) << "the main window is made large at the start";
     person::Choose(run.program, CommandId::mnuOptFUT);
     EXPECT_FALSE(window->Minimised);
+    mainWindowGets(WindowState::Minimised);
+    EXPECT_TRUE(window->Minimised);
+    mainWindowGets(WindowState::Maximised);
+    EXPECT_FALSE(window->Minimised) << "it went with the main window and comes back with it";
 }
 
 } // namespace
