@@ -417,13 +417,17 @@ void FrmFutView::Follow() {
         (model_.lstMoreFUT.Visible ? static_cast<QWidget*>(lists_) : terms_)->setFocus();
     }
     if (body_->isHidden() != model_.Minimised) {
+        if (placed_ && model_.Minimised && dock_->isFloating()) {
+            // It comes back as high as it is, which its parts may have made higher than its place.
+            model_.Height = static_cast<float>(dock_->height() / PixelsPerTwip());
+        }
         body_->setVisible(!model_.Minimised);
         restore_->setVisible(model_.Minimised);
         if (dock_->isFloating()) {
             const double scale = PixelsPerTwip();
-            dock_->resize(dock_->width(), model_.Minimised
-                                              ? dock_->minimumSizeHint().height()
-                                              : qRound(static_cast<double>(model_.Height) * scale));
+            const int least = dock_->minimumSizeHint().height();
+            const int whole = qMax(least, qRound(static_cast<double>(model_.Height) * scale));
+            dock_->resize(dock_->width(), model_.Minimised ? least : whole);
         }
     }
     restore_->setVisible(model_.Minimised);
