@@ -132,7 +132,10 @@ private:
         const PageId page = To(PageAt(Below(kEditedPageCount)));
         const int label = Press(page);
         Tell("drag", page, label);
-        modDesigner::lbl_MouseMove(program, page, label, 200, static_cast<float>(Below(3) - 1) * 200);
+        const float down = static_cast<float>(Below(3) - 1) * 200;
+        if (modDesigner::lbl_MouseMove(program, page, label, 200, down)) {
+            Tell("moved", page, label);
+        }
         modDesigner::lbl_MouseUp(program, page, label);
     }
     void ChangeALabel() {
