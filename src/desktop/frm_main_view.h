@@ -99,7 +99,7 @@ private:
     QScrollBar* across_ = nullptr; ///< shows while the page is wider than the desk
     std::optional<FieldRef> sideShownFor_;
     int sideShownOn_ = 0; ///< the desk's width then
-    int placedFor_ = 0; ///< the desk's width for which the paper was placed last
+    int placedFor_ = 0;   ///< the desk's width for which the paper was placed last
     struct Shown {
         QLabel* Widget;
         const StripLabel* Record;
