@@ -39,6 +39,15 @@ TEST(Merge, PutsAPersonIntoTheClientsLines) {
     EXPECT_TRUE(run.IsOpen());
 }
 
+TEST(Merge, SelectedAreasAreSelectedNoLonger) {
+    MergeRun run;
+    run.Show(kAnn);
+    run.program.editing.BlockMode = true;
+    run.Run(Id::mnuOptMerge);
+    EXPECT_FALSE(run.program.editing.BlockMode);
+    EXPECT_EQ(run.Client(2), "Ann Ash");
+}
+
 TEST(Merge, NamesAnUnsavedProposalAsTypingDoes) {
     MergeRun run;
     run.Show(kAnn);

@@ -1,4 +1,5 @@
 #include "base/files.h"
+#include "base/record_file.h"
 #include "support/failing_disk.h"
 #include "support/scratch_folder.h"
 
@@ -163,6 +164,10 @@ TEST(SafeWrite, ASymbolicLinkStaysAndItsTargetTakesTheBytes) {
     fs::create_symlink("share/later.hef", folder / "to come.hef");
     files::WriteWhole(folder / "to come.hef", "first");
     EXPECT_EQ(folder.Read("share/later.hef"), "first");
+    folder.Write("work", "by another file");
+    files::Replace(folder / "work", folder / "again.hef");
+    EXPECT_TRUE(fs::is_symlink(folder / "again.hef"));
+    EXPECT_EQ(folder.Read("share/real.hef"), "by another file");
     fs::create_symlink("circle", folder / "circle");
     EXPECT_FALSE(Written(folder / "circle", "x"));
 }

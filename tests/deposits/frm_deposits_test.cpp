@@ -248,6 +248,7 @@ TEST(Deposits, WhatIsNoDateOrNoAmountAddsNothingAndTurnsRed) {
     EXPECT_NE(window.txtDate.ToolTipText, "");
     run.Add(window, "1/1/2008", "1.2.3");
     EXPECT_EQ(window.txtDate.BackColor, colors::kWhite);
+    EXPECT_EQ(window.txtDate.ToolTipText.find("no date"), std::string::npos);
     EXPECT_EQ(window.txtAmount.BackColor, colors::kOverLimit);
     EXPECT_EQ(window.ActiveControl, "txtAmount");
     run.Add(window, "1/1/2008", "");

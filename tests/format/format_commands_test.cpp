@@ -188,7 +188,9 @@ TEST(FormatChanges, ThatAreNotSavedAreAskedForByNameBeforeTheyGo) {
     EXPECT_EQ(run.Questions().Manners.back().Default, Answer::Cancel);
     run.Questions().Expect("Some text has been changed.", Answer::No);
     run.Questions().Expect("The format House.fmt has changes", Answer::Yes);
+    run.program.totals.Deposit = 7;
     modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.program.totals.Deposit, 0) << "saved, so the new proposal comes";
     EXPECT_NE(run.folder.Read("Proposals/House.fmt").find("frmP1.lbl(9).Left=1380 "), std::string::npos);
     EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, 1380);
 }
@@ -538,6 +540,8 @@ TEST(ChooserKinds, APictureBecomesTheLogoAndAnythingElseIsRefused) {
     const std::string picture = run.folder / "Proposals/b.BMP";
     run.surroundings.pictures.Known[picture] = {1500, 900};
     run.program.document.FileFilter = std::string(kPictureFiles);
+    run.program.pages[PageId::frmP1].pic.Left = 720;
+    run.program.pages[PageId::frmP1].pic.Top = 540;
     modWindows::Show(run.program, std::make_unique<frmFile>());
     ASSERT_EQ(run.Chooser().FileList1.Items, (std::vector<std::string>{"a.jpg", "b.BMP", "c.gif", "d.png"}));
     run.Chooser().FileList1_Click(run.program, 0);
@@ -554,6 +558,8 @@ TEST(ChooserKinds, APictureBecomesTheLogoAndAnythingElseIsRefused) {
     EXPECT_EQ(logo.Size.Width, 1500);
     EXPECT_EQ(run.program.settings.LogoFile, picture);
     EXPECT_EQ(run.program.format.LogoPath, picture);
+    EXPECT_EQ(run.program.format.LogoLeft, 720);
+    EXPECT_EQ(run.program.format.LogoTop, 540);
     EXPECT_TRUE(run.program.format.LogoChanged);
     EXPECT_EQ(run.program.document.FileFilter, "*.hef");
 }

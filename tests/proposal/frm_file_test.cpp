@@ -157,6 +157,7 @@ TEST(Chooser, PropertiesAreReadUnlessTheyAreToBeIgnored) {
     ignoring.cmdOpenOK_Click(run.program);
     modWindows::Sweep(run.program);
     EXPECT_EQ(parsed, 1);
+    EXPECT_FALSE(run.program.document.IgnoreProperties) << "for the file that was chosen here alone";
     EXPECT_TRUE(run.program.format.PropertyLines.empty());
     static_cast<void>(run.Show());
     EXPECT_FALSE(run.program.document.IgnoreProperties);

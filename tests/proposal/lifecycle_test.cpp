@@ -247,12 +247,16 @@ TEST(Reset, EmptiesNamesTextsTotalsAndMarks) {
     run.program.format.PropTextChanges[PageId::frmP1][20].TaxExempt = true;
     run.program.format.PropertyLines = {"a"};
     run.program.document.HasNotes = true;
+    run.program.document.SavedStateStale = true;
+    run.program.totals.PageTaxable[PageId::frmP1] = 5;
     run.program.pages[PageId::frmP1].txt[20].SelStart = 3;
     run.program.pages[PageId::frmP6].txt[4].BackColor = colors::kOverLimit;
     ASSERT_EQ(modReset::StartNewFile(run.program), modReset::ResetResult::Done);
     EXPECT_EQ(run.program.pages[PageId::frmP1].txt[20].SelStart, 0);
     EXPECT_EQ(run.program.pages[PageId::frmP6].txt[4].BackColor, colors::kResting);
     const DocumentState& document = run.program.document;
+    EXPECT_FALSE(document.SavedStateStale);
+    EXPECT_EQ(run.program.totals.PageTaxable[PageId::frmP1], 0.0F);
     EXPECT_EQ(document.FileName, "");
     EXPECT_EQ(document.BaseName, "");
     EXPECT_EQ(document.FootnoteFile, "");
