@@ -15,6 +15,7 @@
 #include "proposal/property_file.h"
 #include "proposal/proposal_bytes.h"
 #include "proposal/run_marker.h"
+#include "proposal/side_files.h"
 
 #include <string>
 
@@ -129,6 +130,7 @@ void SavingSteps(Program& program, SaveResult& result) {
         program.hooks.CloseLabelWindow(program);
     }
     CompareTotals(program);
+    const bool first = !document.FileExists && !document.FromBackup;
     Place place(program);
     if (!NameIsSettled(program)) {
         return;
@@ -140,8 +142,10 @@ void SavingSteps(Program& program, SaveResult& result) {
         return;
     }
     const std::string path = paths::Join(document.FilePath, document.FileName);
+    const bool replacesAnother = first && files::ExistsExactly(path);
     // Should a write fail, the properties still count as unsaved.
     const bool properties = PropertiesChanged(program);
+    const bool ownLayout = PropertiesWanted(program);
     const bool propertiesLost = SaveProperties(program) == SaveResult::NotSaved;
     document.SavedStateStale = properties;
     const std::string bytes = ProposalBytes(program);
@@ -153,6 +157,10 @@ void SavingSteps(Program& program, SaveResult& result) {
     document.SavedStateStale = propertiesLost;
     place.Take();
     result = SaveResult::Saved;
+    if (replacesAnother) {
+        modSideFile::LeaveOthersBehind(program, ownLayout ? modSideFile::OwnLayout::Written
+                                                          : modSideFile::OwnLayout::None);
+    }
     if (!propertiesLost) {
         modRecovery::NothingUnsaved(program);
     }

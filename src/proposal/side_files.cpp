@@ -11,9 +11,13 @@
 #include "program/saved_notice.h"
 #include "proposal/proposal_save.h"
 
+#include <array>
+
 namespace modSideFile {
 
 namespace {
+
+constexpr std::array<std::string_view, 2> kBeside{".hxt", ".dep"};
 
 std::string MadeBackupFolder(const Program& program) {
     std::string folder = modFolders::BackupFolder(program);
@@ -126,8 +130,25 @@ void KeepInBackup(Program& program, std::string_view name, std::string_view byte
     }
 }
 
+void LeaveOthersBehind(Program& program, OwnLayout layout) {
+    DocumentState& document = program.document;
+    for (const std::string_view extension : {kBeside[0], kBeside[1], std::string_view(".hpf")}) {
+        if (extension == ".hpf" && layout == OwnLayout::Written) {
+            continue;
+        }
+        Guarded(program, "SaveEventFile", [&] {
+            const std::string name = document.BaseName + std::string(extension);
+            const std::string path = paths::Join(FolderOf(program, document), name);
+            if (files::Exists(path)) {
+                MoveAside(program, path, name);
+            }
+        });
+    }
+    document.HasNotes = files::FileIsThere(FolderOf(program, document), document.FootnoteFile);
+}
+
 void FollowSaveAs(Program& program, const DocumentState& before) {
-    for (const std::string_view extension : {".hxt", ".dep"}) {
+    for (const std::string_view extension : kBeside) {
         // The one goes along though the other cannot.
         Guarded(program, "SaveEventFileAs", [&] { FollowOne(program, before, extension); });
     }

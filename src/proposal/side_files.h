@@ -39,6 +39,12 @@ struct Known {
 /// Puts unsaved work beside the backup; nobody is asked or told. Failures go to the log alone.
 void KeepInBackup(Program& program, std::string_view name, std::string_view bytes);
 
+/// After the first save of a new proposal that has replaced another one's file: what lay beside that one goes
+/// into the backup folder, so that the new proposal has neither its notes nor its deposits, nor its layout
+/// unless it has just written its own. Reports as "SaveEventFile".
+enum class OwnLayout { Written, None };
+void LeaveOthersBehind(Program& program, OwnLayout layout);
+
 /// After Save As: the files of the proposal as it was go with it. Another proposal's that lie under the new
 /// name go into the backup folder. Reports as "SaveEventFileAs".
 void FollowSaveAs(Program& program, const DocumentState& before);

@@ -5,6 +5,7 @@
 #include "pages/row_fields.h"
 #include "proposal/property_file.h"
 #include "proposal/proposal_save.h"
+#include "proposal/reset.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -109,6 +110,29 @@ TEST(Saving, AFileThatWasDeletedMeanwhileIsWrittenAgainWithoutAQuestion) {
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
     EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 110, 13), "14 Oak Street");
+}
+
+TEST(Saving, ANewProposalThatReplacesAnotherTakesNothingOfWhatLayBesideIt) {
+    RunningProgram run;
+    SaveAnn(run);
+    run.folder.Write("Proposals/Ann.hxt", "the old Ann's notes");
+    run.folder.Write("Proposals/Ann.dep", "Ann\r\nJan 1, 2008\t\t$ 600.00");
+    run.folder.Write("Proposals/Ann.hpf", "frmP1.lbl(9).Left=1");
+    static_cast<void>(modReset::StartNewFile(run.program));
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
+    run.surroundings.questions.Expect("A file with this name (Ann.hef)", Answer::Yes);
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    for (const char* extension : {".hxt", ".dep", ".hpf"}) {
+        EXPECT_FALSE(run.folder.Has(std::string("Proposals/Ann") + extension)) << extension;
+        EXPECT_TRUE(run.folder.Has(std::string("Proposals/Backup/Ann") + extension + ".old")) << extension;
+    }
+    EXPECT_FALSE(run.program.document.HasNotes);
+    // What lies beside the proposal from now on is its own.
+    run.folder.Write("Proposals/Ann.hxt", "the new Ann's notes");
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hxt"), "the new Ann's notes");
 }
 
 TEST(Saving, AReadOnlyFileIsReplaced) {
