@@ -54,13 +54,13 @@ struct QuietMachine {
 
 /// One that has started, with a proposal in a folder of its own that goes with it.
 struct QuietProgram : QuietMachine {
-    QuietProgram() : QuietMachine(NewFolder()), proposals(program.folders.InstallFolder + "Proposals/") {
-        std::filesystem::create_directories(proposals + "Backup");
+    QuietProgram() : QuietMachine(NewFolder()), proposals_(program.folders.InstallFolder + "Proposals/") {
+        std::filesystem::create_directories(proposals_ + "Backup");
         program.settings.CurrencySymbol = "$";
         modMain::MDIForm_Load(program);
         program.document.BaseName = "Fuzz";
         program.document.FileName = "Fuzz.hef";
-        program.document.FilePath = proposals;
+        program.document.FilePath = proposals_;
         program.document.FileExists = true;
     }
     ~QuietProgram() {
@@ -71,10 +71,10 @@ struct QuietProgram : QuietMachine {
     QuietProgram& operator=(const QuietProgram&) = delete;
 
     void Write(const char* name, const std::string& bytes) const {
-        std::ofstream(proposals + name, std::ios::binary) << bytes;
+        std::ofstream(proposals_ + name, std::ios::binary) << bytes;
     }
     [[nodiscard]] std::string Read(const char* name) const {
-        std::ifstream in(proposals + name, std::ios::binary);
+        std::ifstream in(proposals_ + name, std::ios::binary);
         return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
     }
 
@@ -83,7 +83,7 @@ private:
         const std::string name = "quillbrook-fuzz-" + std::to_string(std::random_device{}());
         return (std::filesystem::temp_directory_path() / name).string() + "/";
     }
-    std::string proposals;
+    std::string proposals_;
 };
 
 inline void Require(bool holds) {

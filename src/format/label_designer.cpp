@@ -157,9 +157,7 @@ void lbl_MouseUp(Program& program, PageId page, int index) {
     if (drag.Moved) {
         StoreMovedLabel(program, page, index);
         if (page == PageId::frmP6) {
-            PageLabel& copy = LabelAt(program, PageId::frmP6_1, index);
-            copy.Left = label.Left;
-            copy.Top = label.Top;
+            CopyPlaceToClientsPage(program, index);
         }
     }
     ShowPlace(label);

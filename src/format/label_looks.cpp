@@ -47,18 +47,25 @@ void LayLabel(Program& program, PageId page, int index, const LabelLook& look) {
     }
 }
 
-void CopyToClientsPage(Program& program, int index) {
+void CopyPlaceToClientsPage(Program& program, int index) {
     PageLabel& copy = LabelAt(program, PageId::frmP6_1, index);
     const PageLabel& ours = LabelAt(program, PageId::frmP6, index);
-    LabelLook look = LookOf(ours);
-    const bool title = index == geometry::TitleLabel(PageId::frmP6);
-    if (title) {
+    copy.Left = ours.Left;
+    copy.Top = ours.Top;
+    if (index == geometry::TitleLabel(PageId::frmP6) &&
+        modTitles::StandsCentred(program, PageId::frmP6, index, ours)) {
+        modTitles::Centre(program, copy); // its words are longer
+    }
+}
+
+void CopyToClientsPage(Program& program, int index) {
+    PageLabel& copy = LabelAt(program, PageId::frmP6_1, index);
+    LabelLook look = LookOf(LabelAt(program, PageId::frmP6, index));
+    if (index == geometry::TitleLabel(PageId::frmP6)) {
         look.Caption = copy.Caption;
     }
     PutLook(copy, look);
-    if (title && modTitles::StandsCentred(program, PageId::frmP6, index, ours)) {
-        modTitles::Centre(program, copy); // its words are longer
-    }
+    CopyPlaceToClientsPage(program, index);
 }
 
 bool IsSignLabel(PageId page, int index) {

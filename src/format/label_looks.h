@@ -22,6 +22,10 @@ void PutLook(LabelChangeRecord& record, const LabelLook& look);
 /// but for the words of the title, which are the copy's own.
 void LayLabel(Program& program, PageId page, int index, const LabelLook& look);
 
+/// The client's copy of the final page takes a label's place; a title that stands centred is centred by the
+/// copy's own words.
+void CopyPlaceToClientsPage(Program& program, int index);
+
 /// The client's copy of the final page takes a label as it stands on the final page.
 void CopyToClientsPage(Program& program, int index);
 

@@ -92,6 +92,16 @@ TEST(LabelDrag, AMereClickBringsALabelIntoTheTables) {
     EXPECT_EQ(run.Label(PageId::frmP1, 9).ToolTipText, "Left = 0.75, Top = 2.875");
 }
 
+TEST(LabelDrag, AClickOnTheTitleLeavesTheClientsOneCentred) {
+    Designing run;
+    const float left = run.Label(PageId::frmP6_1, 64).Left;
+    EXPECT_LT(left, run.Label(PageId::frmP6, 64).Left) << "its words are longer";
+    run.Click(64, PageId::frmP6);
+    EXPECT_EQ(run.Label(PageId::frmP6_1, 64).Left, left);
+    run.Drag(64, 180, 0, PageId::frmP6);
+    EXPECT_EQ(run.Label(PageId::frmP6_1, 64).Left, run.Label(PageId::frmP6, 64).Left);
+}
+
 TEST(LabelDrag, InTheFirstDocumentAClickWithoutAMoveDoesNotCount) {
     RunningProgram run;
     lbl_MouseDown(run.program, PageId::frmP1, 9, kLeftButton, 0, 0);

@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+
 namespace {
 
 TEST(Notice, StaysUntilItHasBeenOnShowForFiveSecondsOfActivity) {
@@ -20,7 +22,7 @@ TEST(Notice, StaysUntilItHasBeenOnShowForFiveSecondsOfActivity) {
     strip.Follow(run.program, 1000);
     EXPECT_EQ(strip.Text(), "One character was not taken.");
     run.program.main.Notice.clear(); // the next key
-    for (int second = 2; second <= 5; ++second) {
+    for (std::int64_t second = 2; second <= 5; ++second) {
         strip.Activity(second * 1000);
         strip.Follow(run.program, second * 1000);
         EXPECT_NE(strip.Text(), "") << second;
