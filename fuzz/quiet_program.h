@@ -5,6 +5,7 @@
 #include "shell/wiring.h"
 #include "support/recording_platform.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -86,8 +87,9 @@ private:
     std::string proposals_;
 };
 
-inline void Require(bool holds) {
+inline void Require(bool holds, int line = __builtin_LINE()) {
     if (!holds) {
+        std::fprintf(stderr, "what line %d requires does not hold\n", line);
         std::abort();
     }
 }

@@ -1,4 +1,5 @@
 #include "base/files.h"
+#include "base/text.h"
 #include "editing/standing_completion.h"
 #include "pages/fields.h"
 #include "program/keys.h"
@@ -60,7 +61,8 @@ void TypeTerms(Program& program) {
         hand.Press(kThen[each % kThen.size()]);
         program.editing.KeyCounter = 0;
         modText::TakeCompletion(program);
-        Require(program.document.CurrentTextBuf[PageId::frmP2][0] == area.Text);
+        // Blanks at the ends are not stored.
+        Require(text::Trim(program.document.CurrentTextBuf[PageId::frmP2][0]) == text::Trim(area.Text));
     }
 }
 

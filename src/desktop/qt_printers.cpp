@@ -7,7 +7,6 @@
 
 #include <QApplication>
 #include <QBuffer>
-#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -214,14 +213,8 @@ void QtPrinters::EndCommand() {
     if (!path) {
         throw files::FileError(files::kBadName, "Bad file name or number");
     }
-    try {
-        files::WriteWhole(*path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
-    } catch (const files::FileError& failure) {
-        if (failure.Number() == files::kDiskFull) {
-            QFile::remove(file_); // half a PDF looks like a proposal and cannot be opened
-        }
-        throw;
-    }
+    // Whole or not at all: half a PDF looks like a proposal and cannot be opened, and an older one stays.
+    files::WriteWhole(*path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
     if (Written) {
         Written(*path);
     }

@@ -26,8 +26,9 @@ std::string PathOf(const Program& program) {
 } // namespace
 
 float TwipsOf(std::string_view inches) {
+    constexpr float kFarthest = 1'000'000; // beyond any paper, and written without an exponent
     const float twips = numbers::ValSingle(inches) * kTwipsPerInch;
-    return std::isfinite(twips) ? twips : 0;
+    return std::isfinite(twips) && std::fabs(twips) <= kFarthest ? twips : 0;
 }
 
 std::string InchesOf(float twips) {

@@ -233,6 +233,25 @@ TEST(Paper, LeavesNoHalfAFileOnAFullDisk) {
     EXPECT_FALSE(QFile::exists(press.pdf));
 }
 
+TEST(Paper, AnOlderPdfOutlivesAFullDisk) {
+    Press press;
+    QFile older(press.pdf);
+    ASSERT_TRUE(older.open(QIODevice::WriteOnly));
+    older.write("last year's");
+    older.close();
+    press.Paper().Print("lost");
+    press.Paper().EndDoc();
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{1000, before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    EXPECT_THROW(press.printers.EndCommand(), files::FileError);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    ASSERT_TRUE(older.open(QIODevice::ReadOnly));
+    EXPECT_EQ(older.readAll(), "last year's");
+}
+
 TEST(Paper, AFileGetsTheEndingOfAPdf) {
     Press press;
     press.pdf = QString::fromStdString(press.folder / "mine");
