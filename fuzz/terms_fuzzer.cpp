@@ -82,7 +82,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const FieldRef line{PageId::frmP2, FieldKind::txt, 0};
     for (const std::string_view each : program.terms.Lines) {
         static_cast<void>(modTerms::txt_DragDrop(program, line, each));
-        program.pages[PageId::frmP2].txt[0].Text.clear();
+        modFields::SetText(program, line, "");
     }
 
     // What is rewritten is read again as it was, but for line ends and empty lines at the end.
