@@ -5,6 +5,7 @@
 #include "program/line_printing.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "proposal/proposal_save.h"
 
 #include <vector>
 
@@ -92,7 +93,7 @@ void frmNotes::Run(Program& program, std::string_view name) {
 }
 
 bool frmNotes::SaveFootnoteFile(Program& program) {
-    if (Locked || !modSideFile::ProposalHasFile(program)) {
+    if (Locked || !modFile::ProposalHasFile(program)) {
         return false;
     }
     if (!modSideFile::Write(

@@ -9,6 +9,7 @@
 #include "program/line_printing.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "proposal/proposal_save.h"
 
 #include <algorithm>
 #include <limits>
@@ -354,7 +355,7 @@ bool frmDeposits::SettlePendingAmount(Program& program) {
 }
 
 bool frmDeposits::SaveDepositInfo(Program& program) {
-    if (Locked || !modSideFile::ProposalHasFile(program)) {
+    if (Locked || !modFile::ProposalHasFile(program)) {
         return false;
     }
     if (!lst.Items.empty() || fileFollows_) {

@@ -184,6 +184,10 @@ SaveResult SaveEventFile(Program& program) {
     return result;
 }
 
+bool ProposalHasFile(Program& program) {
+    return program.document.FileExists || SaveEventFile(program) == SaveResult::Saved;
+}
+
 bool ClientNameChanged(const Program& program) {
     const auto client = static_cast<std::size_t>(kClientName);
     return program.document.CurrentTextBuf[PageId::frmP1][client] !=

@@ -19,4 +19,8 @@ namespace modFile {
 /// Whether the client's name differs from its saved text.
 [[nodiscard]] bool ClientNameChanged(const Program& program);
 
+/// Gives a proposal without a file one, for what lies beside it must have something to lie beside. False when
+/// it was not saved.
+[[nodiscard]] bool ProposalHasFile(Program& program);
+
 } // namespace modFile

@@ -9,7 +9,6 @@
 #include "program/errors.h"
 #include "program/program.h"
 #include "program/saved_notice.h"
-#include "proposal/proposal_save.h"
 
 #include <array>
 
@@ -114,10 +113,6 @@ bool Write(Program& program, Known& known, std::string_view name, std::string_vi
         TellSaved(program, name.ends_with(".dep") ? "Deposit list" : "Footnotes", path);
     });
     return written;
-}
-
-bool ProposalHasFile(Program& program) {
-    return program.document.FileExists || modFile::SaveEventFile(program) == modFile::SaveResult::Saved;
 }
 
 void KeepInBackup(Program& program, std::string_view name, std::string_view bytes) {

@@ -32,10 +32,6 @@ struct Known {
 [[nodiscard]] bool Write(Program& program, Known& known, std::string_view name, std::string_view bytes,
                          std::string_view question, std::string_view procedure);
 
-/// Gives a proposal without a file one, for what lies beside it must have something to lie beside. False when
-/// it was not saved.
-[[nodiscard]] bool ProposalHasFile(Program& program);
-
 /// Puts unsaved work beside the backup; nobody is asked or told. Failures go to the log alone.
 void KeepInBackup(Program& program, std::string_view name, std::string_view bytes);
 
