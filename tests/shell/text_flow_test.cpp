@@ -34,6 +34,7 @@ enum class Do {
     Backspace,
     Delete,
     Key,
+    TakeWithShift,
     Commit,
     PasteByKey,
     PasteByMouse,
@@ -70,6 +71,8 @@ std::string Read(const Step& step) {
         return "delete";
     case Do::Key:
         return "key " + std::to_string(step.From);
+    case Do::TakeWithShift:
+        return "Shift and key " + std::to_string(step.From) + " if a completion stands";
     case Do::Commit:
         return "commit \"" + step.Text + "\"";
     case Do::PasteByKey:
@@ -166,6 +169,11 @@ void OnProgram(Pair& pair, const Step& step) {
     case Do::Key:
         pair.Hand.Press(step.From);
         break;
+    case Do::TakeWithShift:
+        if (pair.Reference.CompletionStands()) {
+            pair.Hand.Press(step.From, keys::kShiftState);
+        }
+        break;
     case Do::Commit:
         pair.Hand.Commit(step.Text);
         break;
@@ -222,6 +230,11 @@ void OnReference(ReferenceFlow& flow, const Step& step) {
         break;
     case Do::Key:
         flow.Key(step.From);
+        break;
+    case Do::TakeWithShift:
+        if (flow.CompletionStands()) {
+            flow.TakeWithShift(step.From);
+        }
         break;
     case Do::Commit:
         flow.Commit(step.Text);
@@ -528,8 +541,11 @@ private:
             constexpr std::array kKeys{13, 13, 39, 45, 9, 40, 8, 46, 37, 36};
             steps.push_back(
                 {.What = Do::Key, .Field = {}, .From = kKeys[Below(kKeys.size())], .To = 0, .Text = {}});
-            if (steps.back().From == 8 || steps.back().From == 46) {
-                steps.back().What = steps.back().From == 8 ? Do::Backspace : Do::Delete;
+            const int key = steps.back().From;
+            if (key == 8 || key == 46) {
+                steps.back().What = key == 8 ? Do::Backspace : Do::Delete;
+            } else if ((key == 13 || key == 39) && Number(3) == 0) {
+                steps.back().What = Do::TakeWithShift;
             }
         }
     }

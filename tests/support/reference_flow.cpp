@@ -518,7 +518,16 @@ void ReferenceFlow::ClickMark(PageId page, int index) {
 // ---- keys
 // ---------------------------------------------------------------------------------------------------
 
-void ReferenceFlow::KeyDown(int keyCode) {
+bool ReferenceFlow::CompletionStands() const {
+    return Focus && words_[static_cast<std::size_t>(IndexOf(Focus->Page))].Active;
+}
+
+void ReferenceFlow::TakeWithShift(int keyCode) {
+    KeyDown(keyCode, Held::Shift);
+    KeyUp(keyCode);
+}
+
+void ReferenceFlow::KeyDown(int keyCode, Held held) {
     const FieldRef field = *Focus;
     if (keyCode == 33 || keyCode == 34 || IsFinal(field)) {
         return; // page keys never reach a field; the final page hears no others
@@ -548,7 +557,7 @@ void ReferenceFlow::KeyDown(int keyCode) {
     lastKey_ = std::string(1, static_cast<char>(keyCode));
     if (stands && (keyCode == kRightKey || keyCode == kInsertKey || keyCode == kEnterKey)) {
         TakeWord(field.Page);
-        if (keyCode == kEnterKey) {
+        if (keyCode == kEnterKey || held == Held::Shift) {
             PlacePrice(field, WordOf(field.Page).Amount);
         }
     }

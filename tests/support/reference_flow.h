@@ -55,7 +55,9 @@ public:
     void Character(char character);
     void Backspace();
     void Delete();
-    void Key(int keyCode);              ///< a key that enters nothing
+    void Key(int keyCode); ///< a key that enters nothing
+    [[nodiscard]] bool CompletionStands() const;
+    void TakeWithShift(int keyCode);    ///< Right or Enter with Shift while a completion stands
     void Commit(std::string_view text); ///< by an input method
     void PasteByKey(std::string_view clipboard);
     void PasteByMouse(const FieldRef& field, int at, std::string_view text);
@@ -98,7 +100,8 @@ private:
     static void MarkFirstWord(Field& field);
     [[nodiscard]] bool Over(const Field& field, int limit) const;
     [[nodiscard]] bool HasBoxes(const FieldRef& field) const;
-    void KeyDown(int keyCode);
+    enum class Held { Nothing, Shift };
+    void KeyDown(int keyCode, Held held = Held::Nothing);
     void ClearPlaceholder();
     [[nodiscard]] bool KeyPress(char character);
     /// `typedInto` is the field into which the key being let go has put a character.
