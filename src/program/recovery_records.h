@@ -12,6 +12,9 @@ struct UnsavedWork {
     std::string Backup; ///< the backup's name in the folder of the backups
     /// What the last save was about to write. A proposal that holds it is saved, and newer than the backup.
     files::Seen Saving{};
+    /// What the proposal's file held when the run last read or wrote it. Should it hold other bytes by the
+    /// time the backup is brought back, another program has changed it, and the next save asks.
+    files::Seen Known{};
     bool operator==(const UnsavedWork&) const = default;
 };
 

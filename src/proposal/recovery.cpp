@@ -78,7 +78,7 @@ void ShowBackup(Program& program, const UnsavedWork& work, const modFile::RawPro
     modFile::TakeProperties(program,
                             paths::Join(modFolders::BackupFolder(program), PropertiesBeside(work.Backup)));
     document.FileExists = saved.Exists;
-    document.SavedFile = saved.File;
+    document.SavedFile = saved.Exists && work.Known.Was == files::Seen::What::Bytes ? work.Known : saved.File;
     program.format.PropertyPath = paths::Join(work.Folder, PropertiesBeside(work.FileName));
     program.format.PropertySeen = files::LookAt(program.format.PropertyPath);
     document.SavedTextBuf = saved.Texts;

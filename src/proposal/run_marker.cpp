@@ -21,20 +21,32 @@ std::string MarkerOf(const Program& program) {
     return paths::Join(program.folders.InstallFolder, "Running.txt");
 }
 
+/// One line for what was seen of a file; one that holds no bytes to compare stands as a hyphen.
+std::string LineOf(const files::Seen& seen) {
+    return seen.Was == files::Seen::What::Bytes ? std::to_string(seen.Length) + " " + std::to_string(seen.Sum)
+                                                : "-";
+}
+
+files::Seen SeenOf(const std::vector<std::string>& lines, std::size_t at) {
+    files::Seen seen;
+    if (at < lines.size()) {
+        std::istringstream line(lines[at]);
+        if (line >> seen.Length >> seen.Sum) {
+            seen.Was = files::Seen::What::Bytes;
+        } else {
+            seen = {};
+        }
+    }
+    return seen;
+}
+
 std::optional<UnsavedWork> Parse(std::string_view bytes) {
     const std::vector<std::string> lines = text::SplitLines(bytes);
     constexpr std::size_t kLines = 3;
     if (lines.size() < kLines || lines[1].size() <= 4 || lines[2].size() <= 4) {
         return std::nullopt;
     }
-    UnsavedWork work{lines[0], lines[1], lines[2]};
-    if (lines.size() > kLines) {
-        std::istringstream saving(lines[kLines]);
-        if (saving >> work.Saving.Length >> work.Saving.Sum) {
-            work.Saving.Was = files::Seen::What::Bytes;
-        }
-    }
-    return work;
+    return UnsavedWork{lines[0], lines[1], lines[2], SeenOf(lines, kLines), SeenOf(lines, kLines + 1)};
 }
 
 void WriteMarker(Program& program) {
@@ -43,12 +55,9 @@ void WriteMarker(Program& program) {
     }
     std::string bytes;
     if (const auto& told = program.recovery.Told) {
-        for (const std::string& line : {told->Folder, told->FileName, told->Backup}) {
+        for (const std::string& line :
+             {told->Folder, told->FileName, told->Backup, LineOf(told->Saving), LineOf(told->Known)}) {
             bytes += line;
-            bytes += text::kCrLf;
-        }
-        if (told->Saving.Was == files::Seen::What::Bytes) {
-            bytes += std::to_string(told->Saving.Length) + " " + std::to_string(told->Saving.Sum);
             bytes += text::kCrLf;
         }
     }
@@ -96,7 +105,11 @@ void TakeMarkerAway(Program& program) {
 
 void TellOfBackup(Program& program, std::string_view backupName) {
     const DocumentState& document = program.document;
-    Tell(program, UnsavedWork{document.FilePath, document.FileName, std::string(backupName)});
+    Tell(program, UnsavedWork{document.FilePath,
+                              document.FileName,
+                              std::string(backupName),
+                              {},
+                              document.FileExists ? document.SavedFile : files::Seen{}});
 }
 
 void TellOfSave(Program& program, std::string_view bytes) {

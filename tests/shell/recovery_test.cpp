@@ -87,6 +87,23 @@ TEST(Recovery, ChangesOfASavedProposalComeBackAsUnsavedOnes) {
     EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::Saved);
 }
 
+TEST(Recovery, AnotherProgramsChangeMeanwhileIsAskedAboutBeforeItIsOverwritten) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Fill(3, "12 Elm Street");
+    runs.Save("Ann.hef");
+    std::string other = runs.first->folder.Read("Proposals/Ann.hef");
+    other.replace(other.find("12 Elm"), 6, "14 Oak");
+    runs.first->folder.Write("Proposals/Ann.hef", other);
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    runs.StartAgain("The proposal Ann has changes from ", Answer::Yes);
+    runs.again.questions.Expect("This proposal was changed by another program since you opened it.",
+                                Answer::No);
+    EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::NotSaved);
+    EXPECT_EQ(runs.first->folder.Read("Proposals/Ann.hef"), other);
+}
+
 TEST(Recovery, AProposalThatWasNeverSavedComesBackAsANewOne) {
     Runs runs;
     runs.Fill(2, "Ann");
@@ -225,12 +242,18 @@ TEST(Recovery, AProposalThatWasSavedInTheVeryMomentOfTheEndIsNotMentioned) {
     ASSERT_EQ(modFile::SaveEventFile(runs.first->program), modFile::SaveResult::Saved);
     const std::string saved = runs.first->folder.Read("Proposals/Ann.hef");
     const files::Seen seen = files::SeenIn(saved);
+    const auto telling = [&](const std::string& saving) {
+        std::string marker = before;
+        const std::size_t none = marker.find("\r\n-\r\n");
+        EXPECT_NE(none, std::string::npos) << marker;
+        return marker.replace(none, 5, "\r\n" + saving + "\r\n");
+    };
     runs.first->folder.Write("Running.txt",
-                             before + std::to_string(seen.Length) + " " + std::to_string(seen.Sum) + "\r\n");
+                             telling(std::to_string(seen.Length) + " " + std::to_string(seen.Sum)));
     runs.StartAgain("", Answer::No);
     EXPECT_TRUE(runs.again.questions.Shown.empty());
     // Had the save not come through, the backup would be offered.
-    runs.first->folder.Write("Running.txt", before + "20630 1\r\n");
+    runs.first->folder.Write("Running.txt", telling("20630 1"));
     RecordingPlatform third;
     Program program(third.platform);
     third.questions.Expect("The proposal Ann has changes from ", Answer::No);
