@@ -4,8 +4,13 @@
 #include <QLocalSocket>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
+#include <QTimer>
 #include <QVariant>
 #include <QWidget>
+
+#include <memory>
+#include <utility>
 
 namespace {
 
@@ -79,21 +84,40 @@ TestHook::TestHook() {
 void TestHook::Serve() {
     QLocalSocket* asking = server_.nextPendingConnection();
     QObject::connect(asking, &QLocalSocket::disconnected, asking, &QObject::deleteLater);
-    QObject::connect(asking, &QLocalSocket::readyRead, asking, [asking] {
-        while (asking->canReadLine()) {
-            const QString question = QString::fromUtf8(asking->readLine()).trimmed();
-            asking->write(AnswerTo(question).toUtf8() + '\n');
+    // Not in the signal itself: it does not come again while it is dealt with, and what is asked may open a
+    // box.
+    QObject::connect(
+        asking, &QLocalSocket::readyRead, asking,
+        [asking] {
+            while (asking->canReadLine()) {
+                const QString question = QString::fromUtf8(asking->readLine()).trimmed();
+                if (question == QLatin1String("settle")) {
+                    Settle(asking);
+                } else {
+                    asking->write(AnswerTo(question).toUtf8() + '\n');
+                }
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+void TestHook::Settle(QLocalSocket* asking) {
+    const auto answered = std::make_shared<bool>(false);
+    const auto answer = [asking = QPointer<QLocalSocket>(asking), answered] {
+        if (!std::exchange(*answered, true) && asking) {
+            asking->write("settled\n");
         }
-    });
+    };
+    // What the hands have done may have opened a box, which has a loop of its own and keeps the call below.
+    constexpr int kLong = 300;
+    QTimer::singleShot(kLong, asking, answer);
+    QApplication::sync();
+    answer();
 }
 
 QString TestHook::AnswerTo(const QString& question) {
     const QString verb = question.section(u' ', 0, 0);
     const QString name = question.section(u' ', 1);
-    if (verb == QLatin1String("settle")) {
-        QApplication::sync();
-        return QStringLiteral("settled");
-    }
     if (verb == QLatin1String("focus")) {
         const QWidget* keyboard = QApplication::focusWidget();
         return keyboard == nullptr ? QString() : keyboard->objectName();

@@ -26,9 +26,12 @@ std::string PathOf(const Program& program) {
 } // namespace
 
 float TwipsOf(std::string_view inches) {
-    constexpr float kFarthest = 1'000'000; // beyond any paper, and written without an exponent
+    // Beyond any paper, and below what any printer can do. Both would be written with an exponent, which a
+    // reading leaves off.
+    constexpr float kFarthest = 1'000'000, kLeast = 0.5F;
     const float twips = numbers::ValSingle(inches) * kTwipsPerInch;
-    return std::isfinite(twips) && std::fabs(twips) <= kFarthest ? twips : 0;
+    const float size = std::fabs(twips);
+    return size >= kLeast && size <= kFarthest ? twips : 0;
 }
 
 std::string InchesOf(float twips) {
