@@ -2,6 +2,7 @@
 mouse. Where a widget is and when the program has dealt with what came is asked from the program itself, which builds for
 tests can be asked (see src/desktop/test_hook.h)."""
 
+import errno
 import os
 import pathlib
 import shutil
@@ -91,7 +92,15 @@ class Display:
     def start(self, folder, **options):
         """Starts the program; a person is there as soon as it can be asked."""
         place = str(pathlib.Path(self.scratch.name) / f"hook-{len(self.programs)}")
-        program = subprocess.Popen([str(folder / "quillbrook")], env={**self.env, "QUILLBROOK_TEST_HOOK": place}, cwd="/", **options)
+        command = [str(folder / "quillbrook")]
+        options |= {"env": {**self.env, "QUILLBROOK_TEST_HOOK": place}, "cwd": "/"}
+        try:
+            program = subprocess.Popen(command, **options)
+        except OSError as busy:  # a child of another start still holds the copy open for writing, for a moment
+            if busy.errno != errno.ETXTBSY:
+                raise
+            time.sleep(1)
+            program = subprocess.Popen(command, **options)
         self.programs.append(program)
         return program, Person(self, program, place)
 
