@@ -118,7 +118,6 @@ bool Load(Program& program) {
     commands::LoadDesignState(program);
     program.main.imgPage[0].Pointer = MousePointer::Hand;
     modToolButtons::LoadPageButtonCursors(program);
-    program.main.State = WindowState::Maximised;
     return Guarded(program, "MDIForm_Load", [&] { LoadSteps(program); });
 }
 
