@@ -349,7 +349,7 @@ TEST(Lists, ALineThatTheListDoesNotHoldIsReplacedByNothingThoughItWasNotReadYet)
     run.List().Form_Cancel(run.program);
     run.program.run.ACEnabled = false;
     modTerms::OpenList(run.program, "Default Terms.fut");
-    EXPECT_TRUE(modTerms::ReplaceTerm(run.program, "Soup", "Broth"));
+    EXPECT_TRUE(modTerms::ReplaceTerm(run.program, {"Soup"}, "Broth"));
     EXPECT_EQ(run.OnDisk(), "Chair");
 }
 
