@@ -415,7 +415,7 @@ void TextAreaView::mousePressEvent(QMouseEvent* event) {
     }
     event->accept();
     RestartCaret();
-    modInput::FieldMouseDown(page_.program, field_, right ? 2 : 1, 0, start, length);
+    modInput::FieldMouseDown(page_.program, field_, right ? 2 : 1, start, length);
     Done();
     if (modInput::TextMenuOpens(page_.program) && page_.AskForMenu) {
         page_.AskForMenu(event->globalPosition().toPoint());
@@ -540,7 +540,7 @@ void TextAreaView::dropEvent(QDropEvent* event) {
         return;
     }
     const int position = PositionAt(event->position().x());
-    modInput::FieldMouseDown(page_.program, field_, 1, 0, position, 0);
+    modInput::FieldMouseDown(page_.program, field_, 1, position, 0);
     Done(); // the widget has the keyboard and the cursor now
     TakeIn(event->mimeData()->text());
     event->acceptProposedAction();
@@ -595,7 +595,7 @@ void TextAreaView::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
     // By mouse the press has opened it already; this is the keyboard's menu key.
     if (event->reason() == QContextMenuEvent::Keyboard) {
-        modInput::FieldMouseDown(page_.program, field_, 2, 0, Start(), Length());
+        modInput::FieldMouseDown(page_.program, field_, 2, Start(), Length());
         Done();
         if (modInput::TextMenuOpens(page_.program) && page_.AskForMenu) {
             page_.AskForMenu(mapToGlobal(rect().bottomLeft()));

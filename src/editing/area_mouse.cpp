@@ -13,8 +13,7 @@
 
 namespace modText {
 
-void txt_MouseDown(Program& program, PageId page, int index, int button, int shift) {
-    static_cast<void>(shift);
+void txt_MouseDown(Program& program, PageId page, int index, int button) {
     EditingState& editing = program.editing;
     TextArea& area = Area(program, page, index);
     if (Completing(program, page)) {

@@ -86,7 +86,7 @@ Moved MoveRuns(Program& program, const Way& way) {
     if (!moving) { // a held key moves again and again
         moving = std::make_unique<ScopedFlag>(program.editing.MoveInProgress);
     }
-    if (ReadSelectionRuns(program) != Selection::Runs) {
+    if (ReadOrRefuseSelection(program) != Selection::Runs) {
         FinishMove(program);
         return Moved::No;
     }

@@ -149,7 +149,7 @@ void WriteMemory(Program& program, const PasteTarget& target) {
 
 void CopyBlock(Program& program) {
     FinishMove(program);
-    if (ReadSelectionRuns(program) == Selection::Runs) {
+    if (ReadOrRefuseSelection(program) == Selection::Runs) {
         CopyBlockToMemory(program);
         program.editing.BlockCopyHeld = true;
     }
@@ -159,7 +159,7 @@ void CopyBlock(Program& program) {
 void DeleteBlock(Program& program) {
     Guarded(program, "DeleteTextContents", [&] {
         FinishMove(program);
-        if (ReadSelectionRuns(program) == Selection::Runs) {
+        if (ReadOrRefuseSelection(program) == Selection::Runs) {
             ClearSelectedAreas(program);
             EndMode(program);
         }
@@ -170,7 +170,7 @@ void DeleteBlock(Program& program) {
 void CutBlock(Program& program) {
     const bool done = Guarded(program, "DeleteTextContents", [&] {
         FinishMove(program);
-        if (ReadSelectionRuns(program) == Selection::Runs) {
+        if (ReadOrRefuseSelection(program) == Selection::Runs) {
             CopyBlockToMemory(program);
             program.editing.BlockCopyHeld = true;
             ClearSelectedAreas(program);

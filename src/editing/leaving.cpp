@@ -60,7 +60,7 @@ void txt_LostFocus(Program& program, PageId page, int index) {
         txt_Change(program, page, index);
         Area(program, page, index).BackColor = colors::kResting;
     }
-    if (IsAmountLimit(geometry::LimitText(area.Tag))) {
+    if (IsAmountLimit(geometry::LimitOf(area.Tag))) {
         modTotals::LeaveAmount(program, page, index);
         if (modTotals::IsNoNumber(program, area)) {
             area.BackColor = colors::kOverLimit; // what counts as nothing is seen wherever the person is

@@ -140,7 +140,7 @@ void LayLines(Program& program) {
     format.FormatOpen = true;
     program.document.WindowTitle = "Quillbrook - Format File = " + format.FormatName;
     ParseFormatFile(program);
-    modDesigner::LoadBaseLabels(program);
+    modDesigner::SaveBaseLabels(program);
     LayBoldAgain(program);
     modLogo::LayPendingLogo(program);
     TakeFormatFigures(program);
@@ -165,7 +165,7 @@ void ParseFormatFile(Program& program) {
         modPages::ApplyPageFonts(program);
         PaintAreasAnew(program);
     }
-    modDesigner::LoadBaseLabels(program);
+    modDesigner::SaveBaseLabels(program);
 }
 
 void OpenFormatFile(Program& program) {

@@ -193,7 +193,7 @@ FormatSave SaveSteps(Program& program, const Name& name) {
     std::vector<std::string> linesBefore = format.FormatLines;
     const AfterLast after = AssignFormatPropChanges(program, *texts);
     TellUnkeptFormat(program);
-    modDesigner::LoadBaseLabels(program);
+    modDesigner::SaveBaseLabels(program);
     if (!Written(program, path, name.Asked)) {
         format.FormatLines = std::move(linesBefore);
         return FormatSave::NotSaved;

@@ -215,7 +215,7 @@ void ParsePropertyFile(Program& program) {
     modPages::ApplyPageFonts(program);
     PaintAreasAnew(program);
     TakeTitles(program);
-    modDesigner::LoadBaseLabels(program);
+    modDesigner::SaveBaseLabels(program);
 }
 
 } // namespace modFormat

@@ -331,7 +331,7 @@ void ApplyPageDefaults(Program& program, PageId page) {
         FinalPageDefaults(program, record);
     }
     if (IndexOf(page) < kEditedPageCount) {
-        LoadBaseLabels(program, page);
+        SaveBaseLabels(program, page);
     }
 }
 

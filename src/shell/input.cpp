@@ -295,7 +295,7 @@ void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength
     ShowCaret(program);
 }
 
-void FieldMouseDown(Program& program, const FieldRef& field, int button, int shift, int selStart,
+void FieldMouseDown(Program& program, const FieldRef& field, int button, int selStart,
                     int selLength) {
     if (field.Page == PageId::frmP6_1) {
         return;
@@ -309,7 +309,7 @@ void FieldMouseDown(Program& program, const FieldRef& field, int button, int shi
     modFields::GiveFocus(program, field);
     PutCursor(program, field, selStart, selLength);
     if (IsText(field)) {
-        modText::txt_MouseDown(program, field.Page, field.Index, button, shift);
+        modText::txt_MouseDown(program, field.Page, field.Index, button);
     }
     ShowCaret(program);
 }

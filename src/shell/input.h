@@ -47,7 +47,7 @@ void CursorMoved(Program& program, const FieldRef& field, int selStart, int selL
 void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength);
 
 /// A field was clicked (focus first, then MouseDown), or reached by other means than the model's own.
-void FieldMouseDown(Program& program, const FieldRef& field, int button, int shift, int selStart,
+void FieldMouseDown(Program& program, const FieldRef& field, int button, int selStart,
                     int selLength);
 void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int selLength);
 /// Twice in a row; `position` is the character position that was meant.

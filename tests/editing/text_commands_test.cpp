@@ -204,7 +204,7 @@ TEST(Bold, ReturnsTheFocusAndTheMenusTargetIsTheAreaClicked) {
     BlockRun run;
     Typist typist(run.program);
     typist.Click(kSecond, 4);
-    modText::txt_MouseDown(run.program, kSecond, 9, 2, 0);
+    modText::txt_MouseDown(run.program, kSecond, 9, 2);
     modFields::DropFocus(run.program);
     run.Choose(CommandId::mnuEditTextBold);
     EXPECT_TRUE(run.Area(kSecond, 9).FontBold);

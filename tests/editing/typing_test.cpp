@@ -473,10 +473,10 @@ TEST(Status, FollowsAPressOfTheMouse) {
     RunningProgram run;
     PutText(run, kSecond, 5, "abcdef");
     person::TurnTo(run.program, 1);
-    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 4, 0);
+    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 4, 0);
     EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 4");
     EXPECT_EQ(run.program.main.lblTextPos.Caption, "Printer Text Position = 400.");
-    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 0, 0);
+    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 0);
     EXPECT_EQ(run.program.main.lblTextPos.Caption, "Printer Text Position = .");
 }
 
@@ -560,7 +560,7 @@ TEST(Focus, IsNeverTakenByTheClientsCopy) {
     RunningProgram run;
     person::TurnTo(run.program, 6);
     const auto before = run.program.main.Focus;
-    person::FieldMouseDown(run.program, {PageId::frmP6_1, FieldKind::txt, 1}, 1, 0, 0, 0);
+    person::FieldMouseDown(run.program, {PageId::frmP6_1, FieldKind::txt, 1}, 1, 0, 0);
     EXPECT_EQ(run.program.main.Focus, before);
     EXPECT_EQ(run.program.main.CurrentPage, 0);
 }
