@@ -15,6 +15,6 @@ namespace modCalendar {
 
 /// Moves every proposal that was moved away back to its name; says so when there is none. False then. Reports
 /// as "mnuOptUndoDelete_Click".
-[[nodiscard]] bool RestoreFromBackup(Program& program);
+[[nodiscard]] bool RestoreFromBackup(const Program& program);
 
 } // namespace modCalendar

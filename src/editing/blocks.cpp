@@ -17,7 +17,7 @@ namespace modBlocks {
 
 namespace {
 
-void Tell(Program& program, std::string_view words) {
+void Tell(const Program& program, std::string_view words) {
     program.platform.questions.MsgBox(words, Buttons::Ok, "");
 }
 
@@ -112,7 +112,7 @@ std::string PlaceOf(const PasteTarget& target) {
     return "The texts of " + std::string(geometry::PageCaption(target.Page)) + lines;
 }
 
-bool MayWrite(Program& program, const PasteTarget& target) {
+bool MayWrite(const Program& program, const PasteTarget& target) {
     if (target.Last > RowsOf(target.Page).Last || target.LastAmount > geometry::LastText(target.Page)) {
         Tell(program, "Cannot paste here. Out of space.");
         return false;

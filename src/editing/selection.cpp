@@ -298,7 +298,7 @@ void FinishMove(Program& program) {
     }
 }
 
-void TellMoveFailed(Program& program) {
+void TellMoveFailed(const Program& program) {
     program.platform.questions.MsgBox("Error encountered during Move Process.", Buttons::Ok, "");
 }
 

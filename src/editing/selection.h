@@ -55,6 +55,6 @@ void DeSelectAllControls(Program& program);
 /// Ends a move whose key was not let go: its page's handlers run. A failure is told and goes no further.
 void FinishMove(Program& program);
 /// The message of a move that failed.
-void TellMoveFailed(Program& program);
+void TellMoveFailed(const Program& program);
 
 } // namespace modBlocks

@@ -32,11 +32,11 @@ namespace {
 constexpr std::string_view kExtension = ".fmt";
 constexpr int kSubscript = 9; // as the log numbers an index beyond its list
 
-void Tell(Program& program, std::string_view words) {
+void Tell(const Program& program, std::string_view words) {
     program.platform.questions.MsgBox(words, Buttons::Ok, "");
 }
 
-bool Confirmed(Program& program, std::string_view question, const std::string& lost) {
+bool Confirmed(const Program& program, std::string_view question, const std::string& lost) {
     return program.platform.questions.MsgBox(question, Buttons::YesNo, "",
                                              {.Default = Answer::No, .Lost = lost}) == Answer::Yes;
 }
@@ -103,7 +103,7 @@ bool HoldsClientData(const Program& program) {
     return false;
 }
 
-std::optional<Texts> SettleTexts(Program& program) {
+std::optional<Texts> SettleTexts(const Program& program) {
     if (!HoldsClientData(program)) {
         return Texts::LayoutAndTexts;
     }

@@ -56,7 +56,7 @@ void frmTextProps::CheckDefaultFontColor(const Program& program) {
     }
 }
 
-void frmTextProps::ShowFont(Program& program) {
+void frmTextProps::ShowFont(const Program& program) {
     const RunState& run = program.run;
     lblFontName.Caption = "Current Font Name = " + run.DefaultFontName;
     const auto found = std::find(lstFont.Items.begin(), lstFont.Items.end(), run.DefaultFontName);

@@ -41,7 +41,7 @@ public:
     void cmdDefault_Click(Program& program);
 
     /// The controls and the sample show the font in force.
-    void ShowFont(Program& program);
+    void ShowFont(const Program& program);
 
 private:
     void CheckDefaultFontSize(const Program& program);

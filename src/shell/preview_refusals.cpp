@@ -32,7 +32,7 @@ bool RefusedInPreview(const Program& program, CommandId id) {
     return modPrint::PreviewStands(program) && Edits(id);
 }
 
-bool RefuseInPreview(Program& program, CommandId id) {
+bool RefuseInPreview(const Program& program, CommandId id) {
     if (!RefusedInPreview(program, id)) {
         return false;
     }
