@@ -22,7 +22,7 @@ BENCHMARK(ExportOfAFullProposalToText)->Unit(benchmark::kMicrosecond);
 /// What it may take three times: the same bytes written the same safe way.
 void RawWriteOfTheSameText(benchmark::State& state) {
     FullProposal full;
-    modPrint::CountPagesInUse(full.program);
+    modPageCount::CountPagesInUse(full.program);
     const std::string text = modExport::ProposalText(full.program);
     const std::string path = full.folder / "Proposals/Raw.txt";
     for (auto _ : state) {

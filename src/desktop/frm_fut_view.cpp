@@ -142,7 +142,7 @@ FrmFutView::FrmFutView(Program& program, frmFUT& window, QWidget* over, std::fun
 }
 
 FrmFutView::~FrmFutView() {
-    placed_ = false; // what follows is no place of the person's
+    stands_ = Stands::Unplaced; // what follows is no place of the person's
     if (dock_ != nullptr) {
         for (QObject* part : dock_->findChildren<QObject*>()) {
             part->disconnect(this);
@@ -277,12 +277,12 @@ bool FrmFutView::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void FrmFutView::Open() {
-    waiting_ = true;
+    stands_ = Stands::Waiting;
     Follow();
 }
 
 void FrmFutView::Leave() {
-    placed_ = false;
+    stands_ = Stands::Unplaced;
     dock_->hide();
 }
 
@@ -327,13 +327,13 @@ QRect FrmFutView::FirstPlace() const {
 }
 
 void FrmFutView::KeepPlaceSoon() {
-    if (placed_) {
+    if (stands_ == Stands::Placed) {
         resting_.start();
     }
 }
 
 void FrmFutView::KeepSide() {
-    if (!placed_) {
+    if (stands_ != Stands::Placed) {
         return;
     }
     const frmFUT::Side before = model_.Docked;
@@ -353,7 +353,8 @@ void FrmFutView::KeepSide() {
 
 void FrmFutView::KeepPlace() {
     resting_.stop();
-    if (!placed_ || !dock_->isFloating() || model_.Docked != frmFUT::Side::None || model_.Minimised) {
+    if (stands_ != Stands::Placed || !dock_->isFloating() || model_.Docked != frmFUT::Side::None ||
+        model_.Minimised) {
         return; // the place is that of the floating window
     }
     const float twips = static_cast<float>(1 / PixelsPerTwip());
@@ -417,7 +418,7 @@ void FrmFutView::Follow() {
         (model_.lstMoreFUT.Visible ? static_cast<QWidget*>(lists_) : terms_)->setFocus();
     }
     if (body_->isHidden() != model_.Minimised) {
-        if (placed_ && model_.Minimised && dock_->isFloating()) {
+        if (stands_ == Stands::Placed && model_.Minimised && dock_->isFloating()) {
             // It comes back as high as it is, which its parts may have made higher than its place.
             model_.Height = static_cast<float>(dock_->height() / PixelsPerTwip());
         }
@@ -431,8 +432,8 @@ void FrmFutView::Follow() {
         }
     }
     restore_->setVisible(model_.Minimised);
-    if (waiting_ && program_.main.Loaded && parentWidget()->isVisible()) {
-        waiting_ = false; // the page has come first
+    if (stands_ == Stands::Waiting && program_.main.Loaded && parentWidget()->isVisible()) {
+        stands_ = Stands::Unplaced; // the page has come first
         ShowFirst();
     }
 }
@@ -441,7 +442,7 @@ void FrmFutView::ShowFirst() {
     const QRect place = FirstPlace();
     dock_->show();
     dock_->setGeometry(place); // a dock that shows for the first time takes a place of its own
-    placed_ = true;
+    stands_ = Stands::Placed;
     // The whole window's place, which it gets back when it is restored.
     const float twips = static_cast<float>(1 / PixelsPerTwip());
     model_.Left = static_cast<float>(place.x()) * twips;

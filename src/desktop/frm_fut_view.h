@@ -122,7 +122,8 @@ private:
     QAction* default_ = nullptr;
     QTimer resting_;
     int version_ = -1;
-    bool waiting_ = false; ///< open, and not shown before the page is
-    bool placed_ = false;
+    /// Open, it is not shown before the page is. Once it has its place, a person's moves are kept.
+    enum class Stands { Unplaced, Waiting, Placed };
+    Stands stands_ = Stands::Unplaced;
     bool following_ = false;
 };

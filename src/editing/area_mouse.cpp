@@ -42,7 +42,7 @@ void txt_MouseDown(Program& program, PageId page, int index, int button) {
     // The menu takes the keyboard: the area is left as by any other way, and entered again when the menu
     // goes.
     modFields::DropFocus(program);
-    modBlocks::UpdateTextMenu(program);
+    modTextMenu::UpdateTextMenu(program);
     program.platform.events.LetEventsRun();
     editing.CurrentArea = index;
 }

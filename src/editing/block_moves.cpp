@@ -118,7 +118,7 @@ void MoveByMenu(Program& program, const Way& way) {
     TellingOfFailure(program, [&] {
         MoveRuns(program, way);
         FinishMove(program);
-        UpdateTextMenu(program);
+        modTextMenu::UpdateTextMenu(program);
     });
 }
 
@@ -148,7 +148,7 @@ void MoveBlockByKey(Program& program, int keyCode) {
 void Form_KeyUp(Program& program) {
     if (program.editing.MoveInProgress) {
         FinishMove(program);
-        UpdateTextMenu(program);
+        modTextMenu::UpdateTextMenu(program);
     }
 }
 

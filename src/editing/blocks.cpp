@@ -153,7 +153,7 @@ void CopyBlock(Program& program) {
         CopyBlockToMemory(program);
         program.editing.BlockCopyHeld = true;
     }
-    UpdateTextMenu(program);
+    modTextMenu::UpdateTextMenu(program);
 }
 
 void DeleteBlock(Program& program) {
@@ -163,7 +163,7 @@ void DeleteBlock(Program& program) {
             ClearSelectedAreas(program);
             EndMode(program);
         }
-        UpdateTextMenu(program);
+        modTextMenu::UpdateTextMenu(program);
     });
 }
 
@@ -175,7 +175,7 @@ void CutBlock(Program& program) {
             program.editing.BlockCopyHeld = true;
             ClearSelectedAreas(program);
         }
-        UpdateTextMenu(program);
+        modTextMenu::UpdateTextMenu(program);
     });
     if (!done) {
         Tell(program, "An error occurred while cutting text.");
@@ -199,7 +199,7 @@ void UndoDeleteBlock(Program& program) {
     CountPage(program, block.UndoPage);
     block.UndoMemory.clear();
     program.editing.UndoAvailable = false;
-    UpdateTextMenu(program);
+    modTextMenu::UpdateTextMenu(program);
 }
 
 void PasteBlock(Program& program) {
@@ -215,7 +215,7 @@ void PasteBlock(Program& program) {
     if (MayWrite(program, target)) {
         WriteMemory(program, target);
     }
-    UpdateTextMenu(program);
+    modTextMenu::UpdateTextMenu(program);
 }
 
 } // namespace modBlocks

@@ -34,7 +34,7 @@ void txt_GotFocus(Program& program, PageId page, int index) {
         modAreaColours::ColourArea(program, page, area);
     }
     if (editing.BlockMode) {
-        modBlocks::UpdateTextMenu(program);
+        modTextMenu::UpdateTextMenu(program);
     }
     modStatus::ShowAreaNumber(program, page, index);
 }

@@ -99,7 +99,7 @@ void TakeRuns(Program& program) {
     if (ReadOrRefuseSelection(program) == Selection::Runs) {
         CopyBlockToMemory(program);
     }
-    UpdateTextMenu(program);
+    modTextMenu::UpdateTextMenu(program);
 }
 
 void RefuseAmountsAlone(Program& program) {
@@ -280,7 +280,7 @@ void DeSelectAllControls(Program& program) {
         editing.RefireMode = false;
         ShowModeSign(program, ModeSign::Hidden);
         FinishMove(program);
-        UpdateTextMenu(program);
+        modTextMenu::UpdateTextMenu(program);
     });
 }
 

@@ -141,7 +141,7 @@ void TakeAsSaved(Program& program) {
             format.InFile[page][index] = {area.FontBold, area.Text};
         }
     }
-    format.FontOfFile = FontInForce(program);
+    format.FontOfFile = modLineEffects::FontInForce(program);
     format.LogoChanged = false;
     format.Touched = false;
 }
@@ -192,7 +192,7 @@ FormatSave SaveSteps(Program& program, const Name& name) {
     }
     std::vector<std::string> linesBefore = format.FormatLines;
     const AfterLast after = AssignFormatPropChanges(program, *texts);
-    TellUnkeptFormat(program);
+    modUnkept::TellUnkeptFormat(program);
     modDesigner::SaveBaseLabels(program);
     if (!Written(program, path, name.Asked)) {
         format.FormatLines = std::move(linesBefore);

@@ -52,9 +52,9 @@ private:
     AreaFont before_;
 };
 
-namespace modFormat {
+namespace modAreaFont {
 
 /// "Edit All Text Area Fonts".
 void mnuEditAllTextFonts_Click(Program& program);
 
-} // namespace modFormat
+} // namespace modAreaFont

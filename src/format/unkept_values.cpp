@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace modFormat {
+namespace modUnkept {
 
 namespace {
 
@@ -81,4 +81,4 @@ void TellUnkeptProperties(const Program& program) {
     finds.Tell(program);
 }
 
-} // namespace modFormat
+} // namespace modUnkept

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <string>
 
-namespace modPrint {
+namespace modPageCount {
 
 namespace {
 
@@ -70,4 +70,4 @@ void SetPageNumbers(Program& program) {
     program.document.PagesNumbered = used;
 }
 
-} // namespace modPrint
+} // namespace modPageCount

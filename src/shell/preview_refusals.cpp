@@ -29,7 +29,7 @@ bool Edits(CommandId id) {
 } // namespace
 
 bool RefusedInPreview(const Program& program, CommandId id) {
-    return modPrint::PreviewStands(program) && Edits(id);
+    return modPreview::PreviewStands(program) && Edits(id);
 }
 
 bool RefuseInPreview(const Program& program, CommandId id) {

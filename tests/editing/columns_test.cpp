@@ -80,13 +80,13 @@ TEST(ColumnsCommand, OnTheAreaBeforeTheLinesOfTheClientPageIsOfferedAndDoesNothi
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kFirst, 9);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_TRUE(run.program.main[CommandId::mnuEditTextColumns].Enabled);
     const TextArea before = run.Area(kFirst, 9);
     person::Choose(run.program, CommandId::mnuEditTextColumns);
     EXPECT_EQ(run.Area(kFirst, 9), before);
     typist.Click(kFirst, 8);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_FALSE(run.program.main[CommandId::mnuEditTextColumns].Enabled);
 }
 
@@ -94,11 +94,11 @@ TEST(ColumnsCommand, SaysWhatItWillDo) {
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kSecond, 4);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Add Columns");
     person::Choose(run.program, CommandId::mnuEditTextColumns);
     typist.Click(kSecond, 4);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Remove Columns");
 }
 

@@ -705,7 +705,7 @@ TEST(TaxMarks, SetByTheMenuChangeTheTotalAtOnce) {
     typist.Type("100");
     typist.Click(kSecond, 34);
     typist.Click(kSecond, 33);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_TRUE(run.program.main[CommandId::mnuEditTextTaxExempt].Enabled);
     modColumns::mnuEditTextTaxExempt_Click(run.program);
     EXPECT_TRUE(run.program.pages[kSecond].imgNoTax[33].Visible);
@@ -719,7 +719,7 @@ TEST(TaxMarks, SetByTheMenuChangeTheTotalAtOnce) {
     modColumns::mnuEditTextTaxable_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
     typist.Click(kSecond, 0);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_FALSE(run.program.main[CommandId::mnuEditTextTaxExempt].Enabled);
 }
 

@@ -306,7 +306,7 @@ private:
             }
         } else if (chance < 66) {
             Click(AnAmount());
-            modBlocks::UpdateTextMenu(program_);
+            modTextMenu::UpdateTextMenu(program_);
             Chance(60) ? Run(CommandId::mnuEditTextTaxExempt, "make exempt")
                        : Run(CommandId::mnuEditTextTaxable, "make taxable");
         } else if (chance < 69) {
