@@ -107,6 +107,10 @@ private:
     void FollowMoreLists();
     void FollowButtons();
     [[nodiscard]] double PixelsPerTwip() const;
+    [[nodiscard]] int Pixels(float twips) const;
+    [[nodiscard]] float Twips(int pixels) const;
+    /// The model keeps a place on the screen.
+    void TakePlace(const QRect& place);
 
     frmFUT& model_;
     QPointer<TermsDock> dock_; ///< gone before the view when the main window goes

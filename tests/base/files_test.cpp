@@ -1,13 +1,12 @@
 #include "base/files.h"
 #include "support/scratch_folder.h"
+#include "support/small_disk.h"
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <functional>
 #include <string>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -103,15 +102,8 @@ TEST(Files, AReadOnlyFileIsDeletedAfterItsAttributeWasCleared) {
 
 TEST(Files, AFullDiskIsToldOf) {
     const ScratchFolder folder;
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    rlimit small = before;
-    small.rlim_cur = 1000;
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    const int number = NumberOf([&] { files::WriteWhole(folder / "a", std::string(5000, 'x')); });
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
-    EXPECT_EQ(number, files::kDiskFull);
+    const SmallDisk disk(1000);
+    EXPECT_EQ(NumberOf([&] { files::WriteWhole(folder / "a", std::string(5000, 'x')); }), files::kDiskFull);
 }
 
 TEST(Files, AppendAndRenameAndCopy) {
