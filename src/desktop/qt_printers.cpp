@@ -41,6 +41,9 @@ public:
         : QFileDialog(parent, QObject::tr("Print to PDF"), folder, QObject::tr("PDF (*.pdf)")) {
         setAcceptMode(QFileDialog::AcceptSave);
         setOption(QFileDialog::DontConfirmOverwrite);
+        // Whoever wants a file on paper does not want the Delete key to take another one, or a whole folder,
+        // away.
+        setOption(QFileDialog::ReadOnly);
     }
 
     [[nodiscard]] QString File() const { return selectedFiles().value(0); }

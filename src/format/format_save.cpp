@@ -118,7 +118,12 @@ std::optional<Texts> SettleTexts(const Program& program) {
 }
 
 std::string BytesOf(const std::vector<std::string>& lines) {
+    std::size_t size = 0;
+    for (const std::string& line : lines) {
+        size += line.size() + text::kCrLf.size();
+    }
     std::string bytes;
+    bytes.reserve(size);
     for (const std::string& line : lines) {
         bytes += line;
         bytes += text::kCrLf;

@@ -93,6 +93,23 @@ bool ColumnsOn(const Program& program, PageId page, int row) {
            record.txtQty[static_cast<std::size_t>(row)].Visible;
 }
 
+bool IsBlankRow(const Page& page, int row) {
+    const auto at = static_cast<std::size_t>(row);
+    const auto amount = static_cast<std::size_t>(geometry::AmountOf(page.Id, row));
+    if (!geometry::IsDescription(page.Id, row) || at >= page.txtQty.size() || at >= page.txtAmt.size() ||
+        amount >= page.txt.size() || page.txtQty[at].Tag == kHide) {
+        return false;
+    }
+    const auto empty = [](const TextArea& area) { return text::Trim(area.Text).empty(); };
+    return empty(page.txtQty[at]) && empty(page.txt[at]) && empty(page.txtAmt[at]) && empty(page.txt[amount]);
+}
+
+bool IsBlankRow(std::string_view line) {
+    const QuantityRow row = SplitLine(line);
+    return row.IsRow && text::Trim(row.Quantity).empty() && text::Trim(row.Description).empty() &&
+           text::Trim(row.Amount).empty();
+}
+
 void EnsureRowFields(Program& program, PageId page) {
     Page& record = program.pages[page];
     if (record.RowFieldsMade || !IsLinePage(page)) {

@@ -82,7 +82,7 @@ void NoteKeyDown(Program& program, int keyCode) {
     typed.Codes.reset(TypedKeys::PlaceOf(keyCode));
 }
 
-void NoteTyped(Program& program, const FieldRef& field) {
+void NoteTyped(Program& program, const FieldRef& field, int cursor) {
     TypedKeys& typed = program.editing.Typed;
     if (!typed.Character) {
         return;
@@ -92,7 +92,9 @@ void NoteTyped(Program& program, const FieldRef& field) {
         typed.Codes.reset();
         typed.Field = field;
     }
-    typed.Codes.set(TypedKeys::PlaceOf(typed.KeyDown));
+    const std::size_t place = TypedKeys::PlaceOf(typed.KeyDown);
+    typed.Codes.set(place);
+    typed.Behind[place] = cursor;
 }
 
 void PutCursor(Program& program, const FieldRef& field, int selStart, int selLength) {
@@ -190,7 +192,7 @@ bool MayEdit(const Program& program, const FieldRef& field) {
 }
 
 void Edited(Program& program, const FieldRef& field, std::string_view text, int selStart, int selLength) {
-    NoteTyped(program, field);
+    NoteTyped(program, field, selStart);
     modFields::TypeText(program, field, text, selStart, selLength);
     ShowCaret(program);
     ShowTypingField(program);

@@ -41,7 +41,7 @@ void AddTermFromArea(Program& program) {
 void mnuEditTextEditFUT_Click(Program& program) {
     const std::string selection = Selection(program);
     if (!selection.empty()) {
-        modWindows::Show(program, std::make_unique<frmEditFUT>(std::string(text::Trim(selection))));
+        modWindows::Show(program, std::make_unique<frmEditFUT>(TermLine{std::string(text::Trim(selection))}));
     }
 }
 
@@ -53,7 +53,7 @@ void mnuEditTextDeleteFUT_Click(Program& program) {
     if (line.empty() || (!there && program.terms.ReadWhole)) {
         return;
     }
-    static_cast<void>(RemoveTerm(program, line));
+    static_cast<void>(RemoveTerm(program, {line}));
     FollowWindow(program);
 }
 

@@ -99,7 +99,7 @@ void frmFUT::cmdOpt_Click(Program& program, int index) {
     } else if (index == kRemove) {
         Remove(program);
     } else if (const std::optional<std::string> term = Selected(program)) {
-        modWindows::Show(program, std::make_unique<frmEditFUT>(*term));
+        modWindows::Show(program, std::make_unique<frmEditFUT>(modTerms::TermLine{*term, lstFUT.ListIndex}));
     } else {
         Tell(program, "Nothing selected to edit.");
     }
@@ -111,7 +111,7 @@ void frmFUT::Remove(Program& program) {
         Tell(program, "Nothing selected to remove.");
         return;
     }
-    static_cast<void>(modTerms::RemoveTerm(program, *term));
+    static_cast<void>(modTerms::RemoveTerm(program, {*term, lstFUT.ListIndex}));
     FollowList(program);
 }
 

@@ -10,6 +10,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -319,6 +320,29 @@ TEST(PdfFile, KeepsTheWholeNameOfAClientWithANickname) {
     EXPECT_TRUE(person.Answer(person.folder / "Robert \"Bob\" Smith.pdf", QString(), QMessageBox::No));
     person.Print();
     EXPECT_TRUE(person.folder.Has("Robert 'Bob' Smith.pdf"));
+}
+
+TEST(PdfFile, NothingIsDeletedInTheWindowThatAsksForIt) {
+    PdfQuestion person;
+    person.folder.Write("Jane Roe.pdf", "an older proposal");
+    QTimer::singleShot(0, [] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        auto* list = dialog->findChild<QListView*>(QStringLiteral("listView"));
+        ASSERT_NE(list, nullptr);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == 1; }));
+        list->setCurrentIndex(list->model()->index(0, 0, list->rootIndex()));
+        QTimer::singleShot(0, [] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); box != nullptr) {
+                box->button(QMessageBox::Yes)->click();
+            }
+        });
+        QTest::keyClick(list, Qt::Key_Delete);
+        QCoreApplication::processEvents();
+        dialog->reject();
+    });
+    EXPECT_FALSE(person.printers.BeginCommand({person.folder / "x.pdf"}));
+    EXPECT_EQ(person.folder.Read("Jane Roe.pdf"), "an older proposal");
 }
 
 TEST(Printing, TellsOfAFileThatCannotBeWritten) {
