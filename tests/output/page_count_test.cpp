@@ -50,10 +50,10 @@ TEST(PagesInUse, ARowWithColumnsAndNothingInThemIsNoLine) {
     RunningProgram run;
     SetLine(run, PageId::frmP1, 0, "x");
     SetLine(run, PageId::frmP5, 3, "\xA5\xA5\xA7");
-    modPrint::CountPagesInUse(run.program);
+    modPageCount::CountPagesInUse(run.program);
     EXPECT_EQ(run.program.document.PagesInUse, 2);
     SetLine(run, PageId::frmP5, 3, "\xA5Qty.\xA5\xA7Amt.");
-    modPrint::CountPagesInUse(run.program);
+    modPageCount::CountPagesInUse(run.program);
     EXPECT_EQ(run.program.document.PagesInUse, 6);
 }
 
