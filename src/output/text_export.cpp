@@ -88,7 +88,7 @@ private:
 
 void TakeFigures(Program& program) {
     modFigures::TakeFresh(program);
-    modColumns::CollectQtyBoxes(program);
+    modColumns::CollectLines(program);
     modPageCount::CountPagesInUse(program);
     if (!program.totals.TotalsHidden && modTotals::TotalsDiffer(program)) {
         program.totals.TotalsStale = true;
