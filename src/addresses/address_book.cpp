@@ -90,7 +90,7 @@ void KeepAsNew(Program& program, AddressWindow& window) {
     book.AddressSaveCancelled = true;
 }
 
-bool RefusedAsEmpty(Program& program, AddressWindow& window, const AddressFields& fields) {
+bool RefusedAsEmpty(const Program& program, AddressWindow& window, const AddressFields& fields) {
     if (text::Trim(fields[kNameField]).empty()) {
         Tell(program, "Cannot save record... no name given.");
         WantFocus(window, kNameField);

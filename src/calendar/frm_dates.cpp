@@ -186,7 +186,7 @@ void frmDates::lstDates_DblClick(Program& program) {
     Choose(program, "mnuFileOpen");
 }
 
-void frmDates::PickDay(Program& program, int day) {
+void frmDates::PickDay(const Program& program, int day) {
     ShadedDay = day;
     const std::vector<EventRow>& rows = program.calendar.Rows;
     const auto found =

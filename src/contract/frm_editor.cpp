@@ -58,7 +58,7 @@ void frmEditor::LoadMyControls(Program& program) {
     chkItalic.Value = font.Italic;
 }
 
-void frmEditor::LoadCharacterEditor(Program& program) {
+void frmEditor::LoadCharacterEditor(const Program& program) {
     txtCharCount.SetFont(program.platform.measure, modContract::FontOfLabels(program));
     txtCharCount.SetText(modContract::TextOfLabels(program));
     ++Revision;
@@ -77,14 +77,14 @@ void frmEditor::ShowPosition() {
                            std::to_string(Shown().Text().size()) + " characters.";
 }
 
-bool frmEditor::RefusedWhileCounting(Program& program) const {
+bool frmEditor::RefusedWhileCounting(const Program& program) const {
     if (ShowingLineCount) {
         program.platform.questions.MsgBox("Please click \"Resume Editing\" first.", Buttons::Ok, "");
     }
     return ShowingLineCount;
 }
 
-void frmEditor::TakeFont(Program& program, const TextFont& font) {
+void frmEditor::TakeFont(const Program& program, const TextFont& font) {
     if (font == txtCharCount.Font()) {
         return;
     }
@@ -184,14 +184,14 @@ void frmEditor::ReplaceAll(std::string_view text) {
     ShowPosition();
 }
 
-void frmEditor::ReplaceLinefeeds(Program& program) {
+void frmEditor::ReplaceLinefeeds(const Program& program) {
     if (RefusedWhileCounting(program) || ContractLineCount == 0) {
         return;
     }
     ReplaceAll(modContract::WithoutDoubleLineFeeds(txtCharCount.Text()));
 }
 
-void frmEditor::ParseTextStrings(Program& program) {
+void frmEditor::ParseTextStrings(const Program& program) {
     if (RefusedWhileCounting(program)) {
         return;
     }

@@ -27,7 +27,7 @@ int ThisYear(const Program& program) {
     return dates::ToCalendar(program.platform.clock.Now()).Year;
 }
 
-void Tell(Program& program, std::string_view words) {
+void Tell(const Program& program, std::string_view words) {
     program.platform.questions.MsgBox(words, Buttons::Ok, "");
 }
 
@@ -87,7 +87,7 @@ std::string frmDeposits::Signed(const Program& program, std::string_view figure)
     return program.settings.CurrencySymbol + " " + std::string(figure);
 }
 
-void frmDeposits::Load(Program& program) {
+void frmDeposits::Load(const Program& program) {
     file_ = modSideFile::Read(program, DepositFile(program), "SaveDepositInfo");
     Locked = file_.Locked;
     if (Locked || !file_.There) {
@@ -112,7 +112,7 @@ void frmDeposits::Load(Program& program) {
     }
 }
 
-void frmDeposits::TellUnreadable(Program& program, int count) {
+void frmDeposits::TellUnreadable(const Program& program, int count) {
     if (count == 1) {
         Tell(program,
              "The amount of 1 deposit in the list cannot be read. It stays in the list and counts as 0.00.");
@@ -122,7 +122,7 @@ void frmDeposits::TellUnreadable(Program& program, int count) {
     }
 }
 
-void frmDeposits::Recompute(Program& program) {
+void frmDeposits::Recompute(const Program& program) {
     constexpr std::size_t kMost = std::numeric_limits<std::int16_t>::max();
     modDeposits::Sum sum = modDeposits::AddUp(lst.Items);
     DepositRows = static_cast<std::int16_t>(static_cast<int>(std::min(lst.Items.size(), kMost)) - 1);
@@ -225,7 +225,7 @@ void frmDeposits::cmdSave_Click(Program& program) {
     static_cast<void>(AddOrReplace(program));
 }
 
-frmDeposits::Added frmDeposits::AddOrReplace(Program& program) {
+frmDeposits::Added frmDeposits::AddOrReplace(const Program& program) {
     if (Locked || !touched_ || txtAmount.Text.empty()) {
         return Added::No;
     }
@@ -339,7 +339,7 @@ void frmDeposits::mnuOptFormat_Click() {
     entry.Caption = DepositFormatDates ? "Do Not Apply Date Formatting" : "Apply Date Formatting";
 }
 
-bool frmDeposits::SettlePendingAmount(Program& program) {
+bool frmDeposits::SettlePendingAmount(const Program& program) {
     if (Locked || !notAdded_ || txtAmount.Text.empty()) {
         return true;
     }

@@ -70,14 +70,14 @@ protected:
 
 private:
     enum class Added { Yes, No };
-    [[nodiscard]] Added AddOrReplace(Program& program);
+    [[nodiscard]] Added AddOrReplace(const Program& program);
     /// An amount that was typed and not added: Add it? False on Cancel, or when it could not be added.
-    [[nodiscard]] bool SettlePendingAmount(Program& program);
+    [[nodiscard]] bool SettlePendingAmount(const Program& program);
     [[nodiscard]] std::string DepositFile(const Program& program) const;
     [[nodiscard]] std::string Signed(const Program& program, std::string_view figure) const;
-    void Load(Program& program);
-    void TellUnreadable(Program& program, int count);
-    void Recompute(Program& program);
+    void Load(const Program& program);
+    void TellUnreadable(const Program& program, int count);
+    void Recompute(const Program& program);
     void PutTotalIntoProposal(Program& program);
     void Refuse(EntryBox& box, std::string_view control, std::string_view why);
     void txtDate_LostFocus(Program& program);

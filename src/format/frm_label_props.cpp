@@ -61,7 +61,7 @@ void frmLabelProps::Form_Load(Program& program) {
     });
 }
 
-void frmLabelProps::ShowLabel(Program& program) {
+void frmLabelProps::ShowLabel(const Program& program) {
     const DesignerRecords& designer = program.designer;
     const LabelLook& edit = designer.LabelEdit;
     const bool group = modDesigner::MultipleLabelsSelected(program);

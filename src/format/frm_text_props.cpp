@@ -29,7 +29,7 @@ std::string_view SizeIn(std::string_view caption) {
 
 void frmTextProps::Form_Load(Program& program) {
     Caption = "Common Text Properties";
-    before_ = modFormat::FontInForce(program);
+    before_ = modLineEffects::FontInForce(program);
     lstFont.Items = program.run.FontList;
     for (std::size_t index = 0; index < kSizes.size(); ++index) {
         optFontSize[index].Caption = kSizes[index];
@@ -57,7 +57,7 @@ void frmTextProps::CheckDefaultFontColor(const Program& program) {
     }
 }
 
-void frmTextProps::ShowFont(Program& program) {
+void frmTextProps::ShowFont(const Program& program) {
     const RunState& run = program.run;
     lblFontName.Caption = "Current Font Name = " + run.DefaultFontName;
     const auto found = std::find(lstFont.Items.begin(), lstFont.Items.end(), run.DefaultFontName);
@@ -74,7 +74,7 @@ void frmTextProps::ShowSample(const Program& program) {
         "Sampling Text with " + run.DefaultFontName + ": " + numbers::PlainNumber(run.DefaultFontSize);
     // Going through another family makes one of the same name take hold afresh.
     SampleFont.Name = "Arial";
-    SampleFont = modFormat::FontInForce(program);
+    SampleFont = modLineEffects::FontInForce(program);
 }
 
 void frmTextProps::lstFont_Click(Program& program, int index) {
@@ -112,8 +112,8 @@ void frmTextProps::chkItalic_Click(Program& program) {
 }
 
 void frmTextProps::Apply(Program& program) {
-    modFormat::ApplyChosenFont(program, before_);
-    before_ = modFormat::FontInForce(program);
+    modAreaFont::ApplyChosenFont(program, before_);
+    before_ = modLineEffects::FontInForce(program);
 }
 
 void frmTextProps::cmdOK_Click(Program& program) {
@@ -144,10 +144,10 @@ void frmTextProps::Form_Unload(Program& program) {
     run.DefaultFontItalic = before_.Italic;
 }
 
-namespace modFormat {
+namespace modAreaFont {
 
 void mnuEditAllTextFonts_Click(Program& program) {
     modWindows::Show(program, std::make_unique<frmTextProps>());
 }
 
-} // namespace modFormat
+} // namespace modAreaFont

@@ -130,7 +130,7 @@ void ClientPageDefaults(Program& program, Page& page) {
     Put(page, geometry::TitleLabel(page.Id), 4860, kFooterTop, kTitleDefault);
 }
 
-void LinePageDefaults(Program& program, Page& page) {
+void LinePageDefaults(const Program& program, Page& page) {
     ResetAreas(page);
     ResetRowFields(page, "Qty.", "Amt.");
     ResetLabels(page, Weight::Bold);
@@ -216,7 +216,7 @@ void PlaceLines(const Program& program, Page& page) {
     }
 }
 
-void FinalPageDefaults(Program& program, Page& page) {
+void FinalPageDefaults(const Program& program, Page& page) {
     ResetAreas(page);
     ResetLabels(page, Weight::AsDesigned);
     const std::string& company = program.settings.CompanyName;
@@ -331,7 +331,7 @@ void ApplyPageDefaults(Program& program, PageId page) {
         FinalPageDefaults(program, record);
     }
     if (IndexOf(page) < kEditedPageCount) {
-        LoadBaseLabels(program, page);
+        SaveBaseLabels(program, page);
     }
 }
 

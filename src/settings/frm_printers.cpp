@@ -12,7 +12,7 @@ void frmPrinters::Form_Load(Program& program) {
     ListPrinters(program);
 }
 
-void frmPrinters::ListPrinters(Program& program) {
+void frmPrinters::ListPrinters(const Program& program) {
     const Printers& printers = program.platform.printers;
     cmbPrinters.Items = printers.Names();
     const auto current = std::find(cmbPrinters.Items.begin(), cmbPrinters.Items.end(), printers.Current());

@@ -17,7 +17,7 @@
 
 namespace {
 
-void Tell(Program& program, std::string_view message) {
+void Tell(const Program& program, std::string_view message) {
     program.platform.questions.MsgBox(message, Buttons::Ok, "");
 }
 
@@ -76,7 +76,7 @@ void frmFUT::Form_DblClick(Program& program) {
     Tell(program, PlaceText(*this));
 }
 
-void frmFUT::FollowList(Program& program) {
+void frmFUT::FollowList(const Program& program) {
     Caption = modTerms::ListName(program.run.FUTFileName);
     if (lstFUT.ListIndex >= program.terms.TermCount()) {
         lstFUT.ListIndex = program.terms.TermCount() - 1;

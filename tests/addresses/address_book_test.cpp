@@ -1,12 +1,11 @@
 #include "addresses/address_book.h"
 #include "addresses/address_run.h"
+#include "support/small_disk.h"
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <filesystem>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -24,27 +23,6 @@ std::string Padded(std::string_view name) {
     field.resize(40, ' ');
     return field;
 }
-
-/// Files beyond a size cannot be written while this stands, as on a full disk.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t size) {
-        ::getrlimit(RLIMIT_FSIZE, &found_);
-        handler_ = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{size, found_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() {
-        ::setrlimit(RLIMIT_FSIZE, &found_);
-        std::signal(SIGXFSZ, handler_);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit found_{};
-    void (*handler_)(int) = nullptr;
-};
 
 TEST(AddressBook, OpensOnThePersonalBookWithANewRecord) {
     AddressRun run;
@@ -301,7 +279,7 @@ TEST(AddressBook, ARecordThatDoesNotFitOnTheDiskIsCutOffAgain) {
     frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash"}) + std::string(100, 'x'));
     run.Type(0, "Ben Birch");
     {
-        const FullDisk full(520 + 200);
+        const SmallDisk disk(520 + 200);
         run.Questions().Expect("Disk full");
         window.cmdSave_Click(run.program);
     }
@@ -318,7 +296,7 @@ TEST(AddressBook, ARecordThatCannotBeWrittenInItsPlaceStandsAsItWas) {
     window.lstNames_Click(run.program, 1);
     run.Type(1, "5 Oak Road");
     {
-        const FullDisk full(520 + 100);
+        const SmallDisk disk(520 + 100);
         run.Questions().Expect("Disk full");
         window.cmdSave_Click(run.program);
     }
@@ -332,7 +310,7 @@ TEST(AddressBook, ADeleteThatCannotWriteItsCopyLeavesTheBook) {
     frmAddress& window = run.OpenWith(bytes);
     window.lstNames_Click(run.program, 1);
     {
-        const FullDisk full(700);
+        const SmallDisk disk(700);
         run.Questions().Expect("Delete this record?", Answer::Yes);
         run.Questions().Expect("Disk full");
         run.Run(Id::mnuFileDelete);

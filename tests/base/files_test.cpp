@@ -5,19 +5,18 @@
 #include "base/rows.h"
 #include "support/failing_disk.h"
 #include "support/scratch_folder.h"
+#include "support/small_disk.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <csignal>
 #include <functional>
 #include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -113,15 +112,8 @@ TEST(Files, AReadOnlyFileIsDeletedAfterItsAttributeWasCleared) {
 
 TEST(Files, AFullDiskIsToldOf) {
     const ScratchFolder folder;
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    rlimit small = before;
-    small.rlim_cur = 1000;
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    const int number = NumberOf([&] { files::WriteWhole(folder / "a", std::string(5000, 'x')); });
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
-    EXPECT_EQ(number, files::kDiskFull);
+    const SmallDisk disk(1000);
+    EXPECT_EQ(NumberOf([&] { files::WriteWhole(folder / "a", std::string(5000, 'x')); }), files::kDiskFull);
 }
 
 TEST(Files, AppendAndRenameAndCopy) {

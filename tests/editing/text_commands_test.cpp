@@ -11,7 +11,7 @@ namespace {
 
 constexpr PageId kFirst = BlockRun::kFirst;
 constexpr PageId kSecond = BlockRun::kSecond;
-using modBlocks::MenuRule;
+using modTextMenu::MenuRule;
 
 struct Line {
     CommandId Id;
@@ -48,7 +48,7 @@ MenuRule RuleOf(std::string_view word) {
 }
 
 TEST(TextMenu, FollowsThisTable) {
-    const auto table = modBlocks::TextMenuTable();
+    const auto table = modTextMenu::TextMenuTable();
     ASSERT_EQ(table.size(), std::size(kTable));
     for (std::size_t row = 0; row < table.size(); ++row) {
         const Line& line = kTable[row];
@@ -80,9 +80,9 @@ bool Says(MenuRule rule, BlockRun& run, PageId page, int index) {
     return false;
 }
 
-void ExpectStates(BlockRun& run, modBlocks::MenuState state, PageId page, int index) {
-    modBlocks::UpdateTextMenu(run.program);
-    for (const modBlocks::MenuRow& row : modBlocks::TextMenuTable()) {
+void ExpectStates(BlockRun& run, modTextMenu::MenuState state, PageId page, int index) {
+    modTextMenu::UpdateTextMenu(run.program);
+    for (const modTextMenu::MenuRow& row : modTextMenu::TextMenuTable()) {
         EXPECT_EQ(run.Enabled(row.Id), Says(row.In[static_cast<std::size_t>(state)], run, page, index))
             << "entry " << static_cast<int>(row.Id) << " of " << IndexOf(page) << "/" << index;
     }
@@ -92,7 +92,7 @@ TEST(TextMenu, IsInEveryStateOnEveryAreaAsTheTableSays) {
     BlockRun run;
     run.Area(kFirst, 12).FontBold = true;
     run.Area(kSecond, 33).FontBold = true;
-    const auto everyArea = [&](modBlocks::MenuState state, int selLength) {
+    const auto everyArea = [&](modTextMenu::MenuState state, int selLength) {
         for (const PageId page : kEditedPages) {
             run.program.main.ActivePage = page;
             for (int index = 0; index < static_cast<int>(run.program.pages[page].txt.size()); ++index) {
@@ -102,14 +102,14 @@ TEST(TextMenu, IsInEveryStateOnEveryAreaAsTheTableSays) {
             }
         }
     };
-    everyArea(modBlocks::MenuState::NothingSelected, 0);
-    everyArea(modBlocks::MenuState::OnlyTextSelected, 3);
+    everyArea(modTextMenu::MenuState::NothingSelected, 0);
+    everyArea(modTextMenu::MenuState::OnlyTextSelected, 3);
     run.program.run.FUTShown = true;
-    everyArea(modBlocks::MenuState::OnlyTextSelected, 3);
+    everyArea(modTextMenu::MenuState::OnlyTextSelected, 3);
     run.program.editing.BlockMode = true;
-    everyArea(modBlocks::MenuState::BoxesSelected, 3);
+    everyArea(modTextMenu::MenuState::BoxesSelected, 3);
     run.program.editing.BlockCopyHeld = true;
-    everyArea(modBlocks::MenuState::EnablePaste, 3);
+    everyArea(modTextMenu::MenuState::EnablePaste, 3);
     run.program.editing.BlockMode = false;
     run.program.editing.BlockCopyHeld = false;
 }
@@ -120,7 +120,7 @@ TEST(TextMenu, CaptionTellsWhatTheColumnsCommandWouldDo) {
     Typist typist(run.program);
     const auto captionAt = [&](PageId page, int index) {
         typist.Click(page, index);
-        modBlocks::UpdateTextMenu(run.program);
+        modTextMenu::UpdateTextMenu(run.program);
         return run.program.main[CommandId::mnuEditTextColumns].Caption;
     };
     EXPECT_EQ(captionAt(kSecond, 5), "Remove Columns");
@@ -205,7 +205,7 @@ TEST(Bold, ReturnsTheFocusAndTheMenusTargetIsTheAreaClicked) {
     BlockRun run;
     Typist typist(run.program);
     typist.Click(kSecond, 4);
-    modText::txt_MouseDown(run.program, kSecond, 9, 2, 0);
+    modText::txt_MouseDown(run.program, kSecond, 9, 2);
     modFields::DropFocus(run.program);
     run.Choose(CommandId::mnuEditTextBold);
     EXPECT_TRUE(run.Area(kSecond, 9).FontBold);

@@ -114,7 +114,7 @@ TEST(Mouse, AClickFocusesAndKeepsTheCursorOfTheWidget) {
     typist.Click(PageId::frmP1, 2);
     typist.Type("Jane Roe");
     typist.Click(PageId::frmP1, 3);
-    modInput::FieldMouseDown(run.program, {PageId::frmP1, FieldKind::txt, 2}, 1, 0, 4, 0);
+    modInput::FieldMouseDown(run.program, {PageId::frmP1, FieldKind::txt, 2}, 1, 4, 0);
     EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 2}));
     EXPECT_EQ(run.Area(PageId::frmP1, 2).SelStart, 4);
 }
