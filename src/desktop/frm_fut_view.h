@@ -110,6 +110,10 @@ private:
     void FollowMoreLists();
     void FollowButtons();
     [[nodiscard]] double PixelsPerTwip() const;
+    [[nodiscard]] int Pixels(float twips) const;
+    [[nodiscard]] float Twips(int pixels) const;
+    /// The model keeps a place on the screen.
+    void TakePlace(const QRect& place);
 
     frmFUT& model_;
     QPointer<TermsDock> dock_; ///< gone before the view when the main window goes
@@ -125,8 +129,9 @@ private:
     QAction* default_ = nullptr;
     QTimer resting_;
     int version_ = -1;
-    bool waiting_ = false; ///< open, and not shown before the page is
-    bool placed_ = false;
+    /// Open, it is not shown before the page is. Once it has its place, a person's moves are kept.
+    enum class Stands { Unplaced, Waiting, Placed };
+    Stands stands_ = Stands::Unplaced;
     QWidget* desk_ = nullptr;
     std::optional<QRect> free_; ///< where it stands free
     bool following_ = false;

@@ -96,7 +96,7 @@ FrmMainView::FrmMainView(Program& program, const QtTextMeasure& measure)
             AfterEvent();
         },
         [this] {
-            modBlocks::UpdateTextMenu(program_);
+            modTextMenu::UpdateTextMenu(program_);
             AfterEvent();
         });
     BuildStrips();
@@ -371,7 +371,7 @@ void FrmMainView::Follow() {
         }
     }
     for (QShortcut* key : endPreview_) {
-        key->setEnabled(modPrint::PreviewStands(program_));
+        key->setEnabled(modPreview::PreviewStands(program_));
     }
     windows_->Follow();
     if (program_.main.BringUp) {
