@@ -260,6 +260,10 @@ TEST(DarkTheme, AidsBesideThePageCanBeRead) {
     QTest::keyClick(run.Find<QWidget>("frmRGB"), Qt::Key_Escape);
     QTest::keyClick(run.Find<QWidget>("frmTextProps"), Qt::Key_Escape);
     opens(CommandId::mnuEditCompInfo, "frmAddress");
+    const auto* company = run.Find<QWidget>("frmAddress");
+    const QRect save = company->findChild<QWidget*>(QStringLiteral("cmdSave"))->geometry();
+    const QRect email = company->findChild<QWidget*>(QStringLiteral("txt(9)"))->geometry();
+    EXPECT_LT(save.top() - email.bottom(), 40) << "no gap where the address book has more fields";
     QTest::keyClick(run.Find<QWidget>("frmAddress"), Qt::Key_Escape);
 }
 
