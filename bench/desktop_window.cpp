@@ -481,7 +481,7 @@ void PreviewToggle(benchmark::State& state) {
     for (auto _ : state) {
         for (auto* spans : {&begin, &end}) {
             const auto start = Clock::now();
-            modPrint::TogglePreview(desktop.program);
+            modPreview::TogglePreview(desktop.program);
             desktop.window->AfterEvent();
             QCoreApplication::processEvents();
             spans->push_back(Milliseconds(Clock::now() - start));

@@ -55,7 +55,7 @@ BENCHMARK_CAPTURE(ExportOfAFullProposalToText, disk, Place::Disk)->Unit(benchmar
 void RawWriteOfTheSameText(benchmark::State& state, Place place) {
     const In in(place);
     FullProposal full;
-    modPrint::CountPagesInUse(full.program);
+    modPageCount::CountPagesInUse(full.program);
     const std::string text = modExport::ProposalText(full.program);
     const std::string path = full.folder / "Proposals/Raw.txt";
     for (auto _ : state) {

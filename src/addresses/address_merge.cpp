@@ -33,12 +33,12 @@ FieldRef Client(int area) {
     return {PageId::frmP1, FieldKind::txt, area};
 }
 
-std::string AreaOf(Program& program, int area) {
+std::string AreaOf(const Program& program, int area) {
     return modFields::Area(program, Client(area)).Text;
 }
 
 /// The pages take no change while they are drawn or shown as they print.
-bool PagesBusy(Program& program) {
+bool PagesBusy(const Program& program) {
     if (program.printing.CommandRunning) {
         return true;
     }
@@ -56,7 +56,7 @@ void Write(Program& program, const AreaText& value) {
     modAreaColours::ColourAfterCommand(program, field);
 }
 
-Consent AskToReplace(Program& program, const std::vector<AreaText>& values) {
+Consent AskToReplace(const Program& program, const std::vector<AreaText>& values) {
     std::string words = "Replace what stands on page 1?";
     bool replaces = false;
     for (const AreaText& value : values) {
@@ -147,7 +147,7 @@ void FillFromProposal(Program& program, AddressWindow& window) {
     }
 }
 
-void CopyRecord(Program& program, const AddressWindow& window, CopyWhat what) {
+void CopyRecord(const Program& program, const AddressWindow& window, CopyWhat what) {
     constexpr std::size_t kNameAndAddress = 4;
     const std::size_t count = what == CopyWhat::All ? window.txt.size() : kNameAndAddress;
     std::string lines;
@@ -159,7 +159,7 @@ void CopyRecord(Program& program, const AddressWindow& window, CopyWhat what) {
     program.platform.clipboard.SetText(lines);
 }
 
-void PrintRecord(Program& program, const AddressWindow& window) {
+void PrintRecord(const Program& program, const AddressWindow& window) {
     constexpr float kLeft = 720;
     constexpr float kTop = 720;
     constexpr float kTextLeft = 2700;

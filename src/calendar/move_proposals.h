@@ -16,6 +16,6 @@ namespace modCalendar {
 
 /// Moves every proposal that was moved away back to its name. The number of those moved; nothing when there
 /// is none to be moved, which it says. Reports as "mnuOptUndoDelete_Click".
-[[nodiscard]] std::optional<int> RestoreFromBackup(Program& program);
+[[nodiscard]] std::optional<int> RestoreFromBackup(const Program& program);
 
 } // namespace modCalendar

@@ -32,7 +32,7 @@ std::string WeekdayOf(int day) {
 /// Lets events run now and then, so that the windows answer while many files are read.
 class Breather {
 public:
-    explicit Breather(Program& program) : program_(program) { Breathe(); }
+    explicit Breather(const Program& program) : program_(program) { Breathe(); }
     /// False when the rebuild is to end: a newer one has started, the window or the program has closed.
     [[nodiscard]] bool GoOn(int rebuild) {
         constexpr std::chrono::milliseconds kLongest(40);
@@ -47,7 +47,7 @@ private:
         program_.platform.events.LetEventsRun();
         last_ = std::chrono::steady_clock::now();
     }
-    Program& program_;
+    const Program& program_;
     std::chrono::steady_clock::time_point last_;
 };
 
@@ -59,7 +59,7 @@ struct Gathered {
     std::vector<bool> Dated;
 };
 
-bool Gather(Program& program, Breather& breather, int rebuild, Gathered& found) {
+bool Gather(const Program& program, Breather& breather, int rebuild, Gathered& found) {
     DayReader reader;
     bool whole = true;
     const std::string folder = modFolders::DataFolder(program);

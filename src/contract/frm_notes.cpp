@@ -164,7 +164,7 @@ void mnuFileOpenFootnotes_Click(Program& program) {
     modWindows::Show(program, std::make_unique<frmNotes>());
 }
 
-bool FootnotesShown(Program& program) {
+bool FootnotesShown(const Program& program) {
     return modWindows::Find(program, "frmNotes") != nullptr;
 }
 

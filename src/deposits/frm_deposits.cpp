@@ -2,6 +2,7 @@
 
 #include "base/dates.h"
 #include "base/numbers.h"
+#include "base/rows.h"
 #include "base/text.h"
 #include "deposits/deposit_rows.h"
 #include "pages/fields.h"
@@ -26,7 +27,7 @@ int ThisYear(const Program& program) {
     return dates::ToCalendar(program.platform.clock.Now()).Year;
 }
 
-void Tell(Program& program, std::string_view words) {
+void Tell(const Program& program, std::string_view words) {
     program.platform.questions.MsgBox(words, Buttons::Ok, "");
 }
 
@@ -86,7 +87,7 @@ std::string frmDeposits::Signed(const Program& program, std::string_view figure)
     return program.settings.CurrencySymbol + " " + std::string(figure);
 }
 
-void frmDeposits::Load(Program& program) {
+void frmDeposits::Load(const Program& program) {
     file_ = modSideFile::Read(program, DepositFile(program), "SaveDepositInfo");
     Locked = file_.Locked;
     if (Locked || !file_.There) {
@@ -111,7 +112,7 @@ void frmDeposits::Load(Program& program) {
     }
 }
 
-void frmDeposits::TellUnreadable(Program& program, int count) {
+void frmDeposits::TellUnreadable(const Program& program, int count) {
     if (count == 1) {
         Tell(program,
              "The amount of 1 deposit in the list cannot be read. It stays in the list and counts as 0.00.");
@@ -121,7 +122,7 @@ void frmDeposits::TellUnreadable(Program& program, int count) {
     }
 }
 
-void frmDeposits::Recompute(Program& program) {
+void frmDeposits::Recompute(const Program& program) {
     constexpr std::size_t kMost = std::numeric_limits<std::int16_t>::max();
     modDeposits::Sum sum = modDeposits::AddUp(lst.Items);
     DepositRows = static_cast<std::int16_t>(static_cast<int>(std::min(lst.Items.size(), kMost)) - 1);
@@ -154,7 +155,7 @@ void frmDeposits::txtName_Change(Program&, std::string_view text) {
 void frmDeposits::txtDate_Change(Program&, std::string_view text) {
     if (txtDate.Text != text) {
         touched_ = true;
-        notAdded_ = notAdded_ || DepositEditing;
+        notAdded_ = notAdded_ || DepositEditing();
         txtDate.SelLength = 0;
     }
     txtDate.Text = text;
@@ -224,7 +225,7 @@ void frmDeposits::cmdSave_Click(Program& program) {
     static_cast<void>(AddOrReplace(program));
 }
 
-frmDeposits::Added frmDeposits::AddOrReplace(Program& program) {
+frmDeposits::Added frmDeposits::AddOrReplace(const Program& program) {
     if (Locked || !touched_ || txtAmount.Text.empty()) {
         return Added::No;
     }
@@ -246,14 +247,13 @@ frmDeposits::Added frmDeposits::AddOrReplace(Program& program) {
     DepositChanged = true;
     touched_ = false;
     notAdded_ = false;
-    if (!DepositEditing || !editedRow_) {
+    if (!editedRow_) {
         lst.Add(std::move(row));
         txtAmount.SelectAll(); // the text stays; the next amount replaces it
         Recompute(program);
         return Added::Yes;
     }
     lst.Items[static_cast<std::size_t>(*editedRow_)] = std::move(row);
-    DepositEditing = false;
     editedRow_.reset();
     for (EntryBox* box : {&txtDate, &txtAmount, &txtName}) {
         box->SelLength = 0;
@@ -266,7 +266,7 @@ frmDeposits::Added frmDeposits::AddOrReplace(Program& program) {
 void frmDeposits::lst_Click(const std::vector<int>& selected, int current) {
     lst.Selected.assign(lst.Items.size(), false);
     for (const int row : selected) {
-        if (row >= 0 && static_cast<std::size_t>(row) < lst.Selected.size()) {
+        if (HasRow(lst.Selected, row)) {
             lst.Selected[static_cast<std::size_t>(row)] = true;
         }
     }
@@ -299,7 +299,6 @@ void frmDeposits::mnuEditItem_Click(Program& program) {
     }
     const int row = lst.FirstSelected();
     const std::string item = lst.Items[static_cast<std::size_t>(row)];
-    DepositEditing = true;
     editedRow_ = row;
     txtDate_Change(program, modDeposits::DateOf(item));
     txtAmount_Change(program, modDeposits::AmountTextOf(item));
@@ -326,7 +325,6 @@ void frmDeposits::mnuEditDelete_Click(Program& program) {
     lst.Selected.assign(lst.Items.size(), false);
     lst.ListIndex = -1;
     if (editedRow_ == row) {
-        DepositEditing = false;
         editedRow_.reset();
     } else if (editedRow_ && *editedRow_ > row) {
         --*editedRow_;
@@ -341,7 +339,7 @@ void frmDeposits::mnuOptFormat_Click() {
     entry.Caption = DepositFormatDates ? "Do Not Apply Date Formatting" : "Apply Date Formatting";
 }
 
-bool frmDeposits::SettlePendingAmount(Program& program) {
+bool frmDeposits::SettlePendingAmount(const Program& program) {
     if (Locked || !notAdded_ || txtAmount.Text.empty()) {
         return true;
     }

@@ -31,12 +31,13 @@ public:
     std::vector<float> DepositAmounts;
     float DepositTotal = 0;
     bool DepositChanged = false; ///< the list differs from the file
-    bool DepositEditing = false; ///< cmdSave replaces the row that was taken
     bool DepositFormatDates = true;
     std::string DepositDateText;
     std::string DepositAmountText;
 
     frmDeposits();
+    /// cmdSave replaces the row that was taken.
+    [[nodiscard]] bool DepositEditing() const { return editedRow_.has_value(); }
     [[nodiscard]] std::string_view Name() const override { return "frmDeposits"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }
     void Form_Load(Program& program) override;
@@ -69,14 +70,14 @@ protected:
 
 private:
     enum class Added { Yes, No };
-    [[nodiscard]] Added AddOrReplace(Program& program);
+    [[nodiscard]] Added AddOrReplace(const Program& program);
     /// An amount that was typed and not added: Add it? False on Cancel, or when it could not be added.
-    [[nodiscard]] bool SettlePendingAmount(Program& program);
+    [[nodiscard]] bool SettlePendingAmount(const Program& program);
     [[nodiscard]] std::string DepositFile(const Program& program) const;
     [[nodiscard]] std::string Signed(const Program& program, std::string_view figure) const;
-    void Load(Program& program);
-    void TellUnreadable(Program& program, int count);
-    void Recompute(Program& program);
+    void Load(const Program& program);
+    void TellUnreadable(const Program& program, int count);
+    void Recompute(const Program& program);
     void PutTotalIntoProposal(Program& program);
     void Refuse(EntryBox& box, std::string_view control, std::string_view why);
     void txtDate_LostFocus(Program& program);

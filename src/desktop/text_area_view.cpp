@@ -22,6 +22,8 @@
 #include <QPainter>
 #include <QStyleHints>
 
+#include <utility>
+
 namespace {
 
 LinePainter::Side SideOf(const FieldRef& field) {
@@ -171,7 +173,7 @@ void TextAreaView::paintEvent(QPaintEvent*) {
     if (hasFocus() && caretOn_ && !isReadOnly()) {
         marks.Caret = cursorPosition();
     }
-    if (dragging_) {
+    if (press_ == Press::Dragging) {
         marks.DropAt = dropAt_;
     }
     painter.save();
@@ -403,19 +405,21 @@ void TextAreaView::mousePressEvent(QMouseEvent* event) {
         anchor_ = cursorPosition();
     }
     pressedAt_ = event->position().x();
-    marking_ = extend;
     int start = qMin(anchor_, position);
     int length = qAbs(position - anchor_);
-    pressedInMarked_ = event->button() == Qt::LeftButton && !extend && hasFocus() && position > Start() &&
-                       position < Start() + Length();
-    if ((right && hasFocus()) || pressedInMarked_) {
+    press_ = extend ? Press::Marking : Press::Still;
+    if (event->button() == Qt::LeftButton && !extend && hasFocus() && position > Start() &&
+        position < Start() + Length()) {
+        press_ = Press::InMarked;
+    }
+    if ((right && hasFocus()) || press_ == Press::InMarked) {
         // A marked text stays marked, for the menu's commands or to be dragged.
         start = Start();
         length = Length();
     }
     event->accept();
     RestartCaret();
-    modInput::FieldMouseDown(page_.program, field_, right ? 2 : 1, 0, start, length);
+    modInput::FieldMouseDown(page_.program, field_, right ? 2 : 1, start, length);
     Done();
     if (modInput::TextMenuOpens(page_.program) && page_.AskForMenu) {
         page_.AskForMenu(event->globalPosition().toPoint());
@@ -429,16 +433,20 @@ void TextAreaView::mouseMoveEvent(QMouseEvent* event) {
     }
     const int position = PositionAt(event->position().x());
     const int moved = qAbs(qRound(event->position().x() - pressedAt_));
-    if (pressedInMarked_) {
-        dragging_ = dragging_ || moved >= QGuiApplication::styleHints()->startDragDistance();
+    if (press_ == Press::InMarked && moved >= QGuiApplication::styleHints()->startDragDistance()) {
+        press_ = Press::Dragging;
+    }
+    if (press_ == Press::InMarked || press_ == Press::Dragging) {
         dropAt_ = position;
         update();
         return;
     }
     // A clicking hand is never quite still, and a figure makes room for the caret as its field is entered.
     constexpr int kStill = 4;
-    marking_ = marking_ || moved >= kStill;
-    if (!marking_) {
+    if (press_ == Press::Still && moved >= kStill) {
+        press_ = Press::Marking;
+    }
+    if (press_ == Press::Still) {
         return;
     }
     modInput::CursorMoved(page_.program, field_, qMin(anchor_, position), qAbs(position - anchor_));
@@ -447,10 +455,8 @@ void TextAreaView::mouseMoveEvent(QMouseEvent* event) {
 
 void TextAreaView::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
-    if (pressedInMarked_) {
-        pressedInMarked_ = false;
-        if (dragging_) {
-            dragging_ = false;
+    if (press_ == Press::InMarked || press_ == Press::Dragging) {
+        if (std::exchange(press_, Press::Still) == Press::Dragging) {
             modInput::MoveMarked(page_.program, field_, dropAt_);
             TakeRecord();
         } else {
@@ -540,7 +546,7 @@ void TextAreaView::dropEvent(QDropEvent* event) {
         return;
     }
     const int position = PositionAt(event->position().x());
-    modInput::FieldMouseDown(page_.program, field_, 1, 0, position, 0);
+    modInput::FieldMouseDown(page_.program, field_, 1, position, 0);
     Done(); // the widget has the keyboard and the cursor now
     TakeIn(event->mimeData()->text());
     event->acceptProposedAction();
@@ -595,7 +601,7 @@ void TextAreaView::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
     // By mouse the press has opened it already; this is the keyboard's menu key.
     if (event->reason() == QContextMenuEvent::Keyboard) {
-        modInput::FieldMouseDown(page_.program, field_, 2, 0, Start(), Length());
+        modInput::FieldMouseDown(page_.program, field_, 2, Start(), Length());
         Done();
         if (modInput::TextMenuOpens(page_.program) && page_.AskForMenu) {
             page_.AskForMenu(mapToGlobal(rect().bottomLeft()));

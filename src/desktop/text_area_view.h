@@ -84,9 +84,10 @@ private:
     bool reported_ = false;  ///< the edit under way has reached the model
     bool following_ = false; ///< the widget follows the model
     bool caretOn_ = false;
-    bool pressedInMarked_ = false; ///< a drag of the marked text may begin
-    bool dragging_ = false;
-    bool marking_ = false; ///< the pressed mouse has moved far enough to mark text
+    /// What the pressed mouse has come to: not far enough yet to mark text, marking it, in marked text that
+    /// may be dragged, dragging it.
+    enum class Press { Still, Marking, InMarked, Dragging };
+    Press press_ = Press::Still;
     int dropAt_ = 0;
     DragSign sign_ = DragSign::None; ///< a term or result is over the field
     double pressedAt_ = 0;

@@ -126,7 +126,7 @@ FormatText LinesOf(const Program& program, const FormatTables& tables) {
     if (!format.LogoPath.empty()) {
         made.Lines.push_back(assignment::PictureLine(format.LogoPath, format.LogoLeft, format.LogoTop));
     }
-    const AreaFont font = FontInForce(program);
+    const AreaFont font = modLineEffects::FontInForce(program);
     const bool fontLine = !font.Name.empty() && font.Size != 0;
     if (fontLine) {
         made.Lines.push_back(assignment::FontLine(font));

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <string>
 
-namespace modPrint {
+namespace modPageCount {
 
 namespace {
 
@@ -73,4 +73,4 @@ void SetPageNumbers(Program& program) {
     program.document.PagesNumbered = used;
 }
 
-} // namespace modPrint
+} // namespace modPageCount

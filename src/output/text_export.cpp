@@ -89,7 +89,7 @@ private:
 void TakeFigures(Program& program) {
     modFigures::TakeFresh(program);
     modColumns::CollectLines(program);
-    modPrint::CountPagesInUse(program);
+    modPageCount::CountPagesInUse(program);
     if (!program.totals.TotalsHidden && modTotals::TotalsDiffer(program)) {
         program.totals.TotalsStale = true;
         program.platform.questions.MsgBox(modTotals::DiscrepancyMessage(), Buttons::Ok, "");

@@ -8,7 +8,8 @@
 
 namespace modRewrite {
 
-bool MayOverwrite(Program& program, std::string_view path, const files::Seen& seen, std::string_view what) {
+bool MayOverwrite(const Program& program, std::string_view path, const files::Seen& seen,
+                  std::string_view what) {
     // One that could not be read is no news to the person, and is kept.
     if (seen.Was == files::Seen::What::Unread || !files::ChangedSince(path, seen)) {
         return true;
@@ -29,7 +30,7 @@ void WriteOver(std::string_view path, std::string_view bytes, files::Seen& seen)
     seen = files::SeenIn(bytes);
 }
 
-Rewriting Rewrite(Program& program, std::string_view path, std::string_view bytes, files::Seen& seen,
+Rewriting Rewrite(const Program& program, std::string_view path, std::string_view bytes, files::Seen& seen,
                   std::string_view what) {
     if (!MayOverwrite(program, path, seen, what)) {
         return Rewriting::Refused;

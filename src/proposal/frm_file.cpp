@@ -119,7 +119,7 @@ void frmFile::GoTo(Program& program, std::string_view folder) {
     }
 }
 
-void frmFile::LookAtFiles(Program& program, const std::string& folder) {
+void frmFile::LookAtFiles(const Program& program, const std::string& folder) {
     std::vector<Found> found;
     for (std::string& name : files::List(folder, program.document.FileFilter)) {
         Found file{std::move(name)};

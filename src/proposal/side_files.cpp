@@ -28,7 +28,7 @@ std::string FreeBackupName(const Program& program, std::string_view name) {
     return free;
 }
 
-void FollowOne(Program& program, const DocumentState& before, std::string_view extension) {
+void FollowOne(const Program& program, const DocumentState& before, std::string_view extension) {
     const std::string was = before.BaseName + std::string(extension);
     const std::string is = program.document.BaseName + std::string(extension);
     const std::string from = FolderOf(program, before);
@@ -74,7 +74,7 @@ std::string FolderOf(const Program& program, const DocumentState& document) {
                : document.FilePath;
 }
 
-Known Read(Program& program, std::string_view name, std::string_view procedure) {
+Known Read(const Program& program, std::string_view name, std::string_view procedure) {
     Known known;
     if (!program.document.FileExists || program.document.BaseName.empty()) {
         return known;
@@ -131,7 +131,7 @@ void LeaveOthersBehind(Program& program, OwnLayout layout) {
     document.HasNotes = files::FileIsThere(FolderOf(program, document), document.FootnoteFile);
 }
 
-void FollowSaveAs(Program& program, const DocumentState& before) {
+void FollowSaveAs(const Program& program, const DocumentState& before) {
     for (const std::string_view extension : kBeside) {
         // The one goes along though the other cannot.
         Guarded(program, "SaveEventFileAs", [&] { FollowOne(program, before, extension); });

@@ -24,7 +24,7 @@ struct Known {
 
 /// Reads the file of the proposal on show; empty while the proposal has no file. One that cannot be read is
 /// reported under the procedure's name and comes back locked.
-[[nodiscard]] Known Read(Program& program, std::string_view name, std::string_view procedure);
+[[nodiscard]] Known Read(const Program& program, std::string_view name, std::string_view procedure);
 
 /// Replaces the file of the proposal on show. One that holds other bytes than are known is replaced only when
 /// the person agrees to `question`. False when nothing was written; failures are reported under the
@@ -45,6 +45,6 @@ void LeaveOthersBehind(Program& program, OwnLayout layout);
 
 /// After Save As: the files of the proposal as it was go with it. Another proposal's that lie under the new
 /// name go into the backup folder. Reports as "SaveEventFileAs".
-void FollowSaveAs(Program& program, const DocumentState& before);
+void FollowSaveAs(const Program& program, const DocumentState& before);
 
 } // namespace modSideFile

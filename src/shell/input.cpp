@@ -187,7 +187,7 @@ int KeyPress(Program& program, int keyAscii) {
     return kept;
 }
 
-bool MayEdit(Program& program, const FieldRef& field) {
+bool MayEdit(const Program& program, const FieldRef& field) {
     return !program.editing.BlockMode && !modFields::Area(program, field).Locked;
 }
 
@@ -297,8 +297,7 @@ void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength
     ShowCaret(program);
 }
 
-void FieldMouseDown(Program& program, const FieldRef& field, int button, int shift, int selStart,
-                    int selLength) {
+void FieldMouseDown(Program& program, const FieldRef& field, int button, int selStart, int selLength) {
     if (field.Page == PageId::frmP6_1) {
         return;
     }
@@ -311,7 +310,7 @@ void FieldMouseDown(Program& program, const FieldRef& field, int button, int shi
     modFields::GiveFocus(program, field);
     PutCursor(program, field, selStart, selLength);
     if (IsText(field)) {
-        modText::txt_MouseDown(program, field.Page, field.Index, button, shift);
+        modText::txt_MouseDown(program, field.Page, field.Index, button);
     }
     ShowCaret(program);
 }
@@ -335,8 +334,8 @@ void FieldDblClick(Program& program, const FieldRef& field, int position) {
     }
 }
 
-void PageMouseDown(Program& program, PageId page, int button, float x, float y) {
-    modBlocks::Form_MouseDown(program, page, button, x, y);
+void PageMouseDown(Program& program, int button, float x, float y) {
+    modBlocks::Form_MouseDown(program, button, x, y);
 }
 
 void PageMouseMove(Program& program, PageId page, int button, float x, float y) {

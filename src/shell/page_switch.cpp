@@ -127,7 +127,7 @@ void UpdatePageButtons(Program& program, int pageIndex) {
     modDesigner::CloseLabelWindow(program);
     if (!program.guards.StartingUp && main.cmdPreview.Caption == "Resume Editing") {
         main.cmdPreview.Caption = "Print Preview";
-        modPrint::ResumeEditing(program, main.PageInFront);
+        modPreview::ResumeEditing(program, main.PageInFront);
     }
     for (ImageButton& button : main.imgPage) {
         button.Picture = 0;

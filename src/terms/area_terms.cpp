@@ -16,7 +16,7 @@ namespace modTerms {
 
 namespace {
 
-std::string Selection(Program& program) {
+std::string Selection(const Program& program) {
     const FieldRef field{program.main.ActivePage, FieldKind::txt, program.editing.CurrentArea};
     if (!modFields::Exists(program, field)) {
         return {};

@@ -22,7 +22,7 @@ constexpr std::string_view kNotRead = "This list could not be read and is left a
 constexpr std::string_view kNothingToSave = "There are no Frequently Used Terms to save.";
 constexpr std::string_view kNothingToAdd = "No term has been added to save.";
 
-void Tell(Program& program, std::string_view message) {
+void Tell(const Program& program, std::string_view message) {
     program.platform.questions.MsgBox(message, Buttons::Ok, "");
 }
 

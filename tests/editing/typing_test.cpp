@@ -473,10 +473,10 @@ TEST(Status, FollowsAPressOfTheMouse) {
     RunningProgram run;
     PutText(run, kSecond, 5, "abcdef");
     person::TurnTo(run.program, 1);
-    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 4, 0);
+    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 4, 0);
     EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 4");
     EXPECT_EQ(run.program.main.lblTextPos.Caption, "Printer Text Position = 400.");
-    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 0, 0);
+    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 0);
     EXPECT_EQ(run.program.main.lblTextPos.Caption, "Printer Text Position = .");
 }
 
@@ -560,7 +560,7 @@ TEST(Focus, IsNeverTakenByTheClientsCopy) {
     RunningProgram run;
     person::TurnTo(run.program, 6);
     const auto before = run.program.main.Focus;
-    person::FieldMouseDown(run.program, {PageId::frmP6_1, FieldKind::txt, 1}, 1, 0, 0, 0);
+    person::FieldMouseDown(run.program, {PageId::frmP6_1, FieldKind::txt, 1}, 1, 0, 0);
     EXPECT_EQ(run.program.main.Focus, before);
     EXPECT_EQ(run.program.main.CurrentPage, 0);
 }
@@ -705,7 +705,7 @@ TEST(TaxMarks, SetByTheMenuChangeTheTotalAtOnce) {
     typist.Type("100");
     typist.Click(kSecond, 34);
     typist.Click(kSecond, 33);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_TRUE(run.program.main[CommandId::mnuEditTextTaxExempt].Enabled);
     modColumns::mnuEditTextTaxExempt_Click(run.program);
     EXPECT_TRUE(run.program.pages[kSecond].imgNoTax[33].Visible);
@@ -719,7 +719,7 @@ TEST(TaxMarks, SetByTheMenuChangeTheTotalAtOnce) {
     modColumns::mnuEditTextTaxable_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
     typist.Click(kSecond, 0);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_FALSE(run.program.main[CommandId::mnuEditTextTaxExempt].Enabled);
 }
 

@@ -288,11 +288,11 @@ TEST(PropertyLines, SayThatAnAreaWhichItsFormatMakesBoldIsNot) {
     Laid run;
     run.Lay({"frmP1.txt(10).FontBold=True"});
     run.program.format.PropTextChanges[PageId::frmP1][10].FontBold = false;
-    const auto lines = modFormat::PropertyLinesNow(run.program);
+    const auto lines = modProperties::PropertyLinesNow(run.program);
     ASSERT_FALSE(lines.empty());
     EXPECT_EQ(lines[0], "frmP1.txt(10).FontBold=False");
     run.program.format.PropertyLines = lines;
-    modFormat::ParsePropertyFile(run.program);
+    modProperties::ParsePropertyFile(run.program);
     EXPECT_FALSE(run.Area(PageId::frmP1, 10).FontBold);
 }
 
@@ -304,7 +304,7 @@ TEST(PropertyLines, BringTitleAndHeadingBack) {
         ".ForeColor=0 .FontItalic=False .FontUnderline=False",
         "frmP2.lbl(0).Left=3000 .Top=540 .Caption=Ours - Page 2 .FontName=Arial .FontBold=False .FontSize=15 "
         ".ForeColor=0 .FontItalic=False .FontUnderline=False"};
-    modFormat::ParsePropertyFile(run.program);
+    modProperties::ParsePropertyFile(run.program);
     EXPECT_EQ(run.program.document.ClientCaption, "The Roe Wedding");
     EXPECT_TRUE(run.program.document.TitleGiven);
     EXPECT_EQ(run.program.document.PageHeading, "Ours - ");
@@ -473,12 +473,12 @@ TEST(PropertyLines, ComeBackByteForByteFromRandomStates) {
         States(run, seed).Make(static_cast<int>(seed % 40) + 1);
         format.PropLabelChanges = format.FormatLabelChanges;
         modColumns::CollectQtyBoxes(run.program);
-        const auto first = modFormat::PropertyLinesNow(run.program);
+        const auto first = modProperties::PropertyLinesNow(run.program);
         static_cast<void>(modReset::StartNewFile(run.program));
         format.PropertyLines = first;
-        modFormat::ParsePropertyFile(run.program);
+        modProperties::ParsePropertyFile(run.program);
         ASSERT_FALSE(format.PropertyLinesRead) << "seed " << seed;
-        ASSERT_EQ(modFormat::PropertyLinesNow(run.program), first) << "seed " << seed;
+        ASSERT_EQ(modProperties::PropertyLinesNow(run.program), first) << "seed " << seed;
     }
 }
 

@@ -205,7 +205,7 @@ void OnProgram(Pair& pair, const Step& step) {
         if (program.main.PageInFront != step.Field.Page) {
             person::TurnTo(program, IndexOf(step.Field.Page));
         }
-        person::FieldMouseDown(program, step.Field, 2, 0, 0, 0);
+        person::FieldMouseDown(program, step.Field, 2, 0, 0);
         person::FieldMouseUp(program, step.Field, 0, 0);
         person::Choose(program, CommandId::mnuEditTextTaxExempt);
         break;

@@ -84,7 +84,7 @@ void Typist::Click(const FieldRef& field) {
     }
     TextArea& area = modFields::Area(program_, field);
     const int end = static_cast<int>(area.Text.size());
-    modInput::FieldMouseDown(program_, field, 1, 0, end, 0);
+    modInput::FieldMouseDown(program_, field, 1, end, 0);
     modInput::FieldMouseUp(program_, field, end, 0);
 }
 
@@ -225,7 +225,7 @@ void Typist::Drag(const FieldRef& field, int from, int to) {
     const TextArea& area = modFields::Area(program_, field);
     const int length = static_cast<int>(area.Text.size());
     const int press = std::clamp(from, 0, length);
-    modInput::FieldMouseDown(program_, field, 1, 0, press, 0);
+    modInput::FieldMouseDown(program_, field, 1, press, 0);
     if (program_.main.Focus != field) {
         return; // nothing there to press on
     }
