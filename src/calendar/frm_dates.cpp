@@ -2,6 +2,7 @@
 
 #include "base/dates.h"
 #include "base/guard.h"
+#include "base/rows.h"
 #include "calendar/move_proposals.h"
 #include "calendar/read_event_dates.h"
 #include "pages/fields.h"
@@ -15,6 +16,7 @@
 #include "proposal/proposal_open.h"
 #include "proposal/reset.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace modCalendar {
@@ -172,7 +174,7 @@ void frmDates::TakeRows(Program& program) {
 void frmDates::lstDates_Click(Program& program, const std::vector<int>& selected, int current) {
     lstDates.Selected.assign(lstDates.Items.size(), false);
     for (const int row : selected) {
-        if (row >= 0 && static_cast<std::size_t>(row) < lstDates.Selected.size()) {
+        if (HasRow(lstDates.Selected, row)) {
             lstDates.Selected[static_cast<std::size_t>(row)] = true;
         }
     }
@@ -187,12 +189,11 @@ void frmDates::lstDates_DblClick(Program& program) {
 void frmDates::PickDay(const Program& program, int day) {
     ShadedDay = day;
     const std::vector<EventRow>& rows = program.calendar.Rows;
-    for (std::size_t row = 0; row < rows.size() && row < lstDates.Items.size(); ++row) {
-        if (rows[row].Day == day) {
-            lstDates.ListIndex = static_cast<int>(row);
-            ++Picks;
-            return;
-        }
+    const auto found =
+        std::find_if(rows.begin(), rows.end(), [day](const EventRow& row) { return row.Day == day; });
+    if (found != rows.end()) {
+        lstDates.ListIndex = static_cast<int>(found - rows.begin());
+        ++Picks;
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/numbers.h"
 #include "base/paths.h"
+#include "base/rows.h"
 #include "base/text.h"
 #include "contract/contract_lines.h"
 #include "program/program.h"
@@ -94,8 +95,7 @@ void frmEditor::TakeFont(const Program& program, const TextFont& font) {
 }
 
 void frmEditor::cmbFont_Click(Program& program, int index) {
-    if (RefusedWhileCounting(program) || index < 0 ||
-        static_cast<std::size_t>(index) >= cmbFont.Items.size()) {
+    if (RefusedWhileCounting(program) || !HasRow(cmbFont.Items, index)) {
         return;
     }
     cmbFont.ListIndex = index;
@@ -105,8 +105,7 @@ void frmEditor::cmbFont_Click(Program& program, int index) {
 }
 
 void frmEditor::cmbFontSize_Click(Program& program, int index) {
-    if (RefusedWhileCounting(program) || index < 0 ||
-        static_cast<std::size_t>(index) >= cmbFontSize.Items.size()) {
+    if (RefusedWhileCounting(program) || !HasRow(cmbFontSize.Items, index)) {
         return;
     }
     cmbFontSize.ListIndex = index;

@@ -2,6 +2,7 @@
 
 #include "base/dates.h"
 #include "base/numbers.h"
+#include "base/rows.h"
 #include "base/text.h"
 #include "deposits/deposit_rows.h"
 #include "pages/fields.h"
@@ -154,7 +155,7 @@ void frmDeposits::txtName_Change(Program&, std::string_view text) {
 void frmDeposits::txtDate_Change(Program&, std::string_view text) {
     if (txtDate.Text != text) {
         touched_ = true;
-        notAdded_ = notAdded_ || DepositEditing;
+        notAdded_ = notAdded_ || DepositEditing();
         txtDate.SelLength = 0;
     }
     txtDate.Text = text;
@@ -246,14 +247,13 @@ frmDeposits::Added frmDeposits::AddOrReplace(const Program& program) {
     DepositChanged = true;
     touched_ = false;
     notAdded_ = false;
-    if (!DepositEditing || !editedRow_) {
+    if (!editedRow_) {
         lst.Add(std::move(row));
         txtAmount.SelectAll(); // the text stays; the next amount replaces it
         Recompute(program);
         return Added::Yes;
     }
     lst.Items[static_cast<std::size_t>(*editedRow_)] = std::move(row);
-    DepositEditing = false;
     editedRow_.reset();
     for (EntryBox* box : {&txtDate, &txtAmount, &txtName}) {
         box->SelLength = 0;
@@ -266,7 +266,7 @@ frmDeposits::Added frmDeposits::AddOrReplace(const Program& program) {
 void frmDeposits::lst_Click(const std::vector<int>& selected, int current) {
     lst.Selected.assign(lst.Items.size(), false);
     for (const int row : selected) {
-        if (row >= 0 && static_cast<std::size_t>(row) < lst.Selected.size()) {
+        if (HasRow(lst.Selected, row)) {
             lst.Selected[static_cast<std::size_t>(row)] = true;
         }
     }
@@ -299,7 +299,6 @@ void frmDeposits::mnuEditItem_Click(Program& program) {
     }
     const int row = lst.FirstSelected();
     const std::string item = lst.Items[static_cast<std::size_t>(row)];
-    DepositEditing = true;
     editedRow_ = row;
     txtDate_Change(program, modDeposits::DateOf(item));
     txtAmount_Change(program, modDeposits::AmountTextOf(item));
@@ -326,7 +325,6 @@ void frmDeposits::mnuEditDelete_Click(Program& program) {
     lst.Selected.assign(lst.Items.size(), false);
     lst.ListIndex = -1;
     if (editedRow_ == row) {
-        DepositEditing = false;
         editedRow_.reset();
     } else if (editedRow_ && *editedRow_ > row) {
         --*editedRow_;

@@ -31,12 +31,13 @@ public:
     std::vector<float> DepositAmounts;
     float DepositTotal = 0;
     bool DepositChanged = false; ///< the list differs from the file
-    bool DepositEditing = false; ///< cmdSave replaces the row that was taken
     bool DepositFormatDates = true;
     std::string DepositDateText;
     std::string DepositAmountText;
 
     frmDeposits();
+    /// cmdSave replaces the row that was taken.
+    [[nodiscard]] bool DepositEditing() const { return editedRow_.has_value(); }
     [[nodiscard]] std::string_view Name() const override { return "frmDeposits"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }
     void Form_Load(Program& program) override;

@@ -1,6 +1,7 @@
 #include "format/frm_text_props.h"
 
 #include "base/numbers.h"
+#include "base/rows.h"
 #include "base/text.h"
 #include "format/area_font.h"
 #include "format/colour_table.h"
@@ -77,7 +78,7 @@ void frmTextProps::ShowSample(const Program& program) {
 }
 
 void frmTextProps::lstFont_Click(Program& program, int index) {
-    if (index >= 0 && static_cast<std::size_t>(index) < lstFont.Items.size()) {
+    if (HasRow(lstFont.Items, index)) {
         program.run.DefaultFontName = lstFont.Items[static_cast<std::size_t>(index)];
         ShowFont(program);
     }

@@ -231,10 +231,10 @@ void FinalPageDefaults(const Program& program, Page& page) {
         Put(page, 4 + row, 3060, top, program.settings.CurrencySymbol);
         Put(page, 10 + row, 9720, top, program.settings.CurrencySymbol);
     }
+    ContractLines(program, page);
     for (int index = 1; index <= 12; ++index) {
         Label(page, index).FontBold = true;
     }
-    ContractLines(program, page);
     for (const tables::FixedLabel& fixed : tables::SignatureLabels()) {
         Put(page, fixed.Index, fixed.Left, fixed.Top, fixed.Caption);
     }

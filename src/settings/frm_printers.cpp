@@ -1,5 +1,6 @@
 #include "settings/frm_printers.h"
 
+#include "base/rows.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "settings/settings.h"
@@ -21,7 +22,7 @@ void frmPrinters::ListPrinters(const Program& program) {
 }
 
 void frmPrinters::cmbPrinters_Click(Program&, int index) {
-    if (index >= 0 && static_cast<std::size_t>(index) < cmbPrinters.Items.size()) {
+    if (HasRow(cmbPrinters.Items, index)) {
         cmbPrinters.ListIndex = index;
     }
 }

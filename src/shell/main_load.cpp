@@ -119,7 +119,6 @@ bool Load(Program& program) {
     commands::LoadDesignState(program);
     program.main.imgPage[0].Pointer = MousePointer::Hand;
     modToolButtons::LoadPageButtonCursors(program);
-    program.main.State = WindowState::Maximised;
     return Guarded(program, "MDIForm_Load", [&] { LoadSteps(program); });
 }
 

@@ -1,6 +1,7 @@
 #include "terms/frm_fut.h"
 
 #include "base/numbers.h"
+#include "base/rows.h"
 #include "pages/fields.h"
 #include "program/keys.h"
 #include "program/program.h"
@@ -175,7 +176,7 @@ void frmFUT::mnuFileNewFUT_Click(Program& program) {
 
 void frmFUT::mnuFileDelete_Click(Program& program) {
     const int row = lstMoreFUT.ListIndex;
-    if (!lstMoreFUT.Visible || row < 0 || static_cast<std::size_t>(row) >= lstMoreFUT.Items.size()) {
+    if (!lstMoreFUT.Visible || !HasRow(lstMoreFUT.Items, row)) {
         Tell(program, "No file to delete.");
         return;
     }
@@ -199,13 +200,12 @@ void frmFUT::mnuWindowSavePosition_Click(Program& program) {
 }
 
 void frmFUT::lstMoreFUT_Move(int row) {
-    const bool there = row >= 0 && static_cast<std::size_t>(row) < lstMoreFUT.Items.size();
-    lstMoreFUT.ListIndex = there ? row : -1;
+    lstMoreFUT.ListIndex = HasRow(lstMoreFUT.Items, row) ? row : -1;
 }
 
 void frmFUT::lstMoreFUT_Click(Program& program) {
     const int row = lstMoreFUT.ListIndex;
-    if (row < 0 || static_cast<std::size_t>(row) >= lstMoreFUT.Items.size()) {
+    if (!HasRow(lstMoreFUT.Items, row)) {
         Tell(program, "No list selected.");
         return;
     }

@@ -1,3 +1,4 @@
+#include "addresses/address_book.h"
 #include "addresses/address_run.h"
 #include "support/small_disk.h"
 
@@ -237,6 +238,8 @@ TEST(AddressBook, ARecordThatAnotherProgramHasChangedIsNotOverwritten) {
     EXPECT_TRUE(run.program.addresses.AddressRecordChanged);
     EXPECT_EQ(run.Text(1), "mine");
     EXPECT_EQ(window.lstNames.ListIndex, -1);
+    EXPECT_EQ(run.program.addresses.CurrentAddressRecord, 0) << "what stands here is no record of the book";
+    EXPECT_EQ(run.program.addresses.RecordAsRead, "");
     window.cmdSave_Click(run.program);
     EXPECT_EQ(run.ReadBook(), theirs + AddressRun::Record({"Ben Birch", "mine"}));
 }
@@ -556,6 +559,19 @@ TEST(AddressBook, ALineOfNotesThatTheScreenWritesItsOwnWayIsNoChange) {
     window.lstNames_Click(run.program, 0);
     run.Type(10, "one\r\ntwo");
     EXPECT_FALSE(run.program.addresses.AddressRecordChanged);
+}
+
+TEST(AddressBook, TheOtherBookBeginsWithoutTheRecordOfTheFirst) {
+    AddressRun run;
+    run.WriteBook(AddressRun::kBusiness, AddressRun::Book({"Acme Tents"}));
+    frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash", "Ben Birch"}));
+    window.lstNames_Click(run.program, 1);
+    ASSERT_EQ(run.program.addresses.CurrentAddressRecord, 2);
+    ASSERT_EQ(modAddress::OpenBook(run.program, window, AddressBook::Business), modAddress::Outcome::Done);
+    EXPECT_EQ(run.program.addresses.CurrentAddressRecord, 0);
+    EXPECT_EQ(run.program.addresses.RecordAsRead, "");
+    EXPECT_EQ(run.program.addresses.AddressRecordCount, 1);
+    EXPECT_EQ(window.lstNames.ListIndex, -1);
 }
 
 } // namespace

@@ -432,4 +432,19 @@ TEST(Calendar, ClosingTheWindowEndsTheRebuild) {
     EXPECT_FALSE(run.program.main.Busy);
 }
 
+TEST(Calendar, WhatIsSelectedAnewTakesThePlaceOfWhatWas) {
+    Dated run;
+    run.Proposal("A.hef", "1/21/2008");
+    run.Proposal("B.hef", "1/22/2008");
+    frmDates& window = run.Open();
+    run.Select(window, {0, 1});
+    EXPECT_EQ(window.lstDates.SelCount(), 2);
+    run.Select(window, {1});
+    EXPECT_EQ(window.lstDates.SelCount(), 1);
+    EXPECT_EQ(window.lstDates.FirstSelected(), 1);
+    EXPECT_TRUE(window.Entry("mnuFileOpen").Enabled);
+    run.Select(window, {-1, 2});
+    EXPECT_EQ(window.lstDates.SelCount(), 0) << "there are no such rows";
+}
+
 } // namespace

@@ -183,7 +183,7 @@ TEST(Deposits, EditingTakesTheBareFigureAndPutsTheRowBackInItsPlace) {
     window.lst_Click({1}, 1); // wherever the selection is meanwhile
     window.cmdSave_Click(run.program);
     EXPECT_EQ(window.lst.Items, (Deposited::Items{"Jan 21, 2008\t\t$ 1,500.00", "Jan 22, 2008\t\t$ 2.00"}));
-    EXPECT_FALSE(window.DepositEditing);
+    EXPECT_FALSE(window.DepositEditing());
     EXPECT_EQ(window.lst.SelCount(), 0);
 }
 
@@ -208,7 +208,7 @@ TEST(Deposits, TheTakenRowIsFollowedWhenOthersGoAndForgottenWhenItGoes) {
     window.Choose(run.program, "mnuEditItem");
     window.lst_Click({0}, 0);
     window.Choose(run.program, "mnuEditDelete");
-    EXPECT_TRUE(window.DepositEditing);
+    EXPECT_TRUE(window.DepositEditing());
     run.Add(window, "1/1/2008", "9");
     EXPECT_EQ(window.lst.Items, (Deposited::Items{"b\t\t$ 150.00", "1/1/2008\t\t$ 9.00"}));
     window.lst_Click({1}, 1);
@@ -216,7 +216,7 @@ TEST(Deposits, TheTakenRowIsFollowedWhenOthersGoAndForgottenWhenItGoes) {
     window.Choose(run.program, "mnuEditItem");
     window.lst_Click({1}, 1);
     window.Choose(run.program, "mnuEditDelete");
-    EXPECT_FALSE(window.DepositEditing);
+    EXPECT_FALSE(window.DepositEditing());
     run.Add(window, "1/2/2008", "8");
     EXPECT_EQ(window.lst.Items, (Deposited::Items{"b\t\t$ 150.00", "1/2/2008\t\t$ 8.00"}));
 }
@@ -235,7 +235,7 @@ TEST(Deposits, EditingAndRemovingWantExactlyOneRow) {
         window.Choose(run.program, command);
     }
     EXPECT_EQ(window.lst.Items.size(), 2U);
-    EXPECT_FALSE(window.DepositEditing);
+    EXPECT_FALSE(window.DepositEditing());
     EXPECT_FALSE(window.DepositChanged);
 }
 
@@ -251,8 +251,10 @@ TEST(Deposits, WhatIsNoDateOrNoAmountAddsNothingAndTurnsRed) {
     EXPECT_EQ(window.txtDate.ToolTipText.find("no date"), std::string::npos);
     EXPECT_EQ(window.txtAmount.BackColor, colors::kOverLimit);
     EXPECT_EQ(window.ActiveControl, "txtAmount");
+    EXPECT_NE(window.txtAmount.ToolTipText, "");
     run.Add(window, "1/1/2008", "");
     EXPECT_EQ(window.txtAmount.BackColor, colors::kWhite);
+    EXPECT_EQ(window.txtAmount.ToolTipText, "");
     EXPECT_TRUE(window.lst.Items.empty());
     EXPECT_FALSE(window.DepositChanged);
 }

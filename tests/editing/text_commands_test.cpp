@@ -1,3 +1,4 @@
+#include "editing/area_conversion.h"
 #include "editing/area_mouse.h"
 #include "editing/block_actions.h"
 #include "editing/text_commands.h"
@@ -281,6 +282,20 @@ TEST(CaseCommandsOnly, MoveNothingOutOfALineThatIsTooLong) {
     EXPECT_EQ(run.TextOf(kSecond, 4), "XXX" + words.substr(3));
     EXPECT_EQ(run.TextOf(kSecond, 5), "");
     EXPECT_EQ(run.Area(kSecond, 4).BackColor, colors::kOverLimit);
+}
+
+TEST(Conversions, StopBehindTheClientsLines) {
+    RunningProgram run;
+    const int areas = static_cast<int>(run.program.pages[PageId::frmP1].txt.size());
+    for (int index = 10; index < areas; ++index) {
+        modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, index}, "plain words");
+        modText::ConvertOnDoubleClick(run.program, index);
+        EXPECT_EQ(run.TextOf(PageId::frmP1, index), "plain words") << index;
+    }
+    modText::ConvertOnDoubleClick(run.program, -1);
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 9}, "plain words");
+    modText::ConvertOnDoubleClick(run.program, 9);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 9), "Plain Words");
 }
 
 } // namespace

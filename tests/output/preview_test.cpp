@@ -1,5 +1,6 @@
 #include "output/preview.h"
 
+#include "pages/row_fields.h"
 #include "program/program.h"
 #include "support/person.h"
 #include "support/running_program.h"
@@ -160,6 +161,40 @@ TEST(Preview, BringsTheTotalsUpToDateWhenTheButtonIsRed) {
     run.program.totals.TotalsStale = true;
     modPreview::TogglePreview(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "20.00");
+}
+
+TEST(Preview, ResumingShowsEveryKindOfControlThatIsNotTaggedHide) {
+    RunningProgram run;
+    Page& page = run.program.pages[PageId::frmP2];
+    modPages::EnsureRowFields(run.program, PageId::frmP2);
+    const auto each = [&](const auto& visit) {
+        for (auto* fields : {&page.txt, &page.txtQty, &page.txtAmt}) {
+            for (TextArea& field : *fields) {
+                visit(field);
+            }
+        }
+        for (auto* labels : {&page.lbl, &page.lblAt, &page.lblEach}) {
+            for (PageLabel& label : *labels) {
+                visit(label);
+            }
+        }
+        for (auto& mark : page.imgNoTax) {
+            visit(mark);
+        }
+    };
+    int odd = 0;
+    each([&](auto& control) {
+        control.Tag = ++odd % 2 == 0 ? "" : std::string(kHide);
+        control.Visible = odd % 2 != 0;
+    });
+    for (PageLine& line : page.lne) {
+        line.Visible = false;
+    }
+    modPrint::ResumeEditing(run.program, PageId::frmP2);
+    each([&](const auto& control) { EXPECT_EQ(control.Visible, control.Tag != kHide); });
+    for (const PageLine& line : page.lne) {
+        EXPECT_TRUE(line.Visible);
+    }
 }
 
 } // namespace

@@ -5,10 +5,13 @@
 #include "program/program.h"
 #include "program/windows.h"
 #include "shell/page_switch.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
 #include <gtest/gtest.h>
+
+#include <string_view>
 
 namespace {
 
@@ -169,6 +172,29 @@ TEST(Mouse, AnAmountTakesANumberFromOutsideWholeOrNotAtAll) {
     EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "");
     modInput::Insert(run.program, amount, " 12.50 ", 0, modInput::By::Mouse);
     EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "12.50");
+}
+
+TEST(Input, KeysThatAreStillHeldWhenAnotherFieldIsTypedIntoAreForgotten) {
+    RunningProgram run;
+    Typist typist(run.program);
+    const TypedKeys& typed = run.program.editing.Typed;
+    const auto hold = [&](int index, char letter, std::string_view text) {
+        const FieldRef field{PageId::frmP2, FieldKind::txt, index};
+        static_cast<void>(person::KeyDown(run.program, letter - 'a' + 'A', 0, 0, 0));
+        static_cast<void>(person::KeyPress(run.program, letter));
+        person::Edited(run.program, field, text, static_cast<int>(text.size()), 0);
+    };
+    typist.Click(PageId::frmP2, 3);
+    hold(3, 'a', "a");
+    hold(3, 'b', "ab");
+    EXPECT_TRUE(typed.Codes.test('A'));
+    EXPECT_TRUE(typed.Codes.test('B'));
+    typist.Click(PageId::frmP2, 5);
+    hold(5, 'c', "c");
+    EXPECT_EQ(typed.Field, (FieldRef{PageId::frmP2, FieldKind::txt, 5}));
+    EXPECT_TRUE(typed.Codes.test('C'));
+    EXPECT_FALSE(typed.Codes.test('A'));
+    EXPECT_FALSE(typed.Codes.test('B'));
 }
 
 } // namespace

@@ -426,4 +426,47 @@ TEST(SpellingWindow, WithoutADictionaryThereIsNoCheck) {
     run.Start();
 }
 
+TEST(SpellingWindow, ASuggestionThatIsChosenIsWhatTheWordChangesTo) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Start();
+    frmSpelling& window = run.Window();
+    window.lstSuggestions_Click(run.program, 1);
+    EXPECT_EQ(window.lstSuggestions.ListIndex, 1);
+    EXPECT_EQ(window.txtChangeTo.Text, "Choirs");
+    for (const int nothing : {-1, 2}) {
+        window.lstSuggestions_Click(run.program, nothing);
+        EXPECT_EQ(window.lstSuggestions.ListIndex, 1);
+        EXPECT_EQ(window.txtChangeTo.Text, "Choirs");
+    }
+}
+
+TEST(SpellingWindow, UndoTakesBackWhatWasToldOfALength) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Fill(PageId::frmP3, 0, "Tabels");
+    run.Start();
+    run.Window().txtChangeTo.Text = std::string(90, 'x');
+    run.Window().cmdChange_Click(run.program);
+    ASSERT_NE(run.Window().lblTooLong.Caption, "");
+    run.Window().cmdUndo_Click(run.program);
+    EXPECT_EQ(run.Window().lblTooLong.Caption, "");
+    EXPECT_EQ(run.program.spelling.TooLong, "");
+}
+
+TEST(SpellingWindow, AnAmountThatIsSpeltOutCountsOnceItIsANumber) {
+    OwnCheck run;
+    modFields::SetText(run.program, {PageId::frmP2, FieldKind::txt, 36}, "Chiars");
+    run.Fill(PageId::frmP3, 0, "Tabels");
+    run.Start();
+    run.Window().txtChangeTo.Text = "45";
+    run.Window().cmdChange_Click(run.program);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 45);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "45.00");
+    EXPECT_EQ(run.Main().lblTotal.Caption, "Running Sub-Total = $ 45.00");
+    run.Window().cmdUndo_Click(run.program);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 0);
+    EXPECT_EQ(run.Main().lblTotal.Caption, "Running Sub-Total = $ 0.00");
+}
+
 } // namespace
