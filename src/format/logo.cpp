@@ -165,7 +165,7 @@ void pic_MouseUp(Program& program) {
     program.format.LogoLeft = Logo(program).Left;
     program.format.LogoTop = Logo(program).Top;
     BelongToFormat(program);
-    program.main.Notice = "Kept only by a format or by Save this Logo as Default.";
+    program.main.Notice = modLogo::kNotInTheProposal;
 }
 
 void pic_DblClick(Program& program) {
