@@ -451,4 +451,26 @@ TEST(ChooserFilter, GoesWithItsFolder) {
     EXPECT_EQ(window.txtFilter.Text, "");
 }
 
+TEST(Chooser, RowsThatAreNotThereChooseNothing) {
+    Choosing run;
+    frmFile& window = run.Show();
+    run.Select(window, "Ann.hef");
+    const std::string folder = window.Folder;
+    for (const std::size_t beyond : {window.Drive1.Items.size(), std::size_t{1000}}) {
+        window.Drive1_Change(run.program, static_cast<int>(beyond));
+    }
+    for (const std::size_t beyond : {window.Dir1.Items.size(), std::size_t{1000}}) {
+        window.Dir1_Change(run.program, static_cast<int>(beyond));
+    }
+    for (const std::size_t beyond : {window.FileList1.Items.size(), std::size_t{1000}}) {
+        window.FileList1_Click(run.program, static_cast<int>(beyond));
+    }
+    window.Drive1_Change(run.program, -1);
+    window.Dir1_Change(run.program, -1);
+    window.FileList1_Click(run.program, -1);
+    EXPECT_EQ(window.Folder, folder);
+    EXPECT_EQ(window.FileList1.ListIndex, 0);
+    EXPECT_EQ(window.lblOpenFileName.Caption, "Ann.hef");
+}
+
 } // namespace

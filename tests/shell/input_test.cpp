@@ -197,4 +197,29 @@ TEST(Input, KeysThatAreStillHeldWhenAnotherFieldIsTypedIntoAreForgotten) {
     EXPECT_FALSE(typed.Codes.test('B'));
 }
 
+TEST(Input, TheCaretsLabelFollowsWhicheverHandMovesIt) {
+    RunningProgram run;
+    const FieldRef field{PageId::frmP2, FieldKind::txt, 3};
+    Typist typist(run.program);
+    typist.Click(field);
+    typist.Type("ab cd ef");
+    const std::string& told = run.program.main.lblCurPos.Caption;
+    const auto at = [](int place) { return "Cursor Location = " + std::to_string(place); };
+    EXPECT_EQ(told, at(8));
+    person::FieldMouseDown(run.program, field, 1, 2, 0);
+    EXPECT_EQ(told, at(2));
+    person::FieldMouseUp(run.program, field, 5, 0);
+    EXPECT_EQ(told, at(5));
+    modInput::CursorMoved(run.program, field, 1, 2);
+    EXPECT_EQ(told, at(1));
+    person::KeyUp(run.program, keys::kLeft, 0, 4, 0);
+    EXPECT_EQ(told, at(4));
+    person::Edited(run.program, field, "ab cd efg", 9, 0);
+    EXPECT_EQ(told, at(9));
+    person::EditedWithoutKey(run.program, field, "ab", 2, 0);
+    EXPECT_EQ(told, at(2));
+    person::FieldDblClick(run.program, field, 0);
+    EXPECT_EQ(told, at(0)) << "the word is marked from its beginning";
+}
+
 } // namespace
