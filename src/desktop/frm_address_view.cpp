@@ -57,7 +57,8 @@ FrmAddressView::FrmAddressView(Program& program, frmAddress& window, QWidget* ov
     row->setSpacing(14);
     names_ = Names();
     row->addWidget(names_, 2);
-    row->addWidget(Fields(), 3);
+    QWidget* fields = Fields();
+    row->addWidget(fields, 3);
     scroll_->setWidget(book);
     stack_->addWidget(scroll_);
     import_ = new ImportPanelView(program_, address_, stack_,
@@ -72,7 +73,13 @@ FrmAddressView::FrmAddressView(Program& program, frmAddress& window, QWidget* ov
     FrmAddressView::Follow();
     bar_->setVisible(!company);
     const int letter = fontMetrics().averageCharWidth();
-    const QSize wanted(letter * (company ? 70 : 118), book->sizeHint().height() + bar_->sizeHint().height());
+    // What is hidden takes no room; the layouts have not heard of it yet.
+    for (QWidget* part : {fields, book}) {
+        part->layout()->activate();
+    }
+    const int above = company ? 0 : bar_->sizeHint().height();
+    const QSize wanted(qMax(letter * (company ? 70 : 118), book->minimumSizeHint().width()),
+                       book->sizeHint().height() + above);
     const QSize room = screen()->availableSize() - QSize(24, 48); // of the window's own frame
     resize(wanted.boundedTo(room));
 }
