@@ -12,6 +12,7 @@
 #include <chrono>
 #include <filesystem>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -471,6 +472,19 @@ TEST(Chooser, RowsThatAreNotThereChooseNothing) {
     EXPECT_EQ(window.Folder, folder);
     EXPECT_EQ(window.FileList1.ListIndex, 0);
     EXPECT_EQ(window.lblOpenFileName.Caption, "Ann.hef");
+}
+
+TEST(Chooser, SizesGoOnToTheNextUnitWhenOneOfItIsFull) {
+    Choosing run;
+    run.folder.Write("Proposals/A.hef", std::string(1023, ' '));
+    run.folder.Write("Proposals/B.hef", std::string(1024, ' '));
+    run.folder.Write("Proposals/C.hef", std::string(1048576, ' '));
+    const frmFile& window = run.Show();
+    for (const auto& [name, size] :
+         {std::pair("A.hef", "1023 bytes"), std::pair("B.hef", "1.0 KB"), std::pair("C.hef", "1.0 MB")}) {
+        EXPECT_EQ(window.FileSizes[static_cast<std::size_t>(Choosing::At(window.FileList1.Items, name))],
+                  size);
+    }
 }
 
 } // namespace

@@ -218,8 +218,13 @@ TEST(Input, TheCaretsLabelFollowsWhicheverHandMovesIt) {
     EXPECT_EQ(told, at(9));
     person::EditedWithoutKey(run.program, field, "ab", 2, 0);
     EXPECT_EQ(told, at(2));
-    person::FieldDblClick(run.program, field, 0);
-    EXPECT_EQ(told, at(0)) << "the word is marked from its beginning";
+    const FieldRef place{PageId::frmP1, FieldKind::txt, 8};
+    typist.Click(place);
+    typist.Type("Ab Cd");
+    EXPECT_EQ(told, at(5));
+    person::FieldDblClick(run.program, place, 4);
+    EXPECT_EQ(run.Area(PageId::frmP1, 8).SelLength, 2) << "the word is marked";
+    EXPECT_EQ(told, at(3));
 }
 
 } // namespace
