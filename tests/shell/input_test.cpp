@@ -227,4 +227,54 @@ TEST(Input, TheCaretsLabelFollowsWhicheverHandMovesIt) {
     EXPECT_EQ(told, at(3));
 }
 
+TEST(Input, LabelsAndLogoGoWithTheMouseUntilItLetsGo) {
+    RunningProgram run;
+    run.program.format.SnapTwips = 180;
+    const PageId page = PageId::frmP1;
+    PageLabel& label = run.Label(page, 9);
+    const float left = label.Left;
+    modInput::LabelMouseDown(run.program, page, 9, 1, 10, 10);
+    EXPECT_TRUE(modInput::LabelMouseMove(run.program, page, 9, 190, 10));
+    EXPECT_EQ(label.Left, left + 180);
+    modInput::LabelMouseUp(run.program, page, 9);
+    EXPECT_EQ(run.program.format.PropLabelChanges[page][9].Left, left + 180);
+    EXPECT_FALSE(modInput::LabelMouseMove(run.program, page, 9, 910, 10));
+    modInput::LabelDblClick(run.program, page, 9);
+    EXPECT_EQ(label.BackColor, colors::kFocused);
+    PagePicture& logo = run.program.pages[page].pic;
+    logo.Left = 720;
+    modInput::LogoMouseDown(run.program, 1, 10, 10);
+    EXPECT_TRUE(modInput::LogoMouseMove(run.program, 190, 10));
+    modInput::LogoMouseUp(run.program);
+    EXPECT_EQ(run.program.format.LogoLeft, 900);
+    EXPECT_FALSE(modInput::LogoMouseMove(run.program, 910, 10));
+    modInput::LogoDblClick(run.program);
+    EXPECT_TRUE(logo.ToolTipText.starts_with(" Left = 900, Top = ")) << logo.ToolTipText;
+}
+
+TEST(Input, ASelectionByKeyGrowsFromWhereItBeganAndABlockOfAnotherHandFromItsTop) {
+    RunningProgram run;
+    Typist typist(run.program);
+    const auto expectRows = [&](int first, int last) {
+        for (int row = 5; row <= 15; ++row) {
+            EXPECT_EQ(run.Area(PageId::frmP2, row).BackColor == colors::kBlockSelected,
+                      row >= first && row <= last)
+                << row;
+        }
+    };
+    typist.Click(PageId::frmP2, 10);
+    typist.Press(keys::kUp, keys::kShiftState);
+    expectRows(9, 10);
+    typist.Press(keys::kUp, keys::kShiftState);
+    expectRows(8, 10);
+    typist.Press(keys::kDown, keys::kShiftState);
+    expectRows(9, 10);
+    typist.Press(keys::kDown, keys::kShiftState);
+    typist.Press(keys::kDown, keys::kShiftState);
+    expectRows(10, 11);
+    run.program.editing.Block.KeyAnchor = -1;
+    typist.Press(keys::kDown, keys::kShiftState);
+    expectRows(10, 12);
+}
+
 } // namespace
