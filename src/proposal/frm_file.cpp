@@ -299,6 +299,7 @@ void frmFile::OpenLogo(Program& program) {
     format.LogoChanged = true;
     format.Touched = true;
     Finish(program);
+    program.main.Notice = modLogo::kNotInTheProposal;
     if (const auto message = modLogo::ScaledMessage(*size)) {
         program.platform.questions.MsgBox(*message, Buttons::Ok, "");
     }
