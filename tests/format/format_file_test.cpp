@@ -501,4 +501,19 @@ TEST(CompanyLines, ThatAFormatCarriesChangeWithTheSettingsAndAreToSave) {
     EXPECT_FALSE(run.program.format.FormatLabelChanges.Each[0][0].Saved);
 }
 
+TEST(PropertyLines, AFaultInALineOfAnyKindEndsTheReading) {
+    for (const char* fault : {"frmP1.txt(10).FontBold=Perhaps", "frmP1.lbl(9).Left=far",
+                              "UDP.FontName=Arial .FontSize=big .FontColor=0 .FontItalic=False"}) {
+        Laid run;
+        run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+        run.folder.Write("Proposals/Jane Roe.hpf", "frmP1.txt(12).FontBold=True\r\n" + std::string(fault) +
+                                                       "\r\nfrmP1.txt(11).FontBold=True\r\n");
+        run.surroundings.questions.Expect("The layout of this proposal was read only up to line 1.");
+        run.Open("Jane Roe.hef");
+        run.surroundings.questions.Done();
+        EXPECT_TRUE(run.Area(PageId::frmP1, 12).FontBold) << fault;
+        EXPECT_FALSE(run.Area(PageId::frmP1, 11).FontBold) << fault;
+    }
+}
+
 } // namespace
