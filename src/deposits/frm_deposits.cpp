@@ -222,7 +222,7 @@ void frmDeposits::Refuse(EntryBox& box, std::string_view control, std::string_vi
 }
 
 void frmDeposits::cmdSave_Click(Program& program) {
-    static_cast<void>(AddOrReplace(program));
+    static_cast<void>(AddOrReplace(program)); // what is wrong with the row has been told
 }
 
 frmDeposits::Added frmDeposits::AddOrReplace(const Program& program) {

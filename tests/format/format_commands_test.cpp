@@ -607,6 +607,7 @@ TEST(ChooserKinds, APictureBecomesTheLogoAndAnythingElseIsRefused) {
     EXPECT_EQ(run.program.format.LogoLeft, 720);
     EXPECT_EQ(run.program.format.LogoTop, 540);
     EXPECT_TRUE(run.program.format.LogoChanged);
+    EXPECT_EQ(run.program.main.Notice, "Kept only by a format or by Save this Logo as Default.");
     EXPECT_EQ(run.program.document.FileFilter, "*.hef");
 }
 
