@@ -96,7 +96,7 @@ std::string WithoutCurrency(std::string_view text) {
 std::optional<Hundredths> ReadFigure(std::string_view text) {
     std::string_view rest = text::Trim(text);
     bool negative = false;
-    if (rest.size() >= 2 && rest.front() == '(' && rest.back() == ')') {
+    if (rest.starts_with('(') && rest.ends_with(')')) {
         negative = true;
         rest = rest.substr(1, rest.size() - 2);
     } else if (!rest.empty() && (rest.front() == '-' || rest.front() == '+')) {

@@ -22,7 +22,7 @@
 #include <QPainter>
 #include <QStyleHints>
 
-#include <utility>
+#include <optional>
 
 namespace {
 
@@ -173,9 +173,7 @@ void TextAreaView::paintEvent(QPaintEvent*) {
     if (hasFocus() && caretOn_ && !isReadOnly()) {
         marks.Caret = cursorPosition();
     }
-    if (press_ == Press::Dragging) {
-        marks.DropAt = dropAt_;
-    }
+    marks.DropAt = press_.DropAt();
     painter.save();
     painter.translate(Corner());
     painter.scale(page_.Scale, page_.Scale);
@@ -397,22 +395,21 @@ void TextAreaView::mousePressEvent(QMouseEvent* event) {
     const int position = PositionAt(event->position().x());
     const bool extend = event->modifiers().testFlag(Qt::ShiftModifier) && hasFocus();
     const bool right = event->button() == Qt::RightButton;
-    if (!extend) {
-        anchor_ = position;
-    } else if (Length() > 0) {
-        anchor_ = cursorPosition() == Start() ? Start() + Length() : Start();
-    } else {
-        anchor_ = cursorPosition();
+    int anchor = position;
+    if (extend) {
+        anchor = Length() > 0 && cursorPosition() == Start() ? Start() + Length()
+                 : Length() > 0                              ? Start()
+                                                             : cursorPosition();
     }
-    pressedAt_ = event->position().x();
-    int start = qMin(anchor_, position);
-    int length = qAbs(position - anchor_);
-    press_ = extend ? Press::Marking : Press::Still;
-    if (event->button() == Qt::LeftButton && !extend && hasFocus() && position > Start() &&
-        position < Start() + Length()) {
-        press_ = Press::InMarked;
-    }
-    if ((right && hasFocus()) || press_ == Press::InMarked) {
+    const bool inMarked = event->button() == Qt::LeftButton && !extend && hasFocus() && position > Start() &&
+                          position < Start() + Length();
+    press_.Begin(extend     ? TextAreaPress::Doing::Marking
+                 : inMarked ? TextAreaPress::Doing::InMarked
+                            : TextAreaPress::Doing::Nothing,
+                 anchor, event->position().x());
+    int start = qMin(anchor, position);
+    int length = qAbs(position - anchor);
+    if ((right && hasFocus()) || inMarked) {
         // A marked text stays marked, for the menu's commands or to be dragged.
         start = Start();
         length = Length();
@@ -432,32 +429,23 @@ void TextAreaView::mouseMoveEvent(QMouseEvent* event) {
         return;
     }
     const int position = PositionAt(event->position().x());
-    const int moved = qAbs(qRound(event->position().x() - pressedAt_));
-    if (press_ == Press::InMarked && moved >= QGuiApplication::styleHints()->startDragDistance()) {
-        press_ = Press::Dragging;
-    }
-    if (press_ == Press::InMarked || press_ == Press::Dragging) {
-        dropAt_ = position;
+    press_.Move(position, event->position().x());
+    if (press_.HoldsMarked()) {
         update();
-        return;
+    } else if (press_.Marks()) {
+        modInput::CursorMoved(page_.program, field_, qMin(press_.Anchor(), position),
+                              qAbs(position - press_.Anchor()));
+        Done();
     }
-    // A clicking hand is never quite still, and a figure makes room for the caret as its field is entered.
-    constexpr int kStill = 4;
-    if (press_ == Press::Still && moved >= kStill) {
-        press_ = Press::Marking;
-    }
-    if (press_ == Press::Still) {
-        return;
-    }
-    modInput::CursorMoved(page_.program, field_, qMin(anchor_, position), qAbs(position - anchor_));
-    Done();
 }
 
 void TextAreaView::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
-    if (press_ == Press::InMarked || press_ == Press::Dragging) {
-        if (std::exchange(press_, Press::Still) == Press::Dragging) {
-            modInput::MoveMarked(page_.program, field_, dropAt_);
+    if (press_.HoldsMarked()) {
+        const std::optional<int> dropAt = press_.DropAt();
+        press_.End();
+        if (dropAt) {
+            modInput::MoveMarked(page_.program, field_, *dropAt);
             TakeRecord();
         } else {
             modInput::CursorMoved(page_.program, field_, PositionAt(event->position().x()), 0);

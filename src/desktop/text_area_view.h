@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/line_painter.h"
+#include "desktop/text_area_press.h"
 #include "program/page_records.h"
 
 #include <QBasicTimer>
@@ -84,14 +85,8 @@ private:
     bool reported_ = false;  ///< the edit under way has reached the model
     bool following_ = false; ///< the widget follows the model
     bool caretOn_ = false;
-    /// What the pressed mouse has come to: not far enough yet to mark text, marking it, in marked text that
-    /// may be dragged, dragging it.
-    enum class Press { Still, Marking, InMarked, Dragging };
-    Press press_ = Press::Still;
-    int dropAt_ = 0;
+    TextAreaPress press_;
     DragSign sign_ = DragSign::None; ///< a term or result is over the field
-    double pressedAt_ = 0;
-    int anchor_ = 0;
     QString preedit_;
     QBasicTimer blink_;
 };

@@ -135,7 +135,7 @@ void mnuFileFormatDefault_Click(Program& program) {
                         files::Exists(paths::Join(format.FormatFolder, format.FormatName)) &&
                         FileIsCurrent(program);
     if (onDisk) {
-        static_cast<void>(MakeDefault(program));
+        static_cast<void>(MakeDefault(program)); // what came of it has been told
         return;
     }
     program.format.FormatMakeDefault = true;

@@ -210,6 +210,7 @@ FormatSave SaveSteps(Program& program, const Name& name) {
         throw files::FileError(kSubscript, "Subscript out of range");
     }
     if (format.FormatMakeDefault) {
+        // The format is saved all the same; why it could not become the default has been told.
         static_cast<void>(MakeDefault(program));
     }
     format.FormatOpen = true;

@@ -120,6 +120,7 @@ void mnuEditLogoSave_Click(Program& program) {
     }
     settings.LogoLeft = logo.Left;
     settings.LogoTop = logo.Top;
+    // What came of it was told; the logo stands where it is either way.
     static_cast<void>(modSettings::Store(program, {{Key::LogoFile, settings.LogoFile},
                                                    {Key::LogoLeft, numbers::PlainNumber(logo.Left)},
                                                    {Key::LogoTop, numbers::PlainNumber(logo.Top)}}));

@@ -24,7 +24,7 @@ bool MayOverwrite(const Program& program, std::string_view path, const files::Se
 void WriteOver(std::string_view path, std::string_view bytes, files::Seen& seen) {
     if (files::ExistsExactly(path) &&
         (seen.Was == files::Seen::What::Unread || files::LookAt(path).Was == files::Seen::What::Unread)) {
-        static_cast<void>(files::KeepUnread(path));
+        static_cast<void>(files::KeepUnread(path)); // under which name matters to nobody here
     }
     files::WriteWhole(path, bytes);
     seen = files::SeenIn(bytes);

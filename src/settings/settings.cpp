@@ -197,6 +197,7 @@ void PutInForce(Program& program) {
     Printers& printers = program.platform.printers;
     run.NoPrinter = printers.Names().empty();
     if (!settings.DefaultPrinter.empty()) {
+        // One that is gone leaves the system's own in its place, which the printer window shows.
         static_cast<void>(printers.MakeCurrent(settings.DefaultPrinter));
     }
 }

@@ -332,6 +332,7 @@ void FieldDblClick(Program& program, const FieldRef& field, int position) {
     if (program.main.Focus == focus && modFields::Area(program, field).Text == before) {
         modText::MarkWordAt(program, field, position);
     }
+    ShowCaret(program);
 }
 
 void PageMouseDown(Program& program, int button, float x, float y) {

@@ -81,7 +81,7 @@ void LoadSteps(Program& program) {
             modPages::SetUpPage(program, page);
         }
         modPages::ApplyPageFonts(program);
-        static_cast<void>(modReset::StartNewFile(program));
+        static_cast<void>(modReset::StartNewFile(program)); // no format is open that could refuse it
         modPages::SnapshotLabels(program);
         if (!program.run.TermsPinned) {
             program.run.FUTFileName = "Default Terms.fut";

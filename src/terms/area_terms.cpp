@@ -34,7 +34,7 @@ void FollowWindow(Program& program) {
 } // namespace
 
 void AddTermFromArea(Program& program) {
-    static_cast<void>(AddTerm(program, text::Lower(Selection(program))));
+    static_cast<void>(AddTerm(program, text::Lower(Selection(program)))); // what came of it has been told
     FollowWindow(program);
 }
 
@@ -53,7 +53,7 @@ void mnuEditTextDeleteFUT_Click(Program& program) {
     if (line.empty() || (!there && program.terms.ReadWhole)) {
         return;
     }
-    static_cast<void>(RemoveTerm(program, {line}));
+    static_cast<void>(RemoveTerm(program, {line})); // what came of it has been told
     FollowWindow(program);
 }
 

@@ -112,6 +112,7 @@ void frmFUT::Remove(Program& program) {
         Tell(program, "Nothing selected to remove.");
         return;
     }
+    // What came of it has been told.
     static_cast<void>(modTerms::RemoveTerm(program, {*term, lstFUT.ListIndex}));
     FollowList(program);
 }

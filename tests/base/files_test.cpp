@@ -236,4 +236,21 @@ TEST(Rows, OfAListBeginAtNoughtAndEndBeforeItsSize) {
     EXPECT_FALSE(HasRow(std::vector<int>{}, 0));
 }
 
+TEST(RecordFiles, AFileThatIsCutShortMeanwhileGivesWhatIsLeft) {
+    const ScratchFolder folder;
+    folder.Write("a", "0123456789");
+    const files::RecordReader reader(folder / "a");
+    EXPECT_EQ(reader.Length(), 10U);
+    std::string bytes = "what stood here before";
+    reader.Read(2, 4, bytes);
+    EXPECT_EQ(bytes, "2345");
+    reader.Read(8, 4, bytes);
+    EXPECT_EQ(bytes, "89");
+    reader.Read(10, 4, bytes);
+    EXPECT_EQ(bytes, "");
+    ASSERT_EQ(::truncate((folder / "a").c_str(), 3), 0);
+    reader.Read(0, 10, bytes);
+    EXPECT_EQ(bytes, "012");
+}
+
 } // namespace

@@ -585,4 +585,20 @@ TEST(Deposits, SaveAsInheritsNobodyElses) {
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Second.dep.old"), "older");
 }
 
+TEST(Deposits, WhatIsTypedLeavesNothingMarked) {
+    Deposited run;
+    frmDeposits& window = run.Open();
+    for (EntryBox* box : {&window.txtName, &window.txtDate, &window.txtAmount}) {
+        box->SelLength = 3;
+    }
+    window.txtName_Change(run.program, "J. Roe");
+    window.txtDate_Change(run.program, "1/1/2008");
+    window.txtAmount_Change(run.program, "5");
+    for (const EntryBox* box : {&window.txtName, &window.txtDate, &window.txtAmount}) {
+        EXPECT_EQ(box->SelLength, 0) << box->Text;
+        EXPECT_EQ(box->BackColor, colors::kWhite) << box->Text;
+    }
+    EXPECT_TRUE(window.SaveIsDefault);
+}
+
 } // namespace

@@ -1,4 +1,5 @@
 #include "editing/columns.h"
+#include "editing/leaving.h"
 #include "editing/row_texts.h"
 #include "editing/text_menu.h"
 #include "editing/typing.h"
@@ -734,6 +735,26 @@ TEST(Refire, RunsEveryHandlerWithTheRealText) {
     run.program.document.FileName.clear();
     modText::RefireTextChanges(run.program, kFirst);
     EXPECT_EQ(run.program.document.FileName, "") << "the detour makes no file name";
+}
+
+TEST(Entering, AnAreaFindsNoWordUnderWayAndNoMoveIsDisturbed) {
+    RunningProgram run;
+    EditingState& editing = run.program.editing;
+    editing.ACActive[PageId::frmP2] = true;
+    editing.Words[PageId::frmP2].InWord = true;
+    editing.EmptiedAmount = FieldRef{PageId::frmP2, FieldKind::txt, 36};
+    editing.MoveInProgress = true;
+    modText::txt_GotFocus(run.program, PageId::frmP2, 5);
+    EXPECT_TRUE(editing.ACActive[PageId::frmP2]) << "a move passes through";
+    editing.MoveInProgress = false;
+    modText::txt_GotFocus(run.program, PageId::frmP2, 5);
+    EXPECT_FALSE(editing.ACActive[PageId::frmP2]);
+    EXPECT_FALSE(editing.Words[PageId::frmP2].InWord);
+    EXPECT_FALSE(editing.EmptiedAmount);
+    EXPECT_EQ(editing.CurrentArea, 5);
+    EXPECT_EQ(run.program.main.ActivePage, PageId::frmP2);
+    EXPECT_EQ(run.program.main.CurrentPage, 1);
+    EXPECT_EQ(editing.CurrentWidth, run.Area(PageId::frmP2, 5).Width);
 }
 
 } // namespace

@@ -22,6 +22,7 @@
 
 #include <gtest/gtest.h>
 #include <random>
+#include <utility>
 
 namespace {
 
@@ -166,11 +167,12 @@ TEST(FormatFile, AnOpenedProposalIsTheSameUnderAFormatThatFillsEveryRow) {
             std::vector<std::string> lines;
             for (int page = 0; page < 5; ++page) {
                 for (int index = 0; index <= geometry::LastText(PageAt(page)); ++index) {
-                    const std::string at = "frmP" + std::to_string(page + 1);
-                    const std::string place = "(" + std::to_string(index) + ")";
-                    lines.push_back(at + ".txt" + place + ".Text=7");
-                    lines.push_back(at + ".txt" + place + ".TaxExempt=True");
-                    lines.push_back(at + ".txq" + place + ".QtyBox=True .QtyValue=2 .AmtValue=3");
+                    for (const char* value : {".txt(%).Text=7", ".txt(%).TaxExempt=True",
+                                              ".txq(%).QtyBox=True .QtyValue=2 .AmtValue=3"}) {
+                        std::string line = "frmP" + std::to_string(page + 1) + value;
+                        line.replace(line.find('%'), 1, std::to_string(index));
+                        lines.push_back(std::move(line));
+                    }
                 }
             }
             run.Lay(lines);
@@ -421,10 +423,10 @@ std::string RoundTrip(Laid& run, const std::vector<std::string>& start, unsigned
     run.Lay(first);
     const auto second = Written(run.program);
     for (std::size_t at = 0; at < std::max(first.size(), second.size()); ++at) {
-        const std::string one = at < first.size() ? first[at] : "(nothing)";
+        std::string one = at < first.size() ? first[at] : "(nothing)";
         const std::string other = at < second.size() ? second[at] : "(nothing)";
         if (one != other) {
-            return one + "\n" + other;
+            return one.append("\n").append(other);
         }
     }
     return "";
@@ -497,6 +499,21 @@ TEST(CompanyLines, ThatAFormatCarriesChangeWithTheSettingsAndAreToSave) {
     EXPECT_EQ(run.Label(PageId::frmP1, 1).Caption, "Round the corner");
     EXPECT_EQ(run.program.format.FormatLabelChanges.Each[0][0].Caption, "Acme and Daughters");
     EXPECT_FALSE(run.program.format.FormatLabelChanges.Each[0][0].Saved);
+}
+
+TEST(PropertyLines, AFaultInALineOfAnyKindEndsTheReading) {
+    for (const char* fault : {"frmP1.txt(10).FontBold=Perhaps", "frmP1.lbl(9).Left=far",
+                              "UDP.FontName=Arial .FontSize=big .FontColor=0 .FontItalic=False"}) {
+        Laid run;
+        run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+        run.folder.Write("Proposals/Jane Roe.hpf", "frmP1.txt(12).FontBold=True\r\n" + std::string(fault) +
+                                                       "\r\nfrmP1.txt(11).FontBold=True\r\n");
+        run.surroundings.questions.Expect("The layout of this proposal was read only up to line 1.");
+        run.Open("Jane Roe.hef");
+        run.surroundings.questions.Done();
+        EXPECT_TRUE(run.Area(PageId::frmP1, 12).FontBold) << fault;
+        EXPECT_FALSE(run.Area(PageId::frmP1, 11).FontBold) << fault;
+    }
 }
 
 } // namespace

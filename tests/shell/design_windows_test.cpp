@@ -4,6 +4,7 @@
 #include "format/label_commit.h"
 #include "format/label_designer.h"
 #include "format/label_selection.h"
+#include "format/logo.h"
 #include "program/windows.h"
 #include "proposal/reset.h"
 #include "support/person.h"
@@ -184,6 +185,50 @@ TEST(TitleWindow, OpensWithBothBoxesMarkedAndClearsOneByOne) {
     EXPECT_EQ(window.FocusNext, "txtTitle");
     EXPECT_TRUE(window.TitleChanged);
     EXPECT_EQ(window.txtSubTitle.Text, sub);
+}
+
+TEST(LabelDrag, ALabelThatWasLetGoStaysWhereItIs) {
+    Designed run;
+    run.program.format.SnapTwips = 180;
+    const float left = run.Label(PageId::frmP1, 9).Left;
+    lbl_MouseDown(run.program, PageId::frmP1, 9, kLeftButton, 10, 10);
+    EXPECT_FALSE(lbl_MouseMove(run.program, PageId::frmP1, 10, 910, 10)) << "another one is held";
+    EXPECT_TRUE(lbl_MouseMove(run.program, PageId::frmP1, 9, 910, 10));
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, left + 180);
+    lbl_MouseUp(run.program, PageId::frmP1, 9);
+    EXPECT_FALSE(lbl_MouseMove(run.program, PageId::frmP1, 9, 910, 10));
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, left + 180);
+}
+
+TEST(LogoDrag, GoesByTheSnapAndBelongsToTheFormatWhereItWasLetGo) {
+    Designed run;
+    run.program.format.SnapTwips = 180;
+    run.program.settings.LogoFile = "/srv/logo.png";
+    PagePicture& logo = run.program.pages[PageId::frmP1].pic;
+    logo.Left = 720;
+    logo.Top = 540;
+    modLogo::pic_MouseDown(run.program, kRightButton, 10, 10);
+    EXPECT_FALSE(modLogo::pic_MouseMove(run.program, 910, 910)) << "the right button holds nothing";
+    modLogo::pic_MouseDown(run.program, kLeftButton, 10, 10);
+    EXPECT_TRUE(modLogo::pic_MouseMove(run.program, 190, 190));
+    EXPECT_EQ(logo.Left, 900);
+    EXPECT_EQ(logo.Top, 720);
+    EXPECT_FALSE(run.program.format.Touched);
+    modLogo::pic_MouseUp(run.program);
+    EXPECT_FALSE(modLogo::pic_MouseMove(run.program, 910, 910));
+    EXPECT_EQ(logo.Left, 900);
+    const FormatRecords& format = run.program.format;
+    EXPECT_EQ(format.LogoLeft, 900);
+    EXPECT_EQ(format.LogoTop, 720);
+    EXPECT_EQ(format.LogoPath, "/srv/logo.png");
+    EXPECT_TRUE(format.LogoChanged);
+    EXPECT_TRUE(format.Touched);
+    EXPECT_EQ(run.program.main.Notice, "Kept only by a format or by Save this Logo as Default.");
+    modLogo::pic_DblClick(run.program);
+    EXPECT_EQ(logo.ToolTipText, " Left = 900, Top = 720");
+    run.program.settings.LogoFile = "/srv/other.png";
+    modLogo::pic_MouseUp(run.program);
+    EXPECT_EQ(format.LogoPath, "/srv/logo.png") << "the format has one already";
 }
 
 } // namespace

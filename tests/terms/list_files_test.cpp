@@ -353,4 +353,23 @@ TEST(Lists, ALineThatTheListDoesNotHoldIsReplacedByNothingThoughItWasNotReadYet)
     EXPECT_EQ(run.OnDisk(), "Chair");
 }
 
+TEST(Lists, EscapeLeavesTheListOfListsAndThenTheWindow) {
+    TermsRun run("Chair");
+    frmFUT& window = run.List();
+    window.mnuFileShowAll_Click(run.program);
+    run.program.main.BringUp = false;
+    window.Form_Escape(run.program);
+    EXPECT_FALSE(window.lstMoreFUT.Visible);
+    EXPECT_TRUE(window.lstFUT.Visible);
+    for (const CommandButton& button : window.cmdOpt) {
+        EXPECT_TRUE(button.Enabled);
+    }
+    for (const CommandButton& button : window.cmdCase) {
+        EXPECT_TRUE(button.Enabled);
+    }
+    EXPECT_FALSE(run.program.main.BringUp);
+    window.Form_Escape(run.program);
+    EXPECT_TRUE(run.program.main.BringUp);
+}
+
 } // namespace
