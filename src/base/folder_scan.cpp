@@ -9,12 +9,12 @@
 #include <atomic>
 #include <cerrno>
 #include <cstdio>
+#include <deque>
 #include <optional>
 #include <stop_token>
 #include <system_error>
 #include <thread>
 #include <utility>
-#include <vector>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -87,7 +87,7 @@ struct Wanted {
 /// Reads the heads of files whose `Bytes` have the room for them. What `goOn` lets run between them may take
 /// its time; a large folder is read on by a second thread meanwhile, which touches nothing but the files that
 /// it takes. False when `goOn` has ended it.
-bool ReadHeads(int folder, std::vector<Wanted>& files, const std::function<bool()>& goOn) {
+bool ReadHeads(int folder, std::deque<Wanted>& files, const std::function<bool()>& goOn) {
     constexpr std::size_t kAtOnce = 4, kWorthAThread = 1000;
     std::atomic<std::size_t> next{0};
     const auto takeSome = [&] {
@@ -178,7 +178,7 @@ void ScanHeads(std::string_view folder, std::string_view ending, std::size_t mos
     }
     const OnLeaving close([listing] { ::closedir(listing); });
     const int handle = ::dirfd(listing);
-    std::vector<Wanted> wanted;
+    std::deque<Wanted> wanted; // none of many is moved as it grows
     while (const dirent* entry = NextIn(listing, folder)) {
         if (goOn && !goOn()) {
             return;

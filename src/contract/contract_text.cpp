@@ -28,7 +28,7 @@ bool ContractText::EndsParagraph(int line) const {
 
 int ContractText::FilledCount() const {
     int filled = LineCount();
-    while (filled > 0 && LineLength(filled - 1) == 0) {
+    while (filled > 0 && text::Trim(LineText(filled - 1)).empty()) {
         --filled;
     }
     return filled;

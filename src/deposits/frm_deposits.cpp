@@ -304,13 +304,14 @@ void frmDeposits::mnuEditItem_Click(Program& program) {
     txtAmount_Change(program, modDeposits::AmountTextOf(item));
     touched_ = true;
     notAdded_ = false; // the list has it still
-    txtDate.SelectAll();
-    txtAmount.SelLength = 0;
-    txtName.SelLength = 0;
+    for (EntryBox* box : {&txtDate, &txtAmount, &txtName}) {
+        box->SelLength = 0;
+    }
     ActiveControl = "txtDate";
     Tell(program,
          "The selected item has been placed in the Date Received and Amount boxes. Edit in these areas and "
          "click \"Save to List\".");
+    txtDate.SelectAll(); // behind the message, which may take a mark away with the keyboard
 }
 
 void frmDeposits::mnuEditDelete_Click(Program& program) {

@@ -117,7 +117,7 @@ TEST(Contract, ThirtyFiveLinesAreRefusedAndTheWindowStays) {
 TEST(Contract, EmptyLinesAtTheEndDoNotCount) {
     Contracted run;
     frmEditor& window = run.Open();
-    run.Replace(window, Contracted::Lines(34) + "\r\n\r\n\r\n");
+    run.Replace(window, Contracted::Lines(34) + "\r\n\r\n   \r\n"); // blanks are no words either
     window.cmdLines_Click(run.program);
     EXPECT_EQ(window.BackColor, colors::kWhite);
     window.cmdLines_Click(run.program);

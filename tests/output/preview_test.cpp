@@ -190,7 +190,7 @@ TEST(Preview, ResumingShowsEveryKindOfControlThatIsNotTaggedHide) {
     for (PageLine& line : page.lne) {
         line.Visible = false;
     }
-    modPrint::ResumeEditing(run.program, PageId::frmP2);
+    modPreview::ResumeEditing(run.program, PageId::frmP2);
     each([&](const auto& control) { EXPECT_EQ(control.Visible, control.Tag != kHide); });
     for (const PageLine& line : page.lne) {
         EXPECT_TRUE(line.Visible);
