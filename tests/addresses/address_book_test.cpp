@@ -344,6 +344,16 @@ TEST(AddressBook, ADeleteHighInTheListSelectsTheRowThatMovesIn) {
     EXPECT_EQ(run.Text(0), "Ben Birch");
 }
 
+TEST(AddressBook, TheRecordThatIsLeftAfterADeleteIsShownAndMarked) {
+    AddressRun run;
+    frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash", "Ben Birch"}));
+    window.lstNames_Click(run.program, 0);
+    run.Questions().Expect("Delete this record?", Answer::Yes);
+    run.Run(Id::mnuFileDelete);
+    EXPECT_EQ(run.Text(0), "Ben Birch");
+    EXPECT_EQ(window.lstNames.ListIndex, 0);
+}
+
 TEST(AddressBook, ANoLeavesTheRecordAndReturnsToTheField) {
     AddressRun run;
     frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash"}));

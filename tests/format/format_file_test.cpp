@@ -516,4 +516,15 @@ TEST(PropertyLines, AFaultInALineOfAnyKindEndsTheReading) {
     }
 }
 
+TEST(PropertyLines, ARowWithColumnsAndNothingInThemChangesNoProposal) {
+    Laid run;
+    run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+    run.folder.Write("Proposals/Jane Roe.hpf", "frmP5.txq(20).QtyBox=True\r\n");
+    run.Open("Jane Roe.hef");
+    ASSERT_TRUE(modPages::ColumnsOn(run.program, PageId::frmP5, 20));
+    EXPECT_EQ(run.program.document.SavedTextBuf[PageId::frmP5][20],
+              run.program.document.CurrentTextBuf[PageId::frmP5][20]);
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
+}
+
 } // namespace

@@ -52,7 +52,9 @@ TEST(PagesInUse, ARowWithColumnsAndNothingInThemIsNoLine) {
     SetLine(run, PageId::frmP5, 3, "\xA5\xA5\xA7");
     modPageCount::CountPagesInUse(run.program);
     EXPECT_EQ(run.program.document.PagesInUse, 2);
-    SetLine(run, PageId::frmP5, 3, "\xA5Qty.\xA5\xA7Amt.");
+    SetLine(run, PageId::frmP5, 3,
+            "\xA5Qty.\xA5\xA7"
+            "Amt.");
     modPageCount::CountPagesInUse(run.program);
     EXPECT_EQ(run.program.document.PagesInUse, 6);
 }

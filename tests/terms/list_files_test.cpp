@@ -3,6 +3,7 @@
 #include "program/keys.h"
 #include "support/person.h"
 #include "support/typist.h"
+#include "terms/area_terms.h"
 #include "terms/open_list.h"
 
 #include <gtest/gtest.h>
@@ -370,6 +371,20 @@ TEST(Lists, EscapeLeavesTheListOfListsAndThenTheWindow) {
     EXPECT_FALSE(run.program.main.BringUp);
     window.Form_Escape(run.program);
     EXPECT_TRUE(run.program.main.BringUp);
+}
+
+TEST(TermsWindow, ShowsAtOnceWhatAnAreaAddsAndTakesAway) {
+    TermsRun run("Chair");
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 3);
+    typist.Type("bench");
+    typist.PutCursor(0, 5);
+    modTerms::AddTermFromArea(run.program);
+    EXPECT_EQ(run.InMemory(), "Chair|bench|");
+    run.List().lstFUT.ListIndex = 1;
+    modTerms::mnuEditTextDeleteFUT_Click(run.program);
+    EXPECT_EQ(run.InMemory(), "Chair|");
+    EXPECT_EQ(run.List().lstFUT.ListIndex, 0) << "the row that was chosen has gone";
 }
 
 } // namespace
