@@ -21,6 +21,7 @@
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
+#include <limits>
 #include <memory>
 #include <string>
 #include <vector>
@@ -141,9 +142,11 @@ void CalendarBesideARawRead(benchmark::State& state) {
     modCalendar::mnuViewEventDates_Click(desktop.program);
     desktop.window->AfterEvent();
     desktop.events.Longest = 0; // filling the folder was nobody's wait
-    double raw = 0;
-    double listing = 0;
-    double calendar = 0;
+    // Of each the quickest round: what else the machine has to do only adds to it.
+    constexpr double kNever = std::numeric_limits<double>::max();
+    double raw = kNever;
+    double listing = kNever;
+    double calendar = kNever;
     for (auto _ : state) {
         const auto start = Clock::now();
         const std::vector<std::string> names = Names(folder);
@@ -155,21 +158,20 @@ void CalendarBesideARawRead(benchmark::State& state) {
         desktop.window->AfterEvent();
         QCoreApplication::processEvents(); // the list is on the screen
         const auto shown = Clock::now();
-        calendar += Milliseconds(shown - read);
+        calendar = std::min(calendar, Milliseconds(shown - read));
         // Nobody was answered either while the list was sorted and painted.
         desktop.events.Longest = std::max(desktop.events.Longest, Milliseconds(shown - desktop.events.Last));
-        listing += Milliseconds(listed - start);
-        raw += Milliseconds(read - listed);
+        listing = std::min(listing, Milliseconds(listed - start));
+        raw = std::min(raw, Milliseconds(read - listed));
     }
-    const auto rounds = static_cast<double>(state.iterations());
-    state.counters["raw_ms"] = raw / rounds;
-    state.counters["listing_ms"] = listing / rounds;
-    state.counters["calendar_ms"] = calendar / rounds;
+    state.counters["raw_ms"] = raw;
+    state.counters["listing_ms"] = listing;
+    state.counters["calendar_ms"] = calendar;
     state.counters["times_raw"] = calendar / raw;
     state.counters["times_raw_and_listing"] = calendar / (raw + listing);
     state.counters["longest_silence_ms"] = desktop.events.Longest;
 }
-BENCHMARK(CalendarBesideARawRead)->Arg(0)->Arg(90000)->Iterations(10)->Unit(benchmark::kMillisecond);
+BENCHMARK(CalendarBesideARawRead)->Arg(0)->Arg(90000)->Iterations(20)->Unit(benchmark::kMillisecond);
 
 /// A text of 20,000 characters: in paragraphs, and as one.
 void KeyInALongContract(benchmark::State& state) {

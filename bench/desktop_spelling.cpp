@@ -42,7 +42,7 @@ BENCHMARK(LoadingOfTheDictionary)->Unit(benchmark::kMillisecond);
 
 void DocumentOfAFullProposal(benchmark::State& state) {
     FullProposal full;
-    modPrint::CountPagesInUse(full.program);
+    modPageCount::CountPagesInUse(full.program);
     const std::vector<DocumentLine> lines = modExport::ProposalLines(full.program);
     for (auto _ : state) {
         benchmark::DoNotOptimize(odt::Make(lines));

@@ -323,6 +323,7 @@ BENCHMARK(LayAFormatToPaintedFrame)->Unit(benchmark::kMillisecond);
 void TwoThousandFamiliesToPaintedFrame(benchmark::State& state) {
     std::vector<std::string> families;
     constexpr int kFamilies = 2000;
+    families.reserve(kFamilies);
     for (int family = 0; family < kFamilies; ++family) {
         families.push_back("Family " + std::to_string(family));
     }
@@ -424,6 +425,7 @@ QByteArray PagesToPdf(const Desktop& desktop, std::span<const PageId> ids) {
         records.push_back(std::move(surface.Record));
     }
     std::vector<const PaperRecord*> pages;
+    pages.reserve(records.size());
     for (const PaperRecord& record : records) {
         pages.push_back(&record);
     }
@@ -461,7 +463,7 @@ void PrintAllPagesIntoAFile(benchmark::State& state) {
     Desktop desktop;
     FillEveryRow(desktop.program);
     static_cast<void>(desktop.qt.printers.MakeCurrent("Print to PDF"));
-    const QString file = QString::fromStdString(desktop.folder / "out.pdf");
+    QString file = QString::fromStdString(desktop.folder / "out.pdf");
     desktop.qt.printers.AskForFile = [file](const QString&) { return file; };
     for (auto _ : state) {
         modPrint::mnuFilePrintAll_Click(desktop.program);
@@ -481,7 +483,7 @@ void PreviewToggle(benchmark::State& state) {
     for (auto _ : state) {
         for (auto* spans : {&begin, &end}) {
             const auto start = Clock::now();
-            modPrint::TogglePreview(desktop.program);
+            modPreview::TogglePreview(desktop.program);
             desktop.window->AfterEvent();
             QCoreApplication::processEvents();
             spans->push_back(Milliseconds(Clock::now() - start));

@@ -4,6 +4,7 @@
 #include "pages/fields.h"
 #include "shell/main_load.h"
 #include "shell/wiring.h"
+#include "support/answered_by.h"
 #include "support/recording_platform.h"
 #include "support/scratch_folder.h"
 
@@ -24,18 +25,7 @@ struct FullProposal {
     ScratchFolder folder;
     Agreeing agreeing;
     RecordingPlatform recording;
-    Platform platform{.questions = agreeing,
-                      .measure = recording.measure,
-                      .printers = recording.printers,
-                      .screen = recording.screen,
-                      .clipboard = recording.clipboard,
-                      .shell = recording.shell,
-                      .clock = recording.clock,
-                      .instance = recording.instance,
-                      .pictures = recording.pictures,
-                      .events = recording.events,
-                      .words = recording.words,
-                      .dictionaries = recording.dictionaries};
+    Platform platform{AnsweredBy(agreeing, recording)};
     Program program{platform};
 
     FullProposal() {

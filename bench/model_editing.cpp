@@ -38,7 +38,7 @@ struct PricedPage : FullProposal {
 void MoveOfThirtyRowsWithColumns(benchmark::State& state) {
     PricedPage page;
     Program& program = page.program;
-    modBlocks::Form_MouseDown(program, kPage, 1, 800, 1700);
+    modBlocks::Form_MouseDown(program, 1, 800, 1700);
     modBlocks::Form_MouseMove(program, kPage, 1, 11400, 1800 + 360 * kRows - 20);
     modBlocks::Form_MouseUp(program, kPage, 1, 11400, 1800 + 360 * kRows - 20);
     if (program.editing.Block.SelectedCount != 2 * kRows) {
@@ -86,7 +86,7 @@ void ABlankThatPushesThroughThirtyRows(benchmark::State& state) {
         for (int row = 0; row <= kRows; ++row) {
             modFields::SetText(program, Text(row), row < kRows ? line : "");
         }
-        modInput::FieldMouseDown(program, Text(0), 1, 0, 3, 0);
+        modInput::FieldMouseDown(program, Text(0), 1, 3, 0);
         program.editing.KeyCounter = 0;
         state.ResumeTiming();
         benchmark::DoNotOptimize(modInput::KeyDown(program, ' ', 0, 3, 0));

@@ -19,7 +19,7 @@ namespace {
 void KeyThroughTheChangePipeline(benchmark::State& state) {
     FullProposal full;
     const FieldRef field{PageId::frmP1, FieldKind::txt, 12};
-    modInput::FieldMouseDown(full.program, field, 1, 0, 0, 0);
+    modInput::FieldMouseDown(full.program, field, 1, 0, 0);
     const std::string one = "Chairs with covers, set up in the hall";
     const std::string other = one + "s";
     bool longer = false;

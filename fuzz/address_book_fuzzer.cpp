@@ -3,6 +3,7 @@
 #include "addresses/address_search.h"
 #include "addresses/frm_address.h"
 #include "program/program.h"
+#include "support/answered_by.h"
 #include "support/recording_platform.h"
 
 #include <cstdint>
@@ -29,18 +30,7 @@ public:
 struct Machine {
     WillingQuestions willing;
     RecordingPlatform recording;
-    Platform platform{.questions = willing,
-                      .measure = recording.measure,
-                      .printers = recording.printers,
-                      .screen = recording.screen,
-                      .clipboard = recording.clipboard,
-                      .shell = recording.shell,
-                      .clock = recording.clock,
-                      .instance = recording.instance,
-                      .pictures = recording.pictures,
-                      .events = recording.events,
-                      .words = recording.words,
-                      .dictionaries = recording.dictionaries};
+    Platform platform{AnsweredBy(willing, recording)};
     Program program{platform};
     std::filesystem::path folder =
         std::filesystem::temp_directory_path() / ("address-book-fuzzer-" + std::to_string(::getpid()));

@@ -8,14 +8,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Program& program = machine.program;
     machine.Reset();
     program.format.PropertyLines = text::SplitLines({reinterpret_cast<const char*>(data), size});
-    modFormat::ParsePropertyFile(program);
-    const std::vector<std::string> first = modFormat::PropertyLinesNow(program);
+    modProperties::ParsePropertyFile(program);
+    const std::vector<std::string> first = modProperties::PropertyLinesNow(program);
     if (machine.HoldsUnkeepable()) {
         return 0;
     }
     machine.Reset();
     program.format.PropertyLines = first;
-    modFormat::ParsePropertyFile(program);
+    modProperties::ParsePropertyFile(program);
     Require(!program.format.PropertyLinesRead.has_value()); // the program reads all that it writes
     return 0;
 }

@@ -3,6 +3,7 @@
 #include "program/program.h"
 #include "shell/main_load.h"
 #include "shell/wiring.h"
+#include "support/answered_by.h"
 #include "support/recording_platform.h"
 
 #include <cstdio>
@@ -30,18 +31,7 @@ protected:
 struct QuietMachine {
     QuietQuestions quiet;
     RecordingPlatform recording;
-    Platform platform{.questions = quiet,
-                      .measure = recording.measure,
-                      .printers = recording.printers,
-                      .screen = recording.screen,
-                      .clipboard = recording.clipboard,
-                      .shell = recording.shell,
-                      .clock = recording.clock,
-                      .instance = recording.instance,
-                      .pictures = recording.pictures,
-                      .events = recording.events,
-                      .words = recording.words,
-                      .dictionaries = recording.dictionaries};
+    Platform platform{AnsweredBy(quiet, recording)};
     Program program{platform};
 
     explicit QuietMachine(const std::string& folder) {

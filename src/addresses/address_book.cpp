@@ -69,7 +69,6 @@ void ShowNothing(Program& program, AddressWindow& window) {
     ForgetRecord(program);
     FillFields(program, window, {});
     ForgetChanges(program, window);
-    program.addresses.AddressNameChanged = false;
     // What is typed now belongs to no record of the book.
     program.addresses.AddressRecordNew = true;
     EnableRecordCommands(window, false);
@@ -91,7 +90,7 @@ void KeepAsNew(Program& program, AddressWindow& window) {
     book.AddressSaveCancelled = true;
 }
 
-bool RefusedAsEmpty(Program& program, AddressWindow& window, const AddressFields& fields) {
+bool RefusedAsEmpty(const Program& program, AddressWindow& window, const AddressFields& fields) {
     if (text::Trim(fields[kNameField]).empty()) {
         Tell(program, "Cannot save record... no name given.");
         WantFocus(window, kNameField);
@@ -150,9 +149,10 @@ std::int32_t RecordOfRow(const Program& program, const AddressWindow& window, in
     const std::string wanted = StoredName(book.Book, chosen.Text);
     int left = DuplicateNumber(window.lstNames.Rows, row);
     const std::string names = ReadNames(program);
-    for (std::size_t at = 0; at < names.size(); at += kNameWidth) {
-        if (std::string_view(names).substr(at, kNameWidth) == wanted && --left == 0) {
-            return static_cast<std::int32_t>(at / kNameWidth) + 1;
+    std::string_view ahead = names;
+    for (std::int32_t number = 1; ahead.size() >= kNameWidth; ++number, ahead.remove_prefix(kNameWidth)) {
+        if (ahead.starts_with(wanted) && --left == 0) {
+            return number;
         }
     }
     return 0;
@@ -279,7 +279,6 @@ void ShowAddressRecord(Program& program, AddressWindow& window) {
     }
     ForgetChanges(program, window);
     book.AddressRecordNew = false;
-    book.AddressNameChanged = false;
     const std::string& name = window.txt[kNameField].Text;
     window.Caption = book.AddressBookLabel + name + "/Record " + std::to_string(book.CurrentAddressRecord) +
                      " of " + std::to_string(book.AddressRecordCount) + " Displayed";
@@ -311,9 +310,6 @@ Outcome SaveAddressRecord(Program& program, AddressWindow& window) {
     }
     book.AddressSaveCancelled = false;
     TellSaved(program, "Address", BookPath(program));
-    ForgetChanges(program, window);
-    book.AddressNameChanged = false;
-    book.AddressRecordNew = false;
     ReadAddressList(program, window);
     ShowAddressRecord(program, window);
     MarkCurrentRow(program, window);

@@ -52,7 +52,7 @@ void ColourField(AddressField& field, std::string_view tip, bool changed) {
 
 } // namespace
 
-void SetUpFields(Program& program, AddressWindow& window) {
+void SetUpFields(const Program& program, AddressWindow& window) {
     for (int index = 0; index < kAddressFieldCount; ++index) {
         AddressField& field = window.txt[static_cast<std::size_t>(index)];
         field.Tag = std::to_string(PlaceOf(index).Width);
@@ -62,7 +62,7 @@ void SetUpFields(Program& program, AddressWindow& window) {
     SetCaptions(program, window);
 }
 
-void SetCaptions(Program& program, AddressWindow& window) {
+void SetCaptions(const Program& program, AddressWindow& window) {
     for (int index = 0; index < kAddressFieldCount; ++index) {
         window.lblInfo[static_cast<std::size_t>(index)].Caption = CaptionOf(program.addresses.Book, index);
     }

@@ -14,8 +14,8 @@ struct Program;
 namespace modAddress {
 
 /// Limits into the tags, captions of the current book, no focus yet.
-void SetUpFields(Program& program, AddressWindow& window);
-void SetCaptions(Program& program, AddressWindow& window);
+void SetUpFields(const Program& program, AddressWindow& window);
+void SetCaptions(const Program& program, AddressWindow& window);
 
 /// The fields' texts as they stand.
 [[nodiscard]] AddressFields TextsOf(const AddressWindow& window);

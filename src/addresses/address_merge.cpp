@@ -22,7 +22,7 @@ namespace modAddress {
 
 namespace {
 
-constexpr int kDateArea = 0;
+constexpr int kDateArea = 0, kNameArea = 2;
 
 struct AreaText {
     int Area;
@@ -33,12 +33,12 @@ FieldRef Client(int area) {
     return {PageId::frmP1, FieldKind::txt, area};
 }
 
-std::string AreaOf(Program& program, int area) {
+std::string AreaOf(const Program& program, int area) {
     return modFields::Area(program, Client(area)).Text;
 }
 
 /// The pages take no change while they are drawn or shown as they print.
-bool PagesBusy(Program& program) {
+bool PagesBusy(const Program& program) {
     if (program.printing.CommandRunning) {
         return true;
     }
@@ -56,7 +56,7 @@ void Write(Program& program, const AreaText& value) {
     modAreaColours::ColourAfterCommand(program, field);
 }
 
-Consent AskToReplace(Program& program, const std::vector<AreaText>& values) {
+Consent AskToReplace(const Program& program, const std::vector<AreaText>& values) {
     std::string words = "Replace what stands on page 1?";
     bool replaces = false;
     for (const AreaText& value : values) {
@@ -101,6 +101,17 @@ void MergeDate(Program& program, const std::string& date) {
     Write(program, {kDateArea, date});
 }
 
+/// A proposal that has a file keeps it, also when it becomes another client's. As a person types that, they
+/// see the name above the page stay; here they look at another window.
+void TellThatTheFileKeepsItsName(Program& program, const std::string& before) {
+    const DocumentState& document = program.document;
+    const std::string now = AreaOf(program, kNameArea);
+    if (document.FileExists && now != before) {
+        program.main.Notice = "The client is now " + now + "; the file is still " + document.FileName +
+                              ". Save As gives the proposal another.";
+    }
+}
+
 } // namespace
 
 Merged MergeClient(Program& program, AddressWindow& window) {
@@ -108,16 +119,18 @@ Merged MergeClient(Program& program, AddressWindow& window) {
     const bool business = program.addresses.Book == AddressBook::Business;
     const std::string street = fields[2].empty() ? fields[1] : fields[1] + " - " + fields[2];
     // A company's first telephone stands where a person's second one does.
-    const std::vector<AreaText> values{{2, fields[0]},
+    const std::vector<AreaText> values{{kNameArea, fields[0]},
                                        {3, street},
                                        {4, fields[3]},
                                        {5, business ? std::string() : fields[4]},
                                        {6, business ? fields[4] : fields[5]},
                                        {7, fields[6]}};
+    const std::string before = AreaOf(program, kNameArea);
     if (Merge(program, window, values) == Merged::No) {
         return Merged::No;
     }
     MergeDate(program, fields[kDateField]);
+    TellThatTheFileKeepsItsName(program, before);
     return Merged::Yes;
 }
 
@@ -134,7 +147,7 @@ void FillFromProposal(Program& program, AddressWindow& window) {
     }
 }
 
-void CopyRecord(Program& program, const AddressWindow& window, CopyWhat what) {
+void CopyRecord(const Program& program, const AddressWindow& window, CopyWhat what) {
     constexpr std::size_t kNameAndAddress = 4;
     const std::size_t count = what == CopyWhat::All ? window.txt.size() : kNameAndAddress;
     std::string lines;
@@ -146,7 +159,7 @@ void CopyRecord(Program& program, const AddressWindow& window, CopyWhat what) {
     program.platform.clipboard.SetText(lines);
 }
 
-void PrintRecord(Program& program, const AddressWindow& window) {
+void PrintRecord(const Program& program, const AddressWindow& window) {
     constexpr float kLeft = 720;
     constexpr float kTop = 720;
     constexpr float kTextLeft = 2700;

@@ -18,9 +18,9 @@ enum class Merged { Yes, No };
 void FillFromProposal(Program& program, AddressWindow& window);
 
 enum class CopyWhat { All, NameAndAddress };
-void CopyRecord(Program& program, const AddressWindow& window, CopyWhat what);
+void CopyRecord(const Program& program, const AddressWindow& window, CopyWhat what);
 
 /// One page: the book, then a line a field. Reports as "mnuFilePrint".
-void PrintRecord(Program& program, const AddressWindow& window);
+void PrintRecord(const Program& program, const AddressWindow& window);
 
 } // namespace modAddress

@@ -5,17 +5,17 @@
 
 namespace modAddress {
 
-void Tell(Program& program, std::string_view message) {
+void Tell(const Program& program, std::string_view message) {
     program.platform.questions.MsgBox(message, Buttons::Ok, "");
 }
 
-Consent AskOrNo(Program& program, std::string_view question, std::string_view title) {
+Consent AskOrNo(const Program& program, std::string_view question, std::string_view title) {
     const Answer answer =
         program.platform.questions.MsgBox(question, Buttons::YesNo, title, {.Default = Answer::No});
     return answer == Answer::Yes ? Consent::Given : Consent::Refused;
 }
 
-Consent AskToCut(Program& program, const std::vector<std::string>& captions) {
+Consent AskToCut(const Program& program, const std::vector<std::string>& captions) {
     std::string words = "These texts are longer than their place in the file and will be cut:";
     for (const std::string& caption : captions) {
         words += text::kCrLf;

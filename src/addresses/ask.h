@@ -9,12 +9,12 @@ struct Program;
 /// The questions of the address window whose harmless answer is the one that Enter gives.
 namespace modAddress {
 
-void Tell(Program& program, std::string_view message);
+void Tell(const Program& program, std::string_view message);
 
 enum class Consent { Given, Refused };
 /// Yes and No, default No.
-[[nodiscard]] Consent AskOrNo(Program& program, std::string_view question, std::string_view title);
+[[nodiscard]] Consent AskOrNo(const Program& program, std::string_view question, std::string_view title);
 /// "Save Anyway" and "Cancel", default Cancel, over the captions of the fields that would be cut.
-[[nodiscard]] Consent AskToCut(Program& program, const std::vector<std::string>& captions);
+[[nodiscard]] Consent AskToCut(const Program& program, const std::vector<std::string>& captions);
 
 } // namespace modAddress

@@ -170,7 +170,7 @@ void TakeRecords(BatchRecords& batch, batch_text::Records records) {
 }
 
 /// What of the clipboard a book can keep; the rest is told before a record is shown.
-std::string CopiedList(Program& program) {
+std::string CopiedList(const Program& program) {
     Clipboard::Taken taken = program.platform.clipboard.Take();
     if (taken.LeftOut > 0 && !taken.Text.empty()) {
         Tell(program,
@@ -312,7 +312,7 @@ void GoOn(Program& program, AddressWindow& window) {
 }
 
 /// The book that the records go into: the one on show, or the other when the person says so.
-std::optional<AddressBook> AskForTarget(Program& program) {
+std::optional<AddressBook> AskForTarget(const Program& program) {
     Questions& questions = program.platform.questions;
     const AddressBook shown = program.addresses.Book;
     switch (questions.MsgBox("This will save the Batch Records into the " +

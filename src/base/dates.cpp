@@ -117,7 +117,7 @@ public:
             date = true;
         }
         bool time = timeFirst;
-        if (!timeFirst && at_ < tokens_.size()) {
+        if (!timeFirst) {
             Skip(",");
             time = TakeTime(found);
         }

@@ -202,10 +202,12 @@ private:
 /// Digits with commas before a point, as nearly all amounts of a file are. Up to fifteen digits the quotient
 /// is exact to the last bit. Nothing when the text is anything else: it may still be a number.
 std::optional<double> PlainDecimal(std::string_view text) {
-    constexpr int kExactDigits = 15;
+    constexpr std::array kPowers{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    constexpr std::size_t kExactDigits = kPowers.size() - 1;
     std::int64_t whole = 0;
-    double scale = 1;
-    int digits = 0;
+    std::size_t digits = 0;
+    std::size_t decimals = 0;
     bool point = false;
     Groups groups;
     for (const char character : text) {
@@ -217,14 +219,15 @@ std::optional<double> PlainDecimal(std::string_view text) {
                 return std::nullopt;
             }
             whole = whole * 10 + (character - '0');
-            scale *= point ? 10 : 1;
+            decimals += point ? 1 : 0;
         } else if (character == '.' && !point && groups.Whole()) {
             point = true;
         } else if (character != ',' || point || digits == 0) {
             return std::nullopt;
         }
     }
-    return digits > 0 && groups.Whole() ? std::optional(static_cast<double>(whole) / scale) : std::nullopt;
+    return digits > 0 && groups.Whole() ? std::optional(static_cast<double>(whole) / kPowers[decimals])
+                                        : std::nullopt;
 }
 
 /// A number as digits and the place of its point: 0.d1d2d3... times ten to the exponent.

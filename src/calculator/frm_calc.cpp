@@ -121,7 +121,7 @@ bool frmCalc::txtR_MouseMove(Program& program) const {
     return ResultStands;
 }
 
-void frmCalc::Append(Program& program, std::string_view text, By by) {
+void frmCalc::Append(const Program& program, std::string_view text, By by) {
     if (NewEquation) {
         NewEquation = false;
         SetEquation("", 0);
@@ -195,7 +195,7 @@ void frmCalc::cmdCopy_Click(Program& program) {
     }
 }
 
-void frmCalc::ParseEquation(Program& program) {
+void frmCalc::ParseEquation(const Program& program) {
     const std::string equation = txtE.Text;
     if (modCalculator::IsPercentage(equation)) {
         program.platform.questions.MsgBox("Percent not functional yet.", Buttons::Ok, "");

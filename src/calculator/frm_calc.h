@@ -73,10 +73,10 @@ public:
     void cmdMem_Click(Program& program, int index);
     void cmdCopy_Click(Program& program);
 
-    void ParseEquation(Program& program);
+    void ParseEquation(const Program& program);
 
 private:
-    void Append(Program& program, std::string_view text, By by);
+    void Append(const Program& program, std::string_view text, By by);
     void SetEquation(std::string_view text, int selStart);
     void SeperateInputs();
     void Echo(bool calculated);

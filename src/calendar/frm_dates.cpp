@@ -2,6 +2,7 @@
 
 #include "base/dates.h"
 #include "base/guard.h"
+#include "base/rows.h"
 #include "calendar/move_proposals.h"
 #include "calendar/read_event_dates.h"
 #include "pages/fields.h"
@@ -14,6 +15,9 @@
 #include "proposal/property_file.h"
 #include "proposal/proposal_open.h"
 #include "proposal/reset.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace modCalendar {
 
@@ -54,6 +58,10 @@ void ViewEvents(Program& program, View view) {
     } else if (whole && !program.run.ProgramClosing) {
         modWindows::Show(program, std::make_unique<frmDates>());
     }
+}
+
+std::string Proposals(int count) {
+    return count == 1 ? "1 proposal" : std::to_string(count) + " proposals";
 }
 
 std::string Heading(const Program& program) {
@@ -135,9 +143,8 @@ void frmDates::Form_Follow(Program& program) {
     Entry("mnuOptUndoDelete").Enabled = !running && program.calendar.CanRestore;
     const int undated = program.calendar.Undated;
     lblUndated.Caption = undated == 0 ? ""
-                         : undated == 1
-                             ? "1 proposal has no date that can be read."
-                             : std::to_string(undated) + " proposals have no date that can be read.";
+                                      : modCalendar::Proposals(undated) + (undated == 1 ? " has" : " have") +
+                                            " no date that can be read.";
     lblUndated.ToolTipText.clear();
     for (const std::string& name : program.calendar.UndatedNames) {
         lblUndated.ToolTipText += (lblUndated.ToolTipText.empty() ? "" : "\r\n") + name;
@@ -148,9 +155,17 @@ void frmDates::Form_Follow(Program& program) {
 }
 
 void frmDates::TakeRows(Program& program) {
+    const std::vector<EventRow>& rows = program.calendar.Rows;
     lstDates.Clear();
-    for (const EventRow& row : program.calendar.Rows) {
-        lstDates.Add(row.Date + '\t' + row.File);
+    lstDates.Items.reserve(rows.size());
+    lstDates.Selected.reserve(rows.size());
+    for (const EventRow& row : rows) {
+        std::string words;
+        words.reserve(row.Date.size() + 1 + row.File.size());
+        words += row.Date;
+        words += '\t';
+        words += row.File;
+        lstDates.Add(std::move(words));
     }
     ShadedDay.reset();
     Form_Follow(program);
@@ -159,7 +174,7 @@ void frmDates::TakeRows(Program& program) {
 void frmDates::lstDates_Click(Program& program, const std::vector<int>& selected, int current) {
     lstDates.Selected.assign(lstDates.Items.size(), false);
     for (const int row : selected) {
-        if (row >= 0 && static_cast<std::size_t>(row) < lstDates.Selected.size()) {
+        if (HasRow(lstDates.Selected, row)) {
             lstDates.Selected[static_cast<std::size_t>(row)] = true;
         }
     }
@@ -171,15 +186,14 @@ void frmDates::lstDates_DblClick(Program& program) {
     Choose(program, "mnuFileOpen");
 }
 
-void frmDates::PickDay(Program& program, int day) {
+void frmDates::PickDay(const Program& program, int day) {
     ShadedDay = day;
     const std::vector<EventRow>& rows = program.calendar.Rows;
-    for (std::size_t row = 0; row < rows.size() && row < lstDates.Items.size(); ++row) {
-        if (rows[row].Day == day) {
-            lstDates.ListIndex = static_cast<int>(row);
-            ++Picks;
-            return;
-        }
+    const auto found =
+        std::find_if(rows.begin(), rows.end(), [day](const EventRow& row) { return row.Day == day; });
+    if (found != rows.end()) {
+        lstDates.ListIndex = static_cast<int>(found - rows.begin());
+        ++Picks;
     }
 }
 
@@ -239,13 +253,13 @@ void frmDates::mnuOptDelete_Click(Program& program) {
     const int moved = modCalendar::MoveToBackup(program, SelectedFiles());
     // The notice stands although the list is made anew meanwhile, and nothing of this window is used behind
     // that.
-    lblNotice.Caption =
-        moved == 1 ? "1 proposal moved to Backup" : std::to_string(moved) + " proposals moved to Backup";
+    lblNotice.Caption = modCalendar::Proposals(moved) + " moved to Backup";
     modCalendar::RebuildShown(program);
 }
 
 void frmDates::mnuOptUndoDelete_Click(Program& program) {
-    if (modCalendar::RestoreFromBackup(program)) {
+    if (const std::optional<int> restored = modCalendar::RestoreFromBackup(program)) {
+        lblNotice.Caption = modCalendar::Proposals(*restored) + " restored";
         modCalendar::RebuildShown(program);
         return;
     }

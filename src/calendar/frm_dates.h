@@ -31,7 +31,7 @@ public:
     void lstDates_DblClick(Program& program);
     /// A day of the month view: its rows are shaded and the first becomes the current one; none is selected
     /// by that.
-    void PickDay(Program& program, int day);
+    void PickDay(const Program& program, int day);
     /// Takes the rows over from the last rebuild.
     void TakeRows(Program& program);
 

@@ -51,7 +51,7 @@ public:
         rest_ = count_ > kTold ? count_ - kTold : 0;
     }
     /// One report for all of them.
-    void Tell(Program& program, std::string_view procedure) const {
+    void Tell(const Program& program, std::string_view procedure) const {
         if (!first_) {
             return;
         }
@@ -74,7 +74,7 @@ struct Move {
     std::string To;
 };
 
-int MoveAll(Program& program, std::string_view fromFolder, std::string_view toFolder,
+int MoveAll(const Program& program, std::string_view fromFolder, std::string_view toFolder,
             const std::vector<Move>& moves, std::string_view procedure, std::vector<std::string>& moved) {
     const std::string from = AsOnDisk(fromFolder);
     const std::string to = AsOnDisk(toFolder);
@@ -131,8 +131,8 @@ int MoveToBackup(Program& program, const std::vector<std::string>& fileNames) {
     return count;
 }
 
-bool RestoreFromBackup(Program& program) {
-    bool any = false;
+std::optional<int> RestoreFromBackup(const Program& program) {
+    std::optional<int> restored;
     Guarded(program, "mnuOptUndoDelete_Click", [&] {
         const std::string backup = modFolders::BackupFolder(program);
         std::vector<Move> moves;
@@ -143,15 +143,15 @@ bool RestoreFromBackup(Program& program) {
                 return true;
             });
         }
-        any = !moves.empty();
-        if (!any) {
+        if (moves.empty()) {
             program.platform.questions.MsgBox("Nothing to restore.", Buttons::Ok, "");
             return;
         }
         std::vector<std::string> moved;
-        MoveAll(program, backup, modFolders::DataFolder(program), moves, "mnuOptUndoDelete_Click", moved);
+        restored =
+            MoveAll(program, backup, modFolders::DataFolder(program), moves, "mnuOptUndoDelete_Click", moved);
     });
-    return any;
+    return restored;
 }
 
 } // namespace modCalendar

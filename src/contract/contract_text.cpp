@@ -28,7 +28,7 @@ bool ContractText::EndsParagraph(int line) const {
 
 int ContractText::FilledCount() const {
     int filled = LineCount();
-    while (filled > 0 && LineLength(filled - 1) == 0) {
+    while (filled > 0 && text::Trim(LineText(filled - 1)).empty()) {
         --filled;
     }
     return filled;
@@ -154,7 +154,7 @@ std::string Incoming(std::string_view text) {
     for (std::size_t at = 0; at < text.size(); ++at) {
         switch (text[at]) {
         case '\r':
-            at += at + 1 < text.size() && text[at + 1] == '\n' ? 1 : 0;
+            at += text.substr(at).starts_with(text::kCrLf) ? 1 : 0;
             result += text::kCrLf;
             break;
         case '\n':

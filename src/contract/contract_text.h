@@ -29,7 +29,7 @@ public:
     [[nodiscard]] std::string LineText(int line) const;
     /// Whether a line end stands behind the line, and not just its edge.
     [[nodiscard]] bool EndsParagraph(int line) const;
-    /// Lines up to the last that is not empty.
+    /// Lines up to the last that is not empty; one of blanks is.
     [[nodiscard]] int FilledCount() const;
     [[nodiscard]] const std::vector<modWrap::Piece>& Lines() const { return lines_; }
 

@@ -2,11 +2,12 @@
 
 #include "base/numbers.h"
 #include "base/paths.h"
+#include "base/rows.h"
 #include "base/text.h"
 #include "contract/contract_lines.h"
 #include "program/program.h"
 #include "program/windows.h"
-#include "proposal/side_files.h"
+#include "proposal/rescued.h"
 
 #include <algorithm>
 #include <limits>
@@ -57,7 +58,7 @@ void frmEditor::LoadMyControls(Program& program) {
     chkItalic.Value = font.Italic;
 }
 
-void frmEditor::LoadCharacterEditor(Program& program) {
+void frmEditor::LoadCharacterEditor(const Program& program) {
     txtCharCount.SetFont(program.platform.measure, modContract::FontOfLabels(program));
     txtCharCount.SetText(modContract::TextOfLabels(program));
     ++Revision;
@@ -76,14 +77,14 @@ void frmEditor::ShowPosition() {
                            std::to_string(Shown().Text().size()) + " characters.";
 }
 
-bool frmEditor::RefusedWhileCounting(Program& program) const {
+bool frmEditor::RefusedWhileCounting(const Program& program) const {
     if (ShowingLineCount) {
         program.platform.questions.MsgBox("Please click \"Resume Editing\" first.", Buttons::Ok, "");
     }
     return ShowingLineCount;
 }
 
-void frmEditor::TakeFont(Program& program, const TextFont& font) {
+void frmEditor::TakeFont(const Program& program, const TextFont& font) {
     if (font == txtCharCount.Font()) {
         return;
     }
@@ -94,8 +95,7 @@ void frmEditor::TakeFont(Program& program, const TextFont& font) {
 }
 
 void frmEditor::cmbFont_Click(Program& program, int index) {
-    if (RefusedWhileCounting(program) || index < 0 ||
-        static_cast<std::size_t>(index) >= cmbFont.Items.size()) {
+    if (RefusedWhileCounting(program) || !HasRow(cmbFont.Items, index)) {
         return;
     }
     cmbFont.ListIndex = index;
@@ -105,8 +105,7 @@ void frmEditor::cmbFont_Click(Program& program, int index) {
 }
 
 void frmEditor::cmbFontSize_Click(Program& program, int index) {
-    if (RefusedWhileCounting(program) || index < 0 ||
-        static_cast<std::size_t>(index) >= cmbFontSize.Items.size()) {
+    if (RefusedWhileCounting(program) || !HasRow(cmbFontSize.Items, index)) {
         return;
     }
     cmbFontSize.ListIndex = index;
@@ -185,14 +184,14 @@ void frmEditor::ReplaceAll(std::string_view text) {
     ShowPosition();
 }
 
-void frmEditor::ReplaceLinefeeds(Program& program) {
+void frmEditor::ReplaceLinefeeds(const Program& program) {
     if (RefusedWhileCounting(program) || ContractLineCount == 0) {
         return;
     }
     ReplaceAll(modContract::WithoutDoubleLineFeeds(txtCharCount.Text()));
 }
 
-void frmEditor::ParseTextStrings(Program& program) {
+void frmEditor::ParseTextStrings(const Program& program) {
     if (RefusedWhileCounting(program)) {
         return;
     }
@@ -321,7 +320,7 @@ bool frmEditor::MayLeave(Program& program, Leaving) {
 
 void frmEditor::KeepUnsaved(Program& program) {
     if (EditorDirty) {
-        modSideFile::KeepInBackup(program, program.document.BaseName + ".contract.txt", txtCharCount.Text());
+        modRescue::KeepOfProposal(program, ".contract.txt", txtCharCount.Text(), modRescue::Back::Told);
     }
 }
 

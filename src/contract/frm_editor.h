@@ -75,14 +75,14 @@ protected:
 
 private:
     void LoadMyControls(Program& program);
-    void LoadCharacterEditor(Program& program);
+    void LoadCharacterEditor(const Program& program);
     void LoadLineNumbers();
     [[nodiscard]] bool UpdateMyContract(Program& program);
-    void ReplaceLinefeeds(Program& program);
-    void ParseTextStrings(Program& program);
+    void ReplaceLinefeeds(const Program& program);
+    void ParseTextStrings(const Program& program);
     void mnuEditCopy_Click(Program& program);
-    [[nodiscard]] bool RefusedWhileCounting(Program& program) const;
-    void TakeFont(Program& program, const TextFont& font);
+    [[nodiscard]] bool RefusedWhileCounting(const Program& program) const;
+    void TakeFont(const Program& program, const TextFont& font);
     void ReplaceAll(std::string_view text);
     void ShowTitle();
     void ShowPosition();

@@ -51,6 +51,6 @@ namespace modNotes {
 
 /// Opens the window, or brings the open one to the front as it stands.
 void mnuFileOpenFootnotes_Click(Program& program);
-[[nodiscard]] bool FootnotesShown(Program& program);
+[[nodiscard]] bool FootnotesShown(const Program& program);
 
 } // namespace modNotes

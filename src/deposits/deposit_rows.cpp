@@ -96,7 +96,7 @@ std::string WithoutCurrency(std::string_view text) {
 std::optional<Hundredths> ReadFigure(std::string_view text) {
     std::string_view rest = text::Trim(text);
     bool negative = false;
-    if (rest.size() >= 2 && rest.front() == '(' && rest.back() == ')') {
+    if (rest.starts_with('(') && rest.ends_with(')')) {
         negative = true;
         rest = rest.substr(1, rest.size() - 2);
     } else if (!rest.empty() && (rest.front() == '-' || rest.front() == '+')) {
@@ -130,6 +130,15 @@ std::optional<Hundredths> AmountOf(std::string_view row) {
 std::string AmountText(std::string_view typed) {
     const std::optional<Hundredths> figure = ReadFigure(typed);
     return figure ? Shown(*figure) : std::string();
+}
+
+bool IsWholeHundredths(std::string_view typed) {
+    const std::size_t point = typed.find('.');
+    constexpr std::size_t kDecimals = 2;
+    if (point == std::string_view::npos || typed.size() - point - 1 <= kDecimals) {
+        return true;
+    }
+    return typed.find_first_of("123456789", point + 1 + kDecimals) == std::string_view::npos;
 }
 
 std::string Shown(Hundredths amount) {

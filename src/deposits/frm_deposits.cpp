@@ -2,6 +2,7 @@
 
 #include "base/dates.h"
 #include "base/numbers.h"
+#include "base/rows.h"
 #include "base/text.h"
 #include "deposits/deposit_rows.h"
 #include "pages/fields.h"
@@ -10,6 +11,7 @@
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/proposal_save.h"
+#include "proposal/rescued.h"
 
 #include <algorithm>
 #include <limits>
@@ -25,7 +27,7 @@ int ThisYear(const Program& program) {
     return dates::ToCalendar(program.platform.clock.Now()).Year;
 }
 
-void Tell(Program& program, std::string_view words) {
+void Tell(const Program& program, std::string_view words) {
     program.platform.questions.MsgBox(words, Buttons::Ok, "");
 }
 
@@ -85,7 +87,7 @@ std::string frmDeposits::Signed(const Program& program, std::string_view figure)
     return program.settings.CurrencySymbol + " " + std::string(figure);
 }
 
-void frmDeposits::Load(Program& program) {
+void frmDeposits::Load(const Program& program) {
     file_ = modSideFile::Read(program, DepositFile(program), "SaveDepositInfo");
     Locked = file_.Locked;
     if (Locked || !file_.There) {
@@ -110,7 +112,7 @@ void frmDeposits::Load(Program& program) {
     }
 }
 
-void frmDeposits::TellUnreadable(Program& program, int count) {
+void frmDeposits::TellUnreadable(const Program& program, int count) {
     if (count == 1) {
         Tell(program,
              "The amount of 1 deposit in the list cannot be read. It stays in the list and counts as 0.00.");
@@ -120,7 +122,7 @@ void frmDeposits::TellUnreadable(Program& program, int count) {
     }
 }
 
-void frmDeposits::Recompute(Program& program) {
+void frmDeposits::Recompute(const Program& program) {
     constexpr std::size_t kMost = std::numeric_limits<std::int16_t>::max();
     modDeposits::Sum sum = modDeposits::AddUp(lst.Items);
     DepositRows = static_cast<std::int16_t>(static_cast<int>(std::min(lst.Items.size(), kMost)) - 1);
@@ -153,7 +155,7 @@ void frmDeposits::txtName_Change(Program&, std::string_view text) {
 void frmDeposits::txtDate_Change(Program&, std::string_view text) {
     if (txtDate.Text != text) {
         touched_ = true;
-        notAdded_ = notAdded_ || DepositEditing;
+        notAdded_ = notAdded_ || DepositEditing();
         txtDate.SelLength = 0;
     }
     txtDate.Text = text;
@@ -199,13 +201,10 @@ void frmDeposits::txtDate_LostFocus(Program& program) {
 }
 
 int frmDeposits::txtAmount_KeyPress(int keyAscii) {
-    const bool passes = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.' ||
+    // A comma dropped from 100,50 would leave 10050: it stays, and one that parts no thousands is told.
+    const bool passes = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.' || keyAscii == ',' ||
                         keyAscii == keys::kBackspace || keyAscii == keys::kTab || keyAscii == keys::kEnter;
     return passes ? keyAscii : 0;
-}
-
-int frmDeposits::txtAmount_Keep(int keyAscii) {
-    return keyAscii == ',' ? keyAscii : txtAmount_KeyPress(keyAscii);
 }
 
 void frmDeposits::txtAmount_Enter(Program& program) {
@@ -223,10 +222,10 @@ void frmDeposits::Refuse(EntryBox& box, std::string_view control, std::string_vi
 }
 
 void frmDeposits::cmdSave_Click(Program& program) {
-    static_cast<void>(AddOrReplace(program));
+    static_cast<void>(AddOrReplace(program)); // what is wrong with the row has been told
 }
 
-frmDeposits::Added frmDeposits::AddOrReplace(Program& program) {
+frmDeposits::Added frmDeposits::AddOrReplace(const Program& program) {
     if (Locked || !touched_ || txtAmount.Text.empty()) {
         return Added::No;
     }
@@ -236,7 +235,11 @@ frmDeposits::Added frmDeposits::AddOrReplace(Program& program) {
     }
     if (DepositAmountText.empty()) {
         Refuse(txtAmount, "txtAmount",
-               "This is no amount. Write it in digits with at most one point, as 1500.50.");
+               "This is no amount. Write it in digits with at most one point, as 1500.50 or 1,500.50.");
+        return Added::No;
+    }
+    if (!modDeposits::IsWholeHundredths(txtAmount.Text)) {
+        Refuse(txtAmount, "txtAmount", "An amount has two decimals at most. Write it as 1500.50.");
         return Added::No;
     }
     std::string row =
@@ -244,13 +247,13 @@ frmDeposits::Added frmDeposits::AddOrReplace(Program& program) {
     DepositChanged = true;
     touched_ = false;
     notAdded_ = false;
-    if (!DepositEditing || !editedRow_) {
+    if (!editedRow_) {
         lst.Add(std::move(row));
+        txtAmount.SelectAll(); // the text stays; the next amount replaces it
         Recompute(program);
         return Added::Yes;
     }
     lst.Items[static_cast<std::size_t>(*editedRow_)] = std::move(row);
-    DepositEditing = false;
     editedRow_.reset();
     for (EntryBox* box : {&txtDate, &txtAmount, &txtName}) {
         box->SelLength = 0;
@@ -263,7 +266,7 @@ frmDeposits::Added frmDeposits::AddOrReplace(Program& program) {
 void frmDeposits::lst_Click(const std::vector<int>& selected, int current) {
     lst.Selected.assign(lst.Items.size(), false);
     for (const int row : selected) {
-        if (row >= 0 && static_cast<std::size_t>(row) < lst.Selected.size()) {
+        if (HasRow(lst.Selected, row)) {
             lst.Selected[static_cast<std::size_t>(row)] = true;
         }
     }
@@ -296,19 +299,19 @@ void frmDeposits::mnuEditItem_Click(Program& program) {
     }
     const int row = lst.FirstSelected();
     const std::string item = lst.Items[static_cast<std::size_t>(row)];
-    DepositEditing = true;
     editedRow_ = row;
     txtDate_Change(program, modDeposits::DateOf(item));
     txtAmount_Change(program, modDeposits::AmountTextOf(item));
     touched_ = true;
     notAdded_ = false; // the list has it still
-    txtDate.SelectAll();
-    txtAmount.SelLength = 0;
-    txtName.SelLength = 0;
+    for (EntryBox* box : {&txtDate, &txtAmount, &txtName}) {
+        box->SelLength = 0;
+    }
     ActiveControl = "txtDate";
     Tell(program,
          "The selected item has been placed in the Date Received and Amount boxes. Edit in these areas and "
          "click \"Save to List\".");
+    txtDate.SelectAll(); // behind the message, which may take a mark away with the keyboard
 }
 
 void frmDeposits::mnuEditDelete_Click(Program& program) {
@@ -323,7 +326,6 @@ void frmDeposits::mnuEditDelete_Click(Program& program) {
     lst.Selected.assign(lst.Items.size(), false);
     lst.ListIndex = -1;
     if (editedRow_ == row) {
-        DepositEditing = false;
         editedRow_.reset();
     } else if (editedRow_ && *editedRow_ > row) {
         --*editedRow_;
@@ -338,7 +340,7 @@ void frmDeposits::mnuOptFormat_Click() {
     entry.Caption = DepositFormatDates ? "Do Not Apply Date Formatting" : "Apply Date Formatting";
 }
 
-bool frmDeposits::SettlePendingAmount(Program& program) {
+bool frmDeposits::SettlePendingAmount(const Program& program) {
     if (Locked || !notAdded_ || txtAmount.Text.empty()) {
         return true;
     }
@@ -432,7 +434,8 @@ void frmDeposits::KeepUnsaved(Program& program) {
             modDeposits::MakeRow(DepositDateText, program.settings.CurrencySymbol, DepositAmountText));
     }
     if (DepositChanged || rows.size() != lst.Items.size()) {
-        modSideFile::KeepInBackup(program, DepositFile(program), modDeposits::MakeFile(txtName.Text, rows));
+        modRescue::KeepOfProposal(program, ".dep", modDeposits::MakeFile(txtName.Text, rows),
+                                  modRescue::Back::Offered);
     }
 }
 

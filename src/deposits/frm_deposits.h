@@ -31,12 +31,13 @@ public:
     std::vector<float> DepositAmounts;
     float DepositTotal = 0;
     bool DepositChanged = false; ///< the list differs from the file
-    bool DepositEditing = false; ///< cmdSave replaces the row that was taken
     bool DepositFormatDates = true;
     std::string DepositDateText;
     std::string DepositAmountText;
 
     frmDeposits();
+    /// cmdSave replaces the row that was taken.
+    [[nodiscard]] bool DepositEditing() const { return editedRow_.has_value(); }
     [[nodiscard]] std::string_view Name() const override { return "frmDeposits"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }
     void Form_Load(Program& program) override;
@@ -53,10 +54,8 @@ public:
     void txtAmount_Change(Program& program, std::string_view text);
     /// Enter in the date.
     void txtDate_Enter(Program& program);
-    /// Digits, the point, backspace, tab and Enter pass; 0 for anything else.
+    /// Digits, point, comma, backspace, tab and Enter pass; 0 for anything else.
     [[nodiscard]] static int txtAmount_KeyPress(int keyAscii);
-    /// The same for what stands in the box: a row's amount comes into it with its commas.
-    [[nodiscard]] static int txtAmount_Keep(int keyAscii);
     /// Enter in the amount.
     void txtAmount_Enter(Program& program);
     void cmdSave_Click(Program& program);
@@ -71,14 +70,14 @@ protected:
 
 private:
     enum class Added { Yes, No };
-    [[nodiscard]] Added AddOrReplace(Program& program);
+    [[nodiscard]] Added AddOrReplace(const Program& program);
     /// An amount that was typed and not added: Add it? False on Cancel, or when it could not be added.
-    [[nodiscard]] bool SettlePendingAmount(Program& program);
+    [[nodiscard]] bool SettlePendingAmount(const Program& program);
     [[nodiscard]] std::string DepositFile(const Program& program) const;
     [[nodiscard]] std::string Signed(const Program& program, std::string_view figure) const;
-    void Load(Program& program);
-    void TellUnreadable(Program& program, int count);
-    void Recompute(Program& program);
+    void Load(const Program& program);
+    void TellUnreadable(const Program& program, int count);
+    void Recompute(const Program& program);
     void PutTotalIntoProposal(Program& program);
     void Refuse(EntryBox& box, std::string_view control, std::string_view why);
     void txtDate_LostFocus(Program& program);

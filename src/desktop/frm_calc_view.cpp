@@ -287,14 +287,14 @@ void FrmCalcView::FollowKeyboard() {
 }
 
 void FrmCalcView::Open() {
-    waiting_ = true;
+    stands_ = Stands::Waiting;
     Follow();
 }
 
 void FrmCalcView::Follow() {
     WindowView::Follow();
-    if (waiting_ && program_.main.Loaded && parentWidget()->isVisible()) {
-        waiting_ = false;
+    if (stands_ == Stands::Waiting && program_.main.Loaded && parentWidget()->isVisible()) {
+        stands_ = Stands::Shown;
         show();
     }
     const ScopedFlag following(following_);

@@ -78,5 +78,7 @@ private:
     QPushButton* clear_ = nullptr;
     QPushButton* copy_ = nullptr;
     bool following_ = false;
-    bool waiting_ = false; ///< open, and not shown before the page is
+    /// Open, it is not shown before the page is.
+    enum class Stands { Closed, Waiting, Shown };
+    Stands stands_ = Stands::Closed;
 };

@@ -2,6 +2,7 @@
 
 #include "base/guard.h"
 #include "desktop/convert.h"
+#include "desktop/free_place.h"
 #include "desktop/mnemonics.h"
 #include "desktop/paper_surface.h"
 #include "desktop/term_drag.h"
@@ -98,6 +99,10 @@ void TermsDock::keyPressEvent(QKeyEvent* event) {
 FrmFutView::FrmFutView(Program& program, frmFUT& window, QWidget* over, std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)), model_(window),
       dock_(new TermsDock(qobject_cast<QMainWindow*>(over))) {
+    desk_ = over->findChild<QWidget*>(QStringLiteral("desk"));
+    if (desk_ == nullptr) {
+        desk_ = over;
+    }
     dock_->setObjectName(objectName());
     setObjectName(QString());
     dock_->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
@@ -125,7 +130,7 @@ FrmFutView::FrmFutView(Program& program, frmFUT& window, QWidget* over, std::fun
     rows->addWidget(terms_, 1);
     rows->addWidget(lists_, 1);
     BuildButtons(body_);
-    body_->setMinimumWidth(qRound(static_cast<double>(frmFUT::kLeastWidth) * PixelsPerTwip()));
+    body_->setMinimumWidth(Pixels(frmFUT::kLeastWidth));
     body_->installEventFilter(this);
     dock_->setWidget(content_);
     if (auto* main = qobject_cast<QMainWindow*>(over)) {
@@ -142,7 +147,7 @@ FrmFutView::FrmFutView(Program& program, frmFUT& window, QWidget* over, std::fun
 }
 
 FrmFutView::~FrmFutView() {
-    placed_ = false; // what follows is no place of the person's
+    stands_ = Stands::Unplaced; // what follows is no place of the person's
     if (dock_ != nullptr) {
         for (QObject* part : dock_->findChildren<QObject*>()) {
             part->disconnect(this);
@@ -156,6 +161,21 @@ FrmFutView::~FrmFutView() {
 
 double FrmFutView::PixelsPerTwip() const {
     return static_cast<double>(logicalDpiX()) / paper::kTwipsPerInch;
+}
+
+int FrmFutView::Pixels(float twips) const {
+    return qRound(static_cast<double>(twips) * PixelsPerTwip());
+}
+
+float FrmFutView::Twips(int pixels) const {
+    return static_cast<float>(pixels / PixelsPerTwip());
+}
+
+void FrmFutView::TakePlace(const QRect& place) {
+    model_.Left = Twips(place.x());
+    model_.Top = Twips(place.y());
+    model_.Width = Twips(place.width());
+    model_.Height = Twips(place.height());
 }
 
 void FrmFutView::BuildMenus(QWidget* body) {
@@ -273,16 +293,19 @@ bool FrmFutView::eventFilter(QObject* watched, QEvent* event) {
         static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) {
         return true; // the right button chooses and opens nothing
     }
+    if (watched == desk_ && event->type() == QEvent::Resize) {
+        QTimer::singleShot(0, this, [this] { StandFree(); }); // when the page lies where it will
+    }
     return WindowView::eventFilter(watched, event);
 }
 
 void FrmFutView::Open() {
-    waiting_ = true;
+    stands_ = Stands::Waiting;
     Follow();
 }
 
 void FrmFutView::Leave() {
-    placed_ = false;
+    stands_ = Stands::Unplaced;
     dock_->hide();
 }
 
@@ -298,13 +321,10 @@ void FrmFutView::TakeKeyboard() {
     (model_.lstMoreFUT.Visible ? static_cast<QWidget*>(lists_) : terms_)->setFocus();
 }
 
-/// The saved place counts when a good part of the window would lie on a screen.
-QRect FrmFutView::FirstPlace() const {
-    const double scale = PixelsPerTwip();
-    const QRect saved(qRound(static_cast<double>(model_.Left) * scale),
-                      qRound(static_cast<double>(model_.Top) * scale),
-                      qRound(static_cast<double>(model_.Width) * scale),
-                      qRound(static_cast<double>(model_.Height) * scale));
+/// The saved place counts when a good part of the window would lie on a screen. One without a size is none
+/// yet.
+QRect FrmFutView::SavedPlace() const {
+    const QRect saved(Pixels(model_.Left), Pixels(model_.Top), Pixels(model_.Width), Pixels(model_.Height));
     constexpr int kReachable = 60;
     const QRect title(saved.topLeft(), QSize(saved.width(), kReachable / 2));
     const QList<QScreen*> screens = QGuiApplication::screens();
@@ -312,28 +332,29 @@ QRect FrmFutView::FirstPlace() const {
         const QRect seen = each->availableGeometry() & title;
         return seen.width() >= kReachable && seen.height() >= kReachable / 3;
     });
-    if (onScreen && saved.height() >= kReachable) {
-        return saved;
+    return onScreen && saved.height() >= kReachable ? saved : QRect();
+}
+
+void FrmFutView::StandFree() {
+    constexpr int kBesides = 8; // a desktop may shift a window by its frame
+    if (!free_ || !dock_->isFloating() || model_.Minimised ||
+        (dock_->geometry().topLeft() - free_->topLeft()).manhattanLength() > kBesides) {
+        return;
     }
-    constexpr QSize kUsual(280, 420);
-    const QRect room = parentWidget()->screen()->availableGeometry();
-    QRect usual(parentWidget()->frameGeometry().topRight() - QPoint(kUsual.width() + 40, -140),
-                kUsual.boundedTo(room.size()));
-    usual.moveRight(qMin(usual.right(), room.right()));
-    usual.moveBottom(qMin(usual.bottom(), room.bottom()));
-    usual.moveLeft(qMax(usual.left(), room.left()));
-    usual.moveTop(qMax(usual.top(), room.top()));
-    return usual;
+    const QRect place = FreePlace(*desk_);
+    free_ = place;
+    dock_->setGeometry(place);
+    KeepPlace();
 }
 
 void FrmFutView::KeepPlaceSoon() {
-    if (placed_) {
+    if (stands_ == Stands::Placed) {
         resting_.start();
     }
 }
 
 void FrmFutView::KeepSide() {
-    if (!placed_) {
+    if (stands_ != Stands::Placed) {
         return;
     }
     const frmFUT::Side before = model_.Docked;
@@ -345,22 +366,17 @@ void FrmFutView::KeepSide() {
                                                       : frmFUT::Side::None;
     if (model_.Docked == frmFUT::Side::None && before != frmFUT::Side::None && !model_.Minimised) {
         // As large as it was: at a side it has the main window's height.
-        const double pixels = PixelsPerTwip();
-        dock_->resize(qRound(static_cast<double>(model_.Width) * pixels),
-                      qRound(static_cast<double>(model_.Height) * pixels));
+        dock_->resize(Pixels(model_.Width), Pixels(model_.Height));
     }
 }
 
 void FrmFutView::KeepPlace() {
     resting_.stop();
-    if (!placed_ || !dock_->isFloating() || model_.Docked != frmFUT::Side::None || model_.Minimised) {
+    if (stands_ != Stands::Placed || !dock_->isFloating() || model_.Docked != frmFUT::Side::None ||
+        model_.Minimised) {
         return; // the place is that of the floating window
     }
-    const float twips = static_cast<float>(1 / PixelsPerTwip());
-    model_.Left = static_cast<float>(dock_->x()) * twips;
-    model_.Top = static_cast<float>(dock_->y()) * twips;
-    model_.Width = static_cast<float>(dock_->width()) * twips;
-    model_.Height = static_cast<float>(dock_->height()) * twips;
+    TakePlace({dock_->pos(), dock_->size()});
 }
 
 void FrmFutView::FollowMoreLists() {
@@ -417,38 +433,39 @@ void FrmFutView::Follow() {
         (model_.lstMoreFUT.Visible ? static_cast<QWidget*>(lists_) : terms_)->setFocus();
     }
     if (body_->isHidden() != model_.Minimised) {
-        if (placed_ && model_.Minimised && dock_->isFloating()) {
+        if (stands_ == Stands::Placed && model_.Minimised && dock_->isFloating()) {
             // It comes back as high as it is, which its parts may have made higher than its place.
-            model_.Height = static_cast<float>(dock_->height() / PixelsPerTwip());
+            model_.Height = Twips(dock_->height());
         }
         body_->setVisible(!model_.Minimised);
         restore_->setVisible(model_.Minimised);
         if (dock_->isFloating()) {
-            const double scale = PixelsPerTwip();
             const int least = dock_->minimumSizeHint().height();
-            const int whole = qMax(least, qRound(static_cast<double>(model_.Height) * scale));
+            const int whole = qMax(least, Pixels(model_.Height));
             dock_->resize(dock_->width(), model_.Minimised ? least : whole);
         }
     }
     restore_->setVisible(model_.Minimised);
-    if (waiting_ && program_.main.Loaded && parentWidget()->isVisible()) {
-        waiting_ = false; // the page has come first
+    if (stands_ == Stands::Waiting && program_.main.Loaded && parentWidget()->isVisible()) {
+        stands_ = Stands::Unplaced; // the page has come first
         ShowFirst();
     }
 }
 
 void FrmFutView::ShowFirst() {
-    const QRect place = FirstPlace();
+    const QRect saved = SavedPlace();
+    const QRect place = saved.isNull() ? FreePlace(*desk_) : saved;
     dock_->show();
     dock_->setGeometry(place); // a dock that shows for the first time takes a place of its own
-    placed_ = true;
+    stands_ = Stands::Placed;
     // The whole window's place, which it gets back when it is restored.
-    const float twips = static_cast<float>(1 / PixelsPerTwip());
-    model_.Left = static_cast<float>(place.x()) * twips;
-    model_.Top = static_cast<float>(place.y()) * twips;
-    model_.Width = static_cast<float>(place.width()) * twips;
-    model_.Height = static_cast<float>(place.height()) * twips;
+    TakePlace(place);
     if (model_.Minimised) {
         dock_->resize(place.width(), dock_->minimumSizeHint().height());
+    }
+    if (saved.isNull()) {
+        free_ = place;
+        desk_->installEventFilter(this);
+        QTimer::singleShot(0, this, [this] { StandFree(); });
     }
 }

@@ -13,6 +13,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 
 class QAction;
 class QMainWindow;
@@ -96,7 +97,9 @@ private:
     void BuildMenus(QWidget* body);
     void BuildLists();
     void BuildButtons(QWidget* body);
-    [[nodiscard]] QRect FirstPlace() const;
+    [[nodiscard]] QRect SavedPlace() const;
+    /// Without a saved place it stands where it covers nothing, until a person puts it elsewhere.
+    void StandFree();
     void ShowFirst();
     /// The floating window's place and size go into the model.
     void KeepPlace();
@@ -107,6 +110,10 @@ private:
     void FollowMoreLists();
     void FollowButtons();
     [[nodiscard]] double PixelsPerTwip() const;
+    [[nodiscard]] int Pixels(float twips) const;
+    [[nodiscard]] float Twips(int pixels) const;
+    /// The model keeps a place on the screen.
+    void TakePlace(const QRect& place);
 
     frmFUT& model_;
     QPointer<TermsDock> dock_; ///< gone before the view when the main window goes
@@ -122,7 +129,10 @@ private:
     QAction* default_ = nullptr;
     QTimer resting_;
     int version_ = -1;
-    bool waiting_ = false; ///< open, and not shown before the page is
-    bool placed_ = false;
+    /// Open, it is not shown before the page is. Once it has its place, a person's moves are kept.
+    enum class Stands { Unplaced, Waiting, Placed };
+    Stands stands_ = Stands::Unplaced;
+    QWidget* desk_ = nullptr;
+    std::optional<QRect> free_; ///< where it stands free
     bool following_ = false;
 };

@@ -96,7 +96,7 @@ FrmMainView::FrmMainView(Program& program, const QtTextMeasure& measure)
             AfterEvent();
         },
         [this] {
-            modBlocks::UpdateTextMenu(program_);
+            modTextMenu::UpdateTextMenu(program_);
             AfterEvent();
         });
     BuildStrips();
@@ -151,6 +151,7 @@ void FrmMainView::BuildStrips() {
     grid->setColumnStretch(0, 1);
     grid->setRowStretch(0, 1);
     desk_ = new Desk(middle);
+    desk_->setObjectName(QStringLiteral("desk"));
     grid->addWidget(desk_, 0, 0);
     scroll_ = new QScrollBar(Qt::Vertical, middle);
     scroll_->setObjectName(QStringLiteral("VScroll1"));
@@ -370,7 +371,7 @@ void FrmMainView::Follow() {
         }
     }
     for (QShortcut* key : endPreview_) {
-        key->setEnabled(modPrint::PreviewStands(program_));
+        key->setEnabled(modPreview::PreviewStands(program_));
     }
     windows_->Follow();
     if (program_.main.BringUp) {

@@ -6,6 +6,7 @@
 #include "desktop/page_view.h"
 #include "desktop/text_area_view.h"
 #include "program/program.h"
+#include "shell/page_switch.h"
 
 #include <QComboBox>
 #include <QGridLayout>
@@ -205,6 +206,12 @@ void FrmSpellingView::StepAside() {
     }
     if (best != frame) {
         move(best.topLeft());
+    }
+    // On a low screen there is room above or below only when the area stands at an edge of the page behind.
+    const SpellingState& state = program_.spelling;
+    if (covered(best) > 0 && edgedAt_ != state.Position) {
+        edgedAt_ = state.Position;
+        Do([&] { modScroll::BringToEdge(program_, state.Areas[state.Position]); });
     }
 }
 

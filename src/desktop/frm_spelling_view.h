@@ -3,6 +3,11 @@
 #include "desktop/window_views.h"
 #include "spelling/frm_spelling.h"
 
+#include <cstddef>
+#include <optional>
+#include <utility>
+#include <vector>
+
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -22,7 +27,7 @@ protected:
 private:
     /// The area that is being checked, as it stands on the page behind; empty when it cannot be seen.
     [[nodiscard]] QRect AreaOnScreen() const;
-    /// Moves off that area as far as the screen has room.
+    /// Moves off that area as far as the screen has room, and scrolls the page behind where it has none.
     void StepAside();
     void BuildTexts();
     void BuildButtons();
@@ -38,5 +43,6 @@ private:
     QComboBox* language_ = nullptr;
     QLabel* tooLong_ = nullptr;
     QPushButton* undo_ = nullptr;
+    std::optional<std::size_t> edgedAt_; ///< the area for which the page was scrolled to make room
     std::vector<std::pair<QPushButton*, void (frmSpelling::*)(Program&)>> buttons_;
 };

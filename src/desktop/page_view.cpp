@@ -306,7 +306,7 @@ void PageView::mousePressEvent(QMouseEvent* event) {
         return;
     }
     event->accept();
-    modInput::PageMouseDown(program_, id_, 1, Twips(event->position().x()), Twips(event->position().y()));
+    modInput::PageMouseDown(program_, 1, Twips(event->position().x()), Twips(event->position().y()));
     Done();
 }
 

@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QImageReader>
+#include <QPaintEngine>
 #include <QPainterPath>
 #include <QPixmapCache>
 #include <QtEndian>

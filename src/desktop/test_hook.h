@@ -9,8 +9,7 @@ class QLocalSocket;
 /// names. Only builds for tests have it. One line asks, one line answers:
 ///
 /// - `where NAME`: left, top, width and height on the screen, for the widget of that object name in the
-/// window
-///   in front, or for an entry of a menu that is open
+///   window in front, or for an entry of a menu that is open
 /// - `text NAME`: what it says
 /// - `focus`: the object name of the widget with the keyboard
 /// - `active`: the title of the window with the keyboard

@@ -22,6 +22,8 @@
 #include <QPainter>
 #include <QStyleHints>
 
+#include <optional>
+
 namespace {
 
 LinePainter::Side SideOf(const FieldRef& field) {
@@ -171,9 +173,7 @@ void TextAreaView::paintEvent(QPaintEvent*) {
     if (hasFocus() && caretOn_ && !isReadOnly()) {
         marks.Caret = cursorPosition();
     }
-    if (dragging_) {
-        marks.DropAt = dropAt_;
-    }
+    marks.DropAt = press_.DropAt();
     painter.save();
     painter.translate(Corner());
     painter.scale(page_.Scale, page_.Scale);
@@ -395,27 +395,28 @@ void TextAreaView::mousePressEvent(QMouseEvent* event) {
     const int position = PositionAt(event->position().x());
     const bool extend = event->modifiers().testFlag(Qt::ShiftModifier) && hasFocus();
     const bool right = event->button() == Qt::RightButton;
-    if (!extend) {
-        anchor_ = position;
-    } else if (Length() > 0) {
-        anchor_ = cursorPosition() == Start() ? Start() + Length() : Start();
-    } else {
-        anchor_ = cursorPosition();
+    int anchor = position;
+    if (extend) {
+        anchor = Length() > 0 && cursorPosition() == Start() ? Start() + Length()
+                 : Length() > 0                              ? Start()
+                                                             : cursorPosition();
     }
-    pressedAt_ = event->position().x();
-    marking_ = extend;
-    int start = qMin(anchor_, position);
-    int length = qAbs(position - anchor_);
-    pressedInMarked_ = event->button() == Qt::LeftButton && !extend && hasFocus() && position > Start() &&
-                       position < Start() + Length();
-    if ((right && hasFocus()) || pressedInMarked_) {
+    const bool inMarked = event->button() == Qt::LeftButton && !extend && hasFocus() && position > Start() &&
+                          position < Start() + Length();
+    press_.Begin(extend     ? TextAreaPress::Doing::Marking
+                 : inMarked ? TextAreaPress::Doing::InMarked
+                            : TextAreaPress::Doing::Nothing,
+                 anchor, event->position().x());
+    int start = qMin(anchor, position);
+    int length = qAbs(position - anchor);
+    if ((right && hasFocus()) || inMarked) {
         // A marked text stays marked, for the menu's commands or to be dragged.
         start = Start();
         length = Length();
     }
     event->accept();
     RestartCaret();
-    modInput::FieldMouseDown(page_.program, field_, right ? 2 : 1, 0, start, length);
+    modInput::FieldMouseDown(page_.program, field_, right ? 2 : 1, start, length);
     Done();
     if (modInput::TextMenuOpens(page_.program) && page_.AskForMenu) {
         page_.AskForMenu(event->globalPosition().toPoint());
@@ -428,30 +429,23 @@ void TextAreaView::mouseMoveEvent(QMouseEvent* event) {
         return;
     }
     const int position = PositionAt(event->position().x());
-    const int moved = qAbs(qRound(event->position().x() - pressedAt_));
-    if (pressedInMarked_) {
-        dragging_ = dragging_ || moved >= QGuiApplication::styleHints()->startDragDistance();
-        dropAt_ = position;
+    press_.Move(position, event->position().x());
+    if (press_.HoldsMarked()) {
         update();
-        return;
+    } else if (press_.Marks()) {
+        modInput::CursorMoved(page_.program, field_, qMin(press_.Anchor(), position),
+                              qAbs(position - press_.Anchor()));
+        Done();
     }
-    // A clicking hand is never quite still, and a figure makes room for the caret as its field is entered.
-    constexpr int kStill = 4;
-    marking_ = marking_ || moved >= kStill;
-    if (!marking_) {
-        return;
-    }
-    modInput::CursorMoved(page_.program, field_, qMin(anchor_, position), qAbs(position - anchor_));
-    Done();
 }
 
 void TextAreaView::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
-    if (pressedInMarked_) {
-        pressedInMarked_ = false;
-        if (dragging_) {
-            dragging_ = false;
-            modInput::MoveMarked(page_.program, field_, dropAt_);
+    if (press_.HoldsMarked()) {
+        const std::optional<int> dropAt = press_.DropAt();
+        press_.End();
+        if (dropAt) {
+            modInput::MoveMarked(page_.program, field_, *dropAt);
             TakeRecord();
         } else {
             modInput::CursorMoved(page_.program, field_, PositionAt(event->position().x()), 0);
@@ -540,7 +534,7 @@ void TextAreaView::dropEvent(QDropEvent* event) {
         return;
     }
     const int position = PositionAt(event->position().x());
-    modInput::FieldMouseDown(page_.program, field_, 1, 0, position, 0);
+    modInput::FieldMouseDown(page_.program, field_, 1, position, 0);
     Done(); // the widget has the keyboard and the cursor now
     TakeIn(event->mimeData()->text());
     event->acceptProposedAction();
@@ -595,7 +589,7 @@ void TextAreaView::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
     // By mouse the press has opened it already; this is the keyboard's menu key.
     if (event->reason() == QContextMenuEvent::Keyboard) {
-        modInput::FieldMouseDown(page_.program, field_, 2, 0, Start(), Length());
+        modInput::FieldMouseDown(page_.program, field_, 2, Start(), Length());
         Done();
         if (modInput::TextMenuOpens(page_.program) && page_.AskForMenu) {
             page_.AskForMenu(mapToGlobal(rect().bottomLeft()));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/line_painter.h"
+#include "desktop/text_area_press.h"
 #include "program/page_records.h"
 
 #include <QBasicTimer>
@@ -84,13 +85,8 @@ private:
     bool reported_ = false;  ///< the edit under way has reached the model
     bool following_ = false; ///< the widget follows the model
     bool caretOn_ = false;
-    bool pressedInMarked_ = false; ///< a drag of the marked text may begin
-    bool dragging_ = false;
-    bool marking_ = false; ///< the pressed mouse has moved far enough to mark text
-    int dropAt_ = 0;
+    TextAreaPress press_;
     DragSign sign_ = DragSign::None; ///< a term or result is over the field
-    double pressedAt_ = 0;
-    int anchor_ = 0;
     QString preedit_;
     QBasicTimer blink_;
 };

@@ -10,7 +10,7 @@
 
 namespace modAreaColours {
 
-void ColourArea(Program& program, PageId page, TextArea& area) {
+void ColourArea(const Program& program, PageId page, TextArea& area) {
     if (area.BackColor == colors::kBlockSelected) {
         return;
     }

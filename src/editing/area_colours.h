@@ -8,7 +8,7 @@ struct Program;
 namespace modAreaColours {
 
 /// Red over a limit; otherwise the colour of the field that is typed in. A selected area stays blue.
-void ColourArea(Program& program, PageId page, TextArea& area);
+void ColourArea(const Program& program, PageId page, TextArea& area);
 /// After a text was changed from elsewhere, as by a command: red over a limit, otherwise the colour of the
 /// keyboard's field, or of one at rest. A selected area stays blue.
 void ColourAfterCommand(Program& program, const FieldRef& field);

@@ -18,8 +18,8 @@ const TextArea& Area(const Program& program, PageId page, int index) {
     return program.pages[page].txt[static_cast<std::size_t>(index)];
 }
 
-bool IsAmountLimit(std::string_view limit) {
-    constexpr std::string_view kAmountLimit = "020";
+bool IsAmountLimit(int limit) {
+    constexpr int kAmountLimit = 20;
     return limit == kAmountLimit;
 }
 

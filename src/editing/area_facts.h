@@ -2,8 +2,6 @@
 
 #include "program/page_records.h"
 
-#include <string_view>
-
 struct Program;
 
 /// What the handlers ask of a text area.
@@ -17,7 +15,7 @@ inline constexpr int kClientName = 2;
 [[nodiscard]] const TextArea& Area(const Program& program, PageId page, int index);
 
 /// Amounts are told by the limit, whatever the kind.
-[[nodiscard]] bool IsAmountLimit(std::string_view limit);
+[[nodiscard]] bool IsAmountLimit(int limit);
 /// A suggested completion stands unanswered on the page.
 [[nodiscard]] bool Completing(const Program& program, PageId page);
 

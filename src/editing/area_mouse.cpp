@@ -13,8 +13,7 @@
 
 namespace modText {
 
-void txt_MouseDown(Program& program, PageId page, int index, int button, int shift) {
-    static_cast<void>(shift);
+void txt_MouseDown(Program& program, PageId page, int index, int button) {
     EditingState& editing = program.editing;
     TextArea& area = Area(program, page, index);
     if (Completing(program, page)) {
@@ -43,7 +42,7 @@ void txt_MouseDown(Program& program, PageId page, int index, int button, int shi
     // The menu takes the keyboard: the area is left as by any other way, and entered again when the menu
     // goes.
     modFields::DropFocus(program);
-    modBlocks::UpdateTextMenu(program);
+    modTextMenu::UpdateTextMenu(program);
     program.platform.events.LetEventsRun();
     editing.CurrentArea = index;
 }

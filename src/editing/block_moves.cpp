@@ -86,7 +86,7 @@ Moved MoveRuns(Program& program, const Way& way) {
     if (!moving) { // a held key moves again and again
         moving = std::make_unique<ScopedFlag>(program.editing.MoveInProgress);
     }
-    if (ReadSelectionRuns(program) != Selection::Runs) {
+    if (ReadOrRefuseSelection(program) != Selection::Runs) {
         FinishMove(program);
         return Moved::No;
     }
@@ -118,7 +118,7 @@ void MoveByMenu(Program& program, const Way& way) {
     TellingOfFailure(program, [&] {
         MoveRuns(program, way);
         FinishMove(program);
-        UpdateTextMenu(program);
+        modTextMenu::UpdateTextMenu(program);
     });
 }
 
@@ -148,7 +148,7 @@ void MoveBlockByKey(Program& program, int keyCode) {
 void Form_KeyUp(Program& program) {
     if (program.editing.MoveInProgress) {
         FinishMove(program);
-        UpdateTextMenu(program);
+        modTextMenu::UpdateTextMenu(program);
     }
 }
 

@@ -17,7 +17,7 @@ namespace modBlocks {
 
 namespace {
 
-void Tell(Program& program, std::string_view words) {
+void Tell(const Program& program, std::string_view words) {
     program.platform.questions.MsgBox(words, Buttons::Ok, "");
 }
 
@@ -112,7 +112,7 @@ std::string PlaceOf(const PasteTarget& target) {
     return "The texts of " + std::string(geometry::PageCaption(target.Page)) + lines;
 }
 
-bool MayWrite(Program& program, const PasteTarget& target) {
+bool MayWrite(const Program& program, const PasteTarget& target) {
     if (target.Last > RowsOf(target.Page).Last || target.LastAmount > geometry::LastText(target.Page)) {
         Tell(program, "Cannot paste here. Out of space.");
         return false;
@@ -149,33 +149,33 @@ void WriteMemory(Program& program, const PasteTarget& target) {
 
 void CopyBlock(Program& program) {
     FinishMove(program);
-    if (ReadSelectionRuns(program) == Selection::Runs) {
+    if (ReadOrRefuseSelection(program) == Selection::Runs) {
         CopyBlockToMemory(program);
         program.editing.BlockCopyHeld = true;
     }
-    UpdateTextMenu(program);
+    modTextMenu::UpdateTextMenu(program);
 }
 
 void DeleteBlock(Program& program) {
     Guarded(program, "DeleteTextContents", [&] {
         FinishMove(program);
-        if (ReadSelectionRuns(program) == Selection::Runs) {
+        if (ReadOrRefuseSelection(program) == Selection::Runs) {
             ClearSelectedAreas(program);
             EndMode(program);
         }
-        UpdateTextMenu(program);
+        modTextMenu::UpdateTextMenu(program);
     });
 }
 
 void CutBlock(Program& program) {
     const bool done = Guarded(program, "DeleteTextContents", [&] {
         FinishMove(program);
-        if (ReadSelectionRuns(program) == Selection::Runs) {
+        if (ReadOrRefuseSelection(program) == Selection::Runs) {
             CopyBlockToMemory(program);
             program.editing.BlockCopyHeld = true;
             ClearSelectedAreas(program);
         }
-        UpdateTextMenu(program);
+        modTextMenu::UpdateTextMenu(program);
     });
     if (!done) {
         Tell(program, "An error occurred while cutting text.");
@@ -199,7 +199,7 @@ void UndoDeleteBlock(Program& program) {
     CountPage(program, block.UndoPage);
     block.UndoMemory.clear();
     program.editing.UndoAvailable = false;
-    UpdateTextMenu(program);
+    modTextMenu::UpdateTextMenu(program);
 }
 
 void PasteBlock(Program& program) {
@@ -215,7 +215,7 @@ void PasteBlock(Program& program) {
     if (MayWrite(program, target)) {
         WriteMemory(program, target);
     }
-    UpdateTextMenu(program);
+    modTextMenu::UpdateTextMenu(program);
 }
 
 } // namespace modBlocks

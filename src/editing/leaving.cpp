@@ -34,7 +34,7 @@ void txt_GotFocus(Program& program, PageId page, int index) {
         modAreaColours::ColourArea(program, page, area);
     }
     if (editing.BlockMode) {
-        modBlocks::UpdateTextMenu(program);
+        modTextMenu::UpdateTextMenu(program);
     }
     modStatus::ShowAreaNumber(program, page, index);
 }
@@ -60,7 +60,7 @@ void txt_LostFocus(Program& program, PageId page, int index) {
         txt_Change(program, page, index);
         Area(program, page, index).BackColor = colors::kResting;
     }
-    if (IsAmountLimit(geometry::LimitText(area.Tag))) {
+    if (IsAmountLimit(geometry::LimitOf(area.Tag))) {
         modTotals::LeaveAmount(program, page, index);
         if (modTotals::IsNoNumber(program, area)) {
             area.BackColor = colors::kOverLimit; // what counts as nothing is seen wherever the person is

@@ -96,10 +96,10 @@ std::vector<AreaContents> ContentsOfRun(const Program& program, PageId page, std
 }
 
 void TakeRuns(Program& program) {
-    if (ReadSelectionRuns(program) == Selection::Runs) {
+    if (ReadOrRefuseSelection(program) == Selection::Runs) {
         CopyBlockToMemory(program);
     }
-    UpdateTextMenu(program);
+    modTextMenu::UpdateTextMenu(program);
 }
 
 void RefuseAmountsAlone(Program& program) {
@@ -114,8 +114,7 @@ RowRange RowsOf(PageId page) {
     return IsLinePage(page) ? RowRange{geometry::FirstRow(page), geometry::LastRow(page)} : kFinalPageRows;
 }
 
-void Form_MouseDown(Program& program, PageId page, int button, float x, float y) {
-    static_cast<void>(page);
+void Form_MouseDown(Program& program, int button, float x, float y) {
     if (button == kLeftButton) {
         DropBand(program);
         program.editing.Block.BandStartX = x;
@@ -192,7 +191,7 @@ Taken ExtendByKey(Program& program, const FieldRef& field, Toward toward) {
         modFigures::SettleFocused(program);
         block.KeyAnchor = row;
     } else {
-        if (ReadSelectionRuns(program) != Selection::Runs) {
+        if (ReadOrRefuseSelection(program) != Selection::Runs) {
             return Taken::Yes;
         }
         // A block that was moved, and one that a band made, grows from its top.
@@ -212,7 +211,7 @@ Taken ExtendByKey(Program& program, const FieldRef& field, Toward toward) {
     return Taken::Yes;
 }
 
-Selection ReadSelectionRuns(Program& program) {
+Selection ReadOrRefuseSelection(Program& program) {
     const PageId page = program.main.ActivePage;
     BlockState& block = program.editing.Block;
     const RowRange rows = RowsOf(page);
@@ -281,7 +280,7 @@ void DeSelectAllControls(Program& program) {
         editing.RefireMode = false;
         ShowModeSign(program, ModeSign::Hidden);
         FinishMove(program);
-        UpdateTextMenu(program);
+        modTextMenu::UpdateTextMenu(program);
     });
 }
 
@@ -299,7 +298,7 @@ void FinishMove(Program& program) {
     }
 }
 
-void TellMoveFailed(Program& program) {
+void TellMoveFailed(const Program& program) {
     program.platform.questions.MsgBox("Error encountered during Move Process.", Buttons::Ok, "");
 }
 

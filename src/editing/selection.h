@@ -11,7 +11,7 @@ namespace modBlocks {
 /// The mouse on a page's own surface; places in twips from the page's corner, which may lie beyond its edges.
 /// A page that shows as ink and the client's copy take no band.
 inline constexpr int kLeftButton = 1;
-void Form_MouseDown(Program& program, PageId page, int button, float x, float y);
+void Form_MouseDown(Program& program, int button, float x, float y);
 void Form_MouseMove(Program& program, PageId page, int button, float x, float y);
 void Form_MouseUp(Program& program, PageId page, int button, float x, float y);
 
@@ -36,7 +36,7 @@ struct RowRange {
 enum class Selection { None, Runs, Refused };
 /// Reads the runs of the active page from the colours: only the first run without a gap counts, on either
 /// side. Amounts alone are refused with a message, and the selection ends.
-[[nodiscard]] Selection ReadSelectionRuns(Program& program);
+[[nodiscard]] Selection ReadOrRefuseSelection(Program& program);
 
 /// The runs' contents into the memory, in place of what was there; nothing when no run has been read.
 void CopyBlockToMemory(Program& program);
@@ -55,6 +55,6 @@ void DeSelectAllControls(Program& program);
 /// Ends a move whose key was not let go: its page's handlers run. A failure is told and goes no further.
 void FinishMove(Program& program);
 /// The message of a move that failed.
-void TellMoveFailed(Program& program);
+void TellMoveFailed(const Program& program);
 
 } // namespace modBlocks

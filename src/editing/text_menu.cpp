@@ -6,7 +6,7 @@
 
 #include <array>
 
-namespace modBlocks {
+namespace modTextMenu {
 
 namespace {
 
@@ -108,4 +108,4 @@ void UpdateTextMenu(Program& program) {
     }
 }
 
-} // namespace modBlocks
+} // namespace modTextMenu

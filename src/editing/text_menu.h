@@ -7,7 +7,7 @@
 
 struct Program;
 
-namespace modBlocks {
+namespace modTextMenu {
 
 /// What the person has before them when the menu opens.
 enum class MenuState { BoxesSelected, OnlyTextSelected, NothingSelected, EnablePaste };
@@ -35,4 +35,4 @@ struct MenuRow {
 /// enables the undo in every state. Remembers the selected text for the case commands.
 void UpdateTextMenu(Program& program);
 
-} // namespace modBlocks
+} // namespace modTextMenu

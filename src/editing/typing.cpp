@@ -56,7 +56,7 @@ void TakeEditingState(Program& program, PageId page, int index) {
     TextChangeRecord& props = program.format.PropTextChanges[page][row];
     props.FontBold = area.FontBold;
     program.format.FormatTextChanges[page][row].FontBold = area.FontBold;
-    if (!IsAmountLimit(editing.CurrentLimit)) {
+    if (!IsAmountLimit(geometry::LimitOf(editing.CurrentLimit))) {
         // The format's own text is taken when a format is saved, not as it is typed.
         props.Text = area.Text;
     }
@@ -94,7 +94,7 @@ void LinePageChange(Program& program, PageId page, int index) {
         TakeClientName(program);
     }
     program.document.HasClient = true;
-    if (IsAmountLimit(editing.CurrentLimit)) {
+    if (IsAmountLimit(geometry::LimitOf(editing.CurrentLimit))) {
         TakeAmount(program, page, index);
     }
     if (modPages::MeasureTextWidth(program, page, editing.CurrentText) >= editing.CurrentWidth &&
@@ -110,7 +110,7 @@ void LinePageChange(Program& program, PageId page, int index) {
     // The area's own text and width, but the limit is whatever the innermost change left.
     TextArea& area = Area(program, page, index);
     if (modPages::MeasureTextWidth(program, page, area.Text) >= area.Width ||
-        static_cast<double>(area.Text.size()) > numbers::Val(editing.CurrentLimit) ||
+        static_cast<int>(area.Text.size()) > geometry::LimitOf(editing.CurrentLimit) ||
         modTotals::IsNoNumber(program, area)) {
         area.BackColor = colors::kOverLimit;
     }
@@ -156,7 +156,7 @@ Taken LinePageKeyDown(Program& program, PageId page, int index, int keyCode, int
     }
     NoteKey(program, page, index, keyCode);
     if (modNumberKeys::IsPaste(keyCode, shift) &&
-        IsAmountLimit(geometry::LimitText(Area(program, page, index).Tag))) {
+        IsAmountLimit(geometry::LimitOf(Area(program, page, index).Tag))) {
         if (!program.editing.BlockMode) {
             modNumberKeys::PasteNumber(program, page, index);
         }
@@ -191,7 +191,7 @@ void txt_KeyPress(Program& program, PageId page, int index, int& keyAscii) {
         keyAscii = 0;
         return;
     }
-    const bool figures = IsAmountLimit(geometry::LimitText(area.Tag));
+    const bool figures = IsAmountLimit(geometry::LimitOf(area.Tag));
     if (keyAscii == keys::kEnter || keyAscii == keys::kTab || (figures && !modNumberKeys::Passes(keyAscii))) {
         keyAscii = 0;
     }

@@ -5,17 +5,17 @@
 #include "pages/fields.h"
 #include "program/program.h"
 
-namespace modFormat {
+namespace modAreaFont {
 
 void ApplyChosenFont(Program& program, const AreaFont& before) {
-    AreaFont font = FontInForce(program);
+    AreaFont font = modLineEffects::FontInForce(program);
     if (font.Name.empty()) {
         font.Name = "Arial";
     }
     if (font.Size == 0) {
         font.Size = 10;
     }
-    LayFont(program, font);
+    modLineEffects::LayFont(program, font);
     PaintAreasAnew(program);
     if (font != before) {
         program.document.SavedStateStale = true;
@@ -33,4 +33,4 @@ void PaintAreasAnew(Program& program) {
     }
 }
 
-} // namespace modFormat
+} // namespace modAreaFont

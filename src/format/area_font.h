@@ -4,7 +4,7 @@
 
 struct Program;
 
-namespace modFormat {
+namespace modAreaFont {
 
 /// The pages take the font in force, which a person has chosen in place of `before`; without a name it is
 /// "Arial", without a size 10. Any difference counts as a changed property of the proposal and of the format.
@@ -13,4 +13,4 @@ void ApplyChosenFont(Program& program, const AreaFont& before);
 /// The areas that are too long, or are so no longer, in the font in force.
 void PaintAreasAnew(Program& program);
 
-} // namespace modFormat
+} // namespace modAreaFont

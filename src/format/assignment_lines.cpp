@@ -4,10 +4,12 @@
 #include "base/text.h"
 #include "pages/page_geometry.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <utility>
 
 namespace assignment {
 
@@ -20,56 +22,59 @@ constexpr std::string_view kFontBold = ".FontBold=", kText = ".Text=", kTaxExemp
                            kFontItalic = ".FontItalic=", kFontUnderline = ".FontUnderline=",
                            kPicture = ".Picture=";
 
-std::string_view FlagText(bool flag) {
-    return flag ? "True" : "False";
-}
-
-/// The shortest decimal text that gives the number back, without an exponent.
-std::string NumberText(float number) {
-    constexpr std::size_t kLongest = 128;
-    std::array<char, kLongest> digits{};
-    const auto [end, error] =
-        std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed);
-    return error == std::errc() ? std::string(digits.data(), end) : "0";
-}
-
-/// With a sign, so that a system colour is negative.
-std::string ColorText(Color color) {
-    return std::to_string(static_cast<std::int32_t>(color));
-}
-
-std::string Head(int page, std::string_view kind, int index) {
-    return std::string(geometry::PageName(PageAt(page))) + "." + std::string(kind) + "(" +
-           std::to_string(index) + ")";
-}
-
-/// Values stand in one line each; what would end it becomes a blank.
-std::string InOneLine(std::string_view value) {
-    std::string line(value);
-    for (char& character : line) {
-        if (character == '\r' || character == '\n') {
-            character = ' ';
-        }
-    }
-    return line;
-}
-
-/// A blank before each field but the first.
+/// A line as it grows: a blank before each field but the first.
 class LineWriter {
 public:
-    explicit LineWriter(std::string head) : line_(std::move(head)) {}
+    explicit LineWriter(std::string_view head) {
+        constexpr std::size_t kUsualLength = 192;
+        line_.reserve(kUsualLength);
+        line_ = head;
+    }
+    LineWriter(int page, std::string_view kind, int index) : LineWriter(geometry::PageName(PageAt(page))) {
+        line_ += '.';
+        line_ += kind;
+        line_ += '(';
+        line_ += std::to_string(index);
+        line_ += ')';
+    }
+
+    /// Values stand in one line each; what would end it becomes a blank.
     LineWriter& Put(std::string_view keyword, std::string_view value) {
+        Begin(keyword);
+        const auto from = static_cast<std::ptrdiff_t>(line_.size());
+        line_ += value;
+        std::replace_if(
+            line_.begin() + from, line_.end(),
+            [](char character) { return character == '\r' || character == '\n'; }, ' ');
+        return *this;
+    }
+    /// The shortest decimal text that gives the number back, without an exponent.
+    LineWriter& PutNumber(std::string_view keyword, float number) {
+        constexpr std::size_t kLongest = 128;
+        std::array<char, kLongest> digits{};
+        const auto [end, error] =
+            std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed);
+        return Put(keyword,
+                   error == std::errc()
+                       ? std::string_view(digits.data(), static_cast<std::size_t>(end - digits.data()))
+                       : "0");
+    }
+    LineWriter& PutFlag(std::string_view keyword, bool flag) { return Put(keyword, flag ? "True" : "False"); }
+    /// With a sign, so that a system colour is negative.
+    LineWriter& PutColor(std::string_view keyword, Color color) {
+        return Put(keyword, std::to_string(static_cast<std::int32_t>(color)));
+    }
+    [[nodiscard]] std::string Line() { return std::move(line_); }
+
+private:
+    void Begin(std::string_view keyword) {
         if (!first_) {
             line_ += ' ';
         }
         first_ = false;
         line_ += keyword;
-        line_ += InOneLine(value);
-        return *this;
     }
-    [[nodiscard]] std::string Line() { return std::move(line_); }
 
-private:
     std::string line_;
     bool first_ = true;
 };
@@ -206,13 +211,14 @@ bool Has(Kind kind, int page, int index) {
     return true;
 }
 
+/// Whether a value holds a keyword, each of which begins with a full stop, or a line's end.
 bool Holds(std::string_view value, std::initializer_list<std::string_view> keywords) {
-    for (const std::string_view keyword : keywords) {
-        if (value.find(keyword) != std::string_view::npos) {
-            return true;
-        }
-    }
-    return value.find_first_of("\r\n") != std::string_view::npos;
+    const bool point = value.find('.') != std::string_view::npos;
+    return (point && std::any_of(keywords.begin(), keywords.end(),
+                                 [&](std::string_view keyword) {
+                                     return value.find(keyword) != std::string_view::npos;
+                                 })) ||
+           value.find_first_of("\r\n") != std::string_view::npos;
 }
 
 /// The number of a value in a language without currencies, within bounds.
@@ -224,57 +230,53 @@ std::optional<double> Number(std::string_view value, double least, double most) 
 } // namespace
 
 std::string BoldLine(int page, int index, bool bold) {
-    return LineWriter(Head(page, "txt", index)).Put(kFontBold, FlagText(bold)).Line();
+    return LineWriter(page, "txt", index).PutFlag(kFontBold, bold).Line();
 }
 
 std::string TextLine(int page, int index, std::string_view value) {
-    return LineWriter(Head(page, "txt", index)).Put(kText, value).Line();
+    return LineWriter(page, "txt", index).Put(kText, value).Line();
 }
 
 std::string ExemptLine(int page, int index, bool exempt) {
-    return LineWriter(Head(page, "txt", index)).Put(kTaxExempt, FlagText(exempt)).Line();
+    return LineWriter(page, "txt", index).PutFlag(kTaxExempt, exempt).Line();
 }
 
 std::string RowLine(int page, int index, bool columns, std::string_view quantity, std::string_view price) {
-    return LineWriter(Head(page, "txq", index))
-        .Put(kQtyBox, FlagText(columns))
+    return LineWriter(page, "txq", index)
+        .PutFlag(kQtyBox, columns)
         .Put(kQtyValue, quantity)
         .Put(kAmtValue, price)
         .Line();
 }
 
 std::string RowLine(int page, int index, bool columns) {
-    return LineWriter(Head(page, "txq", index)).Put(kQtyBox, FlagText(columns)).Line();
+    return LineWriter(page, "txq", index).PutFlag(kQtyBox, columns).Line();
 }
 
 std::string LabelLine(int page, int index, const LabelLook& look) {
-    return LineWriter(Head(page, "lbl", index))
-        .Put(kLeft, NumberText(look.Left))
-        .Put(kTop, NumberText(look.Top))
+    return LineWriter(page, "lbl", index)
+        .PutNumber(kLeft, look.Left)
+        .PutNumber(kTop, look.Top)
         .Put(kCaption, look.Caption)
         .Put(kFontName, look.FontName)
-        .Put(kFontBold, FlagText(look.FontBold))
-        .Put(kFontSize, NumberText(look.FontSize))
-        .Put(kForeColor, ColorText(look.ForeColor))
-        .Put(kFontItalic, FlagText(look.FontItalic))
-        .Put(kFontUnderline, FlagText(look.FontUnderline))
+        .PutFlag(kFontBold, look.FontBold)
+        .PutNumber(kFontSize, look.FontSize)
+        .PutColor(kForeColor, look.ForeColor)
+        .PutFlag(kFontItalic, look.FontItalic)
+        .PutFlag(kFontUnderline, look.FontUnderline)
         .Line();
 }
 
 std::string PictureLine(std::string_view path, float left, float top) {
-    return LineWriter("frmP1.pic")
-        .Put(kPicture, path)
-        .Put(kLeft, NumberText(left))
-        .Put(kTop, NumberText(top))
-        .Line();
+    return LineWriter("frmP1.pic").Put(kPicture, path).PutNumber(kLeft, left).PutNumber(kTop, top).Line();
 }
 
 std::string FontLine(const AreaFont& font) {
     return LineWriter("UDP")
         .Put(kFontName, font.Name)
-        .Put(kFontSize, NumberText(font.Size))
-        .Put(kFontColor, ColorText(font.ForeColor))
-        .Put(kFontItalic, FlagText(font.Italic))
+        .PutNumber(kFontSize, font.Size)
+        .PutColor(kFontColor, font.ForeColor)
+        .PutFlag(kFontItalic, font.Italic)
         .Line();
 }
 

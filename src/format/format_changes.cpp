@@ -43,7 +43,7 @@ bool FormatHasChanges(Program& program) {
            AnyArea(areas, [](const TextChangeRecord& area) { return area.QtyChanged; }) ||
            AnyLabel(format.FormatLabelChanges,
                     [](const LabelChangeRecord& label) { return label.Changed && !label.Saved; }) ||
-           FontInForce(program) != format.FontOfFile;
+           modLineEffects::FontInForce(program) != format.FontOfFile;
 }
 
 bool FormatIsUnsaved(const Program& program) {

@@ -105,23 +105,13 @@ void mnuFileFormatDelete_Click(Program& program) {
         questions.MsgBox("There's no Format File open.", Buttons::Ok, "");
         return;
     }
-    if (!modWindows::MayLeave(program, Leaving::Proposal)) {
-        return;
-    }
-    modProposal::AskToSave(program);
-    const bool stopped = program.document.Cancelled;
-    program.document.Cancelled = false;
-    if (stopped) {
+    if (!modProposal::MayGoOn(program)) {
         return;
     }
     const Answer answer =
         questions.MsgBox(text::Lines({"Are you sure you want to delete the shown Format?",
                                       program.format.FormatName + " in " + program.format.FormatFolder}),
-                         Buttons::YesNo, "Deleting Format FIle",
-                         {.Default = Answer::No,
-                          .Lost = FormatIsUnsaved(program) ? "The format " + program.format.FormatName +
-                                                                 " has changes that are not saved."
-                                                           : std::string()});
+                         Buttons::YesNo, "Deleting Format FIle", {.Default = Answer::No});
     if (answer != Answer::Yes) {
         return;
     }
@@ -145,7 +135,7 @@ void mnuFileFormatDefault_Click(Program& program) {
                         files::Exists(paths::Join(format.FormatFolder, format.FormatName)) &&
                         FileIsCurrent(program);
     if (onDisk) {
-        static_cast<void>(MakeDefault(program));
+        static_cast<void>(MakeDefault(program)); // what came of it has been told
         return;
     }
     program.format.FormatMakeDefault = true;

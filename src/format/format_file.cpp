@@ -54,7 +54,7 @@ void TakeArea(Program& program, const assignment::AreaAssignment& line) {
 }
 
 void TakeRow(Program& program, const assignment::RowAssignment& row) {
-    LayRow(program, row);
+    modLineEffects::LayRow(program, row);
     TextChangeRecord& record = AreaRecord(program, row.Page, row.Index);
     record.QtyBox = row.Columns;
     record.Dirty = false;
@@ -64,7 +64,7 @@ void TakeRow(Program& program, const assignment::RowAssignment& row) {
 
 void TakeLabel(Program& program, const Fields& fields, const LabelLook& line) {
     const PageId page = PageAt(fields.Page);
-    const LabelLook look = LayLabelLine(program, page, fields.Index, line);
+    const LabelLook look = modLineEffects::LayLabelLine(program, page, fields.Index, line);
     LabelChangeRecord& record = modDesigner::RecordOf(program.format.FormatLabelChanges, page, fields.Index);
     modDesigner::PutLook(record, look);
     record.Changed = true;
@@ -90,7 +90,7 @@ void TakeLine(Program& program, assignment::WorkingFields& working, const Fields
         break;
     }
     case Kind::lbl:
-        if (const auto look = working.TakeLabel(fields, OwnLook(program, fields))) {
+        if (const auto look = working.TakeLabel(fields, modLineEffects::OwnLook(program, fields))) {
             TakeLabel(program, fields, *look);
         }
         break;
@@ -102,8 +102,8 @@ void TakeLine(Program& program, assignment::WorkingFields& working, const Fields
         break;
     }
     case Kind::UDP:
-        if (const auto font = working.TakeFont(fields, FontInForce(program))) {
-            LayFont(program, *font);
+        if (const auto font = working.TakeFont(fields, modLineEffects::FontInForce(program))) {
+            modLineEffects::LayFont(program, *font);
         }
         break;
     }
@@ -140,7 +140,7 @@ void LayLines(Program& program) {
     format.FormatOpen = true;
     program.document.WindowTitle = "Quillbrook - Format File = " + format.FormatName;
     ParseFormatFile(program);
-    modDesigner::LoadBaseLabels(program);
+    modDesigner::SaveBaseLabels(program);
     LayBoldAgain(program);
     modLogo::LayPendingLogo(program);
     TakeFormatFigures(program);
@@ -163,9 +163,9 @@ void ParseFormatFile(Program& program) {
         }
         // A sign beside an amount has the areas' font, whatever its line said.
         modPages::ApplyPageFonts(program);
-        PaintAreasAnew(program);
+        modAreaFont::PaintAreasAnew(program);
     }
-    modDesigner::LoadBaseLabels(program);
+    modDesigner::SaveBaseLabels(program);
 }
 
 void OpenFormatFile(Program& program) {
@@ -189,7 +189,7 @@ void OpenFormatFile(Program& program) {
             LayLines(program);
         }
     });
-    format.FontOfFile = FontInForce(program);
+    format.FontOfFile = modLineEffects::FontInForce(program);
 }
 
 } // namespace modFormat

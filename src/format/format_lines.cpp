@@ -48,13 +48,15 @@ void TakeLabels(const Program& program, Texts texts, LabelChangeTable& table) {
             if (!table[page][index].Changed) {
                 continue;
             }
-            PageLabel label = labels[index];
             const int at = static_cast<int>(index);
             if (texts == Texts::LayoutOnly && at == geometry::TitleLabel(page)) {
                 // Each proposal lays its own; whose this one is, is nobody else's to read.
-                modTitles::SetTitleWords(program, page, at, label, modTitles::NobodysTitle(page));
+                PageLabel title = labels[index];
+                modTitles::SetTitleWords(program, page, at, title, modTitles::NobodysTitle(page));
+                modDesigner::PutLook(table[page][index], modDesigner::LookOf(title));
+            } else {
+                modDesigner::PutLook(table[page][index], modDesigner::LookOf(labels[index]));
             }
-            modDesigner::PutLook(table[page][index], modDesigner::LookOf(label));
         }
     }
 }
@@ -124,7 +126,7 @@ FormatText LinesOf(const Program& program, const FormatTables& tables) {
     if (!format.LogoPath.empty()) {
         made.Lines.push_back(assignment::PictureLine(format.LogoPath, format.LogoLeft, format.LogoTop));
     }
-    const AreaFont font = FontInForce(program);
+    const AreaFont font = modLineEffects::FontInForce(program);
     const bool fontLine = !font.Name.empty() && font.Size != 0;
     if (fontLine) {
         made.Lines.push_back(assignment::FontLine(font));

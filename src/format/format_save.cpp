@@ -32,11 +32,11 @@ namespace {
 constexpr std::string_view kExtension = ".fmt";
 constexpr int kSubscript = 9; // as the log numbers an index beyond its list
 
-void Tell(Program& program, std::string_view words) {
+void Tell(const Program& program, std::string_view words) {
     program.platform.questions.MsgBox(words, Buttons::Ok, "");
 }
 
-bool Confirmed(Program& program, std::string_view question, const std::string& lost) {
+bool Confirmed(const Program& program, std::string_view question, const std::string& lost) {
     return program.platform.questions.MsgBox(question, Buttons::YesNo, "",
                                              {.Default = Answer::No, .Lost = lost}) == Answer::Yes;
 }
@@ -103,7 +103,7 @@ bool HoldsClientData(const Program& program) {
     return false;
 }
 
-std::optional<Texts> SettleTexts(Program& program) {
+std::optional<Texts> SettleTexts(const Program& program) {
     if (!HoldsClientData(program)) {
         return Texts::LayoutAndTexts;
     }
@@ -118,7 +118,12 @@ std::optional<Texts> SettleTexts(Program& program) {
 }
 
 std::string BytesOf(const std::vector<std::string>& lines) {
+    std::size_t size = 0;
+    for (const std::string& line : lines) {
+        size += line.size() + text::kCrLf.size();
+    }
     std::string bytes;
+    bytes.reserve(size);
     for (const std::string& line : lines) {
         bytes += line;
         bytes += text::kCrLf;
@@ -141,7 +146,7 @@ void TakeAsSaved(Program& program) {
             format.InFile[page][index] = {area.FontBold, area.Text};
         }
     }
-    format.FontOfFile = FontInForce(program);
+    format.FontOfFile = modLineEffects::FontInForce(program);
     format.LogoChanged = false;
     format.Touched = false;
 }
@@ -192,8 +197,8 @@ FormatSave SaveSteps(Program& program, const Name& name) {
     }
     std::vector<std::string> linesBefore = format.FormatLines;
     const AfterLast after = AssignFormatPropChanges(program, *texts);
-    TellUnkeptFormat(program);
-    modDesigner::LoadBaseLabels(program);
+    modUnkept::TellUnkeptFormat(program);
+    modDesigner::SaveBaseLabels(program);
     if (!Written(program, path, name.Asked)) {
         format.FormatLines = std::move(linesBefore);
         return FormatSave::NotSaved;
@@ -205,6 +210,7 @@ FormatSave SaveSteps(Program& program, const Name& name) {
         throw files::FileError(kSubscript, "Subscript out of range");
     }
     if (format.FormatMakeDefault) {
+        // The format is saved all the same; why it could not become the default has been told.
         static_cast<void>(MakeDefault(program));
     }
     format.FormatOpen = true;

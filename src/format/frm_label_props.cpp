@@ -1,6 +1,7 @@
 #include "format/frm_label_props.h"
 
 #include "base/numbers.h"
+#include "base/rows.h"
 #include "format/colour_table.h"
 #include "format/frm_rgb.h"
 #include "format/label_commit.h"
@@ -60,7 +61,7 @@ void frmLabelProps::Form_Load(Program& program) {
     });
 }
 
-void frmLabelProps::ShowLabel(Program& program) {
+void frmLabelProps::ShowLabel(const Program& program) {
     const DesignerRecords& designer = program.designer;
     const LabelLook& edit = designer.LabelEdit;
     const bool group = modDesigner::MultipleLabelsSelected(program);
@@ -96,7 +97,7 @@ void frmLabelProps::txtCaption_Enter(Program&) {
 }
 
 void frmLabelProps::lstFont_Click(Program& program, int index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= lstFont.Items.size()) {
+    if (!HasRow(lstFont.Items, index)) {
         return;
     }
     const std::string name = lstFont.Items[static_cast<std::size_t>(index)];
@@ -161,7 +162,6 @@ void frmLabelProps::Form_Unload(Program& program) {
     DesignerRecords& designer = program.designer;
     designer.LabelPropsOpen = false;
     if (designer.LabelPropsCancelled || program.run.ProgramClosing) {
-        designer.LabelPropsCancelled = false;
         designer.Changed = {};
         modDesigner::RestoreLabel(program);
         return;

@@ -54,7 +54,7 @@ public:
     void cmdCancel_Click(Program& program);
 
     /// The controls show what `LabelEdit` says.
-    void ShowLabel(Program& program);
+    void ShowLabel(const Program& program);
 };
 
 namespace modDesigner {

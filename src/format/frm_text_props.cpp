@@ -1,6 +1,7 @@
 #include "format/frm_text_props.h"
 
 #include "base/numbers.h"
+#include "base/rows.h"
 #include "base/text.h"
 #include "format/area_font.h"
 #include "format/colour_table.h"
@@ -28,7 +29,7 @@ std::string_view SizeIn(std::string_view caption) {
 
 void frmTextProps::Form_Load(Program& program) {
     Caption = "Common Text Properties";
-    before_ = modFormat::FontInForce(program);
+    before_ = modLineEffects::FontInForce(program);
     lstFont.Items = program.run.FontList;
     for (std::size_t index = 0; index < kSizes.size(); ++index) {
         optFontSize[index].Caption = kSizes[index];
@@ -56,7 +57,7 @@ void frmTextProps::CheckDefaultFontColor(const Program& program) {
     }
 }
 
-void frmTextProps::ShowFont(Program& program) {
+void frmTextProps::ShowFont(const Program& program) {
     const RunState& run = program.run;
     lblFontName.Caption = "Current Font Name = " + run.DefaultFontName;
     const auto found = std::find(lstFont.Items.begin(), lstFont.Items.end(), run.DefaultFontName);
@@ -73,11 +74,11 @@ void frmTextProps::ShowSample(const Program& program) {
         "Sampling Text with " + run.DefaultFontName + ": " + numbers::PlainNumber(run.DefaultFontSize);
     // Going through another family makes one of the same name take hold afresh.
     SampleFont.Name = "Arial";
-    SampleFont = modFormat::FontInForce(program);
+    SampleFont = modLineEffects::FontInForce(program);
 }
 
 void frmTextProps::lstFont_Click(Program& program, int index) {
-    if (index >= 0 && static_cast<std::size_t>(index) < lstFont.Items.size()) {
+    if (HasRow(lstFont.Items, index)) {
         program.run.DefaultFontName = lstFont.Items[static_cast<std::size_t>(index)];
         ShowFont(program);
     }
@@ -111,8 +112,8 @@ void frmTextProps::chkItalic_Click(Program& program) {
 }
 
 void frmTextProps::Apply(Program& program) {
-    modFormat::ApplyChosenFont(program, before_);
-    before_ = modFormat::FontInForce(program);
+    modAreaFont::ApplyChosenFont(program, before_);
+    before_ = modLineEffects::FontInForce(program);
 }
 
 void frmTextProps::cmdOK_Click(Program& program) {
@@ -143,10 +144,10 @@ void frmTextProps::Form_Unload(Program& program) {
     run.DefaultFontItalic = before_.Italic;
 }
 
-namespace modFormat {
+namespace modAreaFont {
 
 void mnuEditAllTextFonts_Click(Program& program) {
     modWindows::Show(program, std::make_unique<frmTextProps>());
 }
 
-} // namespace modFormat
+} // namespace modAreaFont

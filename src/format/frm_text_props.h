@@ -41,7 +41,7 @@ public:
     void cmdDefault_Click(Program& program);
 
     /// The controls and the sample show the font in force.
-    void ShowFont(Program& program);
+    void ShowFont(const Program& program);
 
 private:
     void CheckDefaultFontSize(const Program& program);
@@ -52,9 +52,9 @@ private:
     AreaFont before_;
 };
 
-namespace modFormat {
+namespace modAreaFont {
 
 /// "Edit All Text Area Fonts".
 void mnuEditAllTextFonts_Click(Program& program);
 
-} // namespace modFormat
+} // namespace modAreaFont

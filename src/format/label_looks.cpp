@@ -81,9 +81,9 @@ bool IsSignLabel(PageId page, int index) {
     }
 }
 
-void LoadBaseLabels(Program& program) {
+void SaveBaseLabels(Program& program) {
     for (const PageId page : kEditedPages) {
-        modPages::LoadBaseLabels(program, page);
+        modPages::SaveBaseLabels(program, page);
     }
 }
 

@@ -33,6 +33,6 @@ void CopyToClientsPage(Program& program, int index);
 [[nodiscard]] bool IsSignLabel(PageId page, int index);
 
 /// Copies all labels of the edited pages into their base states.
-void LoadBaseLabels(Program& program);
+void SaveBaseLabels(Program& program);
 
 } // namespace modDesigner

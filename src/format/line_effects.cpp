@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-namespace modFormat {
+namespace modLineEffects {
 
 namespace {
 
@@ -66,4 +66,4 @@ LabelLook OwnLook(const Program& program, const assignment::Fields& fields) {
     return modDesigner::LookOf(modDesigner::LabelAt(program, PageAt(fields.Page), fields.Index));
 }
 
-} // namespace modFormat
+} // namespace modLineEffects

@@ -9,7 +9,7 @@ struct Program;
 
 /// What the lines of a format or property file do to the pages, as far as both files agree. Nothing here
 /// fires a change handler.
-namespace modFormat {
+namespace modLineEffects {
 
 /// A label of the edited pages takes the look of its line. A sign beside an amount whose caption in the file
 /// is no word or number shows the currency in force. Returns the look as it was laid.
@@ -28,4 +28,4 @@ void LayFont(Program& program, const AreaFont& font);
 /// What a label has to know of its page for a line that leaves a field out.
 [[nodiscard]] LabelLook OwnLook(const Program& program, const assignment::Fields& fields);
 
-} // namespace modFormat
+} // namespace modLineEffects

@@ -120,6 +120,7 @@ void mnuEditLogoSave_Click(Program& program) {
     }
     settings.LogoLeft = logo.Left;
     settings.LogoTop = logo.Top;
+    // What came of it was told; the logo stands where it is either way.
     static_cast<void>(modSettings::Store(program, {{Key::LogoFile, settings.LogoFile},
                                                    {Key::LogoLeft, numbers::PlainNumber(logo.Left)},
                                                    {Key::LogoTop, numbers::PlainNumber(logo.Top)}}));
@@ -164,7 +165,7 @@ void pic_MouseUp(Program& program) {
     program.format.LogoLeft = Logo(program).Left;
     program.format.LogoTop = Logo(program).Top;
     BelongToFormat(program);
-    program.main.Notice = "Kept only by a format or by Save this Logo as Default.";
+    program.main.Notice = modLogo::kNotInTheProposal;
 }
 
 void pic_DblClick(Program& program) {

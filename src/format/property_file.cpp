@@ -14,7 +14,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 
-namespace modFormat {
+namespace modProperties {
 
 namespace {
 
@@ -85,7 +85,7 @@ void AddLabels(const Program& program, std::vector<std::string>& lines) {
     if (!row) {
         return false;
     }
-    LayColumns(program, *row);
+    modLineEffects::LayColumns(program, *row);
     const auto index = static_cast<std::size_t>(row->Index);
     program.format.PropTextChanges[page][index].QtyBox = row->Columns;
     if (row->Columns && !before) {
@@ -98,12 +98,12 @@ void AddLabels(const Program& program, std::vector<std::string>& lines) {
 }
 
 [[nodiscard]] bool TakeLabel(Program& program, assignment::WorkingFields& working, const Fields& fields) {
-    const auto line = working.TakeLabel(fields, OwnLook(program, fields));
+    const auto line = working.TakeLabel(fields, modLineEffects::OwnLook(program, fields));
     if (!line) {
         return false;
     }
     const PageId page = PageAt(fields.Page);
-    const LabelLook look = LayLabelLine(program, page, fields.Index, *line);
+    const LabelLook look = modLineEffects::LayLabelLine(program, page, fields.Index, *line);
     LabelChangeRecord& record = modDesigner::RecordOf(program.format.PropLabelChanges, page, fields.Index);
     modDesigner::PutLook(record, look);
     record.Changed = true;
@@ -114,9 +114,9 @@ void AddLabels(const Program& program, std::vector<std::string>& lines) {
 }
 
 [[nodiscard]] bool TakeFont(Program& program, assignment::WorkingFields& working, const Fields& fields) {
-    const auto font = working.TakeFont(fields, FontInForce(program));
+    const auto font = working.TakeFont(fields, modLineEffects::FontInForce(program));
     if (font) {
-        LayFont(program, *font);
+        modLineEffects::LayFont(program, *font);
     }
     return font.has_value();
 }
@@ -192,7 +192,7 @@ std::vector<std::string> PropertyLinesNow(const Program& program) {
     AddWeights(program, lines);
     AddRows(program, lines);
     AddLabels(program, lines);
-    const AreaFont font = FontInForce(program);
+    const AreaFont font = modLineEffects::FontInForce(program);
     if (!font.Name.empty() && font.Size != 0) {
         lines.push_back(assignment::FontLine(font));
     }
@@ -203,7 +203,7 @@ void AssignPropChanges(Program& program) {
     Guarded(program, "AssignPropChanges", [&] {
         program.format.PropertyLines = PropertyLinesNow(program);
         if (!program.document.BackingUp) {
-            TellUnkeptProperties(program);
+            modUnkept::TellUnkeptProperties(program);
         }
     });
 }
@@ -213,9 +213,9 @@ void ParsePropertyFile(Program& program) {
     const ScopedFlag silent(program.guards.Loading);
     Guarded(program, "ParsePropertyFile", [&] { TakeLines(program); });
     modPages::ApplyPageFonts(program);
-    PaintAreasAnew(program);
+    modAreaFont::PaintAreasAnew(program);
     TakeTitles(program);
-    modDesigner::LoadBaseLabels(program);
+    modDesigner::SaveBaseLabels(program);
 }
 
-} // namespace modFormat
+} // namespace modProperties

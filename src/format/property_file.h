@@ -6,7 +6,7 @@
 struct Program;
 
 /// The property file of a proposal: what of its layout is its own.
-namespace modFormat {
+namespace modProperties {
 
 /// The lines as the pages stand now. Changes nothing.
 [[nodiscard]] std::vector<std::string> PropertyLinesNow(const Program& program);
@@ -19,4 +19,4 @@ void AssignPropChanges(Program& program);
 /// lines before it stay applied, and `PropertyLinesRead` says how many they are.
 void ParsePropertyFile(Program& program);
 
-} // namespace modFormat
+} // namespace modProperties

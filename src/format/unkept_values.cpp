@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace modFormat {
+namespace modUnkept {
 
 namespace {
 
@@ -30,7 +30,7 @@ public:
             more_ = std::string(text::kCrLf) + "and " + std::to_string(count_ - kMostShown) + " more.";
         }
     }
-    void Tell(Program& program) const {
+    void Tell(const Program& program) const {
         if (count_ > 0) {
             program.platform.questions.MsgBox(words_ + more_, Buttons::Ok, "");
         }
@@ -56,7 +56,7 @@ void LookAtLabels(const Program& program, const LabelChangeTable& table, Finds& 
 
 } // namespace
 
-void TellUnkeptFormat(Program& program) {
+void TellUnkeptFormat(const Program& program) {
     Finds finds;
     const FormatRecords& format = program.format;
     for (const auto& page : format.FormatTextChanges) {
@@ -74,11 +74,11 @@ void TellUnkeptFormat(Program& program) {
     finds.Tell(program);
 }
 
-void TellUnkeptProperties(Program& program) {
+void TellUnkeptProperties(const Program& program) {
     Finds finds;
     LookAtLabels(program, program.format.PropLabelChanges, finds);
     finds.Look(Value::AreaFontName, "font name", program.run.DefaultFontName);
     finds.Tell(program);
 }
 
-} // namespace modFormat
+} // namespace modUnkept

@@ -2,13 +2,14 @@
 
 #include "base/text.h"
 #include "pages/page_geometry.h"
+#include "pages/row_fields.h"
 #include "pages/titles.h"
 #include "program/program.h"
 
 #include <algorithm>
 #include <string>
 
-namespace modPrint {
+namespace modPageCount {
 
 namespace {
 
@@ -36,7 +37,9 @@ bool HasLine(const Program& program, PageId page) {
     const auto& lines = program.document.CurrentTextBuf[page];
     const auto end =
         lines.begin() + std::min<std::ptrdiff_t>(last + 1, static_cast<std::ptrdiff_t>(lines.size()));
-    return std::any_of(lines.begin(), end, [](const std::string& line) { return !text::Trim(line).empty(); });
+    return std::any_of(lines.begin(), end, [](const std::string& line) {
+        return !text::Trim(line).empty() && !modPages::IsBlankRow(line);
+    });
 }
 
 } // namespace
@@ -70,4 +73,4 @@ void SetPageNumbers(Program& program) {
     program.document.PagesNumbered = used;
 }
 
-} // namespace modPrint
+} // namespace modPageCount

@@ -2,7 +2,7 @@
 
 struct Program;
 
-namespace modPrint {
+namespace modPageCount {
 
 /// Sets `PagesInUse` from the current texts: the highest line page with a text, plus one. Unchanged when no
 /// page has one.
@@ -12,4 +12,4 @@ void CountPagesInUse(Program& program);
 /// line.
 void SetPageNumbers(Program& program);
 
-} // namespace modPrint
+} // namespace modPageCount

@@ -5,7 +5,7 @@
 #include "program/errors.h"
 #include "program/program.h"
 
-namespace modPrint {
+namespace modPreview {
 
 namespace {
 
@@ -33,7 +33,7 @@ void TogglePreview(Program& program) {
     }
     program.printing.PrintFormName = geometry::PageName(main.PageInFront);
     Guarded(program, "PrintTheForm", [&] {
-        PrepareDrawing(program);
+        modPrint::PrepareDrawing(program);
         program.pages[main.PageInFront].InkShown = true;
     });
 }
@@ -57,4 +57,4 @@ void ResumeEditing(Program& program, PageId page) {
     });
 }
 
-} // namespace modPrint
+} // namespace modPreview

@@ -4,7 +4,7 @@
 
 struct Program;
 
-namespace modPrint {
+namespace modPreview {
 
 /// Whether a page is shown as ink.
 [[nodiscard]] bool PreviewStands(const Program& program);
@@ -17,4 +17,4 @@ void TogglePreview(Program& program);
 /// "ResumeEditing".
 void ResumeEditing(Program& program, PageId page);
 
-} // namespace modPrint
+} // namespace modPreview

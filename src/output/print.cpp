@@ -61,8 +61,8 @@ void PrintPages(Program& program, const std::vector<PageId>& pages) {
         return;
     }
     PrepareDrawing(program);
-    CountPagesInUse(program);
-    SetPageNumbers(program);
+    modPageCount::CountPagesInUse(program);
+    modPageCount::SetPageNumbers(program);
     // All pages of a command are of one moment: the figures are the sum of the rows, whatever is typed
     // meanwhile.
     const PageSet sheets = program.pages;
@@ -93,7 +93,7 @@ void mnuFilePrintAll_Click(Program& program) {
         return;
     }
     modFigures::TakeFresh(program); // what is being typed may be the first text of its page
-    CountPagesInUse(program);
+    modPageCount::CountPagesInUse(program);
     std::vector<PageId> pages{PageId::frmP6_1, PageId::frmP6};
     for (int page = program.document.PagesInUse - 1; page >= 1; --page) {
         pages.push_back(PageAt(page - 1));

@@ -3,6 +3,7 @@
 #include "base/guard.h"
 #include "editing/fresh_figures.h"
 #include "pages/page_geometry.h"
+#include "pages/row_fields.h"
 #include "program/errors.h"
 #include "program/program.h"
 
@@ -105,8 +106,11 @@ void DrawSheet(const Program& program, DrawingSurface& surface, const Page& reco
         }
     }
     for (const auto* labels : {&record.lblAt, &record.lblEach}) {
-        for (const PageLabel& label : *labels) {
-            DrawLabel(surface, label);
+        for (std::size_t row = 0; row < labels->size(); ++row) {
+            // Signs between nothing and nothing would be offered to the client.
+            if (!modPages::IsBlankRow(record, static_cast<int>(row))) {
+                DrawLabel(surface, (*labels)[row]);
+            }
         }
     }
     // The boxes are black, as on the screen, whatever colour the label before them had.

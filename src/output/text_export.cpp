@@ -88,8 +88,8 @@ private:
 
 void TakeFigures(Program& program) {
     modFigures::TakeFresh(program);
-    modColumns::CollectQtyBoxes(program);
-    modPrint::CountPagesInUse(program);
+    modColumns::CollectLines(program);
+    modPageCount::CountPagesInUse(program);
     if (!program.totals.TotalsHidden && modTotals::TotalsDiffer(program)) {
         program.totals.TotalsStale = true;
         program.platform.questions.MsgBox(modTotals::DiscrepancyMessage(), Buttons::Ok, "");

@@ -24,7 +24,7 @@ void SnapshotLabels(Program& program) {
     }
 }
 
-void LoadBaseLabels(Program& program, PageId page) {
+void SaveBaseLabels(Program& program, PageId page) {
     Page& record = program.pages[page];
     record.LabelBaseState.clear();
     for (const PageLabel& label : record.lbl) {

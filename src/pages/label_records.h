@@ -11,6 +11,6 @@ namespace modPages {
 void SnapshotLabels(Program& program);
 
 /// Keeps a page's labels, as they stand, in its LabelBaseState; the page is not changed.
-void LoadBaseLabels(Program& program, PageId page);
+void SaveBaseLabels(Program& program, PageId page);
 
 } // namespace modPages

@@ -11,6 +11,10 @@ struct Program;
 /// The logo of frmP1: the picture on show, its place, and whether it is seen.
 namespace modLogo {
 
+/// What is said when a person chooses or moves the logo.
+inline constexpr std::string_view kNotInTheProposal =
+    "Kept only by a format or by Save this Logo as Default.";
+
 /// No logo is shown larger; a larger picture is scaled into this box, on paper too.
 inline constexpr float kLogoMostWidth = 10800;
 inline constexpr float kLogoMostHeight = 4320;

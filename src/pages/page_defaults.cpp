@@ -130,7 +130,7 @@ void ClientPageDefaults(Program& program, Page& page) {
     Put(page, geometry::TitleLabel(page.Id), 4860, kFooterTop, kTitleDefault);
 }
 
-void LinePageDefaults(Program& program, Page& page) {
+void LinePageDefaults(const Program& program, Page& page) {
     ResetAreas(page);
     ResetRowFields(page, "Qty.", "Amt.");
     ResetLabels(page, Weight::Bold);
@@ -216,7 +216,7 @@ void PlaceLines(const Program& program, Page& page) {
     }
 }
 
-void FinalPageDefaults(Program& program, Page& page) {
+void FinalPageDefaults(const Program& program, Page& page) {
     ResetAreas(page);
     ResetLabels(page, Weight::AsDesigned);
     const std::string& company = program.settings.CompanyName;
@@ -231,10 +231,10 @@ void FinalPageDefaults(Program& program, Page& page) {
         Put(page, 4 + row, 3060, top, program.settings.CurrencySymbol);
         Put(page, 10 + row, 9720, top, program.settings.CurrencySymbol);
     }
+    ContractLines(program, page);
     for (int index = 1; index <= 12; ++index) {
         Label(page, index).FontBold = true;
     }
-    ContractLines(program, page);
     for (const tables::FixedLabel& fixed : tables::SignatureLabels()) {
         Put(page, fixed.Index, fixed.Left, fixed.Top, fixed.Caption);
     }
@@ -331,7 +331,7 @@ void ApplyPageDefaults(Program& program, PageId page) {
         FinalPageDefaults(program, record);
     }
     if (IndexOf(page) < kEditedPageCount) {
-        LoadBaseLabels(program, page);
+        SaveBaseLabels(program, page);
     }
 }
 

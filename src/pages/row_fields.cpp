@@ -93,6 +93,23 @@ bool ColumnsOn(const Program& program, PageId page, int row) {
            record.txtQty[static_cast<std::size_t>(row)].Visible;
 }
 
+bool IsBlankRow(const Page& page, int row) {
+    const auto at = static_cast<std::size_t>(row);
+    const auto amount = static_cast<std::size_t>(geometry::AmountOf(page.Id, row));
+    if (!geometry::IsDescription(page.Id, row) || at >= page.txtQty.size() || at >= page.txtAmt.size() ||
+        amount >= page.txt.size() || page.txtQty[at].Tag == kHide) {
+        return false;
+    }
+    const auto empty = [](const TextArea& area) { return text::Trim(area.Text).empty(); };
+    return empty(page.txtQty[at]) && empty(page.txt[at]) && empty(page.txtAmt[at]) && empty(page.txt[amount]);
+}
+
+bool IsBlankRow(std::string_view line) {
+    const QuantityRow row = SplitLine(line);
+    return row.IsRow && text::Trim(row.Quantity).empty() && text::Trim(row.Description).empty() &&
+           text::Trim(row.Amount).empty();
+}
+
 void EnsureRowFields(Program& program, PageId page) {
     Page& record = program.pages[page];
     if (record.RowFieldsMade || !IsLinePage(page)) {
@@ -126,18 +143,26 @@ void ShowCurrency(Program& program) {
     }
 }
 
-std::string ComposeLine(const Program& program, PageId page, int index) {
+void ComposeInto(std::string& line, const Program& program, PageId page, int index) {
     const Page& record = program.pages[page];
     const std::string& value = record.txt[static_cast<std::size_t>(index)].Text;
     if (!IsLinePage(page)) {
-        return value;
+        line = value;
+        return;
     }
     const std::string_view trimmed = text::Trim(value);
     if (!geometry::IsDescription(page, index) || !ColumnsOn(program, page, index)) {
-        return std::string(trimmed);
+        line = trimmed;
+        return;
     }
     const auto row = static_cast<std::size_t>(index);
-    return WithMarks(record.txtQty[row].Text, trimmed, record.txtAmt[row].Text);
+    line = WithMarks(record.txtQty[row].Text, trimmed, record.txtAmt[row].Text);
+}
+
+std::string ComposeLine(const Program& program, PageId page, int index) {
+    std::string line;
+    ComposeInto(line, program, page, index);
+    return line;
 }
 
 QuantityRow SplitLine(std::string_view text) {

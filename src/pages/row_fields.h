@@ -29,10 +29,18 @@ enum class Columns { Off, On };
 void PlaceColumns(Program& program, PageId page, int row, Columns columns);
 [[nodiscard]] bool ColumnsOn(const Program& program, PageId page, int row);
 
+/// Whether a row has columns and nothing stands in it: no quantity, description, price or amount. A format
+/// can lay such rows for what is to come.
+[[nodiscard]] bool IsBlankRow(const Page& page, int row);
+/// The same of a line of the stores; of its amount it knows nothing.
+[[nodiscard]] bool IsBlankRow(std::string_view line);
+
 /// The line that the stores and the file hold for a text area of pages 1 to 5: the trimmed text, or for a row
 /// with columns on: quantity, trimmed text and unit price between their marks. Areas of the final page: the
 /// text as it stands.
 [[nodiscard]] std::string ComposeLine(const Program& program, PageId page, int index);
+/// The same into a line that is there.
+void ComposeInto(std::string& line, const Program& program, PageId page, int index);
 
 /// A description that is a quantity row, taken apart; nothing when one of the marks is missing.
 struct QuantityRow {

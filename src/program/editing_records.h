@@ -86,8 +86,9 @@ struct WordState {
 struct TypedKeys {
     std::optional<FieldRef> Field;
     std::bitset<256> Codes;
-    int KeyDown = 0;        ///< the key being pressed
-    bool Character = false; ///< it has passed the field's filter
+    std::array<int, 256> Behind{}; ///< where the cursor stood behind what each has put
+    int KeyDown = 0;               ///< the key being pressed
+    bool Character = false;        ///< it has passed the field's filter
 
     /// A sign may be let go under another code than it was pressed with, when Shift was let go first.
     [[nodiscard]] static std::size_t PlaceOf(int keyCode) {

@@ -8,7 +8,7 @@
 
 namespace {
 
-std::string RecordOf(Program& program, std::string_view procedureName, const std::exception& error) {
+std::string RecordOf(const Program& program, std::string_view procedureName, const std::exception& error) {
     constexpr int kInternalError = 51; // for failures that carry no number of their own
     const auto* known = dynamic_cast<const files::FileError*>(&error);
     const int number = known != nullptr ? known->Number() : kInternalError;
@@ -26,7 +26,7 @@ std::string RecordOf(Program& program, std::string_view procedureName, const std
 
 } // namespace
 
-void ReportError(Program& program, std::string_view procedureName, const std::exception& error) {
+void ReportError(const Program& program, std::string_view procedureName, const std::exception& error) {
     const std::string message = RecordOf(program, procedureName, error);
     // It may come in the middle of typing.
     if (program.platform.questions.MsgBox(message, Buttons::Ok, "Program Error",
@@ -35,11 +35,11 @@ void ReportError(Program& program, std::string_view procedureName, const std::ex
     }
 }
 
-void LogError(Program& program, std::string_view procedureName, const std::exception& error) {
+void LogError(const Program& program, std::string_view procedureName, const std::exception& error) {
     WriteErrorLog(program, RecordOf(program, procedureName, error));
 }
 
-void WriteErrorLog(Program& program, std::string_view message) {
+void WriteErrorLog(const Program& program, std::string_view message) {
     if (program.folders.InstallFolder.empty()) {
         return; // never into whatever folder the process happens to work in
     }

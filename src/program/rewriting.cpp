@@ -8,7 +8,8 @@
 
 namespace modRewrite {
 
-bool MayOverwrite(Program& program, std::string_view path, const files::Seen& seen, std::string_view what) {
+bool MayOverwrite(const Program& program, std::string_view path, const files::Seen& seen,
+                  std::string_view what) {
     // One that could not be read is no news to the person, and is kept.
     if (seen.Was == files::Seen::What::Unread || !files::ChangedSince(path, seen)) {
         return true;
@@ -23,13 +24,13 @@ bool MayOverwrite(Program& program, std::string_view path, const files::Seen& se
 void WriteOver(std::string_view path, std::string_view bytes, files::Seen& seen) {
     if (files::ExistsExactly(path) &&
         (seen.Was == files::Seen::What::Unread || files::LookAt(path).Was == files::Seen::What::Unread)) {
-        static_cast<void>(files::KeepUnread(path));
+        static_cast<void>(files::KeepUnread(path)); // under which name matters to nobody here
     }
     files::WriteWhole(path, bytes);
     seen = files::SeenIn(bytes);
 }
 
-Rewriting Rewrite(Program& program, std::string_view path, std::string_view bytes, files::Seen& seen,
+Rewriting Rewrite(const Program& program, std::string_view path, std::string_view bytes, files::Seen& seen,
                   std::string_view what) {
     if (!MayOverwrite(program, path, seen, what)) {
         return Rewriting::Refused;

@@ -12,7 +12,7 @@ namespace modRewrite {
 /// Whether the file may be overwritten. Yes when it is as it was seen, and when it is not there; otherwise
 /// the person is asked: "This " and `what` ("proposal", "terms list") "was changed by another program since
 /// you opened it. Overwrite it?", No unless it is chosen.
-[[nodiscard]] bool MayOverwrite(Program& program, std::string_view path, const files::Seen& seen,
+[[nodiscard]] bool MayOverwrite(const Program& program, std::string_view path, const files::Seen& seen,
                                 std::string_view what);
 
 /// Writes the new bytes in one step, without a question, and takes them into `seen`. A file that could not be
@@ -21,7 +21,7 @@ void WriteOver(std::string_view path, std::string_view bytes, files::Seen& seen)
 
 enum class Rewriting { Done, Refused };
 /// Both in one. `seen` stays when the person refuses.
-[[nodiscard]] Rewriting Rewrite(Program& program, std::string_view path, std::string_view bytes,
+[[nodiscard]] Rewriting Rewrite(const Program& program, std::string_view path, std::string_view bytes,
                                 files::Seen& seen, std::string_view what);
 
 } // namespace modRewrite

@@ -12,6 +12,27 @@ void Window::Form_Cancel(Program& program) {
 
 namespace modWindows {
 
+namespace {
+
+Window* Named(const WindowCollection& windows, std::string_view name) {
+    for (const std::unique_ptr<Window>& window : windows.Open) {
+        if (!window->Closing && window->Name() == name) {
+            return window.get();
+        }
+    }
+    return nullptr;
+}
+
+Window* LastModal(const WindowCollection& windows) {
+    const auto& open = windows.Open;
+    const auto found = std::find_if(open.rbegin(), open.rend(), [](const std::unique_ptr<Window>& window) {
+        return !window->Closing && window->Mode() == Modality::Modal;
+    });
+    return found == open.rend() ? nullptr : found->get();
+}
+
+} // namespace
+
 Window& Show(Program& program, std::unique_ptr<Window> window) {
     Window& opened = *window;
     program.windows.Open.push_back(std::move(window));
@@ -41,20 +62,19 @@ std::vector<std::unique_ptr<Window>> Sweep(Program& program) {
 }
 
 Window* Find(Program& program, std::string_view name) {
-    for (const std::unique_ptr<Window>& window : program.windows.Open) {
-        if (!window->Closing && window->Name() == name) {
-            return window.get();
-        }
-    }
-    return nullptr;
+    return Named(program.windows, name);
+}
+
+const Window* Find(const Program& program, std::string_view name) {
+    return Named(program.windows, name);
 }
 
 Window* TopModal(Program& program) {
-    const auto& open = program.windows.Open;
-    const auto found = std::find_if(open.rbegin(), open.rend(), [](const std::unique_ptr<Window>& window) {
-        return !window->Closing && window->Mode() == Modality::Modal;
-    });
-    return found == open.rend() ? nullptr : found->get();
+    return LastModal(program.windows);
+}
+
+const Window* TopModal(const Program& program) {
+    return LastModal(program.windows);
 }
 
 void BringToFront(Window& window) {

@@ -24,9 +24,11 @@ std::vector<std::unique_ptr<Window>> Sweep(Program& program);
 
 /// The open window of that name, or null.
 [[nodiscard]] Window* Find(Program& program, std::string_view name);
+[[nodiscard]] const Window* Find(const Program& program, std::string_view name);
 
 /// The modal window that takes all input, or null.
 [[nodiscard]] Window* TopModal(Program& program);
+[[nodiscard]] const Window* TopModal(const Program& program);
 
 /// An open window comes to the front as it stands.
 void BringToFront(Window& window);

@@ -75,7 +75,7 @@ std::string BackupNameOf(const Program& program) {
            std::string(text::Right(document.FileName, 4));
 }
 
-void DeleteBackup(Program& program, const std::string& name) {
+void DeleteBackup(const Program& program, const std::string& name) {
     const std::string folder = modFolders::BackupFolder(program);
     files::Delete(paths::Join(folder, name));
     const std::string properties = paths::Join(folder, PropertiesOf(name));

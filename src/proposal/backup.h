@@ -18,6 +18,6 @@ namespace modFile {
 void BackupThisFile(Program& program);
 
 /// Deletes a backup and the properties beside it. Throws files::FileError.
-void DeleteBackup(Program& program, const std::string& name);
+void DeleteBackup(const Program& program, const std::string& name);
 
 } // namespace modFile

@@ -16,7 +16,7 @@ namespace {
 /// A file system takes names of 255 bytes; a file's other names, beside it and on the way to it, need some.
 constexpr std::size_t kLongestName = 230;
 
-bool IsTooLong(Program& program, std::string_view name) {
+bool IsTooLong(const Program& program, std::string_view name) {
     if (ansi::ToUtf8(name).size() <= kLongestName) {
         return false;
     }
@@ -34,7 +34,7 @@ bool HasIllegalCharacter(std::string_view name) {
     return name.find_first_of(kIllegal) != std::string_view::npos;
 }
 
-bool IllegalFileName(Program& program, std::string_view name) {
+bool IllegalFileName(const Program& program, std::string_view name) {
     if (!HasIllegalCharacter(name)) {
         return IsTooLong(program, name);
     }

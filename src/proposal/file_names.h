@@ -12,7 +12,7 @@ namespace modNames {
 [[nodiscard]] bool HasIllegalCharacter(std::string_view name);
 
 /// True, with a message, when the name holds one of / \ : * ? < > | or is too long for a file's name.
-[[nodiscard]] bool IllegalFileName(Program& program, std::string_view name);
+[[nodiscard]] bool IllegalFileName(const Program& program, std::string_view name);
 
 /// Asks whether the file of that name in `document.FilePath` may be replaced. Yes deletes nothing; No says
 /// "File not saved." and sets `document.Cancelled`. Reports as "ShowDuplicateFileOptions".

@@ -5,6 +5,7 @@
 #include "base/files.h"
 #include "base/numbers.h"
 #include "base/paths.h"
+#include "base/rows.h"
 #include "base/text.h"
 #include "pages/fields.h"
 #include "pages/logo.h"
@@ -119,7 +120,7 @@ void frmFile::GoTo(Program& program, std::string_view folder) {
     }
 }
 
-void frmFile::LookAtFiles(Program& program, const std::string& folder) {
+void frmFile::LookAtFiles(const Program& program, const std::string& folder) {
     std::vector<Found> found;
     for (std::string& name : files::List(folder, program.document.FileFilter)) {
         Found file{std::move(name)};
@@ -182,13 +183,13 @@ void frmFile::RefreshList(Program& program) {
 }
 
 void frmFile::Drive1_Change(Program& program, int index) {
-    if (index >= 0 && static_cast<std::size_t>(index) < Drive1.Items.size()) {
+    if (HasRow(Drive1.Items, index)) {
         GoTo(program, std::string(Drive1.Items[static_cast<std::size_t>(index)]));
     }
 }
 
 void frmFile::Dir1_Change(Program& program, int index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= Dir1.Items.size()) {
+    if (!HasRow(Dir1.Items, index)) {
         return;
     }
     const std::string chosen = Dir1.Items[static_cast<std::size_t>(index)];
@@ -196,7 +197,7 @@ void frmFile::Dir1_Change(Program& program, int index) {
 }
 
 void frmFile::FileList1_Click(Program&, int index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= FileList1.Items.size()) {
+    if (!HasRow(FileList1.Items, index)) {
         return;
     }
     FileList1.ListIndex = index;
@@ -298,6 +299,7 @@ void frmFile::OpenLogo(Program& program) {
     format.LogoChanged = true;
     format.Touched = true;
     Finish(program);
+    program.main.Notice = modLogo::kNotInTheProposal;
     if (const auto message = modLogo::ScaledMessage(*size)) {
         program.platform.questions.MsgBox(*message, Buttons::Ok, "");
     }

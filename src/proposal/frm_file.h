@@ -60,7 +60,7 @@ public:
 private:
     void GoTo(Program& program, std::string_view folder);
     void RefreshList(Program& program);
-    void LookAtFiles(Program& program, const std::string& folder);
+    void LookAtFiles(const Program& program, const std::string& folder);
     /// Puts on show what was found, in the order and as far as it is wanted.
     void ShowFound(Program& program);
     void OpenProposal(Program& program);

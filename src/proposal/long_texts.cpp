@@ -28,7 +28,7 @@ std::vector<std::string> LongTexts(const Program& program) {
     return places;
 }
 
-bool MayCutLongTexts(Program& program) {
+bool MayCutLongTexts(const Program& program) {
     constexpr std::size_t kNamed = 10;
     const std::vector<std::string> places = LongTexts(program);
     if (places.empty()) {

@@ -13,6 +13,6 @@ namespace modFile {
 [[nodiscard]] std::vector<std::string> LongTexts(const Program& program);
 
 /// Asks whether texts that are too long may be cut; true without a question when there are none.
-[[nodiscard]] bool MayCutLongTexts(Program& program);
+[[nodiscard]] bool MayCutLongTexts(const Program& program);
 
 } // namespace modFile

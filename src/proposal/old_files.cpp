@@ -11,7 +11,7 @@
 
 namespace modFile {
 
-void ConvertOldFiles(Program& program) {
+void ConvertOldFiles(const Program& program) {
     Guarded(program, "ConvertOldFiles", [&] {
         const std::string folder = modFolders::DataFolder(program);
         if (!files::IsFolder(folder)) {

@@ -5,6 +5,6 @@ struct Program;
 namespace modFile {
 
 /// Renames every old "*.hwf" of the proposals folder to ".hef". Reports as "ConvertOldFiles".
-void ConvertOldFiles(Program& program);
+void ConvertOldFiles(const Program& program);
 
 } // namespace modFile

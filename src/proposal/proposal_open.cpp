@@ -185,7 +185,7 @@ RawProposal ReadProposal(const Program& program, std::string_view path) {
     return raw;
 }
 
-std::optional<RawProposal> LoadProposal(Program& program, std::string_view fileName) {
+std::optional<RawProposal> LoadProposal(const Program& program, std::string_view fileName) {
     RawProposal raw;
     const bool done = Guarded(program, "OpenEventFile", [&] {
         raw = ReadProposal(program, paths::Join(program.document.FilePath, fileName));

@@ -22,7 +22,7 @@ struct RawProposal {
 [[nodiscard]] RawProposal ReadProposal(const Program& program, std::string_view path);
 /// Reads a file of `document.FilePath`. Nothing, after a report as "OpenEventFile", when it cannot be read.
 /// Changes nothing.
-[[nodiscard]] std::optional<RawProposal> LoadProposal(Program& program, std::string_view fileName);
+[[nodiscard]] std::optional<RawProposal> LoadProposal(const Program& program, std::string_view fileName);
 /// Fills the empty pages and the totals from what was read. Shows the message for a deposit that is no
 /// number.
 void ShowProposal(Program& program, std::string_view fileName, const RawProposal& raw);

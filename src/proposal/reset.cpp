@@ -186,8 +186,6 @@ void ResetSteps(Program& program) {
     ResetPages(program);
     ResetFont(program);
     modTitles::CentreFooters(program);
-    program.totals.PageSum = {};
-    program.totals.PageTaxable = {};
     EmptyTexts(program);
     ZeroTotals(program);
     TakeFormat(program, loadDefault);

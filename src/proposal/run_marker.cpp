@@ -49,7 +49,7 @@ std::optional<UnsavedWork> Parse(std::string_view bytes) {
     return UnsavedWork{lines[0], lines[1], lines[2], SeenOf(lines, kLines), SeenOf(lines, kLines + 1)};
 }
 
-void WriteMarker(Program& program) {
+void WriteMarker(const Program& program) {
     if (!program.recovery.Marked) {
         return;
     }

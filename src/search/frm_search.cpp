@@ -33,7 +33,7 @@ void frmSearch::Form_Cancel(Program& program) {
     cmdCancel_Click(program);
 }
 
-void frmSearch::UpDateRecentSearches(Program& program) {
+void frmSearch::UpDateRecentSearches(const Program& program) {
     Guarded(program, "UpDateRecentSearches", [&] { cmbSearch.Items = program.search.RecentSearches; });
 }
 

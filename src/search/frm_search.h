@@ -48,7 +48,7 @@ public:
     /// Tests one area and appends a hit.
     void SearchForPhrase(Program& program, PageId page, int index);
     /// The phrases searched since the start, for the list of `cmbSearch`. Reports as "UpDateRecentSearches".
-    void UpDateRecentSearches(Program& program);
+    void UpDateRecentSearches(const Program& program);
 
 private:
     void SearchPage(Program& program, PageId page);

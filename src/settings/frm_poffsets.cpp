@@ -59,7 +59,7 @@ frmPOffsets::Numbers frmPOffsets::Take(Program& program) {
 }
 
 void frmPOffsets::cmdOK_Click(Program& program) {
-    static_cast<void>(Take(program));
+    static_cast<void>(Take(program)); // a refusal has been told
 }
 
 void frmPOffsets::cmdSavePrinterOffsets_Click(Program& program) {

@@ -1,5 +1,6 @@
 #include "settings/frm_printers.h"
 
+#include "base/rows.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "settings/settings.h"
@@ -11,7 +12,7 @@ void frmPrinters::Form_Load(Program& program) {
     ListPrinters(program);
 }
 
-void frmPrinters::ListPrinters(Program& program) {
+void frmPrinters::ListPrinters(const Program& program) {
     const Printers& printers = program.platform.printers;
     cmbPrinters.Items = printers.Names();
     const auto current = std::find(cmbPrinters.Items.begin(), cmbPrinters.Items.end(), printers.Current());
@@ -21,7 +22,7 @@ void frmPrinters::ListPrinters(Program& program) {
 }
 
 void frmPrinters::cmbPrinters_Click(Program&, int index) {
-    if (index >= 0 && static_cast<std::size_t>(index) < cmbPrinters.Items.size()) {
+    if (HasRow(cmbPrinters.Items, index)) {
         cmbPrinters.ListIndex = index;
     }
 }

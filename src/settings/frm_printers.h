@@ -20,7 +20,7 @@ public:
     void cmdPrinter_Click(Program& program);
 
 private:
-    void ListPrinters(Program& program);
+    void ListPrinters(const Program& program);
 };
 
 namespace modPrinters {

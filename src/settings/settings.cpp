@@ -83,7 +83,7 @@ constexpr std::array<std::string_view, kKeys.size()> kFirstValues{"True",
                                                                   "",
                                                                   "False",
                                                                   "",
-                                                                  "Left=100:Top=1800:Width=4200:Height=6000",
+                                                                  "Left=0:Top=0:Width=0:Height=0",
                                                                   "Times New Roman",
                                                                   "10",
                                                                   "0",
@@ -197,12 +197,13 @@ void PutInForce(Program& program) {
     Printers& printers = program.platform.printers;
     run.NoPrinter = printers.Names().empty();
     if (!settings.DefaultPrinter.empty()) {
+        // One that is gone leaves the system's own in its place, which the printer window shows.
         static_cast<void>(printers.MakeCurrent(settings.DefaultPrinter));
     }
 }
 
 /// Copies the shared data of an installation into a new shared folder; what it does not hold is left out.
-void FillSharedFolder(Program& program, const std::string& folder) {
+void FillSharedFolder(const Program& program, const std::string& folder) {
     struct Item {
         std::string_view From;
         std::string_view To;
@@ -261,7 +262,7 @@ void SettleFolders(Program& program) {
 
 /// The folder of the proposals and the one of their backups. Without them the program goes on with what it
 /// has, so that the person can name another folder.
-void EnsureFolders(Program& program) {
+void EnsureFolders(const Program& program) {
     const std::string& folder = program.folders.ProposalsFolder;
     try {
         if (!files::IsFolder(folder)) {
@@ -298,7 +299,7 @@ std::string BytesOf(const std::vector<std::string>& lines) {
 }
 
 /// An installation that has lost its settings gets new ones, and the person is told.
-void MakeSettings(Program& program) {
+void MakeSettings(const Program& program) {
     ReportError(program, "GetUserPreferences",
                 files::FileError(files::kNotFound, "File not found: " + PathOf(program)));
     std::vector<std::string> lines;

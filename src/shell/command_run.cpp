@@ -34,7 +34,7 @@ bool MayRun(Program& program, CommandId id) {
     modText::TextMenuClosed(program);
     // A shortcut must not act on the state of a field that has been left meanwhile.
     if (entry.Parent == CommandId::mnuEditTextBox) {
-        modBlocks::UpdateTextMenu(program);
+        modTextMenu::UpdateTextMenu(program);
     }
     if (entry.Pending()) {
         program.main.Notice = kNotBuilt; // a tool button leads here, too

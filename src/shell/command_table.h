@@ -1,6 +1,6 @@
 #pragma once
 
-#include "program/command_ids.h"
+#include "shell/command_entry.h"
 
 #include <span>
 #include <string_view>
@@ -9,27 +9,6 @@ struct Program;
 
 /// The menus as the model owns them; the front end builds its menus from this table.
 namespace commands {
-
-enum class Kind { Menu, Item, Separator };
-using Handler = void (*)(Program&);
-
-/// An entry that can be chosen and has no handler is pending: its room is not built yet. Its state is kept
-/// like any other's, but it is never available, and its status tip says so.
-struct Entry {
-    CommandId Id = CommandId::Count;
-    std::string_view Name = {};
-    std::string_view Caption = {};
-    CommandId Parent = CommandId::Count; ///< Count for a top-level menu
-    Kind What = Kind::Item;
-    Handler Run = nullptr;
-    std::string_view Shortcut = {}; ///< "Ctrl+N", empty for none
-    bool Visible = true;
-    bool Enabled = true;
-    bool Checked = false;
-    bool Checkable = false;
-
-    [[nodiscard]] constexpr bool Pending() const { return What == Kind::Item && Run == nullptr; }
-};
 
 /// What is said of a pending command.
 inline constexpr std::string_view kNotBuilt = "This command is not available in this version.";

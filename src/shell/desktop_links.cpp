@@ -13,12 +13,12 @@ namespace {
 constexpr std::string_view kProgramFile = "Quillbrook.exe";
 constexpr std::string_view kUpgradeFile = "Upgrade Manager.exe";
 
-void Tell(Program& program, std::string_view message) {
+void Tell(const Program& program, std::string_view message) {
     program.platform.questions.MsgBox(message, Buttons::Ok, "");
 }
 
 /// On the desktop first, then in the folder of program links itself.
-void PlaceLinks(Program& program, std::string_view target, std::string_view name) {
+void PlaceLinks(const Program& program, std::string_view target, std::string_view name) {
     const std::string file = paths::Join(program.folders.InstallFolder, target);
     for (const std::string_view folder : {"..\\..\\Desktop", ""}) {
         // A link that cannot be placed goes unmentioned, as with pages that cannot be opened.

@@ -17,7 +17,7 @@ void frmMain::cmdClearMem_Click() {
 }
 
 void frmMain::cmdPreview_Click() {
-    const bool stands = modPrint::PreviewStands(program_);
+    const bool stands = modPreview::PreviewStands(program_);
     commands::Run(program_, stands ? CommandId::mnuFileResume : CommandId::mnuFilePrintPreview);
 }
 

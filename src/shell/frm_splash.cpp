@@ -42,7 +42,7 @@ void frmSplash::Form_Unload(Program& program) {
     program.run.SplashShown = false;
 }
 
-void frmSplash::Animate(Program& program) {
+void frmSplash::Animate(const Program& program) {
     const TextMeasure& measure = program.platform.measure;
     constexpr int kSteps = (kLastBlue - kFirstBlue) / kBlueStep + 1;
     Color blue = kFirstBlue;

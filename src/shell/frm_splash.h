@@ -26,7 +26,7 @@ public:
     void Form_KeyDown(Program& program, int keyCode);
 
 private:
-    void Animate(Program& program);
+    void Animate(const Program& program);
 
     bool gathering_ = false;
     bool clicked_ = false;

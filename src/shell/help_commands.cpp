@@ -15,7 +15,7 @@ namespace modHelp {
 
 namespace {
 
-void Tell(Program& program, std::string_view message) {
+void Tell(const Program& program, std::string_view message) {
     program.platform.questions.MsgBox(message, Buttons::Ok, "");
 }
 

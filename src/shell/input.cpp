@@ -82,7 +82,7 @@ void NoteKeyDown(Program& program, int keyCode) {
     typed.Codes.reset(TypedKeys::PlaceOf(keyCode));
 }
 
-void NoteTyped(Program& program, const FieldRef& field) {
+void NoteTyped(Program& program, const FieldRef& field, int cursor) {
     TypedKeys& typed = program.editing.Typed;
     if (!typed.Character) {
         return;
@@ -92,7 +92,9 @@ void NoteTyped(Program& program, const FieldRef& field) {
         typed.Codes.reset();
         typed.Field = field;
     }
-    typed.Codes.set(TypedKeys::PlaceOf(typed.KeyDown));
+    const std::size_t place = TypedKeys::PlaceOf(typed.KeyDown);
+    typed.Codes.set(place);
+    typed.Behind[place] = cursor;
 }
 
 void PutCursor(Program& program, const FieldRef& field, int selStart, int selLength) {
@@ -185,12 +187,12 @@ int KeyPress(Program& program, int keyAscii) {
     return kept;
 }
 
-bool MayEdit(Program& program, const FieldRef& field) {
+bool MayEdit(const Program& program, const FieldRef& field) {
     return !program.editing.BlockMode && !modFields::Area(program, field).Locked;
 }
 
 void Edited(Program& program, const FieldRef& field, std::string_view text, int selStart, int selLength) {
-    NoteTyped(program, field);
+    NoteTyped(program, field, selStart);
     modFields::TypeText(program, field, text, selStart, selLength);
     ShowCaret(program);
     ShowTypingField(program);
@@ -295,8 +297,7 @@ void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength
     ShowCaret(program);
 }
 
-void FieldMouseDown(Program& program, const FieldRef& field, int button, int shift, int selStart,
-                    int selLength) {
+void FieldMouseDown(Program& program, const FieldRef& field, int button, int selStart, int selLength) {
     if (field.Page == PageId::frmP6_1) {
         return;
     }
@@ -309,7 +310,7 @@ void FieldMouseDown(Program& program, const FieldRef& field, int button, int shi
     modFields::GiveFocus(program, field);
     PutCursor(program, field, selStart, selLength);
     if (IsText(field)) {
-        modText::txt_MouseDown(program, field.Page, field.Index, button, shift);
+        modText::txt_MouseDown(program, field.Page, field.Index, button);
     }
     ShowCaret(program);
 }
@@ -331,10 +332,11 @@ void FieldDblClick(Program& program, const FieldRef& field, int position) {
     if (program.main.Focus == focus && modFields::Area(program, field).Text == before) {
         modText::MarkWordAt(program, field, position);
     }
+    ShowCaret(program);
 }
 
-void PageMouseDown(Program& program, PageId page, int button, float x, float y) {
-    modBlocks::Form_MouseDown(program, page, button, x, y);
+void PageMouseDown(Program& program, int button, float x, float y) {
+    modBlocks::Form_MouseDown(program, button, x, y);
 }
 
 void PageMouseMove(Program& program, PageId page, int button, float x, float y) {

@@ -20,7 +20,7 @@ namespace modInput {
 /// Returns the character to enter, 0 when it is cancelled.
 [[nodiscard]] int KeyPress(Program& program, int keyAscii);
 /// Whether an edit that enters no character (delete, cut, undo) may reach a field.
-[[nodiscard]] bool MayEdit(Program& program, const FieldRef& field);
+[[nodiscard]] bool MayEdit(const Program& program, const FieldRef& field);
 /// The widget of a field has applied an edit.
 void Edited(Program& program, const FieldRef& field, std::string_view text, int selStart, int selLength);
 /// The same for an edit that no key made: a paste by mouse, a drop, an input method, undo. No stale key may
@@ -47,13 +47,12 @@ void CursorMoved(Program& program, const FieldRef& field, int selStart, int selL
 void KeyUp(Program& program, int keyCode, int shift, int selStart, int selLength);
 
 /// A field was clicked (focus first, then MouseDown), or reached by other means than the model's own.
-void FieldMouseDown(Program& program, const FieldRef& field, int button, int shift, int selStart,
-                    int selLength);
+void FieldMouseDown(Program& program, const FieldRef& field, int button, int selStart, int selLength);
 void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int selLength);
 /// Twice in a row; `position` is the character position that was meant.
 void FieldDblClick(Program& program, const FieldRef& field, int position);
 /// The mouse on a page's own surface, 1 for the left button, in twips from the page's corner.
-void PageMouseDown(Program& program, PageId page, int button, float x, float y);
+void PageMouseDown(Program& program, int button, float x, float y);
 void PageMouseMove(Program& program, PageId page, int button, float x, float y);
 void PageMouseUp(Program& program, PageId page, int button, float x, float y);
 /// Whether the press just made opens the menu of the text areas: a right one on an area of frmP1 to frmP5.

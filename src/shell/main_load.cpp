@@ -14,6 +14,7 @@
 #include "program/program.h"
 #include "proposal/old_files.h"
 #include "proposal/recovery.h"
+#include "proposal/rescued.h"
 #include "proposal/reset.h"
 #include "settings/frm_tax.h"
 #include "settings/settings.h"
@@ -80,7 +81,7 @@ void LoadSteps(Program& program) {
             modPages::SetUpPage(program, page);
         }
         modPages::ApplyPageFonts(program);
-        static_cast<void>(modReset::StartNewFile(program));
+        static_cast<void>(modReset::StartNewFile(program)); // no format is open that could refuse it
         modPages::SnapshotLabels(program);
         if (!program.run.TermsPinned) {
             program.run.FUTFileName = "Default Terms.fut";
@@ -118,7 +119,6 @@ bool Load(Program& program) {
     commands::LoadDesignState(program);
     program.main.imgPage[0].Pointer = MousePointer::Hand;
     modToolButtons::LoadPageButtonCursors(program);
-    program.main.State = WindowState::Maximised;
     return Guarded(program, "MDIForm_Load", [&] { LoadSteps(program); });
 }
 
@@ -132,6 +132,7 @@ void MDIForm_Load(Program& program) {
     }
     WorkOutControls(program);
     program.main.Loaded = true;
+    modRescue::OfferRescued(program); // first: what comes back lies there when its proposal is shown
     modRecovery::OfferWhatWasFound(program);
 }
 

@@ -20,7 +20,7 @@ namespace modOptions {
 
 namespace {
 
-void Tell(Program& program, std::string_view message) {
+void Tell(const Program& program, std::string_view message) {
     program.platform.questions.MsgBox(message, Buttons::Ok, "");
 }
 

@@ -108,6 +108,18 @@ void TakePage(Program& program, PageId page) {
     main.LastLabelIndex = geometry::LastLabel(page);
 }
 
+/// Whether the page in front shows the field, with room for more than the field itself.
+bool CanScrollTo(const Program& program, const FieldRef& field) {
+    const MainWindow& main = program.main;
+    const Page& page = program.pages[field.Page];
+    const float height = page.txt[static_cast<std::size_t>(field.Index)].Height;
+    return field.Page == main.PageInFront && !page.InkShown && main.ClientHeight >= 2 * height;
+}
+
+float RoomBeside(const Program& program, const TextArea& area) {
+    return std::min(RowPitch(program), (program.main.ClientHeight - area.Height) / 2);
+}
+
 } // namespace
 
 void UpdatePageButtons(Program& program, int pageIndex) {
@@ -115,7 +127,7 @@ void UpdatePageButtons(Program& program, int pageIndex) {
     modDesigner::CloseLabelWindow(program);
     if (!program.guards.StartingUp && main.cmdPreview.Caption == "Resume Editing") {
         main.cmdPreview.Caption = "Print Preview";
-        modPrint::ResumeEditing(program, main.PageInFront);
+        modPreview::ResumeEditing(program, main.PageInFront);
     }
     for (ImageButton& button : main.imgPage) {
         button.Picture = 0;
@@ -170,18 +182,28 @@ void VScroll1_Change(Program& program) {
 
 void BringIntoView(Program& program, const FieldRef& field) {
     const MainWindow& main = program.main;
-    const Page& page = program.pages[field.Page];
     const TextArea& area = modFields::Area(program, field);
-    if (field.Page != main.PageInFront || page.InkShown || main.ClientHeight < 2 * area.Height) {
+    if (!CanScrollTo(program, field)) {
         return;
     }
-    const float beside = std::min(RowPitch(program), (main.ClientHeight - area.Height) / 2);
+    const float beside = RoomBeside(program, area);
     const auto shown = static_cast<float>(main.VScroll1.Value);
     if (area.Top < shown) {
         SetScroll(program, static_cast<int>(area.Top - beside));
     } else if (area.Top + area.Height > shown + main.ClientHeight) {
         SetScroll(program, static_cast<int>(area.Top + area.Height + beside - main.ClientHeight));
     }
+}
+
+void BringToEdge(Program& program, const FieldRef& field) {
+    if (!CanScrollTo(program, field)) {
+        return;
+    }
+    const MainWindow& main = program.main;
+    const TextArea& area = modFields::Area(program, field);
+    const float beside = RoomBeside(program, area);
+    const int atFoot = static_cast<int>(area.Top + area.Height + beside - main.ClientHeight);
+    SetScroll(program, atFoot >= main.VScroll1.Min ? atFoot : static_cast<int>(area.Top - beside));
 }
 
 void Wheel(Program& program, int eighths) {

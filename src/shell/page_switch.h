@@ -24,6 +24,10 @@ void VScroll1_Change(Program& program);
 /// of another page and a page that is only ink leave the position alone.
 void BringIntoView(Program& program, const FieldRef& field);
 
+/// Scrolls the page in front until the field stands about a row from the lower edge of what shows, or, near
+/// the page's head, from the upper one: a window above it needs most of the screen.
+void BringToEdge(Program& program, const FieldRef& field);
+
 /// The mouse wheel, in eighths of a degree as the devices give them (120 a notch, up is more): a notch is
 /// three rows of the page.
 void Wheel(Program& program, int eighths);

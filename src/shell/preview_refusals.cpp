@@ -29,10 +29,10 @@ bool Edits(CommandId id) {
 } // namespace
 
 bool RefusedInPreview(const Program& program, CommandId id) {
-    return modPrint::PreviewStands(program) && Edits(id);
+    return modPreview::PreviewStands(program) && Edits(id);
 }
 
-bool RefuseInPreview(Program& program, CommandId id) {
+bool RefuseInPreview(const Program& program, CommandId id) {
     if (!RefusedInPreview(program, id)) {
         return false;
     }

@@ -11,6 +11,6 @@ namespace commands {
 [[nodiscard]] bool RefusedInPreview(const Program& program, CommandId id);
 
 /// Refuses the command with a message when it has to wait. True when it was refused.
-[[nodiscard]] bool RefuseInPreview(Program& program, CommandId id);
+[[nodiscard]] bool RefuseInPreview(const Program& program, CommandId id);
 
 } // namespace commands

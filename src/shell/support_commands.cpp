@@ -12,7 +12,7 @@ namespace modSupport {
 
 namespace {
 
-void Tell(Program& program, std::string_view message) {
+void Tell(const Program& program, std::string_view message) {
     program.platform.questions.MsgBox(message, Buttons::Ok, "");
 }
 

@@ -94,9 +94,9 @@ void Wire(Program& program) {
     hooks.CompletionKey = modTerms::CompletionKey;
     hooks.ShowCalculator = modCalculator::ShowCalculator;
     hooks.OpenFormatFile = modFormat::OpenFormatFile;
-    hooks.ParsePropertyFile = modFormat::ParsePropertyFile;
-    hooks.AssignPropChanges = modFormat::AssignPropChanges;
+    hooks.ParsePropertyFile = modProperties::ParsePropertyFile;
+    hooks.AssignPropChanges = modProperties::AssignPropChanges;
     hooks.MayLeaveFormat = modFormat::MayLeaveFormat;
     hooks.CloseLabelWindow = modDesigner::CloseLabelWindow;
-    hooks.SetPageNumbers = modPrint::SetPageNumbers;
+    hooks.SetPageNumbers = modPageCount::SetPageNumbers;
 }

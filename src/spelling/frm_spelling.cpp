@@ -1,5 +1,6 @@
 #include "spelling/frm_spelling.h"
 
+#include "base/rows.h"
 #include "program/program.h"
 
 #include <algorithm>
@@ -19,14 +20,14 @@ void frmSpelling::Form_Cancel(Program&) {
 }
 
 void frmSpelling::lstSuggestions_Click(Program&, int index) {
-    if (index >= 0 && static_cast<std::size_t>(index) < lstSuggestions.Items.size()) {
+    if (HasRow(lstSuggestions.Items, index)) {
         lstSuggestions.ListIndex = index;
         txtChangeTo.Text = lstSuggestions.Items[static_cast<std::size_t>(index)];
     }
 }
 
 void frmSpelling::cmbLanguage_Click(Program&, int index) {
-    if (index >= 0 && static_cast<std::size_t>(index) < cmbLanguage.Items.size()) {
+    if (HasRow(cmbLanguage.Items, index)) {
         cmbLanguage.ListIndex = index;
         decisions_.UseLanguage(cmbLanguage.Items[static_cast<std::size_t>(index)]);
     }

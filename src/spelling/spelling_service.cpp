@@ -162,6 +162,7 @@ void SpellingService::UseLanguage(std::string_view language) {
     if (!program_.platform.dictionaries.Use(language)) {
         program_.platform.questions.MsgBox("The dictionary " + std::string(language) + " could not be read.",
                                            Buttons::Ok, "");
+        // Back to the one that was in use a moment ago.
         static_cast<void>(program_.platform.dictionaries.Use(program_.spelling.Language));
         return;
     }

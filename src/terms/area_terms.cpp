@@ -16,7 +16,7 @@ namespace modTerms {
 
 namespace {
 
-std::string Selection(Program& program) {
+std::string Selection(const Program& program) {
     const FieldRef field{program.main.ActivePage, FieldKind::txt, program.editing.CurrentArea};
     if (!modFields::Exists(program, field)) {
         return {};
@@ -34,14 +34,14 @@ void FollowWindow(Program& program) {
 } // namespace
 
 void AddTermFromArea(Program& program) {
-    static_cast<void>(AddTerm(program, text::Lower(Selection(program))));
+    static_cast<void>(AddTerm(program, text::Lower(Selection(program)))); // what came of it has been told
     FollowWindow(program);
 }
 
 void mnuEditTextEditFUT_Click(Program& program) {
     const std::string selection = Selection(program);
     if (!selection.empty()) {
-        modWindows::Show(program, std::make_unique<frmEditFUT>(std::string(text::Trim(selection))));
+        modWindows::Show(program, std::make_unique<frmEditFUT>(TermLine{std::string(text::Trim(selection))}));
     }
 }
 
@@ -53,7 +53,7 @@ void mnuEditTextDeleteFUT_Click(Program& program) {
     if (line.empty() || (!there && program.terms.ReadWhole)) {
         return;
     }
-    static_cast<void>(RemoveTerm(program, line));
+    static_cast<void>(RemoveTerm(program, {line})); // what came of it has been told
     FollowWindow(program);
 }
 

@@ -11,6 +11,8 @@
 #include "terms/term_list.h"
 #include "terms/term_match.h"
 
+#include <algorithm>
+
 namespace modTerms {
 
 namespace {
@@ -28,24 +30,32 @@ bool Excluded(int keyCode) {
            keyCode == keys::kShift || keyCode == keys::kUp;
 }
 
-/// Whether the key just let go is one that has put a character into this area. It counts once.
-bool HasTyped(Program& program, const FieldRef& field, int keyCode, int shift) {
+/// Where the cursor stood behind the character that the key just let go has put into this area; nothing when
+/// it has put none. It counts once.
+std::optional<int> TypedUpTo(Program& program, const FieldRef& field, int keyCode, int shift) {
     TypedKeys& typed = program.editing.Typed;
     const std::size_t code = TypedKeys::PlaceOf(keyCode);
     const bool put = typed.Field == field && typed.Codes.test(code);
     typed.Codes.reset(code);
-    return put && (shift & (keys::kCtrlState | keys::kAltState)) == 0;
+    if (!put || (shift & (keys::kCtrlState | keys::kAltState)) != 0) {
+        return std::nullopt;
+    }
+    return typed.Behind[code];
 }
 
-void FollowWord(Program& program, const FieldRef& field, int keyCode) {
+/// In quick typing the next letters are there before a key is let go: a word begins where that key's own
+/// character begins it, unless a later one has begun already.
+void FollowWord(Program& program, const FieldRef& field, int keyCode, std::optional<int> typedUpTo) {
     WordState& word = WordOf(program, field.Page);
     const int cursor = program.editing.CursorPos;
-    if (cursor == 1) {
+    const int behind = std::min(typedUpTo.value_or(cursor), cursor);
+    const bool late = word.InWord && behind < word.WordStart && word.WordStart <= cursor;
+    if (cursor == 1 || (behind == 1 && !late)) {
         word.NewWord = true;
         word.WordStart = 0;
-    } else if (keyCode == keys::kBlank) {
+    } else if (keyCode == keys::kBlank && !late) {
         word.NewWord = true;
-        word.WordStart = cursor;
+        word.WordStart = behind;
     }
     if (word.NewWord) {
         word.NewWord = false;
@@ -137,7 +147,7 @@ std::optional<std::string> CompletionFor(std::string_view word, std::string_view
 }
 
 void CompleteWord(Program& program, const FieldRef& field, int keyCode, int shift) {
-    const bool typed = HasTyped(program, field, keyCode, shift);
+    const std::optional<int> typedUpTo = TypedUpTo(program, field, keyCode, shift);
     const TextArea& area = modFields::Area(program, field);
     const bool atEnd = area.SelStart == static_cast<int>(area.Text.size());
     if (!program.run.ACEnabled || Excluded(keyCode) || (!atEnd && area.SelLength == 0)) {
@@ -146,8 +156,8 @@ void CompleteWord(Program& program, const FieldRef& field, int keyCode, int shif
     if (Active(program, field.Page) && (keyCode == keys::kInsert || keyCode == keys::kRight)) {
         Accept(program, field);
     }
-    FollowWord(program, field, keyCode);
-    if (typed && area.SelLength == 0 && area.SelStart == static_cast<int>(area.Text.size())) {
+    FollowWord(program, field, keyCode, typedUpTo);
+    if (typedUpTo && area.SelLength == 0 && area.SelStart == static_cast<int>(area.Text.size())) {
         Complete(program, field);
     }
 }

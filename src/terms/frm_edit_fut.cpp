@@ -2,12 +2,11 @@
 
 #include "program/program.h"
 #include "program/windows.h"
-#include "terms/term_list.h"
 
 void frmEditFUT::Form_Load(Program&) {
     Caption = "Edit Selected Term";
-    txtEditFUT.Text = term_;
-    txtEditFUT.SelLength = static_cast<int>(term_.size());
+    txtEditFUT.Text = term_.Text;
+    txtEditFUT.SelLength = static_cast<int>(term_.Text.size());
 }
 
 void frmEditFUT::Form_Cancel(Program& program) {

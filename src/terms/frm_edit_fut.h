@@ -2,14 +2,14 @@
 
 #include "program/controls.h"
 #include "program/window.h"
+#include "terms/term_list.h"
 
-#include <string>
 #include <utility>
 
 /// Changes one term of the open list.
 class frmEditFUT : public Window {
 public:
-    explicit frmEditFUT(std::string term) : term_(std::move(term)) {}
+    explicit frmEditFUT(modTerms::TermLine term) : term_(std::move(term)) {}
 
     TextBox txtEditFUT;
     CommandButton cmdSave{.Caption = "Save Changes and Exit", .ToolTipText = ""};
@@ -26,5 +26,5 @@ public:
     void cmdExit_Click(Program& program);
 
 private:
-    std::string term_; ///< the line as it stands in the list
+    modTerms::TermLine term_; ///< as it stands in the list
 };

@@ -1,6 +1,7 @@
 #include "terms/frm_fut.h"
 
 #include "base/numbers.h"
+#include "base/rows.h"
 #include "pages/fields.h"
 #include "program/keys.h"
 #include "program/program.h"
@@ -16,7 +17,7 @@
 
 namespace {
 
-void Tell(Program& program, std::string_view message) {
+void Tell(const Program& program, std::string_view message) {
     program.platform.questions.MsgBox(message, Buttons::Ok, "");
 }
 
@@ -75,7 +76,7 @@ void frmFUT::Form_DblClick(Program& program) {
     Tell(program, PlaceText(*this));
 }
 
-void frmFUT::FollowList(Program& program) {
+void frmFUT::FollowList(const Program& program) {
     Caption = modTerms::ListName(program.run.FUTFileName);
     if (lstFUT.ListIndex >= program.terms.TermCount()) {
         lstFUT.ListIndex = program.terms.TermCount() - 1;
@@ -99,7 +100,7 @@ void frmFUT::cmdOpt_Click(Program& program, int index) {
     } else if (index == kRemove) {
         Remove(program);
     } else if (const std::optional<std::string> term = Selected(program)) {
-        modWindows::Show(program, std::make_unique<frmEditFUT>(*term));
+        modWindows::Show(program, std::make_unique<frmEditFUT>(modTerms::TermLine{*term, lstFUT.ListIndex}));
     } else {
         Tell(program, "Nothing selected to edit.");
     }
@@ -111,7 +112,8 @@ void frmFUT::Remove(Program& program) {
         Tell(program, "Nothing selected to remove.");
         return;
     }
-    static_cast<void>(modTerms::RemoveTerm(program, *term));
+    // What came of it has been told.
+    static_cast<void>(modTerms::RemoveTerm(program, {*term, lstFUT.ListIndex}));
     FollowList(program);
 }
 
@@ -174,7 +176,7 @@ void frmFUT::mnuFileNewFUT_Click(Program& program) {
 
 void frmFUT::mnuFileDelete_Click(Program& program) {
     const int row = lstMoreFUT.ListIndex;
-    if (!lstMoreFUT.Visible || row < 0 || static_cast<std::size_t>(row) >= lstMoreFUT.Items.size()) {
+    if (!lstMoreFUT.Visible || !HasRow(lstMoreFUT.Items, row)) {
         Tell(program, "No file to delete.");
         return;
     }
@@ -198,13 +200,12 @@ void frmFUT::mnuWindowSavePosition_Click(Program& program) {
 }
 
 void frmFUT::lstMoreFUT_Move(int row) {
-    const bool there = row >= 0 && static_cast<std::size_t>(row) < lstMoreFUT.Items.size();
-    lstMoreFUT.ListIndex = there ? row : -1;
+    lstMoreFUT.ListIndex = HasRow(lstMoreFUT.Items, row) ? row : -1;
 }
 
 void frmFUT::lstMoreFUT_Click(Program& program) {
     const int row = lstMoreFUT.ListIndex;
-    if (row < 0 || static_cast<std::size_t>(row) >= lstMoreFUT.Items.size()) {
+    if (!HasRow(lstMoreFUT.Items, row)) {
         Tell(program, "No list selected.");
         return;
     }

@@ -54,7 +54,7 @@ public:
     /// The window's background: its place and size.
     void Form_DblClick(Program& program);
     /// Brings caption and selection up to the list in memory.
-    void FollowList(Program& program);
+    void FollowList(const Program& program);
 
     void cmdOpt_Click(Program& program, int index);
     void cmdCase_Click(Program& program, int index);

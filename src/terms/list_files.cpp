@@ -22,7 +22,7 @@ constexpr std::string_view kWeddingList = "Wedding Terms.fut";
 constexpr std::string_view kExtension = ".fut";
 
 /// The name that a list of the folder has on disk, whatever the case it was given in.
-std::optional<std::string> NameOnDisk(Program& program, std::string_view name) {
+std::optional<std::string> NameOnDisk(const Program& program, std::string_view name) {
     const std::vector<std::string> names = ListFiles(program);
     const auto exact = std::find(names.begin(), names.end(), name);
     if (exact != names.end()) {
@@ -39,7 +39,7 @@ std::string PathOf(const Program& program, std::string_view name) {
 
 } // namespace
 
-std::vector<std::string> ListFiles(Program& program) {
+std::vector<std::string> ListFiles(const Program& program) {
     std::vector<std::string> names;
     Guarded(program, "ReadFrequentlyUsedTerms",
             [&] { names = files::List(modFolders::DataFolder(program), "*.fut"); });
@@ -116,7 +116,7 @@ bool DeleteList(Program& program, std::string_view fileName) {
     return true;
 }
 
-void LayDownLists(Program& program) {
+void LayDownLists(const Program& program) {
     Guarded(program, "ReadFrequentlyUsedTerms", [&] {
         const std::string folder = modFolders::DataFolder(program);
         if (!files::IsFolder(folder)) {

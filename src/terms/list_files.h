@@ -11,7 +11,7 @@ namespace modTerms {
 
 /// Every terms file of the data folder by name; none when the folder cannot be read, which is reported as
 /// "ReadFrequentlyUsedTerms".
-[[nodiscard]] std::vector<std::string> ListFiles(Program& program);
+[[nodiscard]] std::vector<std::string> ListFiles(const Program& program);
 
 /// The person opens a list; it stays the one in use for the run.
 void OpenList(Program& program, std::string_view fileName);
@@ -25,6 +25,6 @@ void CreateNewFUTFile(Program& program);
 [[nodiscard]] bool DeleteList(Program& program, std::string_view fileName);
 
 /// Lists that an installation lays down: made empty where they are missing.
-void LayDownLists(Program& program);
+void LayDownLists(const Program& program);
 
 } // namespace modTerms

@@ -22,7 +22,7 @@ constexpr std::string_view kNotRead = "This list could not be read and is left a
 constexpr std::string_view kNothingToSave = "There are no Frequently Used Terms to save.";
 constexpr std::string_view kNothingToAdd = "No term has been added to save.";
 
-void Tell(Program& program, std::string_view message) {
+void Tell(const Program& program, std::string_view message) {
     program.platform.questions.MsgBox(message, Buttons::Ok, "");
 }
 
@@ -107,6 +107,14 @@ std::string OneLine(std::string_view text) {
 bool Holds(const LineList& lines, std::string_view term) {
     return std::any_of(lines.begin(), lines.end(),
                        [&](const std::string& line) { return text::EqualNoCase(text::Trim(line), term); });
+}
+
+template <typename Lines> auto Find(Lines& lines, const TermLine& line) {
+    const auto row = static_cast<std::size_t>(std::max(line.Row, 0));
+    if (row < lines.size() && lines[row] == line.Text) {
+        return lines.begin() + static_cast<std::ptrdiff_t>(row);
+    }
+    return std::find(lines.begin(), lines.end(), line.Text);
 }
 
 std::string InCase(std::string_view line, LetterCase to) {
@@ -236,10 +244,9 @@ bool AddTerm(Program& program, std::string_view text) {
     return SaveFrequentlyUsedTerms(program, add) == Saved::Yes;
 }
 
-bool RemoveTerm(Program& program, std::string_view line) {
-    const std::string wanted(line);
+bool RemoveTerm(Program& program, const TermLine& line) {
     const Saved saved = SaveFrequentlyUsedTerms(program, [&](LineList& lines) {
-        const auto found = std::find(lines.begin(), lines.end(), wanted);
+        const auto found = Find(lines, line);
         if (found != lines.end()) {
             lines.erase(found);
         }
@@ -250,20 +257,19 @@ bool RemoveTerm(Program& program, std::string_view line) {
     return saved == Saved::Yes;
 }
 
-bool ReplaceTerm(Program& program, std::string_view line, std::string_view text) {
+bool ReplaceTerm(Program& program, const TermLine& line, std::string_view text) {
     const std::string term = OneLine(text);
     if (term.empty()) {
         Tell(program, kNothingToAdd);
         return false;
     }
-    const std::string wanted(line);
     EnsureRead(program);
     const auto& lines = program.terms.Lines;
-    if (std::find(lines.begin(), lines.end(), wanted) == lines.end() && program.terms.ReadWhole) {
+    if (Find(lines, line) == lines.end() && program.terms.ReadWhole) {
         return true;
     }
     const auto replace = [&](LineList& changed) {
-        const auto found = std::find(changed.begin(), changed.end(), wanted);
+        const auto found = Find(changed, line);
         if (found != changed.end()) {
             *found = term;
         } else if (!Holds(changed, term)) {

@@ -41,11 +41,16 @@ enum class Saved { Yes, No, Failed };
 
 /// Adds a term at the end, after the checks and with their messages. False when it was not added.
 [[nodiscard]] bool AddTerm(Program& program, std::string_view text);
-/// Takes out the first line that is exactly this text. A failure has a message of its own besides the report.
-[[nodiscard]] bool RemoveTerm(Program& program, std::string_view line);
-/// Puts a text in the place of the first line that is exactly `line`; nothing when there is none. False, with
-/// a message, for an empty text.
-[[nodiscard]] bool ReplaceTerm(Program& program, std::string_view line, std::string_view text);
+/// A line of the list by its text; of several equal ones that in `Row`, while it still stands there,
+/// otherwise the first.
+struct TermLine {
+    std::string Text;
+    int Row = 0;
+};
+/// Takes out a line. A failure has a message of its own besides the report.
+[[nodiscard]] bool RemoveTerm(Program& program, const TermLine& line);
+/// Puts a text in the place of a line; nothing when there is none. False, with a message, for an empty text.
+[[nodiscard]] bool ReplaceTerm(Program& program, const TermLine& line, std::string_view text);
 
 enum class LetterCase { Lower, Proper, Upper };
 /// Asks, then rewrites all terms.

@@ -1,11 +1,11 @@
+#include "addresses/address_book.h"
 #include "addresses/address_run.h"
+#include "support/small_disk.h"
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <filesystem>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -23,27 +23,6 @@ std::string Padded(std::string_view name) {
     field.resize(40, ' ');
     return field;
 }
-
-/// Files beyond a size cannot be written while this stands, as on a full disk.
-class FullDisk {
-public:
-    explicit FullDisk(rlim_t size) {
-        ::getrlimit(RLIMIT_FSIZE, &found_);
-        handler_ = std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{size, found_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() {
-        ::setrlimit(RLIMIT_FSIZE, &found_);
-        std::signal(SIGXFSZ, handler_);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit found_{};
-    void (*handler_)(int) = nullptr;
-};
 
 TEST(AddressBook, OpensOnThePersonalBookWithANewRecord) {
     AddressRun run;
@@ -259,6 +238,8 @@ TEST(AddressBook, ARecordThatAnotherProgramHasChangedIsNotOverwritten) {
     EXPECT_TRUE(run.program.addresses.AddressRecordChanged);
     EXPECT_EQ(run.Text(1), "mine");
     EXPECT_EQ(window.lstNames.ListIndex, -1);
+    EXPECT_EQ(run.program.addresses.CurrentAddressRecord, 0) << "what stands here is no record of the book";
+    EXPECT_EQ(run.program.addresses.RecordAsRead, "");
     window.cmdSave_Click(run.program);
     EXPECT_EQ(run.ReadBook(), theirs + AddressRun::Record({"Ben Birch", "mine"}));
 }
@@ -298,7 +279,7 @@ TEST(AddressBook, ARecordThatDoesNotFitOnTheDiskIsCutOffAgain) {
     frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash"}) + std::string(100, 'x'));
     run.Type(0, "Ben Birch");
     {
-        const FullDisk full(520 + 200);
+        const SmallDisk disk(520 + 200);
         run.Questions().Expect("Disk full");
         window.cmdSave_Click(run.program);
     }
@@ -315,7 +296,7 @@ TEST(AddressBook, ARecordThatCannotBeWrittenInItsPlaceStandsAsItWas) {
     window.lstNames_Click(run.program, 1);
     run.Type(1, "5 Oak Road");
     {
-        const FullDisk full(520 + 100);
+        const SmallDisk disk(520 + 100);
         run.Questions().Expect("Disk full");
         window.cmdSave_Click(run.program);
     }
@@ -329,7 +310,7 @@ TEST(AddressBook, ADeleteThatCannotWriteItsCopyLeavesTheBook) {
     frmAddress& window = run.OpenWith(bytes);
     window.lstNames_Click(run.program, 1);
     {
-        const FullDisk full(700);
+        const SmallDisk disk(700);
         run.Questions().Expect("Delete this record?", Answer::Yes);
         run.Questions().Expect("Disk full");
         run.Run(Id::mnuFileDelete);
@@ -361,6 +342,16 @@ TEST(AddressBook, ADeleteHighInTheListSelectsTheRowThatMovesIn) {
     run.Run(Id::mnuFileDelete);
     EXPECT_EQ(window.lstNames.ListIndex, 0);
     EXPECT_EQ(run.Text(0), "Ben Birch");
+}
+
+TEST(AddressBook, TheRecordThatIsLeftAfterADeleteIsShownAndMarked) {
+    AddressRun run;
+    frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash", "Ben Birch"}));
+    window.lstNames_Click(run.program, 0);
+    run.Questions().Expect("Delete this record?", Answer::Yes);
+    run.Run(Id::mnuFileDelete);
+    EXPECT_EQ(run.Text(0), "Ben Birch");
+    EXPECT_EQ(window.lstNames.ListIndex, 0);
 }
 
 TEST(AddressBook, ANoLeavesTheRecordAndReturnsToTheField) {
@@ -578,6 +569,19 @@ TEST(AddressBook, ALineOfNotesThatTheScreenWritesItsOwnWayIsNoChange) {
     window.lstNames_Click(run.program, 0);
     run.Type(10, "one\r\ntwo");
     EXPECT_FALSE(run.program.addresses.AddressRecordChanged);
+}
+
+TEST(AddressBook, TheOtherBookBeginsWithoutTheRecordOfTheFirst) {
+    AddressRun run;
+    run.WriteBook(AddressRun::kBusiness, AddressRun::Book({"Acme Tents"}));
+    frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash", "Ben Birch"}));
+    window.lstNames_Click(run.program, 1);
+    ASSERT_EQ(run.program.addresses.CurrentAddressRecord, 2);
+    ASSERT_EQ(modAddress::OpenBook(run.program, window, AddressBook::Business), modAddress::Outcome::Done);
+    EXPECT_EQ(run.program.addresses.CurrentAddressRecord, 0);
+    EXPECT_EQ(run.program.addresses.RecordAsRead, "");
+    EXPECT_EQ(run.program.addresses.AddressRecordCount, 1);
+    EXPECT_EQ(window.lstNames.ListIndex, -1);
 }
 
 } // namespace

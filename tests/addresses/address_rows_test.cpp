@@ -1,10 +1,13 @@
+#include "addresses/address_fields.h"
 #include "addresses/address_record.h"
 #include "addresses/address_rows.h"
+#include "support/running_program.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cctype>
+#include <optional>
 #include <random>
 #include <string>
 #include <vector>
@@ -229,6 +232,13 @@ TEST(AddressRecords, KeepTheirPlacesAndCutWhatIsLonger) {
     EXPECT_EQ(record.substr(160, 40), std::string(20, '5') + std::string(20, ' '));
     EXPECT_EQ(record.substr(320), std::string(200, 'n'));
     EXPECT_EQ(modAddress::FieldsOf(record)[4], std::string(20, '5'));
+}
+
+TEST(AddressFields, WhatIsWrittenAsItShouldBeIsNotConverted) {
+    RunningProgram run;
+    EXPECT_EQ(modAddress::Converted(run.program, 0, "ann ash"), "Ann Ash");
+    EXPECT_EQ(modAddress::Converted(run.program, 0, "Ann Ash"), std::nullopt);
+    EXPECT_EQ(modAddress::Converted(run.program, 4, "not a number at all"), std::nullopt);
 }
 
 } // namespace

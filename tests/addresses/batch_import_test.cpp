@@ -447,4 +447,17 @@ TEST(BatchImport, HelpOpensThePageOfTheImport) {
     EXPECT_TRUE(run.surroundings.shell.Opened.front().ends_with("Help/batch_address_processing.htm"));
 }
 
+TEST(BatchImport, EscapeEndsTheImportAndThenTheWindow) {
+    ImportRun run("Ann Ash");
+    frmAddress& window = run.Choose(0);
+    ASSERT_TRUE(window.picImport);
+    window.Escape_Pressed(run.program);
+    modWindows::Sweep(run.program);
+    ASSERT_TRUE(run.IsOpen());
+    EXPECT_FALSE(window.picImport);
+    window.Escape_Pressed(run.program);
+    modWindows::Sweep(run.program);
+    EXPECT_FALSE(run.IsOpen());
+}
+
 } // namespace

@@ -160,6 +160,8 @@ TEST(BookFailures, ABookThatCannotBeReadIsToldAndLeftAlone) {
         run.Run(Id::mnuFileOpenClientele);
     }
     EXPECT_TRUE(run.Window().lstNames.Rows.empty());
+    EXPECT_EQ(run.program.addresses.NamesInFile, "");
+    EXPECT_EQ(run.program.addresses.AddressRecordCount, 0);
     EXPECT_EQ(run.ReadBook(), ThreeRecords::Before());
 }
 

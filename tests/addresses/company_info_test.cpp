@@ -88,6 +88,7 @@ TEST(CompanyInfo, MovesTheLinesThatTheOpenFormatHasPlaced) {
     LabelChangeRecord& placed = format.FormatLabelChanges[PageId::frmP6][60];
     placed.Changed = true;
     placed.Saved = true;
+    placed.FromFormat = true;
     placed.Top = 9000;
     const LabelChangeRecord& other = format.FormatLabelChanges[PageId::frmP6][61];
     const std::string told = "The open format still carries the old lines on disk; save it.";
@@ -96,6 +97,7 @@ TEST(CompanyInfo, MovesTheLinesThatTheOpenFormatHasPlaced) {
     run.Window().cmdSave_Click(run.program);
     EXPECT_EQ(placed.Top, 9270);
     EXPECT_FALSE(placed.Saved);
+    EXPECT_FALSE(placed.FromFormat);
     EXPECT_EQ(other.Top, 0) << "the format says nothing of it";
     EXPECT_TRUE(format.Touched);
     modWindows::Sweep(run.program);

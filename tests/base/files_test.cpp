@@ -1,13 +1,22 @@
 #include "base/files.h"
+
+#include "base/folder_scan.h"
+#include "base/record_file.h"
+#include "base/rows.h"
+#include "support/failing_disk.h"
 #include "support/scratch_folder.h"
+#include "support/small_disk.h"
 
 #include <gtest/gtest.h>
 
-#include <csignal>
+#include <algorithm>
+#include <cerrno>
 #include <functional>
+#include <map>
 #include <string>
+#include <string_view>
+#include <vector>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -103,15 +112,8 @@ TEST(Files, AReadOnlyFileIsDeletedAfterItsAttributeWasCleared) {
 
 TEST(Files, AFullDiskIsToldOf) {
     const ScratchFolder folder;
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    rlimit small = before;
-    small.rlim_cur = 1000;
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    const int number = NumberOf([&] { files::WriteWhole(folder / "a", std::string(5000, 'x')); });
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
-    EXPECT_EQ(number, files::kDiskFull);
+    const SmallDisk disk(1000);
+    EXPECT_EQ(NumberOf([&] { files::WriteWhole(folder / "a", std::string(5000, 'x')); }), files::kDiskFull);
 }
 
 TEST(Files, AppendAndRenameAndCopy) {
@@ -172,6 +174,83 @@ TEST(Files, WhatCouldNotBeReadIsKeptBesideItAndEarlierOnesToo) {
     EXPECT_FALSE(folder.Has("a.txt"));
     EXPECT_EQ(folder.Read("a.txt.unread"), "first");
     EXPECT_EQ(folder.Read("a.txt.unread2"), "second");
+}
+
+std::vector<std::string> NamesEndingIn(const ScratchFolder& folder, std::string_view ending) {
+    std::vector<std::string> names;
+    files::ScanHeads(folder.Path(), ending, 0, [&](files::FileHead&& head) {
+        names.push_back(head.Name);
+        return true;
+    });
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+TEST(FolderScan, FindsAnEndingInAnyCaseAndANameThatIsNothingElse) {
+    const ScratchFolder folder;
+    for (const char* name : {".az", "b.AZ", "c.aZ", "z", "d.a", "e.azz", "f.@[", "g.AZ2"}) {
+        folder.Write(name, "");
+    }
+    EXPECT_EQ(NamesEndingIn(folder, ".az"), (std::vector<std::string>{".az", "b.AZ", "c.aZ"}));
+    EXPECT_EQ(NamesEndingIn(folder, ".`{"), std::vector<std::string>{}) << "only letters have a case";
+}
+
+TEST(FolderScan, ReadsTheBeginningOfEachFileAndTellsWhatCannotBeRead) {
+    const ScratchFolder folder;
+    folder.Write("short.x", "abc");
+    folder.Write("long.x", "0123456789");
+    std::map<std::string, files::FileHead> heads;
+    const auto take = [&](files::FileHead&& head) {
+        heads[head.Name] = head;
+        return true;
+    };
+    files::ScanHeads(folder.Path(), ".x", 5, take);
+    ASSERT_EQ(heads.size(), 2U);
+    EXPECT_EQ(heads["short.x"].Bytes, "abc");
+    EXPECT_TRUE(heads["short.x"].Readable) << "it is merely short";
+    EXPECT_EQ(heads["long.x"].Bytes, "01234");
+    EXPECT_TRUE(heads["long.x"].Readable);
+    const FailingDisk disk{{FailingDisk::Call::Read, 1, EIO, FailingDisk::kForever}};
+    files::ScanHeads(folder.Path(), ".x", 5, take);
+    EXPECT_FALSE(heads["short.x"].Readable);
+    EXPECT_FALSE(heads["long.x"].Readable);
+}
+
+TEST(RecordFiles, WhatIsNoRegularFileIsRefused) {
+    const ScratchFolder folder;
+    folder.MakeFolder("folder");
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    for (const char* name : {"folder", "pipe"}) {
+        EXPECT_NE(NumberOf([&] { static_cast<void>(files::ReadAt(folder / name, 0, 4)); }), 0) << name;
+    }
+    EXPECT_NE(NumberOf([&] { static_cast<void>(files::AppendRecord(folder / "pipe", "abcd")); }), 0);
+    EXPECT_NE(NumberOf([&] { static_cast<void>(files::ReadAt(folder / "none", 0, 4)); }), 0);
+}
+
+TEST(Rows, OfAListBeginAtNoughtAndEndBeforeItsSize) {
+    const std::vector<int> two{7, 8};
+    EXPECT_FALSE(HasRow(two, -1));
+    EXPECT_TRUE(HasRow(two, 0));
+    EXPECT_TRUE(HasRow(two, 1));
+    EXPECT_FALSE(HasRow(two, 2));
+    EXPECT_FALSE(HasRow(std::vector<int>{}, 0));
+}
+
+TEST(RecordFiles, AFileThatIsCutShortMeanwhileGivesWhatIsLeft) {
+    const ScratchFolder folder;
+    folder.Write("a", "0123456789");
+    const files::RecordReader reader(folder / "a");
+    EXPECT_EQ(reader.Length(), 10U);
+    std::string bytes = "what stood here before";
+    reader.Read(2, 4, bytes);
+    EXPECT_EQ(bytes, "2345");
+    reader.Read(8, 4, bytes);
+    EXPECT_EQ(bytes, "89");
+    reader.Read(10, 4, bytes);
+    EXPECT_EQ(bytes, "");
+    ASSERT_EQ(::truncate((folder / "a").c_str(), 3), 0);
+    reader.Read(0, 10, bytes);
+    EXPECT_EQ(bytes, "012");
 }
 
 } // namespace

@@ -330,4 +330,20 @@ TEST(Calculator, OpensAtTheStartWhereTheSettingsSaySoAndOnce) {
     EXPECT_FALSE(run.program.run.CalcShown);
 }
 
+TEST(Calculator, ClearingAllLeavesNoResultToTake) {
+    CalcRun run;
+    run.Type("6/4=");
+    ASSERT_TRUE(run.Calc().ResultStands);
+    ASSERT_TRUE(run.Calc().cmdCopy.Enabled);
+    run.Calc().cmdClear_MouseDown(1);
+    EXPECT_TRUE(run.Calc().ResultStands) << "only the right button clears all";
+    run.Calc().cmdClear_MouseDown(2);
+    run.ExpectShows("", "Equation", "");
+    EXPECT_FALSE(run.Calc().ResultStands);
+    EXPECT_FALSE(run.Calc().cmdCopy.Enabled);
+    EXPECT_FALSE(run.Calc().txtR_MouseMove(run.program));
+    EXPECT_EQ(run.Calc().lblE.ForeColor, colors::kBlack);
+    EXPECT_EQ(run.Calc().lblE.ToolTipText, "");
+}
+
 } // namespace

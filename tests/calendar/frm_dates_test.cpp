@@ -188,6 +188,7 @@ TEST(Calendar, DeletedProposalsLieInBackupAndComeBackAllOfThem) {
     run.folder.Write("Proposals/Backup/Notes.txt.old", "not a proposal");
     window.Choose(run.program, "mnuOptUndoDelete");
     EXPECT_EQ(window.lstDates.Items.size(), 3U);
+    EXPECT_EQ(window.lblNotice.Caption, "3 proposals restored");
     EXPECT_TRUE(run.folder.Has("Proposals/Backup/Notes.txt.old"));
     EXPECT_FALSE(run.folder.Has("Proposals/Backup/A.hef.old"));
     EXPECT_FALSE(window.Entry("mnuOptUndoDelete").Enabled);
@@ -429,6 +430,21 @@ TEST(Calendar, ClosingTheWindowEndsTheRebuild) {
     EXPECT_EQ(modWindows::Find(run.program, "frmDates"), nullptr);
     EXPECT_TRUE(run.program.calendar.Rows.empty());
     EXPECT_FALSE(run.program.main.Busy);
+}
+
+TEST(Calendar, WhatIsSelectedAnewTakesThePlaceOfWhatWas) {
+    Dated run;
+    run.Proposal("A.hef", "1/21/2008");
+    run.Proposal("B.hef", "1/22/2008");
+    frmDates& window = run.Open();
+    run.Select(window, {0, 1});
+    EXPECT_EQ(window.lstDates.SelCount(), 2);
+    run.Select(window, {1});
+    EXPECT_EQ(window.lstDates.SelCount(), 1);
+    EXPECT_EQ(window.lstDates.FirstSelected(), 1);
+    EXPECT_TRUE(window.Entry("mnuFileOpen").Enabled);
+    run.Select(window, {-1, 2});
+    EXPECT_EQ(window.lstDates.SelCount(), 0) << "there are no such rows";
 }
 
 } // namespace

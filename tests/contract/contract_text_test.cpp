@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <random>
 #include <string>
 #include <vector>
@@ -47,6 +48,7 @@ std::vector<std::string> PlainWrap(std::string text, const TextMeasure& measure,
 
 std::vector<std::string> LinesOf(const ContractText& text) {
     std::vector<std::string> lines;
+    lines.reserve(static_cast<std::size_t>(text.LineCount()));
     for (int line = 0; line < text.LineCount(); ++line) {
         lines.push_back(text.LineText(line));
     }

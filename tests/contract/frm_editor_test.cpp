@@ -1,6 +1,7 @@
 #include "contract/frm_editor.h"
 
 #include "contract/contract_lines.h"
+#include "contract/contract_text.h"
 #include "program/windows.h"
 #include "support/running_program.h"
 
@@ -116,7 +117,7 @@ TEST(Contract, ThirtyFiveLinesAreRefusedAndTheWindowStays) {
 TEST(Contract, EmptyLinesAtTheEndDoNotCount) {
     Contracted run;
     frmEditor& window = run.Open();
-    run.Replace(window, Contracted::Lines(34) + "\r\n\r\n\r\n");
+    run.Replace(window, Contracted::Lines(34) + "\r\n\r\n   \r\n"); // blanks are no words either
     window.cmdLines_Click(run.program);
     EXPECT_EQ(window.BackColor, colors::kWhite);
     window.cmdLines_Click(run.program);
@@ -339,6 +340,53 @@ TEST(Contract, WhenTheRunIsEndedFromOutsideAChangedWordingIsKeptInBackup) {
     modWindows::KeepUnsaved(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Unnamed.contract.txt"),
               "Half is due now.\r\nThe rest later.");
+}
+
+TEST(Contract, UndoAndRedoPutTheCaretWhereTheChangeWas) {
+    Contracted run;
+    frmEditor& window = run.Open();
+    run.Replace(window, "Alpha");
+    window.Edited(5, 0, " Beta", 10, ContractText::Kind::Whole);
+    window.Moved(1, 2);
+    const int before = window.Revision;
+    window.Undo();
+    EXPECT_EQ(window.txtCharCount.Text(), "Alpha");
+    EXPECT_EQ(window.SelStart, 5);
+    EXPECT_EQ(window.SelLength, 0);
+    EXPECT_EQ(window.lblCharCount.Caption, "Current Position = 5. Text contains 5 characters.");
+    EXPECT_EQ(window.Revision, before + 1);
+    window.Moved(0, 0);
+    window.Redo();
+    EXPECT_EQ(window.txtCharCount.Text(), "Alpha Beta");
+    EXPECT_EQ(window.SelStart, 10);
+    EXPECT_EQ(window.Revision, before + 2);
+    window.SelectAll();
+    EXPECT_EQ(window.SelStart, 0);
+    EXPECT_EQ(window.SelLength, 10);
+    EXPECT_EQ(window.Revision, before + 3);
+    EXPECT_TRUE(window.EditorDirty);
+}
+
+TEST(Contract, TheFontAndTheSizeThatWereChosenAreMarked) {
+    Contracted run;
+    frmEditor& window = run.Open();
+    window.cmbFont_Click(run.program, 0);
+    window.cmbFontSize_Click(run.program, 2);
+    EXPECT_EQ(window.cmbFont.ListIndex, 0);
+    EXPECT_EQ(window.cmbFontSize.ListIndex, 2);
+    EXPECT_EQ(window.txtCharCount.Font().Name, "Arial");
+    EXPECT_EQ(window.framTop.Caption, "Manage Fonts Below - Current Font = Arial, Font Size = 8");
+    for (const int nothing : {-1, 1000}) {
+        window.cmbFont_Click(run.program, nothing);
+        window.cmbFontSize_Click(run.program, nothing);
+    }
+    EXPECT_EQ(window.cmbFont.ListIndex, 0);
+    EXPECT_EQ(window.cmbFontSize.ListIndex, 2);
+}
+
+TEST(Contract, EveryKindOfLineEndComesInAsTheLabelsHaveIt) {
+    EXPECT_EQ(modContract::Incoming("a\r\nb\rc\nd\te\r"), "a\r\nb\r\nc\r\nd e\r\n");
+    EXPECT_EQ(modContract::Incoming("\r\r\n\n"), "\r\n\r\n\r\n");
 }
 
 } // namespace

@@ -129,4 +129,12 @@ TEST(DepositRows, AnEmptyLastRowIsKeptByTheFile) {
     EXPECT_EQ(MakeFile("Jane Roe", {"", "a", ""}), "Jane Roe\r\n\r\na\r\n\r\n");
 }
 
+TEST(Figures, InBracketsAreBelowNought) {
+    EXPECT_EQ(modDeposits::ReadFigure("(5)"), -500);
+    EXPECT_EQ(modDeposits::ReadFigure("(5.25)"), -525);
+    for (const char* none : {"()", "(", ")", "(5", "5)", "((5))"}) {
+        EXPECT_EQ(modDeposits::ReadFigure(none), std::nullopt) << none;
+    }
+}
+
 } // namespace

@@ -183,7 +183,7 @@ TEST(Deposits, EditingTakesTheBareFigureAndPutsTheRowBackInItsPlace) {
     window.lst_Click({1}, 1); // wherever the selection is meanwhile
     window.cmdSave_Click(run.program);
     EXPECT_EQ(window.lst.Items, (Deposited::Items{"Jan 21, 2008\t\t$ 1,500.00", "Jan 22, 2008\t\t$ 2.00"}));
-    EXPECT_FALSE(window.DepositEditing);
+    EXPECT_FALSE(window.DepositEditing());
     EXPECT_EQ(window.lst.SelCount(), 0);
 }
 
@@ -208,7 +208,7 @@ TEST(Deposits, TheTakenRowIsFollowedWhenOthersGoAndForgottenWhenItGoes) {
     window.Choose(run.program, "mnuEditItem");
     window.lst_Click({0}, 0);
     window.Choose(run.program, "mnuEditDelete");
-    EXPECT_TRUE(window.DepositEditing);
+    EXPECT_TRUE(window.DepositEditing());
     run.Add(window, "1/1/2008", "9");
     EXPECT_EQ(window.lst.Items, (Deposited::Items{"b\t\t$ 150.00", "1/1/2008\t\t$ 9.00"}));
     window.lst_Click({1}, 1);
@@ -216,7 +216,7 @@ TEST(Deposits, TheTakenRowIsFollowedWhenOthersGoAndForgottenWhenItGoes) {
     window.Choose(run.program, "mnuEditItem");
     window.lst_Click({1}, 1);
     window.Choose(run.program, "mnuEditDelete");
-    EXPECT_FALSE(window.DepositEditing);
+    EXPECT_FALSE(window.DepositEditing());
     run.Add(window, "1/2/2008", "8");
     EXPECT_EQ(window.lst.Items, (Deposited::Items{"b\t\t$ 150.00", "1/2/2008\t\t$ 8.00"}));
 }
@@ -235,7 +235,7 @@ TEST(Deposits, EditingAndRemovingWantExactlyOneRow) {
         window.Choose(run.program, command);
     }
     EXPECT_EQ(window.lst.Items.size(), 2U);
-    EXPECT_FALSE(window.DepositEditing);
+    EXPECT_FALSE(window.DepositEditing());
     EXPECT_FALSE(window.DepositChanged);
 }
 
@@ -251,8 +251,10 @@ TEST(Deposits, WhatIsNoDateOrNoAmountAddsNothingAndTurnsRed) {
     EXPECT_EQ(window.txtDate.ToolTipText.find("no date"), std::string::npos);
     EXPECT_EQ(window.txtAmount.BackColor, colors::kOverLimit);
     EXPECT_EQ(window.ActiveControl, "txtAmount");
+    EXPECT_NE(window.txtAmount.ToolTipText, "");
     run.Add(window, "1/1/2008", "");
     EXPECT_EQ(window.txtAmount.BackColor, colors::kWhite);
+    EXPECT_EQ(window.txtAmount.ToolTipText, "");
     EXPECT_TRUE(window.lst.Items.empty());
     EXPECT_FALSE(window.DepositChanged);
 }
@@ -347,14 +349,32 @@ TEST(Deposits, ADateThatIsNotRecognisedStaysAndIsTold) {
     EXPECT_EQ(window.txtDate.Text, "1rst of May");
 }
 
-TEST(Deposits, TheAmountTakesDigitsAndThePoint) {
-    // 0 9 . backspace tab return; then - , a blank $
-    for (const int passes : {48, 57, 46, 8, 9, 13}) {
+TEST(Deposits, TheAmountTakesDigitsPointAndComma) {
+    // 0 9 . , backspace tab return; then - a blank $
+    for (const int passes : {48, 57, 46, 44, 8, 9, 13}) {
         EXPECT_EQ(frmDeposits::txtAmount_KeyPress(passes), passes);
     }
-    for (const int dropped : {45, 44, 97, 32, 36}) {
+    for (const int dropped : {45, 97, 32, 36}) {
         EXPECT_EQ(frmDeposits::txtAmount_KeyPress(dropped), 0);
     }
+}
+
+TEST(Deposits, ADecimalCommaAndAThirdDecimalAreToldAndAddNothing) {
+    Deposited run;
+    frmDeposits& window = run.Open();
+    for (const char* typed : {"100,50", "1,00", "100.505", "0.001"}) {
+        window.txtAmount_Change(run.program, typed);
+        window.cmdSave_Click(run.program);
+        EXPECT_TRUE(window.lst.Items.empty()) << typed;
+        EXPECT_EQ(window.txtAmount.BackColor, colors::kOverLimit) << typed;
+        EXPECT_FALSE(window.txtAmount.ToolTipText.empty()) << typed;
+    }
+    window.txtAmount_Change(run.program, "1,100.500");
+    window.cmdSave_Click(run.program);
+    ASSERT_EQ(window.lst.Items.size(), 1U);
+    EXPECT_TRUE(window.lst.Items[0].ends_with(" 1,100.50"));
+    EXPECT_EQ(window.txtAmount.BackColor, colors::kWhite);
+    EXPECT_EQ(window.txtAmount.SelLength, 9) << "what is typed next replaces it";
 }
 
 TEST(Deposits, PrintsTheNameTheRowsAndTheTotalUnderTheRowsPattern) {
@@ -563,6 +583,22 @@ TEST(Deposits, SaveAsInheritsNobodyElses) {
     EXPECT_FALSE(run.folder.Has("Proposals/Second.dep"));
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Second.dep.old2"), "Other\r\na\t\t$ 1.00");
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Second.dep.old"), "older");
+}
+
+TEST(Deposits, WhatIsTypedLeavesNothingMarked) {
+    Deposited run;
+    frmDeposits& window = run.Open();
+    for (EntryBox* box : {&window.txtName, &window.txtDate, &window.txtAmount}) {
+        box->SelLength = 3;
+    }
+    window.txtName_Change(run.program, "J. Roe");
+    window.txtDate_Change(run.program, "1/1/2008");
+    window.txtAmount_Change(run.program, "5");
+    for (const EntryBox* box : {&window.txtName, &window.txtDate, &window.txtAmount}) {
+        EXPECT_EQ(box->SelLength, 0) << box->Text;
+        EXPECT_EQ(box->BackColor, colors::kWhite) << box->Text;
+    }
+    EXPECT_TRUE(window.SaveIsDefault);
 }
 
 } // namespace

@@ -33,6 +33,7 @@ struct EditorRun : WindowRun {
     }
     [[nodiscard]] std::vector<std::string> ModelLines() const {
         std::vector<std::string> lines;
+        lines.reserve(static_cast<std::size_t>(editor.Shown().LineCount()));
         for (int line = 0; line < editor.Shown().LineCount(); ++line) {
             lines.push_back(editor.Shown().LineText(line));
         }

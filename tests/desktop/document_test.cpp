@@ -5,6 +5,7 @@
 #include "output/proposal_text.h"
 #include "support/person.h"
 #include "support/running_program.h"
+#include "support/small_disk.h"
 
 #include <QFile>
 #include <QProcess>
@@ -12,10 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <csignal>
 #include <filesystem>
-
-#include <sys/resource.h>
 
 namespace {
 
@@ -138,14 +136,10 @@ TEST(DocumentFile, AReadOnlyOneIsLeftAlone) {
 
 TEST(DocumentFile, AFullDiskIsToldAndNoHalfDocumentStays) {
     const DocumentFolder documents;
-    rlimit before{};
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    void (*handler)(int) = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{1000, before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &small);
-    EXPECT_THROW(static_cast<void>(documents.Write(QByteArray(5000, 'x'))), files::FileError);
-    ::setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
+    {
+        const SmallDisk disk(1000);
+        EXPECT_THROW(static_cast<void>(documents.Write(QByteArray(5000, 'x'))), files::FileError);
+    }
     EXPECT_TRUE(documents.Names().empty());
 }
 

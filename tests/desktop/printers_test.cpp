@@ -2,6 +2,7 @@
 #include "desktop/desktop_run.h"
 #include "output/print.h"
 #include "program/windows.h"
+#include "support/small_disk.h"
 
 #include <QDialog>
 #include <QFile>
@@ -17,10 +18,6 @@
 #include <QTimer>
 
 #include <gtest/gtest.h>
-
-#include <csignal>
-
-#include <sys/resource.h>
 
 namespace {
 
@@ -224,13 +221,10 @@ TEST(Paper, LeavesNoHalfAFileOnAFullDisk) {
     Press press;
     press.Paper().Print("lost");
     press.Paper().EndDoc();
-    rlimit before{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{1000, before.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    EXPECT_THROW(press.printers.EndCommand(), files::FileError);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    {
+        const SmallDisk disk(1000);
+        EXPECT_THROW(press.printers.EndCommand(), files::FileError);
+    }
     EXPECT_FALSE(QFile::exists(press.pdf));
 }
 
@@ -242,13 +236,10 @@ TEST(Paper, AnOlderPdfOutlivesAFullDisk) {
     older.close();
     press.Paper().Print("lost");
     press.Paper().EndDoc();
-    rlimit before{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit small{1000, before.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    EXPECT_THROW(press.printers.EndCommand(), files::FileError);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    {
+        const SmallDisk disk(1000);
+        EXPECT_THROW(press.printers.EndCommand(), files::FileError);
+    }
     ASSERT_TRUE(older.open(QIODevice::ReadOnly));
     EXPECT_EQ(older.readAll(), "last year's");
 }

@@ -4,10 +4,14 @@
 #include "program/windows.h"
 #include "shell/command_run.h"
 #include "support/running_program.h"
+#include "terms/frm_fut.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QDialog>
 #include <QImage>
+#include <QLineEdit>
+#include <QListView>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
@@ -20,6 +24,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -97,7 +102,7 @@ double InkContrast(QWidget& widget) {
 }
 
 /// Words on labels and buttons.
-void ExpectReadable(const QDialog& view, const std::string& name) {
+void ExpectReadable(const QWidget& view, const std::string& name) {
     for (QLabel* label : view.findChildren<QLabel*>()) {
         if (label->isVisible() && !label->text().isEmpty()) {
             EXPECT_GE(InkContrast(*label), 4.5) << name << ' ' << label->objectName().toStdString();
@@ -203,6 +208,63 @@ TEST(DarkTheme, WindowsBesideTheProposalCanBeRead) {
         }
         QTest::keyClick(view, Qt::Key_Escape);
     }
+}
+
+TEST(DarkTheme, AidsBesideThePageCanBeRead) {
+    const DarkDesktop dark;
+    DesktopRun run;
+    run.folder.Write("Proposals/Default Terms.fut", "Chair Covers[3.50]\r\nTable");
+    modTerms::ListInUseChanged(run.program);
+    run.window->AfterEvent();
+    const auto look = [&](const char* name) {
+        auto* view = run.Find<QWidget>(name);
+        ASSERT_NE(view, nullptr) << name;
+        EXPECT_TRUE(QTest::qWaitFor([view] { return view->isVisible(); })) << name;
+        Look(*view, (std::string("dark_") + name).c_str());
+        ExpectReadable(*view, name);
+    };
+    const auto opens = [&](CommandId id, const char* name) {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        commands::Run(run.program, id);
+        run.window->AfterEvent();
+        look(name);
+    };
+    opens(CommandId::mnuOptFUT, "frmFUT");
+    auto* terms = run.Find<QListView>("lstFUT");
+    terms->setCurrentIndex(terms->model()->index(0, 0));
+    EXPECT_GE(InkContrast(*terms), 4.5);
+    for (const auto& [button, name] : {std::pair{"cmdOpt(1)", "frmAddFUT"}, {"cmdOpt(2)", "frmEditFUT"}}) {
+        run.Find<QPushButton>(button)->click();
+        look(name);
+        QTest::keyClick(run.Find<QWidget>(name), Qt::Key_Escape);
+    }
+    opens(CommandId::mnuOptCalc, "frmCalc");
+    auto* equation = run.Find<QLineEdit>("txtE");
+    QTest::keyClicks(equation, QStringLiteral("25="));
+    look("frmCalc");
+    EXPECT_GE(InkContrast(*run.Find<QWidget>("lblE")), 4.5) << "a refused line is red";
+    run.ChoosePage(1);
+    run.Click(PageId::frmP2, 0);
+    run.Type(QStringLiteral("Arch one"));
+    run.Click(PageId::frmP2, 1);
+    run.Type(QStringLiteral("Arch two"));
+    opens(CommandId::mnuEditFind, "frmSearch");
+    run.Find<QComboBox>("cmbSearch")->setCurrentText(QStringLiteral("arch"));
+    run.Find<QDialog>("frmSearch")->findChild<QPushButton*>(QStringLiteral("cmdOK"))->click();
+    run.window->AfterEvent();
+    look("frmSR");
+    QTest::keyClick(run.Find<QWidget>("frmSR"), Qt::Key_Escape);
+    opens(CommandId::mnuEditAllTextFonts, "frmTextProps");
+    run.Find<QDialog>("frmTextProps")->findChild<QPushButton*>(QStringLiteral("cmdColors"))->click();
+    look("frmRGB");
+    QTest::keyClick(run.Find<QWidget>("frmRGB"), Qt::Key_Escape);
+    QTest::keyClick(run.Find<QWidget>("frmTextProps"), Qt::Key_Escape);
+    opens(CommandId::mnuEditCompInfo, "frmAddress");
+    const auto* company = run.Find<QWidget>("frmAddress");
+    const QRect save = company->findChild<QWidget*>(QStringLiteral("cmdSave"))->geometry();
+    const QRect email = company->findChild<QWidget*>(QStringLiteral("txt(9)"))->geometry();
+    EXPECT_LT(save.top() - email.bottom(), 40) << "no gap where the address book has more fields";
+    QTest::keyClick(run.Find<QWidget>("frmAddress"), Qt::Key_Escape);
 }
 
 /// Nothing is cut off: every label and button has the room that its words need.

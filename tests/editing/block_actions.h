@@ -27,7 +27,7 @@ public:
     void Front(PageId page) { person::TurnTo(program, IndexOf(page)); }
 
     void Drag(PageId page, float x1, float y1, float x2, float y2) {
-        modBlocks::Form_MouseDown(program, page, 1, x1, y1);
+        modBlocks::Form_MouseDown(program, 1, x1, y1);
         modBlocks::Form_MouseMove(program, page, 1, (x1 + x2) / 2, (y1 + y2) / 2);
         modBlocks::Form_MouseMove(program, page, 1, x2, y2);
         modBlocks::Form_MouseUp(program, page, 1, x2, y2);

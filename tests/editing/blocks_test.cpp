@@ -325,7 +325,7 @@ TEST(Undo, IsOneLevelAndStaysUntilUsed) {
     typist.Click(kSecond, 20);
     typist.Type("text");
     typist.PutCursor(0, 4);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_TRUE(run.Enabled(CommandId::mnuEditTextSelUCase));
     EXPECT_TRUE(run.Enabled(CommandId::mnuEditTextUndo)) << "text selected";
     run.Choose(CommandId::mnuEditTextUndo);

@@ -80,13 +80,13 @@ TEST(ColumnsCommand, OnTheAreaBeforeTheLinesOfTheClientPageIsOfferedAndDoesNothi
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kFirst, 9);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_TRUE(run.program.main[CommandId::mnuEditTextColumns].Enabled);
     const TextArea before = run.Area(kFirst, 9);
     person::Choose(run.program, CommandId::mnuEditTextColumns);
     EXPECT_EQ(run.Area(kFirst, 9), before);
     typist.Click(kFirst, 8);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_FALSE(run.program.main[CommandId::mnuEditTextColumns].Enabled);
 }
 
@@ -94,11 +94,11 @@ TEST(ColumnsCommand, SaysWhatItWillDo) {
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kSecond, 4);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Add Columns");
     person::Choose(run.program, CommandId::mnuEditTextColumns);
     typist.Click(kSecond, 4);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Remove Columns");
 }
 
@@ -287,7 +287,7 @@ TEST(TaxMark, ByAClickRecalculatesAtOnceAndTurnsTheButtonRed) {
     Typist typist(run.program);
     typist.Click(kSecond, 33);
     typist.Type("100");
-    person::FieldMouseDown(run.program, Text(kSecond, 33), 2, 0, 3, 0);
+    person::FieldMouseDown(run.program, Text(kSecond, 33), 2, 3, 0);
     person::Choose(run.program, CommandId::mnuEditTextTaxExempt);
     typist.Click(kSecond, 5);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "0.00");
@@ -312,7 +312,7 @@ TEST(RightPress, FormatsTheAmountItLeavesAndComesBackToIt) {
     Typist typist(run.program);
     typist.Click(kSecond, 33);
     typist.Type("12.5");
-    person::FieldMouseDown(run.program, Text(kSecond, 33), 2, 0, 4, 0);
+    person::FieldMouseDown(run.program, Text(kSecond, 33), 2, 4, 0);
     EXPECT_TRUE(person::TextMenuOpens(run.program));
     EXPECT_EQ(run.TextOf(kSecond, 33), "12.50");
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "12.50");
@@ -329,7 +329,7 @@ TEST(RightPress, GivesAnotherAreaTheFocusFirst) {
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(kSecond, 3);
-    person::FieldMouseDown(run.program, Text(kSecond, 40), 2, 0, 0, 0);
+    person::FieldMouseDown(run.program, Text(kSecond, 40), 2, 0, 0);
     EXPECT_EQ(run.program.main.lblTextNum.Caption, "Page 2, Text Area 41");
     EXPECT_EQ(run.program.editing.CurrentArea, 40);
     EXPECT_EQ(run.program.editing.RightClickArea, 40);
@@ -347,7 +347,7 @@ TEST(RightPress, RepaintsEveryPage) {
     modFields::SetText(run.program, Quantity(0), "123456"); // 600 of 540 twips
     typist.Click(kSecond, 3);
     EXPECT_EQ(run.Area(kFirst, 3).BackColor, colors::kResting);
-    person::FieldMouseDown(run.program, Text(kSecond, 3), 2, 0, 0, 0);
+    person::FieldMouseDown(run.program, Text(kSecond, 3), 2, 0, 0);
     EXPECT_EQ(run.Area(kFirst, 3).BackColor, colors::kOverLimit);
     EXPECT_EQ(run.program.pages[kSecond].txtQty[0].BackColor, colors::kOverLimit);
     EXPECT_EQ(run.program.pages[kSecond].txtAmt[0].BackColor, colors::kRestingRowField);
@@ -358,12 +358,12 @@ TEST(RightPress, OpensNothingOnTheFinalPageAndInTheBoxes) {
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(PageId::frmP6, 1);
-    person::FieldMouseDown(run.program, Text(PageId::frmP6, 4), 2, 0, 0, 0);
+    person::FieldMouseDown(run.program, Text(PageId::frmP6, 4), 2, 0, 0);
     EXPECT_FALSE(person::TextMenuOpens(run.program));
     EXPECT_EQ(run.program.main.Focus, Text(PageId::frmP6, 4));
     typist.Click(kSecond, 0);
     typist.Press(keys::kF8);
-    person::FieldMouseDown(run.program, Quantity(0), 2, 0, 0, 0);
+    person::FieldMouseDown(run.program, Quantity(0), 2, 0, 0);
     EXPECT_FALSE(person::TextMenuOpens(run.program));
     EXPECT_EQ(run.program.main.Focus, Quantity(0));
 }

@@ -128,7 +128,7 @@ private:
     void Right() {
         const FieldRef field = AField();
         Log << "right\n";
-        person::FieldMouseDown(run_.program, field, 2, 0, 0, 0);
+        person::FieldMouseDown(run_.program, field, 2, 0, 0);
         if (Below(2) == 0) {
             Command();
         }

@@ -82,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(Table, BandEdges,
 TEST(Band, IsARectangleOnThePageWhileItIsDrawn) {
     BlockRun run;
     run.Front(kSecond);
-    modBlocks::Form_MouseDown(run.program, kSecond, 1, 5000, 4000);
+    modBlocks::Form_MouseDown(run.program, 1, 5000, 4000);
     EXPECT_FALSE(run.program.pages[kSecond].shpSelect.Visible);
     modBlocks::Form_MouseMove(run.program, kSecond, 1, 4000, 6500);
     const PageShape band = run.program.pages[kSecond].shpSelect;
@@ -98,7 +98,7 @@ TEST(Band, NeedsTheLeftButton) {
     BlockRun run;
     run.Front(kSecond);
     for (const int button : {0, 2}) {
-        modBlocks::Form_MouseDown(run.program, kSecond, button, 800, 1700);
+        modBlocks::Form_MouseDown(run.program, button, 800, 1700);
         modBlocks::Form_MouseMove(run.program, kSecond, button, 9600, 2500);
         EXPECT_FALSE(run.program.pages[kSecond].shpSelect.Visible);
         modBlocks::Form_MouseUp(run.program, kSecond, button, 9600, 2500);
@@ -139,12 +139,12 @@ TEST(Band, TakesNothingOnTheFinalPage) {
 TEST(Band, IsNotDrawnOnTheClientsCopyOrOnInk) {
     BlockRun run;
     run.Front(PageId::frmP6_1);
-    modBlocks::Form_MouseDown(run.program, PageId::frmP6_1, 1, 0, 0);
+    modBlocks::Form_MouseDown(run.program, 1, 0, 0);
     modBlocks::Form_MouseMove(run.program, PageId::frmP6_1, 1, 9000, 9000);
     EXPECT_FALSE(run.program.pages[PageId::frmP6_1].shpSelect.Visible);
     run.Front(kSecond);
     run.program.pages[kSecond].InkShown = true;
-    modBlocks::Form_MouseDown(run.program, kSecond, 1, 0, 0);
+    modBlocks::Form_MouseDown(run.program, 1, 0, 0);
     modBlocks::Form_MouseMove(run.program, kSecond, 1, 12000, 9000);
     modBlocks::Form_MouseUp(run.program, kSecond, 1, 12000, 9000);
     EXPECT_FALSE(run.program.pages[kSecond].shpSelect.Visible);
@@ -267,11 +267,11 @@ TEST(Band, AfterACopyTheNextOneIsWhatAPasteWrites) {
 TEST(Band, AClickOnThePageChangesNothing) {
     BlockRun run;
     run.Front(kSecond);
-    modBlocks::Form_MouseDown(run.program, kSecond, 1, 300, 300);
+    modBlocks::Form_MouseDown(run.program, 1, 300, 300);
     modBlocks::Form_MouseUp(run.program, kSecond, 1, 300, 300);
     EXPECT_FALSE(run.program.editing.BlockMode);
     run.Band(kSecond, 0, 1);
-    modBlocks::Form_MouseDown(run.program, kSecond, 1, 300, 300);
+    modBlocks::Form_MouseDown(run.program, 1, 300, 300);
     modBlocks::Form_MouseMove(run.program, kSecond, 1, 330, 315); // a hand is never quite still
     modBlocks::Form_MouseUp(run.program, kSecond, 1, 330, 315);
     EXPECT_EQ(run.BlueAreas(kSecond), (Indices{0, 1}));
@@ -305,7 +305,7 @@ TEST(Runs, AreNoneAndSayNothingWhereNothingIsBlue) {
     BlockRun run;
     for (const PageId page : kEditedPages) {
         run.Front(page);
-        EXPECT_EQ(modBlocks::ReadSelectionRuns(run.program), modBlocks::Selection::None);
+        EXPECT_EQ(modBlocks::ReadOrRefuseSelection(run.program), modBlocks::Selection::None);
         EXPECT_EQ(run.Block().RunStart, (std::array{-1, -1}));
         EXPECT_EQ(run.Block().RunEnd, (std::array{-1, -1}));
         EXPECT_FALSE(run.Block().HasRightRun);
@@ -373,11 +373,11 @@ TEST(Deselect, EndsTheModeOnAllPagesAndEmptiesTheMemory) {
 TEST(Band, WhoseButtonWasLetGoElsewhereIsGoneWithTheNextPress) {
     BlockRun run;
     run.Front(kSecond);
-    modBlocks::Form_MouseDown(run.program, kSecond, 1, 800, 1700);
+    modBlocks::Form_MouseDown(run.program, 1, 800, 1700);
     modBlocks::Form_MouseMove(run.program, kSecond, 1, 11400, 2500);
     run.Front(PageId::frmP3); // the page goes in mid-drag
     run.Front(kSecond);
-    modBlocks::Form_MouseDown(run.program, kSecond, 1, 300, 300);
+    modBlocks::Form_MouseDown(run.program, 1, 300, 300);
     EXPECT_FALSE(run.program.pages[kSecond].shpSelect.Visible);
     modBlocks::Form_MouseUp(run.program, kSecond, 1, 300, 300);
     EXPECT_TRUE(run.BlueAreas(kSecond).empty());
@@ -426,13 +426,13 @@ TEST(RightClick, RepaintsWhatIsOverItsLimitOutsideTheModeOnly) {
     run.PutRow(kSecond, 4, std::string(40, '1'), "Row", "2");
     run.Area(kFirst, 12).Text = std::string(87, 'x'); // 8700 of 8640 twips
     run.Front(kSecond);
-    modText::txt_MouseDown(run.program, kSecond, 8, 2, 0);
+    modText::txt_MouseDown(run.program, kSecond, 8, 2);
     EXPECT_EQ(run.Area(kFirst, 12).BackColor, colors::kOverLimit);
     EXPECT_EQ(run.program.pages[kSecond].txtQty[4].BackColor, colors::kOverLimit);
     EXPECT_EQ(run.program.pages[kSecond].txtAmt[4].BackColor, colors::kRestingRowField);
     run.Area(kFirst, 12).BackColor = colors::kResting;
     run.Band(kSecond, 0, 1);
-    modText::txt_MouseDown(run.program, kSecond, 8, 2, 0);
+    modText::txt_MouseDown(run.program, kSecond, 8, 2);
     EXPECT_EQ(run.Area(kFirst, 12).BackColor, colors::kResting);
     EXPECT_TRUE(run.Blue(kSecond, 0));
 }

@@ -1,3 +1,4 @@
+#include "editing/area_conversion.h"
 #include "editing/area_mouse.h"
 #include "editing/block_actions.h"
 #include "editing/text_commands.h"
@@ -10,7 +11,7 @@ namespace {
 
 constexpr PageId kFirst = BlockRun::kFirst;
 constexpr PageId kSecond = BlockRun::kSecond;
-using modBlocks::MenuRule;
+using modTextMenu::MenuRule;
 
 struct Line {
     CommandId Id;
@@ -47,7 +48,7 @@ MenuRule RuleOf(std::string_view word) {
 }
 
 TEST(TextMenu, FollowsThisTable) {
-    const auto table = modBlocks::TextMenuTable();
+    const auto table = modTextMenu::TextMenuTable();
     ASSERT_EQ(table.size(), std::size(kTable));
     for (std::size_t row = 0; row < table.size(); ++row) {
         const Line& line = kTable[row];
@@ -79,9 +80,9 @@ bool Says(MenuRule rule, BlockRun& run, PageId page, int index) {
     return false;
 }
 
-void ExpectStates(BlockRun& run, modBlocks::MenuState state, PageId page, int index) {
-    modBlocks::UpdateTextMenu(run.program);
-    for (const modBlocks::MenuRow& row : modBlocks::TextMenuTable()) {
+void ExpectStates(BlockRun& run, modTextMenu::MenuState state, PageId page, int index) {
+    modTextMenu::UpdateTextMenu(run.program);
+    for (const modTextMenu::MenuRow& row : modTextMenu::TextMenuTable()) {
         EXPECT_EQ(run.Enabled(row.Id), Says(row.In[static_cast<std::size_t>(state)], run, page, index))
             << "entry " << static_cast<int>(row.Id) << " of " << IndexOf(page) << "/" << index;
     }
@@ -91,7 +92,7 @@ TEST(TextMenu, IsInEveryStateOnEveryAreaAsTheTableSays) {
     BlockRun run;
     run.Area(kFirst, 12).FontBold = true;
     run.Area(kSecond, 33).FontBold = true;
-    const auto everyArea = [&](modBlocks::MenuState state, int selLength) {
+    const auto everyArea = [&](modTextMenu::MenuState state, int selLength) {
         for (const PageId page : kEditedPages) {
             run.program.main.ActivePage = page;
             for (int index = 0; index < static_cast<int>(run.program.pages[page].txt.size()); ++index) {
@@ -101,14 +102,14 @@ TEST(TextMenu, IsInEveryStateOnEveryAreaAsTheTableSays) {
             }
         }
     };
-    everyArea(modBlocks::MenuState::NothingSelected, 0);
-    everyArea(modBlocks::MenuState::OnlyTextSelected, 3);
+    everyArea(modTextMenu::MenuState::NothingSelected, 0);
+    everyArea(modTextMenu::MenuState::OnlyTextSelected, 3);
     run.program.run.FUTShown = true;
-    everyArea(modBlocks::MenuState::OnlyTextSelected, 3);
+    everyArea(modTextMenu::MenuState::OnlyTextSelected, 3);
     run.program.editing.BlockMode = true;
-    everyArea(modBlocks::MenuState::BoxesSelected, 3);
+    everyArea(modTextMenu::MenuState::BoxesSelected, 3);
     run.program.editing.BlockCopyHeld = true;
-    everyArea(modBlocks::MenuState::EnablePaste, 3);
+    everyArea(modTextMenu::MenuState::EnablePaste, 3);
     run.program.editing.BlockMode = false;
     run.program.editing.BlockCopyHeld = false;
 }
@@ -119,7 +120,7 @@ TEST(TextMenu, CaptionTellsWhatTheColumnsCommandWouldDo) {
     Typist typist(run.program);
     const auto captionAt = [&](PageId page, int index) {
         typist.Click(page, index);
-        modBlocks::UpdateTextMenu(run.program);
+        modTextMenu::UpdateTextMenu(run.program);
         return run.program.main[CommandId::mnuEditTextColumns].Caption;
     };
     EXPECT_EQ(captionAt(kSecond, 5), "Remove Columns");
@@ -204,7 +205,7 @@ TEST(Bold, ReturnsTheFocusAndTheMenusTargetIsTheAreaClicked) {
     BlockRun run;
     Typist typist(run.program);
     typist.Click(kSecond, 4);
-    modText::txt_MouseDown(run.program, kSecond, 9, 2, 0);
+    modText::txt_MouseDown(run.program, kSecond, 9, 2);
     modFields::DropFocus(run.program);
     run.Choose(CommandId::mnuEditTextBold);
     EXPECT_TRUE(run.Area(kSecond, 9).FontBold);
@@ -281,6 +282,20 @@ TEST(CaseCommandsOnly, MoveNothingOutOfALineThatIsTooLong) {
     EXPECT_EQ(run.TextOf(kSecond, 4), "XXX" + words.substr(3));
     EXPECT_EQ(run.TextOf(kSecond, 5), "");
     EXPECT_EQ(run.Area(kSecond, 4).BackColor, colors::kOverLimit);
+}
+
+TEST(Conversions, StopBehindTheClientsLines) {
+    RunningProgram run;
+    const int areas = static_cast<int>(run.program.pages[PageId::frmP1].txt.size());
+    for (int index = 10; index < areas; ++index) {
+        modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, index}, "plain words");
+        modText::ConvertOnDoubleClick(run.program, index);
+        EXPECT_EQ(run.TextOf(PageId::frmP1, index), "plain words") << index;
+    }
+    modText::ConvertOnDoubleClick(run.program, -1);
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 9}, "plain words");
+    modText::ConvertOnDoubleClick(run.program, 9);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 9), "Plain Words");
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "editing/columns.h"
+#include "editing/leaving.h"
 #include "editing/row_texts.h"
 #include "editing/text_menu.h"
 #include "editing/typing.h"
@@ -473,10 +474,10 @@ TEST(Status, FollowsAPressOfTheMouse) {
     RunningProgram run;
     PutText(run, kSecond, 5, "abcdef");
     person::TurnTo(run.program, 1);
-    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 4, 0);
+    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 4, 0);
     EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 4");
     EXPECT_EQ(run.program.main.lblTextPos.Caption, "Printer Text Position = 400.");
-    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 0, 0);
+    person::FieldMouseDown(run.program, Text(kSecond, 5), 1, 0, 0);
     EXPECT_EQ(run.program.main.lblTextPos.Caption, "Printer Text Position = .");
 }
 
@@ -560,7 +561,7 @@ TEST(Focus, IsNeverTakenByTheClientsCopy) {
     RunningProgram run;
     person::TurnTo(run.program, 6);
     const auto before = run.program.main.Focus;
-    person::FieldMouseDown(run.program, {PageId::frmP6_1, FieldKind::txt, 1}, 1, 0, 0, 0);
+    person::FieldMouseDown(run.program, {PageId::frmP6_1, FieldKind::txt, 1}, 1, 0, 0);
     EXPECT_EQ(run.program.main.Focus, before);
     EXPECT_EQ(run.program.main.CurrentPage, 0);
 }
@@ -705,7 +706,7 @@ TEST(TaxMarks, SetByTheMenuChangeTheTotalAtOnce) {
     typist.Type("100");
     typist.Click(kSecond, 34);
     typist.Click(kSecond, 33);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_TRUE(run.program.main[CommandId::mnuEditTextTaxExempt].Enabled);
     modColumns::mnuEditTextTaxExempt_Click(run.program);
     EXPECT_TRUE(run.program.pages[kSecond].imgNoTax[33].Visible);
@@ -719,7 +720,7 @@ TEST(TaxMarks, SetByTheMenuChangeTheTotalAtOnce) {
     modColumns::mnuEditTextTaxable_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "100.00");
     typist.Click(kSecond, 0);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     EXPECT_FALSE(run.program.main[CommandId::mnuEditTextTaxExempt].Enabled);
 }
 
@@ -734,6 +735,26 @@ TEST(Refire, RunsEveryHandlerWithTheRealText) {
     run.program.document.FileName.clear();
     modText::RefireTextChanges(run.program, kFirst);
     EXPECT_EQ(run.program.document.FileName, "") << "the detour makes no file name";
+}
+
+TEST(Entering, AnAreaFindsNoWordUnderWayAndNoMoveIsDisturbed) {
+    RunningProgram run;
+    EditingState& editing = run.program.editing;
+    editing.ACActive[PageId::frmP2] = true;
+    editing.Words[PageId::frmP2].InWord = true;
+    editing.EmptiedAmount = FieldRef{PageId::frmP2, FieldKind::txt, 36};
+    editing.MoveInProgress = true;
+    modText::txt_GotFocus(run.program, PageId::frmP2, 5);
+    EXPECT_TRUE(editing.ACActive[PageId::frmP2]) << "a move passes through";
+    editing.MoveInProgress = false;
+    modText::txt_GotFocus(run.program, PageId::frmP2, 5);
+    EXPECT_FALSE(editing.ACActive[PageId::frmP2]);
+    EXPECT_FALSE(editing.Words[PageId::frmP2].InWord);
+    EXPECT_FALSE(editing.EmptiedAmount);
+    EXPECT_EQ(editing.CurrentArea, 5);
+    EXPECT_EQ(run.program.main.ActivePage, PageId::frmP2);
+    EXPECT_EQ(run.program.main.CurrentPage, 1);
+    EXPECT_EQ(editing.CurrentWidth, run.Area(PageId::frmP2, 5).Width);
 }
 
 } // namespace

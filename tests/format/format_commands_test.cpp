@@ -1,6 +1,8 @@
 #include "format/format_commands.h"
 
 #include "format/label_designer.h"
+#include "pages/row_fields.h"
+#include "program/keys.h"
 #include "program/windows.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
@@ -239,6 +241,19 @@ TEST(FormatSave, AnIllegalNameLeavesTheOldOneAndTheNextSaveDoesNotAsk) {
     modFormat::mnuFileFormatSave_Click(run.program);
 }
 
+/// Before a format has a name its labels ride with the proposal, which is asked about.
+TEST(FormatSave, LabelsMovedWithoutAnyFormatAreNotLostByNew) {
+    Formats run;
+    run.Drag(9);
+    const float left = run.Label(PageId::frmP1, 9).Left;
+    run.Questions().Expect("Some text has been changed.", Answer::Cancel);
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, left);
+    run.Questions().Expect("This action will clear all current data if", Answer::No);
+    modFormat::mnuFileFormatNew_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, left);
+}
+
 TEST(FormatSave, UnderATakenNameAsksAndOverwritesOneThatMayOnlyBeRead) {
     Formats run;
     run.folder.Write("Proposals/Barn.fmt", "old");
@@ -318,6 +333,30 @@ TEST(FormatSave, AnAmountThatSomebodyWroteIntoTheFileStays) {
     run.program.format.LogoChanged = true;
     modFormat::mnuFileFormatSave_Click(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/Fee.fmt"), "frmP1.txt(20).Text=5.00\r\n" + std::string(kHouse));
+}
+
+TEST(FormatSave, LayoutOnlyLaysARowsColumnsWithNothingThatPrints) {
+    Formats run;
+    run.Open();
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 4);
+    typist.Press(keys::kF8);
+    typist.Type("3");
+    typist.Click(PageId::frmP2, 4);
+    typist.Type("Arch");
+    run.Questions().Expect("Shall the texts", Answer::Yes);
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_NE(
+        run.folder.Read("Proposals/House.fmt").find("frmP2.txq(4).QtyBox=True .QtyValue= .AmtValue=\r\n"),
+        std::string::npos);
+    run.Questions().Expect("Some text has been changed.", Answer::No);
+    modProposal::mnuFileNew_Click(run.program);
+    const Page& page = run.program.pages[PageId::frmP2];
+    EXPECT_TRUE(page.txtQty[4].Visible) << "the columns are there to be typed in";
+    EXPECT_TRUE(modPages::IsBlankRow(page, 4)) << "and no sign of them is on paper";
+    typist.Click({PageId::frmP2, FieldKind::txtQty, 4});
+    typist.Type("2");
+    EXPECT_FALSE(modPages::IsBlankRow(page, 4));
 }
 
 TEST(FormatSave, LayoutOnlyDoesNotTellWhoseProposalItWasMadeWith) {
@@ -400,6 +439,23 @@ TEST(FormatDelete, UnsavedTextIsAskedForAndCancelStops) {
     EXPECT_TRUE(run.folder.Has("Proposals/House.fmt"));
 }
 
+TEST(FormatDelete, UnsavedChangesOfTheFormatAreAskedForByName) {
+    Formats run;
+    run.Open();
+    run.Drag(9);
+    run.Questions().Expect("Some text has been changed.", Answer::No);
+    run.Questions().ExpectBox(
+        {"The format House.fmt has changes that are not saved.", Buttons::YesNoCancel, ""}, Answer::Cancel);
+    modFormat::mnuFileFormatDelete_Click(run.program);
+    EXPECT_TRUE(run.folder.Has("Proposals/House.fmt"));
+    run.Questions().Expect("Some text has been changed.", Answer::No);
+    run.Questions().Expect("The format House.fmt has changes", Answer::No);
+    run.Questions().Expect("Are you sure", Answer::Yes);
+    modFormat::mnuFileFormatDelete_Click(run.program);
+    EXPECT_FALSE(run.folder.Has("Proposals/House.fmt"));
+    run.ExpectNoFormat();
+}
+
 TEST(FormatDelete, TheDefaultFormatIsForgottenInTheSettings) {
     Formats run;
     run.Open();
@@ -422,16 +478,6 @@ TEST(FormatDelete, TheDefaultFormatIsKnownByAPathWithADriveToo) {
     run.Questions().Expect("This was the default format.");
     modFormat::mnuFileFormatDelete_Click(run.program);
     EXPECT_EQ(run.program.settings.DefaultFormatPath, "");
-}
-
-TEST(FormatDelete, ChangesThatGoWithTheFileAreNamed) {
-    Formats run;
-    run.Open();
-    run.Drag(9);
-    run.Questions().Expect("Some text has been changed.", Answer::No);
-    run.Questions().Expect("Are you sure", Answer::No);
-    modFormat::mnuFileFormatDelete_Click(run.program);
-    EXPECT_EQ(run.Questions().Manners.back().Lost, "The format House.fmt has changes that are not saved.");
 }
 
 TEST(FormatCommands, LeaveTheBackupsWithTheProposalThatWasOpenedThere) {
@@ -561,6 +607,7 @@ TEST(ChooserKinds, APictureBecomesTheLogoAndAnythingElseIsRefused) {
     EXPECT_EQ(run.program.format.LogoLeft, 720);
     EXPECT_EQ(run.program.format.LogoTop, 540);
     EXPECT_TRUE(run.program.format.LogoChanged);
+    EXPECT_EQ(run.program.main.Notice, "Kept only by a format or by Save this Logo as Default.");
     EXPECT_EQ(run.program.document.FileFilter, "*.hef");
 }
 

@@ -22,6 +22,7 @@
 
 #include <gtest/gtest.h>
 #include <random>
+#include <utility>
 
 namespace {
 
@@ -166,11 +167,12 @@ TEST(FormatFile, AnOpenedProposalIsTheSameUnderAFormatThatFillsEveryRow) {
             std::vector<std::string> lines;
             for (int page = 0; page < 5; ++page) {
                 for (int index = 0; index <= geometry::LastText(PageAt(page)); ++index) {
-                    const std::string at = "frmP" + std::to_string(page + 1);
-                    const std::string place = "(" + std::to_string(index) + ")";
-                    lines.push_back(at + ".txt" + place + ".Text=7");
-                    lines.push_back(at + ".txt" + place + ".TaxExempt=True");
-                    lines.push_back(at + ".txq" + place + ".QtyBox=True .QtyValue=2 .AmtValue=3");
+                    for (const char* value : {".txt(%).Text=7", ".txt(%).TaxExempt=True",
+                                              ".txq(%).QtyBox=True .QtyValue=2 .AmtValue=3"}) {
+                        std::string line = "frmP" + std::to_string(page + 1) + value;
+                        line.replace(line.find('%'), 1, std::to_string(index));
+                        lines.push_back(std::move(line));
+                    }
                 }
             }
             run.Lay(lines);
@@ -288,11 +290,11 @@ TEST(PropertyLines, SayThatAnAreaWhichItsFormatMakesBoldIsNot) {
     Laid run;
     run.Lay({"frmP1.txt(10).FontBold=True"});
     run.program.format.PropTextChanges[PageId::frmP1][10].FontBold = false;
-    const auto lines = modFormat::PropertyLinesNow(run.program);
+    const auto lines = modProperties::PropertyLinesNow(run.program);
     ASSERT_FALSE(lines.empty());
     EXPECT_EQ(lines[0], "frmP1.txt(10).FontBold=False");
     run.program.format.PropertyLines = lines;
-    modFormat::ParsePropertyFile(run.program);
+    modProperties::ParsePropertyFile(run.program);
     EXPECT_FALSE(run.Area(PageId::frmP1, 10).FontBold);
 }
 
@@ -304,7 +306,7 @@ TEST(PropertyLines, BringTitleAndHeadingBack) {
         ".ForeColor=0 .FontItalic=False .FontUnderline=False",
         "frmP2.lbl(0).Left=3000 .Top=540 .Caption=Ours - Page 2 .FontName=Arial .FontBold=False .FontSize=15 "
         ".ForeColor=0 .FontItalic=False .FontUnderline=False"};
-    modFormat::ParsePropertyFile(run.program);
+    modProperties::ParsePropertyFile(run.program);
     EXPECT_EQ(run.program.document.ClientCaption, "The Roe Wedding");
     EXPECT_TRUE(run.program.document.TitleGiven);
     EXPECT_EQ(run.program.document.PageHeading, "Ours - ");
@@ -421,10 +423,10 @@ std::string RoundTrip(Laid& run, const std::vector<std::string>& start, unsigned
     run.Lay(first);
     const auto second = Written(run.program);
     for (std::size_t at = 0; at < std::max(first.size(), second.size()); ++at) {
-        const std::string one = at < first.size() ? first[at] : "(nothing)";
+        std::string one = at < first.size() ? first[at] : "(nothing)";
         const std::string other = at < second.size() ? second[at] : "(nothing)";
         if (one != other) {
-            return one + "\n" + other;
+            return one.append("\n").append(other);
         }
     }
     return "";
@@ -473,12 +475,12 @@ TEST(PropertyLines, ComeBackByteForByteFromRandomStates) {
         States(run, seed).Make(static_cast<int>(seed % 40) + 1);
         format.PropLabelChanges = format.FormatLabelChanges;
         modColumns::CollectQtyBoxes(run.program);
-        const auto first = modFormat::PropertyLinesNow(run.program);
+        const auto first = modProperties::PropertyLinesNow(run.program);
         static_cast<void>(modReset::StartNewFile(run.program));
         format.PropertyLines = first;
-        modFormat::ParsePropertyFile(run.program);
+        modProperties::ParsePropertyFile(run.program);
         ASSERT_FALSE(format.PropertyLinesRead) << "seed " << seed;
-        ASSERT_EQ(modFormat::PropertyLinesNow(run.program), first) << "seed " << seed;
+        ASSERT_EQ(modProperties::PropertyLinesNow(run.program), first) << "seed " << seed;
     }
 }
 
@@ -497,6 +499,32 @@ TEST(CompanyLines, ThatAFormatCarriesChangeWithTheSettingsAndAreToSave) {
     EXPECT_EQ(run.Label(PageId::frmP1, 1).Caption, "Round the corner");
     EXPECT_EQ(run.program.format.FormatLabelChanges.Each[0][0].Caption, "Acme and Daughters");
     EXPECT_FALSE(run.program.format.FormatLabelChanges.Each[0][0].Saved);
+}
+
+TEST(PropertyLines, AFaultInALineOfAnyKindEndsTheReading) {
+    for (const char* fault : {"frmP1.txt(10).FontBold=Perhaps", "frmP1.lbl(9).Left=far",
+                              "UDP.FontName=Arial .FontSize=big .FontColor=0 .FontItalic=False"}) {
+        Laid run;
+        run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+        run.folder.Write("Proposals/Jane Roe.hpf", "frmP1.txt(12).FontBold=True\r\n" + std::string(fault) +
+                                                       "\r\nfrmP1.txt(11).FontBold=True\r\n");
+        run.surroundings.questions.Expect("The layout of this proposal was read only up to line 1.");
+        run.Open("Jane Roe.hef");
+        run.surroundings.questions.Done();
+        EXPECT_TRUE(run.Area(PageId::frmP1, 12).FontBold) << fault;
+        EXPECT_FALSE(run.Area(PageId::frmP1, 11).FontBold) << fault;
+    }
+}
+
+TEST(PropertyLines, ARowWithColumnsAndNothingInThemChangesNoProposal) {
+    Laid run;
+    run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+    run.folder.Write("Proposals/Jane Roe.hpf", "frmP5.txq(20).QtyBox=True\r\n");
+    run.Open("Jane Roe.hef");
+    ASSERT_TRUE(modPages::ColumnsOn(run.program, PageId::frmP5, 20));
+    EXPECT_EQ(run.program.document.SavedTextBuf[PageId::frmP5][20],
+              run.program.document.CurrentTextBuf[PageId::frmP5][20]);
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
 }
 
 } // namespace

@@ -17,7 +17,7 @@ TEST(PagesInUse, IsTheHighestPageWithALineAndTheFinalPage) {
     for (int page = 0; page < kLinePageCount; ++page) {
         RunningProgram run;
         SetLine(run, PageAt(page), 3, "Tent");
-        modPrint::CountPagesInUse(run.program);
+        modPageCount::CountPagesInUse(run.program);
         EXPECT_EQ(run.program.document.PagesInUse, page + 2);
     }
 }
@@ -26,14 +26,14 @@ TEST(PagesInUse, CountsAnEmptyPageBetweenUsedOnes) {
     RunningProgram run;
     SetLine(run, PageId::frmP1, 2, "Jane");
     SetLine(run, PageId::frmP3, 65, "5.00");
-    modPrint::CountPagesInUse(run.program);
+    modPageCount::CountPagesInUse(run.program);
     EXPECT_EQ(run.program.document.PagesInUse, 4);
 }
 
 TEST(PagesInUse, StaysWhenNoPageHasALine) {
     RunningProgram run;
     run.program.document.PagesInUse = 4;
-    modPrint::CountPagesInUse(run.program);
+    modPageCount::CountPagesInUse(run.program);
     EXPECT_EQ(run.program.document.PagesInUse, 4);
 }
 
@@ -42,15 +42,28 @@ TEST(PagesInUse, TakesBlanksForNoLine) {
     run.program.document.PagesInUse = 6;
     SetLine(run, PageId::frmP1, 0, "x");
     SetLine(run, PageId::frmP5, 0, "   ");
-    modPrint::CountPagesInUse(run.program);
+    modPageCount::CountPagesInUse(run.program);
     EXPECT_EQ(run.program.document.PagesInUse, 2);
+}
+
+TEST(PagesInUse, ARowWithColumnsAndNothingInThemIsNoLine) {
+    RunningProgram run;
+    SetLine(run, PageId::frmP1, 0, "x");
+    SetLine(run, PageId::frmP5, 3, "\xA5\xA5\xA7");
+    modPageCount::CountPagesInUse(run.program);
+    EXPECT_EQ(run.program.document.PagesInUse, 2);
+    SetLine(run, PageId::frmP5, 3,
+            "\xA5Qty.\xA5\xA7"
+            "Amt.");
+    modPageCount::CountPagesInUse(run.program);
+    EXPECT_EQ(run.program.document.PagesInUse, 6);
 }
 
 TEST(PagesInUse, GoesByTheTextsOnThePagesAndNotByThoseLastSaved) {
     RunningProgram run;
     run.program.document.SavedTextBuf[PageId::frmP5][0] = "saved long ago";
     SetLine(run, PageId::frmP2, 0, "now");
-    modPrint::CountPagesInUse(run.program);
+    modPageCount::CountPagesInUse(run.program);
     EXPECT_EQ(run.program.document.PagesInUse, 3);
 }
 
@@ -69,7 +82,7 @@ TEST_P(NumberedPages, StandOnEveryPage) {
     run.program.document.PagesInUse = used;
     run.program.document.PageHeading = "Acme - ";
     const std::string continued = run.Label(PageId::frmP2, 35).Caption;
-    modPrint::SetPageNumbers(run.program);
+    modPageCount::SetPageNumbers(run.program);
     EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1" + of);
     EXPECT_EQ(run.Label(PageId::frmP2, 34).Caption, "Page 2" + of);
     EXPECT_EQ(run.Label(PageId::frmP3, 34).Caption, "Page 3" + of);
@@ -93,7 +106,7 @@ INSTANTIATE_TEST_SUITE_P(TwoToSix, NumberedPages, testing::Values(2, 3, 4, 5, 6)
 TEST(Headings, AreCentredAndKeptWithTheProposal) {
     RunningProgram run;
     run.program.document.PageHeading = "Acme - ";
-    modPrint::SetPageNumbers(run.program);
+    modPageCount::SetPageNumbers(run.program);
     EXPECT_EQ(run.Label(PageId::frmP2, 0).Left, 5470);
     const LabelChangeRecord& kept = run.program.format.PropLabelChanges[PageId::frmP2][0];
     EXPECT_TRUE(kept.Changed);
@@ -119,7 +132,7 @@ TEST(PageNumbers, HeadingsAreKeptWithTheProposalAsTheyLook) {
     heading.FontItalic = false;
     heading.FontUnderline = true;
     heading.ForeColor = 0x0000FF;
-    modPrint::SetPageNumbers(run.program);
+    modPageCount::SetPageNumbers(run.program);
     const LabelChangeRecord& kept = run.program.format.PropLabelChanges[PageId::frmP2][0];
     EXPECT_TRUE(kept.Changed);
     EXPECT_EQ(kept.Caption, heading.Caption);
@@ -144,10 +157,10 @@ TEST(PageNumbers, HeadingsAreKeptWithTheProposalAsTheyLook) {
 TEST(Footers, SayOfSixUntilAPrintCommandHasRun) {
     RunningProgram run;
     SetLine(run, PageId::frmP1, 2, "Jane");
-    modPrint::CountPagesInUse(run.program);
+    modPageCount::CountPagesInUse(run.program);
     EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 6");
     EXPECT_EQ(run.Label(PageId::frmP6, 63).Caption, "Page 6 of 6");
-    modPrint::SetPageNumbers(run.program);
+    modPageCount::SetPageNumbers(run.program);
     EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 2");
     EXPECT_EQ(run.Label(PageId::frmP6, 63).Caption, "Page 2 of 2");
 }

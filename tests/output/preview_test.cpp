@@ -1,5 +1,6 @@
 #include "output/preview.h"
 
+#include "pages/row_fields.h"
 #include "program/program.h"
 #include "support/person.h"
 #include "support/running_program.h"
@@ -58,8 +59,8 @@ TEST(Preview, ResumingShowsWhatIsNotTaggedHide) {
     run.Label(PageId::frmP1, 9).Visible = false;
     run.Label(PageId::frmP1, 10).Visible = true;
     run.Label(PageId::frmP1, 10).Tag = kHide;
-    modPrint::TogglePreview(run.program);
-    modPrint::TogglePreview(run.program);
+    modPreview::TogglePreview(run.program);
+    modPreview::TogglePreview(run.program);
     EXPECT_TRUE(run.Label(PageId::frmP1, 9).Visible);
     EXPECT_FALSE(run.Label(PageId::frmP1, 10).Visible);
 }
@@ -69,7 +70,7 @@ TEST(Preview, EndsWhenAPageIsChosen) {
         for (int to = 0; to < kPageCount; ++to) {
             RunningProgram run;
             person::TurnTo(run.program, from);
-            modPrint::TogglePreview(run.program);
+            modPreview::TogglePreview(run.program);
             ASSERT_TRUE(run.program.pages[PageAt(from)].InkShown);
             person::TurnTo(run.program, to);
             EXPECT_EQ(run.program.main.cmdPreview.Caption, "Print Preview");
@@ -86,14 +87,14 @@ TEST(Preview, OfTheClientsCopyShowsThatPagesPaper) {
     person::TurnTo(run.program, 2);
     person::TurnTo(run.program, 6);
     const int drawn = run.program.pages[PageId::frmP6_1].InkVersion;
-    modPrint::TogglePreview(run.program);
+    modPreview::TogglePreview(run.program);
     EXPECT_TRUE(run.program.pages[PageId::frmP6_1].InkShown);
     EXPECT_GT(run.program.pages[PageId::frmP6_1].InkVersion, drawn);
     EXPECT_FALSE(run.program.pages[PageId::frmP3].InkShown);
     EXPECT_EQ(run.program.printing.PrintFormName, "frmP6_1");
-    modPrint::TogglePreview(run.program);
+    modPreview::TogglePreview(run.program);
     EXPECT_FALSE(run.program.pages[PageId::frmP6_1].InkShown);
-    modPrint::TogglePreview(run.program);
+    modPreview::TogglePreview(run.program);
     person::TurnTo(run.program, 0);
     EXPECT_FALSE(run.program.pages[PageId::frmP6_1].InkShown);
     EXPECT_EQ(run.program.main.cmdPreview.Caption, "Print Preview");
@@ -101,7 +102,7 @@ TEST(Preview, OfTheClientsCopyShowsThatPagesPaper) {
 
 TEST(Preview, StaysWhenTheWindowChangesItsSize) {
     RunningProgram run;
-    modPrint::TogglePreview(run.program);
+    modPreview::TogglePreview(run.program);
     run.program.main.ClientHeight = 7000;
     person::ResizeWindow(run.program);
     EXPECT_TRUE(run.program.pages[PageId::frmP1].InkShown);
@@ -111,10 +112,10 @@ TEST(Preview, TakesNoCharacters) {
     RunningProgram run;
     Typist typist(run.program);
     typist.Click(PageId::frmP1, 2);
-    modPrint::TogglePreview(run.program);
+    modPreview::TogglePreview(run.program);
     typist.Type("Jane");
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "");
-    modPrint::TogglePreview(run.program);
+    modPreview::TogglePreview(run.program);
     typist.Type("Jane");
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Jane");
 }
@@ -124,7 +125,7 @@ TEST(Preview, RefusesTheCommandsThatEditThePage) {
     Typist typist(run.program);
     person::TurnTo(run.program, 1);
     typist.Click(PageId::frmP2, 0);
-    modPrint::TogglePreview(run.program);
+    modPreview::TogglePreview(run.program);
     run.surroundings.questions.ExpectBox({"Please click \"Resume Editing\" first.", Buttons::Ok, ""},
                                          Answer::Ok);
     person::Choose(run.program, CommandId::mnuEditTextColumns);
@@ -137,7 +138,7 @@ TEST(Preview, RefusesTheCommandsThatEditThePage) {
 TEST(Preview, IsDrawnAnewWhenAPageIsPrintedMeanwhile) {
     RunningProgram run;
     run.program.document.CurrentTextBuf[PageId::frmP1][2] = "Jane";
-    modPrint::TogglePreview(run.program);
+    modPreview::TogglePreview(run.program);
     const int drawn = run.program.pages[PageId::frmP1].InkVersion;
     run.surroundings.events.OnYield = [&] {
         EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 2");
@@ -158,8 +159,42 @@ TEST(Preview, BringsTheTotalsUpToDateWhenTheButtonIsRed) {
     typist.Click(PageId::frmP2, 0);
     run.Area(PageId::frmP6, 0).Text = "stale";
     run.program.totals.TotalsStale = true;
-    modPrint::TogglePreview(run.program);
+    modPreview::TogglePreview(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "20.00");
+}
+
+TEST(Preview, ResumingShowsEveryKindOfControlThatIsNotTaggedHide) {
+    RunningProgram run;
+    Page& page = run.program.pages[PageId::frmP2];
+    modPages::EnsureRowFields(run.program, PageId::frmP2);
+    const auto each = [&](const auto& visit) {
+        for (auto* fields : {&page.txt, &page.txtQty, &page.txtAmt}) {
+            for (TextArea& field : *fields) {
+                visit(field);
+            }
+        }
+        for (auto* labels : {&page.lbl, &page.lblAt, &page.lblEach}) {
+            for (PageLabel& label : *labels) {
+                visit(label);
+            }
+        }
+        for (auto& mark : page.imgNoTax) {
+            visit(mark);
+        }
+    };
+    int odd = 0;
+    each([&](auto& control) {
+        control.Tag = ++odd % 2 == 0 ? "" : std::string(kHide);
+        control.Visible = odd % 2 != 0;
+    });
+    for (PageLine& line : page.lne) {
+        line.Visible = false;
+    }
+    modPreview::ResumeEditing(run.program, PageId::frmP2);
+    each([&](const auto& control) { EXPECT_EQ(control.Visible, control.Tag != kHide); });
+    for (const PageLine& line : page.lne) {
+        EXPECT_TRUE(line.Visible);
+    }
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "output/print_page.h"
 
+#include "pages/row_fields.h"
 #include "program/program.h"
 #include "support/person.h"
 #include "support/recording_platform.h"
@@ -208,6 +209,28 @@ TEST(DrawPage, PrintsRowFieldsFromTheirLeft) {
     ASSERT_EQ(calls.size(), 2U);
     EXPECT_EQ(calls[0].X, 300);
     EXPECT_EQ(calls[1].X, 700);
+}
+
+TEST(DrawPage, ARowWithColumnsAndNothingInItPrintsNoSigns) {
+    RunningProgram run;
+    Page& page = run.program.pages[PageId::frmP2];
+    modPages::PlaceColumns(run.program, PageId::frmP2, 3, modPages::Columns::On);
+    page.txtQty[3].Text = "";
+    page.txtAmt[3].Text = "";
+    const auto signs = [&] {
+        auto& calls = run.surroundings.printers.Paper.Calls;
+        calls.clear();
+        modPrint::DrawPage(run.program, run.surroundings.printers.Paper, PageId::frmP2);
+        return std::count_if(calls.begin(), calls.end(), [](const DrawCall& call) {
+            return call.Op == What::Print && (call.Text == "@ $" || call.Text == "ea.");
+        });
+    };
+    EXPECT_EQ(signs(), 0);
+    for (TextArea* field : {&page.txtQty[3], &page.txt[3], &page.txtAmt[3], &page.txt[36]}) {
+        field->Text = "1";
+        EXPECT_EQ(signs(), 2);
+        field->Text = "";
+    }
 }
 
 TEST(DrawPage, UnderlinesBoldRowsOfFullWidthAlsoWithoutText) {

@@ -195,8 +195,8 @@ TEST(SampleProposal, NothingStandsOverItsLimit) {
 
 TEST(SampleProposal, FillsThreePagesAndPrintsFour) {
     Sample run;
-    modPrint::CountPagesInUse(run.program);
-    modPrint::SetPageNumbers(run.program);
+    modPageCount::CountPagesInUse(run.program);
+    modPageCount::SetPageNumbers(run.program);
     EXPECT_EQ(run.program.document.PagesInUse, 4);
     EXPECT_EQ(run.Label(PageId::frmP3, 34).Caption, "Page 3 of 4");
     EXPECT_EQ(run.Label(PageId::frmP6, 63).Caption, "Page 4 of 4");

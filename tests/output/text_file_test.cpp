@@ -1,6 +1,7 @@
 #include "output/text_file.h"
 
 #include "output/frm_text_file.h"
+#include "output/text_print.h"
 #include "program/windows.h"
 #include "support/running_program.h"
 
@@ -94,6 +95,30 @@ TEST(TextFile, WhatThePageCannotHaveIsToldBeforeItPrints) {
     frmTextFile window("Notes.txt", "\xE4\xB8\xAD");
     window.cmdPrint_Click(run.program);
     EXPECT_TRUE(run.surroundings.printers.Paper.Documents.empty());
+}
+
+TEST(TextPrint, SetsItsOwnFontWhateverThePrinterWasLeftWith) {
+    RunningProgram run;
+    RecordingPrinter& paper = run.surroundings.printers.Paper;
+    paper.Font = "Arial";
+    paper.FontSize = 30;
+    paper.FontBold = paper.FontItalic = paper.FontUnderline = true;
+    paper.ForeColor = 0xFF;
+    modPrint::PrintText(run.program, "Notes", "one\ntwo");
+    ASSERT_EQ(paper.Documents.size(), 1U);
+    int printed = 0;
+    for (const DrawCall& call : paper.Documents[0]) {
+        if (call.Op == DrawCall::What::Print) {
+            ++printed;
+            EXPECT_EQ(call.Font, "Times New Roman");
+            EXPECT_EQ(call.FontSize, 10);
+            EXPECT_FALSE(call.Bold);
+            EXPECT_FALSE(call.Italic);
+            EXPECT_FALSE(call.Underline);
+            EXPECT_EQ(call.ForeColor, colors::kBlack);
+        }
+    }
+    EXPECT_EQ(printed, 2);
 }
 
 } // namespace

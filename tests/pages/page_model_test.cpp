@@ -417,4 +417,12 @@ TEST(Geometry, PairsAmountsWithTheirRowsAndSigns) {
     EXPECT_EQ(geometry::LimitOf("Push.1/9"), 1) << "what is no digit ends it";
 }
 
+TEST(Geometry, TheLimitOfATagIsTheNumberThatBeginsItsLastThreeCharacters) {
+    EXPECT_EQ(geometry::LimitOf("Text050"), 50);
+    EXPECT_EQ(geometry::LimitOf("Text4a5"), 4);
+    EXPECT_EQ(geometry::LimitOf("Text/90"), 0);
+    EXPECT_EQ(geometry::LimitOf("Text9:1"), 9);
+    EXPECT_EQ(geometry::LimitOf("Text"), 0);
+}
+
 } // namespace

@@ -64,6 +64,10 @@ TEST(PageDefaults, BringBackEveryFieldOfEveryPage) {
         for (std::size_t index = 0; index < designed.lbl.size(); ++index) {
             EXPECT_EQ(again.lbl[index], designed.lbl[index]) << again.Name << " label " << index;
         }
+        for (const TextArea& area : again.txt) {
+            EXPECT_FALSE(area.Visible) << again.Name << ": shown once everything stands";
+            EXPECT_FALSE(area.FontBold) << again.Name;
+        }
         for (std::size_t index = 0; index < designed.txt.size(); ++index) {
             EXPECT_EQ(again.txt[index], designed.txt[index]) << again.Name << " area " << index;
         }
@@ -72,6 +76,24 @@ TEST(PageDefaults, BringBackEveryFieldOfEveryPage) {
         EXPECT_EQ(again.lblAt, designed.lblAt) << again.Name;
         EXPECT_EQ(again.lblEach, designed.lblEach) << again.Name;
         EXPECT_EQ(again.LabelBaseState, designed.LabelBaseState) << again.Name;
+    }
+}
+
+TEST(PageDefaults, GiveEveryLabelTheSameLookButForSizeAndWeight) {
+    RunningProgram run;
+    for (const PageId page : kAllPages) {
+        Spoil(run.program.pages[page]);
+        modPages::ApplyPageDefaults(run.program, page);
+        for (const PageLabel& label : run.program.pages[page].lbl) {
+            EXPECT_FALSE(label.Visible) << label.Caption;
+            EXPECT_EQ(label.Tag, "") << label.Caption;
+            EXPECT_EQ(label.FontName, "Times New Roman") << label.Caption;
+            EXPECT_TRUE(label.FontItalic) << label.Caption;
+            EXPECT_FALSE(label.FontUnderline) << label.Caption;
+            EXPECT_EQ(label.ForeColor, colors::kBlack) << label.Caption;
+            EXPECT_EQ(label.BackColor, colors::kButtonFace) << label.Caption;
+            EXPECT_EQ(label.BackStyle, 0) << label.Caption;
+        }
     }
 }
 

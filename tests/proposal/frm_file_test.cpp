@@ -12,6 +12,7 @@
 #include <chrono>
 #include <filesystem>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -449,6 +450,41 @@ TEST(ChooserFilter, GoesWithItsFolder) {
     window.txtFilter_Change(run.program, "bob");
     run.Enter(window, "2008");
     EXPECT_EQ(window.txtFilter.Text, "");
+}
+
+TEST(Chooser, RowsThatAreNotThereChooseNothing) {
+    Choosing run;
+    frmFile& window = run.Show();
+    run.Select(window, "Ann.hef");
+    const std::string folder = window.Folder;
+    for (const std::size_t beyond : {window.Drive1.Items.size(), std::size_t{1000}}) {
+        window.Drive1_Change(run.program, static_cast<int>(beyond));
+    }
+    for (const std::size_t beyond : {window.Dir1.Items.size(), std::size_t{1000}}) {
+        window.Dir1_Change(run.program, static_cast<int>(beyond));
+    }
+    for (const std::size_t beyond : {window.FileList1.Items.size(), std::size_t{1000}}) {
+        window.FileList1_Click(run.program, static_cast<int>(beyond));
+    }
+    window.Drive1_Change(run.program, -1);
+    window.Dir1_Change(run.program, -1);
+    window.FileList1_Click(run.program, -1);
+    EXPECT_EQ(window.Folder, folder);
+    EXPECT_EQ(window.FileList1.ListIndex, 0);
+    EXPECT_EQ(window.lblOpenFileName.Caption, "Ann.hef");
+}
+
+TEST(Chooser, SizesGoOnToTheNextUnitWhenOneOfItIsFull) {
+    Choosing run;
+    run.folder.Write("Proposals/A.hef", std::string(1023, ' '));
+    run.folder.Write("Proposals/B.hef", std::string(1024, ' '));
+    run.folder.Write("Proposals/C.hef", std::string(1048576, ' '));
+    const frmFile& window = run.Show();
+    for (const auto& [name, size] :
+         {std::pair("A.hef", "1023 bytes"), std::pair("B.hef", "1.0 KB"), std::pair("C.hef", "1.0 MB")}) {
+        EXPECT_EQ(window.FileSizes[static_cast<std::size_t>(Choosing::At(window.FileList1.Items, name))],
+                  size);
+    }
 }
 
 } // namespace

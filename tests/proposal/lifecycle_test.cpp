@@ -615,4 +615,12 @@ TEST(Titles, AFormatStandsBeforeTheFileName) {
     EXPECT_EQ(run.Main().Caption, "Quillbrook: Format File = Mine.fmt - File Name = Jane Roe.hef");
 }
 
+TEST(FileNames, AQuestionThatCouldNotBePutLetsNothingBeWritten) {
+    Living run;
+    run.program.document.Cancelled = false;
+    run.surroundings.questions.Expect("ShowDuplicateFileOptions"); // the file that was there has gone
+    modNames::ShowDuplicateFileOptions(run.program, run.Data(), "Gone.hef");
+    EXPECT_TRUE(run.program.document.Cancelled);
+}
+
 } // namespace

@@ -11,15 +11,14 @@
 #include "proposal/slot_widths.h"
 #include "support/person.h"
 #include "support/running_program.h"
+#include "support/small_disk.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <csignal>
 #include <filesystem>
 #include <string>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -350,17 +349,12 @@ TEST(SavingAProposal, OnAFullDiskIsToldAndTheTextStaysUnsaved) {
     RunningProgram run;
     run.program.document.FileName = "Ann.hef";
     run.Area(PageId::frmP1, 3).Text = "12 Elm Street";
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    rlimit small = before;
-    small.rlim_cur = 4096;
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
     run.surroundings.questions.Expect(
         "An error occurred in SaveEventFile.\r\nError Number: 61\r\nError Description: Disk full");
-    const auto result = modFile::SaveEventFile(run.program);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
-    EXPECT_EQ(result, modFile::SaveResult::NotSaved);
+    {
+        const SmallDisk disk(4096);
+        EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::NotSaved);
+    }
     EXPECT_FALSE(run.program.document.FileExists);
     EXPECT_NE(Saved(run, 0, 3), "12 Elm Street");
     EXPECT_EQ(Current(run, 0, 3), "12 Elm Street");

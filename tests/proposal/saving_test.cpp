@@ -7,17 +7,16 @@
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
 #include "support/running_program.h"
+#include "support/small_disk.h"
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
 #include <tuple>
 #include <vector>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -44,24 +43,6 @@ void Put(RunningProgram& run, PageId page, int index, const char* text) {
 std::string Slot(const std::string& bytes, std::size_t offset, std::size_t width) {
     return bytes.substr(offset, width);
 }
-
-/// While it lives, no file of this process grows beyond so many bytes.
-class SmallDisk {
-public:
-    explicit SmallDisk(rlim_t bytes) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &before_), 0);
-        rlimit small = before_;
-        small.rlim_cur = bytes;
-        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    }
-    ~SmallDisk() { EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &before_), 0); }
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-
-private:
-    rlimit before_{};
-};
 
 /// Amounts that add differently in singles. By field 16777216 + 1 + 1 stays 16777216, by page 16777216 +
 /// (1 + 1) is 16777218; all exempt.

@@ -263,4 +263,37 @@ TEST(Results, CloseWithTheProposalTheyBelongTo) {
     EXPECT_FALSE(run.program.search.ResultsOpen);
 }
 
+TEST(Results, AreChosenInAllListsTogetherAndNoneBeyondThem) {
+    SearchRun run;
+    run.Put(kSecond, 3, "a chair");
+    run.Put(kSecond, 4, "two chairs");
+    run.Put(kSecond, 5, "chairs again");
+    run.Search("chair");
+    frmSR* results = run.Results();
+    ASSERT_NE(results, nullptr);
+    EXPECT_TRUE(run.program.search.ResultsOpen);
+    const auto expectRow = [&](int row) {
+        for (const ListBox& list : results->lstResults) {
+            EXPECT_EQ(list.Items.size(), 3U);
+            EXPECT_EQ(list.ListIndex, row);
+        }
+    };
+    expectRow(0);
+    results->lstResults_Move(2);
+    expectRow(2);
+    results->lstResults_Move(3);
+    expectRow(2);
+    results->lstResults_Move(-7);
+    expectRow(-1);
+    results->lstResults_Scroll(1);
+    EXPECT_EQ(results->TopIndex, 1);
+    results->lstResults_Scroll(9);
+    EXPECT_EQ(results->TopIndex, 2);
+    results->lstResults_Scroll(-1);
+    EXPECT_EQ(results->TopIndex, 0);
+    results->Form_Cancel(run.program);
+    modWindows::Sweep(run.program);
+    EXPECT_FALSE(run.program.search.ResultsOpen);
+}
+
 } // namespace

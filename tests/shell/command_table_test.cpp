@@ -1,6 +1,8 @@
 #include "shell/command_table.h"
 
+#include "base/text.h"
 #include "program/program.h"
+#include "shell/menu_captions.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -101,6 +103,28 @@ TEST(CommandStates, AnEntryWhoseRoomIsNotBuiltIsNeverAvailable) {
             run.program.main[entry.Id].Enabled = true;
             EXPECT_FALSE(commands::IsAvailable(run.program, entry.Id)) << entry.Name;
         }
+    }
+}
+
+TEST(TopMenus, TakeTheirOwnLetterUnlessOneBeforeHasIt) {
+    std::string taken = "fe"; // File and Edit choose first
+    for (const commands::Entry& entry : commands::Table()) {
+        if (entry.Parent != CommandId::Count || entry.What != commands::Kind::Menu) {
+            continue;
+        }
+        const std::string caption = commands::TopMenuCaption(entry.Id);
+        const std::size_t mark = caption.find('&');
+        ASSERT_NE(mark, std::string::npos) << caption;
+        const char letter = text::Lower(caption.substr(mark + 1, 1)).front();
+        const bool first = entry.Id == CommandId::mnuFile || entry.Id == CommandId::mnuEdit;
+        EXPECT_EQ(taken.find(letter) != std::string::npos, first) << caption;
+        const std::size_t own = entry.Caption.find('&');
+        const char wanted =
+            own == std::string_view::npos ? '\0' : text::Lower(entry.Caption.substr(own + 1, 1)).front();
+        if (wanted != '\0' && taken.find(wanted) == std::string::npos) {
+            EXPECT_EQ(letter, wanted) << caption;
+        }
+        taken += letter;
     }
 }
 

@@ -55,7 +55,7 @@ bool Printed(RunningProgram& run, const std::string& text) {
 }
 
 void DrawBand(RunningProgram& run, PageId page, float from, float to) {
-    modInput::PageMouseDown(run.program, page, 1, 100, from);
+    modInput::PageMouseDown(run.program, 1, 100, from);
     modInput::PageMouseMove(run.program, page, 1, 12000, to);
     modInput::PageMouseUp(run.program, page, 1, 12000, to);
 }

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace {
 
 /// A window in which about a third of a page shows.
@@ -49,6 +51,30 @@ TEST(InView, ArrowsWithinTheTextDoToo) {
         run.typist.Press(key);
         EXPECT_TRUE(run.Shows(name)) << key;
     }
+}
+
+TEST(InView, AFieldGoesToTheLowerEdgeAndNearThePagesHeadToTheUpper) {
+    LowWindow run;
+    const auto places = [&](const FieldRef& field) {
+        const TextArea& area = modFields::Area(run.program, field);
+        modScroll::BringToEdge(run.program, field);
+        const float above = area.Top - static_cast<float>(run.program.main.VScroll1.Value);
+        return std::pair(above, run.program.main.ClientHeight - above - area.Height);
+    };
+    constexpr float kTwoRows = 900;
+    const auto [farAbove, justBelow] = places({PageId::frmP1, FieldKind::txt, 19});
+    EXPECT_GE(justBelow, 0);
+    EXPECT_LT(justBelow, kTwoRows);
+    EXPECT_GT(farAbove, kTwoRows);
+    run.program.main.ClientHeight = 9000; // the field stands higher than a window's height from the head
+    person::ResizeWindow(run.program);
+    const auto [justAbove, farBelow] = places({PageId::frmP1, FieldKind::txt, 0});
+    EXPECT_GE(justAbove, 0);
+    EXPECT_LT(justAbove, kTwoRows);
+    EXPECT_GT(farBelow, kTwoRows);
+    run.ScrollTo(4000);
+    modScroll::BringToEdge(run.program, {PageId::frmP2, FieldKind::txt, 0}); // not the page in front
+    EXPECT_EQ(run.program.main.VScroll1.Value, 4000);
 }
 
 TEST(InView, AKeyThatOnlyHoldsOrScrollsLeavesThePageAlone) {

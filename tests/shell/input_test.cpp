@@ -5,10 +5,13 @@
 #include "program/program.h"
 #include "program/windows.h"
 #include "shell/page_switch.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
 #include <gtest/gtest.h>
+
+#include <string_view>
 
 namespace {
 
@@ -111,7 +114,7 @@ TEST(Mouse, AClickFocusesAndKeepsTheCursorOfTheWidget) {
     typist.Click(PageId::frmP1, 2);
     typist.Type("Jane Roe");
     typist.Click(PageId::frmP1, 3);
-    modInput::FieldMouseDown(run.program, {PageId::frmP1, FieldKind::txt, 2}, 1, 0, 4, 0);
+    modInput::FieldMouseDown(run.program, {PageId::frmP1, FieldKind::txt, 2}, 1, 4, 0);
     EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 2}));
     EXPECT_EQ(run.Area(PageId::frmP1, 2).SelStart, 4);
 }
@@ -169,6 +172,109 @@ TEST(Mouse, AnAmountTakesANumberFromOutsideWholeOrNotAtAll) {
     EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "");
     modInput::Insert(run.program, amount, " 12.50 ", 0, modInput::By::Mouse);
     EXPECT_EQ(run.TextOf(PageId::frmP2, 33), "12.50");
+}
+
+TEST(Input, KeysThatAreStillHeldWhenAnotherFieldIsTypedIntoAreForgotten) {
+    RunningProgram run;
+    Typist typist(run.program);
+    const TypedKeys& typed = run.program.editing.Typed;
+    const auto hold = [&](int index, char letter, std::string_view text) {
+        const FieldRef field{PageId::frmP2, FieldKind::txt, index};
+        static_cast<void>(person::KeyDown(run.program, letter - 'a' + 'A', 0, 0, 0));
+        static_cast<void>(person::KeyPress(run.program, letter));
+        person::Edited(run.program, field, text, static_cast<int>(text.size()), 0);
+    };
+    typist.Click(PageId::frmP2, 3);
+    hold(3, 'a', "a");
+    hold(3, 'b', "ab");
+    EXPECT_TRUE(typed.Codes.test('A'));
+    EXPECT_TRUE(typed.Codes.test('B'));
+    typist.Click(PageId::frmP2, 5);
+    hold(5, 'c', "c");
+    EXPECT_EQ(typed.Field, (FieldRef{PageId::frmP2, FieldKind::txt, 5}));
+    EXPECT_TRUE(typed.Codes.test('C'));
+    EXPECT_FALSE(typed.Codes.test('A'));
+    EXPECT_FALSE(typed.Codes.test('B'));
+}
+
+TEST(Input, TheCaretsLabelFollowsWhicheverHandMovesIt) {
+    RunningProgram run;
+    const FieldRef field{PageId::frmP2, FieldKind::txt, 3};
+    Typist typist(run.program);
+    typist.Click(field);
+    typist.Type("ab cd ef");
+    const std::string& told = run.program.main.lblCurPos.Caption;
+    const auto at = [](int place) { return "Cursor Location = " + std::to_string(place); };
+    EXPECT_EQ(told, at(8));
+    person::FieldMouseDown(run.program, field, 1, 2, 0);
+    EXPECT_EQ(told, at(2));
+    person::FieldMouseUp(run.program, field, 5, 0);
+    EXPECT_EQ(told, at(5));
+    modInput::CursorMoved(run.program, field, 1, 2);
+    EXPECT_EQ(told, at(1));
+    person::KeyUp(run.program, keys::kLeft, 0, 4, 0);
+    EXPECT_EQ(told, at(4));
+    person::Edited(run.program, field, "ab cd efg", 9, 0);
+    EXPECT_EQ(told, at(9));
+    person::EditedWithoutKey(run.program, field, "ab", 2, 0);
+    EXPECT_EQ(told, at(2));
+    const FieldRef place{PageId::frmP1, FieldKind::txt, 8};
+    typist.Click(place);
+    typist.Type("Ab Cd");
+    EXPECT_EQ(told, at(5));
+    person::FieldDblClick(run.program, place, 4);
+    EXPECT_EQ(run.Area(PageId::frmP1, 8).SelLength, 2) << "the word is marked";
+    EXPECT_EQ(told, at(3));
+}
+
+TEST(Input, LabelsAndLogoGoWithTheMouseUntilItLetsGo) {
+    RunningProgram run;
+    run.program.format.SnapTwips = 180;
+    const PageId page = PageId::frmP1;
+    PageLabel& label = run.Label(page, 9);
+    const float left = label.Left;
+    modInput::LabelMouseDown(run.program, page, 9, 1, 10, 10);
+    EXPECT_TRUE(modInput::LabelMouseMove(run.program, page, 9, 190, 10));
+    EXPECT_EQ(label.Left, left + 180);
+    modInput::LabelMouseUp(run.program, page, 9);
+    EXPECT_EQ(run.program.format.PropLabelChanges[page][9].Left, left + 180);
+    EXPECT_FALSE(modInput::LabelMouseMove(run.program, page, 9, 910, 10));
+    modInput::LabelDblClick(run.program, page, 9);
+    EXPECT_EQ(label.BackColor, colors::kFocused);
+    PagePicture& logo = run.program.pages[page].pic;
+    logo.Left = 720;
+    modInput::LogoMouseDown(run.program, 1, 10, 10);
+    EXPECT_TRUE(modInput::LogoMouseMove(run.program, 190, 10));
+    modInput::LogoMouseUp(run.program);
+    EXPECT_EQ(run.program.format.LogoLeft, 900);
+    EXPECT_FALSE(modInput::LogoMouseMove(run.program, 910, 10));
+    modInput::LogoDblClick(run.program);
+    EXPECT_TRUE(logo.ToolTipText.starts_with(" Left = 900, Top = ")) << logo.ToolTipText;
+}
+
+TEST(Input, ASelectionByKeyGrowsFromWhereItBeganAndABlockOfAnotherHandFromItsTop) {
+    RunningProgram run;
+    Typist typist(run.program);
+    const auto expectRows = [&](int first, int last) {
+        for (int row = 5; row <= 15; ++row) {
+            EXPECT_EQ(run.Area(PageId::frmP2, row).BackColor == colors::kBlockSelected,
+                      row >= first && row <= last)
+                << row;
+        }
+    };
+    typist.Click(PageId::frmP2, 10);
+    typist.Press(keys::kUp, keys::kShiftState);
+    expectRows(9, 10);
+    typist.Press(keys::kUp, keys::kShiftState);
+    expectRows(8, 10);
+    typist.Press(keys::kDown, keys::kShiftState);
+    expectRows(9, 10);
+    typist.Press(keys::kDown, keys::kShiftState);
+    typist.Press(keys::kDown, keys::kShiftState);
+    expectRows(10, 11);
+    run.program.editing.Block.KeyAnchor = -1;
+    typist.Press(keys::kDown, keys::kShiftState);
+    expectRows(10, 12);
 }
 
 } // namespace

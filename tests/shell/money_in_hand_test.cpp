@@ -136,7 +136,7 @@ TEST(NoNumber, ACommaInABoxIsSeenNotDropped) {
 TEST(ExemptMark, ByTheMenuIsInThePrintedFigures) {
     Anns run;
     run.Amount(kSecond, 33, "100");
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     commands::Run(run.program, CommandId::mnuEditTextTaxExempt);
     EXPECT_EQ(Figures(run), (Texts{"100.00", "0.00", "0.00", "100.00", "", "100.00"}));
     EXPECT_EQ(Figures(run, PageId::frmP6_1), Figures(run));
@@ -148,7 +148,7 @@ TEST(ExemptMark, ByTheMenuIsInThePrintedFigures) {
 TEST(ExemptMark, GoesWithTheTextThatIsTakenAway) {
     Anns run;
     run.Amount(kSecond, 33, "5");
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     commands::Run(run.program, CommandId::mnuEditTextTaxExempt);
     run.typist.Click(kSecond, 33);
     run.typist.PutCursor(0, 4);
@@ -176,7 +176,7 @@ TEST(ExemptMark, SetOnAnEmptyAreaWaitsForTheAmount) {
     run.typist.Press(keys::kBackspace);
     run.typist.Click(kSecond, 34);
     run.typist.Click(kSecond, 33);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     commands::Run(run.program, CommandId::mnuEditTextTaxExempt);
     run.typist.Click(kSecond, 34);
     EXPECT_TRUE(run.Marked(kSecond, 33));
@@ -189,7 +189,7 @@ TEST(ExemptMark, SetOnAnEmptyAreaWaitsForTheAmount) {
 TEST(ExemptMark, OfAnEmptyAreaIsNotWrittenAndNotRead) {
     Anns run;
     run.typist.Click(kFirst, 20);
-    modBlocks::UpdateTextMenu(run.program);
+    modTextMenu::UpdateTextMenu(run.program);
     commands::Run(run.program, CommandId::mnuEditTextTaxExempt);
     run.Save();
     EXPECT_EQ(run.Slot(1730), Filled(""));

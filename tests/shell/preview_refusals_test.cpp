@@ -33,7 +33,7 @@ const std::set<std::string>& Editing() {
 
 TEST(PreviewRefusals, AreForTheCommandsThatEditAPageAndNoOthers) {
     RunningProgram run;
-    modPrint::TogglePreview(run.program);
+    modPreview::TogglePreview(run.program);
     std::set<std::string> refused;
     for (const commands::Entry& entry : commands::Table()) {
         if (commands::RefusedInPreview(run.program, entry.Id)) {
@@ -48,7 +48,7 @@ TEST(PreviewRefusals, EndWithThePreview) {
     for (const commands::Entry& entry : commands::Table()) {
         EXPECT_FALSE(commands::RefusedInPreview(run.program, entry.Id)) << entry.Name;
     }
-    modPrint::TogglePreview(run.program);
+    modPreview::TogglePreview(run.program);
     EXPECT_TRUE(commands::RefusedInPreview(run.program, CommandId::mnuEditTitles));
     modScroll::UpdatePageButtons(run.program, 3);
     EXPECT_FALSE(commands::RefusedInPreview(run.program, CommandId::mnuEditTitles));
@@ -56,7 +56,7 @@ TEST(PreviewRefusals, EndWithThePreview) {
 
 TEST(PreviewRefusals, SayWhatToDoFirst) {
     RunningProgram run;
-    modPrint::TogglePreview(run.program);
+    modPreview::TogglePreview(run.program);
     run.surroundings.questions.ExpectBox({"Please click \"Resume Editing\" first.", Buttons::Ok, ""},
                                          Answer::Ok);
     EXPECT_TRUE(commands::RefuseInPreview(run.program, CommandId::mnuManageEditor));

@@ -3,15 +3,18 @@
 #include "proposal/backup.h"
 #include "proposal/lifecycle.h"
 #include "proposal/proposal_save.h"
+#include "proposal/run_marker.h"
 #include "shell/closing.h"
 #include "shell/start_up.h"
 #include "shell/wiring.h"
+#include "support/failing_disk.h"
 #include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -258,6 +261,34 @@ TEST(Recovery, AProposalThatWasSavedInTheVeryMomentOfTheEndIsNotMentioned) {
     Program program(third.platform);
     third.questions.Expect("The proposal Ann has changes from ", Answer::No);
     runs.Start(program, third);
+}
+
+TEST(Recovery, AMarkerThatCannotBeWrittenIsNoneAndIsNotTakenAwayEither) {
+    RunningProgram run;
+    modRecovery::TakeMarkerAway(run.program);
+    EXPECT_FALSE(run.program.recovery.Marked);
+    EXPECT_FALSE(run.folder.Has("Running.txt"));
+    {
+        const FailingDisk disk{{FailingDisk::Call::Open, 1, ENOSPC, FailingDisk::kForever}};
+        modRecovery::SetMarker(run.program);
+    }
+    EXPECT_FALSE(run.program.recovery.Marked);
+    modRecovery::SetMarker(run.program);
+    EXPECT_TRUE(run.program.recovery.Marked);
+    EXPECT_TRUE(run.folder.Has("Running.txt"));
+}
+
+TEST(Recovery, ARunThatIsClosingAlreadyKeepsNothingTwice) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Ann");
+    run.program.main.Closing = true;
+    modClosing::KeepUnsaved(run.program);
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Ann.hef"));
+    run.program.main.Closing = false;
+    modClosing::KeepUnsaved(run.program);
+    EXPECT_TRUE(run.folder.Has("Proposals/Backup/Ann.hef"));
 }
 
 } // namespace

@@ -275,7 +275,7 @@ private:
         const float top =
             (page == PageId::frmP1 ? 9900.0F : 1800.0F) + 360.0F * static_cast<float>(Number(5)) - 50;
         const float right = Chance(60) ? 12200.0F : 9800.0F;
-        modInput::PageMouseDown(program_, page, 1, 100, top);
+        modInput::PageMouseDown(program_, 1, 100, top);
         modInput::PageMouseMove(program_, page, 1, right, top + 1200);
         modInput::PageMouseUp(program_, page, 1, right, top + 1200);
     }
@@ -306,7 +306,7 @@ private:
             }
         } else if (chance < 66) {
             Click(AnAmount());
-            modBlocks::UpdateTextMenu(program_);
+            modTextMenu::UpdateTextMenu(program_);
             Chance(60) ? Run(CommandId::mnuEditTextTaxExempt, "make exempt")
                        : Run(CommandId::mnuEditTextTaxable, "make taxable");
         } else if (chance < 69) {

@@ -31,6 +31,7 @@ namespace {
 
 enum class Do {
     Type,
+    Roll,
     Backspace,
     Delete,
     Key,
@@ -65,6 +66,8 @@ std::string Read(const Step& step) {
     switch (step.What) {
     case Do::Type:
         return "type \"" + step.Text + "\"";
+    case Do::Roll:
+        return "roll \"" + step.Text + "\"";
     case Do::Backspace:
         return "backspace";
     case Do::Delete:
@@ -160,6 +163,9 @@ void OnProgram(Pair& pair, const Step& step) {
     case Do::Type:
         pair.Hand.Type(step.Text);
         break;
+    case Do::Roll:
+        pair.Hand.Roll(step.Text[0], step.Text[1]);
+        break;
     case Do::Backspace:
         pair.Hand.Press(keys::kBackspace);
         break;
@@ -199,7 +205,7 @@ void OnProgram(Pair& pair, const Step& step) {
         if (program.main.PageInFront != step.Field.Page) {
             person::TurnTo(program, IndexOf(step.Field.Page));
         }
-        person::FieldMouseDown(program, step.Field, 2, 0, 0, 0);
+        person::FieldMouseDown(program, step.Field, 2, 0, 0);
         person::FieldMouseUp(program, step.Field, 0, 0);
         person::Choose(program, CommandId::mnuEditTextTaxExempt);
         break;
@@ -221,6 +227,9 @@ void OnReference(ReferenceFlow& flow, const Step& step) {
     switch (step.What) {
     case Do::Type:
         flow.Character(step.Text.front());
+        break;
+    case Do::Roll:
+        flow.Roll(step.Text[0], step.Text[1]);
         break;
     case Do::Backspace:
         flow.Backspace();
@@ -519,6 +528,16 @@ private:
         return std::string(1, "abcdeilmnortwABM"[Below(16)]);
     }
 
+    /// Two keys of their own, which can be down together.
+    [[nodiscard]] static bool MayRoll(std::string_view two) {
+        const auto plain = [](char character) {
+            return character == ' ' || std::isalpha(static_cast<unsigned char>(character)) != 0;
+        };
+        return two.size() == 2 && plain(two[0]) && plain(two[1]) &&
+               std::toupper(static_cast<unsigned char>(two[0])) !=
+                   std::toupper(static_cast<unsigned char>(two[1]));
+    }
+
     /// Clicks behind the text of a line and types how a term begins, in any case; then mostly a key that
     /// might take it.
     void BeginATerm(std::vector<Step>& steps) {
@@ -534,17 +553,24 @@ private:
             letter = static_cast<char>(look == 0   ? std::toupper(byte)
                                        : look == 1 ? std::tolower(byte)
                                                    : byte);
-            steps.push_back(
-                {.What = Do::Type, .Field = {}, .From = 0, .To = 0, .Text = std::string(1, letter)});
+        }
+        for (std::size_t at = 0; at < typed.size();) {
+            const std::size_t count = Number(3) == 0 && MayRoll(typed.substr(at, 2)) ? 2 : 1;
+            steps.push_back({.What = count == 2 ? Do::Roll : Do::Type,
+                             .Field = {},
+                             .From = 0,
+                             .To = 0,
+                             .Text = typed.substr(at, count)});
+            at += count;
         }
         if (Number(3) != 0) {
-            constexpr std::array kKeys{13, 13, 39, 45, 9, 40, 8, 46, 37, 36};
+            constexpr std::array kKeys{13, 13, 39, 45, 9, 40, 8, 46, 37, 36, 32};
             steps.push_back(
                 {.What = Do::Key, .Field = {}, .From = kKeys[Below(kKeys.size())], .To = 0, .Text = {}});
             const int key = steps.back().From;
             if (key == 8 || key == 46) {
                 steps.back().What = key == 8 ? Do::Backspace : Do::Delete;
-            } else if ((key == 13 || key == 39) && Number(3) == 0) {
+            } else if (key == 32 || ((key == 13 || key == 39) && Number(3) == 0)) {
                 steps.back().What = Do::TakeWithShift;
             }
         }

@@ -121,4 +121,30 @@ TEST(FolderLine, ShowsItselfInItsTip) {
     EXPECT_EQ(run.Main().lblDir.ToolTipText, "Current Folder = /home/acme/");
 }
 
+TEST(ToolButtons, OpenWhatTheirCommandsOpen) {
+    const auto opens = [](void (frmMain::*click)(), std::string_view window) {
+        RunningProgram run;
+        (frmMain(run.program).*click)();
+        return modWindows::Find(run.program, window) != nullptr;
+    };
+    EXPECT_TRUE(opens(&frmMain::imgOpen_MouseDown, "frmFile"));
+    EXPECT_TRUE(opens(&frmMain::imgSearch_Click, "frmSearch"));
+    EXPECT_TRUE(opens(&frmMain::cmdTaxRate_Click, "frmTax"));
+}
+
+TEST(ToolButtons, SaveAndSaveAsSaveTheProposal) {
+    RunningProgram run;
+    TypeJaneRoe(run);
+    run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
+    frmMain(run.program).imgSave_Click();
+    EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hef"));
+    run.surroundings.questions.ExpectInput("Saving File As...", "Second");
+    run.surroundings.questions.Expect("File was saved as Second.hef");
+    frmMain(run.program).imgSaveAs_Click();
+    EXPECT_TRUE(run.folder.Has("Proposals/Second.hef"));
+    run.surroundings.questions.Expect("SpellCheck Complete");
+    frmMain(run.program).imgSpellCheck_Click();
+    EXPECT_FALSE(run.surroundings.words.Word.Verbs.empty());
+}
+
 } // namespace

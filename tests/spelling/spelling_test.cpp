@@ -133,7 +133,7 @@ TEST(SpellingWindow, ShowsPageAreaTextWordAndSuggestions) {
     run.Fill(PageId::frmP2, 3, "White Chiars here");
     run.Start();
     const frmSpelling& window = run.Window();
-    EXPECT_EQ(window.lblArea.Caption, "Page 2, text area 3");
+    EXPECT_EQ(window.lblArea.Caption, "Page 2, text area 4");
     EXPECT_EQ(window.txtText.Text, "White Chiars here");
     EXPECT_EQ(window.txtText.SelStart, 6);
     EXPECT_EQ(window.txtText.SelLength, 6);
@@ -266,15 +266,15 @@ TEST(SpellingWindow, UndoPutsAnAreaBackThatWasDoneAlready) {
     run.Start();
     run.Window().cmdChange_Click(run.program);
     ASSERT_EQ(run.TextOf(PageId::frmP2, 3), "Chairs");
-    ASSERT_EQ(run.Window().lblArea.Caption, "Page 3, text area 0");
+    ASSERT_EQ(run.Window().lblArea.Caption, "Page 3, text area 1");
     run.Window().cmdUndo_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chiars");
     EXPECT_EQ(run.TextOf(PageId::frmP2, 36), "45.00");
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "45.00");
-    EXPECT_EQ(run.Window().lblArea.Caption, "Page 2, text area 3");
+    EXPECT_EQ(run.Window().lblArea.Caption, "Page 2, text area 4");
     EXPECT_EQ(run.Window().txtText.Text, "Chiars");
     run.Window().cmdIgnore_Click(run.program);
-    EXPECT_EQ(run.Window().lblArea.Caption, "Page 3, text area 0");
+    EXPECT_EQ(run.Window().lblArea.Caption, "Page 3, text area 1");
     EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chiars");
 }
 
@@ -289,7 +289,7 @@ TEST(SpellingWindow, UndoOfChangeAllTakesTheOthersBackWithIt) {
     run.Window().cmdUndo_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chiars");
     EXPECT_EQ(run.TextOf(PageId::frmP2, 4), "Chiars");
-    EXPECT_EQ(run.Window().lblArea.Caption, "Page 2, text area 3");
+    EXPECT_EQ(run.Window().lblArea.Caption, "Page 2, text area 4");
 }
 
 TEST(SpellingWindow, CancelKeepsWhatWasChangedInTheAreaToo) {
@@ -309,7 +309,7 @@ TEST(SpellingWindow, TellsOfAnAreaThatBecameTooLong) {
     run.Start();
     run.Window().txtChangeTo.Text = std::string(90, 'x');
     run.Window().cmdChange_Click(run.program);
-    EXPECT_EQ(run.Window().lblTooLong.Caption, "Page 2, text area 3 is now longer than its place.");
+    EXPECT_EQ(run.Window().lblTooLong.Caption, "Page 2, text area 4 is now longer than its place.");
 }
 
 TEST(SpellingWindow, TellsOfEveryAreaThatBecameTooLongByItself) {
@@ -320,8 +320,8 @@ TEST(SpellingWindow, TellsOfEveryAreaThatBecameTooLongByItself) {
     run.Start();
     run.Window().txtChangeTo.Text = std::string(90, 'x');
     run.Window().cmdChangeAll_Click(run.program);
-    EXPECT_EQ(run.Window().lblTooLong.Caption, "Page 2, text area 3 is now longer than its place.\r\n"
-                                               "Page 2, text area 4 is now longer than its place.");
+    EXPECT_EQ(run.Window().lblTooLong.Caption, "Page 2, text area 4 is now longer than its place.\r\n"
+                                               "Page 2, text area 5 is now longer than its place.");
     run.ExpectEnd();
     run.Window().cmdIgnore_Click(run.program);
     EXPECT_EQ(run.program.main.Notice, "") << "it was told already";
@@ -334,7 +334,7 @@ TEST(SpellingWindow, TheLastAreaThatBecameTooLongIsToldInTheStrip) {
     run.Window().txtChangeTo.Text = std::string(90, 'x');
     run.ExpectEnd();
     run.Window().cmdChange_Click(run.program);
-    EXPECT_EQ(run.program.main.Notice, "Page 2, text area 3 is now longer than its place.");
+    EXPECT_EQ(run.program.main.Notice, "Page 2, text area 4 is now longer than its place.");
     EXPECT_EQ(run.Area(PageId::frmP2, 3).BackColor, colors::kOverLimit);
 }
 
@@ -424,6 +424,49 @@ TEST(SpellingWindow, WithoutADictionaryThereIsNoCheck) {
     run.surroundings.dictionaries.Installed.clear();
     run.surroundings.questions.Expect("Cannot find Microsoft Word");
     run.Start();
+}
+
+TEST(SpellingWindow, ASuggestionThatIsChosenIsWhatTheWordChangesTo) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Start();
+    frmSpelling& window = run.Window();
+    window.lstSuggestions_Click(run.program, 1);
+    EXPECT_EQ(window.lstSuggestions.ListIndex, 1);
+    EXPECT_EQ(window.txtChangeTo.Text, "Choirs");
+    for (const int nothing : {-1, 2}) {
+        window.lstSuggestions_Click(run.program, nothing);
+        EXPECT_EQ(window.lstSuggestions.ListIndex, 1);
+        EXPECT_EQ(window.txtChangeTo.Text, "Choirs");
+    }
+}
+
+TEST(SpellingWindow, UndoTakesBackWhatWasToldOfALength) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Fill(PageId::frmP3, 0, "Tabels");
+    run.Start();
+    run.Window().txtChangeTo.Text = std::string(90, 'x');
+    run.Window().cmdChange_Click(run.program);
+    ASSERT_NE(run.Window().lblTooLong.Caption, "");
+    run.Window().cmdUndo_Click(run.program);
+    EXPECT_EQ(run.Window().lblTooLong.Caption, "");
+    EXPECT_EQ(run.program.spelling.TooLong, "");
+}
+
+TEST(SpellingWindow, AnAmountThatIsSpeltOutCountsOnceItIsANumber) {
+    OwnCheck run;
+    modFields::SetText(run.program, {PageId::frmP2, FieldKind::txt, 36}, "Chiars");
+    run.Fill(PageId::frmP3, 0, "Tabels");
+    run.Start();
+    run.Window().txtChangeTo.Text = "45";
+    run.Window().cmdChange_Click(run.program);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 45);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "45.00");
+    EXPECT_EQ(run.Main().lblTotal.Caption, "Running Sub-Total = $ 45.00");
+    run.Window().cmdUndo_Click(run.program);
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP2], 0);
+    EXPECT_EQ(run.Main().lblTotal.Caption, "Running Sub-Total = $ 0.00");
 }
 
 } // namespace

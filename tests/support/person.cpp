@@ -74,9 +74,8 @@ void Insert(Program& program, const FieldRef& field, std::string_view text, int 
     modInput::Insert(program, field, text, refused, by == By::Key ? modInput::By::Key : modInput::By::Mouse);
 }
 
-void FieldMouseDown(Program& program, const FieldRef& field, int button, int shift, int selStart,
-                    int selLength) {
-    modInput::FieldMouseDown(program, field, button, shift, selStart, selLength);
+void FieldMouseDown(Program& program, const FieldRef& field, int button, int selStart, int selLength) {
+    modInput::FieldMouseDown(program, field, button, selStart, selLength);
 }
 
 void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int selLength) {

@@ -37,8 +37,7 @@ void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view 
 enum class By { Key, Mouse };
 void Insert(Program& program, const FieldRef& field, std::string_view text, int refused, By by);
 
-void FieldMouseDown(Program& program, const FieldRef& field, int button, int shift, int selStart,
-                    int selLength);
+void FieldMouseDown(Program& program, const FieldRef& field, int button, int selStart, int selLength);
 void FieldMouseUp(Program& program, const FieldRef& field, int selStart, int selLength);
 void FieldDblClick(Program& program, const FieldRef& field, int position);
 [[nodiscard]] bool TextMenuOpens(const Program& program);

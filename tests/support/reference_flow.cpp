@@ -283,19 +283,40 @@ bool ReferenceFlow::HasBoxes(const FieldRef& field) const {
 // ---- what a person does
 // -------------------------------------------------------------------------------------
 
+namespace {
+
+int CodeOf(char character) {
+    const unsigned char byte = static_cast<unsigned char>(character);
+    return std::isalnum(byte) != 0 || byte == ' ' ? std::toupper(byte) : 190;
+}
+
+} // namespace
+
 void ReferenceFlow::Character(char character) {
+    if (Focus) {
+        KeyUp(Press(CodeOf(character), character));
+    }
+}
+
+void ReferenceFlow::Roll(char first, char second) {
     if (!Focus) {
         return;
     }
-    const unsigned char byte = static_cast<unsigned char>(character);
-    const int code = std::isalnum(byte) != 0 || byte == ' ' ? std::toupper(byte) : 190;
-    KeyDown(code);
-    std::optional<FieldRef> typedInto;
+    const Pressed early = Press(CodeOf(first), first);
+    const Pressed late = Press(CodeOf(second), second);
+    KeyUp(early);
+    KeyUp(late);
+}
+
+ReferenceFlow::Pressed ReferenceFlow::Press(int code, char character, Held held) {
+    KeyDown(code, held);
+    Pressed key{.Code = code, .Into = {}, .Behind = 0};
     if (KeyPress(character)) {
-        typedInto = Focus;
+        key.Into = Focus;
+        key.Behind = At(*Focus).Start + 1;
         Replace(std::string(1, character));
     }
-    KeyUp(code, typedInto);
+    return key;
 }
 
 void ReferenceFlow::Backspace() {
@@ -523,6 +544,10 @@ bool ReferenceFlow::CompletionStands() const {
 }
 
 void ReferenceFlow::TakeWithShift(int keyCode) {
+    if (keyCode == ' ') {
+        KeyUp(Press(keyCode, ' ', Held::Shift));
+        return;
+    }
     KeyDown(keyCode, Held::Shift);
     KeyUp(keyCode);
 }
@@ -555,9 +580,11 @@ void ReferenceFlow::KeyDown(int keyCode, Held held) {
     }
     CursorPos = At(field).Start;
     lastKey_ = std::string(1, static_cast<char>(keyCode));
-    if (stands && (keyCode == kRightKey || keyCode == kInsertKey || keyCode == kEnterKey)) {
+    const bool shifted = held == Held::Shift;
+    if (stands && (keyCode == kRightKey || keyCode == kInsertKey || keyCode == kEnterKey ||
+                   (keyCode == ' ' && shifted))) {
         TakeWord(field.Page);
-        if (keyCode == kEnterKey || held == Held::Shift) {
+        if (keyCode == kEnterKey || (keyCode == kRightKey && shifted)) {
             PlacePrice(field, WordOf(field.Page).Amount);
         }
     }
@@ -651,7 +678,7 @@ bool ReferenceFlow::KeyPress(char character) {
     return character != 13 && character != 9;
 }
 
-void ReferenceFlow::KeyUp(int keyCode, const std::optional<FieldRef>& typedInto) {
+void ReferenceFlow::KeyUp(const Pressed& key) {
     if (!Focus || IsBox(*Focus)) {
         return;
     }
@@ -662,7 +689,7 @@ void ReferenceFlow::KeyUp(int keyCode, const std::optional<FieldRef>& typedInto)
     }
     currentWidth_ = field.Width;
     field.Back = Over(field, std::stoi(field.Limit)) ? kRed : kCyan;
-    CompletionKeyUp(keyCode, typedInto == Focus);
+    CompletionKeyUp(key);
 }
 
 // ---- text
@@ -1103,7 +1130,9 @@ void ReferenceFlow::TakeWord(PageId page) {
     CursorPos = field.Start;
 }
 
-void ReferenceFlow::CompletionKeyUp(int keyCode, bool typed) {
+void ReferenceFlow::CompletionKeyUp(const Pressed& key) {
+    const int keyCode = key.Code;
+    const bool typed = key.Into && key.Into == Focus;
     const FieldRef here = *Focus;
     Field& field = At(here);
     const bool atEnd = field.Start == Len(field.Text);
@@ -1112,12 +1141,15 @@ void ReferenceFlow::CompletionKeyUp(int keyCode, bool typed) {
         return;
     }
     Word& word = WordOf(here.Page);
-    if (CursorPos == 1) {
+    // A key let go late begins the word that its own character began, unless a later one is under way.
+    const int behind = typed && key.Behind < CursorPos ? key.Behind : CursorPos;
+    const bool overtaken = word.Under && behind < word.Start && word.Start <= CursorPos;
+    if (CursorPos == 1 || (behind == 1 && !overtaken)) {
         word.Under = true;
         word.Start = 0;
-    } else if (keyCode == ' ') {
+    } else if (keyCode == ' ' && !overtaken) {
         word.Under = true;
-        word.Start = CursorPos;
+        word.Start = behind;
     }
     if (!typed || !atEnd || field.Length != 0 || !word.Under || !IsLine(here.Page, here.Index)) {
         return;

@@ -53,11 +53,12 @@ public:
 
     // What a person does.
     void Character(char character);
+    void Roll(char first, char second); ///< the first key is let go after the second is pressed
     void Backspace();
     void Delete();
     void Key(int keyCode); ///< a key that enters nothing
     [[nodiscard]] bool CompletionStands() const;
-    void TakeWithShift(int keyCode);    ///< Right or Enter with Shift while a completion stands
+    void TakeWithShift(int keyCode);    ///< Right, Enter or the blank with Shift while a completion stands
     void Commit(std::string_view text); ///< by an input method
     void PasteByKey(std::string_view clipboard);
     void PasteByMouse(const FieldRef& field, int at, std::string_view text);
@@ -104,8 +105,15 @@ private:
     void KeyDown(int keyCode, Held held = Held::Nothing);
     void ClearPlaceholder();
     [[nodiscard]] bool KeyPress(char character);
-    /// `typedInto` is the field into which the key being let go has put a character.
-    void KeyUp(int keyCode = 0, const std::optional<FieldRef>& typedInto = std::nullopt);
+    /// A key that is down: the field into which it has put a character, and the place behind that.
+    struct Pressed {
+        int Code = 0;
+        std::optional<FieldRef> Into;
+        int Behind = 0;
+    };
+    [[nodiscard]] Pressed Press(int code, char character, Held held = Held::Nothing);
+    void KeyUp(const Pressed& key);
+    void KeyUp(int keyCode = 0) { KeyUp(Pressed{keyCode, std::nullopt, 0}); }
     struct Word {
         bool Active = false; ///< a completion stands
         bool Under = false;  ///< a word is under way
@@ -115,7 +123,7 @@ private:
     [[nodiscard]] Word& WordOf(PageId page) { return words_[static_cast<std::size_t>(IndexOf(page))]; }
     void Settle(PageId page);
     void TakeWord(PageId page);
-    void CompletionKeyUp(int keyCode, bool typed);
+    void CompletionKeyUp(const Pressed& key);
     void PlacePrice(const FieldRef& line, const std::string& amount);
     void TypedAndLeft(const FieldRef& field, const std::string& figure);
     void BoxKeyDown(int keyCode);

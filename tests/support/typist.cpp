@@ -84,7 +84,7 @@ void Typist::Click(const FieldRef& field) {
     }
     TextArea& area = modFields::Area(program_, field);
     const int end = static_cast<int>(area.Text.size());
-    modInput::FieldMouseDown(program_, field, 1, 0, end, 0);
+    modInput::FieldMouseDown(program_, field, 1, end, 0);
     modInput::FieldMouseUp(program_, field, end, 0);
 }
 
@@ -138,7 +138,8 @@ void Typist::KeyDownAndCharacter(int keyCode, int keyAscii, int shift) {
 
 void Typist::Hold(int keyCode, int shift) {
     int keyAscii = 0;
-    if (keyCode == keys::kEnter || keyCode == keys::kTab || keyCode == keys::kBackspace) {
+    if (keyCode == keys::kEnter || keyCode == keys::kTab || keyCode == keys::kBackspace ||
+        keyCode == keys::kBlank) {
         keyAscii = keyCode;
     }
     KeyDownAndCharacter(keyCode, keyAscii, shift);
@@ -146,6 +147,10 @@ void Typist::Hold(int keyCode, int shift) {
 
 void Typist::Press(int keyCode, int shift) {
     Hold(keyCode, shift);
+    LetGo(keyCode, shift);
+}
+
+void Typist::LetGo(int keyCode, int shift) {
     Line line;
     if (FocusedLine(program_, line)) {
         modInput::KeyUp(program_, keyCode, shift, line.SelStart, line.SelLength);
@@ -156,11 +161,15 @@ void Typist::Type(std::string_view text) {
     for (const char character : text) {
         const int keyCode = KeyCodeOf(character);
         KeyDownAndCharacter(keyCode, static_cast<unsigned char>(character), 0);
-        Line line;
-        if (FocusedLine(program_, line)) {
-            modInput::KeyUp(program_, keyCode, 0, line.SelStart, line.SelLength);
-        }
+        LetGo(keyCode, 0);
     }
+}
+
+void Typist::Roll(char first, char second) {
+    KeyDownAndCharacter(KeyCodeOf(first), static_cast<unsigned char>(first), 0);
+    KeyDownAndCharacter(KeyCodeOf(second), static_cast<unsigned char>(second), 0);
+    LetGo(KeyCodeOf(first), 0);
+    LetGo(KeyCodeOf(second), 0);
 }
 
 void Typist::PutCursor(int selStart, int selLength) {
@@ -216,7 +225,7 @@ void Typist::Drag(const FieldRef& field, int from, int to) {
     const TextArea& area = modFields::Area(program_, field);
     const int length = static_cast<int>(area.Text.size());
     const int press = std::clamp(from, 0, length);
-    modInput::FieldMouseDown(program_, field, 1, 0, press, 0);
+    modInput::FieldMouseDown(program_, field, 1, press, 0);
     if (program_.main.Focus != field) {
         return; // nothing there to press on
     }

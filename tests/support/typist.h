@@ -17,6 +17,8 @@ public:
     void Click(PageId page, int txtIndex) { Click({page, FieldKind::txt, txtIndex}); }
     /// Types characters, each with its own key.
     void Type(std::string_view text);
+    /// Two characters in quick succession: the first key is let go after the second is pressed.
+    void Roll(char first, char second);
     /// A key without a character: keys::kEnter, kTab, arrows, kBackspace, kDelete, F-keys.
     void Press(int keyCode, int shift = 0);
     /// Key down only, as when a key is held; no key up.
@@ -36,6 +38,7 @@ public:
     void DoubleClick(const FieldRef& field);
 
 private:
+    void LetGo(int keyCode, int shift);
     void KeyDownAndCharacter(int keyCode, int keyAscii, int shift);
     Program& program_;
 };

@@ -468,6 +468,64 @@ TEST(Completion, LettersTypedInQuickSuccessionCompleteAtTheFirstRelease) {
     EXPECT_EQ(run.Selected(), "ir covers");
 }
 
+/// Letters whose keys are let go after the next one is pressed.
+struct QuickHand {
+    Typing& Run;
+    void Down(char letter) const {
+        const TextArea& area = Run.Area(kPage, 0);
+        EXPECT_EQ(person::KeyDown(Run.program, KeyOf(letter), 0, area.SelStart, area.SelLength), Taken::No);
+        EXPECT_EQ(person::KeyPress(Run.program, letter), letter);
+        std::string text = Run.Text();
+        text.replace(static_cast<std::size_t>(area.SelStart), static_cast<std::size_t>(area.SelLength), 1,
+                     letter);
+        person::Edited(Run.program, {kPage, FieldKind::txt, 0}, text, area.SelStart + 1, 0);
+    }
+    void Up(char letter) const {
+        const TextArea& area = Run.Area(kPage, 0);
+        person::KeyUp(Run.program, KeyOf(letter), 0, area.SelStart, area.SelLength);
+    }
+    static int KeyOf(char letter) { return letter == ' ' ? keys::kBlank : letter - 32; }
+};
+
+TEST(Completion, AWordBeginsWithALetterWhoseKeyIsLetGoLate) {
+    for (const std::string_view order : {"ch", "hc"}) {
+        Typing run("Chair Covers");
+        const QuickHand hand{run};
+        hand.Down('c');
+        hand.Down('h');
+        hand.Up(order[0]);
+        hand.Up(order[1]);
+        run.hand.Type("a");
+        EXPECT_EQ(run.Text(), "chair covers") << order;
+        EXPECT_EQ(run.Selected(), "ir covers") << order;
+    }
+}
+
+TEST(Completion, AWordBeginsBehindABlankWhoseKeyIsLetGoLate) {
+    for (const std::string_view order : {" c", "c "}) {
+        Typing run("Hair pins\r\nChair Covers");
+        run.hand.Type("ten");
+        const QuickHand hand{run};
+        hand.Down(' ');
+        hand.Down('c');
+        hand.Up(order[0]);
+        hand.Up(order[1]);
+        run.hand.Type("hai");
+        EXPECT_EQ(run.Text(), "ten chair covers") << order;
+    }
+}
+
+TEST(Completion, AKeyLetGoLateDoesNotGoBackToAnEarlierWord) {
+    Typing run("Chair Covers\r\nA chapel");
+    const QuickHand hand{run};
+    hand.Down('a');
+    hand.Down(' ');
+    hand.Up(' ');
+    hand.Up('a');
+    run.hand.Type("cha");
+    EXPECT_EQ(run.Text(), "a chair covers");
+}
+
 TEST(Completion, DeleteAndBackspaceTakeItAwayAndDoNotBringItBack) {
     for (const int key : {keys::kDelete, keys::kBackspace}) {
         Typing run("Chair Covers");

@@ -3,6 +3,7 @@
 #include "program/keys.h"
 #include "support/person.h"
 #include "support/typist.h"
+#include "terms/area_terms.h"
 #include "terms/open_list.h"
 
 #include <gtest/gtest.h>
@@ -305,6 +306,85 @@ TEST(TermsWindow, StartsMinimisedWhereTheSettingsSaySo) {
     EXPECT_TRUE(window->Minimised);
     mainWindowGets(WindowState::Maximised);
     EXPECT_FALSE(window->Minimised) << "it went with the main window and comes back with it";
+}
+
+TEST(Lists, WhicheverWayAnotherOneComesNoRowOfItIsChosenAndItsTermsShow) {
+    TermsRun run("Chair");
+    WriteLists(run);
+    frmFUT& window = run.List();
+    const auto expectTerms = [&](const char* after) {
+        EXPECT_EQ(window.lstFUT.ListIndex, -1) << after;
+        EXPECT_TRUE(window.lstFUT.Visible) << after;
+        EXPECT_FALSE(window.lstMoreFUT.Visible) << after;
+        EXPECT_TRUE(window.mnuFileDefaultFUT.Enabled) << after;
+        window.lstFUT.ListIndex = 0;
+        window.mnuFileShowAll_Click(run.program);
+        EXPECT_EQ(window.lstMoreFUT.ListIndex, -1);
+    };
+    window.lstFUT.ListIndex = 0;
+    window.mnuFileShowAll_Click(run.program);
+    run.surroundings.questions.ExpectInput("Starting New Frequent Terms File", "Tents");
+    window.mnuFileNewFUT_Click(run.program);
+    expectTerms("a new one");
+    window.lstMoreFUT_Move(0);
+    window.lstMoreFUT_Click(run.program);
+    expectTerms("an opened one");
+    window.lstMoreFUT_Move(2);
+    run.surroundings.questions.Expect("Delete the list Tents", Answer::Yes);
+    window.mnuFileDelete_Click(run.program);
+    expectTerms("a deleted one");
+    run.surroundings.questions.ExpectInput("Starting New Frequent Terms File", "");
+    window.mnuFileNewFUT_Click(run.program);
+    EXPECT_TRUE(window.lstMoreFUT.Visible) << "no name, no other list";
+    EXPECT_EQ(window.lstFUT.ListIndex, 0);
+    for (const int nothing : {-1, 3}) {
+        window.lstMoreFUT_Move(nothing);
+        EXPECT_EQ(window.lstMoreFUT.ListIndex, -1);
+    }
+}
+
+TEST(Lists, ALineThatTheListDoesNotHoldIsReplacedByNothingThoughItWasNotReadYet) {
+    TermsRun run("Chair");
+    WriteLists(run);
+    modTerms::OpenList(run.program, "Catering.fut");
+    run.List().Form_Cancel(run.program);
+    run.program.run.ACEnabled = false;
+    modTerms::OpenList(run.program, "Default Terms.fut");
+    EXPECT_TRUE(modTerms::ReplaceTerm(run.program, {"Soup"}, "Broth"));
+    EXPECT_EQ(run.OnDisk(), "Chair");
+}
+
+TEST(Lists, EscapeLeavesTheListOfListsAndThenTheWindow) {
+    TermsRun run("Chair");
+    frmFUT& window = run.List();
+    window.mnuFileShowAll_Click(run.program);
+    run.program.main.BringUp = false;
+    window.Form_Escape(run.program);
+    EXPECT_FALSE(window.lstMoreFUT.Visible);
+    EXPECT_TRUE(window.lstFUT.Visible);
+    for (const CommandButton& button : window.cmdOpt) {
+        EXPECT_TRUE(button.Enabled);
+    }
+    for (const CommandButton& button : window.cmdCase) {
+        EXPECT_TRUE(button.Enabled);
+    }
+    EXPECT_FALSE(run.program.main.BringUp);
+    window.Form_Escape(run.program);
+    EXPECT_TRUE(run.program.main.BringUp);
+}
+
+TEST(TermsWindow, ShowsAtOnceWhatAnAreaAddsAndTakesAway) {
+    TermsRun run("Chair");
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 3);
+    typist.Type("bench");
+    typist.PutCursor(0, 5);
+    modTerms::AddTermFromArea(run.program);
+    EXPECT_EQ(run.InMemory(), "Chair|bench|");
+    run.List().lstFUT.ListIndex = 1;
+    modTerms::mnuEditTextDeleteFUT_Click(run.program);
+    EXPECT_EQ(run.InMemory(), "Chair|");
+    EXPECT_EQ(run.List().lstFUT.ListIndex, 0) << "the row that was chosen has gone";
 }
 
 } // namespace

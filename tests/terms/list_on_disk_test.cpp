@@ -120,9 +120,9 @@ TEST(UnreadableList, IsNeverWrittenAndIsThereAgainWhenItIsOpenedAgain) {
     expect();
     EXPECT_FALSE(modTerms::AddTerm(run.program, "Chair"));
     expect();
-    EXPECT_FALSE(modTerms::RemoveTerm(run.program, "Arch"));
+    EXPECT_FALSE(modTerms::RemoveTerm(run.program, {"Arch"}));
     expect();
-    EXPECT_FALSE(modTerms::ReplaceTerm(run.program, "Arch", "Arches"));
+    EXPECT_FALSE(modTerms::ReplaceTerm(run.program, {"Arch"}, "Arches"));
     for (const LetterCase to : {LetterCase::Lower, LetterCase::Proper, LetterCase::Upper}) {
         expect();
         modTerms::ChangeCase(run.program, to);
@@ -157,7 +157,7 @@ TEST(ChangedList, AnEditOfALineThatIsGoneMeanwhileIsAddedAtTheEnd) {
     TermsRun run(kBefore);
     run.folder.Write("Proposals/Default Terms.fut", "Arch\r\nTheirs");
     run.surroundings.questions.Expect("changed by another program", Answer::No);
-    EXPECT_TRUE(modTerms::ReplaceTerm(run.program, "Table", "Table, round [80]"));
+    EXPECT_TRUE(modTerms::ReplaceTerm(run.program, {"Table"}, "Table, round [80]"));
     EXPECT_EQ(run.OnDisk(), "Arch\r\nTheirs\r\nTable, round [80]");
 }
 

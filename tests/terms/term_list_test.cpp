@@ -88,9 +88,9 @@ TEST(TermList, IsFullAt32000AndStillReadAndRewrittenBeyond) {
     run.folder.Write("Proposals/Default Terms.fut", ManyTerms(40000));
     modTerms::ReadFrequentlyUsedTerms(run.program);
     EXPECT_EQ(run.program.terms.TermCount(), 40000);
-    EXPECT_TRUE(modTerms::RemoveTerm(run.program, "term 39999"));
+    EXPECT_TRUE(modTerms::RemoveTerm(run.program, {"term 39999"}));
     EXPECT_EQ(run.OnDisk(), ManyTerms(39999));
-    EXPECT_TRUE(modTerms::RemoveTerm(run.program, "term 39998"));
+    EXPECT_TRUE(modTerms::RemoveTerm(run.program, {"term 39998"}));
 }
 
 TEST(TermList, The32000thTermIsTaken) {
@@ -120,6 +120,28 @@ TEST(TermList, RemovingAndEditingNeedASelection) {
     EXPECT_EQ(run.OnDisk(), "Table");
 }
 
+TEST(TermList, OfEqualLinesTheChosenOneIsEditedAndRemoved) {
+    TermsRun run("Arch\r\nTable\r\nArch\r\nArch");
+    run.List().lstFUT_Select(run.program, 2);
+    run.List().cmdOpt_Click(run.program, 2);
+    auto& window = static_cast<frmEditFUT&>(*modWindows::Find(run.program, "frmEditFUT"));
+    window.txtEditFUT.Text = "Aisle";
+    window.cmdSave_Click(run.program);
+    EXPECT_EQ(run.OnDisk(), "Arch\r\nTable\r\nAisle\r\nArch");
+    run.List().lstFUT_Select(run.program, 3);
+    run.List().cmdOpt_Click(run.program, 3);
+    EXPECT_EQ(run.OnDisk(), "Arch\r\nTable\r\nAisle");
+}
+
+TEST(TermList, AChosenLineThatAnotherProgramHasMovedIsFoundByItsText) {
+    TermsRun run("Arch\r\nTable");
+    run.folder.Write("Proposals/Default Terms.fut", "Theirs\r\nArch\r\nTable");
+    run.surroundings.questions.ExpectBox(
+        {"This list was changed by another program. Overwrite it?", Buttons::YesNo, ""}, Answer::No);
+    EXPECT_TRUE(modTerms::ReplaceTerm(run.program, {"Table", 1}, "Tables"));
+    EXPECT_EQ(run.OnDisk(), "Theirs\r\nArch\r\nTables");
+}
+
 TEST(TermList, AChangeByAnotherProgramIsNotOverwrittenUnasked) {
     TermsRun run("Arch\r\nTable");
     run.folder.Write("Proposals/Default Terms.fut", "Arch\r\nTable\r\nTheirs");
@@ -132,7 +154,7 @@ TEST(TermList, AChangeByAnotherProgramIsNotOverwrittenUnasked) {
     run.folder.Write("Proposals/Default Terms.fut", "Theirs");
     run.surroundings.questions.ExpectBox(
         {"This list was changed by another program. Overwrite it?", Buttons::YesNo, ""}, Answer::Yes);
-    EXPECT_TRUE(modTerms::RemoveTerm(run.program, "Theirs"));
+    EXPECT_TRUE(modTerms::RemoveTerm(run.program, {"Theirs"}));
     EXPECT_EQ(run.OnDisk(), "Arch\r\nTable\r\nOurs");
 }
 
@@ -156,7 +178,7 @@ TEST(TermList, OneThatCouldNotBeReadIsNeverWritten) {
     run.surroundings.questions.ExpectBox({words, Buttons::Ok, ""}, Answer::Ok);
     EXPECT_FALSE(modTerms::AddTerm(run.program, "Table"));
     run.surroundings.questions.ExpectBox({words, Buttons::Ok, ""}, Answer::Ok);
-    EXPECT_FALSE(modTerms::RemoveTerm(run.program, "Table"));
+    EXPECT_FALSE(modTerms::RemoveTerm(run.program, {"Table"}));
     run.surroundings.questions.ExpectBox({words, Buttons::Ok, ""}, Answer::Ok);
     modTerms::ChangeCase(run.program, modTerms::LetterCase::Lower);
     EXPECT_TRUE(std::filesystem::is_directory(path));
@@ -174,7 +196,7 @@ TEST(TermList, AFolderThatIsGoneIsToldAndMemoryStays) {
     std::filesystem::rename(run.folder / "Proposals", run.folder / "Elsewhere");
     run.surroundings.questions.Expect("");
     run.surroundings.questions.Expect("Error encountered trying to remove term from list.");
-    EXPECT_FALSE(modTerms::RemoveTerm(run.program, "Table"));
+    EXPECT_FALSE(modTerms::RemoveTerm(run.program, {"Table"}));
     EXPECT_EQ(run.InMemory(), "Arch|Table|");
     EXPECT_NE(run.folder.Read("Error.log").find("SaveFrequentlyUsedTerms"), std::string::npos);
     std::filesystem::rename(run.folder / "Elsewhere", run.folder / "Proposals");

@@ -93,6 +93,7 @@ TEST(TermMatch, TheIndexAnswersAsTheWalkDoes) {
 TEST(TermMatch, ALongListIsIndexedAtTheFirstWord) {
     std::string bytes;
     std::vector<std::string> texts;
+    texts.reserve(100);
     for (int line = 0; line < 100; ++line) {
         texts.push_back("term " + std::to_string(line));
     }
