@@ -210,7 +210,9 @@ FormatSave SaveSteps(Program& program, const Name& name) {
         throw files::FileError(kSubscript, "Subscript out of range");
     }
     if (format.FormatMakeDefault) {
-        static_cast<void>(MakeDefault(program));
+        if (MakeDefault(program)) {
+            TellSaved(program, "Default format", path);
+        }
     }
     format.FormatOpen = true;
     program.document.WindowTitle = "Quillbrook - Format File = " + format.FormatName;

@@ -134,9 +134,12 @@ void LayHeading(Program& program) {
     for (const PageId page : kAllPages) {
         PageLabel& heading = program.pages[page].lbl[0];
         const std::size_t number = heading.Caption.rfind(kNumber);
-        if (page != PageId::frmP1 && number != std::string::npos) {
-            SetTitleWords(program, page, 0, heading,
-                          program.document.PageHeading + heading.Caption.substr(number));
+        if (page == PageId::frmP1 || number == std::string::npos) {
+            continue;
+        }
+        std::string words = program.document.PageHeading + heading.Caption.substr(number);
+        if (words != heading.Caption) {
+            SetTitleWords(program, page, 0, heading, std::move(words));
         }
     }
 }

@@ -9,6 +9,7 @@
 #include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
+#include "terms/list_files.h"
 
 #include <gtest/gtest.h>
 
@@ -131,6 +132,9 @@ TEST(SavedNotice, TellsWhatWasSavedAndWhere) {
               "Printer offsets saved: " + run.folder / "Proposals/PrinterOffsets.txt");
     person::Choose(run.program, CommandId::mnuOptSetDefaultFonts);
     EXPECT_EQ(run.program.main.Notice, "Settings saved: " + run.folder / "UserPreferences.txt");
+    run.surroundings.questions.ExpectInput("Starting New Frequent Terms File", "Barn");
+    modTerms::CreateNewFUTFile(run.program);
+    EXPECT_EQ(run.program.main.Notice, "Terms list saved: " + run.folder / "Proposals/Barn.fut");
     run.surroundings.questions.Expect("File was saved as ");
     person::Choose(run.program, CommandId::mnuFileSaveAsText);
     EXPECT_EQ(run.program.main.Notice, "Text saved: " + run.folder / "Proposals/Ann.txt");
