@@ -22,7 +22,7 @@ namespace modAddress {
 
 namespace {
 
-constexpr int kDateArea = 0;
+constexpr int kDateArea = 0, kNameArea = 2;
 
 struct AreaText {
     int Area;
@@ -101,6 +101,17 @@ void MergeDate(Program& program, const std::string& date) {
     Write(program, {kDateArea, date});
 }
 
+/// A proposal that has a file keeps it, also when it becomes another client's. As a person types that, they
+/// see the name above the page stay; here they look at another window.
+void TellThatTheFileKeepsItsName(Program& program, const std::string& before) {
+    const DocumentState& document = program.document;
+    const std::string now = AreaOf(program, kNameArea);
+    if (document.FileExists && now != before) {
+        program.main.Notice = "The client is now " + now + "; the file is still " + document.FileName +
+                              ". Save As gives the proposal another.";
+    }
+}
+
 } // namespace
 
 Merged MergeClient(Program& program, AddressWindow& window) {
@@ -108,16 +119,18 @@ Merged MergeClient(Program& program, AddressWindow& window) {
     const bool business = program.addresses.Book == AddressBook::Business;
     const std::string street = fields[2].empty() ? fields[1] : fields[1] + " - " + fields[2];
     // A company's first telephone stands where a person's second one does.
-    const std::vector<AreaText> values{{2, fields[0]},
+    const std::vector<AreaText> values{{kNameArea, fields[0]},
                                        {3, street},
                                        {4, fields[3]},
                                        {5, business ? std::string() : fields[4]},
                                        {6, business ? fields[4] : fields[5]},
                                        {7, fields[6]}};
+    const std::string before = AreaOf(program, kNameArea);
     if (Merge(program, window, values) == Merged::No) {
         return Merged::No;
     }
     MergeDate(program, fields[kDateField]);
+    TellThatTheFileKeepsItsName(program, before);
     return Merged::Yes;
 }
 

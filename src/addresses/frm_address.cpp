@@ -10,7 +10,7 @@
 #include "addresses/company_info.h"
 #include "program/program.h"
 #include "program/windows.h"
-#include "proposal/side_files.h"
+#include "proposal/rescued.h"
 
 #include <algorithm>
 #include <array>
@@ -82,7 +82,7 @@ void frmAddress::KeepUnsaved(Program& program) {
             lines += lblInfo[index].Caption + ": " + txt[index].Text + "\r\n";
         }
     }
-    modSideFile::KeepInBackup(program, "Unsaved Address.txt", lines);
+    modRescue::Keep(program, "Unsaved Address.txt", lines);
 }
 
 bool frmAddress::IsAvailable(const Program& program, Id id) const {

@@ -1,5 +1,6 @@
 #include "base/ansi.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -123,9 +124,12 @@ std::string ToUtf8(std::string_view text) {
 }
 
 std::optional<std::string> FromUtf8(std::string_view utf8) {
-    std::string text;
+    constexpr unsigned char kFirstBeyondAscii = 0x80;
+    const auto* plain =
+        std::find_if(utf8.begin(), utf8.end(), [](char byte) { return Byte(byte) >= kFirstBeyondAscii; });
+    std::string text(utf8.begin(), plain); // which is most of it, and often all
     text.reserve(utf8.size());
-    for (std::size_t at = 0; at < utf8.size();) {
+    for (std::size_t at = text.size(); at < utf8.size();) {
         const std::optional<char> byte = FromCodePoint(NextCodePoint(utf8, at));
         if (!byte) {
             return std::nullopt;

@@ -5,9 +5,16 @@
 #include "base/files.h"
 #include "base/guard.h"
 
+#include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <optional>
+#include <stop_token>
+#include <system_error>
+#include <thread>
+#include <utility>
+#include <vector>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -45,15 +52,16 @@ bool IsRegular(int folder, const dirent& entry) {
     return ::fstatat(folder, entry.d_name, &about, 0) == 0 && S_ISREG(about.st_mode);
 }
 
-/// False when it cannot be read.
-bool ReadBeginning(int folder, const char* name, std::size_t most, std::string& bytes) {
+/// Fills `bytes`, or cuts it to what there is. False when it cannot be read.
+bool ReadBeginning(int folder, const char* name, std::string& bytes) {
+    const std::size_t most = bytes.size();
+    std::size_t have = 0;
     // Should something else stand there by now, nothing waits for it.
     const int file = ::openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     if (file < 0) {
+        bytes.clear();
         return false;
     }
-    bytes.resize(most);
-    std::size_t have = 0;
     bool good = true;
     while (have < most) {
         const ssize_t count = ::read(file, bytes.data() + have, most - have);
@@ -69,6 +77,45 @@ bool ReadBeginning(int folder, const char* name, std::size_t most, std::string& 
     ::close(file);
     bytes.resize(have);
     return good;
+}
+
+struct Wanted {
+    std::string Native;
+    FileHead Head;
+};
+
+/// Reads the heads of files whose `Bytes` have the room for them. What `goOn` lets run between them may take
+/// its time; a large folder is read on by a second thread meanwhile, which touches nothing but the files that
+/// it takes. False when `goOn` has ended it.
+bool ReadHeads(int folder, std::vector<Wanted>& files, const std::function<bool()>& goOn) {
+    constexpr std::size_t kAtOnce = 4, kWorthAThread = 1000;
+    std::atomic<std::size_t> next{0};
+    const auto takeSome = [&] {
+        const std::size_t first = next.fetch_add(kAtOnce);
+        const std::size_t end = std::min(first + kAtOnce, files.size());
+        for (std::size_t at = first; at < end; ++at) {
+            Wanted& file = files[at];
+            file.Head.Readable = ReadBeginning(folder, file.Native.c_str(), file.Head.Bytes);
+        }
+        return end < files.size() && first < end;
+    };
+    std::jthread second; // ends and is waited for wherever this is left
+    if (files.size() >= kWorthAThread) {
+        try {
+            second = std::jthread([&](const std::stop_token& stop) {
+                while (!stop.stop_requested() && takeSome()) {
+                }
+            });
+        } catch (const std::system_error&) {
+            // no thread to be had: it takes longer
+        }
+    }
+    while (takeSome()) {
+        if (goOn && !goOn()) {
+            return false;
+        }
+    }
+    return true;
 }
 
 /// Null at the end alone: half a folder must not look like a whole one.
@@ -131,6 +178,7 @@ void ScanHeads(std::string_view folder, std::string_view ending, std::size_t mos
     }
     const OnLeaving close([listing] { ::closedir(listing); });
     const int handle = ::dirfd(listing);
+    std::vector<Wanted> wanted;
     while (const dirent* entry = NextIn(listing, folder)) {
         if (goOn && !goOn()) {
             return;
@@ -142,10 +190,18 @@ void ScanHeads(std::string_view folder, std::string_view ending, std::size_t mos
         if (!name || name->find('\\') != std::string::npos) {
             continue; // or it would read as a path
         }
-        FileHead head;
-        head.Name = std::move(*name);
-        head.Readable = most == 0 || ReadBeginning(handle, entry->d_name, most, head.Bytes);
-        if (!visit(std::move(head))) {
+        FileHead head{std::move(*name), std::string(most, '\0'), true};
+        if (most > 0) {
+            wanted.push_back({entry->d_name, std::move(head)});
+        } else if (!visit(std::move(head))) {
+            return;
+        }
+    }
+    if (!ReadHeads(handle, wanted, goOn)) {
+        return;
+    }
+    for (Wanted& file : wanted) {
+        if (!visit(std::move(file.Head))) {
             return;
         }
     }

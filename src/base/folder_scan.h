@@ -16,8 +16,9 @@ struct FileHead {
 };
 
 /// Visits the regular files whose names end so (given in lower case, meant without regard to it), in the
-/// folder's own order: one open, one read and one close each; nothing is opened for `most` 0. The visitor
-/// ends the scan with false, and so does `goOn`, which is asked at every name of the folder. Names that the
+/// folder's own order: one open, one read and one close each, done when the first is visited; nothing is
+/// opened for `most` 0. The visitor ends the scan with false, and so does `goOn`, which is asked at every
+/// name of the folder and every few files that are read. Names that the
 /// program's characters cannot hold are passed over. Throws FileError when the folder cannot be listed to its
 /// end.
 void ScanHeads(std::string_view folder, std::string_view ending, std::size_t most,

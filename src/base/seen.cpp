@@ -2,18 +2,26 @@
 
 #include "base/files.h"
 
+#include <algorithm>
+#include <cstring>
 #include <exception>
 
 namespace files {
 
 namespace {
 
+/// Every byte and its place count. Eight at a time: a file is looked at twice at each save.
 std::uint64_t SumOf(std::string_view bytes) {
-    // FNV-1a: every byte and its place count.
-    std::uint64_t sum = 14695981039346656037U;
-    constexpr std::uint64_t kPrime = 1099511628211U;
-    for (const char byte : bytes) {
-        sum = (sum ^ static_cast<unsigned char>(byte)) * kPrime;
+    constexpr std::uint64_t kStart = 14695981039346656037U, kPrime = 0x9E3779B97F4A7C15U;
+    constexpr unsigned kHalf = 32;
+    std::uint64_t sum = kStart;
+    while (!bytes.empty()) {
+        std::uint64_t word = 0;
+        const std::size_t count = std::min(bytes.size(), sizeof word);
+        std::memcpy(&word, bytes.data(), count);
+        bytes.remove_prefix(count);
+        sum = (sum ^ word) * kPrime;
+        sum ^= sum >> kHalf;
     }
     return sum;
 }

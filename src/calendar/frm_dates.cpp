@@ -15,6 +15,8 @@
 #include "proposal/proposal_open.h"
 #include "proposal/reset.h"
 
+#include <utility>
+
 namespace modCalendar {
 
 namespace {
@@ -54,6 +56,10 @@ void ViewEvents(Program& program, View view) {
     } else if (whole && !program.run.ProgramClosing) {
         modWindows::Show(program, std::make_unique<frmDates>());
     }
+}
+
+std::string Proposals(int count) {
+    return count == 1 ? "1 proposal" : std::to_string(count) + " proposals";
 }
 
 std::string Heading(const Program& program) {
@@ -135,9 +141,8 @@ void frmDates::Form_Follow(Program& program) {
     Entry("mnuOptUndoDelete").Enabled = !running && program.calendar.CanRestore;
     const int undated = program.calendar.Undated;
     lblUndated.Caption = undated == 0 ? ""
-                         : undated == 1
-                             ? "1 proposal has no date that can be read."
-                             : std::to_string(undated) + " proposals have no date that can be read.";
+                                      : modCalendar::Proposals(undated) + (undated == 1 ? " has" : " have") +
+                                            " no date that can be read.";
     lblUndated.ToolTipText.clear();
     for (const std::string& name : program.calendar.UndatedNames) {
         lblUndated.ToolTipText += (lblUndated.ToolTipText.empty() ? "" : "\r\n") + name;
@@ -148,9 +153,17 @@ void frmDates::Form_Follow(Program& program) {
 }
 
 void frmDates::TakeRows(Program& program) {
+    const std::vector<EventRow>& rows = program.calendar.Rows;
     lstDates.Clear();
-    for (const EventRow& row : program.calendar.Rows) {
-        lstDates.Add(row.Date + '\t' + row.File);
+    lstDates.Items.reserve(rows.size());
+    lstDates.Selected.reserve(rows.size());
+    for (const EventRow& row : rows) {
+        std::string words;
+        words.reserve(row.Date.size() + 1 + row.File.size());
+        words += row.Date;
+        words += '\t';
+        words += row.File;
+        lstDates.Add(std::move(words));
     }
     ShadedDay.reset();
     Form_Follow(program);
@@ -239,13 +252,13 @@ void frmDates::mnuOptDelete_Click(Program& program) {
     const int moved = modCalendar::MoveToBackup(program, SelectedFiles());
     // The notice stands although the list is made anew meanwhile, and nothing of this window is used behind
     // that.
-    lblNotice.Caption =
-        moved == 1 ? "1 proposal moved to Backup" : std::to_string(moved) + " proposals moved to Backup";
+    lblNotice.Caption = modCalendar::Proposals(moved) + " moved to Backup";
     modCalendar::RebuildShown(program);
 }
 
 void frmDates::mnuOptUndoDelete_Click(Program& program) {
-    if (modCalendar::RestoreFromBackup(program)) {
+    if (const std::optional<int> restored = modCalendar::RestoreFromBackup(program)) {
+        lblNotice.Caption = modCalendar::Proposals(*restored) + " restored";
         modCalendar::RebuildShown(program);
         return;
     }

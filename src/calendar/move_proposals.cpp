@@ -131,8 +131,8 @@ int MoveToBackup(Program& program, const std::vector<std::string>& fileNames) {
     return count;
 }
 
-bool RestoreFromBackup(Program& program) {
-    bool any = false;
+std::optional<int> RestoreFromBackup(Program& program) {
+    std::optional<int> restored;
     Guarded(program, "mnuOptUndoDelete_Click", [&] {
         const std::string backup = modFolders::BackupFolder(program);
         std::vector<Move> moves;
@@ -143,15 +143,15 @@ bool RestoreFromBackup(Program& program) {
                 return true;
             });
         }
-        any = !moves.empty();
-        if (!any) {
+        if (moves.empty()) {
             program.platform.questions.MsgBox("Nothing to restore.", Buttons::Ok, "");
             return;
         }
         std::vector<std::string> moved;
-        MoveAll(program, backup, modFolders::DataFolder(program), moves, "mnuOptUndoDelete_Click", moved);
+        restored =
+            MoveAll(program, backup, modFolders::DataFolder(program), moves, "mnuOptUndoDelete_Click", moved);
     });
-    return any;
+    return restored;
 }
 
 } // namespace modCalendar

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,8 +14,8 @@ namespace modCalendar {
 /// file any more when it is among them, and counts as changed. Reports as "mnuOptDelete_Click".
 [[nodiscard]] int MoveToBackup(Program& program, const std::vector<std::string>& fileNames);
 
-/// Moves every proposal that was moved away back to its name; says so when there is none. False then. Reports
-/// as "mnuOptUndoDelete_Click".
-[[nodiscard]] bool RestoreFromBackup(Program& program);
+/// Moves every proposal that was moved away back to its name. The number of those moved; nothing when there
+/// is none to be moved, which it says. Reports as "mnuOptUndoDelete_Click".
+[[nodiscard]] std::optional<int> RestoreFromBackup(Program& program);
 
 } // namespace modCalendar

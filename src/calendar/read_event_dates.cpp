@@ -1,6 +1,5 @@
 #include "calendar/read_event_dates.h"
 
-#include "base/ansi.h"
 #include "base/dates.h"
 #include "base/files.h"
 #include "base/folder_scan.h"
@@ -13,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <cstddef>
 #include <unordered_map>
 #include <utility>
 
@@ -107,30 +107,44 @@ private:
     std::unordered_map<int, WrittenDay> known_;
 };
 
-std::vector<EventRow> Listed(const Gathered& found, View view, float today, WrittenDays& days) {
-    std::vector<std::string> keys(found.Files.size());
-    std::vector<std::size_t> order;
-    order.reserve(found.Files.size());
+/// The listed entries of one day.
+struct DayOfEntries {
+    int Day = 0;
+    const WrittenDay* Written = nullptr;
+    std::vector<std::size_t> Entries;
+};
+
+/// By the day's key. Days are few beside proposals: the names are compared among those of one day alone.
+std::vector<DayOfEntries> ListedDays(const Gathered& found, View view, float today, WrittenDays& days) {
+    std::vector<DayOfEntries> listed;
+    std::unordered_map<int, std::size_t> places;
     for (std::size_t at = 0; at < found.Files.size(); ++at) {
-        if (found.Dated[at] && IsListed(view, found.Days[at], today)) {
-            const std::string& first = days.Of(found.Days[at]).Key;
-            keys[at].reserve(first.size() + found.Files[at].size());
-            keys[at] += first;
-            for (const char character : found.Files[at]) {
-                keys[at] += ansi::Upper(character);
-            }
-            order.push_back(at);
+        if (!found.Dated[at] || !IsListed(view, found.Days[at], today)) {
+            continue;
         }
+        const auto [place, isNew] = places.try_emplace(found.Days[at], listed.size());
+        if (isNew) {
+            listed.push_back({found.Days[at], &days.Of(found.Days[at]), {}});
+        }
+        listed[place->second].Entries.push_back(at);
     }
-    std::sort(order.begin(), order.end(), [&](std::size_t one, std::size_t other) {
-        const int compared = keys[one].compare(keys[other]);
-        return compared != 0 ? compared < 0 : found.Files[one] < found.Files[other];
+    std::sort(listed.begin(), listed.end(), [](const DayOfEntries& one, const DayOfEntries& other) {
+        return one.Written->Key < other.Written->Key;
     });
+    return listed;
+}
+
+std::vector<EventRow> Listed(const Gathered& found, View view, float today, WrittenDays& days) {
     std::vector<EventRow> rows;
-    rows.reserve(order.size());
-    for (const std::size_t at : order) {
-        const WrittenDay& day = days.Of(found.Days[at]);
-        rows.push_back({found.Days[at], day.Date, day.Weekday, found.Files[at]});
+    rows.reserve(found.Files.size());
+    for (DayOfEntries& day : ListedDays(found, view, today, days)) {
+        std::sort(day.Entries.begin(), day.Entries.end(), [&](std::size_t one, std::size_t other) {
+            const int compared = text::CompareNoCase(found.Files[one], found.Files[other]);
+            return compared != 0 ? compared < 0 : found.Files[one] < found.Files[other];
+        });
+        for (const std::size_t at : day.Entries) {
+            rows.push_back({day.Day, day.Written->Date, day.Written->Weekday, found.Files[at]});
+        }
     }
     return rows;
 }
@@ -159,7 +173,13 @@ void Take(Program& program, Gathered&& found) {
     for (std::size_t at = 0; at < found.Files.size(); ++at) {
         // The entry that held the bare name holds the row from now on.
         if (found.Dated[at]) {
-            found.Files[at].insert(0, days.Of(found.Days[at]).Date + '\t');
+            const std::string& date = days.Of(found.Days[at]).Date;
+            std::string row;
+            row.reserve(date.size() + 1 + found.Files[at].size());
+            row += date;
+            row += '\t';
+            row += found.Files[at];
+            found.Files[at] = std::move(row);
         } else {
             found.Files[at].clear();
         }

@@ -6,7 +6,7 @@
 #include "contract/contract_lines.h"
 #include "program/program.h"
 #include "program/windows.h"
-#include "proposal/side_files.h"
+#include "proposal/rescued.h"
 
 #include <algorithm>
 #include <limits>
@@ -321,7 +321,7 @@ bool frmEditor::MayLeave(Program& program, Leaving) {
 
 void frmEditor::KeepUnsaved(Program& program) {
     if (EditorDirty) {
-        modSideFile::KeepInBackup(program, program.document.BaseName + ".contract.txt", txtCharCount.Text());
+        modRescue::KeepOfProposal(program, ".contract.txt", txtCharCount.Text(), modRescue::Back::Told);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/proposal_save.h"
+#include "proposal/rescued.h"
 
 #include <vector>
 
@@ -133,7 +134,7 @@ void frmNotes::Form_Cancel(Program& program) {
 
 void frmNotes::KeepUnsaved(Program& program) {
     if (!Locked && FootnoteText != FootnoteSavedText) {
-        modSideFile::KeepInBackup(program, FootnoteFile(program), FootnoteText);
+        modRescue::KeepOfProposal(program, ".hxt", FootnoteText, modRescue::Back::Offered);
     }
 }
 

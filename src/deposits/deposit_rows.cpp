@@ -132,6 +132,15 @@ std::string AmountText(std::string_view typed) {
     return figure ? Shown(*figure) : std::string();
 }
 
+bool IsWholeHundredths(std::string_view typed) {
+    const std::size_t point = typed.find('.');
+    constexpr std::size_t kDecimals = 2;
+    if (point == std::string_view::npos || typed.size() - point - 1 <= kDecimals) {
+        return true;
+    }
+    return typed.find_first_of("123456789", point + 1 + kDecimals) == std::string_view::npos;
+}
+
 std::string Shown(Hundredths amount) {
     // Below zero the remainders are, too; the smallest value is never reached.
     const Hundredths size = amount < 0 ? -amount : amount;

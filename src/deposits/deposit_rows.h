@@ -27,6 +27,8 @@ using Hundredths = std::int64_t;
 
 /// "##,###,##0.00" of a figure as it was typed; empty when it is no figure.
 [[nodiscard]] std::string AmountText(std::string_view typed);
+/// False when a figure has more decimals than an amount is kept with.
+[[nodiscard]] bool IsWholeHundredths(std::string_view typed);
 [[nodiscard]] std::string Shown(Hundredths amount);
 
 [[nodiscard]] std::string MakeRow(std::string_view date, std::string_view currency, std::string_view amount);

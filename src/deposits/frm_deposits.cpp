@@ -10,6 +10,7 @@
 #include "program/program.h"
 #include "program/windows.h"
 #include "proposal/proposal_save.h"
+#include "proposal/rescued.h"
 
 #include <algorithm>
 #include <limits>
@@ -199,13 +200,10 @@ void frmDeposits::txtDate_LostFocus(Program& program) {
 }
 
 int frmDeposits::txtAmount_KeyPress(int keyAscii) {
-    const bool passes = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.' ||
+    // A comma dropped from 100,50 would leave 10050: it stays, and one that parts no thousands is told.
+    const bool passes = (keyAscii >= '0' && keyAscii <= '9') || keyAscii == '.' || keyAscii == ',' ||
                         keyAscii == keys::kBackspace || keyAscii == keys::kTab || keyAscii == keys::kEnter;
     return passes ? keyAscii : 0;
-}
-
-int frmDeposits::txtAmount_Keep(int keyAscii) {
-    return keyAscii == ',' ? keyAscii : txtAmount_KeyPress(keyAscii);
 }
 
 void frmDeposits::txtAmount_Enter(Program& program) {
@@ -236,7 +234,11 @@ frmDeposits::Added frmDeposits::AddOrReplace(Program& program) {
     }
     if (DepositAmountText.empty()) {
         Refuse(txtAmount, "txtAmount",
-               "This is no amount. Write it in digits with at most one point, as 1500.50.");
+               "This is no amount. Write it in digits with at most one point, as 1500.50 or 1,500.50.");
+        return Added::No;
+    }
+    if (!modDeposits::IsWholeHundredths(txtAmount.Text)) {
+        Refuse(txtAmount, "txtAmount", "An amount has two decimals at most. Write it as 1500.50.");
         return Added::No;
     }
     std::string row =
@@ -246,6 +248,7 @@ frmDeposits::Added frmDeposits::AddOrReplace(Program& program) {
     notAdded_ = false;
     if (!DepositEditing || !editedRow_) {
         lst.Add(std::move(row));
+        txtAmount.SelectAll(); // the text stays; the next amount replaces it
         Recompute(program);
         return Added::Yes;
     }
@@ -432,7 +435,8 @@ void frmDeposits::KeepUnsaved(Program& program) {
             modDeposits::MakeRow(DepositDateText, program.settings.CurrencySymbol, DepositAmountText));
     }
     if (DepositChanged || rows.size() != lst.Items.size()) {
-        modSideFile::KeepInBackup(program, DepositFile(program), modDeposits::MakeFile(txtName.Text, rows));
+        modRescue::KeepOfProposal(program, ".dep", modDeposits::MakeFile(txtName.Text, rows),
+                                  modRescue::Back::Offered);
     }
 }
 

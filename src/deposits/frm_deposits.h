@@ -53,10 +53,8 @@ public:
     void txtAmount_Change(Program& program, std::string_view text);
     /// Enter in the date.
     void txtDate_Enter(Program& program);
-    /// Digits, the point, backspace, tab and Enter pass; 0 for anything else.
+    /// Digits, point, comma, backspace, tab and Enter pass; 0 for anything else.
     [[nodiscard]] static int txtAmount_KeyPress(int keyAscii);
-    /// The same for what stands in the box: a row's amount comes into it with its commas.
-    [[nodiscard]] static int txtAmount_Keep(int keyAscii);
     /// Enter in the amount.
     void txtAmount_Enter(Program& program);
     void cmdSave_Click(Program& program);

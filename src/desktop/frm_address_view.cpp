@@ -45,23 +45,21 @@ FrmAddressView::FrmAddressView(Program& program, frmAddress& window, QWidget* ov
     column->setContentsMargins(0, 0, 0, 0);
     BuildMenus();
     column->setMenuBar(bar_);
-    scroll_ = new QScrollArea(this);
+    stack_ = new QStackedWidget(this);
+    column->addWidget(stack_);
+    scroll_ = new QScrollArea(stack_);
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setWidgetResizable(true);
     scroll_->setFocusPolicy(Qt::NoFocus);
-    column->addWidget(scroll_);
-    stack_ = new QStackedWidget(scroll_);
-    stack_->setContentsMargins(14, 12, 14, 12);
-    scroll_->setWidget(stack_);
-
-    auto* book = new QWidget(stack_);
+    auto* book = new QWidget(scroll_);
     auto* row = new QHBoxLayout(book);
-    row->setContentsMargins(0, 0, 0, 0);
+    row->setContentsMargins(14, 12, 14, 12);
     row->setSpacing(14);
     names_ = Names();
     row->addWidget(names_, 2);
     row->addWidget(Fields(), 3);
-    stack_->addWidget(book);
+    scroll_->setWidget(book);
+    stack_->addWidget(scroll_);
     import_ = new ImportPanelView(program_, address_, stack_,
                                   [this](const std::function<void()>& call) { Do([&] { call(); }); });
     const bool company = program_.addresses.CompanyInfoMode;
@@ -74,8 +72,7 @@ FrmAddressView::FrmAddressView(Program& program, frmAddress& window, QWidget* ov
     FrmAddressView::Follow();
     bar_->setVisible(!company);
     const int letter = fontMetrics().averageCharWidth();
-    const QSize wanted(letter * (company ? 70 : 118),
-                       stack_->widget(0)->sizeHint().height() + bar_->sizeHint().height());
+    const QSize wanted(letter * (company ? 70 : 118), book->sizeHint().height() + bar_->sizeHint().height());
     const QSize room = screen()->availableSize() - QSize(24, 48); // of the window's own frame
     resize(wanted.boundedTo(room));
 }

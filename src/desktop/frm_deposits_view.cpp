@@ -8,7 +8,7 @@
 #include "desktop/window_menu_bar.h"
 #include "program/program.h"
 
-#include <QEvent>
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -39,7 +39,7 @@ void FrmDepositsView::Build() {
     amount_ = entry("txtAmount", deposits_.lblAmount);
     amount_->setAlignment(Qt::AlignRight);
     amount_->KeyFilter = frmDeposits::txtAmount_KeyPress;
-    amount_->TextFilter = frmDeposits::txtAmount_Keep;
+    amount_->TextFilter = frmDeposits::txtAmount_KeyPress;
     save_ = dialog::Button(this, "cmdSave", deposits_.cmdSave);
     grid->addWidget(dialog::Words(this, "lblName", deposits_.lblName.Caption), 0, 0, 1, 3);
     grid->addWidget(name_, 1, 0, 1, 3);
@@ -112,6 +112,13 @@ bool FrmDepositsView::eventFilter(QObject* watched, QEvent* event) {
         if (control != deposits_.ActiveControl) {
             active_ = control;
             Do([&] { deposits_.MoveFocus(program_, control); });
+        }
+        // The next amount replaces the one that stands there, however the keyboard came; a click sets the
+        // caret, and a window that comes back to the front leaves it where it was.
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (watched == amount_ && reason != Qt::MouseFocusReason && reason != Qt::ActiveWindowFocusReason &&
+            reason != Qt::PopupFocusReason) {
+            amount_->selectAll();
         }
     }
     return WindowView::eventFilter(watched, event);

@@ -2,6 +2,7 @@
 
 #include "base/guard.h"
 #include "desktop/convert.h"
+#include "desktop/free_place.h"
 #include "desktop/mnemonics.h"
 #include "desktop/paper_surface.h"
 #include "desktop/term_drag.h"
@@ -98,6 +99,10 @@ void TermsDock::keyPressEvent(QKeyEvent* event) {
 FrmFutView::FrmFutView(Program& program, frmFUT& window, QWidget* over, std::function<void()> afterEvent)
     : WindowView(program, window, over, std::move(afterEvent)), model_(window),
       dock_(new TermsDock(qobject_cast<QMainWindow*>(over))) {
+    desk_ = over->findChild<QWidget*>(QStringLiteral("desk"));
+    if (desk_ == nullptr) {
+        desk_ = over;
+    }
     dock_->setObjectName(objectName());
     setObjectName(QString());
     dock_->setAllowedAreas(Qt::LeftDockWidgetArea | Qt::RightDockWidgetArea);
@@ -273,6 +278,9 @@ bool FrmFutView::eventFilter(QObject* watched, QEvent* event) {
         static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) {
         return true; // the right button chooses and opens nothing
     }
+    if (watched == desk_ && event->type() == QEvent::Resize) {
+        QTimer::singleShot(0, this, [this] { StandFree(); }); // when the page lies where it will
+    }
     return WindowView::eventFilter(watched, event);
 }
 
@@ -298,8 +306,9 @@ void FrmFutView::TakeKeyboard() {
     (model_.lstMoreFUT.Visible ? static_cast<QWidget*>(lists_) : terms_)->setFocus();
 }
 
-/// The saved place counts when a good part of the window would lie on a screen.
-QRect FrmFutView::FirstPlace() const {
+/// The saved place counts when a good part of the window would lie on a screen. One without a size is none
+/// yet.
+QRect FrmFutView::SavedPlace() const {
     const double scale = PixelsPerTwip();
     const QRect saved(qRound(static_cast<double>(model_.Left) * scale),
                       qRound(static_cast<double>(model_.Top) * scale),
@@ -312,18 +321,19 @@ QRect FrmFutView::FirstPlace() const {
         const QRect seen = each->availableGeometry() & title;
         return seen.width() >= kReachable && seen.height() >= kReachable / 3;
     });
-    if (onScreen && saved.height() >= kReachable) {
-        return saved;
+    return onScreen && saved.height() >= kReachable ? saved : QRect();
+}
+
+void FrmFutView::StandFree() {
+    constexpr int kBesides = 8; // a desktop may shift a window by its frame
+    if (!free_ || !dock_->isFloating() || model_.Minimised ||
+        (dock_->geometry().topLeft() - free_->topLeft()).manhattanLength() > kBesides) {
+        return;
     }
-    constexpr QSize kUsual(280, 420);
-    const QRect room = parentWidget()->screen()->availableGeometry();
-    QRect usual(parentWidget()->frameGeometry().topRight() - QPoint(kUsual.width() + 40, -140),
-                kUsual.boundedTo(room.size()));
-    usual.moveRight(qMin(usual.right(), room.right()));
-    usual.moveBottom(qMin(usual.bottom(), room.bottom()));
-    usual.moveLeft(qMax(usual.left(), room.left()));
-    usual.moveTop(qMax(usual.top(), room.top()));
-    return usual;
+    const QRect place = FreePlace(*desk_);
+    free_ = place;
+    dock_->setGeometry(place);
+    KeepPlace();
 }
 
 void FrmFutView::KeepPlaceSoon() {
@@ -438,7 +448,8 @@ void FrmFutView::Follow() {
 }
 
 void FrmFutView::ShowFirst() {
-    const QRect place = FirstPlace();
+    const QRect saved = SavedPlace();
+    const QRect place = saved.isNull() ? FreePlace(*desk_) : saved;
     dock_->show();
     dock_->setGeometry(place); // a dock that shows for the first time takes a place of its own
     placed_ = true;
@@ -450,5 +461,10 @@ void FrmFutView::ShowFirst() {
     model_.Height = static_cast<float>(place.height()) * twips;
     if (model_.Minimised) {
         dock_->resize(place.width(), dock_->minimumSizeHint().height());
+    }
+    if (saved.isNull()) {
+        free_ = place;
+        desk_->installEventFilter(this);
+        QTimer::singleShot(0, this, [this] { StandFree(); });
     }
 }

@@ -13,6 +13,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 
 class QAction;
 class QMainWindow;
@@ -96,7 +97,9 @@ private:
     void BuildMenus(QWidget* body);
     void BuildLists();
     void BuildButtons(QWidget* body);
-    [[nodiscard]] QRect FirstPlace() const;
+    [[nodiscard]] QRect SavedPlace() const;
+    /// Without a saved place it stands where it covers nothing, until a person puts it elsewhere.
+    void StandFree();
     void ShowFirst();
     /// The floating window's place and size go into the model.
     void KeepPlace();
@@ -124,5 +127,7 @@ private:
     int version_ = -1;
     bool waiting_ = false; ///< open, and not shown before the page is
     bool placed_ = false;
+    QWidget* desk_ = nullptr;
+    std::optional<QRect> free_; ///< where it stands free
     bool following_ = false;
 };

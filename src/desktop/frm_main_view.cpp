@@ -153,6 +153,7 @@ void FrmMainView::BuildStrips() {
     grid->setColumnStretch(0, 1);
     grid->setRowStretch(0, 1);
     desk_ = new Desk(middle);
+    desk_->setObjectName(QStringLiteral("desk"));
     grid->addWidget(desk_, 0, 0);
     scroll_ = new QScrollBar(Qt::Vertical, middle);
     scroll_->setObjectName(QStringLiteral("VScroll1"));

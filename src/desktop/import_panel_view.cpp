@@ -9,6 +9,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -28,7 +29,7 @@ ImportPanelView::ImportPanelView(Program& program, frmAddress& window, QWidget* 
     : QWidget(parent), program_(program), address_(window), event_(std::move(event)) {
     setObjectName(QStringLiteral("picImport"));
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
+    column->setContentsMargins(14, 12, 14, 12);
     column->setSpacing(10);
     auto* top = new QHBoxLayout;
     main_ = Words(this, "lblMain");
@@ -44,11 +45,19 @@ ImportPanelView::ImportPanelView(Program& program, frmAddress& window, QWidget* 
             [this] { event_([this] { address_.imgExit_Click(program_); }); });
     top->addWidget(exit, 0, Qt::AlignTop);
     column->addLayout(top);
-    auto* middle = new QHBoxLayout;
+    // On a low screen the choices scroll; the buttons below stay in sight.
+    auto* scroll = new QScrollArea(this);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    auto* choices = new QWidget(scroll);
+    auto* middle = new QHBoxLayout(choices);
+    middle->setContentsMargins(0, 0, 0, 0);
     middle->setSpacing(14);
     middle->addWidget(Categories(), 2);
     middle->addWidget(ListTypes(), 3);
-    column->addLayout(middle, 1);
+    scroll->setWidget(choices);
+    column->addWidget(scroll, 1);
     column->addWidget(Buttons());
 }
 

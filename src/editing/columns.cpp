@@ -277,6 +277,15 @@ void mnuEditTextTaxable_Click(Program& program) {
     SetTax(program, modTotals::Tax::Taxable);
 }
 
+void CollectLines(Program& program) {
+    for (const PageId page : kLinePages) {
+        auto& lines = program.document.CurrentTextBuf[page];
+        for (std::size_t index = 0; index < program.pages[page].txt.size(); ++index) {
+            modPages::ComposeInto(lines[index], program, page, static_cast<int>(index));
+        }
+    }
+}
+
 void CollectQtyBoxes(Program& program) {
     Guarded(program, "SaveTextBoxFeatures", [&] {
         for (const PageId page : kLinePages) {
@@ -294,11 +303,8 @@ void CollectQtyBoxes(Program& program) {
                     props.AmtValue = record.txtAmt[index].Text;
                 }
             }
-            for (std::size_t index = 0; index < record.txt.size(); ++index) {
-                program.document.CurrentTextBuf[page][index] =
-                    modPages::ComposeLine(program, page, static_cast<int>(index));
-            }
         }
+        CollectLines(program);
     });
 }
 

@@ -34,5 +34,7 @@ void mnuEditTextTaxable_Click(Program& program);
 /// Walks all areas of frmP1 to frmP5: a width of exactly 6270 is a row with columns. Brings both text tables
 /// and the current texts up to what stands on the pages. Reports as "SaveTextBoxFeatures".
 void CollectQtyBoxes(Program& program);
+/// The current texts alone.
+void CollectLines(Program& program);
 
 } // namespace modColumns

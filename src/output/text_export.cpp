@@ -90,7 +90,7 @@ private:
 /// Whether the text may go out with the figures as they are.
 bool TakeFigures(Program& program) {
     modFigures::TakeFresh(program);
-    modColumns::CollectQtyBoxes(program);
+    modColumns::CollectLines(program);
     modPrint::CountPagesInUse(program);
     if (!program.totals.TotalsHidden && modTotals::TotalsDiffer(program)) {
         program.totals.TotalsStale = true;

@@ -143,18 +143,26 @@ void ShowCurrency(Program& program) {
     }
 }
 
-std::string ComposeLine(const Program& program, PageId page, int index) {
+void ComposeInto(std::string& line, const Program& program, PageId page, int index) {
     const Page& record = program.pages[page];
     const std::string& value = record.txt[static_cast<std::size_t>(index)].Text;
     if (!IsLinePage(page)) {
-        return value;
+        line = value;
+        return;
     }
     const std::string_view trimmed = text::Trim(value);
     if (!geometry::IsDescription(page, index) || !ColumnsOn(program, page, index)) {
-        return std::string(trimmed);
+        line = trimmed;
+        return;
     }
     const auto row = static_cast<std::size_t>(index);
-    return WithMarks(record.txtQty[row].Text, trimmed, record.txtAmt[row].Text);
+    line = WithMarks(record.txtQty[row].Text, trimmed, record.txtAmt[row].Text);
+}
+
+std::string ComposeLine(const Program& program, PageId page, int index) {
+    std::string line;
+    ComposeInto(line, program, page, index);
+    return line;
 }
 
 QuantityRow SplitLine(std::string_view text) {

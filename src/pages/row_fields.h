@@ -39,6 +39,8 @@ void PlaceColumns(Program& program, PageId page, int row, Columns columns);
 /// with columns on: quantity, trimmed text and unit price between their marks. Areas of the final page: the
 /// text as it stands.
 [[nodiscard]] std::string ComposeLine(const Program& program, PageId page, int index);
+/// The same into a line that is there.
+void ComposeInto(std::string& line, const Program& program, PageId page, int index);
 
 /// A description that is a quantity row, taken apart; nothing when one of the marks is missing.
 struct QuantityRow {

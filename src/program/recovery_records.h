@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 /// A proposal whose changes stand in a backup alone.
 struct UnsavedWork {
@@ -18,8 +19,16 @@ struct UnsavedWork {
     bool operator==(const UnsavedWork&) const = default;
 };
 
+/// A text of a window that was unsaved when a run was ended from outside.
+struct RescuedText {
+    std::string Kept;   ///< where it lies
+    std::string Target; ///< where it belongs; empty where a person must find that out
+    std::string Name;   ///< what it was to be called, before a number came behind it
+};
+
 struct RecoveryRecords {
     bool Marked = false;              ///< the marker of this run stands
     std::optional<UnsavedWork> Told;  ///< what the marker tells the next start
     std::optional<UnsavedWork> Found; ///< what an end that was not clean has left
+    std::vector<RescuedText> Rescued; ///< by this run, should it go on after all
 };

@@ -18,14 +18,6 @@ namespace {
 
 constexpr std::array<std::string_view, 2> kBeside{".hxt", ".dep"};
 
-std::string MadeBackupFolder(const Program& program) {
-    std::string folder = modFolders::BackupFolder(program);
-    if (!files::IsFolder(folder)) {
-        files::MakeFolder(folder);
-    }
-    return folder;
-}
-
 /// A free name in the backup folder: what was moved there before stays.
 std::string FreeBackupName(const Program& program, std::string_view name) {
     const std::string first = paths::Join(MadeBackupFolder(program), std::string(name) + ".old");
@@ -34,17 +26,6 @@ std::string FreeBackupName(const Program& program, std::string_view name) {
         free = first + std::to_string(number);
     }
     return free;
-}
-
-/// Out of the way of another proposal's; the backup folder may lie on another volume.
-void MoveAside(const Program& program, const std::string& path, std::string_view name) {
-    const std::string kept = FreeBackupName(program, name);
-    try {
-        files::Rename(path, kept);
-    } catch (const files::FileError&) {
-        files::Copy(path, kept);
-        files::Delete(path);
-    }
 }
 
 void FollowOne(Program& program, const DocumentState& before, std::string_view extension) {
@@ -68,6 +49,24 @@ void FollowOne(Program& program, const DocumentState& before, std::string_view e
 }
 
 } // namespace
+
+std::string MadeBackupFolder(const Program& program) {
+    std::string folder = modFolders::BackupFolder(program);
+    if (!files::IsFolder(folder)) {
+        files::MakeFolder(folder);
+    }
+    return folder;
+}
+
+void MoveAside(const Program& program, const std::string& path, std::string_view name) {
+    const std::string kept = FreeBackupName(program, name);
+    try { // the backup folder may lie on another volume
+        files::Rename(path, kept);
+    } catch (const files::FileError&) {
+        files::Copy(path, kept);
+        files::Delete(path);
+    }
+}
 
 std::string FolderOf(const Program& program, const DocumentState& document) {
     return document.FromBackup || !document.FileExists || document.FilePath.empty()
@@ -113,16 +112,6 @@ bool Write(Program& program, Known& known, std::string_view name, std::string_vi
         TellSaved(program, name.ends_with(".dep") ? "Deposit list" : "Footnotes", path);
     });
     return written;
-}
-
-void KeepInBackup(Program& program, std::string_view name, std::string_view bytes) {
-    try {
-        const bool unnamed = program.document.BaseName.empty();
-        const std::string file = unnamed ? "Unnamed" + std::string(name) : std::string(name);
-        files::WriteWhole(paths::Join(MadeBackupFolder(program), file), bytes);
-    } catch (const std::exception& error) {
-        WriteErrorLog(program, error.what() + std::string(text::kCrLf));
-    }
 }
 
 void LeaveOthersBehind(Program& program, OwnLayout layout) {

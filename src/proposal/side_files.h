@@ -32,8 +32,10 @@ struct Known {
 [[nodiscard]] bool Write(Program& program, Known& known, std::string_view name, std::string_view bytes,
                          std::string_view question, std::string_view procedure);
 
-/// Puts unsaved work beside the backup; nobody is asked or told. Failures go to the log alone.
-void KeepInBackup(Program& program, std::string_view name, std::string_view bytes);
+/// The folder of the backups, made when it is missing.
+[[nodiscard]] std::string MadeBackupFolder(const Program& program);
+/// Moves a file of that bare name into the backup folder, under a name that is free there.
+void MoveAside(const Program& program, const std::string& path, std::string_view name);
 
 /// After the first save of a new proposal that has replaced another one's file: what lay beside that one goes
 /// into the backup folder, so that the new proposal has neither its notes nor its deposits, nor its layout

@@ -10,6 +10,7 @@
 #include "proposal/lifecycle.h"
 #include "proposal/property_file.h"
 #include "proposal/proposal_save.h"
+#include "proposal/rescued.h"
 #include "proposal/run_marker.h"
 
 namespace modClosing {
@@ -60,6 +61,7 @@ void MDIForm_Unload(Program& program) {
     if (program.main.Closing) {
         return;
     }
+    modRescue::ForgetOwn(program);
     modRecovery::TakeMarkerAway(program);
     EndRun(program);
 }

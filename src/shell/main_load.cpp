@@ -14,6 +14,7 @@
 #include "program/program.h"
 #include "proposal/old_files.h"
 #include "proposal/recovery.h"
+#include "proposal/rescued.h"
 #include "proposal/reset.h"
 #include "settings/frm_tax.h"
 #include "settings/settings.h"
@@ -132,6 +133,7 @@ void MDIForm_Load(Program& program) {
     }
     WorkOutControls(program);
     program.main.Loaded = true;
+    modRescue::OfferRescued(program); // first: what comes back lies there when its proposal is shown
     modRecovery::OfferWhatWasFound(program);
 }
 

@@ -180,7 +180,8 @@ void GoBackTo(Program& program, std::size_t position) {
 
 std::string AreaInWords(const Program& program) {
     const FieldRef& field = Current(program);
-    return std::string(geometry::PageCaption(field.Page)) + ", text area " + std::to_string(field.Index);
+    return std::string(geometry::PageCaption(field.Page)) + ", text area " +
+           std::to_string(field.Index + 1); // as the strip of the main window counts them
 }
 
 } // namespace modSpelling

@@ -2,6 +2,7 @@
 
 #include "addresses/address_fields.h"
 #include "pages/fields.h"
+#include "proposal/proposal_save.h"
 
 #include <gtest/gtest.h>
 
@@ -57,6 +58,24 @@ TEST(Merge, NamesAnUnsavedProposalAsTypingDoes) {
     EXPECT_EQ(run.program.document.ClientCaption, "Proposal for Ann Ash");
     EXPECT_EQ(run.program.editing.LastKeyChar, "");
     EXPECT_EQ(run.program.document.CurrentTextBuf[PageId::frmP1][2], "Ann Ash");
+}
+
+TEST(Merge, ASavedProposalKeepsItsFileAndThatIsTold) {
+    MergeRun run;
+    run.Show(kAnn);
+    run.Put(2, "Jane Roe");
+    run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    run.surroundings.questions.Expect("Replace what stands on page 1?", Answer::Yes);
+    run.Run(Id::mnuOptMerge);
+    EXPECT_EQ(run.Client(2), "Ann Ash");
+    EXPECT_EQ(run.program.document.FileName, "Jane Roe.hef");
+    EXPECT_EQ(
+        run.program.main.Notice,
+        "The client is now Ann Ash; the file is still Jane Roe.hef. Save As gives the proposal another.");
+    run.program.main.Notice.clear();
+    run.Run(Id::mnuOptMerge); // the same once more
+    EXPECT_EQ(run.program.main.Notice, "");
 }
 
 TEST(Merge, WithoutASecondAddressLineHasNoDash) {

@@ -188,6 +188,7 @@ TEST(Calendar, DeletedProposalsLieInBackupAndComeBackAllOfThem) {
     run.folder.Write("Proposals/Backup/Notes.txt.old", "not a proposal");
     window.Choose(run.program, "mnuOptUndoDelete");
     EXPECT_EQ(window.lstDates.Items.size(), 3U);
+    EXPECT_EQ(window.lblNotice.Caption, "3 proposals restored");
     EXPECT_TRUE(run.folder.Has("Proposals/Backup/Notes.txt.old"));
     EXPECT_FALSE(run.folder.Has("Proposals/Backup/A.hef.old"));
     EXPECT_FALSE(window.Entry("mnuOptUndoDelete").Enabled);

@@ -347,14 +347,32 @@ TEST(Deposits, ADateThatIsNotRecognisedStaysAndIsTold) {
     EXPECT_EQ(window.txtDate.Text, "1rst of May");
 }
 
-TEST(Deposits, TheAmountTakesDigitsAndThePoint) {
-    // 0 9 . backspace tab return; then - , a blank $
-    for (const int passes : {48, 57, 46, 8, 9, 13}) {
+TEST(Deposits, TheAmountTakesDigitsPointAndComma) {
+    // 0 9 . , backspace tab return; then - a blank $
+    for (const int passes : {48, 57, 46, 44, 8, 9, 13}) {
         EXPECT_EQ(frmDeposits::txtAmount_KeyPress(passes), passes);
     }
-    for (const int dropped : {45, 44, 97, 32, 36}) {
+    for (const int dropped : {45, 97, 32, 36}) {
         EXPECT_EQ(frmDeposits::txtAmount_KeyPress(dropped), 0);
     }
+}
+
+TEST(Deposits, ADecimalCommaAndAThirdDecimalAreToldAndAddNothing) {
+    Deposited run;
+    frmDeposits& window = run.Open();
+    for (const char* typed : {"100,50", "1,00", "100.505", "0.001"}) {
+        window.txtAmount_Change(run.program, typed);
+        window.cmdSave_Click(run.program);
+        EXPECT_TRUE(window.lst.Items.empty()) << typed;
+        EXPECT_EQ(window.txtAmount.BackColor, colors::kOverLimit) << typed;
+        EXPECT_FALSE(window.txtAmount.ToolTipText.empty()) << typed;
+    }
+    window.txtAmount_Change(run.program, "1,100.500");
+    window.cmdSave_Click(run.program);
+    ASSERT_EQ(window.lst.Items.size(), 1U);
+    EXPECT_TRUE(window.lst.Items[0].ends_with(" 1,100.50"));
+    EXPECT_EQ(window.txtAmount.BackColor, colors::kWhite);
+    EXPECT_EQ(window.txtAmount.SelLength, 9) << "what is typed next replaces it";
 }
 
 TEST(Deposits, PrintsTheNameTheRowsAndTheTotalUnderTheRowsPattern) {

@@ -122,7 +122,7 @@ TEST(SpellingWindow, MarksTheWordAndTakesTheSuggestionByEnter) {
     SpellingRun run;
     run.Fill(PageId::frmP2, 3, "White Chiars for the bride");
     const frmSpelling& model = run.Check();
-    EXPECT_EQ(run.Part<QLabel>("lblArea")->text(), QStringLiteral("Page 2, text area 3"));
+    EXPECT_EQ(run.Part<QLabel>("lblArea")->text(), QStringLiteral("Page 2, text area 4"));
     EXPECT_EQ(run.Part<QTextEdit>("txtText")->toPlainText(), QStringLiteral("White Chiars for the bride"));
     EXPECT_TRUE(run.Part<QTextEdit>("txtText")->isReadOnly());
     EXPECT_EQ(run.Marked(), "Chiars");
@@ -166,10 +166,10 @@ TEST(SpellingWindow, EveryDecisionHasItsKey) {
     EXPECT_EQ(run.folder.Read("PersonalDictionary.txt"), "qqxq\r\n");
     run.Press(Qt::Key_I, Qt::AltModifier); // Ignore
     EXPECT_TRUE(run.ComesTo("Tabels"));
-    EXPECT_EQ(run.Part<QLabel>("lblArea")->text(), QStringLiteral("Page 3, text area 0"));
+    EXPECT_EQ(run.Part<QLabel>("lblArea")->text(), QStringLiteral("Page 3, text area 1"));
     run.Press(Qt::Key_U, Qt::AltModifier); // Undo Last
     EXPECT_TRUE(run.ComesTo("Chiars"));
-    EXPECT_EQ(run.Part<QLabel>("lblArea")->text(), QStringLiteral("Page 2, text area 3"));
+    EXPECT_EQ(run.Part<QLabel>("lblArea")->text(), QStringLiteral("Page 2, text area 4"));
     run.Press(Qt::Key_T, Qt::AltModifier);
     EXPECT_EQ(run.Focused(), "txtChangeTo");
     run.Press(Qt::Key_A, Qt::ControlModifier);

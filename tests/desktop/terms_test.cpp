@@ -3,6 +3,7 @@
 #include "desktop/frm_calc_view.h"
 #include "desktop/frm_fut_view.h"
 #include "desktop/mnemonics.h"
+#include "desktop/text_area_view.h"
 #include "pages/fields.h"
 #include "program/windows.h"
 #include "search/frm_sr.h"
@@ -359,6 +360,31 @@ TEST(WindowTerms, OpensOnAScreenWhateverPlaceWasSaved) {
         EXPECT_GE(seen.width(), 60);
         EXPECT_GE(seen.height(), 60);
     }
+}
+
+TEST(WindowTerms, WithoutASavedPlaceItCoversNothingThatCanBeRead) {
+    TermsDesktop run;
+    run.ChoosePage(0);
+    run.Find<TermsDock>("frmFUT")->close();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    run.window->resize(1024, 740);
+    run.window->AfterEvent();
+    run.program.settings.FUTPosition = {};
+    commands::Run(run.program, CommandId::mnuOptFUT);
+    run.window->AfterEvent();
+    QCoreApplication::processEvents();
+    const QRect list = run.Find<TermsDock>("frmFUT")->geometry();
+    const auto covered = [&](const QWidget* part) {
+        return part->isVisible() && QRect(part->mapToGlobal(QPoint()), part->size()).intersects(list);
+    };
+    int seen = 0;
+    for (const TextAreaView* field : run.window->findChildren<TextAreaView*>()) {
+        seen += field->isVisible() ? 1 : 0;
+        EXPECT_FALSE(covered(field)) << field->objectName().toStdString();
+    }
+    EXPECT_GT(seen, 10);
+    EXPECT_GE(list.width(), 200);
+    EXPECT_GE(list.height(), 200);
 }
 
 TEST(WindowTerms, MinimisedItIsAButtonThatBringsTheListBack) {

@@ -3,8 +3,12 @@
 #include "money/totals.h"
 #include "program/windows.h"
 #include "proposal/proposal_save.h"
+#include "proposal/rescued.h"
 #include "shell/closing.h"
 #include "shell/command_run.h"
+#include "shell/start_up.h"
+#include "shell/wiring.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -77,6 +81,83 @@ TEST(LeavingWindows, ARunThatIsEndedFromOutsideKeepsThemBesideTheBackup) {
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Jane Roe.hxt"), "remember");
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Jane Roe.dep"), "Jane Roe\r\nJan 21, 2008\t\t$ 600.00");
     EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe.hxt"));
+}
+
+/// The next run in the folder of one that was ended from outside.
+struct NextRun {
+    explicit NextRun(const RunningProgram& ended) : folder(ended.folder) {
+        program.folders.InstallFolder = folder.Path();
+        program.folders.Drives.Home = folder / "Home/";
+        Wire(program);
+        surroundings.questions.Allow(kNoEvents);
+    }
+    void Start() {
+        ASSERT_EQ(modStart::Main(program), modStart::StartResult::Running);
+        PassSplash(program);
+        surroundings.questions.Done();
+    }
+    const ScratchFolder& folder;
+    RecordingPlatform surroundings;
+    Program program{surroundings.platform};
+};
+
+TEST(Rescue, TheNextStartPutsNotesAndDepositsBackAndMovesAsideWhatStandsThere) {
+    Leaving run;
+    run.Change();
+    modClosing::Interrupted(run.program);
+    run.folder.Write("Proposals/Jane Roe.hxt", "another's notes");
+    NextRun next(run);
+    next.surroundings.questions.Expect("Put the footnotes and deposits beside their proposals?", Answer::Yes);
+    next.Start();
+    const ScriptedQuestions::Box& box = next.surroundings.questions.Shown.back();
+    EXPECT_NE(box.Text.find("Proposals/Backup/Jane Roe.hxt"), std::string::npos) << box.Text;
+    EXPECT_NE(box.Text.find("Proposals/Backup/Jane Roe.dep"), std::string::npos) << box.Text;
+    EXPECT_EQ(next.surroundings.questions.Manners.back().How, Manner::Came::Unasked);
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hxt"), "remember");
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Jane Roe.hxt.old"), "another's notes");
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.dep"), "Jane Roe\r\nJan 21, 2008\t\t$ 600.00");
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Jane Roe.hxt"));
+    NextRun third(run);
+    third.Start(); // it is told once
+}
+
+TEST(Rescue, ANoLeavesThemWhereTheyLieAndALaterRescueReplacesNone) {
+    Leaving run;
+    run.Change();
+    modClosing::Interrupted(run.program);
+    NextRun next(run);
+    next.surroundings.questions.Expect("Put the footnotes and deposits beside their proposals?", Answer::No);
+    next.Start();
+    EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe.hxt"));
+    next.program.document = run.program.document;
+    modRescue::KeepOfProposal(next.program, ".hxt", "later", modRescue::Back::Offered);
+    modRescue::KeepOfProposal(next.program, ".hxt", "later still", modRescue::Back::Offered);
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Jane Roe.hxt"), "remember");
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Jane Roe (2).hxt"), "later still") << "one of a run";
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Jane Roe (3).hxt"));
+}
+
+TEST(Rescue, WhatBelongsToNoProposalIsToldWithItsPath) {
+    RunningProgram run;
+    modRescue::KeepOfProposal(run.program, ".contract.txt", "wording", modRescue::Back::Told);
+    modRescue::Keep(run.program, "Unsaved Address.txt", "Name: Ann");
+    NextRun next(run);
+    next.surroundings.questions.Expect("Unsaved Address.txt");
+    next.Start();
+    const ScriptedQuestions::Box& box = next.surroundings.questions.Shown.back();
+    EXPECT_EQ(box.With, Buttons::Ok);
+    EXPECT_NE(box.Text.find("Backup/Unnamed.contract.txt"), std::string::npos) << box.Text;
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Unnamed.contract.txt"), "wording");
+}
+
+TEST(Rescue, ARunThatGoesOnAndEndsWellLeavesNothingToBeTold) {
+    Leaving run;
+    run.Change();
+    modClosing::KeepUnsaved(run.program); // the desktop's session was to end, and did not
+    modClosing::MDIForm_Unload(run.program);
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Jane Roe.hxt"));
+    NextRun next(run);
+    next.Start();
 }
 
 TEST(LeavingWindows, WhatWasDiscardedAtTheExitIsNotKeptWhenTheSessionEndsMeanwhile) {

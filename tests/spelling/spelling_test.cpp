@@ -133,7 +133,7 @@ TEST(SpellingWindow, ShowsPageAreaTextWordAndSuggestions) {
     run.Fill(PageId::frmP2, 3, "White Chiars here");
     run.Start();
     const frmSpelling& window = run.Window();
-    EXPECT_EQ(window.lblArea.Caption, "Page 2, text area 3");
+    EXPECT_EQ(window.lblArea.Caption, "Page 2, text area 4");
     EXPECT_EQ(window.txtText.Text, "White Chiars here");
     EXPECT_EQ(window.txtText.SelStart, 6);
     EXPECT_EQ(window.txtText.SelLength, 6);
@@ -268,15 +268,15 @@ TEST(SpellingWindow, UndoPutsAnAreaBackThatWasDoneAlready) {
     run.Start();
     run.Window().cmdChange_Click(run.program);
     ASSERT_EQ(run.TextOf(PageId::frmP2, 3), "Chairs");
-    ASSERT_EQ(run.Window().lblArea.Caption, "Page 3, text area 0");
+    ASSERT_EQ(run.Window().lblArea.Caption, "Page 3, text area 1");
     run.Window().cmdUndo_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chiars");
     EXPECT_EQ(run.TextOf(PageId::frmP2, 36), "45.00");
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "45.00");
-    EXPECT_EQ(run.Window().lblArea.Caption, "Page 2, text area 3");
+    EXPECT_EQ(run.Window().lblArea.Caption, "Page 2, text area 4");
     EXPECT_EQ(run.Window().txtText.Text, "Chiars");
     run.Window().cmdIgnore_Click(run.program);
-    EXPECT_EQ(run.Window().lblArea.Caption, "Page 3, text area 0");
+    EXPECT_EQ(run.Window().lblArea.Caption, "Page 3, text area 1");
     EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chiars");
 }
 
@@ -291,7 +291,7 @@ TEST(SpellingWindow, UndoOfChangeAllTakesTheOthersBackWithIt) {
     run.Window().cmdUndo_Click(run.program);
     EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chiars");
     EXPECT_EQ(run.TextOf(PageId::frmP2, 4), "Chiars");
-    EXPECT_EQ(run.Window().lblArea.Caption, "Page 2, text area 3");
+    EXPECT_EQ(run.Window().lblArea.Caption, "Page 2, text area 4");
 }
 
 TEST(SpellingWindow, CancelKeepsWhatWasChangedInTheAreaToo) {
@@ -311,7 +311,7 @@ TEST(SpellingWindow, TellsOfAnAreaThatBecameTooLong) {
     run.Start();
     run.Window().txtChangeTo.Text = std::string(90, 'x');
     run.Window().cmdChange_Click(run.program);
-    EXPECT_EQ(run.Window().lblTooLong.Caption, "Page 2, text area 3 is now longer than its place.");
+    EXPECT_EQ(run.Window().lblTooLong.Caption, "Page 2, text area 4 is now longer than its place.");
 }
 
 TEST(SpellingWindow, TellsOfEveryAreaThatBecameTooLongByItself) {
@@ -322,8 +322,8 @@ TEST(SpellingWindow, TellsOfEveryAreaThatBecameTooLongByItself) {
     run.Start();
     run.Window().txtChangeTo.Text = std::string(90, 'x');
     run.Window().cmdChangeAll_Click(run.program);
-    EXPECT_EQ(run.Window().lblTooLong.Caption, "Page 2, text area 3 is now longer than its place.\r\n"
-                                               "Page 2, text area 4 is now longer than its place.");
+    EXPECT_EQ(run.Window().lblTooLong.Caption, "Page 2, text area 4 is now longer than its place.\r\n"
+                                               "Page 2, text area 5 is now longer than its place.");
     run.ExpectEnd();
     run.Window().cmdIgnore_Click(run.program);
     EXPECT_EQ(run.program.main.Notice, "") << "it was told already";
@@ -336,7 +336,7 @@ TEST(SpellingWindow, TheLastAreaThatBecameTooLongIsToldInTheStrip) {
     run.Window().txtChangeTo.Text = std::string(90, 'x');
     run.ExpectEnd();
     run.Window().cmdChange_Click(run.program);
-    EXPECT_EQ(run.program.main.Notice, "Page 2, text area 3 is now longer than its place.");
+    EXPECT_EQ(run.program.main.Notice, "Page 2, text area 4 is now longer than its place.");
     EXPECT_EQ(run.Area(PageId::frmP2, 3).BackColor, colors::kOverLimit);
 }
 
