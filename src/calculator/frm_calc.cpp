@@ -55,6 +55,13 @@ int frmCalc::txtE_KeyPress(int keyAscii) {
     return taken ? keyAscii : 0;
 }
 
+int frmCalc::txtE_KeyPress(Program& program, int keyAscii) {
+    if (keyAscii == ',') {
+        program.main.Notice = "The calculator takes no comma: write 1.5 for one and a half.";
+    }
+    return txtE_KeyPress(keyAscii);
+}
+
 void frmCalc::SetEquation(std::string_view text, int selStart) {
     txtE.Text = text.substr(0, kLongest);
     txtE.SelStart = selStart;
@@ -106,7 +113,7 @@ void frmCalc::txtR_GotFocus() {
 }
 
 void frmCalc::txtR_KeyPress(Program& program, int keyAscii) {
-    const int taken = txtE_KeyPress(keyAscii);
+    const int taken = txtE_KeyPress(program, keyAscii);
     ResultHasKeyboard = false;
     if (taken >= keys::kBlank) {
         const char character = static_cast<char>(taken);

@@ -50,6 +50,8 @@ public:
 
     /// 0 for a character that is not taken. The first one after a result empties the line, taken or not.
     [[nodiscard]] int txtE_KeyPress(int keyAscii);
+    /// The same, and a comma is told: dropped without a word it would make 15 of 1,5.
+    [[nodiscard]] int txtE_KeyPress(Program& program, int keyAscii);
     enum class By { Key, Other };
     /// What the line holds after an edit. An operator typed as its first character goes on from the last
     /// result.

@@ -151,7 +151,7 @@ void FrmCalcView::BuildLines() {
     column->addWidget(result_);
 
     equation_->Filter = [this](int character) {
-        const int taken = model_.txtE_KeyPress(character);
+        const int taken = model_.txtE_KeyPress(program_, character);
         Follow(); // the first key after a result has emptied the line
         return taken;
     };

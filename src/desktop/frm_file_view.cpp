@@ -5,6 +5,7 @@
 #include "desktop/elided_label.h"
 #include "program/program.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QVBoxLayout>
@@ -80,6 +81,33 @@ void FileTable::Choose(int row) {
     setCurrentItem(item);
     if (item == nullptr) {
         clearSelection();
+    }
+}
+
+QTreeWidgetItem* FileTable::Beginning(const QString& letters, int from) const {
+    const int count = topLevelItemCount();
+    for (int step = 0; step < count; ++step) {
+        QTreeWidgetItem* item = topLevelItem((from + step) % count);
+        if (item->text(0).startsWith(letters, Qt::CaseInsensitive)) {
+            return item;
+        }
+    }
+    return nullptr;
+}
+
+void FileTable::keyboardSearch(const QString& typed) {
+    // The view's own search takes a letter that is typed twice for the next name with it: AA led to AB.
+    const bool goesOn =
+        sinceLetter_.isValid() && sinceLetter_.elapsed() < QApplication::keyboardInputInterval();
+    sinceLetter_.start();
+    letters_ = goesOn ? letters_ + typed : typed;
+    const int current = CurrentRow();
+    QTreeWidgetItem* found = Beginning(letters_, goesOn ? qMax(current, 0) : current + 1);
+    if (found == nullptr && letters_.count(letters_.front(), Qt::CaseInsensitive) == letters_.size()) {
+        found = Beginning(letters_.left(1), current + 1);
+    }
+    if (found != nullptr) {
+        setCurrentItem(found);
     }
 }
 

@@ -5,10 +5,12 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QString>
 #include <QTreeWidget>
 
 /// Files in rows of name, date and size. A click on a column's head sorts by it. The keyboard's coming
@@ -19,9 +21,16 @@ public:
     FileTable(QWidget* parent, const char* name, const QString& spoken);
     [[nodiscard]] int CurrentRow() const { return indexOfTopLevelItem(currentItem()); }
     void Choose(int row);
+    /// Letters typed in one go gather to the beginning of a name.
+    void keyboardSearch(const QString& typed) override;
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
+
+private:
+    [[nodiscard]] QTreeWidgetItem* Beginning(const QString& letters, int from) const;
+    QElapsedTimer sinceLetter_;
+    QString letters_;
 };
 
 /// The file chooser: places and folders at the left, files at the right, the confirm panel below.

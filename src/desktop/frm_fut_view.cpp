@@ -408,7 +408,7 @@ void FrmFutView::FollowButtons() {
     }
     default_->setEnabled(model_.mnuFileDefaultFUT.Enabled);
     const auto* main = qobject_cast<const QMainWindow*>(parentWidget());
-    mnemonics::Give(*content_, main == nullptr ? QString() : mnemonics::LettersOf(*main->menuBar()));
+    mnemonics::Give(*content_, main == nullptr ? QString() : mnemonics::LettersOf(*main));
 }
 
 void FrmFutView::Follow() {

@@ -5,6 +5,7 @@
 #include "desktop/convert.h"
 #include "desktop/elided_label.h"
 #include "desktop/icons.h"
+#include "desktop/mnemonics.h"
 #include "desktop/page_view.h"
 #include "desktop/paper_surface.h"
 #include "desktop/tool_strip.h"
@@ -100,6 +101,7 @@ FrmMainView::FrmMainView(Program& program, const QtTextMeasure& measure)
             AfterEvent();
         });
     BuildStrips();
+    strip_->GiveLetters(mnemonics::LettersOf(*menuBar()));
     BuildKeys();
     since_.start();
     Now = [this] { return since_.elapsed(); };

@@ -36,6 +36,7 @@ int Run() {
     FrmMainView window(program, surroundings.measure);
     surroundings.questions.Over = &window;
     surroundings.questions.BeforeAsking = [&] { window.Follow(); };
+    surroundings.printers.BeforeAsking = [&] { window.Follow(); };
     surroundings.printers.Written = [&](const std::string& path) { TellSaved(program, "PDF", path); };
     surroundings.words.MakeSpelling = [&] { return modSpelling::MakeService(program); };
     surroundings.events.Follow = [&] { window.Follow(); };

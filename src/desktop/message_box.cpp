@@ -45,15 +45,21 @@ void MessageBox::KeepLines() {
 void MessageBox::showEvent(QShowEvent* event) {
     KeepLines();
     mnemonics::Give(*this);
-    stands_.start();
+    quiet_.start();
     QMessageBox::showEvent(event);
 }
 
 bool MessageBox::eventFilter(QObject* watched, QEvent* event) {
     const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease ||
                      event->type() == QEvent::ShortcutOverride;
-    return (key && stands_.isValid() && stands_.elapsed() < kHalfSecond) ||
-           QMessageBox::eventFilter(watched, event);
+    if (key && quiet_.isValid()) {
+        if (quiet_.elapsed() < kHalfSecond) {
+            quiet_.start(); // the person goes on typing what the box has come into
+            return true;
+        }
+        quiet_.invalidate(); // from here on the keys are meant for the box
+    }
+    return QMessageBox::eventFilter(watched, event);
 }
 
 void MessageBox::keyPressEvent(QKeyEvent* event) {

@@ -4,7 +4,7 @@
 #include <QMessageBox>
 
 /// A message box that is as wide as the lines of its text, as far as the screen goes. Plain letters press no
-/// button; a box that came unasked takes no key in its first half second.
+/// button; a box that came unasked takes no key until there was none for half a second.
 class MessageBox : public QMessageBox {
     Q_OBJECT
 public:
@@ -21,5 +21,5 @@ protected:
 private:
     void KeepLines();
     Came came_;
-    QElapsedTimer stands_;
+    QElapsedTimer quiet_; ///< since the box came or a key was pressed; not valid when keys are taken
 };

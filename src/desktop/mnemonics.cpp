@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -103,6 +104,19 @@ QString LettersOf(const QMenuBar& menus) {
     QString letters;
     for (const QAction* menu : menus.actions()) {
         Note(menu->text(), letters);
+    }
+    return letters;
+}
+
+QString LettersOf(const QMainWindow& window) {
+    QString letters;
+    if (const auto* menus = qobject_cast<const QMenuBar*>(window.menuWidget())) {
+        letters = LettersOf(*menus);
+    }
+    if (const auto* strip = window.findChild<const QWidget*>(QStringLiteral("picTop"))) {
+        for (const QPushButton* button : strip->findChildren<QPushButton*>()) {
+            Note(button->text(), letters);
+        }
     }
     return letters;
 }

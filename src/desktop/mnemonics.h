@@ -3,6 +3,7 @@
 #include <QString>
 
 class QAbstractButton;
+class QMainWindow;
 class QMenuBar;
 class QWidget;
 
@@ -15,6 +16,8 @@ namespace mnemonics {
 void Give(QWidget& window, const QString& taken = {});
 /// The letters of a menu bar, in lower case.
 [[nodiscard]] QString LettersOf(const QMenuBar& menus);
+/// The letters of a main window's menus and of the buttons that stand in it always.
+[[nodiscard]] QString LettersOf(const QMainWindow& window);
 
 /// The caption without its mark.
 [[nodiscard]] QString Plain(const QString& caption);

@@ -124,6 +124,9 @@ bool QtPrinters::BeginCommand(const PrintCommand& command) {
     if (current_ != kToPdf) {
         return true;
     }
+    if (BeforeAsking) {
+        BeforeAsking();
+    }
     file_ = WithEnding(AskForFile(QString::fromStdString(ansi::ToUtf8(command.SuggestedFile))));
     return !file_.isEmpty();
 }

@@ -24,6 +24,8 @@ public:
 
     /// Asks for the file of "Print to PDF"; empty when the person gives none.
     std::function<QString(const QString& suggested)> AskForFile;
+    /// What stands behind the question is brought up to date first.
+    std::function<void()> BeforeAsking;
     /// Hears the path of every PDF that was written.
     std::function<void(const std::string& path)> Written;
 

@@ -2,6 +2,7 @@
 
 #include "desktop/convert.h"
 #include "desktop/icons.h"
+#include "desktop/mnemonics.h"
 #include "desktop/paper_surface.h"
 #include "program/program.h"
 #include "shell/command_table.h"
@@ -279,10 +280,16 @@ QPushButton* ToolStrip::AddCommand(const QString& name, const CommandButton& rec
     return button;
 }
 
+void ToolStrip::GiveLetters(const QString& taken) {
+    taken_ = taken;
+    mnemonics::Give(*buttons_, taken_);
+}
+
 void ToolStrip::FollowCommand(QPushButton& button, const CommandButton& record) {
     const QString caption = convert::ToQString(record.Caption);
-    if (button.text() != caption) {
+    if (mnemonics::Plain(button.text()) != caption) {
         button.setText(caption);
+        mnemonics::Give(*buttons_, taken_);
     }
     const QString tip = convert::ToQString(record.ToolTipText);
     if (button.toolTip() != tip) {

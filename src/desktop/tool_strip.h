@@ -70,6 +70,8 @@ class ToolStrip : public QWidget {
 public:
     ToolStrip(Program& program, std::function<void()> afterEvent, QWidget* parent);
     void Follow();
+    /// Gives the command buttons letters of their own beside these.
+    void GiveLetters(const QString& taken);
     /// With the command buttons below: what stands beside the page may take the room.
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -94,6 +96,7 @@ private:
     QLabel* lblPage_ = nullptr;
     QVBoxLayout* rows_ = nullptr;
     QHBoxLayout* row_ = nullptr; ///< the first row
+    QString taken_;              ///< letters of others
     QWidget* buttons_ = nullptr; ///< holds the command buttons
     int buttonsAt_ = 0;          ///< their place in the first row
 };

@@ -163,7 +163,7 @@ void WindowViews::Follow() {
         const auto* main = qobject_cast<QMainWindow*>(&over_);
         const bool byItself = view->isModal() || main == nullptr ||
                               (view->windowType() == Qt::Dialog && view->findChild<QMenuBar*>() != nullptr);
-        mnemonics::Give(*view, byItself ? QString() : mnemonics::LettersOf(*main->menuBar()));
+        mnemonics::Give(*view, byItself ? QString() : mnemonics::LettersOf(*main));
         if (fresh) {
             view->Open();
         }

@@ -1,6 +1,7 @@
 #include "editing/settle_field.h"
 
 #include "editing/columns.h"
+#include "editing/status_line.h"
 #include "money/amounts.h"
 #include "money/totals.h"
 #include "pages/fields.h"
@@ -68,8 +69,12 @@ void SettleField(Program& program, const FieldRef& field) {
 void SettleFocused(Program& program) {
     const auto focus = program.main.Focus;
     if (focus && modFields::Exists(program, *focus)) {
-        const KeptCursor kept(modFields::Area(program, *focus));
-        SettleField(program, *focus);
+        TextArea& area = modFields::Area(program, *focus);
+        {
+            const KeptCursor kept(area);
+            SettleField(program, *focus);
+        }
+        modStatus::ShowCaret(program, area);
     }
 }
 

@@ -12,6 +12,10 @@ void ShowCursor(Program& program) {
     program.main.lblCurPos.Caption = "Cursor Location = " + std::to_string(program.editing.CursorPos);
 }
 
+void ShowCaret(Program& program, const TextArea& area) {
+    program.main.lblCurPos.Caption = "Cursor Location = " + std::to_string(area.SelStart);
+}
+
 void ShowTextPosition(Program& program, const TextArea& area) {
     program.main.lblTextPos.Visible = !program.run.NoPrinter;
     if (program.run.NoPrinter) {

@@ -8,6 +8,8 @@ struct Program;
 namespace modStatus {
 
 void ShowCursor(Program& program);
+/// The same of an area's own cursor.
+void ShowCaret(Program& program, const TextArea& area);
 
 /// Where the printer would stand after the text left of the cursor. Hidden without a printer.
 void ShowTextPosition(Program& program, const TextArea& area);

@@ -210,8 +210,9 @@ FormatSave SaveSteps(Program& program, const Name& name) {
         throw files::FileError(kSubscript, "Subscript out of range");
     }
     if (format.FormatMakeDefault) {
-        // The format is saved all the same; why it could not become the default has been told.
-        static_cast<void>(MakeDefault(program));
+        if (MakeDefault(program)) {
+            TellSaved(program, "Default format", path);
+        }
     }
     format.FormatOpen = true;
     program.document.WindowTitle = "Quillbrook - Format File = " + format.FormatName;

@@ -69,6 +69,7 @@ void frmTitle::cmdClear_Click(int index) {
 
 void frmTitle::cmdDefault_Click(Program& program) {
     program.document.PageHeading = txtTitle.Text;
+    modTitles::LayHeading(program);
     program.settings.PageTitles = txtTitle.Text;
     if (modSettings::Store(program, {{modSettings::Key::PageTitles, txtTitle.Text}})) {
         TitleChanged = false;

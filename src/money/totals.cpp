@@ -3,6 +3,7 @@
 #include "base/guard.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "money/shown_figures.h"
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "pages/row_fields.h"
@@ -97,11 +98,50 @@ void AddAllFields(Program& program) {
     totals.FullTotal = totals.Total;
 }
 
+/// The deposit under its pattern. What the person typed has more digits than the single that counts.
+std::string ShownDeposit(const Program& program, std::string_view typed) {
+    const float deposit = program.totals.Deposit;
+    const std::optional<double> digits = numbers::ToDouble(typed, program.settings.CurrencySymbol);
+    return digits && static_cast<float>(*digits) == deposit ? numbers::Format(*digits, kShown)
+                                                            : Shown(deposit);
+}
+
+std::string ShownDeposit(const Program& program) {
+    return ShownDeposit(program, program.pages[PageId::frmP6].txt[kDeposit].Text);
+}
+
 /// A deposit that is no number keeps its text, as an amount does: the person sees it red and mends it.
 void WriteDeposit(Program& program) {
     if (!IsNoNumber(program, program.pages[PageId::frmP6].txt[kDeposit])) {
-        WriteFigure(program, kDeposit, Shown(program.totals.Deposit));
+        WriteFigure(program, kDeposit, ShownDeposit(program));
     }
+}
+
+/// Tax, total and balance, built from the shown figures above them: a reader who adds what stands on the
+/// sheet comes to what stands below. Singles alone can be a hundredth apart.
+struct ShownTotals {
+    std::string Tax;
+    std::string Total;
+    std::string Balance;
+};
+
+ShownTotals TotalsBelow(const Program& program, float subTotal) {
+    const TotalsRecords& totals = program.totals;
+    ShownTotals shown{Shown(totals.SalesTax), "", ""};
+    shown.Total = ShownSum(Shown(subTotal), shown.Tax).value_or(Shown(totals.Total));
+    shown.Balance = ShownDifference(shown.Total, ShownDeposit(program)).value_or(Shown(totals.Balance));
+    return shown;
+}
+
+/// The five figures that are computed, as the running computation shows them.
+void WriteRunningFigures(Program& program) {
+    const TotalsRecords& totals = program.totals;
+    const ShownTotals below = TotalsBelow(program, totals.SubTotal);
+    WriteFigure(program, kSubTotal, Shown(totals.SubTotal));
+    WriteFigure(program, kTaxable, Shown(totals.TaxableTotal));
+    WriteFigure(program, kTax, below.Tax);
+    WriteFigure(program, kTotal, below.Total);
+    WriteFigure(program, kBalance, below.Balance);
 }
 
 void WriteFullFigures(Program& program) {
@@ -113,7 +153,7 @@ void WriteFullFigures(Program& program) {
         }
         // What a client has paid stands whatever is left of the proposal.
         WriteDeposit(program);
-        WriteFigure(program, kBalance, Shown(totals.Balance));
+        WriteFigure(program, kBalance, TotalsBelow(program, totals.FullSubTotal).Balance);
         return;
     }
     WriteFigure(program, kSubTotal, Shown(totals.FullSubTotal));
@@ -122,7 +162,7 @@ void WriteFullFigures(Program& program) {
     // No pattern here: after a recalculation the total stands bare until the next running update.
     WriteFigure(program, kTotal, numbers::PlainNumber(totals.Total));
     WriteDeposit(program);
-    WriteFigure(program, kBalance, Shown(totals.Balance));
+    WriteFigure(program, kBalance, TotalsBelow(program, totals.FullSubTotal).Balance);
 }
 
 void ComputeRunning(TotalsRecords& totals) {
@@ -205,11 +245,7 @@ void UpdateRunningTotals(Program& program) {
     }
     ComputeRunning(totals);
     TakeRunning(totals);
-    WriteFigure(program, kSubTotal, Shown(totals.SubTotal));
-    WriteFigure(program, kTaxable, Shown(totals.TaxableTotal));
-    WriteFigure(program, kTax, Shown(totals.SalesTax));
-    WriteFigure(program, kTotal, Shown(totals.Total));
-    WriteFigure(program, kBalance, Shown(totals.Balance));
+    WriteRunningFigures(program);
     Settle(program, totals.SubTotal);
     MirrorFigures(program);
 }
@@ -376,15 +412,11 @@ void TotalsAfterReading(Program& program) {
     totals.FullSubTotal = totals.SubTotal;
     totals.FullTaxableTotal = totals.TaxableTotal;
     const ScopedFlag writing(totals.InRunningUpdate);
+    WriteFigure(program, kDeposit, ShownDeposit(program, stored));
     if (!totals.TotalsHidden) {
-        WriteFigure(program, kSubTotal, Shown(totals.SubTotal));
-        WriteFigure(program, kTaxable, Shown(totals.TaxableTotal));
-        WriteFigure(program, kTax, Shown(totals.SalesTax));
-        WriteFigure(program, kTotal, Shown(totals.Total));
-        WriteFigure(program, kBalance, Shown(totals.Balance));
+        WriteRunningFigures(program);
         Settle(program, totals.SubTotal);
     }
-    WriteFigure(program, kDeposit, Shown(totals.Deposit));
     MirrorFigures(program);
     // What shows is what the proposal is compared with, also while the totals are hidden.
     const Page& page = program.pages[PageId::frmP6];

@@ -1,5 +1,8 @@
 #include "output/preview.h"
 
+#include "editing/fresh_figures.h"
+#include "money/shown_figures.h"
+#include "output/page_count.h"
 #include "output/print_page.h"
 #include "pages/page_geometry.h"
 #include "program/errors.h"
@@ -24,6 +27,12 @@ bool PreviewStands(const Program& program) {
 void TogglePreview(Program& program) {
     MainWindow& main = program.main;
     const bool start = !PreviewStands(program);
+    if (start) {
+        modFigures::TakeFresh(program);
+        if (!modTotals::MayShowFigures(program)) {
+            return;
+        }
+    }
     main.cmdPreview.Caption = start ? "Resume Editing" : "Print Preview";
     main[CommandId::mnuFilePrintPreview].Enabled = !start;
     main[CommandId::mnuFileResume].Enabled = start;
@@ -34,6 +43,9 @@ void TogglePreview(Program& program) {
     program.printing.PrintFormName = geometry::PageName(main.PageInFront);
     Guarded(program, "PrintTheForm", [&] {
         modPrint::PrepareDrawing(program);
+        // Headings and page numbers as they will be on paper.
+        modPageCount::CountPagesInUse(program);
+        modPageCount::SetPageNumbers(program);
         program.pages[main.PageInFront].InkShown = true;
     });
 }

@@ -3,6 +3,7 @@
 #include "base/guard.h"
 #include "base/paths.h"
 #include "editing/fresh_figures.h"
+#include "money/shown_figures.h"
 #include "output/frm_dialog.h"
 #include "output/page_count.h"
 #include "output/print_page.h"
@@ -13,6 +14,7 @@
 #include "program/windows.h"
 #include "proposal/file_names.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -50,12 +52,21 @@ void PrintOne(Program& program, const Page& sheet) {
     }
 }
 
+/// Whether one of the pages has the figures on it.
+bool HaveFigures(const std::vector<PageId>& pages) {
+    return std::any_of(pages.begin(), pages.end(), [](PageId page) { return !IsLinePage(page); });
+}
+
 /// One command is one job for a printer that makes a file, however many pages it prints.
 void PrintPages(Program& program, const std::vector<PageId>& pages) {
     if (program.printing.CommandRunning) {
         return;
     }
     const ScopedFlag running(program.printing.CommandRunning);
+    modFigures::TakeFresh(program);
+    if (HaveFigures(pages) && !modTotals::MayShowFigures(program)) {
+        return;
+    }
     Printers& printers = program.platform.printers;
     if (!printers.BeginCommand(CommandFor(program, pages))) {
         return;

@@ -6,6 +6,7 @@
 #include "base/text.h"
 #include "editing/columns.h"
 #include "editing/fresh_figures.h"
+#include "money/shown_figures.h"
 #include "money/totals.h"
 #include "output/page_count.h"
 #include "output/proposal_text.h"
@@ -86,14 +87,17 @@ private:
     std::string told_;
 };
 
-void TakeFigures(Program& program) {
+/// Whether the text may go out with the figures as they are.
+bool TakeFigures(Program& program) {
     modFigures::TakeFresh(program);
     modColumns::CollectLines(program);
     modPageCount::CountPagesInUse(program);
     if (!program.totals.TotalsHidden && modTotals::TotalsDiffer(program)) {
         program.totals.TotalsStale = true;
         program.platform.questions.MsgBox(modTotals::DiscrepancyMessage(), Buttons::Ok, "");
+        return true; // the person knows
     }
+    return modTotals::MayShowFigures(program);
 }
 
 /// Whether the text may be written under the proposal's name; asks and tells what there is to ask and tell.
@@ -197,7 +201,9 @@ void SaveFileAsText(Program& program) {
     Guarded(program, "SaveFileAsText", [&] {
         // What a run that broke off has left; a file that cannot be deleted is told where it is written.
         static_cast<void>(DropScratchFile(program));
-        TakeFigures(program);
+        if (!TakeFigures(program)) {
+            return;
+        }
         if (state.ExportToClipboard || state.ExportToWord) {
             state.ExportFileName = kScratchFile;
         }

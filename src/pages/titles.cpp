@@ -123,6 +123,25 @@ void SetPageHeading(Program& program, const char* what) {
     program.document.PageHeading = program.settings.PageTitles.empty()
                                        ? program.settings.CompanyName + " - " + what + " - "
                                        : program.settings.PageTitles;
+    LayHeading(program);
+}
+
+void LayHeading(Program& program) {
+    if (!PagesAreBuilt(program)) {
+        return;
+    }
+    constexpr std::string_view kNumber = "Page ";
+    for (const PageId page : kAllPages) {
+        PageLabel& heading = program.pages[page].lbl[0];
+        const std::size_t number = heading.Caption.rfind(kNumber);
+        if (page == PageId::frmP1 || number == std::string::npos) {
+            continue;
+        }
+        std::string words = program.document.PageHeading + heading.Caption.substr(number);
+        if (words != heading.Caption) {
+            SetTitleWords(program, page, 0, heading, std::move(words));
+        }
+    }
 }
 
 } // namespace modTitles

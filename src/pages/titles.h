@@ -38,4 +38,7 @@ void Centre(const Program& program, PageLabel& label);
 /// - ".
 void SetPageHeading(Program& program, const char* what);
 
+/// The heading in force before the page numbers that stand, as it will be printed.
+void LayHeading(Program& program);
+
 } // namespace modTitles

@@ -86,6 +86,12 @@ std::string Encode(const Fields& fields, const Widths& widths) {
     return bytes;
 }
 
+bool IsCutShort(std::uintmax_t length) {
+    return length < kFileLength &&
+           std::none_of(kLegacy.begin(), kLegacy.end(),
+                        [length](const LegacyLength& legacy) { return legacy.Length == length; });
+}
+
 Decoded Decode(std::string_view bytes, std::uintmax_t length, const Widths& widths) {
     const LegacyWidths file = WidthsForLength(length);
     Decoded decoded;

@@ -30,6 +30,9 @@ struct LegacyWidths {
     int Description = 120;
 };
 [[nodiscard]] LegacyWidths WidthsForLength(std::uintmax_t length);
+/// Whether a file of that length is one that was cut short: shorter than what is written, and of no older
+/// layout.
+[[nodiscard]] bool IsCutShort(std::uintmax_t length);
 
 /// The file's bytes. Each field goes through a 120-byte buffer, so a marked text of full width loses its last
 /// character and 100 spaces follow the last field.

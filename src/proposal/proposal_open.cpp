@@ -173,6 +173,22 @@ void SettleLogo(Program& program) {
     modLogo::SettleLogoVisibility(program);
 }
 
+/// What is missing of a file shows as blank and counts as nothing, a deposit too: the person must know, and
+/// the file itself is kept by the save that replaces it.
+void TellCutShort(Program& program, const RawProposal& raw) {
+    if (!proposal::IsCutShort(raw.Length)) {
+        return;
+    }
+    const std::string name = program.document.FileName;
+    program.document.SavedFile = {files::Seen::What::Unread, 0, 0};
+    program.platform.questions.MsgBox(
+        text::Lines({"The file " + name + " is cut short: it has " + std::to_string(raw.Length) + " of " +
+                         std::to_string(proposal::kFileLength) + " bytes.",
+                     "What is missing shows as blank, and amounts and the deposit among it as 0.00.",
+                     "The first save keeps the file as it is now under the name " + name + ".unread."}),
+        Buttons::Ok, "");
+}
+
 } // namespace
 
 RawProposal ReadProposal(const Program& program, std::string_view path) {
@@ -219,6 +235,7 @@ void ShowProposal(Program& program, std::string_view fileName, const RawProposal
         program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
     }
     document.HasClient = true;
+    TellCutShort(program, raw);
 }
 
 OpenResult OpenEventFile(Program& program, std::string_view fileName) {

@@ -2,6 +2,7 @@
 
 #include "base/files.h"
 #include "base/paths.h"
+#include "money/shown_figures.h"
 #include "money/totals.h"
 #include "pages/fields.h"
 #include "pages/titles.h"
@@ -32,7 +33,8 @@ void GoToClientName(Program& program) {
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, kClientName});
 }
 
-void CompareTotals(Program& program) {
+/// Whether the proposal may be saved with the figures as they are.
+bool MaySaveFigures(Program& program) {
     if (program.hooks.TakeFreshFigures) {
         program.hooks.TakeFreshFigures(program);
     } else {
@@ -41,7 +43,9 @@ void CompareTotals(Program& program) {
     if (modTotals::TotalsDiffer(program)) {
         program.totals.TotalsStale = true;
         program.platform.questions.MsgBox(modTotals::DiscrepancyMessage(), Buttons::Ok, "");
+        return true; // the person knows
     }
+    return modTotals::MayShowFigures(program);
 }
 
 bool Refused(Program& program) {
@@ -129,7 +133,9 @@ void SavingSteps(Program& program, SaveResult& result) {
     if (program.hooks.CloseLabelWindow) {
         program.hooks.CloseLabelWindow(program);
     }
-    CompareTotals(program);
+    if (!MaySaveFigures(program)) {
+        return;
+    }
     const bool first = !document.FileExists && !document.FromBackup;
     Place place(program);
     if (!NameIsSettled(program)) {

@@ -361,6 +361,9 @@ bool SaveUserPreferences(Program& program) {
         written = modRewrite::Rewrite(program, PathOf(program), BytesOf(settings.Lines),
                                       settings.SettingsFile, "settings file") == modRewrite::Rewriting::Done;
     });
+    if (done && written) {
+        TellSaved(program, "Settings", PathOf(program));
+    }
     return done && written;
 }
 
@@ -373,7 +376,6 @@ bool Store(Program& program, std::initializer_list<Change> changes) {
         program.settings.Lines = before;
         return false;
     }
-    TellSaved(program, "Settings", PathOf(program));
     return true;
 }
 

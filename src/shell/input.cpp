@@ -139,6 +139,16 @@ void FieldKeyPress(Program& program, const FieldRef& field, int& keyAscii) {
     }
 }
 
+/// A key that a box for figures does not take is told: (30) would stand as 30 otherwise, and 1e3 as 13.
+void TellFiltered(Program& program, const FieldRef& field, int keyAscii) {
+    if (keyAscii <= keys::kBlank || !IsFiltered(field) || !MayEdit(program, field)) {
+        return;
+    }
+    program.main.Notice = "\"" + std::string(1, static_cast<char>(keyAscii)) + "\" was not taken: " +
+                          (IsText(field) ? "an amount takes digits, comma, point and minus."
+                                         : "quantity and unit price take digits, comma and point.");
+}
+
 void FieldKeyUp(Program& program, const FieldRef& field, int keyCode, int shift) {
     if (!IsText(field)) {
         return; // nothing follows a key let go in a row's box
@@ -183,6 +193,9 @@ int KeyPress(Program& program, int keyAscii) {
     const FieldRef field = *focus;
     int kept = keyAscii;
     FieldKeyPress(program, field, kept);
+    if (kept == 0) {
+        TellFiltered(program, field, keyAscii);
+    }
     program.editing.Typed.Character = kept >= keys::kBlank;
     return kept;
 }

@@ -5,13 +5,9 @@
 #include "base/text.h"
 #include "program/program.h"
 
-namespace {
-
-std::string PathOf(const Program& program) {
+std::string PersonalDictionary::PathOf(const Program& program) {
     return paths::Join(program.folders.InstallFolder, "PersonalDictionary.txt");
 }
-
-} // namespace
 
 void PersonalDictionary::Read(const Program& program) {
     const std::string path = PathOf(program);

@@ -12,6 +12,7 @@ public:
     /// Reads the file; one that is not there is empty. Throws files::FileError when it cannot be read; the
     /// words are then as before.
     void Read(const Program& program);
+    [[nodiscard]] static std::string PathOf(const Program& program);
     /// Whether the word stands there, as it is or in lower case.
     [[nodiscard]] bool Knows(std::string_view word) const;
     /// Adds or takes away a word of the file as it stands at this moment: what the person, or a program

@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/saved_notice.h"
 #include "program/windows.h"
 #include "spelling/frm_spelling.h"
 #include "spelling/spelling_walk.h"
@@ -122,6 +123,7 @@ void SpellingService::AddWord() {
     if (!Guarded(program_, "AddToDictionary", [&] { personal_.Add(program_, Word()); })) {
         return;
     }
+    TellSaved(program_, "Personal dictionary", PersonalDictionary::PathOf(program_));
     Remember(Step::Add);
     from_ = word_.Start + word_.Length;
     NextWord();

@@ -6,6 +6,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "program/saved_notice.h"
 #include "proposal/file_names.h"
 #include "terms/term_list.h"
 
@@ -87,6 +88,7 @@ void CreateNewFUTFile(Program& program) {
         Guarded(program, "CreateNewFUTFile", [&] { files::WriteWhole(PathOf(program, name), ""); });
     if (made) {
         OpenList(program, name);
+        TellSaved(program, "Terms list", PathOf(program, name));
     }
 }
 

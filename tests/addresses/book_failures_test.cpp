@@ -40,20 +40,28 @@ struct ThreeRecords : AddressRun {
     }
 };
 
-/// Plays `act` once for every call that it makes of each kind, with that call failing once, then with it and
-/// all later ones failing.
+/// Plays `act` for every call that it makes of each kind, with that call failing once by each error, then
+/// with it and all later ones failing.
 template <typename Act> int ForEveryFailure(Act act) {
     int tried = 0;
     for (const Call call : kCalls) {
         for (const int times : {1, FailingDisk::kForever}) {
             constexpr int kMost = 200;
-            for (int nth = 1; nth <= kMost; ++nth) {
-                SCOPED_TRACE("call " + std::to_string(static_cast<int>(call)) + ", the " +
-                             std::to_string(nth) + (times == 1 ? "th" : "th and all later"));
-                if (!act(FailingDisk::Failure{call, nth, call == Call::Write ? ENOSPC : EIO, times})) {
-                    break;
+            bool met = true;
+            for (int nth = 1; nth <= kMost && met; ++nth) {
+                for (const int error : {ENOSPC, EIO, EACCES, EROFS, EDQUOT, EINTR}) {
+                    if (times > 1 && error != (call == Call::Write ? ENOSPC : EIO)) {
+                        continue;
+                    }
+                    SCOPED_TRACE("call " + std::to_string(static_cast<int>(call)) + ", the " +
+                                 std::to_string(nth) + (times == 1 ? "th" : "th and all later") + ", error " +
+                                 std::to_string(error));
+                    met = act(FailingDisk::Failure{call, nth, error, times});
+                    if (!met) {
+                        break;
+                    }
+                    ++tried;
                 }
-                ++tried;
             }
         }
     }

@@ -35,6 +35,7 @@ TEST(CompanyInfo, SavingWritesTheSettingsAndThePages) {
     run.Type(1, "9 Mill Rd");
     run.Type(6, "birch.example\r\nx");
     run.Window().cmdSave_Click(run.program);
+    EXPECT_EQ(run.program.main.Notice, "Settings saved: " + (run.folder / "UserPreferences.txt"));
     EXPECT_FALSE(run.IsOpen());
     EXPECT_NE(run.Settings().find("Company Name:Birch & Sons\r\n"), std::string::npos);
     EXPECT_NE(run.Settings().find("Company Address 1:9 Mill Rd\r\n"), std::string::npos);

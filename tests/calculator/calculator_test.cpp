@@ -163,6 +163,12 @@ TEST(Calculator, NothingButTheLineOfTheKeysGetsThrough) {
     }
 }
 
+TEST(Calculator, ACommaIsToldAndNotDroppedInSilence) {
+    CalcRun run;
+    EXPECT_EQ(run.Calc().txtE_KeyPress(run.program, ','), 0);
+    EXPECT_EQ(run.program.main.Notice, "The calculator takes no comma: write 1.5 for one and a half.");
+}
+
 TEST(Calculator, APercentageThatComesByOtherMeansIsTold) {
     CalcRun run;
     run.Calc().txtE_Change("10%=", 4, frmCalc::By::Other);

@@ -55,6 +55,21 @@ TEST(MessageBox, ThatNobodyAskedForTakesNoKeyInItsFirstHalfSecond) {
     EXPECT_FALSE(run.box.isVisible());
 }
 
+TEST(MessageBox, ThatNobodyAskedForIsNotAnsweredByRunningTyping) {
+    Box run(Came::Unasked);
+    auto* yes = run.box.button(QMessageBox::Yes);
+    yes->setFocus();
+    for (int key = 0; key < 6; ++key) { // beyond the first half second
+        QTest::qWait(100);
+        QTest::keyClick(yes, Qt::Key_Space);
+    }
+    QTest::qWait(150); // a pressed button is animated
+    EXPECT_TRUE(run.box.isVisible());
+    QTest::qWait(400);
+    QTest::keyClick(&run.box, Qt::Key_Escape);
+    EXPECT_FALSE(run.box.isVisible());
+}
+
 TEST(MessageBox, IsAsWideAsItsLinesAndNoWiderThanTheScreen) {
     const QString line(
         QStringLiteral("Text cannot be recognized as a date and will become useless for managing "

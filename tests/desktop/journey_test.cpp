@@ -1,5 +1,6 @@
 #include "desktop/desktop_run.h"
 #include "desktop/frm_file_view.h"
+#include "desktop/mnemonics.h"
 #include "support/running_program.h"
 
 #include <QClipboard>
@@ -324,12 +325,13 @@ TEST(Preview, ShowsInkAndResumesWithEverythingInItsPlace) {
     DesktopRun run;
     run.Type(QStringLiteral("January 21, 2008"));
     run.Press(Qt::Key_R, Qt::ControlModifier);
-    EXPECT_EQ(run.Find<QPushButton>("cmdPreview")->text(), QStringLiteral("Resume Editing"));
+    EXPECT_EQ(mnemonics::Plain(run.Find<QPushButton>("cmdPreview")->text()),
+              QStringLiteral("Resume Editing"));
     EXPECT_FALSE(run.Field(Text(PageId::frmP1, 0)).isVisible());
     EXPECT_TRUE(run.program.pages[PageId::frmP1].txt[0].Visible);
     run.window->MenuTree().Action(CommandId::mnuFileResume)->trigger();
     EXPECT_TRUE(run.Field(Text(PageId::frmP1, 0)).isVisible());
-    EXPECT_EQ(run.Find<QPushButton>("cmdPreview")->text(), QStringLiteral("Print Preview"));
+    EXPECT_EQ(mnemonics::Plain(run.Find<QPushButton>("cmdPreview")->text()), QStringLiteral("Print Preview"));
 }
 
 TEST(Closing, AsksAboutUnsavedTextAndYesKeepsTheProgramOpen) {

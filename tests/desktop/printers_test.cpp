@@ -1,7 +1,9 @@
 #include "base/files.h"
 #include "desktop/desktop_run.h"
+#include "desktop/mnemonics.h"
 #include "output/print.h"
 #include "program/windows.h"
+#include "support/failing_disk.h"
 #include "support/small_disk.h"
 
 #include <QDialog>
@@ -18,6 +20,8 @@
 #include <QTimer>
 
 #include <gtest/gtest.h>
+
+#include <cerrno>
 
 namespace {
 
@@ -244,6 +248,45 @@ TEST(Paper, AnOlderPdfOutlivesAFullDisk) {
     EXPECT_EQ(older.readAll(), "last year's");
 }
 
+TEST(Paper, IsOldOrNewAndWholeWhateverErrorStopsIt) {
+    using Call = FailingDisk::Call;
+    Press press;
+    const std::string path = press.folder / "out.pdf";
+    int failures = 0;
+    for (const Call call : {Call::Open, Call::Read, Call::Write, Call::SetLength, Call::GiveMode, Call::Flush,
+                            Call::Close, Call::Rename}) {
+        bool met = true;
+        for (int nth = 1; met; ++nth) {
+            for (const int error : {ENOSPC, EIO, EACCES, EROFS, EDQUOT, EINTR}) {
+                SCOPED_TRACE("call " + std::to_string(static_cast<int>(call)) + ", the " +
+                             std::to_string(nth) + "th, error " + std::to_string(error));
+                press.folder.Write("out.pdf", "last year's");
+                EXPECT_TRUE(press.printers.BeginCommand({path}));
+                press.Paper().Print("new");
+                press.Paper().EndDoc();
+                bool told = false;
+                {
+                    const FailingDisk disk{{call, nth, error, 1}};
+                    try {
+                        press.printers.EndCommand();
+                    } catch (const files::FileError&) {
+                        told = true;
+                    }
+                    met = disk.Failed() > 0;
+                }
+                const std::string now = press.folder.Read("out.pdf");
+                const bool whole = now.starts_with("%PDF") && now.find("%%EOF") != std::string::npos;
+                ASSERT_TRUE(told ? now == "last year's" : whole) << now.substr(0, 20);
+                if (!met) {
+                    break;
+                }
+                ++failures;
+            }
+        }
+    }
+    EXPECT_GE(failures, 6 * 5);
+}
+
 TEST(Paper, AFileGetsTheEndingOfAPdf) {
     Press press;
     press.pdf = QString::fromStdString(press.folder / "mine");
@@ -397,7 +440,8 @@ TEST(Printing, IsDrawnIntoAPreviewThatIsUp) {
     const QImage after = page.grab().toImage();
     EXPECT_NE(before, after) << "the page's number is another one now";
     EXPECT_EQ(run.program.pages[PageId::frmP1].lbl[31].Caption, "Page 1 of 2");
-    EXPECT_EQ(run.Find<QPushButton>("cmdPreview")->text(), QStringLiteral("Resume Editing"));
+    EXPECT_EQ(mnemonics::Plain(run.Find<QPushButton>("cmdPreview")->text()),
+              QStringLiteral("Resume Editing"));
     EXPECT_FALSE(run.Field({PageId::frmP1, FieldKind::txt, 0}).isVisible());
 }
 

@@ -145,7 +145,8 @@ TEST(WindowPreview, TheButtonBesideItsOwnDoesNotMove) {
     const QPoint before = run.Child("cmdReCalc")->pos();
     QTest::mouseClick(run.Child("cmdPreview"), Qt::LeftButton);
     QTest::qWait(20);
-    EXPECT_EQ(run.Find<QPushButton>("cmdPreview")->text(), QStringLiteral("Resume Editing"));
+    EXPECT_EQ(mnemonics::Plain(run.Find<QPushButton>("cmdPreview")->text()),
+              QStringLiteral("Resume Editing"));
     EXPECT_EQ(run.Child("cmdReCalc")->pos(), before);
     QTest::mouseClick(run.Child("cmdPreview"), Qt::LeftButton);
 }
@@ -227,6 +228,47 @@ TEST(Mnemonics, KeepTheLetterTheyHaveAndLeaveTheMenusTheirs) {
     EXPECT_EQ(sign.text(), QStringLiteral("+"));
     EXPECT_EQ(again.text(), QStringLiteral("As&k again"));
     EXPECT_EQ(help.shortcut(), QKeySequence(Qt::Key_F1));
+}
+
+TEST(ChooserOnScreen, LettersTypedInOneGoGatherToTheBeginningOfAName) {
+    DesktopRun run;
+    for (const char* name : {"AA Adams", "AB Brown", "Abel", "Bob"}) {
+        run.folder.Write(std::string("Proposals/") + name + ".hef", std::string(20630, ' '));
+    }
+    run.Press(Qt::Key_O, Qt::ControlModifier);
+    auto* view = run.window->findChild<FrmFileView*>(QStringLiteral("frmFile"));
+    ASSERT_NE(view, nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(view));
+    auto* files = view->findChild<FileTable*>(QStringLiteral("FileList1"));
+    const auto chosen = [&](const char* letters) {
+        QTest::keyClicks(files, QLatin1String(letters));
+        const QString name = files->currentItem() == nullptr ? QString() : files->currentItem()->text(0);
+        QTest::qWait(QApplication::keyboardInputInterval() + 20); // the next letter begins anew
+        return name;
+    };
+    EXPECT_EQ(chosen("aa"), QStringLiteral("AA Adams.hef"));
+    EXPECT_EQ(chosen("abe"), QStringLiteral("Abel.hef"));
+    EXPECT_EQ(chosen("a"), QStringLiteral("AA Adams.hef")) << "the next one with it, and around";
+    EXPECT_EQ(chosen("bb"), QStringLiteral("Bob.hef")) << "no name begins so: the next one with b";
+    QTest::keyClick(view, Qt::Key_Escape);
+}
+
+TEST(MainStrip, GivesEveryCommandButtonALetterThatNoMenuHas) {
+    DesktopRun run;
+    const QString menus = mnemonics::LettersOf(*run.window->menuBar());
+    QString letters;
+    for (const char* name : {"cmdPreview", "cmdReCalc", "cmdTaxRate", "cmdClearMem"}) {
+        const QString caption = run.Find<QPushButton>(name)->text();
+        const qsizetype mark = caption.indexOf(u'&');
+        ASSERT_GE(mark, 0) << name;
+        const QChar letter = caption.at(mark + 1).toLower();
+        EXPECT_FALSE(menus.contains(letter)) << name;
+        EXPECT_FALSE(letters.contains(letter)) << name;
+        letters += letter;
+    }
+    QTest::mouseClick(run.Child("cmdPreview"), Qt::LeftButton);
+    EXPECT_TRUE(run.Find<QPushButton>("cmdPreview")->text().contains(u'&')) << "Resume Editing, too";
+    QTest::mouseClick(run.Child("cmdPreview"), Qt::LeftButton);
 }
 
 TEST(ChooserColumnsOnScreen, AreSortedByTheirHeadsAndTakeTypedLetters) {

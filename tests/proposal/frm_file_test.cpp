@@ -25,7 +25,7 @@ struct Choosing : RunningProgram {
         folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
         folder.Write("Proposals/Ann.hef", ReadTestData("jane_roe/Jane Roe.hef"));
         folder.Write("Proposals/notes.txt", "x");
-        folder.Write("Proposals/Old.hwf", "x");
+        folder.Write("Proposals/Old.hwf", ReadTestData("jane_roe/Jane Roe.hef"));
         folder.MakeFolder("Proposals/2008");
     }
     frmFile& Show() {
@@ -282,6 +282,7 @@ TEST(Chooser, HostileFilesOpenAsProposalsOfBlanks) {
     run.folder.Write("Proposals/empty.hef", "");
     run.folder.Write("Proposals/huge.hef", "");
     std::filesystem::resize_file(run.folder / "Proposals/huge.hef", std::uintmax_t{1} << 30U);
+    run.surroundings.questions.Expect("The file empty.hef is cut short: it has 0 of 20630 bytes.");
     for (const std::string name : {"empty.hef", "huge.hef"}) {
         frmFile& window = run.Show();
         run.Select(window, name);

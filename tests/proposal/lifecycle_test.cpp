@@ -201,8 +201,10 @@ TEST(New, LaysTheContractsHeadingAndTheTwoLabels) {
     run.Label(PageId::frmP1, 9).Caption = "other";
     modProposal::mnuFileNew_Click(run.program);
     EXPECT_EQ(run.program.document.PageHeading, "Acme Events - Contract Proposal - ");
-    // The labels were laid before; they follow when the page numbers are set.
-    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Acme Events - Event Proposal - Page 2");
+    // The screen shows what paper will.
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Acme Events - Contract Proposal - Page 2");
+    EXPECT_EQ(run.Label(PageId::frmP6, 0).Caption, "Acme Events - Contract Proposal - Page 7");
+    EXPECT_EQ(run.Label(PageId::frmP6_1, 0).Caption, "Acme Events - Contract Proposal - Page 7");
     EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Event Date");
     EXPECT_EQ(run.Label(PageId::frmP1, 10).Caption, "Event Time");
     EXPECT_EQ(run.Label(PageId::frmP1, 10).Left, 10080.0F);

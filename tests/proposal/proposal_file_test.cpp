@@ -193,6 +193,9 @@ class LegacySizes : public testing::TestWithParam<Legacy> {};
 TEST_P(LegacySizes, AreReadAtTheirOwnWidths) {
     RunningProgram run;
     const Legacy legacy = GetParam();
+    if (legacy.Length == 17881) {
+        run.surroundings.questions.Expect("is cut short: it has 17881 of 20630 bytes."); // of no layout
+    }
     ASSERT_EQ(
         Open(run, FileWith({{50, "Ann"}, {legacy.SecondPage, "First line"}, {legacy.SecondPageAmounts, "25"}},
                            legacy.Length)),
@@ -276,6 +279,7 @@ TEST(OpeningAProposal, OfAnyShortLengthIsReadAsFarAsItGoes) {
     const std::string whole = ReadTestData("jane_roe/Jane Roe.hef");
     for (const std::size_t length :
          {0UL, 1UL, 24UL, 25UL, 52UL, 1731UL, 1750UL, 1931UL, 5891UL, 20409UL, 20490UL, 20628UL, 20629UL}) {
+        run.surroundings.questions.Expect("is cut short");
         ASSERT_EQ(Open(run, whole.substr(0, length)), modFile::OpenResult::Opened) << length;
         EXPECT_EQ(run.TextOf(PageId::frmP1, 2), length < 52    ? ""
                                                 : length == 52 ? "Ja"
@@ -295,6 +299,36 @@ TEST(OpeningAProposal, WhatCannotBeReadLeavesEverythingAsItWas) {
         EXPECT_EQ(run.TextOf(PageId::frmP1, 3), "kept");
     }
     EXPECT_NE(run.folder.Read("Error.log").find("Error Number: 53"), std::string::npos);
+}
+
+TEST(OpeningAProposal, ThatIsCutShortIsToldAndItsFileIsKeptByTheSaveThatReplacesIt) {
+    RunningProgram run;
+    const std::string cut =
+        FileWith({{50, "Ann"}, {1730, "100"}, {20490, "30.00"}}).substr(0, 20489); // just before the deposit
+    run.surroundings.questions.ExpectBox(
+        {"The file A.hef is cut short: it has 20489 of 20630 bytes.\r\n"
+         "What is missing shows as blank, and amounts and the deposit among it as 0.00.\r\n"
+         "The first save keeps the file as it is now under the name A.hef.unread.",
+         Buttons::Ok, ""},
+        Answer::Ok);
+    ASSERT_EQ(Open(run, cut), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "Ann");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "0.00");
+    for (int save = 0; save < 2; ++save) {
+        run.surroundings.questions.Expect("File was saved as A.hef");
+        EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+        EXPECT_EQ(run.folder.Read("Proposals/A.hef.unread"), cut);
+        EXPECT_FALSE(run.folder.Has("Proposals/A.hef.unread2"));
+        EXPECT_EQ(run.folder.Read("Proposals/A.hef").size(), 20630U);
+    }
+}
+
+TEST(OpeningAProposal, OfAWholeOrAnOlderLengthSaysNothing) {
+    for (const std::size_t length : {20630U, 20631U, 17880U, 17770U, 17170U}) {
+        RunningProgram run;
+        ASSERT_EQ(Open(run, FileWith({{50, "Ann"}}, length)), modFile::OpenResult::Opened) << length;
+        EXPECT_TRUE(run.surroundings.questions.Shown.empty()) << length;
+    }
 }
 
 TEST(OpeningAProposal, AGigabyteOfNulsCostsOnlyWhatTheLayoutNeeds) {

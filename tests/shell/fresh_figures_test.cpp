@@ -124,6 +124,17 @@ TEST(FreshFigures, FocusAndCursorStay) {
     EXPECT_EQ(run.Area(PageId::frmP1, 22).SelLength, 8) << "all of it stays marked";
 }
 
+TEST(FreshFigures, TheStripTellsWhereTheCursorIsThen) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 20);
+    typist.Type("1250");
+    EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 4");
+    modFigures::TakeFresh(run.program);
+    ASSERT_EQ(run.TextOf(PageId::frmP1, 20), "1,250.00");
+    EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 5");
+}
+
 TEST(FreshFigures, TheOnlyAmountOfAProposalIsOnItsContract) {
     RunningProgram run;
     Typist typist(run.program);

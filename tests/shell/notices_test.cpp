@@ -1,6 +1,7 @@
 #include "shell/notice_strip.h"
 
 #include "output/print.h"
+#include "program/keys.h"
 #include "program/saved_notice.h"
 #include "proposal/proposal_save.h"
 #include "settings/printer_offsets.h"
@@ -8,6 +9,7 @@
 #include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
+#include "terms/list_files.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +33,38 @@ TEST(Notice, StaysUntilItHasBeenOnShowForFiveSecondsOfActivity) {
     EXPECT_NE(strip.Text(), "");
     strip.Activity(6000);
     EXPECT_EQ(strip.Text(), "");
+}
+
+TEST(Notice, TellsOfAKeyThatAnAmountDoesNotTake) {
+    RunningProgram run;
+    Typist typist(run.program);
+    const std::string takes = "\" was not taken: an amount takes digits, comma, point and minus.";
+    typist.Click(PageId::frmP1, 20);
+    typist.Type("(30)");
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 20), "30");
+    EXPECT_EQ(run.program.main.Notice, "\")" + takes);
+    typist.Click(PageId::frmP1, 21);
+    typist.Type("1e");
+    EXPECT_EQ(run.program.main.Notice, "\"e" + takes);
+    typist.Type("3");
+    EXPECT_EQ(run.program.main.Notice, "") << "the strip keeps it on show";
+    typist.Click(PageId::frmP6, 4);
+    typist.Type("(");
+    EXPECT_EQ(run.program.main.Notice, "\"(" + takes);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("(e");
+    EXPECT_EQ(run.program.main.Notice, "") << "a name takes every character";
+}
+
+TEST(Notice, TellsOfAKeyThatQuantityAndUnitPriceDoNotTake) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 0);
+    typist.Press(keys::kF8);
+    typist.Type("2-");
+    EXPECT_EQ(run.program.pages[PageId::frmP2].txtQty[0].Text, "2");
+    EXPECT_EQ(run.program.main.Notice,
+              "\"-\" was not taken: quantity and unit price take digits, comma and point.");
 }
 
 TEST(Notice, WaitsForAPersonWhoIsAway) {
@@ -98,6 +132,9 @@ TEST(SavedNotice, TellsWhatWasSavedAndWhere) {
               "Printer offsets saved: " + run.folder / "Proposals/PrinterOffsets.txt");
     person::Choose(run.program, CommandId::mnuOptSetDefaultFonts);
     EXPECT_EQ(run.program.main.Notice, "Settings saved: " + run.folder / "UserPreferences.txt");
+    run.surroundings.questions.ExpectInput("Starting New Frequent Terms File", "Barn");
+    modTerms::CreateNewFUTFile(run.program);
+    EXPECT_EQ(run.program.main.Notice, "Terms list saved: " + run.folder / "Proposals/Barn.fut");
     run.surroundings.questions.Expect("File was saved as ");
     person::Choose(run.program, CommandId::mnuFileSaveAsText);
     EXPECT_EQ(run.program.main.Notice, "Text saved: " + run.folder / "Proposals/Ann.txt");

@@ -197,6 +197,8 @@ TEST(SpellingWindow, AWordThatIsAddedIsKnownFromThenOn) {
     run.ExpectEnd();
     run.Window().cmdAdd_Click(run.program);
     EXPECT_EQ(run.folder.Read("PersonalDictionary.txt"), "zzyzx\r\n");
+    EXPECT_EQ(run.program.main.Notice,
+              "Personal dictionary saved: " + (run.folder / "PersonalDictionary.txt"));
     run.ExpectClosed();
     run.ExpectEnd();
     run.Start();

@@ -177,6 +177,29 @@ template <typename Float> std::string Money(Float value, Zero leading) {
     return (value < 0 && !nothing ? "-" : "") + whole + "." + digits.substr(digits.size() - 2);
 }
 
+/// A shown figure in hundredths; nothing above nine million millions.
+std::optional<long long> Hundredths(std::string text) {
+    std::erase(text, ',');
+    std::erase(text, '.');
+    constexpr std::size_t kDigits = 16;
+    constexpr long long kMost = 900'000'000'000'000;
+    if (text.size() > kDigits || std::abs(std::stoll(text)) > kMost) {
+        return std::nullopt;
+    }
+    return std::stoll(text);
+}
+
+/// Two shown figures, one added to the other or taken from it.
+std::optional<std::string> Added(const std::string& one, const std::string& other, long long sign) {
+    const std::optional<long long> first = Hundredths(one);
+    const std::optional<long long> second = Hundredths(other);
+    constexpr long long kMost = 900'000'000'000'000;
+    if (!first || !second || std::abs(*first) + std::abs(*second) > kMost) {
+        return std::nullopt;
+    }
+    return Money(static_cast<double>(*first + sign * *second) / 100, Zero::Written);
+}
+
 std::string Upper(std::string text) {
     std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::toupper(c); });
     return text;
@@ -666,7 +689,7 @@ bool ReferenceFlow::KeyPress(char character) {
     }
     if (IsFinal(field) && field.Index == 4 && (character == 13 || character == 9)) {
         if (EmptyOrNumber(area.Text)) {
-            Assign(field, Money(Deposit, Zero::Written));
+            Assign(field, DepositAsTyped());
         }
         RunningTotals();
         return false;
@@ -997,7 +1020,7 @@ void ReferenceFlow::LostFocus(const FieldRef& ref) {
     if (IsFinal(ref)) {
         if (Deposit + SubTotal + SalesTax + TaxableTotal != 0) {
             if (EmptyOrNumber(At(Txt(PageId::frmP6, 4)).Text)) {
-                Assign(Txt(PageId::frmP6, 4), Money(Deposit, Zero::Written));
+                Assign(Txt(PageId::frmP6, 4), DepositAsTyped());
             }
             RunningTotals();
         }
@@ -1052,6 +1075,13 @@ void ReferenceFlow::SumPage(PageId page) {
     }
 }
 
+/// The digits that stand in the field, as long as they are the figure that counts.
+std::string ReferenceFlow::DepositAsTyped() {
+    const std::optional<double> typed = Number(At(Txt(PageId::frmP6, 4)).Text);
+    return typed && static_cast<float>(*typed) == Deposit ? Money(*typed, Zero::Written)
+                                                          : Money(Deposit, Zero::Written);
+}
+
 void ReferenceFlow::RunningTotals() {
     const bool before = running_;
     running_ = true;
@@ -1064,11 +1094,16 @@ void ReferenceFlow::RunningTotals() {
     SalesTax = static_cast<float>(static_cast<double>(TaxableTotal) * (static_cast<double>(taxRate_) * 0.01));
     Total = SubTotal + SalesTax;
     Balance = Total - Deposit;
-    const std::array<float, 4> figures{SubTotal, TaxableTotal, SalesTax, Total};
+    // What is shown below the line is what a reader adds up from above it.
+    const std::string sum = Money(SubTotal, Zero::Written);
+    const std::string tax = Money(SalesTax, Zero::Written);
+    const std::string total = Added(sum, tax, 1).value_or(Money(Total, Zero::Written));
+    const std::string balance = Added(total, DepositAsTyped(), -1).value_or(Money(Balance, Zero::Written));
+    const std::array<std::string, 4> figures{sum, Money(TaxableTotal, Zero::Written), tax, total};
     for (int i = 0; i < 4; ++i) {
-        Assign(Txt(PageId::frmP6, i), Money(figures[static_cast<std::size_t>(i)], Zero::Written));
+        Assign(Txt(PageId::frmP6, i), figures[static_cast<std::size_t>(i)]);
     }
-    Assign(Txt(PageId::frmP6, 5), Money(Balance, Zero::Written));
+    Assign(Txt(PageId::frmP6, 5), balance);
     running_ = before;
     Stale = false;
 }
@@ -1195,7 +1230,7 @@ void ReferenceFlow::TypedAndLeft(const FieldRef& field, const std::string& figur
         }
         Product(field.Page, field.Index);
     } else if (IsFinal(field)) {
-        Assign(field, Money(Deposit, Zero::Written));
+        Assign(field, DepositAsTyped());
         RunningTotals();
         return;
     } else {

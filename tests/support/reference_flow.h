@@ -153,6 +153,7 @@ private:
 
     void SumPage(PageId page);
     void RunningTotals();
+    [[nodiscard]] std::string DepositAsTyped();
 
     std::array<Word, 6> words_;
     const TextMeasure& measure_;
