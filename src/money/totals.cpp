@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <limits>
 
 namespace modTotals {
@@ -118,18 +119,30 @@ void WriteDeposit(Program& program) {
 }
 
 /// Tax, total and balance, built from the shown figures above them: a reader who adds what stands on the
-/// sheet comes to what stands below. Singles alone can be a hundredth apart.
+/// sheet comes to what stands below. Singles alone can be a hundredth apart. Beyond what a single holds to
+/// the hundredth it stands as it is, and whoever shows it to others is told.
 struct ShownTotals {
     std::string Tax;
     std::string Total;
     std::string Balance;
 };
 
+bool HoldsHundredths(float single) {
+    constexpr float kMost = 131072; // a digit more, and the last place of a single is a sixty-fourth
+    return std::fabs(single) < kMost;
+}
+
 ShownTotals TotalsBelow(const Program& program, float subTotal) {
     const TotalsRecords& totals = program.totals;
     ShownTotals shown{Shown(totals.SalesTax), "", ""};
-    shown.Total = ShownSum(Shown(subTotal), shown.Tax).value_or(Shown(totals.Total));
-    shown.Balance = ShownDifference(shown.Total, ShownDeposit(program)).value_or(Shown(totals.Balance));
+    shown.Total = Shown(totals.Total);
+    if (HoldsHundredths(totals.Total)) {
+        shown.Total = ShownSum(Shown(subTotal), shown.Tax).value_or(shown.Total);
+    }
+    shown.Balance = Shown(totals.Balance);
+    if (HoldsHundredths(totals.Total) && HoldsHundredths(totals.Deposit)) {
+        shown.Balance = ShownDifference(shown.Total, ShownDeposit(program)).value_or(shown.Balance);
+    }
     return shown;
 }
 

@@ -17,7 +17,7 @@ struct CalendarRun : WindowRun {
         dates = &Open<frmDates>(CommandId::mnuViewEventDates, "frmDates");
     }
     void Proposal(const std::string& name, const std::string& date) const {
-        folder.Write("Proposals/" + name, date + std::string(25 - date.size(), ' ') + std::string(100, ' '));
+        folder.Write("Proposals/" + name, date + std::string(20630 - date.size(), ' '));
     }
     frmDates* dates = nullptr;
 };

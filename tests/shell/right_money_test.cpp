@@ -436,12 +436,13 @@ private:
         stray_ = sums.Stray;
         static constexpr std::array<const char*, 6> kNames{"subtotal", "taxable", "tax",
                                                            "total",    "deposit", "balance"};
-        if (const std::string wrong = Among(sheet); !wrong.empty()) {
-            return std::string(where) + ": " + wrong;
-        }
         const bool told = WasTold("not what the rows add up to") || WasTold("descrepancy");
+        const std::string among = Among(sheet);
+        if (!among.empty() && !told) {
+            return std::string(where) + ": " + among;
+        }
         Told += told ? 1 : 0;
-        bool strayed = false;
+        bool strayed = !among.empty();
         for (std::size_t at = 0; at < 6; ++at) {
             if (at == 4 && (sheet.Figures[4].empty() || !Cents(sheet.Figures[4]))) {
                 continue; // no deposit, or one that is no number and counts as nothing

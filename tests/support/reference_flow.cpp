@@ -1097,8 +1097,13 @@ void ReferenceFlow::RunningTotals() {
     // What is shown below the line is what a reader adds up from above it.
     const std::string sum = Money(SubTotal, Zero::Written);
     const std::string tax = Money(SalesTax, Zero::Written);
-    const std::string total = Added(sum, tax, 1).value_or(Money(Total, Zero::Written));
-    const std::string balance = Added(total, DepositAsTyped(), -1).value_or(Money(Balance, Zero::Written));
+    constexpr float kSevenDigits = 131072; // beyond it a single has no hundredths
+    const bool exact = std::abs(Total) < kSevenDigits;
+    const std::string plain = Money(Total, Zero::Written);
+    const std::string total = exact ? Added(sum, tax, 1).value_or(plain) : plain;
+    const std::string left = Money(Balance, Zero::Written);
+    const std::string balance =
+        exact && std::abs(Deposit) < kSevenDigits ? Added(total, DepositAsTyped(), -1).value_or(left) : left;
     const std::array<std::string, 4> figures{sum, Money(TaxableTotal, Zero::Written), tax, total};
     for (int i = 0; i < 4; ++i) {
         Assign(Txt(PageId::frmP6, i), figures[static_cast<std::size_t>(i)]);
