@@ -13,9 +13,8 @@ enum class Modality { Modeless, Modal };
 enum class Leaving { Proposal, Run };
 
 /// A small window of the program: its controls are records in the derived class, its handlers are members
-/// named
-/// `<control>_<event>`. Opening a window returns at once, also for a modal one: everything that follows from
-/// it happens in its handlers. While a modal window stands, the front end gives input to it alone.
+/// named `<control>_<event>`. Opening a window returns at once, also for a modal one: everything that follows
+/// from it happens in its handlers. While a modal window stands, the front end gives input to it alone.
 class Window {
 public:
     virtual ~Window() = default;
