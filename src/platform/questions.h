@@ -12,7 +12,7 @@ enum class Answer { Ok, Cancel, Yes, No };
 struct Manner {
     enum class Came {
         OnRequest, ///< the person has just done what it answers
-        Unasked    ///< in the middle of something else: it takes no key until there was none for half a second
+        Unasked ///< in the middle of something else: it takes no key until there was none for half a second
     };
     /// The button that Enter presses; the first one unless it is given. Where something is deleted,
     /// overwritten or thrown away it is the harmless one.

@@ -79,7 +79,8 @@ void ShowBackup(Program& program, const UnsavedWork& work, const modFile::RawPro
                             paths::Join(modFolders::BackupFolder(program), PropertiesBeside(work.Backup)));
     document.FileExists = saved.Exists;
     const bool savedWhole = saved.File.Was != files::Seen::What::Unread; // or it is kept when it is replaced
-    document.SavedFile = saved.Exists && savedWhole && work.Known.Was == files::Seen::What::Bytes ? work.Known : saved.File;
+    document.SavedFile =
+        saved.Exists && savedWhole && work.Known.Was == files::Seen::What::Bytes ? work.Known : saved.File;
     program.format.PropertyPath = paths::Join(work.Folder, PropertiesBeside(work.FileName));
     program.format.PropertySeen = files::LookAt(program.format.PropertyPath);
     document.SavedTextBuf = saved.Texts;
