@@ -6,15 +6,17 @@
 #include "base/guard.h"
 
 #include <algorithm>
-#include <atomic>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <deque>
+#include <mutex>
 #include <optional>
 #include <stop_token>
 #include <system_error>
 #include <thread>
 #include <utility>
+#include <vector>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -84,39 +86,77 @@ struct Wanted {
     FileHead Head;
 };
 
-/// Reads the heads of files whose `Bytes` have the room for them. What `goOn` lets run between them may take
-/// its time; a large folder is read on by a second thread meanwhile, which touches nothing but the files that
-/// it takes. False when `goOn` has ended it.
-bool ReadHeads(int folder, std::deque<Wanted>& files, const std::function<bool()>& goOn) {
-    constexpr std::size_t kAtOnce = 4, kWorthAThread = 1000;
-    std::atomic<std::size_t> next{0};
-    const auto takeSome = [&] {
-        const std::size_t first = next.fetch_add(kAtOnce);
-        const std::size_t end = std::min(first + kAtOnce, files.size());
-        for (std::size_t at = first; at < end; ++at) {
-            Wanted& file = files[at];
-            file.Head.Readable = ReadBeginning(folder, file.Native.c_str(), file.Head.Bytes);
+/// Reads the heads of files whose `Bytes` have the room for them. What runs between two of them may take its
+/// time; the files of a large folder are read by a second thread meanwhile, already while the folder is
+/// listed. It touches nothing but the files that it takes.
+class HeadReader {
+public:
+    explicit HeadReader(int folder) : folder_(folder) {}
+
+    /// A file that stays where it is until this is left.
+    void Add(Wanted& file) {
+        const std::scoped_lock lock(mutex_);
+        waiting_.push_back(&file);
+        if (waiting_.size() >= kWorthAThread && !second_.joinable() && mayStart_) {
+            StartSecond();
         }
-        return end < files.size() && first < end;
-    };
-    std::jthread second; // ends and is waited for wherever this is left
-    if (files.size() >= kWorthAThread) {
+    }
+
+    /// False when `goOn` has ended it.
+    [[nodiscard]] bool ReadAll(const std::function<bool()>& goOn) {
+        while (ReadSome() == Left::More) {
+            if (goOn && !goOn()) {
+                return false;
+            }
+        }
+        if (second_.joinable()) {
+            second_.request_stop();
+            second_.join(); // with what it has taken
+        }
+        return true;
+    }
+
+private:
+    enum class Left { None, More };
+    static constexpr std::size_t kAtOnce = 8, kWorthAThread = 1000;
+
+    Left ReadSome() {
+        std::array<Wanted*, kAtOnce> taken{};
+        std::size_t count = 0;
+        {
+            const std::scoped_lock lock(mutex_);
+            count = std::min(kAtOnce, waiting_.size() - next_);
+            std::copy_n(waiting_.begin() + static_cast<std::ptrdiff_t>(next_), count, taken.begin());
+            next_ += count;
+        }
+        for (std::size_t at = 0; at < count; ++at) {
+            Wanted& file = *taken[at];
+            file.Head.Readable = ReadBeginning(folder_, file.Native.c_str(), file.Head.Bytes);
+        }
+        return count == 0 ? Left::None : Left::More;
+    }
+
+    void StartSecond() {
         try {
-            second = std::jthread([&](const std::stop_token& stop) {
-                while (!stop.stop_requested() && takeSome()) {
+            second_ = std::jthread([this](const std::stop_token& stop) {
+                while (!stop.stop_requested()) {
+                    if (ReadSome() == Left::None) {
+                        std::this_thread::yield(); // the listing goes on
+                    }
                 }
             });
         } catch (const std::system_error&) {
-            // no thread to be had: it takes longer
+            mayStart_ = false; // no thread to be had: it takes longer
         }
     }
-    while (takeSome()) {
-        if (goOn && !goOn()) {
-            return false;
-        }
-    }
-    return true;
-}
+
+    int folder_;
+    std::mutex mutex_;
+    std::vector<Wanted*> waiting_;
+    std::size_t next_ = 0;
+    bool mayStart_ = true;
+    std::jthread second_; ///< the last member: it ends before what it works on
+};
 
 /// Null at the end alone: half a folder must not look like a whole one.
 const dirent* NextIn(DIR* listing, std::string_view folder) {
@@ -179,6 +219,7 @@ void ScanHeads(std::string_view folder, std::string_view ending, std::size_t mos
     const OnLeaving close([listing] { ::closedir(listing); });
     const int handle = ::dirfd(listing);
     std::deque<Wanted> wanted; // none of many is moved as it grows
+    HeadReader reader(handle);
     while (const dirent* entry = NextIn(listing, folder)) {
         if (goOn && !goOn()) {
             return;
@@ -192,12 +233,12 @@ void ScanHeads(std::string_view folder, std::string_view ending, std::size_t mos
         }
         FileHead head{std::move(*name), std::string(most, '\0'), true};
         if (most > 0) {
-            wanted.push_back({entry->d_name, std::move(head)});
+            reader.Add(wanted.emplace_back(Wanted{entry->d_name, std::move(head)}));
         } else if (!visit(std::move(head))) {
             return;
         }
     }
-    if (!ReadHeads(handle, wanted, goOn)) {
+    if (!reader.ReadAll(goOn)) {
         return;
     }
     for (Wanted& file : wanted) {

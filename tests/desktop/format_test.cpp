@@ -155,6 +155,7 @@ TEST(DesignerOnScreen, TheLabelModeNeedsNoMouse) {
 
 TEST(DesignerOnScreen, ThousandsOfFamiliesOpenAtOnceAndAreFoundByTyping) {
     std::vector<std::string> families;
+    families.reserve(2001);
     for (int index = 0; index < 2000; ++index) {
         families.push_back("Family " + std::to_string(index));
     }
