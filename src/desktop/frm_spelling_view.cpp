@@ -104,6 +104,7 @@ void FrmSpellingView::BuildButtons() {
              {"cmdCancel", spelling_.cmdCancel, &frmSpelling::cmdCancel_Click}}) {
         QPushButton* button = dialog::Button(this, entry.Name, entry.Record);
         button->setToolTip(convert::ToQString(entry.Record.ToolTipText));
+        button->setFocusPolicy(Qt::TabFocus); // a click leaves the keyboard in "Change to"
         column->addWidget(button);
         buttons_.emplace_back(button, entry.Click);
         if (entry.Click == &frmSpelling::cmdUndo_Click) {
@@ -249,5 +250,8 @@ void FrmSpellingView::Follow() {
     language_->setCurrentIndex(spelling_.cmbLanguage.ListIndex);
     tooLong_->setText(convert::ToQString(spelling_.lblTooLong.Caption).remove(QLatin1Char('\r')));
     tooLong_->setVisible(!spelling_.lblTooLong.Caption.empty());
+    if (undo_->hasFocus() && !spelling_.cmdUndo.Enabled) {
+        changeTo_->setFocus(); // and not the next button, which is Cancel
+    }
     undo_->setEnabled(spelling_.cmdUndo.Enabled);
 }

@@ -136,6 +136,7 @@ void WindowViews::Follow() {
         leaving_[at->first] = view;
         const QPointer<QWidget> opener = openers_[at->first];
         openers_.erase(at->first);
+        behind_.erase(at->first);
         at = views_.erase(at);
         const bool active = view->HasKeyboard();
         view->Leave();
@@ -166,6 +167,14 @@ void WindowViews::Follow() {
         mnemonics::Give(*view, byItself ? QString() : mnemonics::LettersOf(*main));
         if (fresh) {
             view->Open();
+        }
+        // A box that came as the window opened gives the keyboard to what had it before, the window below.
+        const QWidget* modal = QApplication::activeModalWidget();
+        const bool box = modal != nullptr && qobject_cast<const WindowView*>(modal) == nullptr;
+        if (fresh && box) {
+            behind_.insert(window.get());
+        } else if (!box && behind_.erase(window.get()) > 0) {
+            view->CallToFront();
         }
         view->AnswerCalls();
     }

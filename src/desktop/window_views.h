@@ -8,6 +8,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -28,6 +29,7 @@ public:
     virtual void Leave() { hide(); }
     /// Comes to the front when the model has called for it.
     void AnswerCalls();
+    void CallToFront() { TakeKeyboard(); }
     [[nodiscard]] virtual bool HasKeyboard() const { return isActiveWindow(); }
 
 protected:
@@ -70,6 +72,7 @@ private:
     std::function<void()> afterEvent_;
     std::map<Window*, std::unique_ptr<WindowView>> views_;
     std::map<const Window*, QPointer<QWidget>> openers_; ///< what had the keyboard when a window came
+    std::set<const Window*> behind_;                     ///< came while a box stood before them
     /// Hidden, and gone as soon as no event of theirs is on its way.
     std::map<Window*, QPointer<WindowView>> leaving_;
 };

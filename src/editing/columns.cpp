@@ -67,6 +67,20 @@ void TakeProduct(Program& program, PageId page, int row) {
                        numbers::Format(product, "###,###.00"));
 }
 
+/// On the way to "20,50" stood 20, and made an amount: what is no number in the end has changed nothing.
+void TakeBackProduct(Program& program, const FieldRef& field) {
+    const std::optional<BoxVisit>& visit = program.editing.Visit;
+    if (!visit || visit->Box != field || !geometry::IsDescription(field.Page, field.Index)) {
+        return;
+    }
+    const FieldRef amount = Description(field.Page, geometry::AmountOf(field.Page, field.Index));
+    if (modFields::Area(program, amount).Text == visit->Amount) {
+        return;
+    }
+    const ScopedFlag refiring(program.editing.RefireMode);
+    modFields::SetText(program, amount, visit->Amount);
+}
+
 bool HoldsPlaceholder(FieldKind kind, std::string_view value) {
     return value ==
            (kind == FieldKind::txtQty ? modPages::kQuantityPlaceholder : modPages::kPricePlaceholder);
@@ -89,6 +103,9 @@ void BoxChange(Program& program, const FieldRef& field) {
     }
     if (!program.editing.BlockMode) {
         TellNoNumber(program, field);
+        if (IsNoNumber(program, field.Kind, modFields::Area(program, field))) {
+            TakeBackProduct(program, field);
+        }
     }
     const PageId page = field.Page;
     const int row = field.Index;
@@ -244,6 +261,11 @@ void Box_GotFocus(Program& program, const FieldRef& field) {
     }
     modFields::Area(program, field).BackColor = colors::kFocused;
     TellNoNumber(program, field);
+    if (geometry::IsDescription(field.Page, field.Index)) {
+        const int amount = geometry::AmountOf(field.Page, field.Index);
+        program.editing.Visit =
+            BoxVisit{field, modFields::Area(program, Description(field.Page, amount)).Text};
+    }
     program.main.ActivePage = field.Page;
     program.main.CurrentPage = IndexOf(field.Page);
 }

@@ -3,8 +3,10 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "pages/page_geometry.h"
+#include "pages/row_fields.h"
 #include "program/program.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -144,17 +146,77 @@ std::vector<Strayed> StrayedFigures(const Program& program) {
     return comparison.Found;
 }
 
-bool MayShowFigures(Program& program) {
-    const std::vector<Strayed> strayed = StrayedFigures(program);
-    if (strayed.empty()) {
-        return true;
-    }
+namespace {
+
+std::string StrayedMessage(const std::vector<Strayed>& strayed) {
     std::string message = text::Lines({"The amounts are too large to be added to the last digit.",
                                        "These figures are not what the rows add up to:"});
     for (const Strayed& figure : strayed) {
         message += text::kCrLf;
         message += std::string(figure.Figure) + " = " + figure.Shown + ", the rows give " +
                    (figure.RowsGive.empty() ? "more than can be added" : figure.RowsGive);
+    }
+    return message;
+}
+
+std::string UncountedMessage(const std::vector<std::string>& uncounted) {
+    constexpr std::size_t kTold = 10;
+    std::string message = "These are no numbers and count as nothing:";
+    for (std::size_t at = 0; at < std::min(uncounted.size(), kTold); ++at) {
+        message += text::kCrLf;
+        message += uncounted[at];
+    }
+    if (uncounted.size() > kTold) {
+        message += text::kCrLf;
+        message += "and " + std::to_string(uncounted.size() - kTold) + " more";
+    }
+    return message;
+}
+
+} // namespace
+
+std::vector<std::string> UncountedTexts(const Program& program) {
+    std::vector<std::string> found;
+    if (program.totals.TotalsHidden) {
+        return found;
+    }
+    const std::string& currency = program.settings.CurrencySymbol;
+    for (const PageId page : kLinePages) {
+        const Page& record = program.pages[page];
+        if (record.txt.empty()) {
+            continue;
+        }
+        for (int row = geometry::FirstRow(page); row <= geometry::LastRow(page); ++row) {
+            const auto look = [&](const TextArea& area, std::string_view placeholder, const char* what) {
+                const bool figure = area.Text.find_first_of("0123456789") != std::string::npos;
+                if (figure && text::Trim(area.Text) != placeholder &&
+                    numbers::IsNoNumber(area.Text, currency)) {
+                    found.push_back("Page " + std::to_string(IndexOf(page) + 1) + ", line " +
+                                    std::to_string(row - geometry::FirstRow(page) + 1) + what + ": " +
+                                    area.Text);
+                }
+            };
+            const auto at = static_cast<std::size_t>(row);
+            if (modPages::ColumnsOn(program, page, row)) {
+                look(record.txtQty[at], modPages::kQuantityPlaceholder, ", quantity");
+                look(record.txtAmt[at], modPages::kPricePlaceholder, ", unit price");
+            }
+            look(record.txt[static_cast<std::size_t>(geometry::AmountOf(page, row))], "", "");
+        }
+    }
+    return found;
+}
+
+bool MayShowFigures(Program& program) {
+    const std::vector<std::string> uncounted = UncountedTexts(program);
+    const std::vector<Strayed> strayed = StrayedFigures(program);
+    if (uncounted.empty() && strayed.empty()) {
+        return true;
+    }
+    std::string message = uncounted.empty() ? std::string() : UncountedMessage(uncounted);
+    if (!strayed.empty()) {
+        message += uncounted.empty() ? "" : text::Lines({"", "", ""});
+        message += StrayedMessage(strayed);
     }
     return program.platform.questions.MsgBox(message, Buttons::YesNo, "",
                                              {.Default = Answer::No, .Words = {"Go On", "Cancel"}}) ==

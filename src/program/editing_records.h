@@ -98,6 +98,12 @@ struct TypedKeys {
     }
 };
 
+/// The amount beside a quantity or unit price as it stood when the person came into the box.
+struct BoxVisit {
+    FieldRef Box;
+    std::string Amount;
+};
+
 /// One shared record, not one per page: nested changes of a push read and write it as it stands.
 struct EditingState {
     std::string CurrentText;
@@ -124,6 +130,7 @@ struct EditingState {
     BlockState Block;
     /// The amount whose text the person has taken away and not left yet: another may be typed in its place.
     std::optional<FieldRef> EmptiedAmount;
+    std::optional<BoxVisit> Visit;
     /// A suggested completion stands selected in the area; per page frmP1 to frmP5.
     PerLinePage<bool> ACActive;
     PerLinePage<WordState> Words;

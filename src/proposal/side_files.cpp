@@ -81,7 +81,8 @@ Known Read(const Program& program, std::string_view name, std::string_view proce
     }
     const std::string path = paths::Join(FolderOf(program, program.document), name);
     const bool done = Guarded(program, procedure, [&] {
-        known.There = files::Exists(path);
+        known.There =
+            files::Exists(path) || files::IsFolder(path); // a folder there cannot be read, and is told
         if (known.There) {
             known.Bytes = files::ReadAll(path);
             known.Seen = files::SeenIn(known.Bytes);

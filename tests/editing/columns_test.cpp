@@ -174,6 +174,29 @@ TEST(Boxes, WriteAPriceUnderItsPatternAndLeaveTheQuantityAlone) {
     EXPECT_EQ(run.TextOf(kSecond, 33), "3.50");
 }
 
+TEST(Product, OfAHalfTypedPriceGoesWhenThePriceIsNoNumberInTheEnd) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(kSecond, 0);
+    typist.Press(keys::kF8);
+    typist.Type("3");
+    typist.Click(Price(0));
+    typist.Type("19.99");
+    typist.Click(kSecond, 5);
+    EXPECT_EQ(run.TextOf(kSecond, 33), "59.97");
+    typist.Click(Price(0));
+    typist.PutCursor(0, 5);
+    typist.Type("20,50");
+    EXPECT_EQ(run.TextOf(kSecond, 33), "59.97") << "not 3 times the 20 that stood there for a moment";
+    typist.Click(kSecond, 5);
+    EXPECT_EQ(run.program.pages[kSecond].txtAmt[0].Text, "20,50");
+    EXPECT_EQ(run.TextOf(kSecond, 33), "59.97");
+    typist.Click(Price(0));
+    typist.PutCursor(2, 1);
+    typist.Type(".");
+    EXPECT_EQ(run.TextOf(kSecond, 33), "61.50");
+}
+
 TEST(Product, IsWrittenWithoutADigitBeforeThePointUntilTheAmountIsLeft) {
     RunningProgram run;
     Typist typist(run.program);

@@ -77,6 +77,9 @@ TEST(NoNumber, AnIntermediateNumberCountsNoLonger) {
         EXPECT_EQ(run.program.totals.AmountTable[20][PageId::frmP1], 0) << typed;
         EXPECT_FALSE(run.Label(kFirst, 21).Visible);
         run.Amount(kFirst, 21, "60");
+        if (typed != std::string("-")) {
+            run.surroundings.questions.Expect("Page 1, line 1: " + std::string(typed), Answer::Yes);
+        }
         commands::Run(run.program, CommandId::mnuFilePrintAll);
         EXPECT_EQ(Figures(run)[0], "60.00") << typed;
         EXPECT_EQ(run.TextOf(kFirst, 20), typed) << "what a person wrote stays";
@@ -93,6 +96,7 @@ TEST(NoNumber, AnIntermediateNumberCountsNoLonger) {
 TEST(NoNumber, StandsRedWhereverItWasReadFromAndIsForgottenWithItsProposal) {
     Anns run;
     run.Amount(kSecond, 33, "40-50");
+    run.surroundings.questions.Expect("Page 2, line 1: 40-50", Answer::Yes);
     run.Save();
     run.Reopen();
     EXPECT_EQ(run.TextOf(kSecond, 33), "40-50");

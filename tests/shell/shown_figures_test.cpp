@@ -107,7 +107,7 @@ TEST(ShownFigures, OfAnyUsualSizeDoNotStray) {
     Typist typist(run.program);
     // A tax just at the middle, one that singles push over it, brackets, a text, an exempt row.
     for (const auto& [row, amount] : std::vector<std::pair<int, std::string>>{
-             {20, "100.10"}, {21, "12345.67"}, {22, "-0.50"}, {23, "1.2.3"}, {24, "9999.99"}}) {
+             {20, "100.10"}, {21, "12345.67"}, {22, "-0.50"}, {23, "7"}, {24, "9999.99"}}) {
         typist.Click(PageId::frmP1, row);
         typist.Type(amount);
     }
@@ -116,6 +116,25 @@ TEST(ShownFigures, OfAnyUsualSizeDoNotStray) {
         commands::Run(run.program, CommandId::mnuFilePrintAll);
         EXPECT_TRUE(modTotals::StrayedFigures(run.program).empty()) << rate;
     }
+}
+
+TEST(ShownFigures, AreToldToLeaveOutWhatIsNoNumber) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 20);
+    typist.Type("100");
+    typist.Click(PageId::frmP1, 21);
+    typist.Type("12,50");
+    typist.Click(PageId::frmP1, 22);
+    typist.Type("-"); // speaks for itself
+    const std::string message = "These are no numbers and count as nothing:\r\nPage 1, line 2: 12,50";
+    run.surroundings.questions.ExpectBox({message, Buttons::YesNo, ""}, Answer::No);
+    commands::Run(run.program, CommandId::mnuFilePrintAll);
+    EXPECT_TRUE(run.surroundings.printers.Paper.Documents.empty());
+    run.surroundings.questions.ExpectBox({message, Buttons::YesNo, ""}, Answer::Yes);
+    commands::Run(run.program, CommandId::mnuFilePrintAll);
+    EXPECT_FALSE(run.surroundings.printers.Paper.Documents.empty());
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "100.00");
 }
 
 TEST(ShownFigures, AgreeWithOneAnotherOnOneSheet) {

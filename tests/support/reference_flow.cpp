@@ -891,6 +891,14 @@ void ReferenceFlow::PushTheText(PageId page, int index) {
 
 void ReferenceFlow::BoxChanged(const FieldRef& box) {
     ColourBox(box);
+    const FieldRef amount = Txt(box.Page, box.Index + ToAmount(box.Page));
+    // What is no number leaves the amount that stood there before the box was touched.
+    if (At(box).NoNumber && visited_ == box && At(amount).Text != amountBefore_) {
+        const bool before = refire_;
+        refire_ = true;
+        Assign(amount, amountBefore_);
+        refire_ = before;
+    }
     StoreLine(box.Page, box.Index);
     Product(box.Page, box.Index);
 }
@@ -984,6 +992,8 @@ void ReferenceFlow::GotFocus(const FieldRef& ref) {
     if (IsBox(ref)) {
         field.Back = kCyan;
         ColourBox(ref);
+        visited_ = ref;
+        amountBefore_ = At(Txt(ref.Page, ref.Index + ToAmount(ref.Page))).Text;
         return;
     }
     CurrentPage = IndexOf(ref.Page);

@@ -141,6 +141,8 @@ private:
     void CheckForPush();
     void PushTheText(PageId page, int index);
     void Product(PageId page, int index);
+    std::optional<FieldRef> visited_; ///< the box that the keyboard came to last
+    std::string amountBefore_;        ///< of its row, at that moment
     void ToggleColumns(PageId page, int index);
 
     void GiveFocus(const FieldRef& field);
