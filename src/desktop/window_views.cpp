@@ -21,7 +21,8 @@ constexpr QSize kFrame(16, 48);
 } // namespace
 
 WindowView::WindowView(Program& program, Window& window, QWidget* over, std::function<void()> afterEvent)
-    : QDialog(over), program_(program), window_(window), afterEvent_(std::move(afterEvent)) {
+    : QDialog(over), program_(program), window_(window), afterEvent_(std::move(afterEvent)),
+      early_(!window.Loaded) {
     setObjectName(QString::fromLatin1(window.Name().data(), static_cast<qsizetype>(window.Name().size())));
     setModal(window.Mode() == Modality::Modal);
 }
@@ -45,6 +46,10 @@ void WindowView::Follow() {
 }
 
 void WindowView::AnswerCalls() {
+    if (early_ && window_.Loaded) {
+        early_ = false;
+        TakeKeyboard();
+    }
     if (frontCalls_ != window_.FrontCalls) {
         frontCalls_ = window_.FrontCalls;
         TakeKeyboard();
@@ -136,7 +141,6 @@ void WindowViews::Follow() {
         leaving_[at->first] = view;
         const QPointer<QWidget> opener = openers_[at->first];
         openers_.erase(at->first);
-        behind_.erase(at->first);
         at = views_.erase(at);
         const bool active = view->HasKeyboard();
         view->Leave();
@@ -167,14 +171,6 @@ void WindowViews::Follow() {
         mnemonics::Give(*view, byItself ? QString() : mnemonics::LettersOf(*main));
         if (fresh) {
             view->Open();
-        }
-        // A box that came as the window opened gives the keyboard to what had it before, the window below.
-        const QWidget* modal = QApplication::activeModalWidget();
-        const bool box = modal != nullptr && qobject_cast<const WindowView*>(modal) == nullptr;
-        if (fresh && box) {
-            behind_.insert(window.get());
-        } else if (!box && behind_.erase(window.get()) > 0) {
-            view->CallToFront();
         }
         view->AnswerCalls();
     }

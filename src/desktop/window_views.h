@@ -8,7 +8,6 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <set>
 #include <utility>
 #include <vector>
 
@@ -29,7 +28,6 @@ public:
     virtual void Leave() { hide(); }
     /// Comes to the front when the model has called for it.
     void AnswerCalls();
-    void CallToFront() { TakeKeyboard(); }
     [[nodiscard]] virtual bool HasKeyboard() const { return isActiveWindow(); }
 
 protected:
@@ -51,6 +49,7 @@ protected:
 private:
     std::function<void()> afterEvent_;
     int frontCalls_ = 0;
+    bool early_; ///< on the screen while the model loads: a box that comes then hands the keyboard elsewhere
     std::unique_ptr<Window> kept_; ///< the model, once it has left the program
 };
 
@@ -72,7 +71,6 @@ private:
     std::function<void()> afterEvent_;
     std::map<Window*, std::unique_ptr<WindowView>> views_;
     std::map<const Window*, QPointer<QWidget>> openers_; ///< what had the keyboard when a window came
-    std::set<const Window*> behind_;                     ///< came while a box stood before them
     /// Hidden, and gone as soon as no event of theirs is on its way.
     std::map<Window*, QPointer<WindowView>> leaving_;
 };

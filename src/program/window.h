@@ -43,6 +43,8 @@ public:
     std::string Caption;
     /// Set by the window's own handlers; the window leaves the collection when the event has ended.
     bool Closing = false;
+    /// `Form_Load` has ended; before that a message of its own may stand.
+    bool Loaded = false;
     /// A floating window that has stepped aside.
     bool Minimised = false;
     /// How often the window was called to the front; the front end follows each call.

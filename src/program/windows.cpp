@@ -37,6 +37,7 @@ Window& Show(Program& program, std::unique_ptr<Window> window) {
     Window& opened = *window;
     program.windows.Open.push_back(std::move(window));
     opened.Form_Load(program);
+    opened.Loaded = true;
     return opened;
 }
 
