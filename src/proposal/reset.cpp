@@ -153,6 +153,8 @@ void TakeFormat(Program& program, bool loadDefault) {
     format.FormatTextChanges = {};
     format.FormatLabelChanges = {};
     format.InFile = {};
+    format.BuiltIn = {};
+    format.LogoPath.clear();
     format.LogoChanged = false;
     format.LogoPending = false;
     format.Touched = false;
@@ -163,13 +165,13 @@ void TakeFormat(Program& program, bool loadDefault) {
         format.FormatName = paths::Name(path);
         format.FormatOpen = true;
     }
-    // A format without a logo of its own leaves this one.
+    // One that was chosen for the document before is kept by a format or by the settings, or goes with it. A
+    // format without a logo of its own leaves this one.
     modLogo::LoadLogo(program);
     const RunState& run = program.run;
     format.FontOfFile = {run.DefaultFontName, run.DefaultFontSize, run.DefaultFontColor,
                          run.DefaultFontItalic};
     if (format.FormatOpen && program.hooks.OpenFormatFile) {
-        format.LogoPath.clear();
         program.hooks.OpenFormatFile(program);
     }
 }
