@@ -363,7 +363,6 @@ Outcome ConfirmAddressChange(Program& program, AddressWindow& window) {
         "The current Record has been changed. Do you want to save the changes?", Buttons::YesNoCancel,
         "Record Has Changed", {.Default = Answer::Yes, .Lost = "The changes of this record"})) {
     case Answer::Yes:
-        book.AddressSaveCancelled = false;
         static_cast<void>(SaveAddressRecord(program, window)); // AddressSaveCancelled says what came of it
         break;
     case Answer::No:

@@ -601,4 +601,17 @@ TEST(Deposits, WhatIsTypedLeavesNothingMarked) {
     EXPECT_TRUE(window.SaveIsDefault);
 }
 
+TEST(Deposits, AfterARowHasGoneNoneIsMarked) {
+    Deposited run;
+    run.File("Jane Roe\r\na\t\t$ 100.00\r\nb\t\t$ 150.00\r\nc\t\t$ 250.00");
+    frmDeposits& window = run.Open();
+    window.lst_Click({1}, 1);
+    window.Choose(run.program, "mnuEditDelete");
+    EXPECT_EQ(window.lst.SelCount(), 0);
+    EXPECT_EQ(window.lst.Selected, std::vector<bool>(2, false));
+    run.Boxes().ExpectBox({"Nothing selected to remove.", Buttons::Ok, ""}, Answer::Ok);
+    window.Choose(run.program, "mnuEditDelete");
+    EXPECT_EQ(window.lst.Items, (Deposited::Items{"a\t\t$ 100.00", "c\t\t$ 250.00"}));
+}
+
 } // namespace
