@@ -20,7 +20,7 @@ void ShowDuplicateFileOptions(Program& program, std::string_view name);
 /// The same for a file of another folder.
 void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::string_view name);
 
-/// What is lost when the changes of the proposal on show are not kept.
+/// Tells what is lost when the changes of the proposal on show are not kept.
 [[nodiscard]] std::string UnsavedChanges(const Program& program);
 
 /// The side files' names after a new file name.
