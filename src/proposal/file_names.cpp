@@ -16,8 +16,12 @@ namespace {
 /// A file system takes names of 255 bytes; a file's other names, beside it and on the way to it, need some.
 constexpr std::size_t kLongestName = 230;
 
-bool IsTooLong(const Program& program, std::string_view name) {
-    if (ansi::ToUtf8(name).size() <= kLongestName) {
+bool IsTooLong(std::string_view name) {
+    return ansi::ToUtf8(name).size() > kLongestName;
+}
+
+bool ToldTooLong(const Program& program, std::string_view name) {
+    if (!IsTooLong(name)) {
         return false;
     }
     program.platform.questions.MsgBox(
@@ -34,9 +38,13 @@ bool HasIllegalCharacter(std::string_view name) {
     return name.find_first_of(kIllegal) != std::string_view::npos;
 }
 
+bool CanBeAFile(std::string_view fileName) {
+    return !fileName.empty() && fileName != ".hef" && !HasIllegalCharacter(fileName) && !IsTooLong(fileName);
+}
+
 bool IllegalFileName(const Program& program, std::string_view name) {
     if (!HasIllegalCharacter(name)) {
-        return IsTooLong(program, name);
+        return ToldTooLong(program, name);
     }
     program.platform.questions.MsgBox(text::Lines({"Action Cancelled. File Name cannot include any of ",
                                                    "the following characters: / \\ : * ? < > |"}),
@@ -70,6 +78,17 @@ void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::st
 std::string UnsavedChanges(const Program& program) {
     return program.document.HasName() ? "The unsaved changes of " + program.document.BaseName
                                       : "The unsaved changes of a new proposal";
+}
+
+void ClearNames(Program& program) {
+    DocumentState& document = program.document;
+    document.ClientCaption.clear();
+    document.TitleGiven = false;
+    document.BaseName.clear();
+    document.FileName.clear();
+    document.TextFileName.clear();
+    document.FootnoteFile.clear();
+    document.DepositFile.clear();
 }
 
 void SetBaseName(Program& program, std::string_view baseName) {
