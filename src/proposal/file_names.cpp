@@ -16,8 +16,12 @@ namespace {
 /// A file system takes names of 255 bytes; a file's other names, beside it and on the way to it, need some.
 constexpr std::size_t kLongestName = 230;
 
-bool IsTooLong(const Program& program, std::string_view name) {
-    if (ansi::ToUtf8(name).size() <= kLongestName) {
+bool IsTooLong(std::string_view name) {
+    return ansi::ToUtf8(name).size() > kLongestName;
+}
+
+bool ToldTooLong(const Program& program, std::string_view name) {
+    if (!IsTooLong(name)) {
         return false;
     }
     program.platform.questions.MsgBox(
@@ -34,9 +38,13 @@ bool HasIllegalCharacter(std::string_view name) {
     return name.find_first_of(kIllegal) != std::string_view::npos;
 }
 
+bool CanBeAFile(std::string_view fileName) {
+    return !fileName.empty() && fileName != ".hef" && !HasIllegalCharacter(fileName) && !IsTooLong(fileName);
+}
+
 bool IllegalFileName(const Program& program, std::string_view name) {
     if (!HasIllegalCharacter(name)) {
-        return IsTooLong(program, name);
+        return ToldTooLong(program, name);
     }
     program.platform.questions.MsgBox(text::Lines({"Action Cancelled. File Name cannot include any of ",
                                                    "the following characters: / \\ : * ? < > |"}),
@@ -72,6 +80,17 @@ std::string UnsavedChanges(const Program& program) {
     return program.document.HasName()
                ? "The changes to " + program.document.BaseName + " will be lost unless they are saved."
                : "The new proposal will be lost unless it is saved.";
+}
+
+void ClearNames(Program& program) {
+    DocumentState& document = program.document;
+    document.ClientCaption.clear();
+    document.TitleGiven = false;
+    document.BaseName.clear();
+    document.FileName.clear();
+    document.TextFileName.clear();
+    document.FootnoteFile.clear();
+    document.DepositFile.clear();
 }
 
 void SetBaseName(Program& program, std::string_view baseName) {

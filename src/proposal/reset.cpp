@@ -44,18 +44,13 @@ void ClearNames(Program& program) {
     if (!document.FileExists) {
         document.FromBackup = false;
     }
-    document.ClientCaption.clear();
-    document.TitleGiven = false;
+    modNames::ClearNames(program);
     document.FileExists = false;
-    document.BaseName.clear();
-    document.FileName.clear();
-    document.TextFileName.clear();
-    document.FootnoteFile.clear();
-    document.DepositFile.clear();
     document.SavedStateStale = false;
     document.SavedFile = {};
     document.PropertiesIgnored = false;
     document.BackupTrouble.clear();
+    document.UnnamedBackup.clear();
     if (!program.guards.StartingUp) {
         modRecovery::NothingUnsaved(program); // what an earlier run has left is not settled yet
     }
