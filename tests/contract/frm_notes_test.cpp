@@ -261,6 +261,37 @@ std::vector<DrawCall> Printed(Noted& run) {
     return prints;
 }
 
+TEST(Footnotes, AFolderInTheirPlaceIsToldAndTheWindowIsLocked) {
+    Noted run;
+    run.folder.MakeFolder("Proposals/Jane Roe.hxt");
+    run.Boxes().Expect("An error occurred in OpenFootnoteFile.");
+    frmNotes& window = run.Open();
+    EXPECT_TRUE(window.Locked);
+    window.txtNotes_Change(run.program, "typed");
+    EXPECT_EQ(window.txtNotes, "");
+    window.Choose(run.program, "mnuFileSave");
+    EXPECT_TRUE(fs::is_directory(run.folder / "Proposals/Jane Roe.hxt"));
+}
+
+TEST(Footnotes, WhatALeftWindowCostsIsAWholeSentence) {
+    Noted run;
+    frmNotes& window = run.Open();
+    window.txtNotes_Change(run.program, "typed");
+    run.Boxes().ExpectBox(kChanged, Answer::Cancel);
+    EXPECT_FALSE(window.MayLeave(run.program, Leaving::Proposal));
+    EXPECT_EQ(run.Boxes().Manners.back().Lost,
+              "The changes to the footnotes will be lost unless they are saved.");
+}
+
+TEST(Footnotes, ArePrintedIntoAFileOfTheClientsName) {
+    Noted run;
+    frmNotes& window = run.Open();
+    window.Choose(run.program, "mnuFilePrint");
+    ASSERT_EQ(run.surroundings.printers.Commands.size(), 1U);
+    EXPECT_EQ(run.surroundings.printers.Commands[0].SuggestedFile,
+              run.folder / "Proposals/Jane Roe, Footnotes.pdf");
+}
+
 TEST(Footnotes, PrintUnderTheNameWithLongLinesWrappedAtABlank) {
     Noted run;
     frmNotes& window = run.Open();
