@@ -110,6 +110,16 @@ std::string MustLocate(std::string_view path) {
     return *native;
 }
 
+std::string FreeName(std::string_view folder, std::string_view name) {
+    const std::string_view base = paths::BaseOf(name);
+    std::string free(name);
+    for (int number = 2; Locate(paths::Join(folder, free)); ++number) {
+        free =
+            std::string(base) + " (" + std::to_string(number) + ")" + std::string(name.substr(base.size()));
+    }
+    return free;
+}
+
 std::string PlaceFor(std::string_view path) {
     const std::string_view folder = paths::Folder(path);
     const std::string_view name = paths::Name(path);

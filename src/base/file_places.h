@@ -19,6 +19,9 @@ namespace file_places {
 /// The same; what is not there is a FileError.
 [[nodiscard]] std::string MustLocate(std::string_view path);
 
+/// A name that nothing in the folder bears: "Jane Roe.hxt", then "Jane Roe (2).hxt".
+[[nodiscard]] std::string FreeName(std::string_view folder, std::string_view name);
+
 /// Where a file of exactly that name is or would be: its folder as it stands on the disk, the name as given.
 [[nodiscard]] std::string PlaceFor(std::string_view path);
 

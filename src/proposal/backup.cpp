@@ -1,5 +1,6 @@
 #include "proposal/backup.h"
 
+#include "base/file_places.h"
 #include "base/files.h"
 #include "base/guard.h"
 #include "base/paths.h"
@@ -12,7 +13,10 @@
 #include "proposal/proposal_bytes.h"
 #include "proposal/run_marker.h"
 
+#include <exception>
+#include <string>
 #include <string_view>
+#include <utility>
 
 namespace modFile {
 
@@ -40,18 +44,20 @@ std::string PropertyBytes(Program& program) {
     return BytesOfLines(program.format.PropertyLines);
 }
 
-void Write(Program& program) {
+void WriteAs(Program& program, const std::string& name) {
     const std::string folder = modFolders::BackupFolder(program);
-    const std::string name = BackupNameOf(program);
     const std::string properties = paths::Join(folder, PropertiesOf(name));
     const std::string lines = PropertyBytes(program);
-    modRecovery::TellOfBackup(program, name);
+    if (program.document.UnnamedBackup.empty() || program.document.UnnamedBackup == name) {
+        modRecovery::TellOfBackup(program, name); // else the one that stands is offered until this one does
+    }
     if (!lines.empty()) {
         files::WriteWhole(properties, lines);
     } else if (files::ExistsExactly(properties)) {
         files::Delete(properties); // of an earlier proposal of the name
     }
     files::WriteWhole(paths::Join(folder, name), ProposalBytes(program));
+    modRecovery::TellOfBackup(program, name);
 }
 
 void Tell(Program& program, const std::exception& trouble) {
@@ -62,10 +68,41 @@ void Tell(Program& program, const std::exception& trouble) {
     }
 }
 
+/// A proposal whose client has no name yet, or one that no file can bear, is kept all the same.
+void WriteUnnamed(Program& program) {
+    DocumentState& document = program.document;
+    if (!TextsChanged(program) && !PropertiesChanged(program)) {
+        return; // nobody has written anything
+    }
+    if (document.UnnamedBackup.empty()) {
+        document.UnnamedBackup =
+            file_places::FreeName(modFolders::BackupFolder(program), "(no client's name).hef");
+    }
+    WriteAs(program, document.UnnamedBackup);
+    const std::string trouble = (document.HasName() ? "The client's name cannot be a file's name: " +
+                                                          std::string(paths::BaseOf(document.FileName)) + "."
+                                                    : "The proposal has no client's name yet.") +
+                                " Its backup is called " + document.UnnamedBackup;
+    if (document.BackupTrouble != trouble) {
+        document.BackupTrouble = trouble;
+        program.main.Notice = trouble;
+        LogError(program, "BackupThisFile", files::FileError(files::kBadName, trouble));
+    }
+}
+
+void WriteNamed(Program& program) {
+    WriteAs(program, BackupNameOf(program));
+    program.document.BackupTrouble.clear();
+    DropUnnamedBackup(program);
+}
+
 } // namespace
 
 std::string BackupNameOf(const Program& program) {
     const DocumentState& document = program.document;
+    if (!modNames::CanBeAFile(document.FileName)) {
+        return document.UnnamedBackup;
+    }
     if (document.FilePath.empty() || paths::SameFolder(document.FilePath, modFolders::DataFolder(program)) ||
         paths::SameFolder(document.FilePath, modFolders::BackupFolder(program))) {
         return document.FileName;
@@ -84,17 +121,25 @@ void DeleteBackup(const Program& program, const std::string& name) {
     }
 }
 
+void DropUnnamedBackup(Program& program) {
+    const std::string name = std::exchange(program.document.UnnamedBackup, {});
+    if (name.empty()) {
+        return;
+    }
+    try {
+        DeleteBackup(program, name);
+    } catch (const std::exception& error) {
+        LogError(program, "BackupThisFile", error); // it stays, older than what has been kept since
+    }
+}
+
 void BackupThisFile(Program& program) {
     try {
-        if (!program.document.HasName()) {
-            throw files::FileError(files::kBadName, "The proposal has no client's name yet.");
+        if (modNames::CanBeAFile(program.document.FileName)) {
+            WriteNamed(program);
+        } else {
+            WriteUnnamed(program);
         }
-        if (modNames::HasIllegalCharacter(program.document.FileName)) {
-            throw files::FileError(files::kBadName,
-                                   "The client's name cannot be a file's name: " + program.document.FileName);
-        }
-        Write(program);
-        program.document.BackupTrouble.clear();
     } catch (const std::exception& trouble) {
         Tell(program, trouble);
     }

@@ -16,8 +16,12 @@ namespace {
 /// A file system takes names of 255 bytes; a file's other names, beside it and on the way to it, need some.
 constexpr std::size_t kLongestName = 230;
 
-bool IsTooLong(const Program& program, std::string_view name) {
-    if (ansi::ToUtf8(name).size() <= kLongestName) {
+bool IsTooLong(std::string_view name) {
+    return ansi::ToUtf8(name).size() > kLongestName;
+}
+
+bool ToldTooLong(const Program& program, std::string_view name) {
+    if (!IsTooLong(name)) {
         return false;
     }
     program.platform.questions.MsgBox(
@@ -34,9 +38,13 @@ bool HasIllegalCharacter(std::string_view name) {
     return name.find_first_of(kIllegal) != std::string_view::npos;
 }
 
+bool CanBeAFile(std::string_view fileName) {
+    return !fileName.empty() && fileName != ".hef" && !HasIllegalCharacter(fileName) && !IsTooLong(fileName);
+}
+
 bool IllegalFileName(const Program& program, std::string_view name) {
     if (!HasIllegalCharacter(name)) {
-        return IsTooLong(program, name);
+        return ToldTooLong(program, name);
     }
     program.platform.questions.MsgBox(text::Lines({"Action Cancelled. File Name cannot include any of ",
                                                    "the following characters: / \\ : * ? < > |"}),
@@ -55,8 +63,9 @@ void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::st
             text::Lines({"A file with this name (" + std::string(name) + ")",
                          "already exists. Do you want to replace the", "existing file, created on:",
                          dates::GeneralDate(files::ModifiedSerial(path)), "", "with this one?"});
-        if (program.platform.questions.MsgBox(question, Buttons::YesNo, "Duplicate File Name on Record",
-                                              {.Default = Answer::No, .Lost = path}) == Answer::Yes) {
+        if (program.platform.questions.MsgBox(
+                question, Buttons::YesNo, "Duplicate File Name on Record",
+                {.Default = Answer::No, .Lost = "The file " + path + " will be replaced."}) == Answer::Yes) {
             return; // the new bytes replace the file in one step
         }
         program.platform.questions.MsgBox("File not saved.", Buttons::Ok, "");
@@ -68,8 +77,20 @@ void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::st
 }
 
 std::string UnsavedChanges(const Program& program) {
-    return program.document.HasName() ? "The unsaved changes of " + program.document.BaseName
-                                      : "The unsaved changes of a new proposal";
+    return program.document.HasName()
+               ? "The changes to " + program.document.BaseName + " will be lost unless they are saved."
+               : "The new proposal will be lost unless it is saved.";
+}
+
+void ClearNames(Program& program) {
+    DocumentState& document = program.document;
+    document.ClientCaption.clear();
+    document.TitleGiven = false;
+    document.BaseName.clear();
+    document.FileName.clear();
+    document.TextFileName.clear();
+    document.FootnoteFile.clear();
+    document.DepositFile.clear();
 }
 
 void SetBaseName(Program& program, std::string_view baseName) {

@@ -11,6 +11,10 @@ namespace modNames {
 /// Whether the name holds one of / \ : * ? < > |.
 [[nodiscard]] bool HasIllegalCharacter(std::string_view name);
 
+/// Whether a file, and what stands beside it on the way to it, can bear the name: a client is named, with no
+/// illegal character, and the name is not too long. Says nothing.
+[[nodiscard]] bool CanBeAFile(std::string_view fileName);
+
 /// True, with a message, when the name holds one of / \ : * ? < > | or is too long for a file's name.
 [[nodiscard]] bool IllegalFileName(const Program& program, std::string_view name);
 
@@ -20,8 +24,11 @@ void ShowDuplicateFileOptions(Program& program, std::string_view name);
 /// The same for a file of another folder.
 void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::string_view name);
 
-/// What is lost when the changes of the proposal on show are not kept.
+/// Tells what is lost when the changes of the proposal on show are not kept.
 [[nodiscard]] std::string UnsavedChanges(const Program& program);
+
+/// No name, no side files' names and no title, as of a proposal whose client is not known.
+void ClearNames(Program& program);
 
 /// The side files' names after a new file name.
 void SetBaseName(Program& program, std::string_view baseName);

@@ -11,6 +11,7 @@
 #include "program/program.h"
 #include "program/rewriting.h"
 #include "program/saved_notice.h"
+#include "proposal/backup.h"
 #include "proposal/file_names.h"
 #include "proposal/long_texts.h"
 #include "proposal/property_file.h"
@@ -169,6 +170,7 @@ void SavingSteps(Program& program, SaveResult& result) {
     }
     if (!propertiesLost) {
         modRecovery::NothingUnsaved(program);
+        DropUnnamedBackup(program);
     }
     modTitles::UpdateEventNameLabels(program);
     TellSaved(program, "Proposal", path);

@@ -4,9 +4,11 @@
 #include "base/files.h"
 #include "base/paths.h"
 #include "pages/fields.h"
+#include "pages/titles.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "proposal/file_names.h"
 #include "proposal/property_file.h"
 #include "proposal/proposal_open.h"
 #include "proposal/reset.h"
@@ -36,6 +38,9 @@ std::optional<std::string> BytesOf(const std::string& path) {
 
 /// Whether the backup has nothing that the proposal has not.
 bool SayTheSame(const Program& program, const UnsavedWork& work) {
+    if (!modNames::CanBeAFile(work.FileName)) {
+        return false; // it has no file
+    }
     if (work.Saving.Was == files::Seen::What::Bytes &&
         files::LookAt(paths::Join(work.Folder, work.FileName)) == work.Saving) {
         return true; // saved after the backup
@@ -58,7 +63,8 @@ SavedState ShowSaved(Program& program, const UnsavedWork& work) {
     DocumentState& document = program.document;
     SavedState saved;
     document.FilePath = work.Folder;
-    if (files::ExistsExactly(paths::Join(work.Folder, work.FileName))) {
+    if (modNames::CanBeAFile(work.FileName) &&
+        files::ExistsExactly(paths::Join(work.Folder, work.FileName))) {
         saved.Exists = modFile::OpenEventFile(program, work.FileName) == modFile::OpenResult::Opened;
     }
     saved.File = document.SavedFile;
@@ -75,13 +81,20 @@ void ShowBackup(Program& program, const UnsavedWork& work, const modFile::RawPro
     }
     document.FilePath = work.Folder;
     modFile::ShowProposal(program, work.FileName, backup);
+    const bool named = modNames::CanBeAFile(work.FileName);
+    if (paths::BaseOf(work.FileName).empty()) {
+        modNames::ClearNames(program);
+        modTitles::UpdateEventNameLabels(program);
+    }
+    document.UnnamedBackup = named ? "" : work.Backup;
     modFile::TakeProperties(program,
                             paths::Join(modFolders::BackupFolder(program), PropertiesBeside(work.Backup)));
     document.FileExists = saved.Exists;
     const bool savedWhole = saved.File.Was != files::Seen::What::Unread; // or it is kept when it is replaced
     document.SavedFile =
         saved.Exists && savedWhole && work.Known.Was == files::Seen::What::Bytes ? work.Known : saved.File;
-    program.format.PropertyPath = paths::Join(work.Folder, PropertiesBeside(work.FileName));
+    program.format.PropertyPath =
+        named ? paths::Join(work.Folder, PropertiesBeside(work.FileName)) : std::string();
     program.format.PropertySeen = files::LookAt(program.format.PropertyPath);
     document.SavedTextBuf = saved.Texts;
     document.SavedStateStale = !program.format.PropertyLines.empty();
@@ -101,10 +114,11 @@ void OfferWhatWasFound(Program& program) {
         return;
     }
     Guarded(program, "OpenEventFile", [&] {
-        const std::string question = "The program did not close properly. The proposal " +
-                                     std::string(paths::BaseOf(work->FileName)) + " has changes from " +
-                                     dates::GeneralDate(files::ModifiedSerial(backup)) +
-                                     " that were not saved. Bring them back?";
+        const std::string_view client = paths::BaseOf(work->FileName);
+        const std::string question =
+            "The program did not close properly. The proposal " +
+            std::string(client.empty() ? "without a client's name" : client) + " has changes from " +
+            dates::GeneralDate(files::ModifiedSerial(backup)) + " that were not saved. Bring them back?";
         if (program.platform.questions.MsgBox(question, Buttons::YesNo, "",
                                               {.Default = Answer::Yes, .How = Manner::Came::Unasked}) !=
             Answer::Yes) {

@@ -54,17 +54,6 @@ void WriteList(const Program& program, const Texts& rescued) {
     files::WriteWhole(path, bytes);
 }
 
-/// "Jane Roe.hxt", then "Jane Roe (2).hxt".
-std::string FreePath(std::string_view folder, std::string_view name) {
-    const std::string_view base = paths::BaseOf(name);
-    std::string free = paths::Join(folder, name);
-    for (int number = 2; file_places::Locate(free); ++number) {
-        free = paths::Join(folder, std::string(base) + " (" + std::to_string(number) + ")" +
-                                       std::string(name.substr(base.size())));
-    }
-    return free;
-}
-
 void KeepFor(Program& program, std::string_view name, std::string_view bytes, std::string_view target) {
     try {
         Texts& own = program.recovery.Rescued;
@@ -75,8 +64,9 @@ void KeepFor(Program& program, std::string_view name, std::string_view bytes, st
             files::WriteWhole(again->Kept, bytes);
             return;
         }
-        const RescuedText rescued{FreePath(modSideFile::MadeBackupFolder(program), name), std::string(target),
-                                  std::string(name)};
+        const std::string folder = modSideFile::MadeBackupFolder(program);
+        const RescuedText rescued{paths::Join(folder, file_places::FreeName(folder, name)),
+                                  std::string(target), std::string(name)};
         files::WriteWhole(rescued.Kept, bytes);
         own.push_back(rescued);
         Texts all = ReadList(program);

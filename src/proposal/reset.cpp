@@ -28,7 +28,9 @@ bool FormatEditingGoesOn(Program& program) {
     }
     const Answer answer = program.platform.questions.MsgBox(
         "Proceeding with this action will end the editing session of your file format. Continue?",
-        Buttons::YesNo, "Ending Format Editing", {.Default = Answer::No, .Lost = program.format.FormatName});
+        Buttons::YesNo, "Ending Format Editing",
+        {.Default = Answer::No,
+         .Lost = "The changes to " + program.format.FormatName + " will be lost unless they are saved."});
     if (answer == Answer::Yes) {
         program.format.EditingFormat = false;
         return false;
@@ -42,18 +44,13 @@ void ClearNames(Program& program) {
     if (!document.FileExists) {
         document.FromBackup = false;
     }
-    document.ClientCaption.clear();
-    document.TitleGiven = false;
+    modNames::ClearNames(program);
     document.FileExists = false;
-    document.BaseName.clear();
-    document.FileName.clear();
-    document.TextFileName.clear();
-    document.FootnoteFile.clear();
-    document.DepositFile.clear();
     document.SavedStateStale = false;
     document.SavedFile = {};
     document.PropertiesIgnored = false;
     document.BackupTrouble.clear();
+    document.UnnamedBackup.clear();
     if (!program.guards.StartingUp) {
         modRecovery::NothingUnsaved(program); // what an earlier run has left is not settled yet
     }
@@ -122,7 +119,6 @@ void EmptyTexts(Program& program) {
         document.SavedTextBuf[id].resize(page.txt.size());
         for (std::size_t area = 0; area < page.txt.size(); ++area) {
             page.txt[area].BackColor = colors::kResting;
-            page.txt[area].FontBold = false;
             if (page.txt[area].ToolTipText == modTotals::kNoNumberTip) {
                 page.txt[area].ToolTipText.clear();
             }

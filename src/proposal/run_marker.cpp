@@ -5,6 +5,7 @@
 #include "base/text.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "proposal/file_names.h"
 
 #include <exception>
 #include <optional>
@@ -43,7 +44,7 @@ files::Seen SeenOf(const std::vector<std::string>& lines, std::size_t at) {
 std::optional<UnsavedWork> Parse(std::string_view bytes) {
     const std::vector<std::string> lines = text::SplitLines(bytes);
     constexpr std::size_t kLines = 3;
-    if (lines.size() < kLines || lines[1].size() <= 4 || lines[2].size() <= 4) {
+    if (lines.size() < kLines || lines[2].size() <= 4) {
         return std::nullopt;
     }
     return UnsavedWork{lines[0], lines[1], lines[2], SeenOf(lines, kLines), SeenOf(lines, kLines + 1)};
@@ -115,6 +116,10 @@ void TellOfBackup(Program& program, std::string_view backupName) {
 void TellOfSave(Program& program, std::string_view bytes) {
     if (std::optional<UnsavedWork> work = program.recovery.Told) {
         work->Saving = files::SeenIn(bytes);
+        if (!modNames::CanBeAFile(work->FileName)) { // it has a name since the backup
+            work->Folder = program.document.FilePath;
+            work->FileName = program.document.FileName;
+        }
         Tell(program, std::move(work));
     }
 }

@@ -88,16 +88,86 @@ TEST(Backup, OfAnIllegalNameMovesNoFocusAndIsLoggedOnce) {
     EXPECT_TRUE(run.surroundings.questions.Shown.empty());
     EXPECT_EQ(Working::Count(run.Log(), "An error occurred in BackupThisFile."), 1U);
     EXPECT_FALSE(run.folder.Has("Proposals/Backup/Tom "));
+    EXPECT_EQ(
+        run.program.document.BackupTrouble,
+        "The client's name cannot be a file's name: Tom / Lee. Its backup is called (no client's name).hef");
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/(no client's name).hef").size(), 20630U);
 }
 
-TEST(Backup, WithoutANameIsLoggedOnceAndToldInTheStrip) {
+TEST(Backup, OfAClientsNameTooLongForAFileIsKeptWithoutIt) {
+    Working run;
+    run.Fill(PageId::frmP1, 2, std::string(300, 'x'));
+    run.Fill(PageId::frmP1, 10, kTwentyKeys);
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/(no client's name).hef").size(), 20630U);
+    EXPECT_TRUE(run.surroundings.questions.Shown.empty());
+}
+
+TEST(Backup, WithoutANameIsKeptLoggedOnceAndToldInTheStripOnce) {
     Working run;
     run.Fill(PageId::frmP1, 10, kTwentyKeys);
-    EXPECT_EQ(run.program.main.Notice, "No backup was written. The proposal has no client's name yet.");
+    EXPECT_EQ(run.program.main.Notice,
+              "The proposal has no client's name yet. Its backup is called (no client's name).hef");
+    run.program.main.Notice.clear();
     run.typist.Type(kTwentyKeys);
+    EXPECT_EQ(run.program.main.Notice, "");
     EXPECT_EQ(Working::Count(run.Log(), "An error occurred in BackupThisFile."), 1U);
-    EXPECT_TRUE(fs::is_empty(run.folder / "Proposals/Backup"));
     EXPECT_TRUE(run.surroundings.questions.Shown.empty());
+    // Forty keys, the last of which has not taken effect yet.
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/(no client's name).hef").substr(530, 39),
+              "twelve sandwiches notwelve sandwiches n");
+    EXPECT_EQ(run.program.document.FileName, "");
+    EXPECT_EQ(run.Main().Caption, "Quillbrook");
+}
+
+TEST(Backup, OfANewProposalThatNobodyHasTypedInIsNotKept) {
+    Working run;
+    modFile::BackupThisFile(run.program);
+    EXPECT_TRUE(fs::is_empty(run.folder / "Proposals/Backup"));
+    EXPECT_EQ(run.program.main.Notice, "");
+    EXPECT_EQ(run.Log(), "");
+}
+
+TEST(Backup, WithoutANameReplacesNoEarlierOne) {
+    Working run;
+    run.folder.Write("Proposals/Backup/(no client's name).hef", "of an earlier run");
+    run.Fill(PageId::frmP1, 10, kTwentyKeys);
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/(no client's name).hef"), "of an earlier run");
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/(no client's name) (2).hef").size(), 20630U);
+}
+
+TEST(Backup, UnderTheClientsNameTakesTheOneWithoutANameAway) {
+    Working run;
+    run.Fill(PageId::frmP1, 10, kTwentyKeys);
+    ASSERT_TRUE(run.folder.Has("Proposals/Backup/(no client's name).hef"));
+    run.Fill(PageId::frmP1, 2, "Ann");
+    run.Fill(PageId::frmP1, 11, kTwentyKeys);
+    EXPECT_TRUE(run.folder.Has("Proposals/Backup/Ann.hef"));
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/(no client's name).hef"));
+}
+
+TEST(Backup, WithoutANameStaysWhileTheOneUnderTheNameCannotBeWritten) {
+    Working run;
+    run.Fill(PageId::frmP1, 10, kTwentyKeys);
+    run.Fill(PageId::frmP1, 2, "Ann");
+    const std::string marker = run.folder.Read("Running.txt");
+    {
+        const FailingDisk disk{{FailingDisk::Call::Flush, 1, ENOSPC, FailingDisk::kForever}};
+        run.Fill(PageId::frmP1, 11, kTwentyKeys);
+    }
+    EXPECT_TRUE(run.folder.Has("Proposals/Backup/(no client's name).hef"));
+    EXPECT_EQ(run.folder.Read("Running.txt"), marker) << "the next start offers what stands";
+    EXPECT_FALSE(run.program.document.BackupTrouble.starts_with("The proposal has no client's name"))
+        << "another trouble since";
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Ann.hef"));
+}
+
+TEST(Backup, WithoutANameGoesWhenTheProposalIsSaved) {
+    Working run;
+    run.Fill(PageId::frmP1, 10, kTwentyKeys);
+    run.Fill(PageId::frmP1, 2, "Ann");
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    EXPECT_TRUE(fs::is_empty(run.folder / "Proposals/Backup"));
 }
 
 TEST(Backup, LeavesTheProposalAsItWas) {

@@ -122,6 +122,86 @@ TEST(Recovery, AProposalThatWasNeverSavedComesBackAsANewOne) {
     EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::Saved);
 }
 
+TEST(Recovery, AProposalWithoutAClientsNameComesBackWithoutOne) {
+    Runs runs;
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    runs.StartAgain(
+        "The program did not close properly. The proposal without a client's name has changes from ",
+        Answer::Yes);
+    EXPECT_EQ(runs.Text(10), "twelve sandwiches and a cake");
+    const DocumentState& document = runs.program.document;
+    EXPECT_EQ(document.FileName, "");
+    EXPECT_EQ(document.BaseName, "");
+    EXPECT_EQ(document.ClientCaption, "Proposal for (Client's Name)");
+    EXPECT_EQ(document.WindowTitle, "Quillbrook");
+    EXPECT_FALSE(document.FileExists);
+    EXPECT_FALSE(document.HasNotes);
+    EXPECT_TRUE(modProposal::SomethingChanged(runs.program));
+    Typist typist(runs.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Ann");
+    EXPECT_EQ(document.ClientCaption, "Proposal for Ann");
+    runs.again.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::Saved);
+    EXPECT_FALSE(runs.Has("Proposals/Backup/(no client's name).hef")) << "it is saved now";
+}
+
+TEST(Recovery, AProposalWhoseClientCannotNameAFileComesBackWithThatName) {
+    Runs runs;
+    runs.Fill(2, "Tom / Lee");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    runs.StartAgain("The proposal Tom / Lee has changes from ", Answer::Yes);
+    EXPECT_EQ(runs.Text(2), "Tom / Lee");
+    EXPECT_EQ(runs.Text(10), "twelve sandwiches and a cake");
+    EXPECT_EQ(runs.program.document.ClientCaption, "Proposal for Tom / Lee");
+    EXPECT_FALSE(runs.program.document.FileExists);
+    runs.again.questions.Expect("Action Cancelled. File Name cannot include any of ");
+    EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::NotSaved);
+}
+
+TEST(Recovery, AProposalWithoutAClientsNameIsOfferedAgainAfterASecondKill) {
+    Runs runs;
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    runs.StartAgain("The proposal without a client's name has changes from ", Answer::Yes);
+    Typist typist(runs.program);
+    typist.Click(PageId::frmP1, 11);
+    typist.Type("and a second cake");
+    modFile::BackupThisFile(runs.program);
+    EXPECT_FALSE(runs.Has("Proposals/Backup/(no client's name) (2).hef")) << "it is the same proposal";
+    RecordingPlatform third;
+    Program program(third.platform);
+    third.questions.Expect("The proposal without a client's name has changes from ", Answer::Yes);
+    runs.Start(program, third);
+    EXPECT_EQ(program.pages[PageId::frmP1].txt[11].Text, "and a second cake");
+}
+
+TEST(Recovery, AnEndFromOutsideKeepsAProposalWithoutAClientsName) {
+    Runs runs;
+    runs.Fill(10, "a cake");
+    modClosing::Interrupted(runs.first->program);
+    runs.StartAgain("The proposal without a client's name has changes from ", Answer::Yes);
+    EXPECT_EQ(runs.Text(10), "a cake");
+}
+
+TEST(Recovery, AFirstSaveInTheVeryMomentOfTheEndIsNotMentionedAsUnnamed) {
+    Runs runs;
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    runs.Fill(2, "Ann");
+    runs.Save("Ann.hef");
+    const std::string bytes = runs.first->folder.Read("Proposals/Ann.hef");
+    // The same once more, but the marker stays as it stood when the bytes were written.
+    runs.first->folder.Write("Proposals/Backup/(no client's name).hef", "older");
+    Program& program = runs.first->program;
+    program.recovery.Told = UnsavedWork{program.document.FilePath, "", "(no client's name).hef", {}, {}};
+    modRecovery::TellOfSave(program, bytes);
+    runs.StartAgain("", Answer::No);
+    EXPECT_TRUE(runs.again.questions.Shown.empty());
+}
+
 TEST(Recovery, NoLeavesTheBackupWhereItIsAndAsksOnce) {
     Runs runs;
     runs.Fill(2, "Ann");
@@ -289,6 +369,27 @@ TEST(Recovery, ARunThatIsClosingAlreadyKeepsNothingTwice) {
     run.program.main.Closing = false;
     modClosing::KeepUnsaved(run.program);
     EXPECT_TRUE(run.folder.Has("Proposals/Backup/Ann.hef"));
+}
+
+TEST(Recovery, ChangesOfAProposalInAnotherFolderComeBackBesideItsFile) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.first->folder.MakeFolder("Elsewhere");
+    runs.first->program.document.FilePath = runs.first->folder / "Elsewhere/";
+    runs.Save("Ann.hef");
+    ASSERT_TRUE(runs.Has("Elsewhere/Ann.hef"));
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    runs.StartAgain("The program did not close properly.", Answer::Yes);
+    EXPECT_EQ(runs.Text(10), "twelve sandwiches and a cake");
+    const DocumentState& document = runs.program.document;
+    EXPECT_EQ(document.FilePath, runs.first->folder / "Elsewhere/");
+    EXPECT_TRUE(document.FileExists);
+    EXPECT_EQ(document.SavedTextBuf[PageId::frmP1][2], "Ann");
+    EXPECT_EQ(document.SavedTextBuf[PageId::frmP1][10], "");
+    runs.again.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::Saved);
+    EXPECT_FALSE(runs.Has("Proposals/Ann.hef"));
 }
 
 } // namespace
