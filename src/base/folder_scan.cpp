@@ -59,7 +59,10 @@ bool ReadBeginning(int folder, const char* name, std::string& bytes) {
     const std::size_t most = bytes.size();
     std::size_t have = 0;
     // Should something else stand there by now, nothing waits for it.
-    const int file = ::openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    int file = -1;
+    do { // a signal is no reason to do without the file
+        file = ::openat(folder, name, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    } while (file < 0 && errno == EINTR);
     if (file < 0) {
         bytes.clear();
         return false;

@@ -113,6 +113,25 @@ public:
         name_.clear();
         return 0;
     }
+    /// EEXIST where something has the name.
+    [[nodiscard]] int MoveToNew(const std::string& target) {
+        if (::link(name_.c_str(), target.c_str()) == 0) {
+            return 0; // the temporary name goes with this object
+        }
+        if (errno != EPERM && errno != EOPNOTSUPP && errno != ENOSYS) {
+            return errno;
+        }
+        // A file system without second names: an empty file of our own takes the place first.
+        Descriptor place;
+        if (const int failed = place.Open(target, O_WRONLY | O_CREAT | O_EXCL); failed != 0) {
+            return failed;
+        }
+        const int failed = RenameTo(target);
+        if (failed != 0) {
+            static_cast<void>(::unlink(target.c_str()));
+        }
+        return failed;
+    }
 
 private:
     Descriptor file_;
@@ -260,6 +279,24 @@ void Replace(const std::string& native, std::string_view bytes, ReadOnly readOnl
     if (outcome.Failed != 0) {
         files::Fail(outcome.Failed, toldAs);
     }
+}
+
+Made MakeNew(const std::string& native, std::string_view bytes, std::string_view toldAs) {
+    Temporary temporary;
+    int failed = temporary.Make(fs::path(native).parent_path());
+    failed = failed != 0 ? failed : temporary.Fill(bytes);
+    failed = failed != 0 ? failed : temporary.Close();
+    if (failed != 0) {
+        files::Fail(failed, toldAs);
+    }
+    failed = temporary.MoveToNew(native);
+    if (failed == EEXIST) {
+        return Made::NameTaken;
+    }
+    if (failed != 0) {
+        files::Fail(failed, toldAs);
+    }
+    return Made::Yes;
 }
 
 void Append(const std::string& native, std::string_view bytes, std::string_view toldAs) {

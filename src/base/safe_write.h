@@ -15,6 +15,10 @@ enum class ReadOnly { Overwrite, Refuse };
 /// in place: what is new behind the old end first, and what was there is put back when the rest fails.
 void Replace(const std::string& native, std::string_view bytes, ReadOnly readOnly, std::string_view toldAs);
 
+/// Makes a file of a name that nothing has yet, whole or not at all, in the same way.
+enum class Made { Yes, NameTaken };
+[[nodiscard]] Made MakeNew(const std::string& native, std::string_view bytes, std::string_view toldAs);
+
 /// Puts bytes at the end of a file, made when it is not there. When they do not fit, none is left.
 void Append(const std::string& native, std::string_view bytes, std::string_view toldAs);
 

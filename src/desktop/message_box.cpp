@@ -1,6 +1,7 @@
 #include "desktop/message_box.h"
 
 #include "desktop/mnemonics.h"
+#include "desktop/typing_clock.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -10,6 +11,7 @@
 namespace {
 
 constexpr qint64 kHalfSecond = 500;
+constexpr qint64 kTypingPause = 1500;
 /// What icon, margins and frame take beside the text.
 constexpr int kBeside = 140;
 
@@ -20,7 +22,7 @@ MessageBox::MessageBox(Icon icon, const QString& title, const QString& text, Sta
     : QMessageBox(icon, title, text, buttons, over), came_(came) {
     setObjectName(QStringLiteral("MsgBox"));
     setTextFormat(Qt::PlainText);
-    if (came_ == Came::Unasked) {
+    if (came_ != Came::OnRequest) {
         QApplication::instance()->installEventFilter(this);
     }
 }
@@ -53,8 +55,11 @@ bool MessageBox::eventFilter(QObject* watched, QEvent* event) {
     const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease ||
                      event->type() == QEvent::ShortcutOverride;
     if (key && quiet_.isValid()) {
-        if (quiet_.elapsed() < kHalfSecond) {
+        if (quiet_.elapsed() < Pause()) {
             quiet_.start(); // the person goes on typing what the box has come into
+            if (event->type() == QEvent::KeyPress && TypingClock::IsTyping(static_cast<QKeyEvent&>(*event))) {
+                came_ = Came::AmidTyping;
+            }
             return true;
         }
         quiet_.invalidate(); // from here on the keys are meant for the box
@@ -62,9 +67,12 @@ bool MessageBox::eventFilter(QObject* watched, QEvent* event) {
     return QMessageBox::eventFilter(watched, event);
 }
 
+qint64 MessageBox::Pause() const {
+    return came_ == Came::AmidTyping ? kTypingPause : kHalfSecond;
+}
+
 void MessageBox::keyPressEvent(QKeyEvent* event) {
-    const Qt::KeyboardModifiers held = event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
-    if (held == Qt::NoModifier && !event->text().isEmpty() && event->text().front().isLetterOrNumber()) {
+    if (TypingClock::IsTyping(*event)) {
         event->accept(); // a word typed on is no answer
         return;
     }

@@ -4,11 +4,12 @@
 #include <QMessageBox>
 
 /// A message box that is as wide as the lines of its text, as far as the screen goes. Plain letters press no
-/// button; a box that came unasked takes no key until there was none for half a second.
+/// button; a box that came unasked takes no key until there was none for half a second, and in the middle of
+/// typing, which may be slow, for as long as nobody pauses.
 class MessageBox : public QMessageBox {
     Q_OBJECT
 public:
-    enum class Came { OnRequest, Unasked };
+    enum class Came { OnRequest, Unasked, AmidTyping };
     MessageBox(Icon icon, const QString& title, const QString& text, StandardButtons buttons, QWidget* over,
                Came came);
     ~MessageBox() override;
@@ -21,5 +22,8 @@ protected:
 private:
     void KeepLines();
     Came came_;
+    /// What a person who goes on typing does not reach: one that reads and looks for the next letter needs
+    /// longer than half a second from key to key.
+    [[nodiscard]] qint64 Pause() const;
     QElapsedTimer quiet_; ///< since the box came or a key was pressed; not valid when keys are taken
 };

@@ -144,10 +144,12 @@ Answer QtQuestions::Ask(std::string_view text, Buttons buttons, std::string_view
         BeforeAsking();
     }
     const OnLeaving back = GiveKeyboardBack();
+    MessageBox::Came came = MessageBox::Came::OnRequest;
+    if (manner.How == Manner::Came::Unasked) {
+        came = typing_.StillTyping() ? MessageBox::Came::AmidTyping : MessageBox::Came::Unasked;
+    }
     MessageBox box(buttons == Buttons::Ok ? QMessageBox::Information : QMessageBox::Question, TitleOf(title),
-                   ShownText(text), ButtonsOf(buttons), Below(),
-                   manner.How == Manner::Came::Unasked ? MessageBox::Came::Unasked
-                                                       : MessageBox::Came::OnRequest);
+                   ShownText(text), ButtonsOf(buttons), Below(), came);
     if (title == "Program Error") {
         box.setIcon(QMessageBox::Warning);
     }

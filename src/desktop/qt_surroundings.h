@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/guard.h"
+#include "desktop/typing_clock.h"
 #include "platform/questions.h"
 #include "platform/surroundings.h"
 
@@ -31,6 +32,7 @@ private:
     /// above.
     [[nodiscard]] OnLeaving<std::function<void()>> GiveKeyboardBack();
     QPointer<QWidget> asking_;
+    TypingClock typing_;
     /// Before the main window shows, a box stands over whatever window does, or in the middle of the screen.
     [[nodiscard]] QWidget* Below() const;
 };

@@ -2,6 +2,7 @@
 
 #include "base/ansi.h"
 #include "base/file_error.h"
+#include "base/safe_write.h"
 #include "desktop/convert.h"
 #include "desktop/odt_document.h"
 
@@ -9,12 +10,9 @@
 #include <QDir>
 #include <QFile>
 #include <QStandardPaths>
-#include <QTemporaryFile>
 #include <QUrl>
 
-#include <cerrno>
-
-#include <unistd.h>
+#include <string_view>
 
 namespace {
 
@@ -54,32 +52,6 @@ private:
     WrittenDocument written_;
 };
 
-/// With the number that the log has for it, where the system gave one.
-[[noreturn]] void Fail(const QString& path, int systemError, const QString& why) {
-    if (systemError != 0) {
-        files::Fail(systemError, Spelled(path));
-    }
-    throw files::FileError(files::kPathAccess, Spelled(path) + ": " + convert::ToModel(why));
-}
-
-/// A name that is taken is not an error; anything else is.
-bool PutInPlace(const QString& from, const QString& to) {
-    if (::link(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0) {
-        return true;
-    }
-    if (errno == EEXIST) {
-        return false;
-    }
-    // A file system without second names: a rename, which here never takes a name that is there.
-    if (QFile::exists(to)) {
-        return false;
-    }
-    if (!QFile::rename(from, to)) {
-        Fail(to, errno, {});
-    }
-    return true;
-}
-
 QStringList ApplicationFolders() {
     return QStandardPaths::standardLocations(QStandardPaths::ApplicationsLocation) +
            QStandardPaths::standardLocations(QStandardPaths::GenericConfigLocation);
@@ -90,25 +62,18 @@ QStringList ApplicationFolders() {
 namespace desktop {
 
 QString WriteUnderFreeName(const QString& folder, const QString& name, const QByteArray& bytes) {
-    QTemporaryFile scratch(folder + QStringLiteral("/.quillbrook-XXXXXX"));
-    errno = 0;
-    if (!scratch.open()) {
-        Fail(folder, errno, scratch.errorString());
-    }
-    errno = 0;
-    if (scratch.write(bytes) != bytes.size() || !scratch.flush() || ::fsync(scratch.handle()) != 0) {
-        Fail(folder, errno, scratch.errorString());
-    }
-    scratch.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::ReadOther);
+    safe_write::RemoveLeftOvers(folder.toStdString());
     constexpr int kMostNames = 10000;
     for (int number = 1; number < kMostNames; ++number) {
         const QString suffix = number == 1 ? QString() : QStringLiteral(" (%1)").arg(number);
         QString path = folder + QLatin1Char('/') + name + suffix + QStringLiteral(".odt");
-        if (PutInPlace(scratch.fileName(), path)) {
+        const std::string_view document(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+        if (!QFile::exists(path) &&
+            safe_write::MakeNew(path.toStdString(), document, Spelled(path)) == safe_write::Made::Yes) {
             return path;
         }
     }
-    Fail(folder, 0, QStringLiteral("too many documents of that name"));
+    throw files::FileError(files::kPathAccess, Spelled(folder) + ": too many documents of that name");
 }
 
 bool HasProgramFor(const QString& mimeType) {

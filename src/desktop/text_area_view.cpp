@@ -17,10 +17,12 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleHints>
+#include <QToolTip>
 
 #include <optional>
 
@@ -220,12 +222,24 @@ QRectF TextAreaView::CaretBox(int position) const {
     return {Corner() + caret.topLeft() * page_.Scale, caret.size() * page_.Scale};
 }
 
+QString TextAreaView::WholeTextTip() const {
+    QString tip = QStringLiteral("<p>") + text().toHtmlEscaped() + QStringLiteral("</p>"); // in several lines
+    if (!toolTip().isEmpty()) {
+        tip += QStringLiteral("<p>") + toolTip().toHtmlEscaped() + QStringLiteral("</p>");
+    }
+    return tip;
+}
+
 bool TextAreaView::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         // The menu's shortcuts come before a line edit's own; only plain characters are claimed.
         const auto& key = static_cast<const QKeyEvent&>(*event);
         event->setAccepted(keykinds::ComesBeforeShortcuts(key));
         return event->isAccepted();
+    }
+    if (event->type() == QEvent::ToolTip && TextWidth() > static_cast<double>(line_.Shown().Width)) {
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), WholeTextTip(), this);
+        return true;
     }
     return QLineEdit::event(event);
 }

@@ -25,6 +25,8 @@ public:
     /// Left edge and width of the text as drawn, in twips from the page's corner.
     [[nodiscard]] double TextLeft() const;
     [[nodiscard]] double TextWidth() const;
+    /// The tool tip of a text that its area does not show as a whole.
+    [[nodiscard]] QString WholeTextTip() const;
     /// Where a caret at a position stands, in the widget's pixels.
     [[nodiscard]] QRectF CaretBox(int position) const;
     [[nodiscard]] QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;

@@ -4,6 +4,7 @@
 #include "base/paths.h"
 #include "editing/fresh_figures.h"
 #include "money/shown_figures.h"
+#include "output/cut_texts.h"
 #include "output/frm_dialog.h"
 #include "output/page_count.h"
 #include "output/print_page.h"
@@ -65,6 +66,9 @@ void PrintPages(Program& program, const std::vector<PageId>& pages) {
     const ScopedFlag running(program.printing.CommandRunning);
     modFigures::TakeFresh(program);
     if (HaveFigures(pages) && !modTotals::MayShowFigures(program)) {
+        return;
+    }
+    if (!MayPrint(program, pages)) {
         return;
     }
     Printers& printers = program.platform.printers;

@@ -279,9 +279,12 @@ void EnsureFolders(const Program& program) {
 
 /// What runs that broke off have left in the middle of writing.
 void RemoveLeftOvers(const Program& program) {
-    for (const std::string& folder : {program.folders.InstallFolder, program.folders.ProposalsFolder,
-                                      modFolders::BackupFolder(program)}) {
+    for (const std::string& folder : {program.folders.InstallFolder, modFolders::OwnFolder(program),
+                                      program.folders.ProposalsFolder, modFolders::BackupFolder(program)}) {
         files::RemoveLeftOvers(folder);
+    }
+    if (const auto& work = program.recovery.Found) {
+        files::RemoveLeftOvers(work->Folder); // a proposal may be of any folder
     }
 }
 

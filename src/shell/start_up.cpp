@@ -8,6 +8,7 @@
 #include "program/windows.h"
 #include "proposal/run_marker.h"
 #include "settings/settings.h"
+#include "shell/closing.h"
 #include "shell/frm_splash.h"
 
 #include <algorithm>
@@ -57,7 +58,7 @@ StartResult Main(Program& program) {
         break;
     }
     StartResult result = StartResult::Running;
-    Guarded(program, "Main", [&] {
+    const bool whole = Guarded(program, "Main", [&] {
         if (IsFirstStart(program)) {
             questions.MsgBox(
                 text::Lines({"Although the program is easy to use, some of the features which will",
@@ -78,6 +79,11 @@ StartResult Main(Program& program) {
         auto& splash = static_cast<frmSplash&>(modWindows::Show(program, std::make_unique<frmSplash>()));
         splash.GatherFourCorners(program);
     });
+    if (!whole) {
+        // What an earlier run left in its marker stays for the next start.
+        modClosing::EndRun(program);
+        return StartResult::Ended;
+    }
     return result;
 }
 

@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 using Call = FailingDisk::Call;
 using Failure = FailingDisk::Failure;
 
-constexpr std::array kErrors{ENOSPC, EIO, EACCES, EROFS};
+constexpr std::array kErrors{ENOSPC, EIO, EACCES, EROFS, EDQUOT, EINTR};
 constexpr std::array kNames{"Ann.hef", "Bob.hef", "Cid.hef"};
 
 std::string BytesOf(const std::string& name) {
@@ -89,8 +89,8 @@ private:
 
 TEST(CalendarOnFailingDisks, WhateverStepOfAMoveFailsEachProposalIsThereOnceAndItIsTold) {
     for (std::size_t system = 0; system < 3; ++system) {
-        for (const Call call :
-             {Call::Move, Call::Link, Call::Unlink, Call::Open, Call::Rename, Call::OpenFolder}) {
+        for (const Call call : {Call::Move, Call::Link, Call::Unlink, Call::Open, Call::Close, Call::Rename,
+                                Call::OpenFolder, Call::ListFolder}) {
             for (const int error : kErrors) {
                 for (int nth = 1; nth <= 3; ++nth) {
                     const std::string step = std::to_string(system) + " " +
@@ -187,11 +187,12 @@ TEST(CalendarOnFailingDisks, AFileThatCannotBeReadCountsAmongTheUndatedAndTheOth
     for (const Call call : {Call::OpenIn, Call::Read}) {
         for (const int error : kErrors) {
             Dated run;
+            const int lost = error == EINTR ? 0 : 1; // what a signal breaks off is done again
             {
                 const FailingDisk disk{{call, 2, error}};
-                EXPECT_EQ(run.Open().lstDates.Items.size(), 2U);
+                EXPECT_EQ(static_cast<int>(run.Open().lstDates.Items.size()), 3 - lost);
             }
-            EXPECT_EQ(run.program.calendar.Undated, 1);
+            EXPECT_EQ(run.program.calendar.Undated, lost);
         }
     }
 }

@@ -3,6 +3,7 @@
 #include "desktop/odt_document.h"
 #include "desktop/qt_word_services.h"
 #include "output/proposal_text.h"
+#include "support/failing_disk.h"
 #include "support/person.h"
 #include "support/running_program.h"
 #include "support/small_disk.h"
@@ -13,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 
 namespace {
@@ -141,6 +143,59 @@ TEST(DocumentFile, AFullDiskIsToldAndNoHalfDocumentStays) {
         EXPECT_THROW(static_cast<void>(documents.Write(QByteArray(5000, 'x'))), files::FileError);
     }
     EXPECT_TRUE(documents.Names().empty());
+}
+
+TEST(DocumentFile, IsThereWholeOrNotAtAllWhateverErrorStopsIt) {
+    using Call = FailingDisk::Call;
+    const std::string text(5000, 'x');
+    int failures = 0;
+    for (const Call call : {Call::Open, Call::Write, Call::Flush, Call::Close, Call::Link, Call::Rename}) {
+        bool met = true;
+        for (int nth = 1; met; ++nth) {
+            for (const int error : {ENOSPC, EIO, EACCES, EROFS, EDQUOT, EINTR, EPERM}) {
+                SCOPED_TRACE("call " + std::to_string(static_cast<int>(call)) + ", the " +
+                             std::to_string(nth) + "th, error " + std::to_string(error));
+                const DocumentFolder documents;
+                documents.folder.Write("Jane Roe.odt", "mine");
+                bool told = false;
+                {
+                    const FailingDisk disk{{call, nth, error, 1}};
+                    try {
+                        static_cast<void>(documents.Write(QByteArray::fromStdString(text)));
+                    } catch (const files::FileError&) {
+                        told = true;
+                    }
+                    met = disk.Failed() > 0;
+                }
+                EXPECT_EQ(documents.folder.Read("Jane Roe.odt"), "mine");
+                EXPECT_EQ(documents.Names().size(), told ? 1U : 2U) << "and nothing else lies there";
+                if (!told) {
+                    EXPECT_EQ(documents.folder.Read("Jane Roe (2).odt"), text);
+                }
+                if (!met) {
+                    break;
+                }
+                ++failures;
+            }
+        }
+    }
+    EXPECT_GE(failures, 7 * 5);
+}
+
+TEST(DocumentFile, OnAFileSystemWithoutSecondNamesStandsTooAndTakesNobodysPlace) {
+    using Call = FailingDisk::Call;
+    const DocumentFolder documents;
+    documents.folder.Write("Jane Roe.odt", "mine");
+    {
+        const FailingDisk disk{{Call::Link, 1, EPERM, FailingDisk::kForever}};
+        EXPECT_TRUE(documents.Write("first").endsWith(QLatin1String("/Jane Roe (2).odt")));
+    }
+    {
+        const FailingDisk disk{{Call::Link, 1, EPERM, FailingDisk::kForever}, {Call::Rename, 1, EIO}};
+        EXPECT_THROW(static_cast<void>(documents.Write("second")), files::FileError);
+    }
+    EXPECT_EQ(documents.folder.Read("Jane Roe (2).odt"), "first");
+    EXPECT_EQ(documents.Names().size(), 2U) << "no empty file keeps the name of the second";
 }
 
 TEST(DocumentFile, AFolderThatTakesNoFileIsTold) {

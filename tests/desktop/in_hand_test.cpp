@@ -2,13 +2,20 @@
 #include "desktop/dialog_parts.h"
 #include "desktop/elided_label.h"
 #include "desktop/message_box.h"
+#include "desktop/qt_surroundings.h"
+#include "pages/fields.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QDialog>
+#include <QHelpEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
+#include <QTimer>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -70,6 +77,31 @@ TEST(MessageBox, ThatNobodyAskedForIsNotAnsweredByRunningTyping) {
     EXPECT_FALSE(run.box.isVisible());
 }
 
+TEST(MessageBox, ThatNobodyAskedForIsNotAnsweredBySlowTypingEither) {
+    QtQuestions questions;
+    QLineEdit line;
+    line.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&line));
+    QTest::keyClicks(&line, QStringLiteral("twelve"));
+    int keys = 0;
+    QTimer typist;
+    QObject::connect(&typist, &QTimer::timeout, &typist, [&] {
+        auto* box = qobject_cast<MessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr) << "pressed by key " << keys;
+        ++keys;
+        if (keys < 3) { // a blank, and Enter to the next line
+            QTest::keyClick(box->button(QMessageBox::No), keys == 1 ? Qt::Key_Space : Qt::Key_Return);
+        } else {
+            box->button(QMessageBox::No)->click();
+        }
+    });
+    typist.start(600);
+    EXPECT_EQ(questions.MsgBox("Delete it?", Buttons::YesNo, "",
+                               {.Default = Answer::No, .How = Manner::Came::Unasked}),
+              Answer::No);
+    EXPECT_EQ(keys, 3);
+}
+
 TEST(MessageBox, IsAsWideAsItsLinesAndNoWiderThanTheScreen) {
     const QString line(
         QStringLiteral("Text cannot be recognized as a date and will become useless for managing "
@@ -95,6 +127,25 @@ TEST(FilteredEdit, TakesWhatTheModelTakesAndTellsTheRest) {
     edit->insert(QStringLiteral("a2b3"));
     EXPECT_EQ(edit->text(), QStringLiteral("1235"));
     EXPECT_EQ(edit->cursorPosition(), 3);
+}
+
+TEST(CutText, IsToldAsAWholeUnderThePointer) {
+    DesktopRun run;
+    const FieldRef street{PageId::frmP1, FieldKind::txt, 3};
+    const std::string text = "12 <Elm> Street, " + std::string(60, 'm');
+    modFields::SetText(run.program, street, text);
+    run.window->AfterEvent();
+    QLineEdit& field = run.Field(street);
+    const auto tip = [&] {
+        QHelpEvent help(QEvent::ToolTip, QPoint(5, 5), field.mapToGlobal(QPoint(5, 5)));
+        QCoreApplication::sendEvent(&field, &help);
+        return QToolTip::text();
+    };
+    EXPECT_TRUE(tip().contains(QStringLiteral("12 &lt;Elm&gt; Street, mmm"))) << tip().toStdString();
+    modFields::SetText(run.program, street, "12 Elm Street");
+    run.window->AfterEvent();
+    QToolTip::hideText();
+    EXPECT_FALSE(tip().contains(QStringLiteral("Elm")));
 }
 
 TEST(ElidedLabel, KeepsItsTextWhereItIsCut) {

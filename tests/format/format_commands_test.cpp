@@ -611,4 +611,24 @@ TEST(ChooserKinds, APictureBecomesTheLogoAndAnythingElseIsRefused) {
     EXPECT_EQ(run.program.document.FileFilter, "*.hef");
 }
 
+TEST(FormatSave, ATextOfTheFormatThatAPersonTakesOutIsNotInItAnyMore) {
+    Formats run;
+    run.folder.Write("Proposals/Hall.fmt",
+                     "frmP1.txt(8).Text=Hall\r\nfrmP1.txt(9).Text=Noon\r\n" + std::string(kHouse));
+    run.Open("Hall.fmt");
+    ASSERT_EQ(run.TextOf(PageId::frmP1, 8), "Hall");
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 8);
+    for (int letter = 0; letter < 4; ++letter) {
+        typist.PutCursor(1);
+        typist.Press(keys::kBackspace);
+    }
+    ASSERT_EQ(run.TextOf(PageId::frmP1, 8), "");
+    typist.Click(PageId::frmP1, 10);
+    typist.Type("Arch");
+    run.Questions().Expect("Shall the texts", Answer::Yes);
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Hall.fmt"), "frmP1.txt(9).Text=Noon\r\n" + std::string(kHouse));
+}
+
 } // namespace

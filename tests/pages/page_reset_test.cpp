@@ -97,4 +97,17 @@ TEST(PageDefaults, GiveEveryLabelTheSameLookButForSizeAndWeight) {
     }
 }
 
+TEST(PageDefaults, TheHeadingsOfTheFiguresAndTheirSignsAreBoldOnTheFinalPages) {
+    RunningProgram run;
+    for (const PageId page : {PageId::frmP6, PageId::frmP6_1}) {
+        modPages::ApplyPageDefaults(run.program, page);
+        const Page& record = run.program.pages[page];
+        for (std::size_t index = 0; index <= 13; ++index) {
+            const bool bold = index >= 1 && index <= 12;
+            EXPECT_EQ(record.lbl[index].FontBold, bold) << record.Name << " label " << index;
+            EXPECT_EQ(record.LabelBaseState[index].FontBold, bold) << record.Name << " label " << index;
+        }
+    }
+}
+
 } // namespace

@@ -8,10 +8,12 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -582,6 +584,27 @@ TEST(Settings, AFailedWriteLeavesTheFileAndTheLines) {
         }
         EXPECT_EQ(run.folder.Read("UserPreferences.txt"), bytes);
         EXPECT_EQ(run.program.settings.Lines, lines);
+    }
+}
+
+TEST(Settings, TheStartTakesAwayWhatBrokenWritesLeftWhereverTheProgramWrites) {
+    Settled run;
+    // A machine's name that is none of ours, two days ago: nobody is still writing that.
+    const std::string leftOver = ".quillbrook.another-machine.1.0.tmp";
+    const std::vector<std::string> folders{"", "Proposals/", "Share/Proposals/", "Share/Proposals/Backup/",
+                                           "Elsewhere/"};
+    for (const std::string& folder : folders) {
+        run.folder.Write(folder + leftOver, "half of it");
+        std::filesystem::last_write_time(run.folder / (folder + leftOver),
+                                         std::filesystem::file_time_type::clock::now() -
+                                             std::chrono::hours(48));
+    }
+    run.folder.Write("UserPreferences.txt", SettingsFile({{1, run.folder / "Share/"}}));
+    run.program.recovery.Found =
+        UnsavedWork{run.folder / "Elsewhere/", "Ann.hef", "Ann (Elsewhere).hef", {}, {}};
+    modSettings::GetUserPreferences(run.program);
+    for (const std::string& folder : folders) {
+        EXPECT_FALSE(run.folder.Has(folder + leftOver)) << folder;
     }
 }
 

@@ -124,6 +124,13 @@ const std::vector<Kind>& Kinds() {
              run.Put(3, "12 Elm Street");
          },
          [](Kept& run) { modFile::BackupThisFile(run.program); }},
+        {"backup's properties", "Proposals/Backup/Ann.hpf",
+         [](Kept& run) {
+             run.program.format.PropertyLines = {"frmP1.txt(10).FontBold=True"};
+             modFile::BackupThisFile(run.program);
+             run.program.format.PropertyLines = {"frmP1.txt(11).FontBold=True"};
+         },
+         [](Kept& run) { modFile::BackupThisFile(run.program); }},
         {"footnotes", "Proposals/Ann.hxt",
          [](Kept& run) { run.folder.Write("Proposals/Ann.hxt", "Call the florist."); },
          [](Kept& run) { run.WriteBeside("Ann.hxt", "Call the florist and the band."); }},

@@ -306,6 +306,14 @@ TEST(LongTexts, AreNamedAndCancelWritesNothing) {
     commands::Run(run.program, CommandId::mnuFileSaveEvent);
     EXPECT_FALSE(run.folder.Has("Proposals/Ann.hef"));
     EXPECT_FALSE(run.program.document.FileExists);
+    const Manner& manner = run.surroundings.questions.Manners.back();
+    EXPECT_EQ(manner.Default, Answer::No);
+    EXPECT_EQ(manner.Words, (Texts{"Save Anyway", "Cancel"}));
+    run.surroundings.questions.Expect("These texts are longer than their place in the file", Answer::Yes);
+    run.Save();
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hef").substr(1930, 121), std::string(120, 'x') + "x")
+        << "the next slot begins there";
+    EXPECT_EQ(run.TextOf(kSecond, 0), std::string(121, 'x')) << "on the page it stays whole";
 }
 
 TEST(LongTexts, CountTheExemptMark) {

@@ -261,6 +261,18 @@ TEST(StartUp, ARateOfZeroIsAskedForAtEveryStart) {
     EXPECT_TRUE(run.program.main.Loaded);
 }
 
+TEST(StartUp, AFailureBeforeTheSplashTellsWhyAndEnds) {
+    Starting run;
+    run.folder.Write("Running.txt", "/none/\r\nAnn.hef\r\nAnn.hef\r\n");
+    run.surroundings.screen.OnFonts = [] { throw std::runtime_error("no font server"); };
+    run.surroundings.questions.Expect("no font server");
+    EXPECT_EQ(run.Main(), modStart::StartResult::Ended);
+    EXPECT_FALSE(run.program.main.Loaded);
+    EXPECT_TRUE(run.program.main.Closing);
+    EXPECT_TRUE(run.program.windows.Open.empty());
+    EXPECT_TRUE(run.folder.Has("Running.txt")) << "what an earlier run left is still to be offered";
+}
+
 TEST(StartUp, AFailureOfTheLoadIsReportedAndToldAndTheRunEnds) {
     Starting run;
     run.program.hooks.GotFocus = [](Program&, const FieldRef&) { throw std::runtime_error("no field"); };

@@ -168,7 +168,14 @@ public:
     std::vector<std::string> FontNames{"Arial", "Times New Roman"};
     int Pixels = 1280;
     int PixelsHigh = 1024;
-    [[nodiscard]] std::vector<std::string> Fonts() const override { return FontNames; }
+    /// Runs when the fonts are asked for; a test can throw here.
+    std::function<void()> OnFonts;
+    [[nodiscard]] std::vector<std::string> Fonts() const override {
+        if (OnFonts) {
+            OnFonts();
+        }
+        return FontNames;
+    }
     [[nodiscard]] int WidthInPixels() const override { return Pixels; }
     [[nodiscard]] int HeightInPixels() const override { return PixelsHigh; }
     [[nodiscard]] float TwipsPerPixel() const override { return 15; }
