@@ -216,6 +216,7 @@ TEST(FormatSave, WithoutANameAsksForOneAndAnEmptyAnswerStops) {
     run.Questions().ExpectInput("Saving File As...", "Barn.fmt");
     modFormat::mnuFileFormatSave_Click(run.program);
     EXPECT_TRUE(run.folder.Has("Proposals/Barn.fmt"));
+    EXPECT_EQ(run.program.main.Notice, "Format saved: " + run.folder / "Proposals/Barn.fmt");
     EXPECT_EQ(run.program.format.FormatName, "Barn.fmt");
     EXPECT_EQ(run.Main().Caption, "Quillbrook - Format File = Barn.fmt");
 }
