@@ -110,4 +110,35 @@ TEST(PageDefaults, TheHeadingsOfTheFiguresAndTheirSignsAreBoldOnTheFinalPages) {
     }
 }
 
+TEST(PageDefaults, RowsBeginWithoutTheirColumns) {
+    RunningProgram run;
+    for (const PageId page : kLinePages) {
+        modPages::EnsureRowFields(run.program, page);
+        Spoil(run.program.pages[page]);
+        modPages::ApplyPageDefaults(run.program, page);
+        const Page& record = run.program.pages[page];
+        for (const auto* boxes : {&record.txtQty, &record.txtAmt}) {
+            for (const TextArea& box : *boxes) {
+                EXPECT_FALSE(box.Visible);
+                EXPECT_EQ(box.Tag, kHide);
+                EXPECT_EQ(box.BackColor, colors::kRestingRowField);
+                EXPECT_EQ(box.ForeColor, colors::kBlack);
+            }
+        }
+        for (const auto* labels : {&record.lblAt, &record.lblEach}) {
+            for (const PageLabel& label : *labels) {
+                EXPECT_FALSE(label.Visible);
+                EXPECT_EQ(label.Tag, kHide);
+            }
+        }
+        for (const PageLabel& label : record.lbl) {
+            EXPECT_FALSE(label.Visible) << "shown once everything stands";
+            EXPECT_FALSE(label.FontUnderline);
+            EXPECT_TRUE(label.FontItalic);
+            EXPECT_EQ(label.ForeColor, colors::kBlack);
+            EXPECT_EQ(label.BackStyle, 0);
+        }
+    }
+}
+
 } // namespace
