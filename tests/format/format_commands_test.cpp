@@ -650,10 +650,22 @@ TEST(FormatEnd, WhatAPersonChangesInTheOpenFormatIsAskedAboutWhenItIsLeft) {
              window.optFontSize_Click(run.program, 2);
              window.cmdOK_Click(run.program);
          }},
-        {"the logo moved", [](Formats& run) {
+        {"the logo moved",
+         [](Formats& run) {
              modLogo::pic_MouseDown(run.program, 1, 0, 0);
              static_cast<void>(modLogo::pic_MouseMove(run.program, 180, 0));
              modLogo::pic_MouseUp(run.program);
+         }},
+        {"another logo",
+         [](Formats& run) {
+             run.folder.Write("Proposals/b.png", "x");
+             run.surroundings.pictures.Known[run.folder / "Proposals/b.png"] = {1500, 900};
+             person::Choose(run.program, CommandId::mnuEditLogoOpen);
+             run.Choose("b.png");
+         }},
+        {"the logo on show made the default", [](Formats& run) {
+             run.program.pages[PageId::frmP1].pic.Picture = {PictureRef::Source::File, "/srv/logo.png"};
+             person::Choose(run.program, CommandId::mnuEditLogoSave);
          }}};
     for (const auto& [what, change] : changes) {
         Formats run;
