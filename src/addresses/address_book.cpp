@@ -361,9 +361,9 @@ Outcome ConfirmAddressChange(Program& program, AddressWindow& window) {
     AddressRecords& book = program.addresses;
     switch (program.platform.questions.MsgBox(
         "The current Record has been changed. Do you want to save the changes?", Buttons::YesNoCancel,
-        "Record Has Changed", {.Default = Answer::Yes, .Lost = "The changes of this record"})) {
+        "Record Has Changed",
+        {.Default = Answer::Yes, .Lost = "The changes to this record will be lost unless they are saved."})) {
     case Answer::Yes:
-        book.AddressSaveCancelled = false;
         static_cast<void>(SaveAddressRecord(program, window)); // AddressSaveCancelled says what came of it
         break;
     case Answer::No:

@@ -12,7 +12,9 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "proposal/file_names.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <utility>
@@ -31,6 +33,19 @@ struct AreaText {
 
 FieldRef Client(int area) {
     return {PageId::frmP1, FieldKind::txt, area};
+}
+
+/// For the printed record; a name may hold what no file's name can.
+std::string SuggestedFile(const Program& program, const AddressWindow& window) {
+    std::string name(text::Trim(window.txt[kNameField].Text));
+    std::ranges::replace_if(
+        name,
+        [](char letter) {
+            return modNames::HasIllegalCharacter({&letter, 1});
+        },
+        '-');
+    return paths::Join(modFolders::DataFolder(program),
+                       name.empty() ? "Address.pdf" : name + ", Address.pdf");
 }
 
 std::string AreaOf(const Program& program, int area) {
@@ -172,8 +187,7 @@ void PrintRecord(const Program& program, const AddressWindow& window) {
     if (program.printing.CommandRunning) {
         return;
     }
-    const std::string suggested = paths::Join(modFolders::DataFolder(program), "Address.pdf");
-    if (!printers.BeginCommand({suggested})) {
+    if (!printers.BeginCommand({SuggestedFile(program, window)})) {
         return;
     }
     Guarded(program, "mnuFilePrint", [&] {

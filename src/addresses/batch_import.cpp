@@ -181,7 +181,14 @@ std::string CopiedList(const Program& program) {
     return std::move(taken.Text);
 }
 
-Parsed ParseCsvAddressList(Program& program) {
+/// What stands in the run panel while the person is asked about the rows that cannot be read.
+std::string WhatWasFound(const BatchRecords& batch) {
+    const std::int32_t count = batch.BatchRecordLast + 1;
+    return std::to_string(count) + (count == 1 ? " record found, " : " records found, ") +
+           std::to_string(batch.BadRecords.size()) + " of them cannot be read";
+}
+
+Parsed ParseCsvAddressList(Program& program, AddressWindow& window) {
     BatchRecords& batch = Batch(program);
     batch.List = CopiedList(program);
     if (batch.List.empty()) {
@@ -207,6 +214,7 @@ Parsed ParseCsvAddressList(Program& program) {
     if (batch.BadRecords.empty()) {
         return Parsed::Yes;
     }
+    window.lblBatch.Caption = WhatWasFound(batch);
     const Answer answer = program.platform.questions.MsgBox(
         text::Lines({"The following records cound not be parsed...", BadRecordNumbers(batch.BadRecords),
                      "and will be excluded from the Batch Import Process for the",
@@ -276,8 +284,10 @@ void FillFromBatch(Program& program, AddressWindow& window) {
     book.AddressRecordNew = true;
     book.RecordAsRead.clear();
     window.lstNames.ListIndex = -1;
-    window.lblBatch.Caption = "Record " + std::to_string(book.Batch.BatchPosition + 1) + " of " +
-                              std::to_string(book.Batch.BatchRecordLast + 1);
+    const std::string record = "Record " + std::to_string(book.Batch.BatchPosition + 1) + " of " +
+                               std::to_string(book.Batch.BatchRecordLast + 1);
+    window.lblBatch.Caption = record;
+    window.Caption = "Importing " + record + "/" + std::string(NamesOf(book.Book).Target) + " Address Book";
     window.FocusWanted = kNameField;
 }
 
@@ -408,7 +418,9 @@ void BeginBatch(Program& program, AddressWindow& window) {
     batch.BatchRunning = true;
     batch.BatchStopped = false;
     window.lstNames.Enabled = false;
-    const Parsed parsed = batch.BatchImportCsv ? ParseCsvAddressList(program) : ParseBatchData(program);
+    window.lblBatch.Caption = "Reading the copied list";
+    const Parsed parsed =
+        batch.BatchImportCsv ? ParseCsvAddressList(program, window) : ParseBatchData(program);
     if (parsed == Parsed::No) {
         EndBatch(program, window);
         return;

@@ -90,7 +90,8 @@ Outcome MayLeaveCompanyInfo(Program& program, AddressWindow& window) {
     }
     switch (program.platform.questions.MsgBox(
         "The current Record has been changed. Do you want to save the changes?", Buttons::YesNoCancel,
-        "Record Has Changed", {.Default = Answer::Yes, .Lost = "The changes of this record"})) {
+        "Record Has Changed",
+        {.Default = Answer::Yes, .Lost = "The changes to this record will be lost unless they are saved."})) {
     case Answer::Yes:
         return SaveCompanyInfo(program, window);
     case Answer::No:

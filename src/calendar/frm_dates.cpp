@@ -243,7 +243,7 @@ void frmDates::mnuFilePrint_Click(Program& program) {
     std::vector<std::string> lines{modCalendar::Heading(program)};
     lines.insert(lines.end(), lstDates.Items.begin(), lstDates.Items.end());
     Guarded(program, "PrintTheForm", [&] {
-        if (modLines::PrintLines(program, "Event Dates", lines, {}) == modLines::Printed::NoPrinter) {
+        if (modLines::PrintLines(program, {"Event Dates"}, lines, {}) == modLines::Printed::NoPrinter) {
             questions.MsgBox("Could not find Printer.", Buttons::Ok, "");
         }
     });

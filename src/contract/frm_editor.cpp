@@ -311,11 +311,11 @@ void frmEditor::Run(Program& program, std::string_view name) {
 }
 
 bool frmEditor::MayLeave(Program& program, Leaving) {
-    return !EditorDirty ||
-           program.platform.questions.MsgBox(
-               "The Contract Language has not been exported to the proposal. Exit anyway?", Buttons::YesNo,
-               "Contract Language has been Changed",
-               {.Default = Answer::No, .Lost = "The contract language as it was changed"}) == Answer::Yes;
+    return !EditorDirty || program.platform.questions.MsgBox(
+                               "The Contract Language has not been exported to the proposal. Exit anyway?",
+                               Buttons::YesNo, "Contract Language has been Changed",
+                               {.Default = Answer::No,
+                                .Lost = "The changes to the contract language will be lost."}) == Answer::Yes;
 }
 
 void frmEditor::KeepUnsaved(Program& program) {

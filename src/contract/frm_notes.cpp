@@ -116,7 +116,8 @@ bool frmNotes::MayLeave(Program& program, Leaving) {
     switch (program.platform.questions.MsgBox(
         "The Footnote File has been changed. Do you want to save it?", Buttons::YesNoCancel,
         "Footnotes have been Changed",
-        {.Default = Answer::Yes, .Lost = "The footnotes as they were changed"})) {
+        {.Default = Answer::Yes,
+         .Lost = "The changes to the footnotes will be lost unless they are saved."})) {
     case Answer::Yes:
         return SaveFootnoteFile(program);
     case Answer::No:
@@ -148,7 +149,8 @@ void frmNotes::mnuFilePrint_Click(Program& program) {
     sheet.Left = kSide;
     sheet.Right = kSide;
     Guarded(program, "PrintTheForm", [&] {
-        if (modLines::PrintLines(program, "Footnotes", lines, sheet) == modLines::Printed::NoPrinter) {
+        if (modLines::PrintLines(program, {"Footnotes", program.document.BaseName}, lines, sheet) ==
+            modLines::Printed::NoPrinter) {
             program.platform.questions.MsgBox("Could not find Printer.", Buttons::Ok, "");
         }
     });

@@ -346,7 +346,8 @@ bool frmDeposits::SettlePendingAmount(const Program& program) {
     }
     switch (program.platform.questions.MsgBox(
         "The amount has not been added to the list. Add it?", Buttons::YesNoCancel, "",
-        {.Default = Answer::Yes, .Lost = "The amount " + txtAmount.Text})) {
+        {.Default = Answer::Yes,
+         .Lost = "The amount " + txtAmount.Text + " will be lost unless it is added."})) {
     case Answer::Yes:
         return AddOrReplace(program) == Added::Yes;
     case Answer::No:
@@ -407,7 +408,8 @@ bool frmDeposits::MayLeave(Program& program, Leaving) {
     }
     switch (program.platform.questions.MsgBox(
         "The deposit list has changed. Save changes?", Buttons::YesNoCancel, "Deposit List Modified",
-        {.Default = Answer::Yes, .Lost = "The changes of the deposit list"})) {
+        {.Default = Answer::Yes,
+         .Lost = "The changes to the deposit list will be lost unless they are saved."})) {
     case Answer::Yes:
         return SaveDepositInfo(program);
     case Answer::No:
@@ -449,7 +451,7 @@ void frmDeposits::mnuFilePrint_Click(Program& program) {
     lines.push_back("Total Deposit:\t\t" + Signed(program, modDeposits::Shown(total_)));
     modLines::Printed printed = modLines::Printed::NoPrinter;
     try {
-        printed = modLines::PrintLines(program, "Deposits Received", lines, {});
+        printed = modLines::PrintLines(program, {"Deposits Received", program.document.BaseName}, lines, {});
     } catch (const std::exception&) {
         printed = modLines::Printed::NoPrinter; // a printer that fails is none
     }

@@ -109,7 +109,7 @@ std::string PlaceOf(const PasteTarget& target) {
     const std::string lines = first == last
                                   ? ", line " + std::to_string(first)
                                   : ", lines " + std::to_string(first) + " to " + std::to_string(last);
-    return "The texts of " + std::string(geometry::PageCaption(target.Page)) + lines;
+    return std::string(geometry::PageCaption(target.Page)) + lines;
 }
 
 bool MayWrite(const Program& program, const PasteTarget& target) {
@@ -122,7 +122,8 @@ bool MayWrite(const Program& program, const PasteTarget& target) {
     }
     const Answer answer = program.platform.questions.MsgBox(
         "Text is present in destination areas. Over-write this text with that in memory?", Buttons::YesNo,
-        "Text areas are not all empty.", {.Default = Answer::No, .Lost = PlaceOf(target)});
+        "Text areas are not all empty.",
+        {.Default = Answer::No, .Lost = "The texts of " + PlaceOf(target) + " will be replaced."});
     if (answer != Answer::Yes) {
         Tell(program, "Action Cancelled.");
         return false;

@@ -187,7 +187,8 @@ FormatSave SaveSteps(Program& program, const Name& name) {
     }
     const std::string path = paths::Join(TargetFolder(program), name.File);
     if (name.Asked && files::Exists(path)) {
-        if (!Confirmed(program, "File already exists. Overwrite?", name.File)) {
+        if (!Confirmed(program, "File already exists. Overwrite?",
+                       "What " + name.File + " holds now will be lost.")) {
             return FormatSave::NotSaved;
         }
     }

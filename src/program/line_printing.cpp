@@ -106,7 +106,7 @@ private:
 
 } // namespace
 
-Printed PrintLines(Program& program, std::string_view name, const std::vector<std::string>& lines,
+Printed PrintLines(Program& program, const Document& document, const std::vector<std::string>& lines,
                    const Sheet& sheet) {
     if (program.printing.CommandRunning) {
         return Printed::Refused;
@@ -116,13 +116,13 @@ Printed PrintLines(Program& program, std::string_view name, const std::vector<st
         return Printed::NoPrinter;
     }
     const ScopedFlag running(program.printing.CommandRunning);
-    const DocumentState& document = program.document;
-    const std::string folder =
-        document.FilePath.empty() ? modFolders::DataFolder(program) : document.FilePath;
-    if (!printers.BeginCommand({paths::Join(folder, std::string(name) + ".pdf")})) {
+    const std::string& path = program.document.FilePath;
+    const std::string folder = path.empty() ? modFolders::DataFolder(program) : path;
+    const std::string whose = document.Whose.empty() ? "" : std::string(document.Whose) + ", ";
+    if (!printers.BeginCommand({paths::Join(folder, whose + std::string(document.Name) + ".pdf")})) {
         return Printed::Refused;
     }
-    printers.NameDocument(name, 0);
+    printers.NameDocument(document.Name, 0);
     Printer& printer = printers.Device();
     Paper paper(printer, program.platform.measure, sheet);
     for (const std::string& line : lines) {

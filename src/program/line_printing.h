@@ -27,9 +27,14 @@ enum class Printed {
     Refused    ///< the person gave no file, or pages are on their way to the printer
 };
 
-/// Prints the lines as one document. `name` is the document's and the suggested file's. Throws what the
-/// printer throws.
-[[nodiscard]] Printed PrintLines(Program& program, std::string_view name,
+struct Document {
+    std::string_view Name; ///< also the suggested file's
+    std::string_view
+        Whose{}; ///< in front of the file's name, so that one client's does not replace another's
+};
+
+/// Prints the lines as one document. Throws what the printer throws.
+[[nodiscard]] Printed PrintLines(Program& program, const Document& document,
                                  const std::vector<std::string>& lines, const Sheet& sheet);
 
 } // namespace modLines

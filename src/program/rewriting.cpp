@@ -18,7 +18,9 @@ bool MayOverwrite(const Program& program, std::string_view path, const files::Se
                "This " + std::string(what) +
                    " was changed by another program since you opened it. Overwrite it?",
                Buttons::YesNo, "",
-               {.Default = Answer::No, .Lost = std::string(paths::Name(path))}) == Answer::Yes;
+               {.Default = Answer::No,
+                .Lost = "What the other program wrote into " + std::string(paths::Name(path)) +
+                        " will be lost."}) == Answer::Yes;
 }
 
 void WriteOver(std::string_view path, std::string_view bytes, files::Seen& seen) {

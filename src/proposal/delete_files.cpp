@@ -3,6 +3,7 @@
 #include "base/files.h"
 #include "base/paths.h"
 
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -25,12 +26,13 @@ std::vector<std::string> NamesOf(std::string_view folder, std::string_view fileN
 
 } // namespace
 
-std::string FilesOfProposal(std::string_view folder, std::string_view fileName) {
-    std::string line;
-    for (const std::string& name : NamesOf(folder, fileName)) {
-        line += (line.empty() ? "" : ", ") + name;
+std::string LossOfProposal(std::string_view folder, std::string_view fileName) {
+    const std::vector<std::string> names = NamesOf(folder, fileName);
+    std::string line = names.front();
+    for (std::size_t index = 1; index < names.size(); ++index) {
+        line += (index + 1 == names.size() ? " and " : ", ") + names[index];
     }
-    return line;
+    return line + " will be deleted.";
 }
 
 void DeleteProposalFiles(std::string_view folder, std::string_view fileName) {

@@ -5,8 +5,8 @@
 
 namespace modFile {
 
-/// A proposal and the files of its base name beside it as one line of names.
-[[nodiscard]] std::string FilesOfProposal(std::string_view folder, std::string_view fileName);
+/// What a person is told before a proposal is deleted: its file and those of its base name beside it.
+[[nodiscard]] std::string LossOfProposal(std::string_view folder, std::string_view fileName);
 
 /// Deletes a proposal and the files of its base name beside it. Throws files::FileError.
 void DeleteProposalFiles(std::string_view folder, std::string_view fileName);

@@ -63,8 +63,9 @@ void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::st
             text::Lines({"A file with this name (" + std::string(name) + ")",
                          "already exists. Do you want to replace the", "existing file, created on:",
                          dates::GeneralDate(files::ModifiedSerial(path)), "", "with this one?"});
-        if (program.platform.questions.MsgBox(question, Buttons::YesNo, "Duplicate File Name on Record",
-                                              {.Default = Answer::No, .Lost = path}) == Answer::Yes) {
+        if (program.platform.questions.MsgBox(
+                question, Buttons::YesNo, "Duplicate File Name on Record",
+                {.Default = Answer::No, .Lost = "The file " + path + " will be replaced."}) == Answer::Yes) {
             return; // the new bytes replace the file in one step
         }
         program.platform.questions.MsgBox("File not saved.", Buttons::Ok, "");
@@ -76,8 +77,9 @@ void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::st
 }
 
 std::string UnsavedChanges(const Program& program) {
-    return program.document.HasName() ? "The unsaved changes of " + program.document.BaseName
-                                      : "The unsaved changes of a new proposal";
+    return program.document.HasName()
+               ? "The changes to " + program.document.BaseName + " will be lost unless they are saved."
+               : "The new proposal will be lost unless it is saved.";
 }
 
 void ClearNames(Program& program) {

@@ -24,7 +24,7 @@ void ShowDuplicateFileOptions(Program& program, std::string_view name);
 /// The same for a file of another folder.
 void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::string_view name);
 
-/// What is lost when the changes of the proposal on show are not kept.
+/// Tells what is lost when the changes of the proposal on show are not kept.
 [[nodiscard]] std::string UnsavedChanges(const Program& program);
 
 /// No name, no side files' names and no title, as of a proposal whose client is not known.

@@ -63,7 +63,6 @@ void frmFile::Form_Load(Program& program) {
     lblHelp.Caption =
         "Double-Click on the Drive or Folder category to find the file you wish to " + std::string(what);
     lblPointOpen.Caption = document.DeleteMode ? "Delete" : "Open";
-    chkProp.Visible = !program.format.EditingFormat;
     document.IgnoreProperties = false;
     filePathBefore_ = document.FilePath;
     Drive1.Items = {"/", paths::WithSeparator(program.folders.Drives.Home)};
@@ -196,7 +195,7 @@ void frmFile::Dir1_Change(Program& program, int index) {
     GoTo(program, chosen == kUp ? Above(Folder) : paths::Join(Folder, chosen));
 }
 
-void frmFile::FileList1_Click(Program&, int index) {
+void frmFile::FileList1_Click(Program& program, int index) {
     if (!HasRow(FileList1.Items, index)) {
         return;
     }
@@ -208,6 +207,17 @@ void frmFile::FileList1_Click(Program&, int index) {
     }
     Caption = IsProposalName(selected_) ? title_ + " - Event File" : title_;
     picFileOpen = true;
+    OfferToIgnore(program);
+}
+
+void frmFile::OfferToIgnore(const Program& program) {
+    const DocumentState& document = program.document;
+    const auto hasProperties = [&] {
+        return IsProposalName(selected_) &&
+               files::FileIsThere(Folder, std::string(paths::BaseOf(selected_)) + ".hpf");
+    };
+    chkProp.Visible = !program.format.EditingFormat && !document.DeleteMode &&
+                      (selected_.empty() ? IsProposalName(document.FileFilter) : hasProperties());
 }
 
 void frmFile::chkProp_Click(Program& program) {
@@ -215,13 +225,14 @@ void frmFile::chkProp_Click(Program& program) {
     program.document.IgnoreProperties = chkProp.Value;
 }
 
-void frmFile::cmdOpenBack_Click(Program&) {
+void frmFile::cmdOpenBack_Click(Program& program) {
     if (picFileOpen) {
         Caption = title_;
     }
     picFileOpen = false;
     selected_.clear();
     FileList1.ListIndex = -1;
+    OfferToIgnore(program);
 }
 
 void frmFile::cmdOpenCancel_Click(Program& program) {
@@ -337,7 +348,7 @@ void frmFile::DeleteSelected(Program& program) {
     Questions& questions = program.platform.questions;
     if (questions.MsgBox(
             "Are you sure you want to delete this file?", Buttons::YesNo, "Preparing to Delete File.",
-            {.Default = Answer::No, .Lost = modFile::FilesOfProposal(Folder, selected_)}) != Answer::Yes) {
+            {.Default = Answer::No, .Lost = modFile::LossOfProposal(Folder, selected_)}) != Answer::Yes) {
         return;
     }
     try {

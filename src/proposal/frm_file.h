@@ -63,6 +63,8 @@ private:
     void LookAtFiles(const Program& program, const std::string& folder);
     /// Puts on show what was found, in the order and as far as it is wanted.
     void ShowFound(Program& program);
+    /// The box about properties shows where the answer decides anything.
+    void OfferToIgnore(const Program& program);
     void OpenProposal(Program& program);
     /// The working folder is the open proposal's again, then the rest of the choice follows.
     void Finish(Program& program);

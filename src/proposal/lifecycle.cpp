@@ -48,9 +48,10 @@ void SaveAsSteps(Program& program) {
     const std::string fileName = name + ".hef";
     const std::string path = paths::Join(modFile::SavingFolder(program), fileName);
     if (files::ExistsExactly(path) &&
-        program.platform.questions.MsgBox("A file with the name " + fileName + " already exists. Overwrite?",
-                                          Buttons::YesNoCancel, "Preparing to Overwrite Existing Event File",
-                                          {.Default = Answer::No, .Lost = path}) != Answer::Yes) {
+        program.platform.questions.MsgBox(
+            "A file with the name " + fileName + " already exists. Overwrite?", Buttons::YesNoCancel,
+            "Preparing to Overwrite Existing Event File",
+            {.Default = Answer::No, .Lost = "The file " + path + " will be replaced."}) != Answer::Yes) {
         program.platform.questions.MsgBox("Action Cancelled. File not saved.", Buttons::Ok, "");
         return;
     }
@@ -206,8 +207,8 @@ void mnuFileDelete_Click(Program& program) {
     }
     if (questions.MsgBox(
             "Are you sure you want to delete this file?", Buttons::YesNo, "Preparing to Delete File.",
-            {.Default = Answer::No,
-             .Lost = modFile::FilesOfProposal(document.FilePath, document.FileName)}) != Answer::Yes ||
+            {.Default = Answer::No, .Lost = modFile::LossOfProposal(document.FilePath, document.FileName)}) !=
+            Answer::Yes ||
         !MayLeaveFormat(program)) {
         return;
     }

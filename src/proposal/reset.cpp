@@ -28,7 +28,9 @@ bool FormatEditingGoesOn(Program& program) {
     }
     const Answer answer = program.platform.questions.MsgBox(
         "Proceeding with this action will end the editing session of your file format. Continue?",
-        Buttons::YesNo, "Ending Format Editing", {.Default = Answer::No, .Lost = program.format.FormatName});
+        Buttons::YesNo, "Ending Format Editing",
+        {.Default = Answer::No,
+         .Lost = "The changes to " + program.format.FormatName + " will be lost unless they are saved."});
     if (answer == Answer::Yes) {
         program.format.EditingFormat = false;
         return false;
@@ -117,7 +119,6 @@ void EmptyTexts(Program& program) {
         document.SavedTextBuf[id].resize(page.txt.size());
         for (std::size_t area = 0; area < page.txt.size(); ++area) {
             page.txt[area].BackColor = colors::kResting;
-            page.txt[area].FontBold = false;
             if (page.txt[area].ToolTipText == modTotals::kNoNumberTip) {
                 page.txt[area].ToolTipText.clear();
             }

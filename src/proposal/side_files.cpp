@@ -101,8 +101,10 @@ bool Write(Program& program, Known& known, std::string_view name, std::string_vi
     Guarded(program, procedure, [&] {
         const std::string path = paths::Join(FolderOf(program, program.document), name);
         if (files::ChangedSince(path, known.Seen) &&
-            program.platform.questions.MsgBox(question, Buttons::YesNo, "",
-                                              {.Default = Answer::No, .Lost = std::string(name)}) !=
+            program.platform.questions.MsgBox(
+                question, Buttons::YesNo, "",
+                {.Default = Answer::No,
+                 .Lost = "What the other program wrote into " + std::string(name) + " will be lost."}) !=
                 Answer::Yes) {
             return;
         }

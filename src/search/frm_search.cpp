@@ -113,10 +113,11 @@ bool MayStart(Program& program) {
         return false;
     }
     if (program.search.ResultsOpen) {
-        if (program.platform.questions.MsgBox(
-                "This will clear the current search results. Continue.", Buttons::YesNo,
-                "Starting New Search",
-                {.Default = Answer::No, .Lost = "The results for \"" + program.search.SearchPhrase + "\""}) !=
+        if (program.platform.questions.MsgBox("This will clear the current search results. Continue.",
+                                              Buttons::YesNo, "Starting New Search",
+                                              {.Default = Answer::No,
+                                               .Lost = "The list of places found for \"" +
+                                                       program.search.SearchPhrase + "\" will be lost."}) !=
             Answer::Yes) {
             return false;
         }

@@ -58,9 +58,10 @@ void mnuOptSetDefaultFonts_Click(Program& program) {
 
 void mnuOptEmptyBackup_Click(Program& program) {
     const std::string folder = modFolders::BackupFolder(program);
-    if (program.platform.questions.MsgBox("Are you sure you want to delete all the Backup files?",
-                                          Buttons::YesNo, "Preparing to Delete Backup Files",
-                                          {.Default = Answer::No, .Lost = "All backups in " + folder}) !=
+    if (program.platform.questions.MsgBox(
+            "Are you sure you want to delete all the Backup files?", Buttons::YesNo,
+            "Preparing to Delete Backup Files",
+            {.Default = Answer::No, .Lost = "The backups in " + folder + " will be deleted."}) !=
         Answer::Yes) {
         return;
     }

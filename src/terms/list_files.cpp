@@ -80,7 +80,7 @@ void CreateNewFUTFile(Program& program) {
         name = *taken;
         if (program.platform.questions.MsgBox(
                 "File already exists. Overwrite?", Buttons::YesNo, "Duplicate Frequent Terms File Exists",
-                {.Default = Answer::No, .Lost = "The terms of " + name}) != Answer::Yes) {
+                {.Default = Answer::No, .Lost = "The terms of " + name + " will be lost."}) != Answer::Yes) {
             return;
         }
     }

@@ -271,11 +271,24 @@ TEST(Copying, PutsTheFieldsOnTheClipboard) {
               "2008\r\nBen\r\nann@example.com\r\ntulips\r\nroses");
 }
 
+TEST(AddressPrint, ANameThatNoFileCanHaveIsSuggestedWithoutItsCharacters) {
+    MergeRun run;
+    run.Show(AddressRun::Record({"Ash/Birch: Florists", "1 Elm St"}));
+    run.Run(Id::mnuFilePrint);
+    EXPECT_EQ(run.surroundings.printers.Commands.back().SuggestedFile,
+              run.folder / "Proposals/Ash-Birch- Florists, Address.pdf");
+    run.Type(0, "");
+    run.Run(Id::mnuFilePrint);
+    EXPECT_EQ(run.surroundings.printers.Commands.back().SuggestedFile, run.folder / "Proposals/Address.pdf");
+}
+
 TEST(AddressPrint, PrintsALineAFieldInStepsOf300) {
     MergeRun run;
     run.Show(kAnn);
     run.Run(Id::mnuFilePrint);
     ASSERT_EQ(run.surroundings.printers.Paper.Documents.size(), 1U);
+    EXPECT_EQ(run.surroundings.printers.Commands.at(0).SuggestedFile,
+              run.folder / "Proposals/Ann Ash, Address.pdf");
     std::vector<DrawCall> lines;
     for (const DrawCall& call : run.surroundings.printers.Paper.Documents.front()) {
         if (call.Op == DrawCall::What::Print) {

@@ -399,14 +399,32 @@ TEST(HeadingImport, ARowWithAStrayQuotationMarkIsToldAndLeftOut) {
         Answer::Yes);
     run.Window().cmdOK_Click(run.program);
     EXPECT_EQ(run.Text(0), "Ann");
+    EXPECT_EQ(run.Window().Caption, "Importing Record 1 of 5/Personal Address Book");
     for (int bad = 0; bad < 3; ++bad) {
         run.Questions().ExpectBox({"Bad Record skipped over.", Buttons::Ok, ""}, Answer::Ok);
     }
     run.Save();
     EXPECT_EQ(run.Text(0), "Eve");
+    EXPECT_EQ(run.Window().Caption, "Importing Record 5 of 5/Personal Address Book");
     run.ExpectFinish();
     run.Save();
     EXPECT_EQ(run.ReadBook(), AddressRun::Book({"Ann", "Eve"}));
+}
+
+TEST(HeadingImport, ThePanelSaysWhatWasFoundWhileItIsAskedAbout) {
+    const std::string question =
+        "The following records cound not be parsed...\r\n1\r\nand will be excluded from the Batch Import "
+        "Process for the\r\nfollowing reason: The record(s) contain an odd number of quotation\r\nsymbols. "
+        "Do "
+        "you wish to import the rest of the records anyway?";
+    ImportRun run("Name\nAn\"n\nBen");
+    run.Choose(kHeading);
+    std::string told;
+    run.Questions().Allow(question, [&] { told = run.Window().lblBatch.Caption; });
+    run.Window().cmdOK_Click(run.program);
+    EXPECT_EQ(told, "2 records found, 1 of them cannot be read");
+    run.ExpectIdle();
+    EXPECT_EQ(run.Window().lblBatch.Caption, "");
 }
 
 TEST(HeadingImport, ABadRecordAtTheEndFinishes) {

@@ -378,11 +378,37 @@ TEST(Deposits, ADecimalCommaAndAThirdDecimalAreToldAndAddNothing) {
     EXPECT_EQ(window.txtAmount.SelLength, 9) << "what is typed next replaces it";
 }
 
+TEST(Deposits, AFolderInTheirPlaceIsToldAndTheWindowIsLocked) {
+    Deposited run;
+    run.folder.MakeFolder("Proposals/Jane Roe.dep");
+    run.Boxes().Expect("An error occurred in SaveDepositInfo.");
+    frmDeposits& window = run.Open();
+    EXPECT_TRUE(window.Locked);
+    run.Add(window, "1/5/2008", "100");
+    EXPECT_TRUE(window.lst.Items.empty());
+    EXPECT_TRUE(fs::is_directory(run.folder / "Proposals/Jane Roe.dep"));
+}
+
+TEST(Deposits, WhatALeftWindowCostsIsAWholeSentence) {
+    Deposited run;
+    frmDeposits& window = run.Open();
+    window.txtAmount_Change(run.program, "75");
+    run.Boxes().Expect("Add it?", Answer::Yes);
+    run.Boxes().Expect("Save changes?", Answer::Cancel);
+    EXPECT_FALSE(window.MayLeave(run.program, Leaving::Proposal));
+    const auto& manners = run.Boxes().Manners;
+    ASSERT_GE(manners.size(), 2U);
+    EXPECT_EQ(manners[manners.size() - 2].Lost, "The amount 75 will be lost unless it is added.");
+    EXPECT_EQ(manners.back().Lost, "The changes to the deposit list will be lost unless they are saved.");
+}
+
 TEST(Deposits, PrintsTheNameTheRowsAndTheTotalUnderTheRowsPattern) {
     Deposited run;
     run.File("Jane Roe\r\nJan 21, 2008\t\t$ 500.00");
     frmDeposits& window = run.Open();
     window.Choose(run.program, "mnuFilePrint");
+    EXPECT_EQ(run.surroundings.printers.Commands.at(0).SuggestedFile,
+              run.folder / "Proposals/Jane Roe, Deposits Received.pdf");
     std::vector<std::pair<float, std::string>> printed;
     for (const DrawCall& call : run.surroundings.printers.Paper.Documents.at(0)) {
         if (call.Op == DrawCall::What::Print) {
@@ -600,6 +626,19 @@ TEST(Deposits, WhatIsTypedLeavesNothingMarked) {
         EXPECT_EQ(box->BackColor, colors::kWhite) << box->Text;
     }
     EXPECT_TRUE(window.SaveIsDefault);
+}
+
+TEST(Deposits, AfterARowHasGoneNoneIsMarked) {
+    Deposited run;
+    run.File("Jane Roe\r\na\t\t$ 100.00\r\nb\t\t$ 150.00\r\nc\t\t$ 250.00");
+    frmDeposits& window = run.Open();
+    window.lst_Click({1}, 1);
+    window.Choose(run.program, "mnuEditDelete");
+    EXPECT_EQ(window.lst.SelCount(), 0);
+    EXPECT_EQ(window.lst.Selected, std::vector<bool>(2, false));
+    run.Boxes().ExpectBox({"Nothing selected to remove.", Buttons::Ok, ""}, Answer::Ok);
+    window.Choose(run.program, "mnuEditDelete");
+    EXPECT_EQ(window.lst.Items, (Deposited::Items{"a\t\t$ 100.00", "c\t\t$ 250.00"}));
 }
 
 } // namespace

@@ -4,7 +4,9 @@
 #include "desktop/window_run.h"
 
 #include <QLabel>
+#include <QMessageBox>
 #include <QPushButton>
+#include <QTimer>
 
 namespace {
 
@@ -82,6 +84,27 @@ TEST(DepositsWindow, ARowIsTakenChangedAndRemoved) {
     EXPECT_EQ(list->Rows.rowCount(), 1);
     run.recording.questions.Expect("Save changes?", Answer::No);
     run.Press(Qt::Key_Escape);
+}
+
+TEST(DepositsWindow, WhoseOpeningTellsSomethingHasTheKeyboardAfterwards) {
+    WindowRun run;
+    run.folder.Write("Proposals/Jane Roe.dep", "Jane Roe\r\nJan 05, 2008\t\t$ 100.00");
+    run.recording.questions.Allow("This deposit does not match with the one in the proposal.", [&] {
+        run.window->Follow(); // as before every question
+        QMessageBox box(run.window.get());
+        QTimer::singleShot(0, &box, &QMessageBox::accept);
+        box.exec();
+        run.window->activateWindow(); // where the window manager leaves the keyboard
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == run.window.get(); }));
+    });
+    run.Open<frmDeposits>(CommandId::mnuManageDeposits, "frmDeposits");
+    run.recording.questions.Allow({});
+    EXPECT_EQ(QApplication::focusWidget(), run.Part<EntryEdit>("txtName"));
+    const std::string before = run.program.pages[PageId::frmP1].txt[0].Text;
+    run.Press(Qt::Key_End);
+    run.Type(QStringLiteral("x"));
+    EXPECT_EQ(run.Part<EntryEdit>("txtName")->text(), QStringLiteral("Jane Roex"));
+    EXPECT_EQ(run.program.pages[PageId::frmP1].txt[0].Text, before);
 }
 
 TEST(DepositsWindow, CanBeUsedWithoutAMouse) {

@@ -185,6 +185,28 @@ TEST(SpellingWindow, EveryDecisionHasItsKey) {
     EXPECT_EQ(run.TextOf(PageId::frmP3, 0), "Tables Tables");
 }
 
+TEST(SpellingWindow, AClickOnAButtonLeavesTheKeyboardInChangeTo) {
+    SpellingRun run;
+    run.Fill(PageId::frmP2, 3, "Chiars Tabels Chiars");
+    run.Check();
+    EXPECT_EQ(run.Focused(), "txtChangeTo");
+    const auto click = [&](const char* name) {
+        QTest::mouseClick(run.Part<QPushButton>(name), Qt::LeftButton);
+        EXPECT_EQ(run.Focused(), "txtChangeTo") << name;
+    };
+    click("cmdIgnore");
+    EXPECT_EQ(run.Marked(), "Tabels");
+    click("cmdUndo");
+    EXPECT_EQ(run.Marked(), "Chiars");
+    run.Type(QStringLiteral("Chairs"));
+    click("cmdChange");
+    EXPECT_EQ(run.Marked(), "Tabels");
+    click("cmdIgnoreAll");
+    EXPECT_EQ(run.Marked(), "Chiars");
+    run.Press(Qt::Key_Escape);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chairs Tabels Chiars");
+}
+
 TEST(SpellingWindow, EscapeEndsTheCheckAndWhatWasChangedStays) {
     SpellingRun run;
     run.Fill(PageId::frmP2, 3, "Chiars Tabels");

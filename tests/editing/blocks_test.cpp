@@ -522,7 +522,8 @@ TEST(Paste, AsksBeforeItWritesOverText) {
     EXPECT_EQ(run.TextOf(kSecond, 11), "Lamps");
     const auto& manners = run.surroundings.questions.Manners;
     EXPECT_TRUE(std::any_of(manners.begin(), manners.end(), [](const Manner& manner) {
-        return manner.Lost == "The texts of Page 2, lines 11 to 12" && manner.Default == Answer::No;
+        return manner.Lost == "The texts of Page 2, lines 11 to 12 will be replaced." &&
+               manner.Default == Answer::No;
     }));
     run.surroundings.questions.ExpectBox({kAskOver, Buttons::YesNo, kAskTitle}, Answer::Yes);
     PasteAt(run, kSecond, 10);

@@ -74,6 +74,34 @@ TEST(Chooser, HidesThePropertiesBoxWhileAFormatIsEdited) {
     EXPECT_FALSE(run.Show().chkProp.Visible);
 }
 
+TEST(Chooser, OffersToIgnorePropertiesOnlyWhereThereAreAny) {
+    Choosing run;
+    run.folder.Write("Proposals/Jane Roe.HPF", "a line\r\n");
+    frmFile& window = run.Show();
+    run.Select(window, "Ann.hef");
+    EXPECT_FALSE(window.chkProp.Visible);
+    run.Select(window, "Jane Roe.hef");
+    EXPECT_TRUE(window.chkProp.Visible);
+    run.Select(window, "Ann.hef");
+    window.cmdOpenBack_Click(run.program);
+    EXPECT_TRUE(window.chkProp.Visible);
+    window.cmdOpenCancel_Click(run.program);
+    modWindows::Sweep(run.program);
+
+    run.folder.Write("Proposals/notes.hpf", "not the text's\r\n");
+    modProposal::mnuFileOpenTextFile_Click(run.program);
+    auto& texts = dynamic_cast<frmFile&>(*modWindows::Find(run.program, "frmFile"));
+    EXPECT_FALSE(texts.chkProp.Visible);
+    run.Select(texts, "notes.txt");
+    EXPECT_FALSE(texts.chkProp.Visible);
+    texts.cmdOpenCancel_Click(run.program);
+    modWindows::Sweep(run.program);
+
+    frmFile& deleting = run.ShowToDelete();
+    run.Select(deleting, "Jane Roe.hef");
+    EXPECT_FALSE(deleting.chkProp.Visible) << "they go with their proposal";
+}
+
 TEST(Chooser, AClickShowsThePanelAndReturnToListHidesIt) {
     Choosing run;
     frmFile& window = run.Show();

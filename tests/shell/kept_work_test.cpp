@@ -178,7 +178,7 @@ TEST(KeptWork, AnExactNameWinsAndTheOtherIsNotTouched) {
     run.surroundings.questions.Expect("Are you sure you want to delete this file?", Answer::Yes);
     modProposal::mnuFileDelete_Click(run.program);
     EXPECT_EQ(run.LastManner().Default, Answer::No);
-    EXPECT_EQ(run.LastManner().Lost, "Ann.hef");
+    EXPECT_EQ(run.LastManner().Lost, "Ann.hef will be deleted.");
     EXPECT_FALSE(run.folder.Has("Proposals/Ann.hef"));
     EXPECT_EQ(run.folder.Read("Proposals/ANN.hef"), "another");
 }
@@ -190,7 +190,7 @@ TEST(KeptWork, DeletingNamesEveryFileThatGoes) {
     run.folder.Write("Proposals/Ann.hxt", "notes");
     run.surroundings.questions.Expect("Are you sure you want to delete this file?", Answer::No);
     modProposal::mnuFileDelete_Click(run.program);
-    EXPECT_EQ(run.LastManner().Lost, "Ann.hef, Ann.hxt, Ann.dep");
+    EXPECT_EQ(run.LastManner().Lost, "Ann.hef, Ann.hxt and Ann.dep will be deleted.");
 }
 
 TEST(KeptWork, EmptyingTheBackupsKeepsTheOneOfUnsavedChanges) {

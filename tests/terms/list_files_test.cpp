@@ -185,7 +185,7 @@ TEST(NewList, OverwritesAnExistingOneOnlyWhenAsked) {
     expect(Answer::No);
     run.List().mnuFileNewFUT_Click(run.program);
     EXPECT_EQ(run.OnDisk(), "Chair");
-    EXPECT_EQ(run.surroundings.questions.Manners.back().Lost, "The terms of Default Terms.fut");
+    EXPECT_EQ(run.surroundings.questions.Manners.back().Lost, "The terms of Default Terms.fut will be lost.");
     expect(Answer::Yes);
     run.List().mnuFileNewFUT_Click(run.program);
     EXPECT_EQ(run.OnDisk(), "");
