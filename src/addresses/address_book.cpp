@@ -364,7 +364,6 @@ Outcome ConfirmAddressChange(Program& program, AddressWindow& window) {
         "Record Has Changed",
         {.Default = Answer::Yes, .Lost = "The changes to this record will be lost unless they are saved."})) {
     case Answer::Yes:
-        book.AddressSaveCancelled = false;
         static_cast<void>(SaveAddressRecord(program, window)); // AddressSaveCancelled says what came of it
         break;
     case Answer::No:

@@ -70,7 +70,7 @@ void TakeProduct(Program& program, PageId page, int row) {
 /// On the way to "20,50" stood 20, and made an amount: what is no number in the end has changed nothing.
 void TakeBackProduct(Program& program, const FieldRef& field) {
     const std::optional<BoxVisit>& visit = program.editing.Visit;
-    if (!visit || visit->Box != field || !geometry::IsDescription(field.Page, field.Index)) {
+    if (!visit || visit->Box != field) { // only boxes of rows are visited
         return;
     }
     const FieldRef amount = Description(field.Page, geometry::AmountOf(field.Page, field.Index));

@@ -136,9 +136,7 @@ void Refuse(Program& program, const std::exception& error) {
 }
 
 void LayLines(Program& program) {
-    FormatRecords& format = program.format;
-    format.FormatOpen = true;
-    program.document.WindowTitle = "Quillbrook - Format File = " + format.FormatName;
+    program.document.WindowTitle = "Quillbrook - Format File = " + program.format.FormatName;
     ParseFormatFile(program);
     modDesigner::SaveBaseLabels(program);
     LayBoldAgain(program);

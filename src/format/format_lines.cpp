@@ -29,7 +29,6 @@ void TakeAreas(const Program& program, PageId page, Texts texts, FormatTables& t
             record.Text = area.Text;
         }
         record.FontBold = area.FontBold;
-        record.TaxExempt = program.pages[page].imgNoTax[index].Tag != kHide;
     }
     for (int row = geometry::FirstRow(page); row <= geometry::LastRow(page); ++row) {
         const auto index = static_cast<std::size_t>(row);

@@ -119,7 +119,6 @@ void EmptyTexts(Program& program) {
         document.SavedTextBuf[id].resize(page.txt.size());
         for (std::size_t area = 0; area < page.txt.size(); ++area) {
             page.txt[area].BackColor = colors::kResting;
-            page.txt[area].FontBold = false;
             if (page.txt[area].ToolTipText == modTotals::kNoNumberTip) {
                 page.txt[area].ToolTipText.clear();
             }

@@ -9,6 +9,7 @@
 #include "program/rewriting.h"
 #include "program/saved_notice.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace modOffsets {
@@ -54,7 +55,7 @@ void ReadPrinterOffsets(Program& program) {
         const std::size_t y = bytes.find(kYKey);
         if (x != std::string::npos) {
             const std::size_t from = x + kXKey.size();
-            const std::size_t to = y == std::string::npos || y < from ? bytes.size() : y;
+            const std::size_t to = std::min(bytes.find(kYKey, from), bytes.size());
             program.printing.PrinterOffsetX = TwipsOf(std::string_view(bytes).substr(from, to - from));
         }
         if (y != std::string::npos) {

@@ -83,11 +83,7 @@ void FitPage(Program& program, PageId page) {
     record.Top = 0;
     main.ScrollClientHeight = static_cast<int>(main.ClientHeight);
     ScrollBarRecord& bar = main.VScroll1;
-    bar.Width = 255;
     bar.Height = main.ClientHeight;
-    bar.Left = 0;
-    bar.Top = 0;
-    bar.Min = 0;
     bar.Max = std::max(0, kPageHeight - main.ScrollClientHeight + 30);
     bar.LargeChange = std::max(1, main.ScrollClientHeight);
     bar.SmallChange = std::max(1, main.ScrollClientHeight / 2);

@@ -112,6 +112,7 @@ TEST(AddressBook, ASaveAddsANewRecordBehindTheLastAndShowsIt) {
     EXPECT_EQ(run.ReadBook(),
               AddressRun::Book({"Zoe Young"}) + AddressRun::Record({"Ann Ash", "", "", "", "5550100"}));
     EXPECT_EQ(window.Caption, " Personal Address Book/Ann Ash/Record 2 of 2 Displayed");
+    EXPECT_TRUE(run.program.main.Notice.starts_with("Address saved: " + run.folder.Path()));
     EXPECT_EQ(run.Rows(), (Rows{"Ash, Ann", "Young, Zoe"}));
     EXPECT_EQ(window.lstNames.ListIndex, 0);
     EXPECT_FALSE(run.program.addresses.AddressRecordChanged);
@@ -582,6 +583,49 @@ TEST(AddressBook, TheOtherBookBeginsWithoutTheRecordOfTheFirst) {
     EXPECT_EQ(run.program.addresses.RecordAsRead, "");
     EXPECT_EQ(run.program.addresses.AddressRecordCount, 1);
     EXPECT_EQ(window.lstNames.ListIndex, -1);
+}
+
+TEST(AddressBook, ADeleteOfTheTopRowSelectsTheRowBelowItWhateverItsNumber) {
+    AddressRun run;
+    frmAddress& window = run.OpenWith(AddressRun::Book({"Ben Birch", "Ann Ash", "Cal Cedar"}));
+    window.lstNames_Click(run.program, 0);
+    run.Questions().Expect("Delete this record?\r\nAnn Ash", Answer::Yes);
+    run.Run(Id::mnuFileDelete);
+    EXPECT_EQ(window.lstNames.ListIndex, 0);
+    EXPECT_EQ(run.Text(0), "Ben Birch");
+    EXPECT_EQ(window.Caption, " Personal Address Book/Ben Birch/Record 1 of 2 Displayed");
+}
+
+TEST(AddressBook, ANoPutsTheCursorWhereItWasTypingLast) {
+    AddressRun run;
+    frmAddress& window = run.OpenWith(AddressRun::Record({"Ann Ash", "Ash Ltd"}));
+    window.lstNames_Click(run.program, 0);
+    window.txt_GotFocus(run.program, 1);
+    window.txt_KeyUp(run.program, 1, 3);
+    AddressField& field = window.txt[1];
+    field.SelStart = 0;
+    field.SelLength = 7;
+    run.Questions().Expect("Delete this record?", Answer::No);
+    run.Run(Id::mnuFileDelete);
+    EXPECT_EQ(field.SelStart, 3);
+    EXPECT_EQ(field.SelLength, 0);
+    window.txt_KeyUp(run.program, 1, 99);
+    run.Questions().Expect("Delete this record?", Answer::No);
+    run.Run(Id::mnuFileDelete);
+    EXPECT_EQ(field.SelStart, 7) << "no further than the text goes";
+}
+
+TEST(AddressBook, ADeleteTakesAwayALinkThatLiesWhereItWorksAndLeavesWhatItLeadsTo) {
+    AddressRun run;
+    frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash", "Ben Birch"}));
+    run.folder.Write("others.txt", "not ours");
+    std::filesystem::create_symlink(run.folder / "others.txt", run.folder / run.DataName("PerAdd.tmp"));
+    window.lstNames_Click(run.program, 0);
+    run.Questions().Expect("Delete this record?", Answer::Yes);
+    run.Run(Id::mnuFileDelete);
+    EXPECT_EQ(run.ReadBook(), AddressRun::Book({"Ben Birch"}));
+    EXPECT_EQ(run.folder.Read("others.txt"), "not ours");
+    EXPECT_FALSE(std::filesystem::is_symlink(run.folder / run.DataName("PerAdd.apx")));
 }
 
 } // namespace

@@ -253,4 +253,15 @@ TEST(RecordFiles, AFileThatIsCutShortMeanwhileGivesWhatIsLeft) {
     EXPECT_EQ(bytes, "012");
 }
 
+TEST(Folders, OneThatCannotBeMadeTellsWhy) {
+    const ScratchFolder folder;
+    folder.MakeFolder("there");
+    folder.Write("file", "x");
+    EXPECT_EQ(NumberOf([&] { files::MakeFolder(folder / "there"); }), files::kAlreadyExists);
+    EXPECT_EQ(NumberOf([&] { files::MakeFolder(folder / "none/new"); }), files::kPathNotFound);
+    EXPECT_EQ(NumberOf([&] { files::MakeFolder(folder / std::string(300, 'n')); }), files::kBadName);
+    files::MakeFolder(folder / "made/");
+    EXPECT_TRUE(files::IsFolder(folder / "made"));
+}
+
 } // namespace

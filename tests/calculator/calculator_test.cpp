@@ -352,4 +352,16 @@ TEST(Calculator, ClearingAllLeavesNoResultToTake) {
     EXPECT_EQ(run.Calc().lblE.ToolTipText, "");
 }
 
+TEST(Calculator, TheResultThatTakesTheKeyboardLeavesNoOperandsBehind) {
+    CalcRun run;
+    run.Type("7/0="); // no result: the line stays to be put right
+    EXPECT_EQ(run.Calc().LeftOperand, "7");
+    EXPECT_EQ(run.Calc().Operator, "/");
+    EXPECT_EQ(run.Calc().RightOperand, "0");
+    run.Calc().txtR_GotFocus();
+    EXPECT_EQ(run.Calc().LeftOperand, "");
+    EXPECT_EQ(run.Calc().Operator, "");
+    EXPECT_EQ(run.Calc().RightOperand, "");
+}
+
 } // namespace

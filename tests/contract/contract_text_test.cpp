@@ -58,6 +58,25 @@ std::vector<std::string> LinesOf(const ContractText& text) {
 using Lines = std::vector<std::string>;
 
 /// Ten characters of 100 twips to the line.
+/// Every byte that is marked goes, and with one half of a line end the other; what comes in stands there.
+std::string PlainReplace(const std::string& text, std::size_t at, std::size_t removed, std::string_view in) {
+    const auto lineEnd = [&](std::size_t place) { return text.compare(place, 2, "\r\n") == 0; };
+    std::vector<bool> marked(text.size(), false);
+    for (std::size_t place = at; place < text.size() && place < at + removed; ++place) {
+        marked[place] = true;
+    }
+    std::string result;
+    std::size_t into = at > 0 && lineEnd(at - 1) ? at - 1 : at;
+    for (std::size_t place = 0; place < text.size(); ++place) {
+        const bool half =
+            (lineEnd(place) && marked[place + 1]) || (place > 0 && lineEnd(place - 1) && marked[place - 1]);
+        if (!marked[place] && !half) {
+            result += text[place];
+        }
+    }
+    return result.insert(into, in);
+}
+
 struct Short {
     FixedMeasure measure;
     ContractText text{1000};
@@ -124,8 +143,12 @@ TEST(ContractWrap, IsTheSameAsThePlainRuleOverRandomTextsFontsAndWidths) {
         for (int edit = 0; edit < 8; ++edit) {
             const auto size = static_cast<int>(text.Text().size());
             const char* pieces[] = {"x", " ", "\r\n", "some words to put in", "", "\r\n\r\nz"};
-            text.Replace(static_cast<std::size_t>(upTo(size)), static_cast<std::size_t>(upTo(20)),
-                         pieces[upTo(5)], ContractText::Kind::Whole);
+            const auto at = static_cast<std::size_t>(upTo(size));
+            const auto removed = static_cast<std::size_t>(upTo(20));
+            const char* piece = pieces[upTo(5)];
+            const std::string expected = PlainReplace(text.Text(), at, removed, piece);
+            text.Replace(at, removed, piece, ContractText::Kind::Whole);
+            ASSERT_EQ(text.Text(), expected);
             ASSERT_EQ(LinesOf(text), PlainWrap(text.Text(), measure, font, width));
         }
         const std::string now = text.Text();

@@ -389,4 +389,25 @@ TEST(Contract, EveryKindOfLineEndComesInAsTheLabelsHaveIt) {
     EXPECT_EQ(modContract::Incoming("\r\r\n\n"), "\r\n\r\n\r\n");
 }
 
+TEST(Contract, AnUndoOrRedoAfterAnExportIsAChangeToBeAskedAbout) {
+    for (const bool redo : {false, true}) {
+        Contracted run;
+        frmEditor& window = run.Open();
+        run.Replace(window, "Half now.");
+        if (redo) {
+            window.Undo();
+        }
+        window.EditorDirty = false;
+        if (redo) {
+            window.Redo();
+        } else {
+            window.Undo();
+        }
+        EXPECT_TRUE(window.EditorDirty);
+        run.Boxes().ExpectBox(kLeave, Answer::No);
+        window.Form_Cancel(run.program);
+        EXPECT_FALSE(window.Closing);
+    }
+}
+
 } // namespace

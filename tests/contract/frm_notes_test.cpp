@@ -66,6 +66,7 @@ TEST(Footnotes, WhatWasTypedIsSavedWithCrLf) {
     window.txtNotes_Change(run.program, "Call \xC9lise\nTwice");
     window.Choose(run.program, "mnuFileSave");
     EXPECT_EQ(run.File(), "Call \xC9lise\r\nTwice");
+    EXPECT_TRUE(run.program.main.Notice.starts_with("Footnotes saved: " + run.folder.Path()));
     window.Form_Cancel(run.program); // unchanged: no question
     EXPECT_TRUE(window.Closing);
 }
@@ -390,6 +391,37 @@ TEST(Footnotes, SaveAsTellsOfFootnotesThatCannotGoAlongAndTheDepositsGoAllTheSam
     EXPECT_EQ(run.folder.Read("Proposals/Second.dep"), "Jane Roe\r\na\t\t$ 500.00");
     EXPECT_EQ(run.File(), "mine");
     EXPECT_EQ(run.Main().imgFootNotes.Picture, 0);
+}
+
+TEST(Footnotes, EveryKindOfLineEndIsOneOnTheScreen) {
+    Noted run;
+    run.File("a\r\nb\rc\nd\r\n\r\ne");
+    frmNotes& window = run.Open();
+    EXPECT_EQ(window.txtNotes, "a\nb\nc\nd\n\ne");
+    window.txtNotes_Change(run.program, "a\nb\nc\nd\n\nef");
+    EXPECT_EQ(window.FootnoteText, "a\r\nb\r\nc\r\nd\r\n\r\nef");
+}
+
+TEST(Footnotes, ThatNobodyEditedAreNotKeptBesideTheBackup) {
+    Noted run;
+    run.File("saved");
+    run.Open();
+    modWindows::KeepUnsaved(run.program);
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Jane Roe.hxt"));
+}
+
+TEST(Footnotes, WordsBetweenTabsStandOnOneLineWhileThereIsRoom) {
+    Noted run;
+    frmNotes& window = run.Open();
+    window.txtNotes_Change(run.program, "one\ttwo\tthree\nnext");
+    window.Choose(run.program, "mnuFilePrint");
+    const std::vector<DrawCall> prints = Printed(run);
+    ASSERT_EQ(prints.size(), 5U);
+    for (const std::size_t at : {1U, 2U, 3U}) {
+        EXPECT_EQ(prints[at].Y, 720 + 200) << prints[at].Text;
+        EXPECT_EQ(prints[at].X, 540 + 1440 * static_cast<float>(at - 1)) << prints[at].Text;
+    }
+    EXPECT_EQ(prints[4].Y, 720 + 400);
 }
 
 } // namespace

@@ -103,6 +103,7 @@ TEST(Deposits, SavingWritesTheListAndTheProposalsDeposit) {
         Answer::Yes);
     window.Choose(run.program, "mnuFileSave");
     EXPECT_EQ(run.File(), "Jane Roe\r\nJan 21, 2008\t\t$ 1,000.00\r\nJan 22, 2008\t\t$ 500.50");
+    EXPECT_TRUE(run.program.main.Notice.starts_with("Deposit list saved: " + run.folder.Path()));
     EXPECT_FALSE(window.DepositChanged);
     EXPECT_EQ(run.Deposit(), "1500.5");
     EXPECT_EQ(run.program.totals.Deposit, 1500.5F);
@@ -625,6 +626,19 @@ TEST(Deposits, WhatIsTypedLeavesNothingMarked) {
         EXPECT_EQ(box->BackColor, colors::kWhite) << box->Text;
     }
     EXPECT_TRUE(window.SaveIsDefault);
+}
+
+TEST(Deposits, AfterARowHasGoneNoneIsMarked) {
+    Deposited run;
+    run.File("Jane Roe\r\na\t\t$ 100.00\r\nb\t\t$ 150.00\r\nc\t\t$ 250.00");
+    frmDeposits& window = run.Open();
+    window.lst_Click({1}, 1);
+    window.Choose(run.program, "mnuEditDelete");
+    EXPECT_EQ(window.lst.SelCount(), 0);
+    EXPECT_EQ(window.lst.Selected, std::vector<bool>(2, false));
+    run.Boxes().ExpectBox({"Nothing selected to remove.", Buttons::Ok, ""}, Answer::Ok);
+    window.Choose(run.program, "mnuEditDelete");
+    EXPECT_EQ(window.lst.Items, (Deposited::Items{"a\t\t$ 100.00", "c\t\t$ 250.00"}));
 }
 
 } // namespace

@@ -437,4 +437,17 @@ TEST(RightClick, RepaintsWhatIsOverItsLimitOutsideTheModeOnly) {
     EXPECT_TRUE(run.Blue(kSecond, 0));
 }
 
+TEST(Band, TheRightButtonLetGoMeanwhileDoesNotEndIt) {
+    BlockRun run;
+    run.Front(kSecond);
+    modBlocks::Form_MouseDown(run.program, 1, 800, 1700);
+    modBlocks::Form_MouseMove(run.program, kSecond, 1, 9600, 2500);
+    modBlocks::Form_MouseUp(run.program, kSecond, 2, 9600, 2500);
+    EXPECT_TRUE(run.program.pages[kSecond].shpSelect.Visible);
+    EXPECT_TRUE(run.Block().BandDragging);
+    EXPECT_TRUE(run.BlueAreas(kSecond).empty());
+    modBlocks::Form_MouseUp(run.program, kSecond, 1, 9600, 2500);
+    EXPECT_FALSE(run.BlueAreas(kSecond).empty());
+}
+
 } // namespace

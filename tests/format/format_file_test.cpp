@@ -527,4 +527,16 @@ TEST(PropertyLines, ARowWithColumnsAndNothingInThemChangesNoProposal) {
     EXPECT_FALSE(modProposal::SomethingChanged(run.program));
 }
 
+TEST(FormatFile, ALogoThatAnEarlierReadingLeftPendingIsNotTheNextFormats) {
+    Laid run;
+    const std::string picture = run.folder / "theirs.png";
+    run.folder.Write("theirs.png", "x");
+    run.surroundings.pictures.Known[picture] = {1500, 900};
+    run.program.format.LogoPending = true;
+    run.program.format.LogoPath = picture;
+    run.Lay({"frmP1.txt(8).Text=Hall"}); // no question about a logo that could not be shown
+    EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Picture.Path, "");
+    EXPECT_FALSE(run.program.format.LogoPending);
+}
+
 } // namespace

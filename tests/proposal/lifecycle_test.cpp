@@ -1,4 +1,5 @@
 #include "base/colors.h"
+#include "base/seen.h"
 #include "program/windows.h"
 #include "proposal/backup.h"
 #include "proposal/file_names.h"
@@ -572,6 +573,7 @@ TEST(Backup, RestoringPutsTheFileBackInPlaceOfTheOther) {
     modProposal::mnuFileRestoreFromBackup_Click(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), backup);
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Jane Roe.hef"), backup);
+    EXPECT_EQ(run.program.main.Notice, "Backup put back, proposal saved: " + run.Data() + "Jane Roe.hef");
     EXPECT_EQ(run.program.document.FilePath, run.Data());
     EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + run.Data());
     EXPECT_EQ(run.program.document.ClientCaption, "Proposal for Jane Roe");
@@ -623,6 +625,22 @@ TEST(FileNames, AQuestionThatCouldNotBePutLetsNothingBeWritten) {
     run.surroundings.questions.Expect("ShowDuplicateFileOptions"); // the file that was there has gone
     modNames::ShowDuplicateFileOptions(run.program, run.Data(), "Gone.hef");
     EXPECT_TRUE(run.program.document.Cancelled);
+}
+
+TEST(Backup, WhatWasPutBackIsTheProgramsOwnAndIsSavedOverWithoutAQuestion) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    modFile::BackupThisFile(run.program);
+    run.OpenBackup("Jane Roe.hef");
+    run.Touch();
+    // The backup is newer than what is on show.
+    std::string newer = run.folder.Read("Proposals/Backup/Jane Roe.hef");
+    newer[200] = '7';
+    run.folder.Write("Proposals/Backup/Jane Roe.hef", newer);
+    modProposal::mnuFileRestoreFromBackup_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), newer);
+    EXPECT_FALSE(files::ChangedSince(run.Data() + "Jane Roe.hef", run.program.document.SavedFile));
+    EXPECT_EQ(run.program.main.Notice, "Backup put back, proposal saved: " + run.Data() + "Jane Roe.hef");
 }
 
 } // namespace

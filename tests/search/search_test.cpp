@@ -296,4 +296,17 @@ TEST(Results, AreChosenInAllListsTogetherAndNoneBeyondThem) {
     EXPECT_FALSE(run.program.search.ResultsOpen);
 }
 
+TEST(Search, ThePhraseThatStandsInTheBoxIsSearchedForAsItStands) {
+    SearchRun run;
+    run.Put(kSecond, 1, "table and chair");
+    run.Search("chair");
+    run.Open()->cmdCancel_Click(run.program);
+    frmSearch* again = run.Open();
+    ASSERT_EQ(again->cmbSearch.Text, "chair");
+    again->cmdOK_Click(run.program);
+    EXPECT_EQ(run.program.main.Focus, Text(kSecond, 1));
+    EXPECT_EQ(run.Area(kSecond, 1).SelStart, 10);
+    EXPECT_EQ(run.Area(kSecond, 1).SelLength, 5);
+}
+
 } // namespace

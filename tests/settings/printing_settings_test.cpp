@@ -104,6 +104,7 @@ TEST(FrmPOffsets, LetsDigitsCommaMinusPointAndBackspacePass) {
 
 TEST(FrmPOffsets, ApplyPutsTheBoxesInForceAndWritesNothing) {
     Offset run;
+    run.program.printing.PrinterOffsetY = 1440;
     frmPOffsets& window = OpenOffsets(run.program);
     window.txtX.Text = "-0.25";
     window.txtY.Text = "";
@@ -232,6 +233,16 @@ TEST(FrmPrinters, WithoutAnyPrinterTheCommandSaysSo) {
     run.surroundings.printers.Devices = {"Office Laser"};
     modPrinters::mnuOptPrinter_Click(run.program);
     EXPECT_NE(modWindows::Find(run.program, "frmPrinters"), nullptr);
+}
+
+TEST(PrinterOffsets, MayStandInAnyOrder) {
+    Offset run;
+    run.Read("Printer Y Offset:1Printer X Offset:2");
+    EXPECT_EQ(run.X(), 2880.0F);
+    EXPECT_EQ(run.Y(), 1440.0F);
+    run.Read("Printer X Offset:Printer Y Offset:1");
+    EXPECT_EQ(run.X(), 0.0F);
+    EXPECT_EQ(run.Y(), 1440.0F);
 }
 
 } // namespace

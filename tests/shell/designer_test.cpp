@@ -734,4 +734,105 @@ TEST(Designer, EveryChangeThatRidesWithAProposalIsSavedAndComesBack) {
     }
 }
 
+TEST(LabelWindow, ASaveThatNoCommandAskedForTakesWhatWasTypedInIt) {
+    Designing run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Ann");
+    run.Click(9);
+    run.Props().txtCaption_Change(run.program, "Day");
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    EXPECT_FALSE(run.program.designer.LabelPropsOpen);
+    EXPECT_EQ(run.Prop(9).Caption, "Day");
+}
+
+TEST(LabelWindow, SelectAllShowsTheFontFieldsInWhichTheLabelsAgree) {
+    Designing run;
+    for (PageLabel& label : run.program.pages[PageId::frmP1].lbl) {
+        label.FontName = "Arial";
+        label.FontSize = 14;
+        label.FontBold = true;
+        label.FontItalic = true;
+        label.FontUnderline = true;
+    }
+    person::Choose(run.program, CommandId::mnuEditLabelSelectAll);
+    auto& window = dynamic_cast<frmLabelProps&>(*modWindows::Find(run.program, "frmLabelProps"));
+    EXPECT_EQ(window.lblFontName.Caption, "Font = Arial");
+    EXPECT_EQ(window.lblSize.Caption, "Label Font Size = 14");
+    EXPECT_TRUE(window.chkBold.Value);
+    EXPECT_TRUE(window.chkItalic.Value);
+    EXPECT_TRUE(window.chkUnderline.Value);
+}
+
+TEST(LabelWindow, ALabelThatJoinsTheGroupLateTakesItsColourToo) {
+    Designing run;
+    run.DoubleClick(9);
+    run.DoubleClick(10);
+    frmLabelProps& window = run.Props();
+    window.cmdColor_Click(run.program, 2);
+    const Color colour = window.cmdColor[2].BackColor;
+    ASSERT_NE(run.Label(PageId::frmP1, 11).ForeColor, colour);
+    Select(run.Label(PageId::frmP1, 11));
+    window.cmdOK_Click(run.program);
+    for (const int index : {9, 10, 11}) {
+        EXPECT_EQ(run.Label(PageId::frmP1, index).ForeColor, colour) << index;
+        EXPECT_EQ(run.Prop(index).ForeColor, colour) << index;
+        EXPECT_EQ(run.Format(index).ForeColor, colour) << index;
+    }
+}
+
+TEST(Logo, AnEmptyLogoLineOfTheSettingsTakesTheCheckMarkWithIt) {
+    Designing run;
+    const std::string picture = run.folder / "ours.png";
+    run.folder.Write("ours.png", "x");
+    run.surroundings.pictures.Known[picture] = {1500, 900};
+    run.program.settings.LogoVisible = true;
+    run.program.settings.LogoFile = "ours.png";
+    person::StartAnew(run.program);
+    EXPECT_TRUE(run.Main()[CommandId::mnuEditLogoVisible].Checked);
+    EXPECT_TRUE(run.program.pages[PageId::frmP1].pic.Visible);
+    run.program.settings.LogoFile.clear();
+    person::StartAnew(run.program);
+    EXPECT_FALSE(run.Main()[CommandId::mnuEditLogoVisible].Checked);
+    EXPECT_FALSE(run.program.pages[PageId::frmP1].pic.Visible);
+}
+
+TEST(Logo, OneOfTheSettingsThatIsTooLargeIsScaledAndTold) {
+    Designing run;
+    const std::string picture = run.folder / "ours.png";
+    run.folder.Write("ours.png", "x");
+    run.surroundings.pictures.Known[picture] = {21600, 1440};
+    run.program.settings.LogoFile = "ours.png";
+    person::StartAnew(run.program);
+    EXPECT_EQ(run.program.main.Notice.substr(0, 81),
+              "The picture is 15.0 by 1.0 inches large. It is shown and printed scaled down to 7");
+}
+
+TEST(LabelWindow, PrintingTakesWhatWasTypedInIt) {
+    Designing run;
+    run.Click(9);
+    run.Props().txtCaption_Change(run.program, "Day");
+    person::Choose(run.program, CommandId::mnuFilePrintPage1);
+    EXPECT_FALSE(run.program.designer.LabelPropsOpen);
+    EXPECT_EQ(run.Prop(9).Caption, "Day");
+}
+
+TEST(Titles, AreToBeSavedOnEveryPageThatHasThem) {
+    Designing run;
+    frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    window.txtTitle_Change("Ours - ");
+    window.txtSubTitle_Change("The Roe Wedding");
+    window.cmdOK_Click(run.program);
+    const auto& saved = run.program.format.LabelSavedState;
+    EXPECT_FALSE(saved[PageId::frmP1][0].Changed) << "the company's name there";
+    EXPECT_EQ(saved[PageId::frmP2][0].Caption, "Ours - Page 2");
+    EXPECT_EQ(saved[PageId::frmP1][33].Caption, "The Roe Wedding");
+    for (const PageId page : kEditedPages) {
+        EXPECT_EQ(saved[page][0].Changed, page != PageId::frmP1) << IndexOf(page);
+        EXPECT_TRUE(saved[page][static_cast<std::size_t>(geometry::TitleLabel(page))].Changed)
+            << IndexOf(page);
+    }
+}
+
 } // namespace

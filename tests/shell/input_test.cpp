@@ -277,4 +277,15 @@ TEST(Input, ASelectionByKeyGrowsFromWhereItBeganAndABlockOfAnotherHandFromItsTop
     expectRows(10, 12);
 }
 
+TEST(Mouse, ATextLetGoBehindTheEndOfAFieldGoesToItsEnd) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 4);
+    typist.Type("ab");
+    run.Area(PageId::frmP2, 4).SelStart = 9; // a view that has not followed yet
+    run.Area(PageId::frmP2, 4).SelLength = 3;
+    person::Insert(run.program, {PageId::frmP2, FieldKind::txt, 4}, "cd", 0, person::By::Mouse);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 4), "abcd");
+}
+
 } // namespace

@@ -129,6 +129,8 @@ TEST(Rescue, ANoLeavesThemWhereTheyLieAndALaterRescueReplacesNone) {
     next.surroundings.questions.Expect("Put the footnotes and deposits beside their proposals?", Answer::No);
     next.Start();
     EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe.hxt"));
+    NextRun third(run);
+    third.Start(); // who has said no is not asked again
     next.program.document = run.program.document;
     modRescue::KeepOfProposal(next.program, ".hxt", "later", modRescue::Back::Offered);
     modRescue::KeepOfProposal(next.program, ".hxt", "later still", modRescue::Back::Offered);

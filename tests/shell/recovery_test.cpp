@@ -371,4 +371,25 @@ TEST(Recovery, ARunThatIsClosingAlreadyKeepsNothingTwice) {
     EXPECT_TRUE(run.folder.Has("Proposals/Backup/Ann.hef"));
 }
 
+TEST(Recovery, ChangesOfAProposalInAnotherFolderComeBackBesideItsFile) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.first->folder.MakeFolder("Elsewhere");
+    runs.first->program.document.FilePath = runs.first->folder / "Elsewhere/";
+    runs.Save("Ann.hef");
+    ASSERT_TRUE(runs.Has("Elsewhere/Ann.hef"));
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    runs.StartAgain("The program did not close properly.", Answer::Yes);
+    EXPECT_EQ(runs.Text(10), "twelve sandwiches and a cake");
+    const DocumentState& document = runs.program.document;
+    EXPECT_EQ(document.FilePath, runs.first->folder / "Elsewhere/");
+    EXPECT_TRUE(document.FileExists);
+    EXPECT_EQ(document.SavedTextBuf[PageId::frmP1][2], "Ann");
+    EXPECT_EQ(document.SavedTextBuf[PageId::frmP1][10], "");
+    runs.again.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::Saved);
+    EXPECT_FALSE(runs.Has("Proposals/Ann.hef"));
+}
+
 } // namespace

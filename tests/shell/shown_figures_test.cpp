@@ -173,4 +173,18 @@ TEST(ShownFigures, OfRowsTooLargeToAddAreTold) {
     EXPECT_EQ(run.surroundings.printers.Paper.Documents.size(), 0U);
 }
 
+TEST(ShownFigures, ThatStrayAreToldBelowWhatIsNoNumberWithALineBetween) {
+    LargeAmounts run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 23);
+    typist.Type("12,50");
+    run.surroundings.questions.ExpectBox(
+        {"These are no numbers and count as nothing:\r\nPage 1, line 4: 12,50\r\n\r\n" +
+             std::string(kMessage),
+         Buttons::YesNo, ""},
+        Answer::No);
+    commands::Run(run.program, CommandId::mnuFilePrintAll);
+    EXPECT_EQ(run.Papers(), 0U);
+}
+
 } // namespace

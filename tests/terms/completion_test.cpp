@@ -600,4 +600,12 @@ TEST(Completion, TermsWithControlCharactersComeAsBlanks) {
     EXPECT_EQ(run.Text(), "chair covers");
 }
 
+TEST(Completion, ReadsTheListThatIsInUseNow) {
+    Typing run("Chair Covers");
+    run.folder.Write("Proposals/Barn.fut", "Charcoal");
+    run.program.run.FUTFileName = "Barn.fut";
+    run.hand.Type("cha");
+    EXPECT_EQ(run.Text(), "charcoal");
+}
+
 } // namespace

@@ -1,0 +1,53 @@
+#include "proposal/side_files.h"
+
+#include "support/running_program.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Beside : RunningProgram {
+    Beside() {
+        program.document.BaseName = "Ann";
+        program.document.FileName = "Ann.hef";
+        program.document.FilePath = folder / "Proposals/";
+        program.document.FileExists = true;
+    }
+    [[nodiscard]] bool Write(modSideFile::Known& known) {
+        return modSideFile::Write(program, known, "Ann.hxt", "new", "Overwrite?", "SaveFootnoteFile");
+    }
+};
+
+TEST(SideFiles, OneThatCouldNotBeReadIsNotWritten) {
+    Beside run;
+    run.folder.MakeFolder("Proposals/Ann.hxt");
+    run.surroundings.questions.Expect("OpenFootnoteFile");
+    modSideFile::Known known = modSideFile::Read(run.program, "Ann.hxt", "OpenFootnoteFile");
+    EXPECT_TRUE(known.There);
+    EXPECT_TRUE(known.Locked);
+    EXPECT_FALSE(run.Write(known));
+}
+
+TEST(SideFiles, OfAProposalWithoutANameAreNotWritten) {
+    Beside run;
+    run.program.document.BaseName.clear();
+    modSideFile::Known known;
+    EXPECT_FALSE(run.Write(known));
+    EXPECT_FALSE(run.folder.Has("Proposals/Ann.hxt"));
+}
+
+TEST(SideFiles, ThatWereWrittenAreKnownAndWrittenOverWithoutAQuestion) {
+    Beside run;
+    modSideFile::Known known = modSideFile::Read(run.program, "Ann.hxt", "OpenFootnoteFile");
+    EXPECT_FALSE(known.There);
+    EXPECT_TRUE(run.Write(known));
+    EXPECT_TRUE(known.There);
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hxt"), "new");
+    EXPECT_TRUE(run.Write(known));
+    run.folder.Write("Proposals/Ann.hxt", "another's");
+    run.surroundings.questions.Expect("Overwrite?", Answer::No);
+    EXPECT_FALSE(run.Write(known));
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hxt"), "another's");
+}
+
+} // namespace
