@@ -1,11 +1,13 @@
 #include "editing/area_conversion.h"
 
 #include "base/dates.h"
+#include "base/rows.h"
 #include "base/telephone.h"
 #include "base/text.h"
 #include "pages/fields.h"
 #include "program/program.h"
 
+#include <array>
 #include <optional>
 #include <string>
 
@@ -15,10 +17,10 @@ namespace {
 
 enum class Conversion { None, LongDate, UpperCase, ProperCase, Telephone };
 
-constexpr Conversion kConversions[] = {Conversion::LongDate,   Conversion::UpperCase,  Conversion::ProperCase,
-                                       Conversion::ProperCase, Conversion::ProperCase, Conversion::Telephone,
-                                       Conversion::Telephone,  Conversion::Telephone,  Conversion::ProperCase,
-                                       Conversion::ProperCase};
+constexpr std::array kConversions{Conversion::LongDate,   Conversion::UpperCase,  Conversion::ProperCase,
+                                  Conversion::ProperCase, Conversion::ProperCase, Conversion::Telephone,
+                                  Conversion::Telephone,  Conversion::Telephone,  Conversion::ProperCase,
+                                  Conversion::ProperCase};
 
 int CurrentYear(const Program& program) {
     return dates::ToCalendar(program.platform.clock.Now()).Year;
@@ -47,7 +49,7 @@ std::optional<std::string> Converted(const Program& program, Conversion conversi
 } // namespace
 
 void ConvertOnDoubleClick(Program& program, int index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= std::size(kConversions)) {
+    if (!HasRow(kConversions, index)) {
         return;
     }
     const FieldRef field{PageId::frmP1, FieldKind::txt, index};
@@ -55,7 +57,8 @@ void ConvertOnDoubleClick(Program& program, int index) {
     if (area.Locked) {
         return;
     }
-    const std::optional<std::string> value = Converted(program, kConversions[index], area.Text);
+    const std::optional<std::string> value =
+        Converted(program, kConversions[static_cast<std::size_t>(index)], area.Text);
     if (!value || *value == area.Text) {
         return;
     }

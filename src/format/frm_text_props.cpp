@@ -72,8 +72,6 @@ void frmTextProps::ShowSample(const Program& program) {
     const RunState& run = program.run;
     txtSample.Text =
         "Sampling Text with " + run.DefaultFontName + ": " + numbers::PlainNumber(run.DefaultFontSize);
-    // Going through another family makes one of the same name take hold afresh.
-    SampleFont.Name = "Arial";
     SampleFont = modLineEffects::FontInForce(program);
 }
 

@@ -4,6 +4,7 @@
 #include "base/guard.h"
 #include "base/paths.h"
 #include "money/totals.h"
+#include "pages/label_mode.h"
 #include "pages/logo.h"
 #include "pages/page_defaults.h"
 #include "pages/page_fonts.h"
@@ -60,6 +61,7 @@ void ResetPages(Program& program) {
     if (program.hooks.DeSelectAllControls) {
         program.hooks.DeSelectAllControls(program);
     }
+    modLabelMode::End(program); // the keyboard goes to the new proposal's fields
     program.main.Focus.reset();
     program.main.CurrentPage = 0;
     program.editing.ACActive = {};

@@ -65,11 +65,6 @@ void LoadSteps(Program& program) {
     modTax::GetTaxRate(program);
     program.document.FileFilter = "*.hef";
     program.document.DocumentKind = "Event";
-    program.format.PropTextChanges = {};
-    program.format.PropLabelChanges = {};
-    program.format.FormatTextChanges = {};
-    program.format.FormatLabelChanges = {};
-    program.format.LabelSavedState = {};
     {
         const ScopedFlag silent(program.guards.ResetActive);
         DisableAtStart(program);

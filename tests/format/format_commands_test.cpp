@@ -1,5 +1,7 @@
 #include "format/format_commands.h"
 
+#include "format/format_changes.h"
+#include "format/frm_text_props.h"
 #include "format/label_designer.h"
 #include "format/logo.h"
 #include "pages/row_fields.h"
@@ -7,11 +9,13 @@
 #include "program/windows.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace {
@@ -217,6 +221,7 @@ TEST(FormatSave, WithoutANameAsksForOneAndAnEmptyAnswerStops) {
     run.Questions().ExpectInput("Saving File As...", "Barn.fmt");
     modFormat::mnuFileFormatSave_Click(run.program);
     EXPECT_TRUE(run.folder.Has("Proposals/Barn.fmt"));
+    EXPECT_EQ(run.program.main.Notice, "Format saved: " + run.folder / "Proposals/Barn.fmt");
     EXPECT_EQ(run.program.format.FormatName, "Barn.fmt");
     EXPECT_EQ(run.Main().Caption, "Quillbrook - Format File = Barn.fmt");
 }
@@ -379,7 +384,8 @@ TEST(FormatSave, LayoutOnlyDoesNotTellWhoseProposalItWasMadeWith) {
         << file;
     // The one that was moved stays where it is, the other stands in the middle with the next client's name.
     const float left = run.Label(PageId::frmP1, 33).Left;
-    const PageLabel before = run.Label(PageId::frmP6, 64);
+    PageLabel before = run.Label(PageId::frmP6, 64);
+    before.ToolTipText.clear(); // it told of the press
     run.Questions().Expect("Some text has been changed.", Answer::No);
     modProposal::mnuFileNew_Click(run.program);
     EXPECT_EQ(run.Label(PageId::frmP1, 33).Left, left);
@@ -722,6 +728,46 @@ TEST(FormatSave, ATextOfTheFormatThatAPersonTakesOutIsNotInItAnyMore) {
     run.Questions().Expect("Shall the texts", Answer::Yes);
     modFormat::mnuFileFormatSave_Click(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/Hall.fmt"), "frmP1.txt(9).Text=Noon\r\n" + std::string(kHouse));
+}
+
+TEST(FormatEnd, WhatAPersonChangesInTheOpenFormatIsAskedAboutWhenItIsLeft) {
+    const std::vector<std::pair<const char*, std::function<void(Formats&)>>> changes{
+        {"an area made bold",
+         [](Formats& run) {
+             Typist(run.program).Click(PageId::frmP1, 8);
+             person::Choose(run.program, CommandId::mnuEditTextBold);
+         }},
+        {"another font",
+         [](Formats& run) {
+             person::Choose(run.program, CommandId::mnuEditAllTextFonts);
+             auto& window = dynamic_cast<frmTextProps&>(*modWindows::Find(run.program, "frmTextProps"));
+             window.optFontSize_Click(run.program, 2);
+             window.cmdOK_Click(run.program);
+         }},
+        {"the logo moved",
+         [](Formats& run) {
+             modLogo::pic_MouseDown(run.program, 1, 0, 0);
+             static_cast<void>(modLogo::pic_MouseMove(run.program, 180, 0));
+             modLogo::pic_MouseUp(run.program);
+         }},
+        {"another logo",
+         [](Formats& run) {
+             run.folder.Write("Proposals/b.png", "x");
+             run.surroundings.pictures.Known[run.folder / "Proposals/b.png"] = {1500, 900};
+             person::Choose(run.program, CommandId::mnuEditLogoOpen);
+             run.Choose("b.png");
+         }},
+        {"the logo on show made the default", [](Formats& run) {
+             run.program.pages[PageId::frmP1].pic.Picture = {PictureRef::Source::File, "/srv/logo.png"};
+             person::Choose(run.program, CommandId::mnuEditLogoSave);
+         }}};
+    for (const auto& [what, change] : changes) {
+        Formats run;
+        run.Open();
+        EXPECT_FALSE(modFormat::FormatIsUnsaved(run.program)) << what;
+        change(run);
+        EXPECT_TRUE(modFormat::FormatIsUnsaved(run.program)) << what;
+    }
 }
 
 } // namespace

@@ -105,9 +105,101 @@ TEST(PageDefaults, TheHeadingsOfTheFiguresAndTheirSignsAreBoldOnTheFinalPages) {
         for (std::size_t index = 0; index <= 13; ++index) {
             const bool bold = index >= 1 && index <= 12;
             EXPECT_EQ(record.lbl[index].FontBold, bold) << record.Name << " label " << index;
-            EXPECT_EQ(record.LabelBaseState[index].FontBold, bold) << record.Name << " label " << index;
+            if (page == PageId::frmP6) { // the client's copy has no state of its own to go back to
+                EXPECT_EQ(record.LabelBaseState[index].FontBold, bold) << " label " << index;
+            }
         }
     }
+}
+
+TEST(PageDefaults, RowsBeginWithoutTheirColumns) {
+    RunningProgram run;
+    for (const PageId page : kLinePages) {
+        modPages::EnsureRowFields(run.program, page);
+        Spoil(run.program.pages[page]);
+        modPages::ApplyPageDefaults(run.program, page);
+        const Page& record = run.program.pages[page];
+        for (const auto* boxes : {&record.txtQty, &record.txtAmt}) {
+            for (const TextArea& box : *boxes) {
+                EXPECT_FALSE(box.Visible);
+                EXPECT_EQ(box.Tag, kHide);
+                EXPECT_EQ(box.BackColor, colors::kRestingRowField);
+                EXPECT_EQ(box.ForeColor, colors::kBlack);
+            }
+        }
+        for (const auto* labels : {&record.lblAt, &record.lblEach}) {
+            for (const PageLabel& label : *labels) {
+                EXPECT_FALSE(label.Visible);
+                EXPECT_EQ(label.Tag, kHide);
+            }
+        }
+        for (const PageLabel& label : record.lbl) {
+            EXPECT_FALSE(label.Visible) << "shown once everything stands";
+            EXPECT_FALSE(label.FontUnderline);
+            EXPECT_TRUE(label.FontItalic);
+            EXPECT_EQ(label.ForeColor, colors::kBlack);
+            EXPECT_EQ(label.BackStyle, 0);
+        }
+    }
+}
+
+void ExpectAt(const Page& page, int index, float left, float top, float size = 9.75F) {
+    const PageLabel& label = page.lbl[static_cast<std::size_t>(index)];
+    EXPECT_EQ(label.Left, left) << page.Name << " label " << index;
+    EXPECT_EQ(label.Top, top) << page.Name << " label " << index;
+    EXPECT_EQ(label.FontSize, size) << page.Name << " label " << index;
+}
+
+TEST(PageDefaults, PutEveryLabelOfTheLinePagesInItsPlace) {
+    RunningProgram run;
+    for (const PageId id : {PageId::frmP2, PageId::frmP3, PageId::frmP4, PageId::frmP5}) {
+        modPages::ApplyPageDefaults(run.program, id);
+        const Page& page = run.program.pages[id];
+        ExpectAt(page, 0, 3130, 540, 15.75F);
+        for (int sign = 1; sign <= 33; ++sign) {
+            ExpectAt(page, sign, 9900, 1440 + 360 * static_cast<float>(sign));
+        }
+        ExpectAt(page, 34, 900, 15030);
+        ExpectAt(page, 35, 11340 - 1900, 15030); // 19 characters of 100 twips
+        ExpectAt(page, 36, 4860, 15030);
+        for (std::size_t index = 0; index < page.lbl.size(); ++index) {
+            EXPECT_EQ(page.lbl[index].FontBold, index != 0) << page.Name << " label " << index;
+        }
+    }
+}
+
+TEST(PageDefaults, PutEveryLabelOfTheFinalPagesInItsPlace) {
+    RunningProgram run;
+    for (const PageId id : {PageId::frmP6, PageId::frmP6_1}) {
+        modPages::ApplyPageDefaults(run.program, id);
+        const Page& page = run.program.pages[id];
+        ExpectAt(page, 0, 3060, 540, 15.75F);
+        for (int row = 0; row < 3; ++row) {
+            const float top = 1440 + 360 * static_cast<float>(row);
+            ExpectAt(page, 1 + row, 1080, top);
+            ExpectAt(page, 4 + row, 3060, top);
+            ExpectAt(page, 7 + row, 7560, top);
+            ExpectAt(page, 10 + row, 9720, top);
+        }
+        for (int line = 0; line < 35; ++line) {
+            ExpectAt(page, 13 + line, 720, 2880 + 270 * static_cast<float>(line));
+        }
+        ExpectAt(page, 63, 900, 15030);
+        ExpectAt(page, 64, 5310, 15030);
+        for (int index = 13; index <= 64; ++index) {
+            EXPECT_EQ(page.lbl[static_cast<std::size_t>(index)].FontBold, index >= 63)
+                << page.Name << " label " << index;
+        }
+    }
+}
+
+TEST(PageDefaults, PutEveryLabelOfTheClientPagesFootInItsPlace) {
+    RunningProgram run;
+    modPages::ApplyPageDefaults(run.program, PageId::frmP1);
+    const Page& page = run.program.pages[PageId::frmP1];
+    ExpectAt(page, 31, 900, 15030);
+    ExpectAt(page, 32, 11340 - 1900, 15030);
+    ExpectAt(page, 33, 4860, 15030);
 }
 
 } // namespace

@@ -111,6 +111,23 @@ TEST(Splash, WhatItSaysFollowsTheLoading) {
     EXPECT_TRUE(run.Texts("HRWD").empty());
 }
 
+TEST(Splash, WhileTheFontsAreListedItAsksToWaitAndTheWordsAreGone) {
+    Splash run;
+    std::vector<std::string> last;
+    run.surroundings.events.OnYield = [&] {
+        if (run.program.run.FontsLoaded) {
+            return;
+        }
+        last.clear();
+        for (const SplashText& text : run.Window()->Picture.Texts) {
+            last.push_back(text.Text);
+        }
+    };
+    run.Begin();
+    EXPECT_EQ(std::count(last.begin(), last.end(), "Please wait while fonts continue to load."), 1);
+    EXPECT_EQ(std::count(last.begin(), last.end(), "HRWD"), 0);
+}
+
 TEST(Splash, FourWordsCloseInOnTheCentreOverAHundredLoops) {
     Splash run;
     std::vector<float> spans;

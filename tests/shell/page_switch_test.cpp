@@ -116,6 +116,13 @@ struct Scrolling : RunningProgram {
     }
 };
 
+TEST(ScrollBar, OfAWindowWithoutHeightStillSteps) {
+    const Scrolling run(0);
+    const ScrollBarRecord& bar = run.program.main.VScroll1;
+    EXPECT_EQ(bar.LargeChange, 1);
+    EXPECT_EQ(bar.SmallChange, 1);
+}
+
 TEST(ScrollBar, FitsThePageToTheWindow) {
     const Scrolling run(7001);
     const ScrollBarRecord& bar = run.program.main.VScroll1;

@@ -471,4 +471,15 @@ TEST(SpellingWindow, AnAmountThatIsSpeltOutCountsOnceItIsANumber) {
     EXPECT_EQ(run.Main().lblTotal.Caption, "Running Sub-Total = $ 0.00");
 }
 
+TEST(SpellingWindow, AnUndoBringsTheAreaItGoesBackToIntoView) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Fill(PageId::frmP4, 0, "Tabels");
+    run.Start();
+    run.Window().cmdChange_Click(run.program);
+    ASSERT_EQ(run.program.main.PageInFront, PageId::frmP4);
+    run.Window().cmdUndo_Click(run.program);
+    EXPECT_EQ(run.program.main.PageInFront, PageId::frmP2);
+}
+
 } // namespace
