@@ -112,6 +112,8 @@ struct MainWindow {
     /// A message of the front end for the person, shown in the status strip until the next key: a character
     /// without a byte was refused, for instance.
     std::string Notice;
+    /// Goes up with every key, command and save: the same words after another one are news.
+    int NoticeRound = 0;
 
     std::array<CommandState, kCommandCount> Commands;
     [[nodiscard]] CommandState& operator[](CommandId id) { return Commands[static_cast<std::size_t>(id)]; }

@@ -153,7 +153,9 @@ void SavingSteps(Program& program, SaveResult& result) {
     // Should a write fail, the properties still count as unsaved.
     const bool properties = PropertiesChanged(program);
     const bool ownLayout = PropertiesWanted(program);
+    const std::string before = program.main.Notice;
     const bool propertiesLost = SaveProperties(program) == SaveResult::NotSaved;
+    const std::string ofProperties = program.main.Notice == before ? "" : program.main.Notice;
     document.SavedStateStale = properties;
     const std::string bytes = ProposalBytes(program);
     modRecovery::TellOfSave(program, bytes);
@@ -174,6 +176,9 @@ void SavingSteps(Program& program, SaveResult& result) {
     }
     modTitles::UpdateEventNameLabels(program);
     TellSaved(program, "Proposal", path);
+    if (!ofProperties.empty()) {
+        program.main.Notice += ". " + ofProperties;
+    }
     program.platform.questions.MsgBox("File was saved as " + document.FileName, Buttons::Ok, "");
 }
 

@@ -5,6 +5,7 @@
 #include "editing/text_menu.h"
 #include "format/frm_label_props.h"
 #include "program/program.h"
+#include "program/saved_notice.h"
 #include "shell/command_table.h"
 #include "shell/main_controls.h"
 #include "shell/page_switch.h"
@@ -28,6 +29,7 @@ bool IsUnder(const Entry& entry, CommandId menu) {
 } // namespace
 
 bool MayRun(Program& program, CommandId id) {
+    BeginTelling(program);
     modMain::WorkOutControls(program);
     const Entry& entry = Find(id);
     modBlocks::FinishMove(program); // an arrow still held: what moved must be stored before anything else

@@ -16,6 +16,7 @@
 #include "pages/fields.h"
 #include "pages/page_geometry.h"
 #include "program/program.h"
+#include "program/saved_notice.h"
 #include "shell/page_switch.h"
 #include "terms/frm_fut.h"
 
@@ -163,7 +164,7 @@ void FieldKeyUp(Program& program, const FieldRef& field, int keyCode, int shift)
 } // namespace
 
 Taken KeyDown(Program& program, int keyCode, int shift, int selStart, int selLength) {
-    program.main.Notice.clear();
+    BeginTelling(program);
     NoteKeyDown(program, keyCode);
     if (program.main.Focus) {
         PutCursor(program, *program.main.Focus, selStart, selLength);
@@ -404,7 +405,7 @@ void LogoDblClick(Program& program) {
 }
 
 modLabelKeys::Menu LabelKeyDown(Program& program, int keyCode, int shift) {
-    program.main.Notice.clear();
+    BeginTelling(program);
     return modLabelKeys::KeyDown(program, keyCode, shift);
 }
 

@@ -14,10 +14,11 @@ constexpr std::int64_t kLongestPause = 1000;
 
 void NoticeStrip::Follow(const Program& program, std::int64_t now) {
     const std::string& told = program.main.Notice;
-    if (told == told_) {
+    if (told == told_ && program.main.NoticeRound == round_) {
         return;
     }
     told_ = told;
+    round_ = program.main.NoticeRound;
     if (!told.empty()) {
         text_ = told;
         onShow_ = 0;

@@ -18,6 +18,7 @@ public:
 
 private:
     std::string told_; ///< by the program when it was last looked at
+    int round_ = 0;    ///< the round of that
     std::string text_;
     std::int64_t onShow_ = 0;
     std::int64_t last_ = 0;

@@ -112,6 +112,7 @@ TEST(AddressBook, ASaveAddsANewRecordBehindTheLastAndShowsIt) {
     EXPECT_EQ(run.ReadBook(),
               AddressRun::Book({"Zoe Young"}) + AddressRun::Record({"Ann Ash", "", "", "", "5550100"}));
     EXPECT_EQ(window.Caption, " Personal Address Book/Ann Ash/Record 2 of 2 Displayed");
+    EXPECT_TRUE(run.program.main.Notice.starts_with("Address saved: " + run.folder.Path()));
     EXPECT_EQ(run.Rows(), (Rows{"Ash, Ann", "Young, Zoe"}));
     EXPECT_EQ(window.lstNames.ListIndex, 0);
     EXPECT_FALSE(run.program.addresses.AddressRecordChanged);

@@ -66,6 +66,7 @@ TEST(Footnotes, WhatWasTypedIsSavedWithCrLf) {
     window.txtNotes_Change(run.program, "Call \xC9lise\nTwice");
     window.Choose(run.program, "mnuFileSave");
     EXPECT_EQ(run.File(), "Call \xC9lise\r\nTwice");
+    EXPECT_TRUE(run.program.main.Notice.starts_with("Footnotes saved: " + run.folder.Path()));
     window.Form_Cancel(run.program); // unchanged: no question
     EXPECT_TRUE(window.Closing);
 }

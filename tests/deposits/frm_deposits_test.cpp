@@ -103,6 +103,7 @@ TEST(Deposits, SavingWritesTheListAndTheProposalsDeposit) {
         Answer::Yes);
     window.Choose(run.program, "mnuFileSave");
     EXPECT_EQ(run.File(), "Jane Roe\r\nJan 21, 2008\t\t$ 1,000.00\r\nJan 22, 2008\t\t$ 500.50");
+    EXPECT_TRUE(run.program.main.Notice.starts_with("Deposit list saved: " + run.folder.Path()));
     EXPECT_FALSE(window.DepositChanged);
     EXPECT_EQ(run.Deposit(), "1500.5");
     EXPECT_EQ(run.program.totals.Deposit, 1500.5F);

@@ -573,6 +573,7 @@ TEST(Backup, RestoringPutsTheFileBackInPlaceOfTheOther) {
     modProposal::mnuFileRestoreFromBackup_Click(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), backup);
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Jane Roe.hef"), backup);
+    EXPECT_EQ(run.program.main.Notice, "Backup put back, proposal saved: " + run.Data() + "Jane Roe.hef");
     EXPECT_EQ(run.program.document.FilePath, run.Data());
     EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + run.Data());
     EXPECT_EQ(run.program.document.ClientCaption, "Proposal for Jane Roe");

@@ -260,6 +260,9 @@ TEST(KeptWork, APropertyFileThatWasNotWantedStaysAsItIs) {
     run.surroundings.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
     EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "frmP1.txt(10).FontBold=True\r\n");
+    EXPECT_EQ(run.program.main.Notice,
+              "Proposal saved: " + run.folder / "Proposals/Ann.hef" +
+                  ". Ann.hpf was left as it is: the proposal was opened without it.");
 }
 
 TEST(KeptWork, APropertyFileThatCouldNotBeReadIsKept) {

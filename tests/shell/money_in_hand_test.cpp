@@ -5,6 +5,7 @@
 #include "pages/fields.h"
 #include "pages/row_fields.h"
 #include "program/keys.h"
+#include "proposal/lifecycle.h"
 #include "proposal/long_texts.h"
 #include "proposal/proposal_open.h"
 #include "proposal/proposal_save.h"
@@ -105,6 +106,33 @@ TEST(NoNumber, StandsRedWhereverItWasReadFromAndIsForgottenWithItsProposal) {
     static_cast<void>(modReset::StartNewFile(run.program));
     EXPECT_EQ(run.Area(kSecond, 33).BackColor, colors::kResting);
     EXPECT_EQ(run.Area(kSecond, 33).ToolTipText, "");
+}
+
+TEST(NoNumber, AQuantityOfBlanksIsAnEmptyOneAndComesBackAsItWas) {
+    Anns run;
+    modPages::PlaceColumns(run.program, kSecond, 0, modPages::Columns::On);
+    const FieldRef quantity{kSecond, FieldKind::txtQty, 0};
+    const TextArea& box = run.program.pages[kSecond].txtQty[0];
+    run.typist.Click({kSecond, FieldKind::txtAmt, 0});
+    run.typist.Type("20");
+    run.typist.Click(quantity);
+    run.typist.Type("   ");
+    EXPECT_EQ(box.Text, "") << "a blank is no part of a number";
+    for (const char* blanks : {"", "   "}) {
+        modFields::SetText(run.program, quantity, blanks); // an older proposal can hold them
+        run.typist.Click(kSecond, 5);
+        EXPECT_EQ(box.BackColor, colors::kRestingRowField);
+        EXPECT_EQ(run.TextOf(kSecond, 33), "");
+        run.Save();
+        run.Reopen();
+        EXPECT_EQ(box.Text, blanks);
+        EXPECT_EQ(box.BackColor, colors::kRestingRowField);
+        EXPECT_EQ(run.TextOf(kSecond, 33), "");
+        run.typist.Click(quantity);
+        run.typist.Click(kSecond, 5);
+        EXPECT_EQ(box.Text, blanks);
+        EXPECT_FALSE(modProposal::SomethingChanged(run.program));
+    }
 }
 
 TEST(NoNumber, ACommaInABoxIsSeenNotDropped) {

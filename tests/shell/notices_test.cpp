@@ -140,6 +140,40 @@ TEST(SavedNotice, TellsWhatWasSavedAndWhere) {
     EXPECT_EQ(run.program.main.Notice, "Text saved: " + run.folder / "Proposals/Ann.txt");
 }
 
+TEST(SavedNotice, OfTheSameSaveIsGivenAgain) {
+    RunningProgram run;
+    NoticeStrip strip;
+    const std::string saved = "Settings saved: " + run.folder / "UserPreferences.txt";
+    std::int64_t now = 0;
+    for (int time = 0; time < 2; ++time) {
+        person::Choose(run.program, CommandId::mnuOptSetDefaultFonts); // by mouse, no key between
+        strip.Follow(run.program, now);
+        EXPECT_EQ(strip.Text(), saved) << time;
+        for (int second = 1; second <= 5; ++second) {
+            now += 1000;
+            strip.Activity(now);
+            strip.Follow(run.program, now);
+        }
+        EXPECT_EQ(strip.Text(), "") << time;
+    }
+}
+
+TEST(Notice, OfTheSameKeyIsGivenAgain) {
+    RunningProgram run;
+    Typist typist(run.program);
+    NoticeStrip strip;
+    typist.Click(PageId::frmP1, 20);
+    for (const std::int64_t start : {0, 100'000}) {
+        typist.Type("e");
+        strip.Follow(run.program, start);
+        EXPECT_NE(strip.Text(), "") << start;
+        for (int second = 1; second <= 5; ++second) {
+            strip.Activity(start + second * 1000); // the mouse
+        }
+        EXPECT_EQ(strip.Text(), "");
+    }
+}
+
 TEST(SavedNotice, IsNotGivenForASaveThatFailed) {
     RunningProgram run;
     Typist typist(run.program);
