@@ -183,9 +183,8 @@ std::string CopiedList(const Program& program) {
 
 /// What stands in the run panel while the person is asked about the rows that cannot be read.
 std::string WhatWasFound(const BatchRecords& batch) {
-    const std::int32_t count = batch.BatchRecordLast + 1;
-    return std::to_string(count) + (count == 1 ? " record found, " : " records found, ") +
-           std::to_string(batch.BadRecords.size()) + " of them cannot be read";
+    const std::size_t count = static_cast<std::size_t>(batch.BatchRecordLast) + 1;
+    return std::to_string(count - batch.BadRecords.size()) + " of " + std::to_string(count) + " can be read";
 }
 
 Parsed ParseCsvAddressList(Program& program, AddressWindow& window) {

@@ -73,4 +73,16 @@ void SetPageNumbers(Program& program) {
     program.document.PagesNumbered = used;
 }
 
+void FollowPagesInUse(Program& program) {
+    // What is on its way to the printer has the numbers of its moment.
+    if (program.document.PagesNumbered == 0 || program.printing.CommandRunning ||
+        program.guards.HandlersSilent()) {
+        return;
+    }
+    CountPagesInUse(program);
+    if (program.document.PagesInUse != program.document.PagesNumbered) {
+        SetPageNumbers(program);
+    }
+}
+
 } // namespace modPageCount

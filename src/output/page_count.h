@@ -12,4 +12,8 @@ void CountPagesInUse(Program& program);
 /// line.
 void SetPageNumbers(Program& program);
 
+/// Once numbers were laid they are those of the pages in use: laid anew when a text has made a page one in
+/// use or the last text of one has gone. Before that the pages say what they were built with.
+void FollowPagesInUse(Program& program);
+
 } // namespace modPageCount

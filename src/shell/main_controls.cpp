@@ -1,5 +1,6 @@
 #include "shell/main_controls.h"
 
+#include "output/page_count.h"
 #include "program/program.h"
 
 #include <string>
@@ -44,6 +45,7 @@ void WorkOutControls(Program& program) {
     if (program.pages[PageId::frmP1].lbl.empty()) {
         return;
     }
+    modPageCount::FollowPagesInUse(program);
     WorkOutStrips(program);
     WorkOutCommands(program);
 }

@@ -422,7 +422,7 @@ TEST(HeadingImport, ThePanelSaysWhatWasFoundWhileItIsAskedAbout) {
     std::string told;
     run.Questions().Allow(question, [&] { told = run.Window().lblBatch.Caption; });
     run.Window().cmdOK_Click(run.program);
-    EXPECT_EQ(told, "2 records found, 1 of them cannot be read");
+    EXPECT_EQ(told, "1 of 2 can be read");
     run.ExpectIdle();
     EXPECT_EQ(run.Window().lblBatch.Caption, "");
 }

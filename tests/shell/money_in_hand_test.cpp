@@ -5,6 +5,7 @@
 #include "pages/fields.h"
 #include "pages/row_fields.h"
 #include "program/keys.h"
+#include "proposal/lifecycle.h"
 #include "proposal/long_texts.h"
 #include "proposal/proposal_open.h"
 #include "proposal/proposal_save.h"
@@ -105,6 +106,33 @@ TEST(NoNumber, StandsRedWhereverItWasReadFromAndIsForgottenWithItsProposal) {
     static_cast<void>(modReset::StartNewFile(run.program));
     EXPECT_EQ(run.Area(kSecond, 33).BackColor, colors::kResting);
     EXPECT_EQ(run.Area(kSecond, 33).ToolTipText, "");
+}
+
+TEST(NoNumber, AQuantityOfBlanksIsAnEmptyOneAndComesBackAsItWas) {
+    Anns run;
+    modPages::PlaceColumns(run.program, kSecond, 0, modPages::Columns::On);
+    const FieldRef quantity{kSecond, FieldKind::txtQty, 0};
+    const TextArea& box = run.program.pages[kSecond].txtQty[0];
+    run.typist.Click({kSecond, FieldKind::txtAmt, 0});
+    run.typist.Type("20");
+    run.typist.Click(quantity);
+    run.typist.Type("   ");
+    EXPECT_EQ(box.Text, "") << "a blank is no part of a number";
+    for (const char* blanks : {"", "   "}) {
+        modFields::SetText(run.program, quantity, blanks); // an older proposal can hold them
+        run.typist.Click(kSecond, 5);
+        EXPECT_EQ(box.BackColor, colors::kRestingRowField);
+        EXPECT_EQ(run.TextOf(kSecond, 33), "");
+        run.Save();
+        run.Reopen();
+        EXPECT_EQ(box.Text, blanks);
+        EXPECT_EQ(box.BackColor, colors::kRestingRowField);
+        EXPECT_EQ(run.TextOf(kSecond, 33), "");
+        run.typist.Click(quantity);
+        run.typist.Click(kSecond, 5);
+        EXPECT_EQ(box.Text, blanks);
+        EXPECT_FALSE(modProposal::SomethingChanged(run.program));
+    }
 }
 
 TEST(NoNumber, ACommaInABoxIsSeenNotDropped) {
@@ -448,6 +476,21 @@ TEST(ClientsCopy, FollowsTheFiguresOnEveryWay) {
     run.Reopen();
     EXPECT_EQ(Figures(run, PageId::frmP6_1)[0], "100.00") << "read";
     EXPECT_EQ(Figures(run, PageId::frmP6_1), Figures(run));
+}
+
+TEST(CheckAddition, EmptiesEveryRowBelowTheFirstBeforeItFillsThem) {
+    RunningProgram run;
+    for (const int row : {34, 65}) {
+        modFields::SetText(run.program, {kSecond, FieldKind::txt, row}, "7");
+        modTotals::SetTax(run.program, kSecond, row, modTotals::Tax::Exempt);
+    }
+    run.surroundings.questions.ExpectInput("", "10");
+    run.surroundings.questions.ExpectBox({"330", Buttons::Ok, ""}, Answer::Ok);
+    modTotals::mnuAdminCheckAddition_Click(run.program);
+    for (const std::size_t row : {34U, 65U}) {
+        EXPECT_FALSE(run.program.pages[kSecond].imgNoTax[row].Visible) << "an emptied row loses its mark";
+        EXPECT_EQ(run.program.totals.TaxableTable[row][kSecond], 10) << row;
+    }
 }
 
 } // namespace
