@@ -64,6 +64,10 @@ void TakeRow(Program& program, const assignment::RowAssignment& row) {
 
 void TakeLabel(Program& program, const Fields& fields, const LabelLook& line) {
     const PageId page = PageAt(fields.Page);
+    auto& builtIn = program.format.BuiltIn[page][static_cast<std::size_t>(fields.Index)];
+    if (!builtIn) {
+        builtIn = modLineEffects::OwnLook(program, fields);
+    }
     const LabelLook look = modLineEffects::LayLabelLine(program, page, fields.Index, line);
     LabelChangeRecord& record = modDesigner::RecordOf(program.format.FormatLabelChanges, page, fields.Index);
     modDesigner::PutLook(record, look);
@@ -172,6 +176,7 @@ void OpenFormatFile(Program& program) {
     format.FormatTextChanges = {};
     format.FormatLabelChanges = {};
     format.InFile = {};
+    format.BuiltIn = {};
     format.Touched = false;
     std::string bytes;
     try {

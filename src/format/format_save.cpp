@@ -10,6 +10,7 @@
 #include "format/frm_label_props.h"
 #include "format/label_looks.h"
 #include "format/line_effects.h"
+#include "format/logo.h"
 #include "format/unkept_values.h"
 #include "pages/page_geometry.h"
 #include "pages/row_fields.h"
@@ -173,7 +174,13 @@ bool Written(Program& program, const std::string& path, bool agreed) {
     });
     if (written) {
         format.FormatSeen = seen;
-        TellSaved(program, "Format", path);
+        if (!format.LogoPath.empty()) {
+            modLogo::KeepShown(program);
+        }
+        const PagePicture& logo = program.pages[PageId::frmP1].pic;
+        TellSaved(program,
+                  logo.Visible && logo.BorderStyle != 0 ? "Format without the logo's border" : "Format",
+                  path);
     }
     return written;
 }

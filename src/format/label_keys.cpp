@@ -3,10 +3,12 @@
 #include "format/label_designer.h"
 #include "format/logo.h"
 #include "pages/fields.h"
+#include "pages/label_mode.h"
 #include "pages/page_geometry.h"
 #include "program/keys.h"
 #include "program/program.h"
 
+#include <optional>
 #include <vector>
 
 namespace modLabelKeys {
@@ -109,13 +111,10 @@ void Leave(Program& program) {
     if (!designer.LabelMode) {
         return;
     }
-    designer.LabelMode = false;
-    designer.Framed.reset();
-    program.main[CommandId::mnuEditLabelMode].Checked = false;
-    const bool here = designer.FocusBefore && designer.FocusBefore->Page == program.main.PageInFront;
-    modFields::GiveFocus(program, here ? *designer.FocusBefore
-                                       : FieldRef{program.main.PageInFront, FieldKind::txt, 0});
-    designer.FocusBefore.reset();
+    const std::optional<FieldRef> before = designer.FocusBefore;
+    modLabelMode::End(program);
+    const bool here = before && before->Page == program.main.PageInFront;
+    modFields::GiveFocus(program, here ? *before : FieldRef{program.main.PageInFront, FieldKind::txt, 0});
 }
 
 void PageChanged(Program& program) {

@@ -56,6 +56,13 @@ void SaveVisibility(Program& program) {
 
 } // namespace
 
+void KeepShown(Program& program) {
+    if (Logo(program).Visible && !program.settings.LogoVisible) {
+        program.settings.LogoVisible = true;
+        SaveVisibility(program);
+    }
+}
+
 void TakeFormatLogo(Program& program, std::string_view path, float left, float top) {
     FormatRecords& format = program.format;
     format.LogoPath = path;
@@ -124,6 +131,10 @@ void mnuEditLogoSave_Click(Program& program) {
     static_cast<void>(modSettings::Store(program, {{Key::LogoFile, settings.LogoFile},
                                                    {Key::LogoLeft, numbers::PlainNumber(logo.Left)},
                                                    {Key::LogoTop, numbers::PlainNumber(logo.Top)}}));
+    KeepShown(program);
+    if (logo.BorderStyle != 0) {
+        program.main.Notice = kBorderNotKept;
+    }
 }
 
 void mnuEditLogoVisible_Click(Program& program) {
@@ -146,6 +157,9 @@ void mnuEditLogoBorder_Click(Program& program) {
         modLogo::SettleLogoVisibility(program);
     }
     SaveVisibility(program);
+    if (!entry.Checked) {
+        program.main.Notice = kBorderNotKept;
+    }
 }
 
 void pic_MouseDown(Program& program, int button, float x, float y) {

@@ -7,9 +7,15 @@ struct Program;
 /// The logo as the designer's commands and a format have it.
 namespace modLogo {
 
+/// What is said of the logo's border, which has a place in no file.
+inline constexpr std::string_view kBorderNotKept =
+    "The logo's border stays until Quillbrook ends; no file keeps it.";
+
 /// The logo of a format's line: shown at its place, and the format's from now on. A name without a folder is
 /// looked for in the program folder and stays as it is when it is not there.
 void TakeFormatLogo(Program& program, std::string_view path, float left, float top);
+/// A logo that is kept while it shows is to show from now on, whatever the settings said before.
+void KeepShown(Program& program);
 /// Lays the logo that a format has named. One that cannot be shown is hidden, which is told once a run; its
 /// name stays for the next save.
 void LayPendingLogo(Program& program);

@@ -28,6 +28,16 @@ PictureSize Fitted(const PictureSize& size) {
     return {size.Width * scale, size.Height * scale};
 }
 
+std::optional<PictureSize> TakePicture(Program& program, const std::string& path) {
+    std::optional<PictureSize> size =
+        files::Exists(path) ? program.platform.pictures.Load(path) : std::nullopt;
+    if (size) {
+        Logo(program).Picture = {PictureRef::Source::File, path};
+        Logo(program).Size = Fitted(*size);
+    }
+    return size;
+}
+
 } // namespace
 
 std::optional<std::string> ScaledMessage(const PictureSize& natural) {
@@ -46,11 +56,8 @@ bool IsBare(std::string_view path) {
 }
 
 std::optional<PictureSize> PutLogo(Program& program, const std::string& path) {
-    const std::optional<PictureSize> size =
-        files::Exists(path) ? program.platform.pictures.Load(path) : std::nullopt;
+    const std::optional<PictureSize> size = TakePicture(program, path);
     if (size) {
-        Logo(program).Picture = {PictureRef::Source::File, path};
-        Logo(program).Size = Fitted(*size);
         program.run.LogoChecked = program.settings.LogoVisible;
         SettleLogoVisibility(program);
     }
@@ -93,11 +100,10 @@ void LoadLogo(Program& program) {
 }
 
 std::optional<PictureSize> ShowLogo(Program& program, const std::string& path) {
-    const bool before = program.settings.LogoVisible;
-    program.settings.LogoVisible = true;
-    std::optional<PictureSize> size = PutLogo(program, path);
-    if (!size) {
-        program.settings.LogoVisible = before;
+    std::optional<PictureSize> size = TakePicture(program, path);
+    if (size) {
+        program.run.LogoChecked = true;
+        SettleLogoVisibility(program);
     }
     return size;
 }

@@ -38,8 +38,8 @@ void SettleLogoVisibility(Program& program);
 /// The logo of the settings, at its place; hidden when there is none.
 void LoadLogo(Program& program);
 
-/// A picture that a person has chosen: put in place of the one that stands, and seen from now on. Its natural
-/// size, or nothing when it cannot be shown; then nothing changes.
+/// A picture that a person has chosen: put in place of the one that stands, and seen in this document
+/// whatever the settings say. Its natural size, or nothing when it cannot be shown; then nothing changes.
 [[nodiscard]] std::optional<PictureSize> ShowLogo(Program& program, const std::string& path);
 
 } // namespace modLogo

@@ -36,6 +36,7 @@ void ResetLabels(Page& page, Weight weight) {
     for (PageLabel& label : page.lbl) {
         label.Visible = false;
         label.Tag.clear();
+        label.ToolTipText.clear(); // it told a place that the label has left
         label.FontName = "Times New Roman";
         label.FontSize = 9.75F;
         label.FontBold = weight == Weight::Bold;

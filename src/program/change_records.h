@@ -62,6 +62,7 @@ struct AreaInFormat {
 using TextChangeTable = PerEditedPage<std::array<TextChangeRecord, 66>>;
 using AreasInFormat = PerEditedPage<std::array<AreaInFormat, 66>>;
 using LabelChangeTable = PerEditedPage<std::array<LabelChangeRecord, 65>>;
+using LabelsCovered = PerEditedPage<std::array<std::optional<LabelLook>, 65>>;
 
 struct FormatRecords {
     TextChangeTable PropTextChanges;   ///< the proposal's; other places call it TextProps
@@ -85,7 +86,8 @@ struct FormatRecords {
     std::string FormatFolder;
     bool OverwriteFormatText = true; ///< off: the texts of a format that is read are protected
     AreasInFormat InFile;            ///< as read or saved last
-    AreaFont FontOfFile;             ///< the font in force when the format was read or saved last
+    LabelsCovered BuiltIn; ///< the labels that a line of the format has changed, as they stood before it
+    AreaFont FontOfFile;   ///< the font in force when the format was read or saved last
     /// A person has changed, since the format was read or saved last, what a save of it would keep.
     bool Touched = false;
     files::Seen FormatSeen;    ///< the file, as read or saved last
@@ -98,7 +100,8 @@ struct FormatRecords {
     std::optional<int> PropertyLinesRead;
 
     float SnapTwips = 180; ///< the designer's step, an eighth of an inch
-    /// The logo that goes with the format; without one the settings' is shown.
+    /// The logo that goes with the format, or that a person has chosen for this document; without one the
+    /// settings' is shown.
     std::string LogoPath;
     float LogoLeft = 0; ///< twips; the settings have a pair of their own
     float LogoTop = 0;

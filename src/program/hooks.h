@@ -34,6 +34,7 @@ struct Hooks {
     Call OpenFormatFile;
     Call ParsePropertyFile;
     Call AssignPropChanges;
+    Call TellOtherPages;
     /// Whether what the open format has not saved may be lost; asks and saves. No answer: it may.
     std::function<bool(Program&)> MayLeaveFormat;
     Call CloseLabelWindow; ///< as OK, on its own page

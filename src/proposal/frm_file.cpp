@@ -303,8 +303,7 @@ void frmFile::OpenLogo(Program& program) {
     }
     const PagePicture& logo = program.pages[PageId::frmP1].pic;
     FormatRecords& format = program.format;
-    program.settings.LogoFile = path;
-    format.LogoPath = path;
+    format.LogoPath = path; // the settings keep theirs until this one is made the default
     format.LogoLeft = logo.Left;
     format.LogoTop = logo.Top;
     format.LogoChanged = true;

@@ -79,15 +79,17 @@ void TakeProperties(Program& program, const std::string& path) {
     format.PropertyLinesRead.reset();
     format.PropertyPath = path;
     format.PropertySeen = files::LookAt(path);
-    if (!files::Exists(path)) {
-        return;
+    if (files::Exists(path)) {
+        format.PropertyLines = text::SplitLines(files::ReadAll(path));
     }
-    format.PropertyLines = text::SplitLines(files::ReadAll(path));
     if (!format.PropertyLines.empty() && program.hooks.ParsePropertyFile) {
         program.hooks.ParsePropertyFile(program);
     }
     if (format.PropertyLinesRead) {
         format.PropertySeen.Was = files::Seen::What::Unread; // kept when it is replaced
+    }
+    if (program.hooks.TellOtherPages) {
+        program.hooks.TellOtherPages(program);
     }
 }
 

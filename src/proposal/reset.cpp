@@ -4,6 +4,7 @@
 #include "base/guard.h"
 #include "base/paths.h"
 #include "money/totals.h"
+#include "pages/label_mode.h"
 #include "pages/logo.h"
 #include "pages/page_defaults.h"
 #include "pages/page_fonts.h"
@@ -60,6 +61,7 @@ void ResetPages(Program& program) {
     if (program.hooks.DeSelectAllControls) {
         program.hooks.DeSelectAllControls(program);
     }
+    modLabelMode::End(program); // the keyboard goes to the new proposal's fields
     program.main.Focus.reset();
     program.main.CurrentPage = 0;
     program.editing.ACActive = {};
@@ -149,6 +151,8 @@ void TakeFormat(Program& program, bool loadDefault) {
     format.FormatTextChanges = {};
     format.FormatLabelChanges = {};
     format.InFile = {};
+    format.BuiltIn = {};
+    format.LogoPath.clear();
     format.LogoChanged = false;
     format.LogoPending = false;
     format.Touched = false;
@@ -159,13 +163,13 @@ void TakeFormat(Program& program, bool loadDefault) {
         format.FormatName = paths::Name(path);
         format.FormatOpen = true;
     }
-    // A format without a logo of its own leaves this one.
+    // One that was chosen for the document before is kept by a format or by the settings, or goes with it. A
+    // format without a logo of its own leaves this one.
     modLogo::LoadLogo(program);
     const RunState& run = program.run;
     format.FontOfFile = {run.DefaultFontName, run.DefaultFontSize, run.DefaultFontColor,
                          run.DefaultFontItalic};
     if (format.FormatOpen && program.hooks.OpenFormatFile) {
-        format.LogoPath.clear();
         program.hooks.OpenFormatFile(program);
     }
 }

@@ -11,6 +11,7 @@
 #include "format/format_file.h"
 #include "format/format_save.h"
 #include "format/frm_label_props.h"
+#include "format/other_pages.h"
 #include "format/property_file.h"
 #include "output/page_count.h"
 #include "output/text_file.h"
@@ -96,6 +97,7 @@ void Wire(Program& program) {
     hooks.OpenFormatFile = modFormat::OpenFormatFile;
     hooks.ParsePropertyFile = modProperties::ParsePropertyFile;
     hooks.AssignPropChanges = modProperties::AssignPropChanges;
+    hooks.TellOtherPages = modProperties::TellOtherPages;
     hooks.MayLeaveFormat = modFormat::MayLeaveFormat;
     hooks.CloseLabelWindow = modDesigner::CloseLabelWindow;
     hooks.SetPageNumbers = modPageCount::SetPageNumbers;

@@ -1,6 +1,7 @@
 #include "format/format_commands.h"
 
 #include "format/format_changes.h"
+#include "format/format_save.h"
 #include "format/frm_text_props.h"
 #include "format/label_designer.h"
 #include "format/logo.h"
@@ -9,11 +10,13 @@
 #include "program/windows.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
+#include "support/failing_disk.h"
 #include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
@@ -321,6 +324,7 @@ TEST(FormatSave, AClientsDataAreAskedForAndLayoutOnlyWritesNoneOfThem) {
 TEST(FormatSave, AmountsOfAnOpenedProposalAreNoPartOfAFormat) {
     Formats run;
     run.Open();
+    run.Questions().Expect("The format House.fmt words 1 caption of Jane Roe.hef.");
     run.OpenProposal("Jane Roe.hef");
     run.program.format.LogoChanged = true;
     run.Questions().Expect("Shall the texts", Answer::No);
@@ -383,7 +387,8 @@ TEST(FormatSave, LayoutOnlyDoesNotTellWhoseProposalItWasMadeWith) {
         << file;
     // The one that was moved stays where it is, the other stands in the middle with the next client's name.
     const float left = run.Label(PageId::frmP1, 33).Left;
-    const PageLabel before = run.Label(PageId::frmP6, 64);
+    PageLabel before = run.Label(PageId::frmP6, 64);
+    before.ToolTipText.clear(); // it told of the press
     run.Questions().Expect("Some text has been changed.", Answer::No);
     modProposal::mnuFileNew_Click(run.program);
     EXPECT_EQ(run.Label(PageId::frmP1, 33).Left, left);
@@ -608,13 +613,104 @@ TEST(ChooserKinds, APictureBecomesTheLogoAndAnythingElseIsRefused) {
     EXPECT_EQ(logo.Tag, "");
     EXPECT_EQ(logo.Picture.Path, picture);
     EXPECT_EQ(logo.Size.Width, 1500);
-    EXPECT_EQ(run.program.settings.LogoFile, picture);
+    EXPECT_EQ(run.program.settings.LogoFile, "") << "the settings keep theirs until it is made the default";
     EXPECT_EQ(run.program.format.LogoPath, picture);
     EXPECT_EQ(run.program.format.LogoLeft, 720);
     EXPECT_EQ(run.program.format.LogoTop, 540);
     EXPECT_TRUE(run.program.format.LogoChanged);
     EXPECT_EQ(run.program.main.Notice, "Kept only by a format or by Save this Logo as Default.");
     EXPECT_EQ(run.program.document.FileFilter, "*.hef");
+}
+
+/// A program whose settings have a logo of their own, and a second picture to choose.
+struct Logos : Formats {
+    Logos() {
+        for (const char* name : {"ours.png", "theirs.png"}) {
+            folder.Write("Proposals/" + std::string(name), "x");
+            surroundings.pictures.Known[folder / ("Proposals/" + std::string(name))] = {1500, 900};
+        }
+        program.settings.LogoFile = Ours();
+        program.settings.LogoVisible = true;
+    }
+    [[nodiscard]] std::string Ours() const { return folder / "Proposals/ours.png"; }
+    [[nodiscard]] std::string Theirs() const { return folder / "Proposals/theirs.png"; }
+    void ChooseTheirs() {
+        modLogo::mnuEditLogoOpen_Click(program);
+        Choose("theirs.png");
+        ASSERT_EQ(OnShow(), Theirs());
+    }
+    [[nodiscard]] std::string OnShow() {
+        const PagePicture& logo = program.pages[PageId::frmP1].pic;
+        return logo.Visible ? logo.Picture.Path : "";
+    }
+};
+
+TEST(ALogoThatWasChosen, AndDiscardedWithTheFormatsChangesIsGoneFromTheNextProposal) {
+    Logos run;
+    run.Open();
+    EXPECT_EQ(run.OnShow(), run.Ours()) << "the format has none of its own";
+    run.ChooseTheirs();
+    run.surroundings.questions.Expect("The format House.fmt has changes that are not saved.", Answer::No);
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.OnShow(), run.Ours());
+    EXPECT_EQ(run.program.format.LogoPath, "");
+}
+
+TEST(ALogoThatWasChosen, IsKeptByTheFormatOrByTheSettings) {
+    Logos run;
+    run.Open();
+    run.ChooseTheirs();
+    modFormat::mnuFileFormatSave_Click(run.program);
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.OnShow(), run.Theirs());
+    run.Questions().ExpectBox(kClearQuestion, Answer::Yes);
+    modFormat::mnuFileFormatNew_Click(run.program);
+    EXPECT_EQ(run.OnShow(), run.Ours());
+    run.ChooseTheirs();
+    modLogo::mnuEditLogoSave_Click(run.program);
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.OnShow(), run.Theirs());
+    EXPECT_NE(run.folder.Read("UserPreferences.txt").find("Logo File:" + run.Theirs()), std::string::npos);
+}
+
+TEST(ALogoThatWasChosen, WithoutAFormatGoesWithItsDocument) {
+    Logos run;
+    run.ChooseTheirs();
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.OnShow(), run.Ours());
+    EXPECT_EQ(run.program.format.LogoPath, "") << "a format saved now has the logo that is on show";
+}
+
+TEST(ALogoThatWasChosen, ShowsWhereLogosWereHiddenAndGoesOnShowingOnceItIsKept) {
+    Logos run;
+    run.program.settings.LogoVisible = false;
+    run.Open();
+    EXPECT_EQ(run.OnShow(), "");
+    run.ChooseTheirs();
+    EXPECT_FALSE(run.program.settings.LogoVisible) << "that is for those who keep it";
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_EQ(run.program.main.Notice, "Format saved: " + (run.folder / "Proposals/House.fmt"));
+    EXPECT_NE(run.folder.Read("UserPreferences.txt").find("Logo Visible:True\r\n"), std::string::npos);
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.OnShow(), run.Theirs());
+}
+
+TEST(TheLogosBorder, IsSaidToBeKeptByNoFile) {
+    Logos run;
+    run.Open();
+    run.program.main[CommandId::mnuEditLogoBorder].Checked = true;
+    modLogo::mnuEditLogoBorder_Click(run.program);
+    EXPECT_EQ(run.program.main.Notice, "The logo's border stays until Quillbrook ends; no file keeps it.");
+    run.program.main.Notice.clear();
+    modLogo::mnuEditLogoSave_Click(run.program);
+    EXPECT_EQ(run.program.main.Notice, "The logo's border stays until Quillbrook ends; no file keeps it.");
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_EQ(run.program.main.Notice,
+              "Format without the logo's border saved: " + (run.folder / "Proposals/House.fmt"));
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.program.pages[PageId::frmP1].pic.BorderStyle, 1);
+    modLogo::mnuEditLogoBorder_Click(run.program);
+    EXPECT_EQ(run.program.main.Notice, "Settings saved: " + (run.folder / "UserPreferences.txt"));
 }
 
 TEST(FormatSave, ATextOfTheFormatThatAPersonTakesOutIsNotInItAnyMore) {
@@ -675,6 +771,19 @@ TEST(FormatEnd, WhatAPersonChangesInTheOpenFormatIsAskedAboutWhenItIsLeft) {
         change(run);
         EXPECT_TRUE(modFormat::FormatIsUnsaved(run.program)) << what;
     }
+}
+
+TEST(FormatDefault, OneThatCouldNotBeWrittenIsNotTheDefault) {
+    Formats run;
+    run.Open();
+    {
+        const FailingDisk disk{{FailingDisk::Call::Write, 1, ENOSPC, FailingDisk::kForever}};
+        run.Questions().Expect("Disk full");
+        EXPECT_FALSE(modFormat::MakeDefault(run.program));
+    }
+    EXPECT_EQ(run.program.settings.DefaultFormatPath, "");
+    EXPECT_FALSE(run.program.settings.LoadDefaultFormat);
+    EXPECT_TRUE(run.HasSetting("Default File Format:"));
 }
 
 } // namespace
