@@ -23,7 +23,6 @@ void txt_MouseDown(Program& program, PageId page, int index, int button) {
         modFields::SetCursor(area, start, length);
     }
     editing.CursorPos = area.SelStart;
-    modStatus::ShowCursor(program);
     if (IsFinalPage(page)) {
         return;
     }

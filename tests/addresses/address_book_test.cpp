@@ -628,4 +628,15 @@ TEST(AddressBook, ADeleteTakesAwayALinkThatLiesWhereItWorksAndLeavesWhatItLeadsT
     EXPECT_FALSE(std::filesystem::is_symlink(run.folder / run.DataName("PerAdd.apx")));
 }
 
+TEST(AddressBook, LettersThatLeadToTheChosenRowOrToNoneAskNothing) {
+    AddressRun run;
+    frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash", "Ben Birch"}));
+    window.lstNames_Click(run.program, 0);
+    run.Type(1, "changed");
+    window.lstNames_Typed(run.program, "a");
+    window.lstNames_Typed(run.program, "x");
+    EXPECT_EQ(run.Text(1), "changed");
+    EXPECT_EQ(window.lstNames.ListIndex, 0);
+}
+
 } // namespace

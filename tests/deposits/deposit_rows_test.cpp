@@ -137,4 +137,14 @@ TEST(Figures, InBracketsAreBelowNought) {
     }
 }
 
+TEST(Figures, MayHaveTheirSignOnEitherSide) {
+    EXPECT_EQ(modDeposits::ReadFigure("-5"), -500);
+    EXPECT_EQ(modDeposits::ReadFigure("5-"), -500);
+    EXPECT_EQ(modDeposits::ReadFigure("+5.25"), 525);
+    EXPECT_EQ(modDeposits::ReadFigure("5.25+"), 525);
+    for (const char* none : {"-", "+", "--5", "-5-", "5--", "5-5"}) {
+        EXPECT_EQ(modDeposits::ReadFigure(none), std::nullopt) << none;
+    }
+}
+
 } // namespace

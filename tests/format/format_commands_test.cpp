@@ -1,6 +1,7 @@
 #include "format/format_commands.h"
 
 #include "format/format_changes.h"
+#include "format/format_save.h"
 #include "format/frm_text_props.h"
 #include "format/label_designer.h"
 #include "format/logo.h"
@@ -9,11 +10,13 @@
 #include "program/windows.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
+#include "support/failing_disk.h"
 #include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
@@ -768,6 +771,19 @@ TEST(FormatEnd, WhatAPersonChangesInTheOpenFormatIsAskedAboutWhenItIsLeft) {
         change(run);
         EXPECT_TRUE(modFormat::FormatIsUnsaved(run.program)) << what;
     }
+}
+
+TEST(FormatDefault, OneThatCouldNotBeWrittenIsNotTheDefault) {
+    Formats run;
+    run.Open();
+    {
+        const FailingDisk disk{{FailingDisk::Call::Write, 1, ENOSPC, FailingDisk::kForever}};
+        run.Questions().Expect("Disk full");
+        EXPECT_FALSE(modFormat::MakeDefault(run.program));
+    }
+    EXPECT_EQ(run.program.settings.DefaultFormatPath, "");
+    EXPECT_FALSE(run.program.settings.LoadDefaultFormat);
+    EXPECT_TRUE(run.HasSetting("Default File Format:"));
 }
 
 } // namespace

@@ -478,4 +478,19 @@ TEST(ClientsCopy, FollowsTheFiguresOnEveryWay) {
     EXPECT_EQ(Figures(run, PageId::frmP6_1), Figures(run));
 }
 
+TEST(CheckAddition, EmptiesEveryRowBelowTheFirstBeforeItFillsThem) {
+    RunningProgram run;
+    for (const int row : {34, 65}) {
+        modFields::SetText(run.program, {kSecond, FieldKind::txt, row}, "7");
+        modTotals::SetTax(run.program, kSecond, row, modTotals::Tax::Exempt);
+    }
+    run.surroundings.questions.ExpectInput("", "10");
+    run.surroundings.questions.ExpectBox({"330", Buttons::Ok, ""}, Answer::Ok);
+    modTotals::mnuAdminCheckAddition_Click(run.program);
+    for (const std::size_t row : {34U, 65U}) {
+        EXPECT_FALSE(run.program.pages[kSecond].imgNoTax[row].Visible) << "an emptied row loses its mark";
+        EXPECT_EQ(run.program.totals.TaxableTable[row][kSecond], 10) << row;
+    }
+}
+
 } // namespace

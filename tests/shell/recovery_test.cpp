@@ -392,4 +392,16 @@ TEST(Recovery, ChangesOfAProposalInAnotherFolderComeBackBesideItsFile) {
     EXPECT_FALSE(runs.Has("Proposals/Ann.hef"));
 }
 
+TEST(Recovery, ARunThatHasTakenItsMarkerAwayTellsOfNothingAnyMore) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    modFile::BackupThisFile(runs.first->program);
+    ASSERT_TRUE(runs.first->program.recovery.Told.has_value());
+    modRecovery::TakeMarkerAway(runs.first->program);
+    EXPECT_FALSE(runs.first->program.recovery.Told.has_value());
+    modRecovery::TellOfSave(runs.first->program, "bytes");
+    runs.StartAgain("", Answer::No);
+    EXPECT_TRUE(runs.again.questions.Shown.empty());
+}
+
 } // namespace

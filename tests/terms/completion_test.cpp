@@ -608,4 +608,27 @@ TEST(Completion, ReadsTheListThatIsInUseNow) {
     EXPECT_EQ(run.Text(), "charcoal");
 }
 
+/// Lists of a hundred are looked up in another way than short ones.
+std::string HundredTerms(std::string_view word) {
+    std::string lines;
+    for (int number = 100; number < 200; ++number) {
+        lines += std::string(word) + " " + std::to_string(number) + "\r\n";
+    }
+    return lines;
+}
+
+TEST(Completion, AfterAChangeOfListTheWordsOfTheOldOneAreForgotten) {
+    Typing run(HundredTerms("Apples"));
+    run.hand.Type("app");
+    EXPECT_EQ(run.Text(), "apples 100");
+    run.folder.Write("Proposals/Barn.fut", HundredTerms("Bananas"));
+    run.program.run.FUTFileName = "Barn.fut";
+    run.hand.Click(kPage, 1);
+    run.hand.Type("ban");
+    EXPECT_EQ(run.Text(1), "bananas 100");
+    run.hand.Click(kPage, 2);
+    run.hand.Type("app");
+    EXPECT_EQ(run.Text(2), "app");
+}
+
 } // namespace
