@@ -463,6 +463,17 @@ TEST(TextProperties, AsDefaultWritesTheFourSettings) {
     EXPECT_EQ(run.Area(PageId::frmP1, 0).FontSize, 6);
 }
 
+TEST(TextProperties, AsDefaultShowsTheFontThatWasLaidForNone) {
+    Designing run;
+    frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+    run.program.run.DefaultFontName.clear();
+    run.program.run.DefaultFontSize = 0;
+    window.cmdDefault_Click(run.program);
+    EXPECT_EQ(window.lblFontName.Caption, "Current Font Name = Arial");
+    EXPECT_TRUE(window.optFontSize[0].Value);
+    EXPECT_EQ(window.txtSample.Text, "Sampling Text with Arial: 10");
+}
+
 TEST(Colours, SlidersShowTheirValuesAndTheLargeStepEndsAt255) {
     Designing run;
     run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps").cmdColors_Click(run.program);
