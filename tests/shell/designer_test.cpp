@@ -846,4 +846,44 @@ TEST(Titles, AreToBeSavedOnEveryPageThatHasThem) {
     }
 }
 
+TEST(LabelDrag, MakesALabelOfTheFormatAChangeOfThePersonsInEveryTable) {
+    Designing run;
+    run.Format(9).FromFormat = true;
+    run.Format(9).Saved = true;
+    run.Prop(9).Saved = true;
+    run.Drag(9, 180, 360);
+    for (const LabelChangeRecord* record :
+         {&run.Format(9), &run.Prop(9), &run.program.format.LabelSavedState[PageId::frmP1][9]}) {
+        EXPECT_EQ(record->Left, 1080 + 180);
+        EXPECT_EQ(record->Top, 4140 + 180);
+        EXPECT_TRUE(record->Changed);
+        EXPECT_FALSE(record->Saved);
+        EXPECT_FALSE(record->FromFormat);
+    }
+}
+
+TEST(LabelWindow, OkMakesALabelOfTheFormatAChangeOfThePersonsInEveryTable) {
+    Designing run;
+    run.Click(9);
+    run.Format(9).FromFormat = true;
+    run.Format(9).Saved = true;
+    run.Prop(9).Saved = true;
+    run.Prop(9).Changed = false;
+    frmLabelProps& window = run.Props();
+    window.txtCaption_Change(run.program, "Day");
+    window.chkItalic_Click(run.program);
+    window.chkUnderline_Click(run.program);
+    window.cmdOK_Click(run.program);
+    for (const LabelChangeRecord* record :
+         {&run.Format(9), &run.Prop(9), &run.program.format.LabelSavedState[PageId::frmP1][9]}) {
+        EXPECT_EQ(record->Caption, "Day");
+        EXPECT_FALSE(record->FontItalic);
+        EXPECT_TRUE(record->FontUnderline);
+        EXPECT_TRUE(record->Changed);
+        EXPECT_FALSE(record->Saved);
+        EXPECT_FALSE(record->FromFormat);
+    }
+    EXPECT_FALSE(IsSelected(run.Label(PageId::frmP1, 9)));
+}
+
 } // namespace
