@@ -8,6 +8,7 @@
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
 #include "support/failing_disk.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -664,6 +665,32 @@ TEST(SaveAs, ThatCannotBeWrittenLeavesEveryNameAsItWas) {
     EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Jane Roe");
     EXPECT_FALSE(document.SaveAsActive);
     EXPECT_FALSE(run.folder.Has("Proposals/Second.hef"));
+}
+
+TEST(Backup, RestoringBringsTheLayoutAlongAndFollowsItsFile) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    modFile::BackupThisFile(run.program);
+    run.folder.Write("Proposals/Backup/Jane Roe.hpf", "frmP1.txt(10).FontBold=True\r\n");
+    run.OpenBackup("Jane Roe.hef");
+    run.program.document.FolderOnShow = "elsewhere";
+    modProposal::mnuFileRestoreFromBackup_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hpf"), "frmP1.txt(10).FontBold=True\r\n");
+    EXPECT_EQ(run.program.format.PropertyPath, run.Data() + "Jane Roe.hpf");
+    EXPECT_EQ(run.program.format.PropertySeen, files::SeenIn("frmP1.txt(10).FontBold=True\r\n"));
+    EXPECT_EQ(run.program.document.FolderOnShow, run.Data());
+    EXPECT_FALSE(run.program.document.HasNotes);
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Jane Roe");
+}
+
+TEST(New, FromALaterPageBeginsInTheFirstFieldOfTheFirst) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    person::TurnTo(run.program, 3);
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.program.main.PageInFront, PageId::frmP1);
+    EXPECT_EQ(run.program.main.CurrentPage, 0);
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 0}));
 }
 
 } // namespace
