@@ -502,8 +502,9 @@ TEST(CompanyLines, ThatAFormatCarriesChangeWithTheSettingsAndAreToSave) {
 }
 
 TEST(PropertyLines, AFaultInALineOfAnyKindEndsTheReading) {
-    for (const char* fault : {"frmP1.txt(10).FontBold=Perhaps", "frmP1.lbl(9).Left=far",
-                              "UDP.FontName=Arial .FontSize=big .FontColor=0 .FontItalic=False"}) {
+    for (const char* fault :
+         {"frmP1.txt(10).FontBold=Perhaps", "frmP1.txq(12).QtyBox=Perhaps .QtyValue=2 .AmtValue=3",
+          "frmP1.lbl(9).Left=far", "UDP.FontName=Arial .FontSize=big .FontColor=0 .FontItalic=False"}) {
         Laid run;
         run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
         run.folder.Write("Proposals/Jane Roe.hpf", "frmP1.txt(12).FontBold=True\r\n" + std::string(fault) +
