@@ -215,9 +215,9 @@ bool Rebuild(Program& program) {
     return true;
 }
 
-void SayNothingFound(Program& program) {
+void SayNothingFound(Program& program, Manner::Came how) {
     SetView(program, View::All);
-    program.platform.questions.MsgBox("No Events Found", Buttons::Ok, "");
+    program.platform.questions.MsgBox("No Events Found", Buttons::Ok, "", {.How = how});
 }
 
 } // namespace
@@ -259,7 +259,7 @@ bool ReadEventDates(Program& program) {
     const bool done = Guarded(program, "ReadEventDates", [&] { whole = Rebuild(program); });
     program.calendar.CanRestore = CanRestore(program);
     if (done && whole && program.calendar.EventFiles.empty()) {
-        SayNothingFound(program); // with the normal pointer, for the person is asked
+        SayNothingFound(program, Manner::Came::OnRequest); // with the normal pointer, for the person is asked
     }
     return whole;
 }
@@ -276,7 +276,7 @@ void ReadEventDatesAtStart(Program& program) {
             });
         }
         if (!any) {
-            SayNothingFound(program);
+            SayNothingFound(program, Manner::Came::Unasked);
         }
     });
 }

@@ -3,6 +3,7 @@
 #include "base/guard.h"
 #include "desktop/activity_watch.h"
 #include "desktop/convert.h"
+#include "desktop/desk.h"
 #include "desktop/elided_label.h"
 #include "desktop/icons.h"
 #include "desktop/mnemonics.h"
@@ -29,7 +30,6 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPainter>
 #include <QScreen>
 #include <QShortcut>
 #include <QStatusTipEvent>
@@ -42,8 +42,6 @@ namespace {
 /// Room between a window's edge and a strip's texts.
 constexpr int kStripMargin = 10;
 constexpr int kAcrossStep = 24; // pixels
-constexpr QRgb kDeskLight = 0xFFB9C2C9;
-constexpr QRgb kDeskDark = 0xFF33393F;
 
 QWidget* MakeStrip(const QString& name, QWidget* parent) {
     auto* strip = new QWidget(parent);
@@ -55,35 +53,6 @@ QWidget* MakeStrip(const QString& name, QWidget* parent) {
 }
 
 } // namespace
-
-Desk::Desk(QWidget* parent) : QWidget(parent) {
-    setObjectName(QStringLiteral("desk"));
-    setFocusPolicy(Qt::NoFocus); // a click beside the fields leaves the keyboard where it is
-    setAttribute(Qt::WA_OpaquePaintEvent);
-}
-
-void Desk::paintEvent(QPaintEvent* event) {
-    QPainter painter(this);
-    const bool dark = palette().color(QPalette::Window).lightnessF() < 0.5F;
-    painter.fillRect(event->rect(), QColor(dark ? kDeskDark : kDeskLight));
-    constexpr int kShadow = 7;
-    for (int depth = kShadow; depth > 0; --depth) {
-        painter.fillRect(Paper.adjusted(-depth, -depth / 2, depth, depth), QColor(0, 0, 0, dark ? 22 : 9));
-    }
-}
-
-void Desk::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    if (Resized) {
-        Resized();
-    }
-}
-
-void Desk::wheelEvent(QWheelEvent* event) {
-    if (Wheel) {
-        Wheel(event);
-    }
-}
 
 FrmMainView::FrmMainView(Program& program, const QtTextMeasure& measure)
     : program_(program), measure_(measure) {
@@ -133,7 +102,7 @@ void FrmMainView::BuildStrips() {
         auto* label = new ElidedLabel(strip);
         label->setObjectName(name);
         static_cast<QHBoxLayout*>(strip->layout())->addWidget(label, stretch);
-        labels_.push_back({label, &record});
+        labels_.Add(*label, record);
         return label;
     };
 
@@ -366,7 +335,9 @@ void FrmMainView::Follow() {
     if (program_.main.Loaded) {
         menus_->Follow(program_);
         strip_->Follow();
-        FollowLabels();
+        labels_.Follow();
+        notices_.Follow(program_, Now());
+        FollowNotice();
         FollowPages();
         if (!shown_) {
             ShowFirst();
@@ -390,36 +361,6 @@ void FrmMainView::TakeKeyboard() {
     } else {
         desk_->setFocus();
     }
-}
-
-void FrmMainView::FollowLabels() {
-    for (const Shown& shown : labels_) {
-        const QString caption = convert::ToQString(shown.Record->Caption);
-        if (shown.Widget->text() != caption) {
-            shown.Widget->setText(caption);
-        }
-        const QString tip = convert::ToQString(shown.Record->ToolTipText);
-        if (shown.Widget->toolTip() != tip) {
-            shown.Widget->setToolTip(tip);
-        }
-        if (shown.Widget->isHidden() == shown.Record->Visible) {
-            shown.Widget->setVisible(shown.Record->Visible);
-        }
-        const QVariant before = shown.Widget->property("backColor");
-        if (!before.isValid() || before.toUInt() != shown.Record->BackColor) {
-            shown.Widget->setProperty("backColor", shown.Record->BackColor);
-            const bool standard = shown.Record->BackColor == colors::kButtonFace;
-            shown.Widget->setAutoFillBackground(!standard);
-            QPalette palette;
-            if (!standard) {
-                palette.setColor(QPalette::Window, convert::ToQColor(shown.Record->BackColor));
-                palette.setColor(QPalette::WindowText, Qt::white);
-            }
-            shown.Widget->setPalette(palette);
-        }
-    }
-    notices_.Follow(program_, Now());
-    FollowNotice();
 }
 
 void FrmMainView::FollowNotice() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/menus.h"
+#include "desktop/strip_labels.h"
 #include "program/page_records.h"
 #include "shell/notice_strip.h"
 
@@ -13,34 +14,14 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
 
+class Desk;
 class PageView;
 class QShortcut;
 class QtTextMeasure;
 class ToolStrip;
 class WindowViews;
 struct Program;
-struct StripLabel;
-
-/// The page area: a calm desk on which the page in front lies, centred, with the scroll bar at its right.
-class Desk : public QWidget {
-    Q_OBJECT
-public:
-    explicit Desk(QWidget* parent);
-
-    /// Where the paper lies; its shadow falls on the desk.
-    QRect Paper;
-    /// Runs when the area's size has changed.
-    std::function<void()> Resized;
-    /// Runs when a wheel turns over the desk or a page.
-    std::function<void(QWheelEvent*)> Wheel;
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
-};
 
 /// frmMain on screen. It holds no rule: it shows the records after every event and turns events into calls.
 class FrmMainView : public QMainWindow {
@@ -88,7 +69,6 @@ private:
     [[nodiscard]] int PaperLeft(PageId front, int paperWidth);
     void KeepPlace();
     void FollowPlace();
-    void FollowLabels();
 
     Program& program_;
     const QtTextMeasure& measure_;
@@ -100,11 +80,7 @@ private:
     std::optional<FieldRef> sideShownFor_;
     int sideShownOn_ = 0; ///< the desk's width then
     int placedFor_ = 0;   ///< the desk's width for which the paper was placed last
-    struct Shown {
-        QLabel* Widget;
-        const StripLabel* Record;
-    };
-    std::vector<Shown> labels_;
+    StripLabels labels_;
     QLabel* notice_ = nullptr;
     NoticeStrip notices_;
     QElapsedTimer since_;

@@ -17,12 +17,8 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QHelpEvent>
 #include <QMimeData>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QStyleHints>
-#include <QToolTip>
 
 #include <optional>
 
@@ -36,7 +32,7 @@ LinePainter::Side SideOf(const FieldRef& field) {
 } // namespace
 
 TextAreaView::TextAreaView(PageContext& page, QWidget& paper, const FieldRef& field)
-    : QLineEdit(&paper), page_(page), field_(field), line_(page, SideOf(field)) {
+    : DrawnLine(page, paper, SideOf(field)), page_(page), field_(field) {
     setObjectName(fieldnames::OfControl(field));
     Rename();
     setFrame(false);
@@ -45,7 +41,6 @@ TextAreaView::TextAreaView(PageContext& page, QWidget& paper, const FieldRef& fi
     const bool copy = field.Page == PageId::frmP6_1;
     setFocusPolicy(copy ? Qt::NoFocus : Qt::ClickFocus);
     setAttribute(Qt::WA_TransparentForMouseEvents, copy);
-    setAttribute(Qt::WA_OpaquePaintEvent);
     connect(this, &QLineEdit::textEdited, this, [this] { ReportEdit(); });
 }
 
@@ -56,13 +51,6 @@ void TextAreaView::Rename() {
 std::string TextAreaView::Model() const {
     return convert::ToModel(text());
 }
-int TextAreaView::Start() const {
-    return hasSelectedText() ? selectionStart() : cursorPosition();
-}
-int TextAreaView::Length() const {
-    return hasSelectedText() ? selectionLength() : 0;
-}
-
 void TextAreaView::Done() {
     if (page_.AfterEvent) {
         page_.AfterEvent();
@@ -93,14 +81,14 @@ void TextAreaView::Follow(const TextArea& record) {
     if (hasFocus()) {
         PlaceCursor(record);
     }
-    if (built_ && record == line_.Shown()) {
+    if (built_ && record == Shown()) {
         return;
     }
-    const TextArea& shown = line_.Shown();
+    const TextArea& shown = Shown();
     const bool placed =
         !built_ || record.Left != shown.Left || record.Top != shown.Top || record.Width != shown.Width;
     const bool tip = !built_ || record.ToolTipText != shown.ToolTipText;
-    line_.Show(record);
+    Show(record);
     built_ = true;
     if (placed) {
         setGeometry(page_.OnScreen(static_cast<double>(record.Left), static_cast<double>(record.Top),
@@ -123,7 +111,7 @@ void TextAreaView::Follow(const TextArea& record) {
 bool TextAreaView::TakeCompletion(const TextArea& record, const QString& wanted) {
     const auto typed = text().size();
     if (!hasFocus() || record.SelLength == 0 || record.SelStart != typed || !wanted.startsWith(text()) ||
-        !preedit_.isEmpty()) {
+        !Composed().isEmpty()) {
         return false;
     }
     const ScopedFlag following(following_);
@@ -132,61 +120,6 @@ bool TextAreaView::TakeCompletion(const TextArea& record, const QString& wanted)
     setCursorPosition(static_cast<int>(typed));
     insert(wanted.mid(typed));
     return text() == wanted;
-}
-
-Keyboard TextAreaView::KeyboardNow() const {
-    return hasFocus() ? Keyboard::Here : Keyboard::Away;
-}
-
-double TextAreaView::TextWidth() const {
-    return line_.TextWidth();
-}
-
-double TextAreaView::TextLeft() const {
-    return static_cast<double>(line_.Shown().Left) + line_.Origin(KeyboardNow());
-}
-
-void TextAreaView::KeepCaretInView() {
-    line_.KeepInView(cursorPosition(), KeyboardNow());
-}
-
-QPointF TextAreaView::Corner() const {
-    const TextArea& area = line_.Shown();
-    return {static_cast<double>(area.Left) * page_.Scale - geometry().x(),
-            static_cast<double>(area.Top) * page_.Scale - geometry().y()};
-}
-
-int TextAreaView::PositionAt(double x) const {
-    return line_.PositionAt((x - Corner().x()) / page_.Scale, KeyboardNow());
-}
-
-void TextAreaView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.fillRect(rect(), convert::ToQColor(line_.Shown().BackColor));
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::TextAntialiasing);
-    LinePainter::Marks marks;
-    marks.Composed = preedit_;
-    marks.Cursor = cursorPosition();
-    if (hasFocus() || !isActiveWindow()) {
-        marks.Start = Start();
-        marks.Length = Length();
-    }
-    if (hasFocus() && caretOn_ && !isReadOnly()) {
-        marks.Caret = cursorPosition();
-    }
-    marks.DropAt = press_.DropAt();
-    painter.save();
-    painter.translate(Corner());
-    painter.scale(page_.Scale, page_.Scale);
-    line_.Paint(painter, marks, KeyboardNow());
-    painter.restore();
-    if (hasFocus() || sign_ == DragSign::Takes) {
-        line_.PaintRing(painter, QRectF(rect()));
-    }
-    if (sign_ == DragSign::Refuses) {
-        LinePainter::PaintRefusal(painter, QRectF(rect()));
-    }
 }
 
 void TextAreaView::ReportEdit() {
@@ -202,34 +135,6 @@ void TextAreaView::ReportEdit() {
     }
 }
 
-QVariant TextAreaView::inputMethodQuery(Qt::InputMethodQuery query) const {
-    switch (query) {
-    case Qt::ImCursorRectangle:
-    case Qt::ImAnchorRectangle:
-        return CaretBox(cursorPosition());
-    case Qt::ImFont: {
-        QFont face = paper::Face(line_.Font());
-        face.setPixelSize(qMax(1, qRound(face.pixelSize() * page_.Scale)));
-        return face;
-    }
-    default:
-        return QLineEdit::inputMethodQuery(query);
-    }
-}
-
-QRectF TextAreaView::CaretBox(int position) const {
-    const QRectF caret = line_.CaretAt(position, KeyboardNow());
-    return {Corner() + caret.topLeft() * page_.Scale, caret.size() * page_.Scale};
-}
-
-QString TextAreaView::WholeTextTip() const {
-    QString tip = QStringLiteral("<p>") + text().toHtmlEscaped() + QStringLiteral("</p>"); // in several lines
-    if (!toolTip().isEmpty()) {
-        tip += QStringLiteral("<p>") + toolTip().toHtmlEscaped() + QStringLiteral("</p>");
-    }
-    return tip;
-}
-
 bool TextAreaView::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride) {
         // The menu's shortcuts come before a line edit's own; only plain characters are claimed.
@@ -237,11 +142,7 @@ bool TextAreaView::event(QEvent* event) {
         event->setAccepted(keykinds::ComesBeforeShortcuts(key));
         return event->isAccepted();
     }
-    if (event->type() == QEvent::ToolTip && TextWidth() > static_cast<double>(line_.Shown().Width)) {
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), WholeTextTip(), this);
-        return true;
-    }
-    return QLineEdit::event(event);
+    return DrawnLine::event(event);
 }
 
 void TextAreaView::TakeIn(const QString& incomingText) {
@@ -373,9 +274,9 @@ void TextAreaView::inputMethodEvent(QInputMethodEvent* event) {
     Program& program = page_.program;
     if (!modInput::MayEdit(program, field_)) {
         event->accept(); // composing, too, would take away what is marked
-        if (!preedit_.isEmpty()) {
+        if (!Composed().isEmpty()) {
             // Begun before the areas were selected; what was not yet entered goes.
-            preedit_.clear();
+            Compose({});
             QInputMethodEvent nothing;
             QLineEdit::inputMethodEvent(&nothing);
             update();
@@ -398,7 +299,7 @@ void TextAreaView::inputMethodEvent(QInputMethodEvent* event) {
     Follow(modFields::Area(program, field_));
     QInputMethodEvent filtered(event->preeditString(), event->attributes());
     filtered.setCommitString(taken, event->replacementStart(), event->replacementLength());
-    preedit_ = event->preeditString();
+    Compose(event->preeditString());
     QLineEdit::inputMethodEvent(&filtered);
     event->accept();
     update();
@@ -492,13 +393,6 @@ void TextAreaView::mouseDoubleClickEvent(QMouseEvent* event) {
     Done();
 }
 
-void TextAreaView::ShowSign(DragSign sign) {
-    if (sign_ != sign) {
-        sign_ = sign;
-        update();
-    }
-}
-
 void TextAreaView::TermOver(QDropEvent* event) {
     if (modTerms::TakesDrop(page_.program, field_, page_.program.terms.DraggedTerm)) {
         ShowSign(DragSign::Takes);
@@ -575,28 +469,9 @@ void TextAreaView::focusInEvent(QFocusEvent* event) {
 void TextAreaView::focusOutEvent(QFocusEvent* event) {
     // Leaving is the model's affair; a window that loses the keyboard leaves no field.
     QLineEdit::focusOutEvent(event);
-    blink_.stop();
-    caretOn_ = false;
+    HideCaret();
     KeepCaretInView();
     update();
-}
-
-void TextAreaView::RestartCaret() {
-    caretOn_ = true;
-    const int flash = QGuiApplication::styleHints()->cursorFlashTime();
-    if (flash > 0) {
-        blink_.start(flash / 2, this);
-    }
-    update();
-}
-
-void TextAreaView::timerEvent(QTimerEvent* event) {
-    if (event->timerId() == blink_.timerId()) {
-        caretOn_ = !caretOn_;
-        update();
-        return;
-    }
-    QLineEdit::timerEvent(event);
 }
 
 void TextAreaView::contextMenuEvent(QContextMenuEvent* event) {

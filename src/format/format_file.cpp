@@ -49,6 +49,9 @@ void TakeArea(Program& program, const assignment::AreaAssignment& line) {
     if (marks) {
         modPages::SetNoTaxMark(program, PageAt(line.Page), line.Index, modPages::Mark::Shown);
         record.TaxExempt = true;
+        // The proposal's file takes its mark from here.
+        program.format.PropTextChanges[PageAt(line.Page)][static_cast<std::size_t>(line.Index)].TaxExempt =
+            true;
     }
 }
 

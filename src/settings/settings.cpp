@@ -236,7 +236,7 @@ std::string ChooseFolder(Program& program) {
         questions.MsgBox(text::Lines({"Could not find the folder \"Proposals\" on the shared",
                                       "network drive. This is the network folder where all the Proposal",
                                       "files normally reside. Would you like to create the folder now?"}),
-                         Buttons::YesNo, "Proposals Folder Not Found");
+                         Buttons::YesNo, "Proposals Folder Not Found", {.How = Manner::Came::Unasked});
     if (answer != Answer::Yes) {
         return modFolders::OwnFolder(program);
     }
@@ -272,7 +272,8 @@ void EnsureFolders(const Program& program) {
             files::MakeFolder(paths::Join(folder, kBackup));
         }
     } catch (const std::exception& error) {
-        program.platform.questions.MsgBox("Error encountered during Events Folder check.", Buttons::Ok, "");
+        program.platform.questions.MsgBox("Error encountered during Events Folder check.", Buttons::Ok, "",
+                                          {.How = Manner::Came::Unasked});
         ReportError(program, "GetUserPreferences", error);
     }
 }

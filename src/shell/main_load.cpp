@@ -121,7 +121,8 @@ bool Load(Program& program) {
 
 void MDIForm_Load(Program& program) {
     if (!Load(program)) {
-        program.platform.questions.MsgBox("Error encountered during Load Process.", Buttons::Ok, "");
+        program.platform.questions.MsgBox("Error encountered during Load Process.", Buttons::Ok, "",
+                                          {.How = Manner::Came::Unasked});
         modClosing::EndRun(program);
         return;
     }

@@ -44,17 +44,19 @@ bool FontIsThere(const Program& program) {
 
 StartResult Main(Program& program) {
     Questions& questions = program.platform.questions;
+    const Manner unasked{.How = Manner::Came::Unasked}; // the person may be typing elsewhere by now
     switch (program.platform.instance.Claim(program.folders.InstallFolder)) {
     case SingleInstance::Result::Claimed:
         break;
     case SingleInstance::Result::Taken:
-        questions.MsgBox("Another instance of this application is already running.", Buttons::Ok, "");
+        questions.MsgBox("Another instance of this application is already running.", Buttons::Ok, "",
+                         unasked);
         return StartResult::Ended;
     case SingleInstance::Result::CannotTell:
         questions.MsgBox(
             text::Lines({"The file that keeps this application from running twice could not be made.",
                          "Please make sure that it is not running already."}),
-            Buttons::Ok, "");
+            Buttons::Ok, "", unasked);
         break;
     }
     StartResult result = StartResult::Running;
@@ -64,14 +66,14 @@ StartResult Main(Program& program) {
                 text::Lines({"Although the program is easy to use, some of the features which will",
                              "help you the most can be confusing to understand. For this reason, it", "",
                              "is HIGHLY RECOMMENDED you explore the Quick Start Tutorial under Help."}),
-                Buttons::Ok, "");
+                Buttons::Ok, "", unasked);
         }
         if (!FontIsThere(program) &&
             questions.MsgBox(text::Lines({"The font \"Times New Roman\" is not installed on this computer.",
                                           "Some features of this software may not work correctly",
                                           "without it. Would you like to try the software anyway?", "",
                                           "Please contact us for instructions to install the font."}),
-                             Buttons::YesNo, "Times New Roman font not found.") != Answer::Yes) {
+                             Buttons::YesNo, "Times New Roman font not found.", unasked) != Answer::Yes) {
             result = StartResult::Ended;
             return;
         }

@@ -137,6 +137,7 @@ TEST(Calendar, AtTheStartOnlyAnEmptyFolderIsToldOf) {
     run.program.calendar.EventListNew = true;
     run.surroundings.questions.ExpectBox({"No Events Found", Buttons::Ok, ""}, Answer::Ok);
     modCalendar::ReadEventDatesAtStart(run.program);
+    EXPECT_EQ(run.surroundings.questions.Manners.back().How, Manner::Came::Unasked);
     EXPECT_FALSE(run.program.calendar.EventListNew);
     run.surroundings.questions.Done();
     run.Proposal("One.hef", "1/1/2008");

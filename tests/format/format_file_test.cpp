@@ -69,6 +69,27 @@ TEST(FormatFile, AMarkTouchesAmountsOnly) {
     EXPECT_TRUE(run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt);
 }
 
+TEST(FormatFile, AnAmountThatItMarksExemptIsSavedAsExempt) {
+    Laid run;
+    run.program.totals.TaxRate = 0.1F;
+    run.Lay({"frmP2.txt(33).TaxExempt=True"});
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Jane Roe");
+    typist.Click(PageId::frmP2, 33);
+    typist.Type("50");
+    typist.Click(PageId::frmP2, 0);
+    typist.Type("Hall");
+    typist.Click(PageId::frmP1, 3);
+    EXPECT_EQ(run.Figure(0), "50.00");
+    EXPECT_EQ(run.Figure(3), "50.00") << "no tax on it";
+    run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    run.Open("Jane Roe.hef");
+    EXPECT_EQ(run.program.pages[PageId::frmP2].imgNoTax[33].Tag, "");
+    EXPECT_EQ(run.Figure(3), "50.00");
+}
+
 TEST(FormatFile, ARowsProductCountsAtOnceAndNothingIsUnsaved) {
     Laid run;
     run.Lay({"frmP1.txt(2).Text=Jane Roe", "frmP2.txt(0).Text=Chairs",

@@ -219,6 +219,7 @@ def starts(display, folder, **options):
     person.sees("Quillbrook")
     person.settles()
     if person.asks("text", "qt_msgbox_label") == "No Events Found":  # a folder without proposals
+        time.sleep(0.6)  # nobody asked for it: it takes no key before
         person.presses("Return")
         person.sees("Quillbrook")
     return program, person

@@ -424,6 +424,7 @@ TEST(SharedFolder, OnNoTheProgramsOwnFolderIsUsed) {
     run.folder.Write("UserPreferences.txt", SettingsFile({{1, run.folder / "share"}}));
     run.surroundings.questions.ExpectBox(kShareQuestion, Answer::No);
     modSettings::GetUserPreferences(run.program);
+    EXPECT_EQ(run.surroundings.questions.Manners.back().How, Manner::Came::Unasked);
     EXPECT_EQ(run.program.folders.ProposalsFolder, run.folder / "Proposals/");
     EXPECT_FALSE(run.folder.Has("share/Proposals"));
 }

@@ -589,6 +589,49 @@ TEST(Titles, AsDefaultWritesTheSetting) {
     EXPECT_NE(run.folder.Read("UserPreferences.txt").find("Page Titles:Ours - \r\n"), std::string::npos);
 }
 
+TEST(Titles, AsDefaultIsAskedForWhereTheProposalHasAHeadingOfItsOwn) {
+    Designing run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Ann");
+    run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle").txtTitle_Change("Ann's Day - ");
+    dynamic_cast<frmTitle&>(*modWindows::Find(run.program, "frmTitle")).cmdOK_Click(run.program);
+    modWindows::Sweep(run.program);
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    ASSERT_FALSE(modFile::PropertiesChanged(run.program));
+    frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    window.txtTitle_Change("Ours - ");
+    window.cmdDefault_Click(run.program);
+    window.Form_Cancel(run.program);
+    modWindows::Sweep(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Ours - Page 2");
+    EXPECT_TRUE(modFile::PropertiesChanged(run.program));
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    static_cast<void>(modReset::StartNewFile(run.program));
+    ASSERT_EQ(modFile::OpenEventFile(run.program, "Ann.hef"), modFile::OpenResult::Opened);
+    modFile::ReadFileProperties(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Ours - Page 2");
+}
+
+TEST(LabelWindow, AfterDeselectAllGoesOnWithTheOneLabelAsItStands) {
+    Designing run;
+    run.Click(9);
+    run.Props().cmdColor_Click(run.program, 0);
+    modDesigner::CloseLabelWindow(run.program);
+    modWindows::Sweep(run.program);
+    const PageLabel before = run.Label(PageId::frmP1, 0);
+    person::Choose(run.program, CommandId::mnuEditLabelSelectAll);
+    auto& window = dynamic_cast<frmLabelProps&>(*modWindows::Find(run.program, "frmLabelProps"));
+    person::Choose(run.program, CommandId::mnuEditLabelDeselectAll);
+    EXPECT_EQ(window.txtCaption.Text, before.Caption);
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 0).ForeColor, before.ForeColor);
+    EXPECT_EQ(run.program.format.PropLabelChanges[PageId::frmP1][0].Left, before.Left);
+    EXPECT_EQ(run.program.format.PropLabelChanges[PageId::frmP1][0].Caption, before.Caption);
+}
+
 TEST(Logo, HidingItKeepsItOutOfPrint) {
     Designing run;
     PagePicture& logo = run.program.pages[PageId::frmP1].pic;

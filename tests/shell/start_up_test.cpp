@@ -42,6 +42,7 @@ TEST(StartUp, ASecondInstanceEndsAtItsMessageAndReadsNoFile) {
     run.surroundings.questions.ExpectBox(
         {"Another instance of this application is already running.", Buttons::Ok, ""}, Answer::Ok);
     EXPECT_EQ(run.Main(), modStart::StartResult::Ended);
+    EXPECT_EQ(run.surroundings.questions.Manners.back().How, Manner::Came::Unasked);
     EXPECT_EQ(run.surroundings.instance.Asked, std::vector<std::string>{run.folder.Path()});
     EXPECT_TRUE(run.program.settings.Lines.empty());
     EXPECT_FALSE(run.program.main.Loaded);
@@ -60,6 +61,7 @@ TEST(StartUp, TheFirstStartRecommendsTheTutorialAndTheSecondDoesNot) {
          Buttons::Ok, ""},
         Answer::Ok);
     EXPECT_EQ(run.Main(), modStart::StartResult::Running);
+    EXPECT_EQ(run.surroundings.questions.Manners.back().How, Manner::Came::Unasked);
     RecordingPlatform again;
     Program second(again.platform);
     second.folders = run.program.folders;
@@ -78,6 +80,7 @@ TEST(StartUp, NoAtTheFontQuestionEndsWithNothingReadAndNothingShown) {
     run.surroundings.screen.FontNames = {"Arial"};
     run.surroundings.questions.ExpectBox(kFontQuestion, Answer::No);
     EXPECT_EQ(run.Main(), modStart::StartResult::Ended);
+    EXPECT_EQ(run.surroundings.questions.Manners.back().How, Manner::Came::Unasked);
     EXPECT_FALSE(run.program.main.Loaded);
     EXPECT_TRUE(run.program.settings.Lines.empty());
 }
