@@ -34,6 +34,12 @@ void WriteOver(std::string_view path, std::string_view bytes, files::Seen& seen)
 
 Rewriting Rewrite(const Program& program, std::string_view path, std::string_view bytes, files::Seen& seen,
                   std::string_view what) {
+    if (seen.Was != files::Seen::What::Unread && !files::ChangedSince(path, seen)) {
+        // Nothing there, or what is known: it has just been read whole.
+        files::WriteWhole(path, bytes);
+        seen = files::SeenIn(bytes);
+        return Rewriting::Done;
+    }
     if (!MayOverwrite(program, path, seen, what)) {
         return Rewriting::Refused;
     }
