@@ -11,7 +11,6 @@
 #include "proposal/file_names.h"
 #include "proposal/property_file.h"
 #include "proposal/proposal_bytes.h"
-#include "proposal/proposal_save.h"
 #include "proposal/run_marker.h"
 #include "proposal/side_files.h"
 
@@ -72,7 +71,8 @@ std::string WantedName(const Program& program) {
     }
     const std::string name = NameOfStored(program);
     const bool another =
-        !document.FileExists && files::ExistsExactly(paths::Join(SavingFolder(program), document.FileName));
+        !document.FileExists &&
+        files::ExistsExactly(paths::Join(modNames::SavingFolder(program), document.FileName));
     return another ? std::string(paths::BaseOf(name)) + " (new).hef" : name;
 }
 
