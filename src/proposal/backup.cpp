@@ -5,6 +5,7 @@
 #include "base/guard.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "pages/titles.h"
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -14,6 +15,7 @@
 #include "proposal/run_marker.h"
 #include "proposal/side_files.h"
 
+#include <cstddef>
 #include <exception>
 #include <string>
 #include <string_view>
@@ -22,6 +24,8 @@
 namespace modFile {
 
 namespace {
+
+constexpr std::string_view kUnnamed = "(no client's name).hef";
 
 std::string_view LastFolderOf(std::string_view folder) {
     while (!folder.empty() && paths::IsSeparator(folder.back())) {
@@ -67,7 +71,7 @@ std::string NameOfStored(const Program& program) {
 std::string WantedName(const Program& program) {
     const DocumentState& document = program.document;
     if (!modNames::CanBeAFile(document.FileName)) {
-        return "(no client's name).hef";
+        return std::string(kUnnamed);
     }
     const std::string name = NameOfStored(program);
     const bool another =
@@ -180,6 +184,33 @@ void DropUnnamedBackup(Program& program) {
     if (!name.empty() && name != NameOfStored(program)) {
         Drop(program, name);
     }
+}
+
+void TakeUpUnnamed(Program& program, const std::string& name) {
+    DocumentState& document = program.document;
+    if (!paths::SameFolder(document.FilePath, modFolders::BackupFolder(program)) || !IsOf(name, kUnnamed)) {
+        return;
+    }
+    modNames::ClearNames(program);
+    document.FileExists = false;
+    document.SavedFile = {};
+    modNames::LeaveBackup(program);
+    document.FolderOnShow = document.FilePath;
+    document.HasNotes = false;
+    document.UnnamedBackup = name;
+    for (const PageId page : kEditedPages) {
+        for (std::string& text : document.SavedTextBuf[page]) {
+            text.clear();
+        }
+    }
+    document.SavedStateStale = !program.format.PropertyLines.empty();
+    program.format.PropertyPath.clear();
+    constexpr std::size_t kClientName = 2;
+    const std::string client = document.CurrentTextBuf[PageId::frmP1][kClientName];
+    if (!text::Trim(client).empty()) {
+        modNames::NameAfterClient(program, client);
+    }
+    modTitles::UpdateEventNameLabels(program);
 }
 
 void BackupThisFile(Program& program) {
