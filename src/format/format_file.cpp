@@ -35,7 +35,6 @@ void TakeArea(Program& program, const assignment::AreaAssignment& line) {
     if (line.Bold && (line.SetsWeight || line.Text || marks)) {
         area.FontBold = true;
         record.FontBold = true;
-        record.Dirty = false;
         kept.FontBold = true;
     }
     if (!IsLinePage(PageAt(line.Page))) {
@@ -60,7 +59,6 @@ void TakeRow(Program& program, const assignment::RowAssignment& row) {
     modLineEffects::LayRow(program, row);
     TextChangeRecord& record = AreaRecord(program, row.Page, row.Index);
     record.QtyBox = row.Columns;
-    record.Dirty = false;
     record.QtyValue = row.Quantity;
     record.AmtValue = row.Price;
 }
@@ -75,7 +73,6 @@ void TakeLabel(Program& program, const Fields& fields, const LabelLook& line) {
     LabelChangeRecord& record = modDesigner::RecordOf(program.format.FormatLabelChanges, page, fields.Index);
     modDesigner::PutLook(record, look);
     record.Changed = true;
-    record.Saved = false;
     record.FromFormat = true;
     LabelChangeRecord& saved = modDesigner::RecordOf(program.format.LabelSavedState, page, fields.Index);
     modDesigner::PutLook(saved, look);

@@ -463,6 +463,17 @@ TEST(TextProperties, AsDefaultWritesTheFourSettings) {
     EXPECT_EQ(run.Area(PageId::frmP1, 0).FontSize, 6);
 }
 
+TEST(TextProperties, AsDefaultShowsTheFontThatWasLaidForNone) {
+    Designing run;
+    frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+    run.program.run.DefaultFontName.clear();
+    run.program.run.DefaultFontSize = 0;
+    window.cmdDefault_Click(run.program);
+    EXPECT_EQ(window.lblFontName.Caption, "Current Font Name = Arial");
+    EXPECT_TRUE(window.optFontSize[0].Value);
+    EXPECT_EQ(window.txtSample.Text, "Sampling Text with Arial: 10");
+}
+
 TEST(Colours, SlidersShowTheirValuesAndTheLargeStepEndsAt255) {
     Designing run;
     run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps").cmdColors_Click(run.program);
@@ -876,6 +887,46 @@ TEST(Titles, AreToBeSavedOnEveryPageThatHasThem) {
         EXPECT_TRUE(saved[page][static_cast<std::size_t>(geometry::TitleLabel(page))].Changed)
             << IndexOf(page);
     }
+}
+
+TEST(LabelDrag, MakesALabelOfTheFormatAChangeOfThePersonsInEveryTable) {
+    Designing run;
+    run.Format(9).FromFormat = true;
+    run.Format(9).Saved = true;
+    run.Prop(9).Saved = true;
+    run.Drag(9, 180, 360);
+    for (const LabelChangeRecord* record :
+         {&run.Format(9), &run.Prop(9), &run.program.format.LabelSavedState[PageId::frmP1][9]}) {
+        EXPECT_EQ(record->Left, 1080 + 180);
+        EXPECT_EQ(record->Top, 4140 + 180);
+        EXPECT_TRUE(record->Changed);
+        EXPECT_FALSE(record->Saved);
+        EXPECT_FALSE(record->FromFormat);
+    }
+}
+
+TEST(LabelWindow, OkMakesALabelOfTheFormatAChangeOfThePersonsInEveryTable) {
+    Designing run;
+    run.Click(9);
+    run.Format(9).FromFormat = true;
+    run.Format(9).Saved = true;
+    run.Prop(9).Saved = true;
+    run.Prop(9).Changed = false;
+    frmLabelProps& window = run.Props();
+    window.txtCaption_Change(run.program, "Day");
+    window.chkItalic_Click(run.program);
+    window.chkUnderline_Click(run.program);
+    window.cmdOK_Click(run.program);
+    for (const LabelChangeRecord* record :
+         {&run.Format(9), &run.Prop(9), &run.program.format.LabelSavedState[PageId::frmP1][9]}) {
+        EXPECT_EQ(record->Caption, "Day");
+        EXPECT_FALSE(record->FontItalic);
+        EXPECT_TRUE(record->FontUnderline);
+        EXPECT_TRUE(record->Changed);
+        EXPECT_FALSE(record->Saved);
+        EXPECT_FALSE(record->FromFormat);
+    }
+    EXPECT_FALSE(IsSelected(run.Label(PageId::frmP1, 9)));
 }
 
 } // namespace
