@@ -448,4 +448,56 @@ TEST(Calendar, WhatIsSelectedAnewTakesThePlaceOfWhatWas) {
     EXPECT_EQ(window.lstDates.SelCount(), 0) << "there are no such rows";
 }
 
+TEST(Calendar, TheMenuChangesTheViewAndTakesTheLastNoticeAway) {
+    Dated run;
+    run.Proposal("Yesterday.hef", "1/20/2008");
+    run.Proposal("Tenth.hef", "1/31/2008");
+    run.Proposal("Eleventh.hef", "2/1/2008");
+    frmDates& window = run.Open();
+    window.Choose(run.program, "mnuViewExpiredEvents");
+    EXPECT_EQ(window.lstDates.Items, (Dated::Items{"Jan/20/2008\tYesterday.hef"}));
+    window.Choose(run.program, "mnuViewNewEvents");
+    EXPECT_EQ(window.lstDates.Items, (Dated::Items{"Jan/31/2008\tTenth.hef"}));
+    run.Select(window, {0});
+    window.Choose(run.program, "mnuOptDelete");
+    ASSERT_EQ(window.lblNotice.Caption, "1 proposal moved to Backup");
+    window.Choose(run.program, "mnuViewEventDates");
+    run.Select(window, {0});
+    window.Choose(run.program, "mnuOptDelete");
+    ASSERT_EQ(window.lblNotice.Caption, "1 proposal moved to Backup");
+    window.Choose(run.program, "mnuFilePrint");
+    EXPECT_EQ(window.lblNotice.Caption, "");
+}
+
+TEST(Calendar, ADayPickedInTheMonthIsForgottenWithTheRowsItWasPickedAmong) {
+    Dated run;
+    run.Proposal("A.hef", "1/21/2008");
+    frmDates& window = run.Open();
+    window.PickDay(run.program, 39468);
+    window.Choose(run.program, "mnuViewNewEvents");
+    EXPECT_EQ(window.ShadedDay, std::nullopt);
+}
+
+TEST(Calendar, EveryProposalThatWasFoundHasItsRowAndNothingWithoutADate) {
+    Dated run;
+    run.Proposal("Words.hef", "in spring");
+    run.Proposal("Dated.hef", "1/21/2008");
+    run.Open();
+    std::vector<std::string> found = run.program.calendar.EventFiles;
+    std::sort(found.begin(), found.end());
+    EXPECT_EQ(found, (Dated::Items{"", "Jan/21/2008\tDated.hef"}));
+}
+
+TEST(Calendar, ARestartedListForgetsWhatHadNoDate) {
+    Dated run;
+    run.Proposal("Words.hef", "in spring");
+    run.Proposal("Dated.hef", "1/21/2008");
+    frmDates& window = run.Open();
+    ASSERT_EQ(run.program.calendar.Undated, 1);
+    run.Proposal("Words.hef", "1/22/2008");
+    window.Choose(run.program, "mnuViewEventDates");
+    EXPECT_EQ(run.program.calendar.Undated, 0);
+    EXPECT_TRUE(run.program.calendar.UndatedNames.empty());
+}
+
 } // namespace
