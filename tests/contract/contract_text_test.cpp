@@ -255,4 +255,12 @@ TEST(ContractHistory, AnotherTextHasNone) {
     }
 }
 
+TEST(ContractHistory, AnEditBehindTheEndStandsAtTheEnd) {
+    Short text("ab");
+    text.text.Replace(9, 1, "x", ContractText::Kind::Whole);
+    EXPECT_EQ(text.text.Text(), "abx");
+    EXPECT_EQ(text.text.Undo(), 2);
+    EXPECT_EQ(text.text.Text(), "ab");
+}
+
 } // namespace

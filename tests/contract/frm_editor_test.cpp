@@ -462,4 +462,12 @@ TEST(Contract, SelectAllMarksTheWholeText) {
     EXPECT_EQ(window.SelLength, 8);
 }
 
+TEST(Contract, TheCommandBringsTheOpenWindowToTheFront) {
+    Contracted run;
+    const frmEditor& window = run.Open();
+    const int before = window.FrontCalls;
+    EXPECT_EQ(&run.Open(), &window);
+    EXPECT_EQ(window.FrontCalls, before + 1);
+}
+
 } // namespace

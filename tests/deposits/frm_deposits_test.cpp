@@ -657,12 +657,15 @@ TEST(Deposits, TheNameOfTheFileIsMarkedWholeUntilARowIsTakenForEditing) {
     EXPECT_EQ(window.txtDate.SelLength, 0);
 }
 
-TEST(Deposits, AListThatWasOnlyLookedAtAsksForNoAmount) {
+TEST(Deposits, AnotherNameReachesAFileThatHasNoRows) {
     Deposited run;
+    run.File("Jane Roe");
+    run.Boxes().ExpectBox(kMismatch, Answer::Ok);
     frmDeposits& window = run.Open();
-    window.Form_Cancel(run.program);
-    EXPECT_TRUE(window.Closing);
-    EXPECT_FALSE(window.DepositChanged);
+    window.txtName_Change(run.program, "J. Roe");
+    run.Boxes().TakeAll(Answer::No); // the proposal's deposit stays
+    window.Choose(run.program, "mnuFileSave");
+    EXPECT_EQ(run.File(), "J. Roe");
 }
 
 } // namespace
