@@ -49,7 +49,10 @@ void TakeArea(Program& program, const assignment::AreaAssignment& line) {
     }
     if (marks) {
         modPages::SetNoTaxMark(program, PageAt(line.Page), line.Index, modPages::Mark::Shown);
-        record.TaxExempt = true;
+        // The proposal takes it, too: what is written with its amounts is looked for there.
+        for (TextChangeTable* table : {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
+            (*table)[PageAt(line.Page)][static_cast<std::size_t>(line.Index)].TaxExempt = true;
+        }
     }
 }
 
