@@ -9,6 +9,11 @@
 #include "pages/page_geometry.h"
 
 #include <benchmark/benchmark.h>
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+#include <unistd.h>
 
 namespace {
 
@@ -62,9 +67,25 @@ void LayAFormat(benchmark::State& state) {
 }
 BENCHMARK(LayAFormat)->Unit(benchmark::kMillisecond);
 
-/// From the command to the file on the disk.
-void WriteAFormat(benchmark::State& state) {
-    Letterhead run;
+/// Where the build lies is a disk, wherever the other benchmarks have their files.
+class FolderOnADisk {
+public:
+    FolderOnADisk() { std::filesystem::create_directories(path_); }
+    ~FolderOnADisk() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    FolderOnADisk(const FolderOnADisk&) = delete;
+    FolderOnADisk& operator=(const FolderOnADisk&) = delete;
+    [[nodiscard]] std::string Path() const { return path_.string() + "/"; }
+
+private:
+    std::filesystem::path path_ =
+        std::filesystem::path(QUILLBROOK_BUILD_FOLDER) / ("bench-formats-" + std::to_string(::getpid()));
+};
+
+/// From the command to the file.
+void Write(benchmark::State& state, Letterhead& run) {
     for (auto _ : state) {
         if (!run.Save()) {
             state.SkipWithError("the format was not saved");
@@ -73,20 +94,46 @@ void WriteAFormat(benchmark::State& state) {
     }
     state.counters["lines"] = static_cast<double>(run.program.format.FormatLines.size());
 }
-BENCHMARK(WriteAFormat)->Unit(benchmark::kMillisecond);
 
-void WriteTheSameBytes(benchmark::State& state) {
-    Letterhead run;
+void WriteRaw(benchmark::State& state, Letterhead& run) {
     if (!run.Save()) {
         state.SkipWithError("the format was not saved");
         return;
     }
-    const std::string bytes = files::ReadAll(run.folder / "Proposals/House.fmt");
+    const std::string& folder = run.program.format.FormatFolder;
+    const std::string bytes = files::ReadAll(folder + "House.fmt");
     for (auto _ : state) {
-        files::WriteWhole(run.folder / "Proposals/Raw.fmt", bytes);
+        files::WriteWhole(folder + "Raw.fmt", bytes);
     }
 }
+
+void WriteAFormat(benchmark::State& state) {
+    Letterhead run;
+    Write(state, run);
+}
+BENCHMARK(WriteAFormat)->Unit(benchmark::kMillisecond);
+
+void WriteTheSameBytes(benchmark::State& state) {
+    Letterhead run;
+    WriteRaw(state, run);
+}
 BENCHMARK(WriteTheSameBytes)->Unit(benchmark::kMillisecond);
+
+void WriteAFormatOnADisk(benchmark::State& state) {
+    const FolderOnADisk disk;
+    Letterhead run;
+    run.program.format.FormatFolder = disk.Path();
+    Write(state, run);
+}
+BENCHMARK(WriteAFormatOnADisk)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void WriteTheSameBytesOnADisk(benchmark::State& state) {
+    const FolderOnADisk disk;
+    Letterhead run;
+    run.program.format.FormatFolder = disk.Path();
+    WriteRaw(state, run);
+}
+BENCHMARK(WriteTheSameBytesOnADisk)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void GroupChangeOnTheFinalPage(benchmark::State& state) {
     FullProposal run;

@@ -201,7 +201,6 @@ void ReadAddressList(Program& program, AddressWindow& window) {
     book.NamesInFile.clear();
     book.AddressRecordCount = 0;
     book.AddressRecordNew = false;
-    book.AddressNameChanged = false;
     ClearSearch(program, window);
     Guarded(program, "ReadAddressList", [&] {
         book.NamesInFile = ReadNames(program);

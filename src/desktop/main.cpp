@@ -2,6 +2,7 @@
 #include "desktop/convert.h"
 #include "desktop/end_signals.h"
 #include "desktop/frm_main_view.h"
+#include "desktop/house_style.h"
 #include "desktop/icons.h"
 #include "desktop/qt_platform.h"
 #include "program/errors.h"
@@ -58,6 +59,6 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("quillbrook"));
     QApplication::setWindowIcon(icons::Program());
     QApplication::setQuitOnLastWindowClosed(false); // the model says when the run ends
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new HouseStyle);         // the application owns it
     return Run();
 }

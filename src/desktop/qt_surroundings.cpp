@@ -206,8 +206,8 @@ std::string QtQuestions::InputBox(std::string_view prompt, std::string_view titl
                 dialog.setTextValue(convert::ToQString(incoming.Text));
             }
         });
-    mnemonics::Give(dialog);
     dialog.resize(qMax(kInputWidth, dialog.sizeHint().width()), dialog.sizeHint().height());
+    mnemonics::Give(dialog); // the size has made the buttons
     return dialog.exec() == QDialog::Accepted ? convert::ToModel(dialog.textValue()) : std::string();
 }
 

@@ -22,6 +22,11 @@ constexpr std::string_view kFontBold = ".FontBold=", kText = ".Text=", kTaxExemp
                            kFontItalic = ".FontItalic=", kFontUnderline = ".FontUnderline=",
                            kPicture = ".Picture=";
 
+/// Two searches for one character each are quicker than one for either.
+bool HoldsLineEnd(std::string_view value) {
+    return value.find('\r') != std::string_view::npos || value.find('\n') != std::string_view::npos;
+}
+
 /// A line as it grows: a blank before each field but the first.
 class LineWriter {
 public:
@@ -43,9 +48,11 @@ public:
         Begin(keyword);
         const auto from = static_cast<std::ptrdiff_t>(line_.size());
         line_ += value;
-        std::replace_if(
-            line_.begin() + from, line_.end(),
-            [](char character) { return character == '\r' || character == '\n'; }, ' ');
+        if (HoldsLineEnd(value)) {
+            std::replace_if(
+                line_.begin() + from, line_.end(),
+                [](char character) { return character == '\r' || character == '\n'; }, ' ');
+        }
         return *this;
     }
     /// The shortest decimal text that gives the number back, without an exponent.
@@ -218,7 +225,7 @@ bool Holds(std::string_view value, std::initializer_list<std::string_view> keywo
                                  [&](std::string_view keyword) {
                                      return value.find(keyword) != std::string_view::npos;
                                  })) ||
-           value.find_first_of("\r\n") != std::string_view::npos;
+           HoldsLineEnd(value);
 }
 
 /// The number of a value in a language without currencies, within bounds.

@@ -35,7 +35,6 @@ void TakeArea(Program& program, const assignment::AreaAssignment& line) {
     if (line.Bold && (line.SetsWeight || line.Text || marks)) {
         area.FontBold = true;
         record.FontBold = true;
-        record.Dirty = false;
         kept.FontBold = true;
     }
     if (!IsLinePage(PageAt(line.Page))) {
@@ -49,10 +48,10 @@ void TakeArea(Program& program, const assignment::AreaAssignment& line) {
     }
     if (marks) {
         modPages::SetNoTaxMark(program, PageAt(line.Page), line.Index, modPages::Mark::Shown);
-        // The proposal takes it, too: what is written with its amounts is looked for there.
-        for (TextChangeTable* table : {&program.format.PropTextChanges, &program.format.FormatTextChanges}) {
-            (*table)[PageAt(line.Page)][static_cast<std::size_t>(line.Index)].TaxExempt = true;
-        }
+        record.TaxExempt = true;
+        // The proposal's file takes its mark from here.
+        program.format.PropTextChanges[PageAt(line.Page)][static_cast<std::size_t>(line.Index)].TaxExempt =
+            true;
     }
 }
 
@@ -60,7 +59,6 @@ void TakeRow(Program& program, const assignment::RowAssignment& row) {
     modLineEffects::LayRow(program, row);
     TextChangeRecord& record = AreaRecord(program, row.Page, row.Index);
     record.QtyBox = row.Columns;
-    record.Dirty = false;
     record.QtyValue = row.Quantity;
     record.AmtValue = row.Price;
 }
@@ -75,7 +73,6 @@ void TakeLabel(Program& program, const Fields& fields, const LabelLook& line) {
     LabelChangeRecord& record = modDesigner::RecordOf(program.format.FormatLabelChanges, page, fields.Index);
     modDesigner::PutLook(record, look);
     record.Changed = true;
-    record.Saved = false;
     record.FromFormat = true;
     LabelChangeRecord& saved = modDesigner::RecordOf(program.format.LabelSavedState, page, fields.Index);
     modDesigner::PutLook(saved, look);

@@ -136,7 +136,7 @@ FormatText LinesOf(const Program& program, const FormatTables& tables) {
 }
 
 AfterLast AssignFormatPropChanges(Program& program, Texts texts) {
-    AfterLast after = AfterLast::Ends;
+    AfterLast after = AfterLast::NotMade;
     Guarded(program, "AssignFormatPropChanges", [&] {
         FormatTables tables = TablesNow(program, texts);
         FormatText made = LinesOf(program, tables);

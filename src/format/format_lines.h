@@ -32,8 +32,8 @@ struct FormatText {
 [[nodiscard]] FormatText LinesOf(const Program& program, const FormatTables& tables);
 
 /// Both: the format tables and `FormatLines` are what a save writes. Reports as "AssignFormatPropChanges".
-/// True when the save will fail behind the last line.
-enum class AfterLast { Ends, Fails };
+/// What the save will do behind the last line; `NotMade` when there was a fault, and all is as before.
+enum class AfterLast { Ends, Fails, NotMade };
 [[nodiscard]] AfterLast AssignFormatPropChanges(Program& program, Texts texts = Texts::LayoutAndTexts);
 
 } // namespace modFormat

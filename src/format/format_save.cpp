@@ -25,6 +25,7 @@
 #include <algorithm>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace modFormat {
 
@@ -163,6 +164,12 @@ void MarkProposalStale(Program& program) {
     }
 }
 
+/// The one thing on show that a format does not keep.
+std::string WithoutBorder(const Program& program) {
+    const PagePicture& logo = program.pages[PageId::frmP1].pic;
+    return logo.Visible && logo.BorderStyle != 0 ? " without the logo's border" : "";
+}
+
 /// Writes the lines; false when the person refuses or it fails, which is reported.
 bool Written(Program& program, const std::string& path, bool agreed) {
     FormatRecords& format = program.format;
@@ -177,10 +184,7 @@ bool Written(Program& program, const std::string& path, bool agreed) {
         if (!format.LogoPath.empty()) {
             modLogo::KeepShown(program);
         }
-        const PagePicture& logo = program.pages[PageId::frmP1].pic;
-        TellSaved(program,
-                  logo.Visible && logo.BorderStyle != 0 ? "Format without the logo's border" : "Format",
-                  path);
+        TellSaved(program, "Format" + WithoutBorder(program), path);
     }
     return written;
 }
@@ -203,8 +207,12 @@ FormatSave SaveSteps(Program& program, const Name& name) {
     if (!texts) {
         return FormatSave::NotSaved;
     }
-    std::vector<std::string> linesBefore = format.FormatLines;
+    std::vector<std::string> linesBefore = std::exchange(format.FormatLines, {});
     const AfterLast after = AssignFormatPropChanges(program, *texts);
+    if (after == AfterLast::NotMade) {
+        format.FormatLines = std::move(linesBefore);
+        return FormatSave::NotSaved;
+    }
     modUnkept::TellUnkeptFormat(program);
     modDesigner::SaveBaseLabels(program);
     if (!Written(program, path, name.Asked)) {
@@ -219,7 +227,7 @@ FormatSave SaveSteps(Program& program, const Name& name) {
     }
     if (format.FormatMakeDefault) {
         if (MakeDefault(program)) {
-            TellSaved(program, "Default format", path);
+            TellSaved(program, "Default format" + WithoutBorder(program), path);
         }
     }
     format.FormatOpen = true;

@@ -68,11 +68,21 @@ void frmTitle::cmdClear_Click(int index) {
 }
 
 void frmTitle::cmdDefault_Click(Program& program) {
+    const std::string headingBefore = modDesigner::LabelAt(program, PageId::frmP2, 0).Caption;
     program.document.PageHeading = txtTitle.Text;
     modTitles::LayHeading(program);
     program.settings.PageTitles = txtTitle.Text;
-    if (modSettings::Store(program, {{modSettings::Key::PageTitles, txtTitle.Text}})) {
+    const bool stored = modSettings::Store(program, {{modSettings::Key::PageTitles, txtTitle.Text}});
+    if (stored) {
         TitleChanged = false;
+    }
+    // A proposal without a heading of its own takes it from the settings again.
+    const bool rides = !stored || program.format.PropLabelChanges[PageId::frmP2][0].Changed;
+    if (rides && modDesigner::LabelAt(program, PageId::frmP2, 0).Caption != headingBefore) {
+        if (program.hooks.SetPageNumbers) {
+            program.hooks.SetPageNumbers(program);
+        }
+        MarkLaidLabels(program);
     }
 }
 

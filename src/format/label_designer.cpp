@@ -209,6 +209,13 @@ void mnuEditLabelDeselectAll_Click(Program& program) {
     for (PageLabel& label : program.pages[DesignPage(program)].lbl) {
         Deselect(label);
     }
+    DesignerRecords& designer = program.designer;
+    if (designer.LabelPropsOpen && designer.LabelPage) {
+        // The window goes on with one label, as that one stands.
+        designer.LabelEdit = LookOf(LabelAt(program, *designer.LabelPage, designer.CurrentLabel));
+        designer.Changed = {};
+        ShowLabelInWindow(program);
+    }
 }
 
 void mnuEditLabelProps_Click(Program& program) {

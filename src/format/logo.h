@@ -9,7 +9,7 @@ namespace modLogo {
 
 /// What is said of the logo's border, which has a place in no file.
 inline constexpr std::string_view kBorderNotKept =
-    "The logo's border stays until Quillbrook ends; no file keeps it.";
+    "No file keeps the logo's border; it stays until Quillbrook ends.";
 
 /// The logo of a format's line: shown at its place, and the format's from now on. A name without a folder is
 /// looked for in the program folder and stays as it is when it is not there.

@@ -59,21 +59,19 @@ void TellOtherPages(Program& program) {
     const FormatRecords& format = program.format;
     const Differences differences = FromBuiltInPages(program);
     if (differences.Words > 0) {
-        std::string first = "The format " + format.FormatName + " words " +
+        std::string first = "The format " + format.FormatName + " rewords " +
                             Counted(differences.Words, " caption", " captions") + " of " +
                             program.document.FileName;
         if (differences.Contract > 0) {
             first += ", " + std::to_string(differences.Contract) + " of them in the contract";
         }
         program.platform.questions.MsgBox(
-            text::Lines(
-                {first + ".",
-                 "Of these its own layout says nothing: they may have read otherwise when it was saved.",
-                 "To have it without the format, choose Clear Current Format and open it again."}),
+            text::Lines({first + ".",
+                         "Its own layout says nothing of these; they may not read as when it was saved.",
+                         "To have it without the format, choose Clear Current Format and open it again."}),
             Buttons::Ok, "");
     } else if (differences.Looks) {
-        program.main.Notice = "Some labels stand as the format " + format.FormatName +
-                              " has them; they may have stood otherwise when this proposal was saved.";
+        program.main.Notice = "Labels stand as in " + format.FormatName + ", perhaps not as they were saved.";
     }
 }
 

@@ -30,7 +30,7 @@ void Put(Page& page, int index, float left, float top, std::string_view caption)
     label.Caption = caption;
 }
 
-enum class Weight { Bold, AsDesigned };
+enum class Weight { Bold, Plain };
 
 void ResetLabels(Page& page, Weight weight) {
     for (PageLabel& label : page.lbl) {
@@ -103,7 +103,6 @@ void LayLetterhead(const Program& program, Page& page) {
         label.Left = places[index].Left;
         label.Top = places[index].Top;
         label.FontSize = places[index].Size;
-        label.FontBold = true;
         label.Caption = alternate ? std::string() : *captions[index];
     }
 }
@@ -176,7 +175,6 @@ void ContractLines(const Program& program, Page& page) {
         const int index = kFirst + line - 1;
         Put(page, index, 720, 2880.0F + 270.0F * static_cast<float>(line - 1), caption);
         Label(page, index).ToolTipText = hint;
-        Label(page, index).FontBold = false;
     }
 }
 
@@ -219,11 +217,10 @@ void PlaceLines(const Program& program, Page& page) {
 
 void FinalPageDefaults(const Program& program, Page& page) {
     ResetAreas(page);
-    ResetLabels(page, Weight::AsDesigned);
+    ResetLabels(page, Weight::Plain);
     const std::string& company = program.settings.CompanyName;
     Put(page, 0, 3060, 540, company + " - Event Proposal - Page 7");
     Label(page, 0).FontSize = 15.75F;
-    Label(page, 0).FontBold = false;
     for (const tables::FixedLabel& fixed : tables::TotalsLabels()) {
         Put(page, fixed.Index, fixed.Left, fixed.Top, fixed.Caption);
     }
@@ -241,9 +238,6 @@ void FinalPageDefaults(const Program& program, Page& page) {
     }
     Put(page, 51, 720, 14130, "Representative for " + company);
     RemittanceBlock(program, page);
-    for (int index = 48; index <= 62; ++index) {
-        Label(page, index).FontBold = false;
-    }
     Put(page, geometry::PageNumberLabel(page.Id), 900, kFooterTop, FooterNumber(5));
     const bool copy = page.Id == PageId::frmP6_1;
     Put(page, geometry::TitleLabel(page.Id), 5310, kFooterTop,

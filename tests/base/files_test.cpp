@@ -221,10 +221,13 @@ TEST(RecordFiles, WhatIsNoRegularFileIsRefused) {
     folder.MakeFolder("folder");
     ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
     for (const char* name : {"folder", "pipe"}) {
-        EXPECT_NE(NumberOf([&] { static_cast<void>(files::ReadAt(folder / name, 0, 4)); }), 0) << name;
+        EXPECT_EQ(NumberOf([&] { static_cast<void>(files::ReadAt(folder / name, 0, 4)); }),
+                  files::kPathAccess)
+            << name;
     }
-    EXPECT_NE(NumberOf([&] { static_cast<void>(files::AppendRecord(folder / "pipe", "abcd")); }), 0);
-    EXPECT_NE(NumberOf([&] { static_cast<void>(files::ReadAt(folder / "none", 0, 4)); }), 0);
+    EXPECT_EQ(NumberOf([&] { static_cast<void>(files::AppendRecord(folder / "pipe", "abcd")); }),
+              files::kPathAccess);
+    EXPECT_EQ(NumberOf([&] { static_cast<void>(files::ReadAt(folder / "none", 0, 4)); }), files::kNotFound);
 }
 
 TEST(Rows, OfAListBeginAtNoughtAndEndBeforeItsSize) {

@@ -410,4 +410,15 @@ TEST(Contract, AnUndoOrRedoAfterAnExportIsAChangeToBeAskedAbout) {
     }
 }
 
+TEST(Contract, AnEditPutsTheCaretBehindIt) {
+    Contracted run;
+    frmEditor& window = run.Open();
+    run.Replace(window, "Alpha");
+    window.Moved(1, 3);
+    window.Edited(5, 0, " Beta", 10, ContractText::Kind::Whole);
+    EXPECT_EQ(window.SelStart, 10);
+    EXPECT_EQ(window.SelLength, 0);
+    EXPECT_EQ(window.lblCharCount.Caption, "Current Position = 10. Text contains 10 characters.");
+}
+
 } // namespace

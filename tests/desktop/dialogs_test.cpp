@@ -15,12 +15,15 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QRadioButton>
+#include <QStyle>
 #include <QTest>
 #include <QTimer>
 
@@ -507,6 +510,26 @@ TEST(Boxes, OneThatComesUnaskedTakesNoKeyInItsFirstHalfSecond) {
     });
     EXPECT_EQ(questions.MsgBox("Bring them back?", Buttons::YesNo, "", {.How = Manner::Came::Unasked}),
               Answer::Yes);
+}
+
+TEST(Boxes, HaveTheButtonsOfTheOtherWindows) {
+    EXPECT_EQ(QApplication::style()->styleHint(QStyle::SH_DialogButtonBox_ButtonsHaveIcons), 0);
+    QtQuestions questions;
+    const auto look = [](QWidget* widget) {
+        const auto buttons = widget->findChildren<QPushButton*>();
+        EXPECT_GE(buttons.size(), 2);
+        for (const QPushButton* button : buttons) {
+            EXPECT_TRUE(button->icon().isNull()) << button->text().toStdString() << " has words alone";
+            EXPECT_FALSE(button->shortcut().isEmpty()) << button->text().toStdString() << " has a letter";
+        }
+        QTest::keyClick(widget, Qt::Key_Escape);
+    };
+    AtTheBox(look);
+    static_cast<void>(questions.MsgBox("Save?", Buttons::YesNoCancel, ""));
+    AtTheBox(look);
+    static_cast<void>(questions.MsgBox("Go on?", Buttons::OkCancel, ""));
+    AtTheBox(look);
+    static_cast<void>(questions.InputBox("Please input the File Name below.", "Saving File As...", "Jane"));
 }
 
 TEST(Boxes, AnInputBoxGivesWhatWasTypedAndNothingOnEscape) {

@@ -1,3 +1,5 @@
+#include "desktop/house_style.h"
+
 #include <QApplication>
 
 #include <gtest/gtest.h>
@@ -5,6 +7,6 @@
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(new HouseStyle); // the application owns it
     return RUN_ALL_TESTS();
 }

@@ -324,7 +324,7 @@ TEST(FormatSave, AClientsDataAreAskedForAndLayoutOnlyWritesNoneOfThem) {
 TEST(FormatSave, AmountsOfAnOpenedProposalAreNoPartOfAFormat) {
     Formats run;
     run.Open();
-    run.Questions().Expect("The format House.fmt words 1 caption of Jane Roe.hef.");
+    run.Questions().Expect("The format House.fmt rewords 1 caption of Jane Roe.hef.");
     run.OpenProposal("Jane Roe.hef");
     run.program.format.LogoChanged = true;
     run.Questions().Expect("Shall the texts", Answer::No);
@@ -700,10 +700,10 @@ TEST(TheLogosBorder, IsSaidToBeKeptByNoFile) {
     run.Open();
     run.program.main[CommandId::mnuEditLogoBorder].Checked = true;
     modLogo::mnuEditLogoBorder_Click(run.program);
-    EXPECT_EQ(run.program.main.Notice, "The logo's border stays until Quillbrook ends; no file keeps it.");
+    EXPECT_EQ(run.program.main.Notice, "No file keeps the logo's border; it stays until Quillbrook ends.");
     run.program.main.Notice.clear();
     modLogo::mnuEditLogoSave_Click(run.program);
-    EXPECT_EQ(run.program.main.Notice, "The logo's border stays until Quillbrook ends; no file keeps it.");
+    EXPECT_EQ(run.program.main.Notice, "No file keeps the logo's border; it stays until Quillbrook ends.");
     modFormat::mnuFileFormatSave_Click(run.program);
     EXPECT_EQ(run.program.main.Notice,
               "Format without the logo's border saved: " + (run.folder / "Proposals/House.fmt"));

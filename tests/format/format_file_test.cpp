@@ -69,6 +69,27 @@ TEST(FormatFile, AMarkTouchesAmountsOnly) {
     EXPECT_TRUE(run.program.format.FormatTextChanges[PageId::frmP2][33].TaxExempt);
 }
 
+TEST(FormatFile, AnAmountThatItMarksExemptIsSavedAsExempt) {
+    Laid run;
+    run.program.totals.TaxRate = 0.1F;
+    run.Lay({"frmP2.txt(33).TaxExempt=True"});
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Jane Roe");
+    typist.Click(PageId::frmP2, 33);
+    typist.Type("50");
+    typist.Click(PageId::frmP2, 0);
+    typist.Type("Hall");
+    typist.Click(PageId::frmP1, 3);
+    EXPECT_EQ(run.Figure(0), "50.00");
+    EXPECT_EQ(run.Figure(3), "50.00") << "no tax on it";
+    run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    run.Open("Jane Roe.hef");
+    EXPECT_EQ(run.program.pages[PageId::frmP2].imgNoTax[33].Tag, "");
+    EXPECT_EQ(run.Figure(3), "50.00");
+}
+
 TEST(FormatFile, ARowsProductCountsAtOnceAndNothingIsUnsaved) {
     Laid run;
     run.Lay({"frmP1.txt(2).Text=Jane Roe", "frmP2.txt(0).Text=Chairs",
@@ -502,8 +523,9 @@ TEST(CompanyLines, ThatAFormatCarriesChangeWithTheSettingsAndAreToSave) {
 }
 
 TEST(PropertyLines, AFaultInALineOfAnyKindEndsTheReading) {
-    for (const char* fault : {"frmP1.txt(10).FontBold=Perhaps", "frmP1.lbl(9).Left=far",
-                              "UDP.FontName=Arial .FontSize=big .FontColor=0 .FontItalic=False"}) {
+    for (const char* fault :
+         {"frmP1.txt(10).FontBold=Perhaps", "frmP1.txq(12).QtyBox=Perhaps .QtyValue=2 .AmtValue=3",
+          "frmP1.lbl(9).Left=far", "UDP.FontName=Arial .FontSize=big .FontColor=0 .FontItalic=False"}) {
         Laid run;
         run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
         run.folder.Write("Proposals/Jane Roe.hpf", "frmP1.txt(12).FontBold=True\r\n" + std::string(fault) +
@@ -537,6 +559,44 @@ TEST(FormatFile, ALogoThatAnEarlierReadingLeftPendingIsNotTheNextFormats) {
     run.Lay({"frmP1.txt(8).Text=Hall"}); // no question about a logo that could not be shown
     EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Picture.Path, "");
     EXPECT_FALSE(run.program.format.LogoPending);
+}
+
+TEST(FormatFile, EveryLineFillsItsTables) {
+    for (const bool overwrite : {false, true}) {
+        Laid run;
+        run.program.format.OverwriteFormatText = overwrite;
+        run.Lay({"frmP2.txt(3).Text=Tent", "frmP2.txt(4).FontBold=True", "frmP2.txt(37).TaxExempt=True",
+                 "frmP2.txq(5).QtyBox=True .QtyValue=2 .AmtValue=3.00",
+                 "frmP1.lbl(9).Left=1200 .Top=4140 .Caption=Day .FontName=Arial .FontBold=True .FontSize=12 "
+                 ".ForeColor=255 .FontItalic=False .FontUnderline=True"});
+        const FormatRecords& format = run.program.format;
+        const auto& areas = format.FormatTextChanges[PageId::frmP2];
+        EXPECT_EQ(areas[3].Text, "Tent");
+        EXPECT_EQ(areas[3].FormatText, !overwrite);
+        EXPECT_EQ(format.InFile[PageId::frmP2][3].Text, "Tent");
+        EXPECT_FALSE(areas[3].FontBold);
+        EXPECT_TRUE(areas[4].FontBold);
+        EXPECT_FALSE(areas[4].Dirty);
+        EXPECT_TRUE(format.InFile[PageId::frmP2][4].FontBold);
+        EXPECT_TRUE(format.PropTextChanges[PageId::frmP2][4].FontBold);
+        EXPECT_TRUE(run.Area(PageId::frmP2, 4).FontBold);
+        EXPECT_TRUE(areas[37].TaxExempt);
+        EXPECT_TRUE(run.program.pages[PageId::frmP2].imgNoTax[37].Visible);
+        EXPECT_TRUE(areas[5].QtyBox);
+        EXPECT_FALSE(areas[5].Dirty);
+        EXPECT_EQ(areas[5].QtyValue, "2");
+        EXPECT_EQ(areas[5].AmtValue, "3.00");
+        const LabelLook look{1200, 4140, "Day", "Arial", 12, true, 255, false, true};
+        const LabelChangeRecord& label = format.FormatLabelChanges[PageId::frmP1][9];
+        EXPECT_EQ(static_cast<const LabelLook&>(label), look);
+        EXPECT_TRUE(label.Changed);
+        EXPECT_FALSE(label.Saved);
+        EXPECT_TRUE(label.FromFormat);
+        const LabelChangeRecord& saved = format.LabelSavedState[PageId::frmP1][9];
+        EXPECT_EQ(static_cast<const LabelLook&>(saved), look);
+        EXPECT_FALSE(saved.Changed);
+        EXPECT_FALSE(format.PropLabelChanges[PageId::frmP1][9].Changed);
+    }
 }
 
 } // namespace

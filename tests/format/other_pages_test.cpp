@@ -61,8 +61,8 @@ TEST(OtherPages, WordsThatALaterFormatGivesAnOldProposalAreTold) {
     run.WriteOne();
     run.Under(kWords);
     run.surroundings.questions.Expect(
-        "The format House.fmt words 4 captions of Jane Roe.hef, 2 of them in the contract.\r\n"
-        "Of these its own layout says nothing: they may have read otherwise when it was saved.\r\n"
+        "The format House.fmt rewords 4 captions of Jane Roe.hef, 2 of them in the contract.\r\n"
+        "Its own layout says nothing of these; they may not read as when it was saved.\r\n"
         "To have it without the format, choose Clear Current Format and open it again.");
     run.OpenIt();
     EXPECT_EQ(run.Label(PageId::frmP6, 13).Caption, "Paid by noon.");
@@ -82,8 +82,8 @@ TEST(OtherPages, OnlyWhatTheProposalsOwnLayoutDoesNotSayIsTold) {
     EXPECT_EQ(run.program.main.Notice, "") << "nothing is other than it was saved";
     run.Under(LabelLine("frmP1.lbl(9)", "Date") + LabelLine("frmP1.lbl(10)", "Hour"));
     run.surroundings.questions.Expect(
-        "The format House.fmt words 1 caption of Jane Roe.hef.\r\n"
-        "Of these its own layout says nothing: they may have read otherwise when it was saved.\r\n"
+        "The format House.fmt rewords 1 caption of Jane Roe.hef.\r\n"
+        "Its own layout says nothing of these; they may not read as when it was saved.\r\n"
         "To have it without the format, choose Clear Current Format and open it again.");
     run.OpenIt();
     EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Day");
@@ -96,9 +96,7 @@ TEST(OtherPages, AnotherPlaceIsToldInTheStripAndTitlesAreTheProposalsOwn) {
     const std::string words = run.Label(PageId::frmP1, 9).Caption;
     run.Under(LabelLine("frmP1.lbl(9)", words));
     run.OpenIt();
-    EXPECT_EQ(run.program.main.Notice,
-              "Some labels stand as the format House.fmt has them; they may have stood "
-              "otherwise when this proposal was saved.");
+    EXPECT_EQ(run.program.main.Notice, "Labels stand as in House.fmt, perhaps not as they were saved.");
     run.Under(LabelLine("frmP1.lbl(33)", "Proposal for Nobody") + LabelLine("frmP3.lbl(0)", "Page 9"));
     run.OpenIt();
     EXPECT_EQ(run.program.main.Notice, "");

@@ -7,11 +7,14 @@
 #include "proposal/lifecycle.h"
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
+#include "support/failing_disk.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -676,6 +679,53 @@ TEST(Backup, WhatWasPutBackIsTheProgramsOwnAndIsSavedOverWithoutAQuestion) {
     EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), newer);
     EXPECT_FALSE(files::ChangedSince(run.Data() + "Jane Roe.hef", run.program.document.SavedFile));
     EXPECT_EQ(run.program.main.Notice, "Backup put back, proposal saved: " + run.Data() + "Jane Roe.hef");
+}
+
+TEST(SaveAs, ThatCannotBeWrittenLeavesEveryNameAsItWas) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    run.surroundings.questions.ExpectInput("Saving File As...", "Second");
+    {
+        const FailingDisk disk{{FailingDisk::Call::Write, 1, ENOSPC, FailingDisk::kForever}};
+        run.surroundings.questions.Expect("Disk full");
+        modProposal::mnuFileSaveAs_Click(run.program);
+    }
+    const DocumentState& document = run.program.document;
+    EXPECT_EQ(document.BaseName, "Jane Roe");
+    EXPECT_EQ(document.FileName, "Jane Roe.hef");
+    EXPECT_EQ(document.FootnoteFile, "Jane Roe.hxt");
+    EXPECT_EQ(document.DepositFile, "Jane Roe.dep");
+    EXPECT_TRUE(document.FileExists);
+    EXPECT_EQ(document.ClientCaption, "Proposal for Jane Roe");
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Jane Roe");
+    EXPECT_FALSE(document.SaveAsActive);
+    EXPECT_FALSE(run.folder.Has("Proposals/Second.hef"));
+}
+
+TEST(Backup, RestoringBringsTheLayoutAlongAndFollowsItsFile) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    modFile::BackupThisFile(run.program);
+    run.folder.Write("Proposals/Backup/Jane Roe.hpf", "frmP1.txt(10).FontBold=True\r\n");
+    run.OpenBackup("Jane Roe.hef");
+    run.program.document.FolderOnShow = "elsewhere";
+    modProposal::mnuFileRestoreFromBackup_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hpf"), "frmP1.txt(10).FontBold=True\r\n");
+    EXPECT_EQ(run.program.format.PropertyPath, run.Data() + "Jane Roe.hpf");
+    EXPECT_EQ(run.program.format.PropertySeen, files::SeenIn("frmP1.txt(10).FontBold=True\r\n"));
+    EXPECT_EQ(run.program.document.FolderOnShow, run.Data());
+    EXPECT_FALSE(run.program.document.HasNotes);
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Jane Roe");
+}
+
+TEST(New, FromALaterPageBeginsInTheFirstFieldOfTheFirst) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    person::TurnTo(run.program, 3);
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.program.main.PageInFront, PageId::frmP1);
+    EXPECT_EQ(run.program.main.CurrentPage, 0);
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 0}));
 }
 
 } // namespace

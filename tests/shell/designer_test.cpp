@@ -463,6 +463,17 @@ TEST(TextProperties, AsDefaultWritesTheFourSettings) {
     EXPECT_EQ(run.Area(PageId::frmP1, 0).FontSize, 6);
 }
 
+TEST(TextProperties, AsDefaultShowsTheFontThatWasLaidForNone) {
+    Designing run;
+    frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+    run.program.run.DefaultFontName.clear();
+    run.program.run.DefaultFontSize = 0;
+    window.cmdDefault_Click(run.program);
+    EXPECT_EQ(window.lblFontName.Caption, "Current Font Name = Arial");
+    EXPECT_TRUE(window.optFontSize[0].Value);
+    EXPECT_EQ(window.txtSample.Text, "Sampling Text with Arial: 10");
+}
+
 TEST(Colours, SlidersShowTheirValuesAndTheLargeStepEndsAt255) {
     Designing run;
     run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps").cmdColors_Click(run.program);
@@ -576,6 +587,49 @@ TEST(Titles, AsDefaultWritesTheSetting) {
     window.cmdDefault_Click(run.program);
     EXPECT_FALSE(window.TitleChanged);
     EXPECT_NE(run.folder.Read("UserPreferences.txt").find("Page Titles:Ours - \r\n"), std::string::npos);
+}
+
+TEST(Titles, AsDefaultIsAskedForWhereTheProposalHasAHeadingOfItsOwn) {
+    Designing run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Ann");
+    run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle").txtTitle_Change("Ann's Day - ");
+    dynamic_cast<frmTitle&>(*modWindows::Find(run.program, "frmTitle")).cmdOK_Click(run.program);
+    modWindows::Sweep(run.program);
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    ASSERT_FALSE(modFile::PropertiesChanged(run.program));
+    frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    window.txtTitle_Change("Ours - ");
+    window.cmdDefault_Click(run.program);
+    window.Form_Cancel(run.program);
+    modWindows::Sweep(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Ours - Page 2");
+    EXPECT_TRUE(modFile::PropertiesChanged(run.program));
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    static_cast<void>(modReset::StartNewFile(run.program));
+    ASSERT_EQ(modFile::OpenEventFile(run.program, "Ann.hef"), modFile::OpenResult::Opened);
+    modFile::ReadFileProperties(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Ours - Page 2");
+}
+
+TEST(LabelWindow, AfterDeselectAllGoesOnWithTheOneLabelAsItStands) {
+    Designing run;
+    run.Click(9);
+    run.Props().cmdColor_Click(run.program, 0);
+    modDesigner::CloseLabelWindow(run.program);
+    modWindows::Sweep(run.program);
+    const PageLabel before = run.Label(PageId::frmP1, 0);
+    person::Choose(run.program, CommandId::mnuEditLabelSelectAll);
+    auto& window = dynamic_cast<frmLabelProps&>(*modWindows::Find(run.program, "frmLabelProps"));
+    person::Choose(run.program, CommandId::mnuEditLabelDeselectAll);
+    EXPECT_EQ(window.txtCaption.Text, before.Caption);
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 0).ForeColor, before.ForeColor);
+    EXPECT_EQ(run.program.format.PropLabelChanges[PageId::frmP1][0].Left, before.Left);
+    EXPECT_EQ(run.program.format.PropLabelChanges[PageId::frmP1][0].Caption, before.Caption);
 }
 
 TEST(Logo, HidingItKeepsItOutOfPrint) {
@@ -833,6 +887,46 @@ TEST(Titles, AreToBeSavedOnEveryPageThatHasThem) {
         EXPECT_TRUE(saved[page][static_cast<std::size_t>(geometry::TitleLabel(page))].Changed)
             << IndexOf(page);
     }
+}
+
+TEST(LabelDrag, MakesALabelOfTheFormatAChangeOfThePersonsInEveryTable) {
+    Designing run;
+    run.Format(9).FromFormat = true;
+    run.Format(9).Saved = true;
+    run.Prop(9).Saved = true;
+    run.Drag(9, 180, 360);
+    for (const LabelChangeRecord* record :
+         {&run.Format(9), &run.Prop(9), &run.program.format.LabelSavedState[PageId::frmP1][9]}) {
+        EXPECT_EQ(record->Left, 1080 + 180);
+        EXPECT_EQ(record->Top, 4140 + 180);
+        EXPECT_TRUE(record->Changed);
+        EXPECT_FALSE(record->Saved);
+        EXPECT_FALSE(record->FromFormat);
+    }
+}
+
+TEST(LabelWindow, OkMakesALabelOfTheFormatAChangeOfThePersonsInEveryTable) {
+    Designing run;
+    run.Click(9);
+    run.Format(9).FromFormat = true;
+    run.Format(9).Saved = true;
+    run.Prop(9).Saved = true;
+    run.Prop(9).Changed = false;
+    frmLabelProps& window = run.Props();
+    window.txtCaption_Change(run.program, "Day");
+    window.chkItalic_Click(run.program);
+    window.chkUnderline_Click(run.program);
+    window.cmdOK_Click(run.program);
+    for (const LabelChangeRecord* record :
+         {&run.Format(9), &run.Prop(9), &run.program.format.LabelSavedState[PageId::frmP1][9]}) {
+        EXPECT_EQ(record->Caption, "Day");
+        EXPECT_FALSE(record->FontItalic);
+        EXPECT_TRUE(record->FontUnderline);
+        EXPECT_TRUE(record->Changed);
+        EXPECT_FALSE(record->Saved);
+        EXPECT_FALSE(record->FromFormat);
+    }
+    EXPECT_FALSE(IsSelected(run.Label(PageId::frmP1, 9)));
 }
 
 } // namespace

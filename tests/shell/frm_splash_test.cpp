@@ -128,6 +128,19 @@ TEST(Splash, WhileTheFontsAreListedItAsksToWaitAndTheWordsAreGone) {
     EXPECT_EQ(std::count(last.begin(), last.end(), "HRWD"), 0);
 }
 
+TEST(Splash, WhileTheWordsCloseInItAsksToWait) {
+    Splash run;
+    int loops = 0;
+    run.surroundings.events.OnYield = [&] {
+        if (!run.Texts("HRWD").empty()) {
+            ++loops;
+            EXPECT_EQ(run.Texts("Please wait while fonts continue to load.").size(), 1U) << loops;
+        }
+    };
+    run.Begin();
+    EXPECT_EQ(loops, 100);
+}
+
 TEST(Splash, FourWordsCloseInOnTheCentreOverAHundredLoops) {
     Splash run;
     std::vector<float> spans;

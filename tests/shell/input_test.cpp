@@ -11,7 +11,10 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -286,6 +289,38 @@ TEST(Mouse, ATextLetGoBehindTheEndOfAFieldGoesToItsEnd) {
     run.Area(PageId::frmP2, 4).SelLength = 3;
     person::Insert(run.program, {PageId::frmP2, FieldKind::txt, 4}, "cd", 0, person::By::Mouse);
     EXPECT_EQ(run.TextOf(PageId::frmP2, 4), "abcd");
+}
+
+TEST(Mouse, WhateverItDoesNextAMoveWhoseKeyIsStillHeldIsStoredFirst) {
+    constexpr PageId kPage = PageId::frmP2;
+    const std::vector<std::pair<const char*, std::function<void(Program&)>>> actions{
+        {"a field",
+         [](Program& p) {
+             modInput::FieldMouseDown(p, {kPage, FieldKind::txt, 9}, 1, 0, 0);
+         }},
+        {"a label", [](Program& p) { modInput::LabelMouseDown(p, kPage, 34, 1, 0, 0); }},
+        {"the logo", [](Program& p) { modInput::LogoMouseDown(p, 1, 0, 0); }},
+        {"a mark", [](Program& p) { modInput::NoTaxMarkClick(p, kPage, 40); }},
+        {"a page's button", [](Program& p) { person::ClickPageButton(p, 0); }},
+        {"another key", [](Program& p) { static_cast<void>(person::KeyDown(p, keys::kTab, 0, 0, 0)); }},
+        {"a command", [](Program& p) { person::Choose(p, CommandId::mnuOptUnderline); }}};
+    for (const auto& [what, act] : actions) {
+        RunningProgram run;
+        Typist typist(run.program);
+        typist.Click(kPage, 3);
+        typist.Type("Row");
+        typist.Click(kPage, 8);
+        const TextArea& row = run.Area(kPage, 3);
+        modInput::PageMouseDown(run.program, 1, 800, row.Top - 20);
+        modInput::PageMouseMove(run.program, kPage, 1, 9600, row.Top + 275);
+        modInput::PageMouseUp(run.program, kPage, 1, 9600, row.Top + 275);
+        typist.Hold(keys::kDown);
+        ASSERT_TRUE(run.program.editing.MoveInProgress) << what;
+        act(run.program);
+        EXPECT_FALSE(run.program.editing.MoveInProgress) << what;
+        EXPECT_EQ(run.program.document.CurrentTextBuf[kPage][3], "") << what;
+        EXPECT_EQ(run.program.document.CurrentTextBuf[kPage][4], "Row") << what;
+    }
 }
 
 } // namespace

@@ -1,6 +1,9 @@
 #include "pages/fields.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "proposal/lifecycle.h"
+#include "proposal/property_file.h"
+#include "proposal/proposal_save.h"
 #include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
@@ -41,6 +44,23 @@ TEST(PageNumbers, ThatWereLaidFollowThePagesInUse) {
     run.Expect("Page 1 of 4", "Page 3 of 4", " - Page 4", "Utilizing 4 of 6 Available Pages");
     run.typist.Press(keys::kBackspace);
     run.Expect("Page 1 of 2", "Page 3 of 2", " - Page 2", "Utilizing 2 of 6 Available Pages");
+}
+
+TEST(PageNumbers, LeaveASavedProposalCleanWhenATextIsTakenBack) {
+    Numbered run;
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
+    run.Preview();
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    run.typist.Click(PageId::frmP3, 4);
+    run.typist.Type("C");
+    static_cast<void>(run.Main());
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program)) << "a number is no person's change";
+    EXPECT_TRUE(modProposal::SomethingChanged(run.program));
+    run.typist.Press(keys::kBackspace);
+    static_cast<void>(run.Main());
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+    EXPECT_FALSE(modProposal::SomethingChanged(run.program));
 }
 
 TEST(PageNumbers, AreThoseOfTheFullSetUntilTheyAreLaid) {

@@ -387,4 +387,20 @@ TEST(TermsWindow, ShowsAtOnceWhatAnAreaAddsAndTakesAway) {
     EXPECT_EQ(run.List().lstFUT.ListIndex, 0) << "the row that was chosen has gone";
 }
 
+TEST(NewList, TheTermsAreShownAgainOnlyWhenThereIsANewOne) {
+    TermsRun run("Chair\r\nTable");
+    run.List().lstFUT.ListIndex = 1;
+    run.List().mnuFileShowAll_Click(run.program);
+    run.surroundings.questions.ExpectInput("Starting New Frequent Terms File", "");
+    run.List().mnuFileNewFUT_Click(run.program);
+    EXPECT_TRUE(run.List().lstMoreFUT.Visible);
+    EXPECT_FALSE(run.List().lstFUT.Visible);
+    EXPECT_EQ(run.List().lstFUT.ListIndex, 1);
+    run.surroundings.questions.ExpectInput("Starting New Frequent Terms File", "Catering");
+    run.List().mnuFileNewFUT_Click(run.program);
+    EXPECT_FALSE(run.List().lstMoreFUT.Visible);
+    EXPECT_TRUE(run.List().lstFUT.Visible);
+    EXPECT_EQ(run.List().lstFUT.ListIndex, -1);
+}
+
 } // namespace
