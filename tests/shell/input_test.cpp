@@ -323,4 +323,16 @@ TEST(Mouse, WhateverItDoesNextAMoveWhoseKeyIsStillHeldIsStoredFirst) {
     }
 }
 
+TEST(Input, TheCaretsLabelFollowsTheKeysInAQuantityToo) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 3);
+    typist.Press(keys::kF8);
+    typist.Type("125");
+    ASSERT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP2, FieldKind::txtQty, 3}));
+    EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 3");
+    person::KeyUp(run.program, keys::kLeft, 0, 2, 0);
+    EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 2");
+}
+
 } // namespace
