@@ -940,4 +940,13 @@ TEST(LabelWindow, OkMakesALabelOfTheFormatAChangeOfThePersonsInEveryTable) {
     EXPECT_FALSE(IsSelected(run.Label(PageId::frmP1, 9)));
 }
 
+TEST(Titles, MadeTheDefaultAreTheProposalsHeadingToo) {
+    Designing run;
+    frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    window.txtTitle_Change("Ours - ");
+    window.cmdDefault_Click(run.program);
+    EXPECT_EQ(run.program.document.PageHeading, "Ours - ");
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Ours - Page 2");
+}
+
 } // namespace
