@@ -36,6 +36,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <QWheelEvent>
+#include <algorithm>
 
 namespace {
 
@@ -364,10 +365,17 @@ void FrmMainView::TakeKeyboard() {
 }
 
 void FrmMainView::FollowNotice() {
-    const QString notice = convert::ToQString(notices_.Text());
+    ShowNotice(convert::ToQString(notices_.Text()));
+}
+
+void FrmMainView::ShowNotice(const QString& notice) {
     if (notice_->text() != notice) {
         notice_->setText(notice);
     }
+    // In a narrow window the lesser labels beside it give way: what nobody sees was not told.
+    constexpr int kShare = 3;
+    notice_->setMinimumWidth(
+        notice.isEmpty() ? 0 : std::min(notice_->fontMetrics().horizontalAdvance(notice), width() / kShare));
 }
 
 int FrmMainView::PaperLeft(PageId front, int paperWidth) {
@@ -482,7 +490,7 @@ bool FrmMainView::event(QEvent* event) {
     if (event->type() == QEvent::StatusTip) {
         // What a menu entry has to say stands where the program's own notices stand.
         const QString tip = static_cast<QStatusTipEvent*>(event)->tip();
-        notice_->setText(tip.isEmpty() ? convert::ToQString(notices_.Text()) : tip);
+        ShowNotice(tip.isEmpty() ? convert::ToQString(notices_.Text()) : tip);
         return true;
     }
     return QMainWindow::event(event);

@@ -58,6 +58,7 @@ private:
     /// Keys that work wherever the keyboard is in the window: help, menu bar, and the ends of a preview.
     void BuildKeys();
     void FollowNotice();
+    void ShowNotice(const QString& notice);
     void TurnWheel(QWheelEvent* event);
     void Resized();
     void ResizeSoon();

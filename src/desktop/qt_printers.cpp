@@ -2,6 +2,7 @@
 
 #include "base/ansi.h"
 #include "base/files.h"
+#include "base/paths.h"
 #include "desktop/convert.h"
 #include "desktop/message_box.h"
 
@@ -219,6 +220,7 @@ void QtPrinters::EndCommand() {
     if (!path) {
         throw files::FileError(files::kBadName, "Bad file name or number");
     }
+    files::RemoveLeftOvers(paths::Folder(*path)); // it may be any folder, which no start looks into
     // Whole or not at all: half a PDF looks like a proposal and cannot be opened, and an older one stays.
     files::WriteWhole(*path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
     if (Written) {

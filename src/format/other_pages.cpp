@@ -66,10 +66,9 @@ void TellOtherPages(Program& program) {
             first += ", " + std::to_string(differences.Contract) + " of them in the contract";
         }
         program.platform.questions.MsgBox(
-            text::Lines(
-                {first + ".",
-                 "Its own layout says nothing of these: they may have read otherwise when it was saved.",
-                 "To have it without the format, choose Clear Current Format and open it again."}),
+            text::Lines({first + ".",
+                         "Its own layout says nothing of these; they may not read as when it was saved.",
+                         "To have it without the format, choose Clear Current Format and open it again."}),
             Buttons::Ok, "");
     } else if (differences.Looks) {
         program.main.Notice = "Labels stand as in " + format.FormatName + ", perhaps not as they were saved.";

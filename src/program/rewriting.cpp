@@ -1,5 +1,6 @@
 #include "program/rewriting.h"
 
+#include "base/file_error.h"
 #include "base/files.h"
 #include "base/paths.h"
 #include "program/program.h"
@@ -7,6 +8,19 @@
 #include <string>
 
 namespace modRewrite {
+
+namespace {
+
+/// Nothing new came into its place: the file has its own name again, under which the next start looks for it.
+void PutBack(std::string_view kept, std::string_view path) {
+    try {
+        files::Rename(kept, path);
+    } catch (const files::FileError&) {
+        return; // it stands whole under the other name; the failed write is what is told
+    }
+}
+
+} // namespace
 
 bool MayOverwrite(const Program& program, std::string_view path, const files::Seen& seen,
                   std::string_view what) {
@@ -24,11 +38,19 @@ bool MayOverwrite(const Program& program, std::string_view path, const files::Se
 }
 
 void WriteOver(std::string_view path, std::string_view bytes, files::Seen& seen) {
+    std::string kept;
     if (files::ExistsExactly(path) &&
         (seen.Was == files::Seen::What::Unread || files::LookAt(path).Was == files::Seen::What::Unread)) {
-        static_cast<void>(files::KeepUnread(path)); // under which name matters to nobody here
+        kept = files::KeepUnread(path);
     }
-    files::WriteWhole(path, bytes);
+    try {
+        files::WriteWhole(path, bytes);
+    } catch (const files::FileError&) {
+        if (!kept.empty()) {
+            PutBack(kept, path);
+        }
+        throw;
+    }
     seen = files::SeenIn(bytes);
 }
 

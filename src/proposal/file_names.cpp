@@ -93,6 +93,13 @@ void ClearNames(Program& program) {
     document.DepositFile.clear();
 }
 
+std::string SavingFolder(const Program& program) {
+    const std::string& folder = program.document.FilePath;
+    return folder.empty() || paths::SameFolder(folder, modFolders::BackupFolder(program))
+               ? modFolders::DataFolder(program)
+               : folder;
+}
+
 void SetBaseName(Program& program, std::string_view baseName) {
     program.document.BaseName = baseName;
     program.document.TextFileName = program.document.BaseName + ".txt";

@@ -30,6 +30,9 @@ void ShowDuplicateFileOptions(Program& program, std::string_view folder, std::st
 /// No name, no side files' names and no title, as of a proposal whose client is not known.
 void ClearNames(Program& program);
 
+/// The folder in which the proposal is saved: its own, but never that of the backups.
+[[nodiscard]] std::string SavingFolder(const Program& program);
+
 /// The side files' names after a new file name.
 void SetBaseName(Program& program, std::string_view baseName);
 

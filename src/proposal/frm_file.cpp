@@ -1,4 +1,5 @@
 #include "proposal/frm_file.h"
+#include "proposal/backup.h"
 
 #include "base/dates.h"
 #include "base/file_error.h"
@@ -338,6 +339,7 @@ void frmFile::OpenProposal(Program& program) {
     if (!document.IgnoreProperties) {
         modFile::ReadFileProperties(program);
     }
+    modFile::TakeUpUnnamed(program, name);
     done_ = true;
     modWindows::Close(program, *this);
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});

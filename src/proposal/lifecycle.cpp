@@ -46,7 +46,7 @@ void SaveAsSteps(Program& program) {
         return;
     }
     const std::string fileName = name + ".hef";
-    const std::string path = paths::Join(modFile::SavingFolder(program), fileName);
+    const std::string path = paths::Join(modNames::SavingFolder(program), fileName);
     if (files::ExistsExactly(path) &&
         program.platform.questions.MsgBox(
             "A file with the name " + fileName + " already exists. Overwrite?", Buttons::YesNoCancel,

@@ -101,7 +101,7 @@ public:
     explicit Place(Program& program)
         : program_(program), folder_(program.document.FilePath), exists_(program.document.FileExists) {
         DocumentState& document = program.document;
-        document.FilePath = SavingFolder(program);
+        document.FilePath = modNames::SavingFolder(program);
         if (document.FilePath != folder_) {
             document.FileExists = document.FileExists && document.SaveAsActive;
         }
@@ -183,13 +183,6 @@ void SavingSteps(Program& program, SaveResult& result) {
 }
 
 } // namespace
-
-std::string SavingFolder(const Program& program) {
-    const std::string& folder = program.document.FilePath;
-    return folder.empty() || paths::SameFolder(folder, modFolders::BackupFolder(program))
-               ? modFolders::DataFolder(program)
-               : folder;
-}
 
 SaveResult SaveEventFile(Program& program) {
     SaveResult result = SaveResult::NotSaved;

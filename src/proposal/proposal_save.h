@@ -2,8 +2,6 @@
 
 #include "proposal/property_file.h"
 
-#include <string>
-
 struct Program;
 
 /// Writing a proposal.
@@ -12,9 +10,6 @@ namespace modFile {
 /// Saves the proposal under its name, with all questions and messages, and asks when another program has
 /// changed its file. Reports as "SaveEventFile". When it was not saved, the document is as before.
 [[nodiscard]] SaveResult SaveEventFile(Program& program);
-
-/// The folder in which the proposal is saved: its own, but never that of the backups.
-[[nodiscard]] std::string SavingFolder(const Program& program);
 
 /// Whether the client's name differs from its saved text.
 [[nodiscard]] bool ClientNameChanged(const Program& program);

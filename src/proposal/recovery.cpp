@@ -8,6 +8,7 @@
 #include "program/data_folders.h"
 #include "program/errors.h"
 #include "program/program.h"
+#include "proposal/backup.h"
 #include "proposal/file_names.h"
 #include "proposal/property_file.h"
 #include "proposal/proposal_open.h"
@@ -17,7 +18,6 @@
 #include <exception>
 #include <optional>
 #include <string>
-#include <utility>
 
 namespace modRecovery {
 
@@ -63,7 +63,8 @@ SavedState ShowSaved(Program& program, const UnsavedWork& work) {
     DocumentState& document = program.document;
     SavedState saved;
     document.FilePath = work.Folder;
-    if (modNames::CanBeAFile(work.FileName) &&
+    // A file of the name that the proposal had not read is another's.
+    if (work.Known.Was == files::Seen::What::Bytes && modNames::CanBeAFile(work.FileName) &&
         files::ExistsExactly(paths::Join(work.Folder, work.FileName))) {
         saved.Exists = modFile::OpenEventFile(program, work.FileName) == modFile::OpenResult::Opened;
     }
@@ -86,13 +87,13 @@ void ShowBackup(Program& program, const UnsavedWork& work, const modFile::RawPro
         modNames::ClearNames(program);
         modTitles::UpdateEventNameLabels(program);
     }
-    document.UnnamedBackup = named ? "" : work.Backup;
     modFile::TakeProperties(program,
                             paths::Join(modFolders::BackupFolder(program), PropertiesBeside(work.Backup)));
     document.FileExists = saved.Exists;
+    document.HasNotes = document.HasNotes && saved.Exists;
+    document.UnnamedBackup = modFile::BackupNameOf(program).empty() ? work.Backup : "";
     const bool savedWhole = saved.File.Was != files::Seen::What::Unread; // or it is kept when it is replaced
-    document.SavedFile =
-        saved.Exists && savedWhole && work.Known.Was == files::Seen::What::Bytes ? work.Known : saved.File;
+    document.SavedFile = saved.Exists && savedWhole ? work.Known : saved.File;
     program.format.PropertyPath =
         named ? paths::Join(work.Folder, PropertiesBeside(work.FileName)) : std::string();
     program.format.PropertySeen = files::LookAt(program.format.PropertyPath);
@@ -101,16 +102,25 @@ void ShowBackup(Program& program, const UnsavedWork& work, const modFile::RawPro
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }
 
+void Settle(Program& program) {
+    program.recovery.Found.reset();
+    NothingUnsaved(program);
+}
+
 } // namespace
 
 void OfferWhatWasFound(Program& program) {
-    const std::optional<UnsavedWork> work = std::exchange(program.recovery.Found, std::nullopt);
+    const std::optional<UnsavedWork> work = program.recovery.Found;
     if (!work) {
         return;
     }
     const std::string backup = paths::Join(modFolders::BackupFolder(program), work->Backup);
-    if (!files::ExistsExactly(backup) || SayTheSame(program, *work)) {
-        NothingUnsaved(program);
+    const bool there = files::ExistsExactly(backup);
+    if (!there && !files::IsFolder(work->Folder)) {
+        return; // a share that is away: a later start asks
+    }
+    if (!there || SayTheSame(program, *work)) {
+        Settle(program);
         return;
     }
     Guarded(program, "OpenEventFile", [&] {
@@ -119,12 +129,16 @@ void OfferWhatWasFound(Program& program) {
             "The program did not close properly. The proposal " +
             std::string(client.empty() ? "without a client's name" : client) + " has changes from " +
             dates::GeneralDate(files::ModifiedSerial(backup)) + " that were not saved. Bring them back?";
-        if (program.platform.questions.MsgBox(question, Buttons::YesNo, "",
-                                              {.Default = Answer::Yes, .How = Manner::Came::Unasked}) !=
-            Answer::Yes) {
-            NothingUnsaved(program);
+        const Answer answer = program.platform.questions.MsgBox(
+            question, Buttons::YesNo, "", {.Default = Answer::Yes, .How = Manner::Came::Unasked});
+        if (program.main.Closing) {
+            return; // the run was ended over the question; the next start asks it again
+        }
+        if (answer != Answer::Yes) {
+            Settle(program);
             return;
         }
+        program.recovery.Found.reset();
         ShowBackup(program, *work, modFile::ReadProposal(program, backup));
         Restate(program, *work);
     });

@@ -14,7 +14,7 @@ void SetMarker(Program& program);
 /// At the clean end.
 void TakeMarkerAway(Program& program);
 
-/// Before the backup is written: the marker names it.
+/// The backup stands: the marker names it.
 void TellOfBackup(Program& program, std::string_view backupName);
 /// Before a save writes these bytes: should the run end between the write and what follows, the next start
 /// knows that the proposal is saved.

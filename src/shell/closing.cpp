@@ -74,7 +74,7 @@ void KeepUnsaved(Program& program) {
     modWindows::KeepUnsaved(program);
     if (modProposal::SomethingChanged(program) || modFile::PropertiesChanged(program)) {
         modFile::BackupThisFile(program); // the marker stays: the next start offers it
-    } else {
+    } else if (!program.recovery.Found) { // what an earlier run has left is not settled yet
         modRecovery::NothingUnsaved(program);
     }
 }

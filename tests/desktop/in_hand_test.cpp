@@ -4,6 +4,8 @@
 #include "desktop/message_box.h"
 #include "desktop/qt_surroundings.h"
 #include "pages/fields.h"
+#include "program/windows.h"
+#include "shell/command_run.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -12,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
@@ -123,6 +126,8 @@ TEST(FilteredEdit, TakesWhatTheModelTakesAndTellsTheRest) {
     edit->setFocus();
     QTest::keyClicks(edit, QStringLiteral("1,5"));
     EXPECT_EQ(edit->text(), QStringLiteral("15"));
+    EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("was not taken")))
+        << "the comma is told, not dropped";
     edit->setCursorPosition(1);
     edit->insert(QStringLiteral("a2b3"));
     EXPECT_EQ(edit->text(), QStringLiteral("1235"));
@@ -155,6 +160,36 @@ TEST(ElidedLabel, KeepsItsTextWhereItIsCut) {
     EXPECT_EQ(label.text(), QStringLiteral("Current Folder = /a/long/way/to/the/proposals/of/the/office"));
     const QImage picture = label.grab().toImage();
     EXPECT_FALSE(picture.isNull());
+}
+
+TEST(Windows, FitASmallScreenThatShowsEverythingTwiceAsLarge) {
+    // 1280 x 1024 at 200 %, less the title and a task bar.
+    constexpr int kWidth = 640;
+    constexpr int kHeight = 460;
+    for (const CommandId id :
+         {CommandId::mnuFileOpenEvent, CommandId::mnuFileOpenFootnotes, CommandId::mnuFileOpenAddressBook,
+          CommandId::mnuEditCompInfo, CommandId::mnuEditTitles, CommandId::mnuEditFind,
+          CommandId::mnuEditAllTextFonts, CommandId::mnuViewEventDates, CommandId::mnuManageDeposits,
+          CommandId::mnuManageEditor, CommandId::mnuOptCalc, CommandId::mnuOptPrinter,
+          CommandId::mnuOptACStart, CommandId::mnuOptSalesTax, CommandId::mnuOptUserPref,
+          CommandId::mnuToolsSnap, CommandId::mnuToolsPrinterOffsets}) {
+        DesktopRun run;
+        run.folder.Write("Proposals/Ann.hef", "1/21/2008" + std::string(20621, ' '));
+        commands::Run(run.program, id);
+        run.window->AfterEvent();
+        ASSERT_FALSE(run.program.windows.Open.empty()) << static_cast<int>(id);
+        const std::string name(run.program.windows.Open.back()->Name());
+        const auto* view = run.window->findChild<QWidget*>(QString::fromStdString(name));
+        ASSERT_NE(view, nullptr) << name;
+        const QSize least = view->minimumSizeHint().expandedTo(view->minimumSize());
+        EXPECT_LE(least.width(), kWidth) << name;
+        EXPECT_LE(least.height(), kHeight) << name;
+        const QRect screen = view->screen()->availableGeometry();
+        EXPECT_LE(view->width(), screen.width()) << name;
+        EXPECT_LE(view->height(), screen.height()) << name;
+        modWindows::UnloadAll(run.program);
+        run.window->AfterEvent();
+    }
 }
 
 TEST(WidePage, IsScrolledSideways) {

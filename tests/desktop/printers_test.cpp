@@ -22,6 +22,8 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <chrono>
+#include <filesystem>
 
 namespace {
 
@@ -285,6 +287,20 @@ TEST(Paper, IsOldOrNewAndWholeWhateverErrorStopsIt) {
         }
     }
     EXPECT_GE(failures, 6 * 5);
+}
+
+TEST(Paper, WhatABrokenWriteLeftBesideAFileGoesWithTheNextOne) {
+    Press press;
+    const std::string leftOver = ".quillbrook.another-machine.1.0.tmp";
+    press.folder.Write(leftOver, "half of it");
+    std::filesystem::last_write_time(press.folder / leftOver,
+                                     std::filesystem::file_time_type::clock::now() - std::chrono::hours(48));
+    ASSERT_TRUE(press.printers.BeginCommand({press.folder / "out.pdf"}));
+    press.Paper().Print("text");
+    press.Paper().EndDoc();
+    press.printers.EndCommand();
+    EXPECT_TRUE(press.folder.Has("out.pdf"));
+    EXPECT_FALSE(press.folder.Has(leftOver));
 }
 
 TEST(Paper, AFileGetsTheEndingOfAPdf) {

@@ -169,6 +169,18 @@ TEST(WindowNotice, StaysForFiveSecondsOfTyping) {
     EXPECT_EQ(line->text(), QString());
 }
 
+TEST(WindowNotice, IsSeenInANarrowWindowToo) {
+    DesktopRun run;
+    run.window->resize(640, 500);
+    run.program.main.Notice = "Kept only by a format or by Save this Logo as Default.";
+    run.window->AfterEvent();
+    const auto* line = run.Find<QLabel>("lblNotice");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return line->width() >= 200; })) << line->width();
+    const auto* total = run.Find<QLabel>("lblTotal");
+    EXPECT_GE(total->width(), total->fontMetrics().horizontalAdvance(total->text()));
+    EXPECT_LE(run.window->width(), 640);
+}
+
 TEST(SessionEnd, WritesTheBackupOfWhatIsUnsaved) {
     DesktopRun run;
     const EndSignals endings([] {}, [&] { modClosing::KeepUnsaved(run.program); });

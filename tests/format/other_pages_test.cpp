@@ -62,7 +62,7 @@ TEST(OtherPages, WordsThatALaterFormatGivesAnOldProposalAreTold) {
     run.Under(kWords);
     run.surroundings.questions.Expect(
         "The format House.fmt rewords 4 captions of Jane Roe.hef, 2 of them in the contract.\r\n"
-        "Its own layout says nothing of these: they may have read otherwise when it was saved.\r\n"
+        "Its own layout says nothing of these; they may not read as when it was saved.\r\n"
         "To have it without the format, choose Clear Current Format and open it again.");
     run.OpenIt();
     EXPECT_EQ(run.Label(PageId::frmP6, 13).Caption, "Paid by noon.");
@@ -83,7 +83,7 @@ TEST(OtherPages, OnlyWhatTheProposalsOwnLayoutDoesNotSayIsTold) {
     run.Under(LabelLine("frmP1.lbl(9)", "Date") + LabelLine("frmP1.lbl(10)", "Hour"));
     run.surroundings.questions.Expect(
         "The format House.fmt rewords 1 caption of Jane Roe.hef.\r\n"
-        "Its own layout says nothing of these: they may have read otherwise when it was saved.\r\n"
+        "Its own layout says nothing of these; they may not read as when it was saved.\r\n"
         "To have it without the format, choose Clear Current Format and open it again.");
     run.OpenIt();
     EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Day");

@@ -61,4 +61,23 @@ TEST(Rewriting, AFailedWriteLeavesTheFileAndWhatIsKnownOfIt) {
     EXPECT_EQ(seen, files::SeenIn("old"));
 }
 
+TEST(Rewriting, AFileThatCouldNotBeReadHasItsNameAgainWhenNothingNewComesInItsPlace) {
+    for (const FailingDisk::Call call : {FailingDisk::Call::Write, FailingDisk::Call::Flush}) {
+        for (const int error : {ENOSPC, EIO, EDQUOT}) {
+            Settled run;
+            run.folder.Write("list", "never read");
+            files::Seen seen{files::Seen::What::Unread, 0, 0};
+            {
+                const FailingDisk disk{{call, 1, error, FailingDisk::kForever}};
+                EXPECT_THROW(static_cast<void>(WriteOver(run, seen)), files::FileError);
+            }
+            EXPECT_EQ(run.folder.Read("list"), "never read");
+            EXPECT_FALSE(run.folder.Has("list.unread"));
+            EXPECT_EQ(WriteOver(run, seen), Rewriting::Done);
+            EXPECT_EQ(run.folder.Read("list"), "new");
+            EXPECT_EQ(run.folder.Read("list.unread"), "never read");
+        }
+    }
+}
+
 } // namespace

@@ -4,7 +4,9 @@
 #include "pages/fields.h"
 #include "program/keys.h"
 #include "proposal/lifecycle.h"
+#include "proposal/proposal_open.h"
 #include "proposal/proposal_save.h"
+#include "proposal/reset.h"
 #include "support/failing_disk.h"
 #include "support/interruption.h"
 #include "support/person.h"
@@ -71,10 +73,75 @@ TEST(Backup, InTheMiddleOfTypingAsksNothingAndLeavesAnotherClientsProposalAlone)
     run.Fill(PageId::frmP1, 10, kTwentyKeys);
     EXPECT_TRUE(run.surroundings.questions.Shown.empty());
     EXPECT_EQ(run.folder.Read("Proposals/Ann.hef"), "another Ann's");
-    const std::string backup = run.folder.Read("Proposals/Backup/Ann.hef");
+    const std::string backup = run.folder.Read("Proposals/Backup/Ann (new).hef");
     ASSERT_EQ(backup.size(), 20630U);
     EXPECT_EQ(backup.substr(530, 16), "twelve sandwiche")
         << "it comes with a key, before the key takes effect";
+}
+
+TEST(Backup, OfANewProposalReplacesNoneOfAnEarlierOne) {
+    Working run;
+    run.folder.Write("Proposals/Ann.hef", "another Ann's");
+    run.folder.Write("Proposals/Backup/Ann.hef", "what that Ann's proposal has not");
+    run.folder.Write("Proposals/Backup/Bob.hef", "left unsaved");
+    run.Fill(PageId::frmP1, 2, "Ann");
+    run.Fill(PageId::frmP1, 10, kTwentyKeys);
+    run.typist.Type(kTwentyKeys);
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Ann.hef"), "what that Ann's proposal has not");
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Ann (new) (2).hef")) << "its own is replaced";
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Bob");
+    run.typist.Type(kTwentyKeys);
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Bob.hef"), "left unsaved");
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Bob (2).hef").size(), 20630U);
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Ann (new).hef")) << "the client has another name since";
+    run.surroundings.questions.Expect("File was saved as Bob.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Bob (2).hef"));
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Bob.hef"), "left unsaved");
+}
+
+TEST(Backup, UnderItsOwnNameStaysWhenTheProposalIsSaved) {
+    Working run;
+    run.Fill(PageId::frmP1, 2, "Ann");
+    run.Fill(PageId::frmP1, 10, kTwentyKeys);
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    EXPECT_TRUE(run.folder.Has("Proposals/Backup/Ann.hef"));
+}
+
+TEST(Backup, MakesItsFolderAnewWhenThatHasGone) {
+    Working run;
+    run.SaveAnn();
+    fs::remove_all(run.folder / "Proposals/Backup");
+    run.Fill(PageId::frmP1, 10, kTwentyKeys);
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Ann.hef").size(), 20630U);
+}
+
+TEST(Backup, OfAProposalOpenedFromTheBackupsLeavesWhatWasOpenedAlone) {
+    Working run;
+    run.SaveAnn();
+    run.Fill(PageId::frmP1, 10, kTwentyKeys);
+    const std::string opened = run.folder.Read("Proposals/Backup/Ann.hef");
+    static_cast<void>(modReset::StartNewFile(run.program));
+    run.program.document.FilePath = run.folder / "Proposals/Backup/";
+    ASSERT_EQ(modFile::OpenEventFile(run.program, "Ann.hef"), modFile::OpenResult::Opened);
+    run.program.document.FromBackup = true;
+    run.Fill(PageId::frmP1, 11, kTwentyKeys);
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Ann.hef"), opened);
+    EXPECT_NE(run.folder.Read("Proposals/Backup/Ann (2).hef"), opened);
+}
+
+TEST(Backup, ThatCannotBeWrittenLeavesNothingToOffer) {
+    Working run;
+    run.Fill(PageId::frmP1, 2, "Ann");
+    run.Fill(PageId::frmP1, 10, kTwentyKeys);
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    ASSERT_EQ(run.folder.Read("Running.txt"), "");
+    const FailingDisk disk{{FailingDisk::Call::Flush, 1, ENOSPC, 2}};
+    run.Fill(PageId::frmP1, 11, kTwentyKeys);
+    EXPECT_GT(disk.Failed(), 0);
+    EXPECT_EQ(run.folder.Read("Running.txt"), "") << "the copy that stands is older than the proposal";
 }
 
 TEST(Backup, OfAnIllegalNameMovesNoFocusAndIsLoggedOnce) {

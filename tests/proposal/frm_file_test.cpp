@@ -1,8 +1,10 @@
 #include "base/dates.h"
 #include "base/files.h"
 #include "program/windows.h"
+#include "proposal/backup.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
+#include "proposal/proposal_save.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -66,6 +68,48 @@ TEST(Chooser, OpensOnTheDataFolderWithItsProposals) {
     EXPECT_TRUE(window.chkProp.Visible);
     EXPECT_FALSE(window.picFileOpen);
     EXPECT_FALSE(run.program.document.IgnoreProperties);
+}
+
+TEST(Chooser, TakesUpAProposalThatWasKeptWithoutAClientsName) {
+    Choosing run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 10);
+    typist.Type("twelve sandwiches");
+    modFile::BackupThisFile(run.program);
+    run.surroundings.questions.Expect("Some text has been changed.", Answer::No);
+    frmFile& window = run.Show();
+    run.Enter(window, "Backup");
+    run.Select(window, "(no client's name).hef");
+    window.cmdOpenOK_Click(run.program);
+    const DocumentState& document = run.program.document;
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "twelve sandwiches");
+    EXPECT_EQ(document.FileName, "");
+    EXPECT_FALSE(document.FileExists);
+    EXPECT_FALSE(document.FromBackup);
+    EXPECT_EQ(document.FilePath, run.Data());
+    EXPECT_TRUE(modProposal::SomethingChanged(run.program));
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Zed");
+    EXPECT_EQ(document.FileName, "Zed.hef");
+    run.surroundings.questions.Expect("File was saved as Zed.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+    EXPECT_FALSE(run.folder.Has("Proposals/(no client's name).hef"));
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/(no client's name).hef"));
+}
+
+TEST(Chooser, NamesOneThatNoFileCouldNameAfterItsClient) {
+    Choosing run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Tom / Lee");
+    modFile::BackupThisFile(run.program);
+    run.surroundings.questions.Expect("Some text has been changed.", Answer::No);
+    frmFile& window = run.Show();
+    run.Enter(window, "Backup");
+    run.Select(window, "(no client's name).hef");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_EQ(run.program.document.FileName, "Tom / Lee.hef");
+    EXPECT_EQ(run.program.document.ClientCaption, "Proposal for Tom / Lee");
 }
 
 TEST(Chooser, HidesThePropertiesBoxWhileAFormatIsEdited) {

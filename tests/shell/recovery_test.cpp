@@ -1,8 +1,11 @@
+#include "base/dates.h"
+#include "base/files.h"
 #include "base/seen.h"
 #include "pages/fields.h"
 #include "proposal/backup.h"
 #include "proposal/lifecycle.h"
 #include "proposal/proposal_save.h"
+#include "proposal/reset.h"
 #include "proposal/run_marker.h"
 #include "shell/closing.h"
 #include "shell/start_up.h"
@@ -16,6 +19,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -43,13 +47,23 @@ struct Runs {
         }
         Start(program, again);
     }
-    void Start(Program& one, RecordingPlatform& surroundings) const {
+    void Start(Program& one, RecordingPlatform& surroundings,
+               const std::function<void()>& whileAsked = {}) const {
         one.folders.InstallFolder = first->folder.Path();
         one.folders.Drives.Home = first->folder / "Home/";
         one.main.ClientHeight = 9000;
         one.main.ClientWidth = 14000;
         Wire(one);
-        surroundings.questions.Allow(kNoEvents);
+        if (whileAsked) {
+            surroundings.questions.Expect(kNoEvents);
+            surroundings.questions.Allow(
+                "The program did not close properly. The proposal Ann has changes from " +
+                    dates::GeneralDate(files::ModifiedSerial(first->folder / "Proposals/Backup/Ann.hef")) +
+                    " that were not saved. Bring them back?",
+                whileAsked);
+        } else {
+            surroundings.questions.Allow(kNoEvents);
+        }
         ASSERT_EQ(modStart::Main(one), modStart::StartResult::Running);
         PassSplash(one);
     }
@@ -120,6 +134,49 @@ TEST(Recovery, AProposalThatWasNeverSavedComesBackAsANewOne) {
     EXPECT_TRUE(modProposal::SomethingChanged(runs.program));
     runs.again.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::Saved);
+}
+
+TEST(Recovery, ASecondProposalOfAClientComesBackAsANewOne) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Fill(3, "12 Elm Street");
+    runs.Save("Ann.hef");
+    const std::string stored = runs.first->folder.Read("Proposals/Ann.hef");
+    static_cast<void>(modReset::StartNewFile(runs.first->program));
+    runs.Fill(2, "Ann");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    runs.StartAgain("The proposal Ann has changes from ", Answer::Yes);
+    EXPECT_EQ(runs.Text(10), "twelve sandwiches and a cake");
+    EXPECT_FALSE(runs.program.document.FileExists);
+    EXPECT_FALSE(runs.program.main[CommandId::mnuFileDelete].Enabled);
+    runs.again.questions.Expect("A file with this name (Ann.hef)", Answer::No);
+    runs.again.questions.Expect("File not saved.");
+    EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::NotSaved);
+    EXPECT_EQ(runs.first->folder.Read("Proposals/Ann.hef"), stored);
+}
+
+TEST(Recovery, AShareThatIsAwayAtTheStartHasItAskedLater) {
+    Runs runs;
+    const ScratchFolder share;
+    runs.first->program.document.FilePath = share / "Shared/";
+    share.MakeFolder("Shared");
+    runs.Fill(2, "Ann");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    const std::string away = share / "Away";
+    fs::rename(share / "Shared", away);
+    const std::string backup = runs.first->folder / "Proposals/Backup/Ann (Shared).hef";
+    fs::rename(backup, away + "/kept");
+    runs.StartAgain("", Answer::No);
+    modClosing::MDIForm_Unload(runs.program);
+    fs::rename(away + "/kept", backup);
+    fs::rename(away, share / "Shared");
+    RecordingPlatform third;
+    Program program(third.platform);
+    third.questions.Expect("The proposal Ann has changes from ", Answer::Yes);
+    runs.Start(program, third);
+    EXPECT_EQ(program.pages[PageId::frmP1].txt[10].Text, "twelve sandwiches and a cake");
 }
 
 TEST(Recovery, AProposalWithoutAClientsNameComesBackWithoutOne) {
@@ -215,6 +272,24 @@ TEST(Recovery, NoLeavesTheBackupWhereItIsAndAsksOnce) {
     Program program(third.platform);
     runs.Start(program, third);
     EXPECT_TRUE(third.questions.Shown.empty());
+}
+
+TEST(Recovery, AnEndFromOutsideOverTheQuestionHasItAskedAgain) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    bool asked = false;
+    runs.Start(runs.program, runs.again, [&] {
+        asked = true;
+        modClosing::Interrupted(runs.program);
+    });
+    ASSERT_TRUE(asked);
+    RecordingPlatform third;
+    Program program(third.platform);
+    third.questions.Expect("The proposal Ann has changes from ", Answer::Yes);
+    runs.Start(program, third);
+    EXPECT_EQ(program.pages[PageId::frmP1].txt[10].Text, "twelve sandwiches and a cake");
 }
 
 TEST(Recovery, AskedAgainWhenTheRunThatBroughtThemBackIsKilledToo) {
