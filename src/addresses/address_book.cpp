@@ -7,6 +7,7 @@
 #include "addresses/ask.h"
 #include "addresses/book_file.h"
 #include "base/guard.h"
+#include "base/rows.h"
 #include "base/text.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -212,7 +213,7 @@ void ReadAddressList(Program& program, AddressWindow& window) {
 }
 
 void SelectRow(Program& program, AddressWindow& window, int row) {
-    if (row < 0 || static_cast<std::size_t>(row) >= window.lstNames.Rows.size()) {
+    if (!HasRow(window.lstNames.Rows, row)) {
         return;
     }
     window.lstNames.ListIndex = row;

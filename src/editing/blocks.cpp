@@ -1,6 +1,7 @@
 #include "editing/blocks.h"
 
 #include "base/guard.h"
+#include "base/text.h"
 #include "editing/area_contents.h"
 #include "editing/push.h"
 #include "editing/selection.h"
@@ -8,10 +9,13 @@
 #include "editing/text_menu.h"
 #include "money/totals.h"
 #include "pages/page_geometry.h"
+#include "pages/row_fields.h"
 #include "program/errors.h"
 #include "program/program.h"
 
+#include <algorithm>
 #include <string>
+#include <string_view>
 
 namespace modBlocks {
 
@@ -106,6 +110,9 @@ bool AnyText(const Program& program, const PasteTarget& target) {
 std::string PlaceOf(const PasteTarget& target) {
     const int first = target.First - RowsOf(target.Page).First + 1;
     const int last = target.Last - RowsOf(target.Page).First + 1;
+    if (first < 1) {
+        return std::string(geometry::PageCaption(target.Page)); // an address or a date goes along
+    }
     const std::string lines = first == last
                                   ? ", line " + std::to_string(first)
                                   : ", lines " + std::to_string(first) + " to " + std::to_string(last);
@@ -144,6 +151,49 @@ void WriteMemory(Program& program, const PasteTarget& target) {
         WriteArea(program, target.Page, index++, contents);
     }
     CountPage(program, target.Page);
+}
+
+/// What stands now where a delete has emptied, and would be gone with the undo.
+bool WouldBeLost(const Program& program, PageId page, const ClearedArea& cleared) {
+    const AreaContents now = ReadContents(program, page, cleared.Index);
+    const auto lost = [](std::string_view stands, std::string_view comes) {
+        return !text::Trim(stands).empty() && stands != comes;
+    };
+    return lost(now.Text, cleared.Contents.Text) ||
+           (now.Quantity != modPages::kQuantityPlaceholder &&
+            lost(now.Quantity, cleared.Contents.Quantity)) ||
+           (now.Price != modPages::kPricePlaceholder && lost(now.Price, cleared.Contents.Price));
+}
+
+/// The line of a description or amount; what stands above the lines is before the first.
+int RowOf(PageId page, int index) {
+    const int first = geometry::FirstRow(page);
+    return geometry::IsAmount(page, index) ? index - geometry::AmountOf(page, first) + first : index;
+}
+
+bool MayUndo(const Program& program) {
+    const BlockState& block = program.editing.Block;
+    const PageId page = block.UndoPage;
+    const RowRange rows = RowsOf(page);
+    PasteTarget lost{page, rows.Last + 1, rows.First - 1};
+    for (const ClearedArea& cleared : block.UndoMemory) {
+        if (WouldBeLost(program, page, cleared)) {
+            const int row = RowOf(page, cleared.Index);
+            lost.First = std::min(lost.First, row);
+            lost.Last = std::max(lost.Last, row);
+        }
+    }
+    if (lost.Last < lost.First) {
+        return true;
+    }
+    const Answer answer = program.platform.questions.MsgBox(
+        "Text is present where the deleted text goes back. Over-write this text with the deleted text?",
+        Buttons::YesNo, "Text areas are not all empty.",
+        {.Default = Answer::No, .Lost = "The texts of " + PlaceOf(lost) + " will be replaced."});
+    if (answer != Answer::Yes) {
+        Tell(program, "Action Cancelled.");
+    }
+    return answer == Answer::Yes;
 }
 
 } // namespace
@@ -190,6 +240,9 @@ void UndoDeleteBlock(Program& program) {
     FinishMove(program);
     BlockState& block = program.editing.Block;
     modText::SettleCompletion(program, block.UndoPage);
+    if (!MayUndo(program)) {
+        return; // it stays for another time
+    }
     {
         const ScopedFlag refiring(program.editing.RefireMode);
         modText::ForgetKey(program);

@@ -17,8 +17,9 @@ void DeleteBlock(Program& program);
 /// failure shows a message of its own besides the report.
 void CutBlock(Program& program);
 
-/// Puts back what the last delete or cut took, into the areas it took it from, whatever stands there now. All
-/// other areas keep what was typed meanwhile.
+/// Puts back what the last delete or cut took, into the areas it took it from. All other areas keep what was
+/// typed meanwhile. Asks before it writes over text that has come there since; refused, it can be undone
+/// later.
 void UndoDeleteBlock(Program& program);
 
 /// Writes the memory from the current area of the active page on; the right run goes to the amounts beginning

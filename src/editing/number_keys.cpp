@@ -34,11 +34,24 @@ bool IsPaste(int keyCode, int shift) {
     return keyCode == keys::kV && shift == keys::kCtrlState;
 }
 
+void TellNoNumber(Program& program, std::string_view value) {
+    constexpr std::size_t kShown = 30;
+    std::string shown(value.substr(0, value.find_first_of("\r\n")));
+    if (shown.size() > kShown || shown.size() < value.size()) {
+        shown = shown.substr(0, kShown) + "...";
+    }
+    program.main.Notice = "\"" + shown + "\" was not taken: it is no number.";
+}
+
 void PasteNumber(Program& program, PageId page, int index) {
     const std::string clipboard = program.platform.clipboard.GetText();
     const std::string_view line = WithoutLineEnds(clipboard);
     TextArea& area = modText::Area(program, page, index);
-    if (area.Locked || !numbers::IsNumeric(line, program.settings.CurrencySymbol)) {
+    if (area.Locked || line.empty()) {
+        return;
+    }
+    if (!numbers::IsNumeric(line, program.settings.CurrencySymbol)) {
+        TellNoNumber(program, line);
         return;
     }
     std::string value = area.Text;

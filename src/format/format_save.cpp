@@ -176,7 +176,7 @@ bool Written(Program& program, const std::string& path, bool agreed) {
     files::Seen seen = agreed ? files::LookAt(path) : format.FormatSeen;
     bool written = false;
     Guarded(program, "SaveFileFormat", [&] {
-        written = modRewrite::Rewrite(program, path, BytesOf(format.FormatLines), seen, "format") ==
+        written = modRewrite::Rewrite(program, path, BytesOf(format.FormatLines), seen, "This format") ==
                   modRewrite::Rewriting::Done;
     });
     if (written) {

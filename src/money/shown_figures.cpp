@@ -22,6 +22,13 @@ constexpr std::int64_t kHundredth = kUnit / 100;
 /// What is larger cannot be added in millionths.
 constexpr double kMost = 9.0e12;
 
+/// The place of the deposit among the final page's figures.
+constexpr std::size_t kDeposit = 4;
+
+bool LooksLikeAFigure(std::string_view value) {
+    return value.find_first_of("0123456789") != std::string_view::npos;
+}
+
 using Exact = std::optional<std::int64_t>;
 
 Exact ExactOf(double value) {
@@ -130,7 +137,7 @@ std::vector<Strayed> StrayedFigures(const Program& program) {
     if (program.totals.TotalsHidden || program.pages[PageId::frmP6].txt.empty()) {
         return {};
     }
-    constexpr std::size_t kSubTotal = 0, kTaxable = 1, kTax = 2, kTotal = 3, kDeposit = 4, kBalance = 5;
+    constexpr std::size_t kSubTotal = 0, kTaxable = 1, kTax = 2, kTotal = 3, kBalance = 5;
     constexpr std::int64_t kRounding = kHundredth / 2;
     constexpr std::int64_t kNearTheMiddle = kRounding + kHundredth / 10;
     const Rows rows = AddRows(program);
@@ -188,8 +195,7 @@ std::vector<std::string> UncountedTexts(const Program& program) {
         }
         for (int row = geometry::FirstRow(page); row <= geometry::LastRow(page); ++row) {
             const auto look = [&](const TextArea& area, std::string_view placeholder, const char* what) {
-                const bool figure = area.Text.find_first_of("0123456789") != std::string::npos;
-                if (figure && text::Trim(area.Text) != placeholder &&
+                if (LooksLikeAFigure(area.Text) && text::Trim(area.Text) != placeholder &&
                     numbers::IsNoNumber(area.Text, currency)) {
                     found.push_back("Page " + std::to_string(IndexOf(page) + 1) + ", line " +
                                     std::to_string(row - geometry::FirstRow(page) + 1) + what + ": " +
@@ -203,6 +209,11 @@ std::vector<std::string> UncountedTexts(const Program& program) {
             }
             look(record.txt[static_cast<std::size_t>(geometry::AmountOf(page, row))], "", "");
         }
+    }
+    const auto& figures = program.pages[PageId::frmP6].txt;
+    if (figures.size() > kDeposit && LooksLikeAFigure(figures[kDeposit].Text) &&
+        numbers::IsNoNumber(figures[kDeposit].Text, currency)) {
+        found.push_back("Page 6, Deposit Received: " + figures[kDeposit].Text);
     }
     return found;
 }

@@ -27,9 +27,9 @@ struct Strayed {
 /// may stand as either. Nothing strays while the totals are hidden.
 [[nodiscard]] std::vector<Strayed> StrayedFigures(const Program& program);
 
-/// Amounts, quantities and unit prices that look like figures and are no numbers, each with its place, in the
-/// order of the pages. On paper nothing tells that they count as nothing; a mere dash or word tells it
-/// itself. None while the totals are hidden.
+/// Amounts, quantities, unit prices and the deposit that look like figures and are no numbers, each with its
+/// place, in the order of the pages. On paper nothing tells that they count as nothing; a mere dash or word
+/// tells it itself. None while the totals are hidden.
 [[nodiscard]] std::vector<std::string> UncountedTexts(const Program& program);
 
 /// Whether the figures may be shown to others: yes when none strays and every text in the rows counts,

@@ -29,8 +29,7 @@ bool MayOverwrite(const Program& program, std::string_view path, const files::Se
         return true;
     }
     return program.platform.questions.MsgBox(
-               "This " + std::string(what) +
-                   " was changed by another program since you opened it. Overwrite it?",
+               std::string(what) + " was changed by another program since you opened it. Overwrite it?",
                Buttons::YesNo, "",
                {.Default = Answer::No,
                 .Lost = "What the other program wrote into " + std::string(paths::Name(path)) +

@@ -10,8 +10,8 @@ struct Program;
 namespace modRewrite {
 
 /// Whether the file may be overwritten. Yes when it is as it was seen, and when it is not there; otherwise
-/// the person is asked: "This " and `what` ("proposal", "terms list") "was changed by another program since
-/// you opened it. Overwrite it?", No unless it is chosen.
+/// the person is asked: `what` ("This proposal", "The layout of this proposal") "was changed by another
+/// program since you opened it. Overwrite it?", No unless it is chosen.
 [[nodiscard]] bool MayOverwrite(const Program& program, std::string_view path, const files::Seen& seen,
                                 std::string_view what);
 

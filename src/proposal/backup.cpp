@@ -101,18 +101,18 @@ std::string NameForNext(const Program& program, const std::string& folder) {
     return !own.empty() && IsOf(own, wanted) ? own : file_places::FreeName(folder, wanted);
 }
 
-/// The backup first, then the marker that names it: an end between the two must not have an older one
-/// offered.
+/// The text first, then the marker that names it: an end between the two must not have an older one offered.
+/// Properties that cannot be written leave the text kept.
 void WriteAs(Program& program, const std::string& folder, const std::string& name) {
     const std::string properties = paths::Join(folder, PropertiesOf(name));
     const std::string lines = PropertyBytes(program);
+    files::WriteWhole(paths::Join(folder, name), ProposalBytes(program));
+    modRecovery::TellOfBackup(program, name);
     if (!lines.empty()) {
         files::WriteWhole(properties, lines);
     } else if (files::ExistsExactly(properties)) {
         files::Delete(properties); // of an earlier proposal of the name
     }
-    files::WriteWhole(paths::Join(folder, name), ProposalBytes(program));
-    modRecovery::TellOfBackup(program, name);
 }
 
 void Tell(Program& program, const std::exception& trouble) {

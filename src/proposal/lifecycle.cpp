@@ -225,12 +225,41 @@ void mnuFileDelete_Click(Program& program) {
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }
 
+namespace {
+
+bool IsAnother(const std::string& path, const files::Seen& seen) {
+    return files::ExistsExactly(path) && files::LookAt(path) != seen;
+}
+
+/// A backup may be older than the proposal whose place it takes.
+bool MayReplace(const Program& program, const std::string& target, std::string_view bytes) {
+    const std::string& name = program.document.FileName;
+    const std::string layout = program.document.BaseName + ".hpf";
+    const bool otherLayout = files::FileIsThere(program.document.FilePath, layout) &&
+                             IsAnother(paths::Join(paths::Folder(target), layout),
+                                       files::LookAt(paths::Join(program.document.FilePath, layout)));
+    if (!IsAnother(target, files::SeenIn(bytes)) && !otherLayout) {
+        return true;
+    }
+    return program.platform.questions.MsgBox("Replace the proposal " + name + " with this backup copy?",
+                                             Buttons::YesNo, "Replacing the Original Proposal",
+                                             {.Default = Answer::No,
+                                              .Lost = "The file " + target +
+                                                      (otherLayout ? " and its layout" : "") +
+                                                      " as saved last will be replaced."}) == Answer::Yes;
+}
+
+} // namespace
+
 void mnuFileRestoreFromBackup_Click(Program& program) {
     Guarded(program, "mnuFileRestoreFromBackup_Click", [&] {
         DocumentState& document = program.document;
         const std::string folder = modFolders::DataFolder(program);
         const std::string target = paths::Join(folder, document.FileName);
         const std::string bytes = files::ReadAll(paths::Join(document.FilePath, document.FileName));
+        if (!MayReplace(program, target, bytes)) {
+            return;
+        }
         files::Seen seen = files::LookAt(target);
         modRewrite::WriteOver(target, bytes, seen);
         document.SavedFile = seen;

@@ -61,7 +61,7 @@ SaveResult SavePropertyFile(Program& program) {
         const std::string bytes = BytesOfLines(format.PropertyLines);
         // Under another name, whoever chose that name has agreed to what it replaces.
         files::Seen seen = path == format.PropertyPath ? format.PropertySeen : files::LookAt(path);
-        written = modRewrite::Rewrite(program, path, bytes, seen, "layout of the proposal") ==
+        written = modRewrite::Rewrite(program, path, bytes, seen, "The layout of this proposal") ==
                   modRewrite::Rewriting::Done;
         if (written) {
             format.PropertyPath = path;

@@ -73,7 +73,7 @@ bool NameIsSettled(Program& program) {
         return true;
     }
     if (document.FileExists && !document.SaveAsActive && files::ChangedSince(path, document.SavedFile)) {
-        return modRewrite::MayOverwrite(program, path, document.SavedFile, "proposal");
+        return modRewrite::MayOverwrite(program, path, document.SavedFile, "This proposal");
     }
     if (!document.FileExists || ClientNameChanged(program)) {
         modNames::ShowDuplicateFileOptions(program, document.FileName);

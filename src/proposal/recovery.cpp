@@ -2,7 +2,6 @@
 
 #include "base/dates.h"
 #include "base/files.h"
-#include "base/guard.h"
 #include "base/paths.h"
 #include "pages/fields.h"
 #include "pages/titles.h"
@@ -103,6 +102,11 @@ void ShowBackup(Program& program, const UnsavedWork& work, const modFile::RawPro
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
 }
 
+void Settle(Program& program) {
+    program.recovery.Found.reset();
+    NothingUnsaved(program);
+}
+
 } // namespace
 
 void OfferWhatWasFound(Program& program) {
@@ -110,10 +114,13 @@ void OfferWhatWasFound(Program& program) {
     if (!work) {
         return;
     }
-    const OnLeaving settled([&] { program.recovery.Found.reset(); }); // while it stands, nobody has answered
     const std::string backup = paths::Join(modFolders::BackupFolder(program), work->Backup);
-    if (!files::ExistsExactly(backup) || SayTheSame(program, *work)) {
-        NothingUnsaved(program);
+    const bool there = files::ExistsExactly(backup);
+    if (!there && !files::IsFolder(work->Folder)) {
+        return; // a share that is away: a later start asks
+    }
+    if (!there || SayTheSame(program, *work)) {
+        Settle(program);
         return;
     }
     Guarded(program, "OpenEventFile", [&] {
@@ -128,9 +135,10 @@ void OfferWhatWasFound(Program& program) {
             return; // the run was ended over the question; the next start asks it again
         }
         if (answer != Answer::Yes) {
-            NothingUnsaved(program);
+            Settle(program);
             return;
         }
+        program.recovery.Found.reset();
         ShowBackup(program, *work, modFile::ReadProposal(program, backup));
         Restate(program, *work);
     });

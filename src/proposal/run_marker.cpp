@@ -95,8 +95,13 @@ void TakeMarkerAway(Program& program) {
     if (!program.recovery.Marked) {
         return;
     }
-    program.recovery.Marked = false;
     try {
+        if (program.recovery.Found) { // nobody could be asked in this run
+            Tell(program, program.recovery.Found);
+            program.recovery.Marked = false;
+            return;
+        }
+        program.recovery.Marked = false;
         program.recovery.Told.reset();
         files::Delete(MarkerOf(program));
     } catch (const std::exception& error) {
@@ -126,7 +131,7 @@ void TellOfSave(Program& program, std::string_view bytes) {
 
 void NothingUnsaved(Program& program) {
     try {
-        Tell(program, std::nullopt);
+        Tell(program, program.recovery.Found); // nothing of this run
     } catch (const std::exception& error) {
         LogError(program, "Main", error); // a backup that equals its proposal is not mentioned anyway
     }

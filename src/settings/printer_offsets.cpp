@@ -72,7 +72,7 @@ void SavePrinterOffsets(Program& program) {
         bytes += InchesOf(program.printing.PrinterOffsetY);
         // Refused: what the other program wrote is kept, and these hold for this run.
         if (modRewrite::Rewrite(program, PathOf(program), bytes, program.settings.OffsetsFile,
-                                "printer offsets file") == modRewrite::Rewriting::Done) {
+                                "This printer offsets file") == modRewrite::Rewriting::Done) {
             TellSaved(program, "Printer offsets", PathOf(program));
         }
     });

@@ -362,8 +362,9 @@ bool SaveUserPreferences(Program& program) {
     bool written = false;
     const bool done = Guarded(program, "RequestNetworkSharePath", [&] {
         SettingsRecords& settings = program.settings;
-        written = modRewrite::Rewrite(program, PathOf(program), BytesOf(settings.Lines),
-                                      settings.SettingsFile, "settings file") == modRewrite::Rewriting::Done;
+        written =
+            modRewrite::Rewrite(program, PathOf(program), BytesOf(settings.Lines), settings.SettingsFile,
+                                "This settings file") == modRewrite::Rewriting::Done;
     });
     if (done && written) {
         TellSaved(program, "Settings", PathOf(program));

@@ -42,7 +42,7 @@ void SaveTaxRate(Program& program, std::string_view rateText) {
     Guarded(program, "SaveTaxRate", [&] {
         std::string five(rateText.substr(0, kTaxLength));
         five.resize(kTaxLength, ' ');
-        if (modRewrite::Rewrite(program, PathOf(program), five, program.settings.TaxFile, "tax rate") !=
+        if (modRewrite::Rewrite(program, PathOf(program), five, program.settings.TaxFile, "This tax rate") !=
             modRewrite::Rewriting::Done) {
             return;
         }

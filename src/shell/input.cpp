@@ -7,6 +7,7 @@
 #include "editing/columns.h"
 #include "editing/final_page.h"
 #include "editing/navigation.h"
+#include "editing/number_keys.h"
 #include "editing/selection.h"
 #include "editing/typing.h"
 #include "editing/word_marking.h"
@@ -145,6 +146,10 @@ void TellFiltered(Program& program, const FieldRef& field, int keyAscii) {
     if (keyAscii <= keys::kBlank || !IsFiltered(field) || !MayEdit(program, field)) {
         return;
     }
+    if (IsText(field) && (keyAscii == '(' || keyAscii == ')')) {
+        program.main.Notice = "Brackets were not taken and make no minus: type -100 for a negative amount.";
+        return;
+    }
     program.main.Notice = "\"" + std::string(1, static_cast<char>(keyAscii)) + "\" was not taken: " +
                           (IsText(field) ? "an amount takes digits, comma, point and minus."
                                          : "quantity and unit price take digits, comma and point.");
@@ -242,6 +247,9 @@ std::optional<std::string> Accept(Program& program, const FieldRef& field, std::
     if (IsFiltered(field)) {
         taken = text::Trim(text);
         if (!numbers::IsNumeric(taken, program.settings.CurrencySymbol)) {
+            if (refused == 0 && !taken.empty()) {
+                modNumberKeys::TellNoNumber(program, taken);
+            }
             return std::nullopt;
         }
     } else if (taken.size() > kMostInserted) {

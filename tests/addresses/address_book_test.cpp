@@ -639,4 +639,18 @@ TEST(AddressBook, LettersThatLeadToTheChosenRowOrToNoneAskNothing) {
     EXPECT_EQ(window.lstNames.ListIndex, 0);
 }
 
+TEST(AddressBook, ADeleteOfTheTopRowOfTwoShowsTheOtherWhateverItsNumber) {
+    for (const bool topIsLast : {false, true}) {
+        AddressRun run;
+        frmAddress& window = run.OpenWith(topIsLast ? AddressRun::Book({"Ben Birch", "Ann Ash"})
+                                                    : AddressRun::Book({"Ann Ash", "Ben Birch"}));
+        window.lstNames_Click(run.program, 0);
+        run.Questions().Expect("Delete this record?\r\nAnn Ash", Answer::Yes);
+        run.Run(Id::mnuFileDelete);
+        EXPECT_EQ(run.Text(0), "Ben Birch") << topIsLast;
+        EXPECT_EQ(window.lstNames.ListIndex, 0) << topIsLast;
+        EXPECT_EQ(window.Caption, " Personal Address Book/Ben Birch/Record 1 of 1 Displayed");
+    }
+}
+
 } // namespace

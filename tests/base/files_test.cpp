@@ -267,4 +267,33 @@ TEST(Folders, OneThatCannotBeMadeTellsWhy) {
     EXPECT_TRUE(files::IsFolder(folder / "made"));
 }
 
+TEST(FolderScan, EndedAtAnyMomentOfListingOrReadingVisitsNothing) {
+    const ScratchFolder folder;
+    for (int file = 10; file < 30; ++file) {
+        folder.Write(std::to_string(file) + ".x", "abc");
+    }
+    int asked = 0;
+    int end = 0; // at which question; 0 is never
+    int visited = 0;
+    const auto scan = [&] {
+        asked = visited = 0;
+        files::ScanHeads(
+            folder.Path(), ".x", 2,
+            [&](files::FileHead&&) {
+                ++visited;
+                return true;
+            },
+            [&] { return ++asked != end; });
+    };
+    scan();
+    EXPECT_EQ(visited, 20);
+    const int questions = asked;
+    EXPECT_GT(questions, 20) << "while they are read, too";
+    for (end = 1; end <= questions; ++end) {
+        scan();
+        EXPECT_EQ(visited, 0) << end;
+        EXPECT_EQ(asked, end);
+    }
+}
+
 } // namespace

@@ -292,7 +292,7 @@ TEST(Undo, KeepsAnAmountThatWasNotDeleted) {
     EXPECT_EQ(run.TextOf(kSecond, 36), "12") << "the quantity comes back without its product";
 }
 
-TEST(Undo, KeepsWhatWasTypedElsewhereAndOverwritesWhatWasTypedThere) {
+TEST(Undo, KeepsWhatWasTypedElsewhereAndAsksBeforeItOverwritesWhatWasTypedThere) {
     BlockRun run;
     PutTwoRows(run);
     run.Band(kSecond, 3, 4);
@@ -302,9 +302,44 @@ TEST(Undo, KeepsWhatWasTypedElsewhereAndOverwritesWhatWasTypedThere) {
     typist.Type("Lamps");
     typist.Click(kSecond, 3);
     typist.Type("Other");
+    const ScriptedQuestions::Box box{
+        "Text is present where the deleted text goes back. Over-write this text with the deleted text?",
+        Buttons::YesNo, "Text areas are not all empty."};
+    auto& questions = run.surroundings.questions;
+    questions.ExpectBox(box, Answer::No);
+    questions.Expect("Action Cancelled.");
+    run.Choose(CommandId::mnuEditTextUndo);
+    EXPECT_EQ(run.TextOf(kSecond, 3), "Other");
+    EXPECT_EQ(questions.Manners[questions.Manners.size() - 2].Default, Answer::No);
+    EXPECT_EQ(questions.Manners[questions.Manners.size() - 2].Lost,
+              "The texts of Page 2, line 4 will be replaced.");
+    EXPECT_TRUE(run.Enabled(CommandId::mnuEditTextUndo)) << "it can still be undone";
+    questions.ExpectBox(box, Answer::Yes);
     run.Choose(CommandId::mnuEditTextUndo);
     EXPECT_EQ(run.TextOf(kSecond, 8), "Lamps");
     EXPECT_EQ(run.Contents(kSecond, 3), kCovers);
+}
+
+TEST(Undo, AsksForAmountsAndBoxesToo) {
+    BlockRun run;
+    PutTwoRows(run);
+    run.Band(kSecond, 3, 4, Amounts::With);
+    run.Choose(CommandId::mnuEditTextCut);
+    run.Choose(CommandId::mnuEditTextDeselect);
+    Typist typist(run.program);
+    typist.Click(kSecond, 37);
+    typist.Type("8");
+    typist.Click(kSecond, 3);
+    typist.Press(keys::kF8);
+    typist.Click({PageId::frmP2, FieldKind::txtQty, 3});
+    typist.Type("2");
+    run.surroundings.questions.Expect("Text is present where the deleted text goes back.", Answer::No);
+    run.surroundings.questions.Expect("Action Cancelled.");
+    run.Choose(CommandId::mnuEditTextUndo);
+    const auto& manners = run.surroundings.questions.Manners;
+    EXPECT_EQ(manners[manners.size() - 2].Lost, "The texts of Page 2, lines 4 to 5 will be replaced.");
+    EXPECT_EQ(run.program.pages[kSecond].txtQty[3].Text, "2");
+    EXPECT_EQ(run.TextOf(kSecond, 37), "8.00");
 }
 
 TEST(Undo, IsOneLevelAndStaysUntilUsed) {

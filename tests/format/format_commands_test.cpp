@@ -786,4 +786,17 @@ TEST(FormatDefault, OneThatCouldNotBeWrittenIsNotTheDefault) {
     EXPECT_TRUE(run.HasSetting("Default File Format:"));
 }
 
+TEST(FormatSave, LeavesAProposalWithTextToBeSavedWithItsLayout) {
+    for (const bool text : {false, true}) {
+        Formats run;
+        run.Open();
+        if (text) {
+            run.Type();
+        }
+        run.program.format.LogoChanged = true;
+        modFormat::mnuFileFormatSave_Click(run.program);
+        EXPECT_EQ(run.program.document.SavedStateStale, text);
+    }
+}
+
 } // namespace

@@ -121,4 +121,31 @@ TEST(TextPrint, SetsItsOwnFontWhateverThePrinterWasLeftWith) {
     EXPECT_EQ(printed, 2);
 }
 
+TEST(TextPrint, EveryLineStandsAtItsOwnPlaceWhereverThePrinterWasLeft) {
+    RunningProgram run;
+    RecordingPrinter& paper = run.surroundings.printers.Paper;
+    paper.CurrentX = 5000;
+    paper.CurrentY = 9000;
+    modPrint::PrintText(run.program, "Notes", "one\ntwo\nthree");
+    ASSERT_EQ(paper.Documents.size(), 1U);
+    float top = 720; // half an inch, and 200 twips a line
+    for (const DrawCall& call : paper.Documents[0]) {
+        if (call.Op == DrawCall::What::Print) {
+            EXPECT_EQ(call.X, 720) << call.Text;
+            EXPECT_EQ(call.Y, top) << call.Text;
+            top += 200;
+        }
+    }
+    EXPECT_EQ(top, 720 + 3 * 200);
+}
+
+TEST(TextPrint, WithoutAPrinterItIsSaid) {
+    RunningProgram run;
+    run.program.run.NoPrinter = true;
+    run.surroundings.questions.ExpectBox({"Printer Error 482. Printer not found.", Buttons::Ok, ""},
+                                         Answer::Ok);
+    modPrint::PrintText(run.program, "Notes", "one");
+    EXPECT_TRUE(run.surroundings.printers.Commands.empty());
+}
+
 } // namespace

@@ -15,7 +15,7 @@ constexpr const char* kQuestion =
     "This terms list was changed by another program since you opened it. Overwrite it?";
 
 Rewriting WriteOver(Settled& run, files::Seen& seen) {
-    return modRewrite::Rewrite(run.program, run.folder / "list", "new", seen, "terms list");
+    return modRewrite::Rewrite(run.program, run.folder / "list", "new", seen, "This terms list");
 }
 
 TEST(Rewriting, AFileThatIsAsItWasSeenIsOverwrittenWithoutAQuestion) {

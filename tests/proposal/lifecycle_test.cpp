@@ -573,6 +573,17 @@ TEST(Backup, RestoringPutsTheFileBackInPlaceOfTheOther) {
     run.folder.Write("Proposals/Jane Roe.hef", "spoilt");
     run.folder.Write("Proposals/Jane Roe.hxt", "notes");
     run.OpenBackup("Jane Roe.hef");
+    const std::string question = "Replace the proposal Jane Roe.hef with this backup copy?";
+    const ScriptedQuestions::Box box{question, Buttons::YesNo, "Replacing the Original Proposal"};
+    run.surroundings.questions.ExpectBox(box, Answer::No);
+    modProposal::mnuFileRestoreFromBackup_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), "spoilt");
+    EXPECT_TRUE(run.program.document.FromBackup);
+    EXPECT_TRUE(run.RestoreEnabled());
+    EXPECT_EQ(run.surroundings.questions.Manners.back().Default, Answer::No);
+    EXPECT_EQ(run.surroundings.questions.Manners.back().Lost,
+              "The file " + run.Data() + "Jane Roe.hef as saved last will be replaced.");
+    run.surroundings.questions.ExpectBox(box, Answer::Yes);
     modProposal::mnuFileRestoreFromBackup_Click(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), backup);
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Jane Roe.hef"), backup);
@@ -583,6 +594,29 @@ TEST(Backup, RestoringPutsTheFileBackInPlaceOfTheOther) {
     EXPECT_EQ(run.Main().imgFootNotes.Picture, 1);
     EXPECT_FALSE(run.program.document.FromBackup);
     EXPECT_FALSE(run.RestoreEnabled());
+}
+
+TEST(Backup, RestoringAsksNothingWhereNothingIsLost) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    modFile::BackupThisFile(run.program);
+    run.folder.Write("Proposals/Jane Roe.hef", run.folder.Read("Proposals/Backup/Jane Roe.hef"));
+    run.OpenBackup("Jane Roe.hef");
+    modProposal::mnuFileRestoreFromBackup_Click(run.program);
+    EXPECT_FALSE(run.program.document.FromBackup) << "both are the same";
+    run.folder.Write("Proposals/Backup/Jane Roe.hpf", "frmP1.txt(10).FontBold=True\r\n");
+    run.folder.Write("Proposals/Jane Roe.hpf", "frmP1.txt(11).FontBold=True\r\n");
+    run.OpenBackup("Jane Roe.hef");
+    run.surroundings.questions.Expect("Replace the proposal Jane Roe.hef", Answer::No);
+    modProposal::mnuFileRestoreFromBackup_Click(run.program);
+    EXPECT_EQ(run.surroundings.questions.Manners.back().Lost,
+              "The file " + run.Data() + "Jane Roe.hef and its layout as saved last will be replaced.");
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hpf"), "frmP1.txt(11).FontBold=True\r\n");
+    std::filesystem::remove(run.folder / "Proposals/Jane Roe.hpf");
+    std::filesystem::remove(run.folder / "Proposals/Jane Roe.hef");
+    run.OpenBackup("Jane Roe.hef");
+    modProposal::mnuFileRestoreFromBackup_Click(run.program);
+    EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.hef"));
 }
 
 TEST(Backup, OneThatHasGoneMeanwhileLeavesTheOtherFile) {
@@ -640,6 +674,7 @@ TEST(Backup, WhatWasPutBackIsTheProgramsOwnAndIsSavedOverWithoutAQuestion) {
     std::string newer = run.folder.Read("Proposals/Backup/Jane Roe.hef");
     newer[200] = '7';
     run.folder.Write("Proposals/Backup/Jane Roe.hef", newer);
+    run.surroundings.questions.Expect("Replace the proposal Jane Roe.hef", Answer::Yes);
     modProposal::mnuFileRestoreFromBackup_Click(run.program);
     EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), newer);
     EXPECT_FALSE(files::ChangedSince(run.Data() + "Jane Roe.hef", run.program.document.SavedFile));

@@ -514,6 +514,17 @@ TEST(Colours, OfALabelAreKeptByAnyWayOfClosing) {
     EXPECT_EQ(run.Prop(9).ForeColor, 128U);
 }
 
+TEST(Colours, OfTheAreasShowAtOnceInTheWindowThatAskedForThem) {
+    Designing run;
+    frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+    EXPECT_EQ(window.lblFontColor.Caption, "Current Font Color = Black");
+    window.cmdColors_Click(run.program);
+    auto& colours = dynamic_cast<frmRGB&>(*modWindows::Find(run.program, "frmRGB"));
+    colours.Blu_Change(run.program, 255);
+    colours.cmdOK_Click(run.program);
+    EXPECT_EQ(window.lblFontColor.Caption, "Current Font Color = Blue");
+}
+
 TEST(LabelProps, TheFontOfTheLabelIsTheOneMarked) {
     Designing run;
     run.Click(9);
@@ -927,6 +938,15 @@ TEST(LabelWindow, OkMakesALabelOfTheFormatAChangeOfThePersonsInEveryTable) {
         EXPECT_FALSE(record->FromFormat);
     }
     EXPECT_FALSE(IsSelected(run.Label(PageId::frmP1, 9)));
+}
+
+TEST(Titles, MadeTheDefaultAreTheProposalsHeadingToo) {
+    Designing run;
+    frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    window.txtTitle_Change("Ours - ");
+    window.cmdDefault_Click(run.program);
+    EXPECT_EQ(run.program.document.PageHeading, "Ours - ");
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Ours - Page 2");
 }
 
 } // namespace

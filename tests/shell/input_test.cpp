@@ -323,4 +323,37 @@ TEST(Mouse, WhateverItDoesNextAMoveWhoseKeyIsStillHeldIsStoredFirst) {
     }
 }
 
+TEST(Input, TheCaretsLabelFollowsTheKeysInAQuantityToo) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 3);
+    typist.Press(keys::kF8);
+    typist.Type("125");
+    ASSERT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP2, FieldKind::txtQty, 3}));
+    EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 3");
+    person::KeyUp(run.program, keys::kLeft, 0, 2, 0);
+    EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 2");
+}
+
+TEST(Input, TheCaretsLabelFollowsTheKeyboardFromBoxToBoxWhileTheKeyIsDown) {
+    RunningProgram run;
+    Typist typist(run.program);
+    for (const int row : {4, 3}) {
+        typist.Click(PageId::frmP2, row);
+        typist.Press(keys::kF8);
+        typist.Type("125");
+    }
+    const std::string& told = run.program.main.lblCurPos.Caption;
+    EXPECT_EQ(told, "Cursor Location = 3");
+    typist.Hold(keys::kDown);
+    const FieldRef below{PageId::frmP2, FieldKind::txtQty, 4};
+    ASSERT_EQ(run.program.main.Focus, below);
+    EXPECT_EQ(run.program.pages[PageId::frmP2].txtQty[4].SelStart, 0) << "all of it is marked";
+    EXPECT_EQ(told, "Cursor Location = 0");
+    modInput::CursorMoved(run.program, below, 2, 0);
+    ASSERT_EQ(told, "Cursor Location = 2");
+    modInput::FieldEntered(run.program, {PageId::frmP2, FieldKind::txtQty, 3});
+    EXPECT_EQ(told, "Cursor Location = 0");
+}
+
 } // namespace

@@ -40,9 +40,13 @@ TEST(Notice, TellsOfAKeyThatAnAmountDoesNotTake) {
     Typist typist(run.program);
     const std::string takes = "\" was not taken: an amount takes digits, comma, point and minus.";
     typist.Click(PageId::frmP1, 20);
-    typist.Type("(30)");
+    const std::string brackets =
+        "Brackets were not taken and make no minus: type -100 for a negative amount.";
+    typist.Type("(");
+    EXPECT_EQ(run.program.main.Notice, brackets);
+    typist.Type("30)");
     EXPECT_EQ(run.TextOf(PageId::frmP1, 20), "30");
-    EXPECT_EQ(run.program.main.Notice, "\")" + takes);
+    EXPECT_EQ(run.program.main.Notice, brackets);
     typist.Click(PageId::frmP1, 21);
     typist.Type("1e");
     EXPECT_EQ(run.program.main.Notice, "\"e" + takes);
@@ -50,7 +54,7 @@ TEST(Notice, TellsOfAKeyThatAnAmountDoesNotTake) {
     EXPECT_EQ(run.program.main.Notice, "") << "the strip keeps it on show";
     typist.Click(PageId::frmP6, 4);
     typist.Type("(");
-    EXPECT_EQ(run.program.main.Notice, "\"(" + takes);
+    EXPECT_EQ(run.program.main.Notice, brackets);
     typist.Click(PageId::frmP1, 2);
     typist.Type("(e");
     EXPECT_EQ(run.program.main.Notice, "") << "a name takes every character";
@@ -65,6 +69,32 @@ TEST(Notice, TellsOfAKeyThatQuantityAndUnitPriceDoNotTake) {
     EXPECT_EQ(run.program.pages[PageId::frmP2].txtQty[0].Text, "2");
     EXPECT_EQ(run.program.main.Notice,
               "\"-\" was not taken: quantity and unit price take digits, comma and point.");
+}
+
+TEST(Notice, TellsOfAPasteThatIsNoNumber) {
+    RunningProgram run;
+    Typist typist(run.program);
+    std::string& clipboard = run.surroundings.clipboard.Text;
+    const std::vector<FieldRef> figures{{PageId::frmP1, FieldKind::txt, 20},
+                                        {PageId::frmP6, FieldKind::txt, 4}};
+    for (const FieldRef& figure : figures) {
+        typist.Click(figure);
+        typist.PasteByKey("12,50\n", clipboard);
+        EXPECT_EQ(run.program.main.Notice, "\"12,50\" was not taken: it is no number.");
+        typist.PasteByKey("12.50", clipboard);
+        EXPECT_EQ(run.program.main.Notice, "");
+        typist.PasteByMouse(figure, 0, "ten");
+        EXPECT_EQ(run.program.main.Notice, "\"ten\" was not taken: it is no number.");
+        typist.PasteByKey("", clipboard);
+        EXPECT_EQ(run.program.main.Notice, "") << "there was nothing to take";
+        typist.PasteByKey("Chairs, tables and a tent for two hundred guests\nLamps", clipboard);
+        EXPECT_EQ(run.program.main.Notice,
+                  "\"Chairs, tables and a tent for ...\" was not taken: it is no number.");
+    }
+    typist.Click(PageId::frmP2, 0);
+    typist.Press(keys::kF8);
+    typist.PasteByKey("20,50", clipboard);
+    EXPECT_EQ(run.program.main.Notice, "\"20,50\" was not taken: it is no number.");
 }
 
 TEST(Notice, WaitsForAPersonWhoIsAway) {

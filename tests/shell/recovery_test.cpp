@@ -156,6 +156,29 @@ TEST(Recovery, ASecondProposalOfAClientComesBackAsANewOne) {
     EXPECT_EQ(runs.first->folder.Read("Proposals/Ann.hef"), stored);
 }
 
+TEST(Recovery, AShareThatIsAwayAtTheStartHasItAskedLater) {
+    Runs runs;
+    const ScratchFolder share;
+    runs.first->program.document.FilePath = share / "Shared/";
+    share.MakeFolder("Shared");
+    runs.Fill(2, "Ann");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    const std::string away = share / "Away";
+    fs::rename(share / "Shared", away);
+    const std::string backup = runs.first->folder / "Proposals/Backup/Ann (Shared).hef";
+    fs::rename(backup, away + "/kept");
+    runs.StartAgain("", Answer::No);
+    modClosing::MDIForm_Unload(runs.program);
+    fs::rename(away + "/kept", backup);
+    fs::rename(away, share / "Shared");
+    RecordingPlatform third;
+    Program program(third.platform);
+    third.questions.Expect("The proposal Ann has changes from ", Answer::Yes);
+    runs.Start(program, third);
+    EXPECT_EQ(program.pages[PageId::frmP1].txt[10].Text, "twelve sandwiches and a cake");
+}
+
 TEST(Recovery, AProposalWithoutAClientsNameComesBackWithoutOne) {
     Runs runs;
     runs.Fill(10, "twelve sandwiches and a cake");

@@ -10,6 +10,7 @@
 #include "shell/command_run.h"
 #include "shell/frm_main.h"
 #include "shell/input.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -559,6 +560,40 @@ TEST(RightMoney, IsWhatThePrintedAndSavedRowsAddUpTo) {
     }
     EXPECT_GT(proof.Rows, static_cast<int>(sequences)) << "rows with amounts were looked at";
     EXPECT_GT(proof.Told, static_cast<int>(sequences) / 100) << "large amounts were among them";
+}
+
+TEST(RightMoney, StandsAlikeOnOurCopyAndTheClients) {
+    RunningProgram run;
+    Typist typist(run.program);
+    const auto figures = [&](PageId page) {
+        std::vector<std::string> shown;
+        for (int index = 0; index < 6; ++index) {
+            shown.push_back(run.TextOf(page, index));
+        }
+        return shown;
+    };
+    const auto expectAlike = [&](const char* when) {
+        EXPECT_EQ(figures(PageId::frmP6), figures(PageId::frmP6_1)) << when;
+    };
+    expectAlike("untouched");
+    person::ClickPageButton(run.program, 5);
+    expectAlike("page 6 in front");
+    person::ClickPageButton(run.program, 6);
+    expectAlike("the client's copy in front");
+    typist.Click(PageId::frmP1, 20);
+    typist.Type("100");
+    expectAlike("an amount under way");
+    person::ClickPageButton(run.program, 5);
+    expectAlike("an amount left for page 6");
+    person::ClickPageButton(run.program, 6);
+    expectAlike("an amount left for the client's copy");
+    person::StartAnew(run.program);
+    expectAlike("the next proposal");
+    typist.Click(PageId::frmP6, 4);
+    typist.Click(PageId::frmP1, 20);
+    typist.Type("7");
+    typist.Click(PageId::frmP1, 21);
+    expectAlike("the deposit visited");
 }
 
 } // namespace

@@ -137,6 +137,49 @@ TEST(ShownFigures, AreToldToLeaveOutWhatIsNoNumber) {
     EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "100.00");
 }
 
+TEST(ShownFigures, AreToldToLeaveOutADepositThatIsNoNumber) {
+    for (const char* deposit : {"12,50", "50-60"}) {
+        RunningProgram run;
+        Typist typist(run.program);
+        typist.Click(PageId::frmP1, 2);
+        typist.Type("Ann");
+        typist.Click(PageId::frmP1, 20);
+        typist.Type("100");
+        typist.Click(PageId::frmP6, 4);
+        typist.Type(deposit);
+        const std::string message =
+            std::string("These are no numbers and count as nothing:\r\nPage 6, Deposit Received: ") + deposit;
+        for (const CommandId command :
+             {CommandId::mnuFilePrintPage6, CommandId::mnuFilePrintPreview, CommandId::mnuFileSaveAsText,
+              CommandId::mnuFileCopyProposal, CommandId::mnuFileSaveEvent}) {
+            run.surroundings.questions.ExpectBox({message, Buttons::YesNo, ""}, Answer::No);
+            commands::Run(run.program, command);
+        }
+        EXPECT_TRUE(run.surroundings.printers.Paper.Documents.empty());
+        EXPECT_FALSE(run.folder.Has("Proposals/Ann.hef"));
+        run.surroundings.questions.ExpectBox({message, Buttons::YesNo, ""}, Answer::Yes);
+        commands::Run(run.program, CommandId::mnuFilePrintPage6);
+        EXPECT_EQ(run.surroundings.printers.Paper.Documents.size(), 1U);
+        EXPECT_EQ(run.TextOf(PageId::frmP6, 4), deposit);
+    }
+}
+
+TEST(ShownFigures, NameADepositBehindTheLines) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP6, 4);
+    typist.Type("12,50");
+    typist.Click(PageId::frmP1, 20);
+    typist.Type("1-2");
+    EXPECT_EQ(modTotals::UncountedTexts(run.program),
+              (std::vector<std::string>{"Page 1, line 1: 1-2", "Page 6, Deposit Received: 12,50"}));
+    typist.Click(PageId::frmP6, 4);
+    typist.PutCursor(0, 5);
+    typist.Type("-");
+    EXPECT_EQ(modTotals::UncountedTexts(run.program), (std::vector<std::string>{"Page 1, line 1: 1-2"}))
+        << "a dash tells it itself";
+}
+
 TEST(ShownFigures, AgreeWithOneAnotherOnOneSheet) {
     RunningProgram run;
     run.program.totals.TaxRate = 7;

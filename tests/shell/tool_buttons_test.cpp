@@ -147,4 +147,13 @@ TEST(ToolButtons, SaveAndSaveAsSaveTheProposal) {
     EXPECT_FALSE(run.surroundings.words.Word.Verbs.empty());
 }
 
+TEST(ToolButtons, AfterAPressThatWasLeftTheNextOneIsRaisedAlone) {
+    Strip run;
+    modToolButtons::PressToolButton(run.program, run.Main().imgNew);
+    modToolButtons::LeaveToolButton(run.program);
+    modToolButtons::HoverToolButton(run.program, run.Main().imgOpen);
+    ExpectFrame(run.Main(), 0, true);
+    ExpectFrame(run.Main(), 1, false);
+}
+
 } // namespace

@@ -40,4 +40,8 @@ TEST(Words, OfAddressesArePassedOver) {
     EXPECT_EQ(Words("zzz.comb zzz.community"), (List{"zzz", "comb", "zzz", "community"}));
 }
 
+TEST(Words, StandBetweenBlanksTabsAndBlanksThatDoNotBreak) {
+    EXPECT_EQ(Words("see\twww.zzz.zz\tor\xA0zzz.com\xA0now"), (List{"see", "or", "now"}));
+}
+
 } // namespace
