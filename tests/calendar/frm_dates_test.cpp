@@ -448,4 +448,106 @@ TEST(Calendar, WhatIsSelectedAnewTakesThePlaceOfWhatWas) {
     EXPECT_EQ(window.lstDates.SelCount(), 0) << "there are no such rows";
 }
 
+TEST(Calendar, TheMenuChangesTheViewAndTakesTheLastNoticeAway) {
+    Dated run;
+    run.Proposal("Yesterday.hef", "1/20/2008");
+    run.Proposal("Tenth.hef", "1/31/2008");
+    run.Proposal("Eleventh.hef", "2/1/2008");
+    frmDates& window = run.Open();
+    window.Choose(run.program, "mnuViewExpiredEvents");
+    EXPECT_EQ(window.lstDates.Items, (Dated::Items{"Jan/20/2008\tYesterday.hef"}));
+    window.Choose(run.program, "mnuViewNewEvents");
+    EXPECT_EQ(window.lstDates.Items, (Dated::Items{"Jan/31/2008\tTenth.hef"}));
+    run.Select(window, {0});
+    window.Choose(run.program, "mnuOptDelete");
+    ASSERT_EQ(window.lblNotice.Caption, "1 proposal moved to Backup");
+    window.Choose(run.program, "mnuViewEventDates");
+    run.Select(window, {0});
+    window.Choose(run.program, "mnuOptDelete");
+    ASSERT_EQ(window.lblNotice.Caption, "1 proposal moved to Backup");
+    window.Choose(run.program, "mnuFilePrint");
+    EXPECT_EQ(window.lblNotice.Caption, "");
+}
+
+TEST(Calendar, ADayPickedInTheMonthIsForgottenWithTheRowsItWasPickedAmong) {
+    Dated run;
+    run.Proposal("A.hef", "1/21/2008");
+    frmDates& window = run.Open();
+    window.PickDay(run.program, 39468);
+    window.Choose(run.program, "mnuViewNewEvents");
+    EXPECT_EQ(window.ShadedDay, std::nullopt);
+}
+
+TEST(Calendar, EveryProposalThatWasFoundHasItsRowAndNothingWithoutADate) {
+    Dated run;
+    run.Proposal("Words.hef", "in spring");
+    run.Proposal("Dated.hef", "1/21/2008");
+    run.Open();
+    std::vector<std::string> found = run.program.calendar.EventFiles;
+    std::sort(found.begin(), found.end());
+    EXPECT_EQ(found, (Dated::Items{"", "Jan/21/2008\tDated.hef"}));
+    std::vector<std::string> heads = run.program.calendar.EventDateText;
+    std::sort(heads.begin(), heads.end());
+    EXPECT_EQ(heads, (Dated::Items{"1/21/2008" + std::string(16, ' '), "in spring" + std::string(16, ' ')}));
+}
+
+TEST(Calendar, ARestartedListForgetsWhatHadNoDate) {
+    Dated run;
+    run.Proposal("Words.hef", "in spring");
+    run.Proposal("Dated.hef", "1/21/2008");
+    frmDates& window = run.Open();
+    ASSERT_EQ(run.program.calendar.Undated, 1);
+    ASSERT_NE(window.lblUndated.ToolTipText, "");
+    run.Proposal("Words.hef", "1/22/2008");
+    window.Choose(run.program, "mnuViewEventDates");
+    EXPECT_EQ(run.program.calendar.Undated, 0);
+    EXPECT_TRUE(run.program.calendar.UndatedNames.empty());
+    EXPECT_EQ(window.lblUndated.ToolTipText, "");
+}
+
+TEST(Calendar, OfSeveralThatLieInBackupAlreadyNoneIsWrittenOver) {
+    Dated run;
+    for (const std::string name : {"A.hef", "B.hef", "C.hef"}) {
+        run.Proposal(name, "1/21/2008");
+        run.folder.Write("Proposals/Backup/" + name + ".old", "older " + name);
+    }
+    frmDates& window = run.Open();
+    run.Select(window, {0, 1, 2});
+    run.surroundings.questions.Expect("C.hef - File already exists");
+    window.Choose(run.program, "mnuOptDelete");
+    for (const std::string name : {"A.hef", "B.hef", "C.hef"}) {
+        EXPECT_TRUE(run.folder.Has("Proposals/" + name));
+        EXPECT_EQ(run.folder.Read("Proposals/Backup/" + name + ".old"), "older " + name);
+    }
+}
+
+TEST(Calendar, AProposalThatCannotBeReadLeavesTheNewOneWithoutAFile) {
+    Dated run;
+    run.Proposal("Gone.hef", "1/1/2008");
+    frmDates& window = run.Open();
+    fs::remove(run.folder / "Proposals/Gone.hef");
+    run.program.document.FilePath = run.folder / "Elsewhere/";
+    ASSERT_FALSE(run.program.document.FileExists);
+    run.Select(window, {0});
+    run.surroundings.questions.Expect("OpenEventFile");
+    window.Choose(run.program, "mnuFileOpen");
+    EXPECT_FALSE(run.program.document.FileExists);
+    EXPECT_EQ(run.program.document.FilePath, run.folder / "Elsewhere/");
+}
+
+TEST(Calendar, AnOpenedProposalComesWithItsLayoutAndItsFile) {
+    Dated run;
+    SaveJaneRoe(run);
+    const std::string line = "UDP.FontName=Arial .FontSize=9 .FontColor=0 .FontItalic=True";
+    run.folder.Write("Proposals/Jane Roe.hpf", line + "\r\n");
+    frmDates& window = run.Open();
+    run.program.document.PropertiesIgnored = true;
+    run.Select(window, {0});
+    window.Choose(run.program, "mnuFileOpen");
+    EXPECT_TRUE(run.program.document.FileExists);
+    EXPECT_FALSE(run.program.document.PropertiesIgnored);
+    EXPECT_EQ(run.Area(PageId::frmP2, 1).FontName, "Arial");
+    EXPECT_TRUE(run.Area(PageId::frmP2, 1).FontItalic);
+}
+
 } // namespace

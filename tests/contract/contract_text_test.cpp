@@ -229,4 +229,38 @@ TEST(ContractLines, WhatComesInHasCrLfAndNoTabsOrNuls) {
     EXPECT_EQ(modContract::Incoming(std::string_view("a\rb\nc\r\nd\te\0f", 12)), "a\r\nb\r\nc\r\nd ef");
 }
 
+TEST(ContractHistory, WhatWasUndoneBeforeAnotherEditNeverComesBack) {
+    Short text("abcd");
+    text.text.Replace(4, 0, "efgh", ContractText::Kind::Whole);
+    EXPECT_EQ(text.text.Undo(), 4);
+    text.text.Replace(0, 0, "x", ContractText::Kind::Whole);
+    EXPECT_EQ(text.text.Undo(), 0);
+    EXPECT_EQ(text.text.Text(), "abcd");
+    EXPECT_FALSE(text.text.CanUndo());
+    EXPECT_EQ(text.text.Redo(), 1);
+    EXPECT_EQ(text.text.Text(), "xabcd");
+    EXPECT_FALSE(text.text.CanRedo());
+}
+
+TEST(ContractHistory, AnotherTextHasNone) {
+    for (const bool undone : {false, true}) {
+        Short text("abcd");
+        text.text.Replace(4, 0, "e", ContractText::Kind::Whole);
+        if (undone) {
+            EXPECT_EQ(text.text.Undo(), 4);
+        }
+        text.text.SetText("other");
+        EXPECT_FALSE(text.text.CanUndo());
+        EXPECT_FALSE(text.text.CanRedo());
+    }
+}
+
+TEST(ContractHistory, AnEditBehindTheEndStandsAtTheEnd) {
+    Short text("ab");
+    text.text.Replace(9, 1, "x", ContractText::Kind::Whole);
+    EXPECT_EQ(text.text.Text(), "abx");
+    EXPECT_EQ(text.text.Undo(), 2);
+    EXPECT_EQ(text.text.Text(), "ab");
+}
+
 } // namespace

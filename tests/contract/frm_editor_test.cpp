@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 namespace {
@@ -419,6 +420,54 @@ TEST(Contract, AnEditPutsTheCaretBehindIt) {
     EXPECT_EQ(window.SelStart, 10);
     EXPECT_EQ(window.SelLength, 0);
     EXPECT_EQ(window.lblCharCount.Caption, "Current Position = 10. Text contains 10 characters.");
+}
+
+TEST(Contract, TheChosenFontGoesIntoTheLabelsOfBothFinalPagesAndIntoWhatIsKept) {
+    Contracted run;
+    frmEditor& window = run.Open();
+    const auto other =
+        std::find_if(window.cmbFont.Items.begin(), window.cmbFont.Items.end(),
+                     [&](const std::string& name) { return name != run.Label(PageId::frmP6, 13).FontName; });
+    ASSERT_NE(other, window.cmbFont.Items.end());
+    const std::string font = *other;
+    const bool italic = !run.Label(PageId::frmP6, 13).FontItalic;
+    window.cmbFont_Click(run.program, static_cast<int>(other - window.cmbFont.Items.begin()));
+    window.chkItalic_Click(run.program);
+    run.Replace(window, "Half now.");
+    window.Choose(run.program, "mnuFileExportAndExit");
+    const FormatRecords& format = run.program.format;
+    for (std::size_t index = 13; index <= 47; ++index) {
+        const PageLabel& label = run.program.pages[PageId::frmP6].lbl[index];
+        for (const PageLabel& each : {label, run.program.pages[PageId::frmP6_1].lbl[index]}) {
+            EXPECT_EQ(each.FontName, font) << index;
+            EXPECT_EQ(each.FontItalic, italic) << index;
+        }
+        for (const auto* table :
+             {&format.PropLabelChanges, &format.FormatLabelChanges, &format.LabelSavedState}) {
+            const LabelChangeRecord& kept = (*table)[PageId::frmP6][index];
+            EXPECT_EQ(kept.FontName, font) << index;
+            EXPECT_EQ(kept.FontItalic, italic) << index;
+            EXPECT_EQ(kept.Left, label.Left) << index;
+            EXPECT_EQ(kept.Top, label.Top) << index;
+        }
+    }
+}
+
+TEST(Contract, SelectAllMarksTheWholeText) {
+    Contracted run;
+    frmEditor& window = run.Open();
+    run.Replace(window, "one\r\ntwo");
+    window.Choose(run.program, "mnuEditSelectAll");
+    EXPECT_EQ(window.SelStart, 0);
+    EXPECT_EQ(window.SelLength, 8);
+}
+
+TEST(Contract, TheCommandBringsTheOpenWindowToTheFront) {
+    Contracted run;
+    const frmEditor& window = run.Open();
+    const int before = window.FrontCalls;
+    EXPECT_EQ(&run.Open(), &window);
+    EXPECT_EQ(window.FrontCalls, before + 1);
 }
 
 } // namespace

@@ -424,4 +424,14 @@ TEST(Footnotes, WordsBetweenTabsStandOnOneLineWhileThereIsRoom) {
     EXPECT_EQ(prints[4].Y, 720 + 400);
 }
 
+TEST(Footnotes, KeepTheRightMarginAsWellAsTheLeft) {
+    for (const std::size_t second : {50U, 51U}) { // with the blank 111 and 112 characters of 100 twips
+        Noted run;
+        frmNotes& window = run.Open();
+        window.txtNotes_Change(run.program, std::string(60, 'a') + " " + std::string(second, 'b'));
+        window.Choose(run.program, "mnuFilePrint");
+        EXPECT_EQ(Printed(run).size(), second == 50U ? 2U : 3U);
+    }
+}
+
 } // namespace

@@ -147,4 +147,12 @@ TEST(Figures, MayHaveTheirSignOnEitherSide) {
     }
 }
 
+TEST(Figures, HaveCommasBetweenGroupsOfThreeAlone) {
+    EXPECT_EQ(modDeposits::ReadFigure("1,250,000"), 125000000);
+    EXPECT_EQ(modDeposits::ReadFigure("12,250.5"), 1225050);
+    for (const char* none : {"1,25,000", "1,2500", "1250,000", ",250", "1,250,00", "1,2,500"}) {
+        EXPECT_EQ(modDeposits::ReadFigure(none), std::nullopt) << none;
+    }
+}
+
 } // namespace

@@ -641,4 +641,31 @@ TEST(Deposits, AfterARowHasGoneNoneIsMarked) {
     EXPECT_EQ(window.lst.Items, (Deposited::Items{"a\t\t$ 100.00", "c\t\t$ 250.00"}));
 }
 
+TEST(Deposits, TheNameOfTheFileIsMarkedWholeUntilARowIsTakenForEditing) {
+    Deposited run;
+    run.File("J. Roe\r\nJan 21, 2008\t\t$ 500.00");
+    frmDeposits& window = run.Open();
+    EXPECT_EQ(window.txtName.SelLength, 6);
+    window.lst_Click({0}, 0);
+    EXPECT_EQ(window.lst.ListIndex, 0);
+    run.Boxes().Expect("The selected item has been placed");
+    window.Choose(run.program, "mnuEditItem");
+    EXPECT_EQ(window.txtName.SelLength, 0);
+    EXPECT_EQ(window.txtAmount.SelLength, 0);
+    EXPECT_EQ(window.txtDate.SelLength, 12);
+    window.cmdSave_Click(run.program);
+    EXPECT_EQ(window.txtDate.SelLength, 0);
+}
+
+TEST(Deposits, AnotherNameReachesAFileThatHasNoRows) {
+    Deposited run;
+    run.File("Jane Roe");
+    run.Boxes().ExpectBox(kMismatch, Answer::Ok);
+    frmDeposits& window = run.Open();
+    window.txtName_Change(run.program, "J. Roe");
+    run.Boxes().TakeAll(Answer::No); // the proposal's deposit stays
+    window.Choose(run.program, "mnuFileSave");
+    EXPECT_EQ(run.File(), "J. Roe");
+}
+
 } // namespace

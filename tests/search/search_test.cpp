@@ -309,4 +309,18 @@ TEST(Search, ThePhraseThatStandsInTheBoxIsSearchedForAsItStands) {
     EXPECT_EQ(run.Area(kSecond, 1).SelLength, 5);
 }
 
+TEST(Search, OneOfTheTwoRangesIsChosenAndTheBoxHoldsWhatWasTyped) {
+    SearchRun run;
+    frmSearch* dialog = run.Open();
+    ASSERT_NE(dialog, nullptr);
+    dialog->cmbSearch_Change(run.program, "chair");
+    EXPECT_EQ(dialog->cmbSearch.Text, "chair");
+    for (const int range : {1, 0}) {
+        dialog->optSearch_Click(run.program, range);
+        EXPECT_EQ(dialog->optSearch[0].Value, range == 0);
+        EXPECT_EQ(dialog->optSearch[1].Value, range == 1);
+        EXPECT_EQ(run.program.search.SearchAllPages, range == 0);
+    }
+}
+
 } // namespace

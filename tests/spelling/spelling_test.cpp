@@ -482,4 +482,26 @@ TEST(SpellingWindow, AnUndoBringsTheAreaItGoesBackToIntoView) {
     EXPECT_EQ(run.program.main.PageInFront, PageId::frmP2);
 }
 
+TEST(SpellingWindow, UndoOfIgnoreAllAsksAboutTheWordAgainWhereverItStands) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "zzyzx Tabels zzyzx");
+    run.Start();
+    run.Window().cmdIgnoreAll_Click(run.program);
+    ASSERT_EQ(run.Window().txtText.SelStart, 6);
+    run.Window().cmdUndo_Click(run.program);
+    EXPECT_EQ(run.Window().txtText.SelStart, 0);
+    run.Window().cmdIgnore_Click(run.program);
+    run.Window().cmdIgnore_Click(run.program);
+    EXPECT_EQ(run.Window().txtText.SelStart, 13) << "the second one is not ignored any more";
+}
+
+TEST(SpellingWindow, TheFirstSuggestionIsTheChosenOneWhereThereIsAny) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars zzyzx");
+    run.Start();
+    EXPECT_EQ(run.Window().lstSuggestions.ListIndex, 0);
+    run.Window().cmdIgnore_Click(run.program);
+    EXPECT_EQ(run.Window().lstSuggestions.ListIndex, -1);
+}
+
 } // namespace
