@@ -72,6 +72,16 @@ TEST(SmallWindow, ThatClosesBehindAnAnsweredBoxHandsTheKeyboardBack) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == run.window.get(); }, 500));
 }
 
+TEST(Preview, LeavesTheKeyboardWithTheDeskUntilItEnds) {
+    WindowRun run;
+    const FieldRef field{PageId::frmP1, FieldKind::txt, 3};
+    run.Click(field);
+    run.Command(CommandId::mnuFilePrintPreview);
+    EXPECT_EQ(run.window->focusWidget(), run.Child("desk"));
+    run.Command(CommandId::mnuFileResume);
+    EXPECT_EQ(run.window->focusWidget(), &run.Field(field));
+}
+
 } // namespace
 
 TEST(WindowInView, TypingComesBackToAFieldThatWasScrolledAway) {
