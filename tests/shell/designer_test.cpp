@@ -470,6 +470,20 @@ TEST(TextProperties, ApplyChangesPaintsTheFinalPageAndTheBoxInHandToo) {
     EXPECT_EQ(box.BackColor, colors::kFocused);
 }
 
+TEST(TextProperties, ATriedFontIsNotInWhatIsKeptAtTheEndOfTheSession) {
+    Designing run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Ann");
+    run.program.document.SavedStateStale = true;
+    frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+    window.optFontSize_Click(run.program, 4);
+    modClosing::KeepUnsaved(run.program);
+    const std::string kept = run.folder.Read("Proposals/Backup/Ann.hpf");
+    EXPECT_NE(kept.find(".FontSize=10 .FontColor=0"), std::string::npos) << kept;
+    EXPECT_EQ(window.txtSample.Text, "Sampling Text with Times New Roman: 10");
+}
+
 TEST(TextProperties, AsDefaultWritesTheFourSettings) {
     Designing run;
     frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
