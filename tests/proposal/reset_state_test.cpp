@@ -12,7 +12,7 @@ void SpoilNames(DocumentState& document) {
     for (std::string* name :
          {&document.BaseName, &document.FileName, &document.TextFileName, &document.FootnoteFile,
           &document.DepositFile, &document.ClientCaption, &document.PageHeading, &document.WindowTitle,
-          &document.BackupTrouble, &document.UnnamedBackup}) {
+          &document.BackupTrouble, &document.OwnBackup}) {
         *name = "spoilt";
     }
     document.TitleGiven = true;
