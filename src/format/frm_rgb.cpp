@@ -140,5 +140,8 @@ void frmRGB::Form_Cancel(Program& program) {
 void frmRGB::Form_Unload(Program& program) {
     if (ForLabel(program) && !program.run.ProgramClosing) {
         modDesigner::Commit(program);
+        if (Committed) {
+            Committed(program);
+        }
     }
 }

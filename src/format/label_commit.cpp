@@ -125,6 +125,8 @@ void CommitSelectedLabels(Program& program) {
         modTitles::UpdateFooters(program);
     }
     designer.Changed = {};
+    // A window that stays, or opens again, goes on with the label pressed last and not with the group's last.
+    designer.LabelEdit = LookOf(LabelAt(program, page, designer.CurrentLabel));
 }
 
 void RestoreLabel(Program& program) {
