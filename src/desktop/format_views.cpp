@@ -164,9 +164,9 @@ FrmLabelPropsView::FrmLabelPropsView(Program& program, frmLabelProps& window, QW
     column->addLayout(looks);
     column->addLayout(ColourRow(this, window.cmdColor,
                                 [this](int index) { Do([&] { model_.cmdColor_Click(program_, index); }); }));
-    QPushButton* more = dialog::Button(this, "cmdColors", window.cmdColors);
     QPushButton* ok = dialog::Button(this, "cmdOK", window.cmdOK);
     QPushButton* cancel = dialog::Button(this, "cmdCancel", window.cmdCancel);
+    QPushButton* more = dialog::Button(this, "cmdColors", window.cmdColors);
     dialog::Foot(column, {ok, cancel, more});
     column->addStrut(360); // at least; a wide caption makes the window wider
     Connect(caption_,
@@ -353,10 +353,10 @@ FrmRGBView::FrmRGBView(Program& program, frmRGB& window, QWidget* over, std::fun
         values->addWidget(values_[at], static_cast<int>(at), 1);
     }
     column->addLayout(values);
-    QPushButton* normal = dialog::Button(this, "cmdNormInc", window.cmdNormInc);
-    QPushButton* small = dialog::Button(this, "cmdSmInc", window.cmdSmInc);
     QPushButton* ok = dialog::Button(this, "cmdOK", window.cmdOK);
     QPushButton* cancel = dialog::Button(this, "cmdCancel", window.cmdCancel);
+    QPushButton* normal = dialog::Button(this, "cmdNormInc", window.cmdNormInc);
+    QPushButton* small = dialog::Button(this, "cmdSmInc", window.cmdSmInc);
     dialog::Foot(column, {ok, cancel, normal, small});
     connect(normal, &QPushButton::clicked, this, [this] { Do([&] { model_.cmdNormInc_Click(program_); }); });
     connect(small, &QPushButton::clicked, this, [this] { Do([&] { model_.cmdSmInc_Click(program_); }); });

@@ -194,6 +194,27 @@ TEST(DesignerOnScreen, AFontThatTheListHasNotStaysUntilAnotherIsChosen) {
     run.ExpectWindowFollows();
 }
 
+TEST(DesignerOnScreen, TabGoesAlongTheButtonsAsTheyStand) {
+    Designer run;
+    const auto along = [&](const char* window, std::initializer_list<const char*> buttons) {
+        auto* dialog = run.Find<QDialog>(window);
+        run.In<QPushButton>(window, *buttons.begin()).setFocus();
+        for (const char* button : buttons) {
+            EXPECT_EQ(dialog->focusWidget()->objectName().toStdString(), button) << window;
+            QTest::keyClick(dialog->focusWidget(), Qt::Key_Tab);
+        }
+    };
+    QTest::mouseClick(&run.View(9), Qt::LeftButton);
+    run.Choose(CommandId::mnuEditLabelProps);
+    along("frmLabelProps", {"cmdOK", "cmdCancel", "cmdColors"});
+    QTest::mouseClick(&run.In<QPushButton>("frmLabelProps", "cmdColors"), Qt::LeftButton);
+    along("frmRGB", {"cmdOK", "cmdCancel", "cmdNormInc", "cmdSmInc"});
+    QTest::keyClick(run.Find<QDialog>("frmRGB"), Qt::Key_Escape);
+    QTest::keyClick(run.Find<QDialog>("frmLabelProps"), Qt::Key_Escape);
+    run.Choose(CommandId::mnuEditAllTextFonts);
+    along("frmTextProps", {"cmdColors", "cmdOK", "cmdCancel", "cmdDefault"});
+}
+
 TEST(DesignerOnScreen, AGridIsOnePixelAPointAndTwoLinesAtEveryScale) {
     Designer run;
     run.program.format.SnapTwips = 720;
