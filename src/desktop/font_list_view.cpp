@@ -44,6 +44,8 @@ FontListView::FontListView(QWidget* parent, const std::vector<std::string>& fami
     setLayoutMode(QListView::SinglePass);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setModel(new FamilyModel(this, families));
+    // Set to none by us: otherwise the first family would be chosen by the mere coming of the keyboard.
+    setCurrentIndex({});
 }
 
 void FontListView::Follow(int index) {

@@ -446,6 +446,9 @@ void FrmMainView::FollowPages() {
         view.show();
         view.raise();
     }
+    if (page.InkShown && view.isAncestorOf(focusWidget())) {
+        desk_->setFocus(); // a field that has gone under the ink would hand it to the nearest button
+    }
     if (!windows_->ModalOpen() && !windows_->KeyboardWithin()) {
         view.FollowFocus();
         const QWidget* keyboard = focusWidget();

@@ -14,14 +14,22 @@ public:
                Came came);
     ~MessageBox() override;
 
+    /// As wide as the lines of its texts, within that room for its inside; there lines wrap, and words longer
+    /// than a line break.
+    void FitInto(const QSize& room);
+
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void KeepLines();
+    void KeepLines(const QSize& room);
+    /// What base class and layout have made of the size, mended: it lets no text be wider than its own limit.
+    void Fit();
     Came came_;
+    QSize room_; ///< for the box's inside
     /// What a person who goes on typing does not reach: one that reads and looks for the next letter needs
     /// longer than half a second from key to key.
     [[nodiscard]] qint64 Pause() const;

@@ -4,6 +4,7 @@
 #include "base/dates.h"
 #include "base/paths.h"
 #include "desktop/convert.h"
+#include "desktop/keyboard_way.h"
 #include "desktop/message_box.h"
 #include "desktop/mnemonics.h"
 #include "desktop/paper_surface.h"
@@ -133,7 +134,7 @@ OnLeaving<std::function<void()>> QtQuestions::GiveKeyboardBack() {
     }
     return OnLeaving<std::function<void()>>([this] {
         if (asking_ != nullptr && asking_->isVisible()) {
-            asking_->activateWindow();
+            keyboard::SendTo(*asking_);
         }
     });
 }

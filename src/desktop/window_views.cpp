@@ -1,6 +1,7 @@
 #include "desktop/window_views.h"
 
 #include "desktop/convert.h"
+#include "desktop/keyboard_way.h"
 #include "desktop/mnemonics.h"
 #include "desktop/paper_surface.h"
 #include "program/program.h"
@@ -142,14 +143,14 @@ void WindowViews::Follow() {
         const QPointer<QWidget> opener = openers_[at->first];
         openers_.erase(at->first);
         at = views_.erase(at);
-        const bool active = view->HasKeyboard();
+        // The keyboard goes back to where the window was opened from, also where no window manager sees to
+        // it. Behind a box that was answered in the same moment it is still on its way here.
+        QWidget& back = opener != nullptr && opener->isVisible() ? *opener : over_;
+        const bool active = view->HasKeyboard() || keyboard::IsOnItsWayTo(*view, back);
         view->Leave();
         view->deleteLater();
         if (active) {
-            // The keyboard goes back to where the window was opened from, also where no window manager sees
-            // to it.
-            QWidget& back = opener != nullptr && opener->isVisible() ? *opener : over_;
-            back.activateWindow();
+            keyboard::SendTo(back);
         }
     }
     for (const std::unique_ptr<Window>& window : open) {

@@ -24,12 +24,17 @@ void ApplyChosenFont(Program& program, const AreaFont& before) {
 }
 
 void PaintAreasAnew(Program& program) {
-    for (const PageId page : kLinePages) {
+    for (const PageId page : kEditedPages) {
         modAreaColours::ResetMyTextBoxColors(program, page);
     }
-    if (program.main.Focus && program.main.Focus->Kind == FieldKind::txt) {
-        TextArea& area = modFields::Area(program, *program.main.Focus);
+    if (!program.main.Focus) {
+        return;
+    }
+    TextArea& area = modFields::Area(program, *program.main.Focus);
+    if (program.main.Focus->Kind == FieldKind::txt) {
         modAreaColours::ColourArea(program, program.main.Focus->Page, area);
+    } else if (area.BackColor == colors::kRestingRowField && !program.editing.BlockMode) {
+        area.BackColor = colors::kFocused;
     }
 }
 

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -142,7 +143,9 @@ void frmLabelProps::cmdColor_Click(Program& program, int index) {
 
 void frmLabelProps::cmdColors_Click(Program& program) {
     program.designer.ColorOwner = "Label";
-    modWindows::Show(program, std::make_unique<frmRGB>());
+    auto window = std::make_unique<frmRGB>();
+    window->Committed = [](Program& later) { modDesigner::ShowLabelInWindow(later); };
+    modWindows::Show(program, std::move(window));
 }
 
 void frmLabelProps::cmdOK_Click(Program& program) {

@@ -1,6 +1,5 @@
 #include "format/frm_rgb.h"
 
-#include "format/frm_label_props.h"
 #include "format/label_commit.h"
 #include "program/errors.h"
 #include "program/program.h"
@@ -141,6 +140,8 @@ void frmRGB::Form_Cancel(Program& program) {
 void frmRGB::Form_Unload(Program& program) {
     if (ForLabel(program) && !program.run.ProgramClosing) {
         modDesigner::Commit(program);
-        modDesigner::ShowLabelInWindow(program); // a group is none any more
+        if (Committed) {
+            Committed(program);
+        }
     }
 }

@@ -43,6 +43,8 @@ public:
 
     /// What the opener does when a colour was applied.
     std::function<void(Program&)> Applied;
+    /// What the label window does when its labels were made last: where it had a group it goes on with one.
+    std::function<void(Program&)> Committed;
 
     [[nodiscard]] std::string_view Name() const override { return "frmRGB"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modal; }

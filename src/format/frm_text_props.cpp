@@ -134,7 +134,15 @@ void frmTextProps::Form_Cancel(Program& program) {
 }
 
 void frmTextProps::Form_Unload(Program& program) {
-    // What the pages have taken stays; everything since goes.
+    PutBack(program);
+}
+
+void frmTextProps::KeepUnsaved(Program& program) {
+    PutBack(program);
+    ShowFont(program);
+}
+
+void frmTextProps::PutBack(Program& program) {
     RunState& run = program.run;
     run.DefaultFontName = before_.Name;
     run.DefaultFontSize = before_.Size;

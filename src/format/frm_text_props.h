@@ -30,6 +30,8 @@ public:
     void Form_Load(Program& program) override;
     void Form_Unload(Program& program) override;
     void Form_Cancel(Program& program) override;
+    /// A font that is only tried is none of the proposal's.
+    void KeepUnsaved(Program& program) override;
 
     void lstFont_Click(Program& program, int index);
     void optFontSize_Click(Program& program, int index);
@@ -48,6 +50,8 @@ private:
     void CheckDefaultFontColor(const Program& program);
     /// The pages take the font in force.
     void Apply(Program& program);
+    /// What the pages have taken stays in force; everything since goes.
+    void PutBack(Program& program);
     void ShowSample(const Program& program);
     AreaFont before_;
 };

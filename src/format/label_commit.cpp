@@ -124,7 +124,7 @@ void CommitSelectedLabels(Program& program) {
         modTitles::UpdateFooters(program);
     }
     designer.Changed = {};
-    // What follows speaks of the label pressed last, not of the last one of the group.
+    // A window that stays, or opens again, goes on with the label pressed last and not with the group's last.
     designer.LabelEdit = LookOf(LabelAt(program, page, designer.CurrentLabel));
 }
 

@@ -47,6 +47,17 @@ void ShowPlace(PageLabel& label) {
                         ", Top = " + numbers::PlainNumber(label.Top / kTwipsPerInch);
 }
 
+/// A new proposal or another command may have laid the label anew since it was pressed.
+void TakeLabelAsItStands(Program& program) {
+    DesignerRecords& designer = program.designer;
+    const PageId page = *designer.LabelPage;
+    designer.LabelEdit = LookOf(LabelAt(program, page, designer.CurrentLabel));
+    PutLook(RecordOf(program.format.LabelSavedState, page, designer.CurrentLabel), designer.LabelEdit);
+    if (!RecordOf(program.format.PropLabelChanges, page, designer.CurrentLabel).Changed) {
+        designer.ChangedAtPress[page][static_cast<std::size_t>(designer.CurrentLabel)] = false;
+    }
+}
+
 /// Notes where the labels of a page differ from the first of them.
 struct Agreement {
     bool FontName = true;
@@ -236,6 +247,7 @@ void mnuEditLabelProps_Click(Program& program) {
         program.platform.questions.MsgBox("Please click the label first.", Buttons::Ok, "");
         return;
     }
+    TakeLabelAsItStands(program);
     designer.ColorOwner = "Label";
     modWindows::Show(program, std::make_unique<frmLabelProps>());
 }

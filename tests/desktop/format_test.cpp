@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -168,6 +169,29 @@ TEST(DesignerOnScreen, ThousandsOfFamiliesOpenAtOnceAndAreFoundByTyping) {
     QCoreApplication::processEvents();
     QTest::keyClicks(&list, QStringLiteral("Zeb"));
     EXPECT_EQ(chosen, 2000);
+}
+
+TEST(DesignerOnScreen, AFontThatTheListHasNotStaysUntilAnotherIsChosen) {
+    Designer run;
+    run.program.run.DefaultFontName = "Nowhere Sans";
+    run.Choose(CommandId::mnuEditAllTextFonts);
+    auto* texts = run.Find<QDialog>("frmTextProps");
+    auto* fonts = texts->findChild<FontListView*>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fonts->hasFocus(); }));
+    EXPECT_EQ(run.In<QLabel>("frmTextProps", "lblFontName").text(),
+              QStringLiteral("Current Font Name = Nowhere Sans"));
+    QTest::keyClick(texts, Qt::Key_Return);
+    EXPECT_EQ(run.program.pages[PageId::frmP2].txt[3].FontName, "Nowhere Sans");
+    run.Label(9).FontName = "Nowhere Sans";
+    QTest::mouseClick(&run.View(9), Qt::LeftButton);
+    run.Choose(CommandId::mnuEditLabelProps);
+    fonts = run.Find<QDialog>("frmLabelProps")->findChild<FontListView*>();
+    fonts->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return fonts->hasFocus(); }));
+    EXPECT_EQ(run.Label(9).FontName, "Nowhere Sans");
+    QTest::keyClick(fonts, Qt::Key_Down);
+    EXPECT_EQ(run.Label(9).FontName, run.program.run.FontList.front());
+    run.ExpectWindowFollows();
 }
 
 TEST(DesignerOnScreen, AGridIsOnePixelAPointAndTwoLinesAtEveryScale) {

@@ -118,6 +118,49 @@ TEST(MessageBox, IsAsWideAsItsLinesAndNoWiderThanTheScreen) {
     EXPECT_LE(cut.box.frameGeometry().width(), cut.box.screen()->availableGeometry().width());
 }
 
+/// Whether all of a label's text has room in it.
+bool ShowsAll(const QLabel& label) {
+    return label.heightForWidth(label.width()) <= label.height() &&
+           label.minimumSizeHint().width() <= label.width();
+}
+
+TEST(MessageBox, ShowsEveryWordOnScreensOfAnyWidth) {
+    const QString question(
+        QStringLiteral("The program did not close properly. The proposal Margaretha Wilhelmina "
+                       "Featherstonehaugh-Cholmondeley has "
+                       "changes from 11/22/2026 7:29:36 AM that were not saved. Bring them back?"));
+    const QString path = QStringLiteral("/home/somebody/") + QStringLiteral("EventsOfTheYear").repeated(9);
+    for (const QSize screen : {QSize(1280, 1024), QSize(1024, 768), QSize(640, 512)}) {
+        const QSize room = screen - QSize(16, 48);
+        for (const QString& text : {question, path, question + u'\n' + path}) {
+            Box run(Came::OnRequest, text);
+            run.box.setInformativeText(path);
+            run.box.FitInto(room);
+            QCoreApplication::processEvents();
+            EXPECT_LE(run.box.width(), room.width());
+            EXPECT_LE(run.box.height(), room.height());
+            for (const char* name : {"qt_msgbox_label", "qt_msgbox_informativelabel"}) {
+                const auto* label = run.box.findChild<QLabel*>(QLatin1String(name));
+                ASSERT_NE(label, nullptr);
+                EXPECT_TRUE(ShowsAll(*label)) << name << " of " << screen.width();
+                EXPECT_TRUE(run.box.rect().contains(label->geometry())) << name << " of " << screen.width();
+            }
+        }
+    }
+}
+
+TEST(MessageBox, IsWiderThanTheToolkitsOwnLimitWhereTheScreenHasRoom) {
+    const QString line(QStringLiteral("The proposal has changes that were not saved, and they can be brought "
+                                      "back as they stood when the program ended. Bring them back?"));
+    Box run(Came::OnRequest, line);
+    const auto* label = run.box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    const int needed = label->fontMetrics().horizontalAdvance(line);
+    run.box.FitInto(QSize(needed + 200, 600));
+    QCoreApplication::processEvents();
+    EXPECT_GE(label->width(), needed);
+    EXPECT_LT(label->height(), 2 * label->fontMetrics().lineSpacing()) << "one line";
+}
+
 TEST(FilteredEdit, TakesWhatTheModelTakesAndTellsTheRest) {
     QDialog dialog;
     QLineEdit* edit = dialog::FilteredEdit(&dialog, "box", QStringLiteral("Box"), TakeFigures);

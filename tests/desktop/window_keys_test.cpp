@@ -2,6 +2,8 @@
 #include "desktop/end_signals.h"
 #include "desktop/frm_file_view.h"
 #include "desktop/mnemonics.h"
+#include "desktop/qt_surroundings.h"
+#include "desktop/window_run.h"
 #include "program/windows.h"
 #include "shell/closing.h"
 #include "shell/command_run.h"
@@ -13,11 +15,13 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QSessionManager>
 #include <QTest>
+#include <QTimer>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
@@ -49,6 +53,33 @@ bool InSight(DesktopRun& run, const FieldRef& field) {
     const QWidget* desk = run.Child("desk");
     const int top = shown.mapTo(desk, QPoint(0, 0)).y();
     return top >= 0 && top + shown.height() <= desk->height();
+}
+
+TEST(SmallWindow, ThatClosesBehindAnAnsweredBoxHandsTheKeyboardBack) {
+    WindowRun run;
+    run.Open<Window>(CommandId::mnuOptSalesTax, "frmTax");
+    QtQuestions questions;
+    questions.Over = run.window.get();
+    QTimer::singleShot(0, run.window.get(), [] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        box->button(QMessageBox::Ok)->click();
+    });
+    static_cast<void>(questions.MsgBox("New Sales Tax Rate is 7.", Buttons::Ok, ""));
+    // In the same event as the answer: the keyboard is still on its way to the window.
+    modWindows::Close(run.program, *modWindows::Find(run.program, "frmTax"));
+    run.window->AfterEvent();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == run.window.get(); }, 500));
+}
+
+TEST(Preview, LeavesTheKeyboardWithTheDeskUntilItEnds) {
+    WindowRun run;
+    const FieldRef field{PageId::frmP1, FieldKind::txt, 3};
+    run.Click(field);
+    run.Command(CommandId::mnuFilePrintPreview);
+    EXPECT_EQ(run.window->focusWidget(), run.Child("desk"));
+    run.Command(CommandId::mnuFileResume);
+    EXPECT_EQ(run.window->focusWidget(), &run.Field(field));
 }
 
 } // namespace

@@ -449,6 +449,41 @@ TEST(TextProperties, ApplyChangesLaysTheFontAndASizeOfNothingIsTen) {
     EXPECT_TRUE(modFile::PropertiesChanged(run.program));
 }
 
+TEST(TextProperties, ApplyChangesPaintsTheFinalPageAndTheBoxInHandToo) {
+    Designing run;
+    run.surroundings.measure.UnitSize = 10;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP6, 4);
+    typist.Type("1234567890123");
+    ASSERT_EQ(run.Area(PageId::frmP6, 4).BackColor, colors::kOverLimit) << "1300 twips of 1260";
+    person::TurnTo(run.program, 1);
+    typist.Click(PageId::frmP2, 5);
+    person::Choose(run.program, CommandId::mnuEditTextColumns);
+    typist.Click({PageId::frmP2, FieldKind::txtQty, 5});
+    const TextArea& box = run.program.pages[PageId::frmP2].txtQty[5];
+    ASSERT_EQ(box.BackColor, colors::kFocused);
+    frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+    window.optFontSize_Click(run.program, 4);
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Area(PageId::frmP6, 4).BackColor, colors::kResting) << "in six points it has room";
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP2, FieldKind::txtQty, 5}));
+    EXPECT_EQ(box.BackColor, colors::kFocused);
+}
+
+TEST(TextProperties, ATriedFontIsNotInWhatIsKeptAtTheEndOfTheSession) {
+    Designing run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Ann");
+    run.program.document.SavedStateStale = true;
+    frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+    window.optFontSize_Click(run.program, 4);
+    modClosing::KeepUnsaved(run.program);
+    const std::string kept = run.folder.Read("Proposals/Backup/Ann.hpf");
+    EXPECT_NE(kept.find(".FontSize=10 .FontColor=0"), std::string::npos) << kept;
+    EXPECT_EQ(window.txtSample.Text, "Sampling Text with Times New Roman: 10");
+}
+
 TEST(TextProperties, AsDefaultWritesTheFourSettings) {
     Designing run;
     frmTextProps& window = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
@@ -512,6 +547,61 @@ TEST(Colours, OfALabelAreKeptByAnyWayOfClosing) {
     again.Red_Change(run.program, 128);
     again.cmdOK_Click(run.program);
     EXPECT_EQ(run.Prop(9).ForeColor, 128U);
+}
+
+TEST(Colours, OfAGroupLeaveTheWindowWithTheLabelPressedLast) {
+    Designing run;
+    run.DoubleClick(36, PageId::frmP2);
+    run.DoubleClick(34, PageId::frmP2);
+    const std::string caption = run.Label(PageId::frmP2, 34).Caption;
+    const float left = run.Label(PageId::frmP2, 34).Left;
+    ASSERT_NE(run.Label(PageId::frmP2, 36).Caption, caption);
+    frmLabelProps& window = run.Props();
+    window.cmdColors_Click(run.program);
+    auto& colours = dynamic_cast<frmRGB&>(*modWindows::Find(run.program, "frmRGB"));
+    colours.Blu_Change(run.program, 200);
+    colours.cmdOK_Click(run.program);
+    EXPECT_FALSE(IsSelected(run.Label(PageId::frmP2, 34)));
+    EXPECT_EQ(window.txtCaption.Text, caption);
+    EXPECT_TRUE(window.txtCaption.Enabled);
+    window.cmdOK_Click(run.program);
+    for (const auto* record : {&run.Prop(34, PageId::frmP2), &run.Format(34, PageId::frmP2)}) {
+        EXPECT_EQ(record->Caption, caption);
+        EXPECT_EQ(record->Left, left);
+        EXPECT_EQ(record->ForeColor, 200U << 16U);
+    }
+}
+
+TEST(LabelProps, AGroupThatWasCommittedLeavesTheLabelPressedLastForTheNextTime) {
+    Designing run;
+    run.DoubleClick(10);
+    run.DoubleClick(9);
+    run.Props().cmdOK_Click(run.program);
+    modWindows::Sweep(run.program);
+    frmLabelProps& window = run.Props();
+    EXPECT_EQ(window.txtCaption.Text, "Event Date");
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Prop(9).Caption, "Event Date");
+}
+
+TEST(LabelProps, OpensWithTheLabelAsItStandsInTheProposalOnShow) {
+    Designing run;
+    run.Click(9);
+    frmLabelProps& former = run.Props();
+    former.txtCaption_Change(run.program, "Day");
+    former.cmdOK_Click(run.program);
+    modWindows::Sweep(run.program);
+    run.Click(9);
+    static_cast<void>(modReset::StartNewFile(run.program));
+    const PageLabel before = run.Label(PageId::frmP1, 9);
+    ASSERT_EQ(before.Caption, "Event Date");
+    frmLabelProps& window = run.Props();
+    EXPECT_EQ(window.txtCaption.Text, "Event Date");
+    window.cmdCancel_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Event Date");
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).FontName, before.FontName);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).FontSize, before.FontSize);
+    EXPECT_FALSE(run.Prop(9).Changed) << "nothing of the former proposal is left";
 }
 
 TEST(Colours, OfTheAreasShowAtOnceInTheWindowThatAskedForThem) {

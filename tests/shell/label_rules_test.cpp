@@ -142,23 +142,6 @@ TEST(LabelSelection, ALabelTakenOutOfAPairLeavesTheWindowWithOne) {
     EXPECT_EQ(window.txtCaption.Text, "Event Time");
 }
 
-TEST(LabelWindow, AfterAGroupGoesOnWithTheLabelThatWasPressedLast) {
-    Hands run;
-    run.DoubleClick(10);
-    run.DoubleClick(9);
-    frmLabelProps& group = run.Props();
-    group.cmdSize_Click(run.program, 2);
-    group.cmdOK_Click(run.program);
-    modWindows::Sweep(run.program);
-    frmLabelProps& one = run.Props();
-    EXPECT_EQ(one.txtCaption.Text, "Event Date");
-    one.cmdOK_Click(run.program);
-    modWindows::Sweep(run.program);
-    EXPECT_EQ(run.Prop(9).Caption, "Event Date");
-    run.Props().cmdCancel_Click(run.program);
-    EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Event Date");
-}
-
 TEST(LabelWindow, AColourOfAGroupStaysOnTheLabelThatWasPressedLast) {
     Hands run;
     run.DoubleClick(33, PageId::frmP2); // a currency sign, which keeps its own
