@@ -23,7 +23,7 @@ constexpr std::int64_t kHundredth = kUnit / 100;
 constexpr double kMost = 9.0e12;
 
 /// The place of the deposit among the final page's figures.
-constexpr std::size_t kDeposit = 4;
+constexpr std::size_t kDepositField = 4;
 
 bool LooksLikeAFigure(std::string_view value) {
     return value.find_first_of("0123456789") != std::string_view::npos;
@@ -147,8 +147,8 @@ std::vector<Strayed> StrayedFigures(const Program& program) {
     const Exact tax =
         comparison.Take(kTax, "Sales tax", TaxOn(rows.Taxable, program.totals.TaxRate), kNearTheMiddle);
     const Exact total = comparison.Take(kTotal, "Total", Sum(sum, tax), kRounding);
-    const Exact deposit =
-        ExactOf(program.pages[PageId::frmP6].txt[kDeposit].Text); // one that is no number counts as nothing
+    const Exact deposit = ExactOf(
+        program.pages[PageId::frmP6].txt[kDepositField].Text); // one that is no number counts as nothing
     comparison.Take(kBalance, "Balance", deposit ? Sum(total, -*deposit) : total, kRounding);
     return comparison.Found;
 }
@@ -211,9 +211,9 @@ std::vector<std::string> UncountedTexts(const Program& program) {
         }
     }
     const auto& figures = program.pages[PageId::frmP6].txt;
-    if (figures.size() > kDeposit && LooksLikeAFigure(figures[kDeposit].Text) &&
-        numbers::IsNoNumber(figures[kDeposit].Text, currency)) {
-        found.push_back("Page 6, Deposit Received: " + figures[kDeposit].Text);
+    if (figures.size() > kDepositField && LooksLikeAFigure(figures[kDepositField].Text) &&
+        numbers::IsNoNumber(figures[kDepositField].Text, currency)) {
+        found.push_back("Page 6, Deposit Received: " + figures[kDepositField].Text);
     }
     return found;
 }

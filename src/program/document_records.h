@@ -35,8 +35,8 @@ struct DocumentState {
     bool PropertiesIgnored = false; ///< the open proposal came without its properties
     /// What the proposal's file held when it was read or written last.
     files::Seen SavedFile;
-    std::string BackupTrouble;    ///< why the last backup bears no name, or was not written; told once
-    std::string UnnamedBackup;    ///< the backup's name while the client's cannot be a file's; else empty
+    std::string BackupTrouble; ///< why the last backup bears no name, or was not written; told once
+    std::string OwnBackup;     ///< the name of the backup that a proposal which is not stored has; else empty
     bool SavedStateStale = false; ///< a format was saved since; counts as a changed property
     bool CompanyBlockPending = false;
 

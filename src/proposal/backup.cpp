@@ -97,7 +97,7 @@ std::string NameForNext(const Program& program, const std::string& folder) {
         return NameOfStored(program);
     }
     const std::string wanted = WantedName(program);
-    const std::string& own = program.document.UnnamedBackup;
+    const std::string& own = program.document.OwnBackup;
     return !own.empty() && IsOf(own, wanted) ? own : file_places::FreeName(folder, wanted);
 }
 
@@ -129,7 +129,7 @@ void TellUnnamed(Program& program) {
     const std::string trouble = (document.HasName() ? "The client's name cannot be a file's name: " +
                                                           std::string(paths::BaseOf(document.FileName)) + "."
                                                     : "The proposal has no client's name yet.") +
-                                " Its backup is called " + document.UnnamedBackup;
+                                " Its backup is called " + document.OwnBackup;
     if (document.BackupTrouble != trouble) {
         document.BackupTrouble = trouble;
         program.main.Notice = trouble;
@@ -153,7 +153,7 @@ void Write(Program& program) {
     const std::string folder = modSideFile::MadeBackupFolder(program);
     const std::string name = NameForNext(program, folder);
     WriteAs(program, folder, name);
-    const std::string before = std::exchange(document.UnnamedBackup, IsStored(program) ? "" : name);
+    const std::string before = std::exchange(document.OwnBackup, IsStored(program) ? "" : name);
     if (!before.empty() && before != name) {
         Drop(program, before);
     }
@@ -167,7 +167,7 @@ void Write(Program& program) {
 } // namespace
 
 std::string BackupNameOf(const Program& program) {
-    return IsStored(program) ? NameOfStored(program) : program.document.UnnamedBackup;
+    return IsStored(program) ? NameOfStored(program) : program.document.OwnBackup;
 }
 
 void DeleteBackup(const Program& program, const std::string& name) {
@@ -179,8 +179,8 @@ void DeleteBackup(const Program& program, const std::string& name) {
     }
 }
 
-void DropUnnamedBackup(Program& program) {
-    const std::string name = std::exchange(program.document.UnnamedBackup, {});
+void DropOwnBackup(Program& program) {
+    const std::string name = std::exchange(program.document.OwnBackup, {});
     if (!name.empty() && name != NameOfStored(program)) {
         Drop(program, name);
     }
@@ -197,7 +197,7 @@ void TakeUpUnnamed(Program& program, const std::string& name) {
     modNames::LeaveBackup(program);
     document.FolderOnShow = document.FilePath;
     document.HasNotes = false;
-    document.UnnamedBackup = name;
+    document.OwnBackup = name;
     for (const PageId page : kEditedPages) {
         for (std::string& text : document.SavedTextBuf[page]) {
             text.clear();

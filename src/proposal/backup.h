@@ -20,12 +20,12 @@ namespace modFile {
 /// fails both tell it as "BackupThisFile", and the copy that stood stays.
 void BackupThisFile(Program& program);
 
-/// Where a copy without the client's name was opened from Backup/: it stands as a proposal that is not stored,
-/// with unsaved changes, and is named after its client as typing would.
+/// Where a copy without the client's name was opened from Backup/: it stands as a proposal that is not
+/// stored, with unsaved changes, and is named after its client as typing would.
 void TakeUpUnnamed(Program& program, const std::string& name);
 
 /// The proposal is stored since: a copy that it had under another name goes. Failures are logged.
-void DropUnnamedBackup(Program& program);
+void DropOwnBackup(Program& program);
 
 /// Deletes a backup and the properties beside it. Throws files::FileError.
 void DeleteBackup(const Program& program, const std::string& name);

@@ -172,7 +172,7 @@ void SavingSteps(Program& program, SaveResult& result) {
     }
     if (!propertiesLost) {
         modRecovery::NothingUnsaved(program);
-        DropUnnamedBackup(program);
+        DropOwnBackup(program);
     }
     modTitles::UpdateEventNameLabels(program);
     TellSaved(program, "Proposal", path);

@@ -91,7 +91,7 @@ void ShowBackup(Program& program, const UnsavedWork& work, const modFile::RawPro
                             paths::Join(modFolders::BackupFolder(program), PropertiesBeside(work.Backup)));
     document.FileExists = saved.Exists;
     document.HasNotes = document.HasNotes && saved.Exists;
-    document.UnnamedBackup = modFile::BackupNameOf(program).empty() ? work.Backup : "";
+    document.OwnBackup = modFile::BackupNameOf(program).empty() ? work.Backup : "";
     const bool savedWhole = saved.File.Was != files::Seen::What::Unread; // or it is kept when it is replaced
     document.SavedFile = saved.Exists && savedWhole ? work.Known : saved.File;
     program.format.PropertyPath =

@@ -51,7 +51,7 @@ void ClearNames(Program& program) {
     document.SavedFile = {};
     document.PropertiesIgnored = false;
     document.BackupTrouble.clear();
-    document.UnnamedBackup.clear();
+    document.OwnBackup.clear();
     if (!program.guards.StartingUp) {
         modRecovery::NothingUnsaved(program); // what an earlier run has left is not settled yet
     }

@@ -12,7 +12,7 @@ void SpoilNames(DocumentState& document) {
     for (std::string* name :
          {&document.BaseName, &document.FileName, &document.TextFileName, &document.FootnoteFile,
           &document.DepositFile, &document.ClientCaption, &document.PageHeading, &document.WindowTitle,
-          &document.BackupTrouble, &document.UnnamedBackup}) {
+          &document.BackupTrouble, &document.OwnBackup}) {
         *name = "spoilt";
     }
     document.TitleGiven = true;
@@ -119,7 +119,7 @@ TEST(AfterAReset, TheDocumentIsThatOfAStart) {
     EXPECT_EQ(now.PageHeading, then.PageHeading);
     EXPECT_EQ(now.WindowTitle, "Quillbrook");
     EXPECT_EQ(now.BackupTrouble, "");
-    EXPECT_EQ(now.UnnamedBackup, "");
+    EXPECT_EQ(now.OwnBackup, "");
     EXPECT_FALSE(now.TitleGiven);
     EXPECT_FALSE(now.FileExists);
     EXPECT_FALSE(now.FromBackup);

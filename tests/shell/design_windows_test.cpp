@@ -1,4 +1,5 @@
 #include "format/frm_label_props.h"
+#include "format/frm_rgb.h"
 #include "format/frm_text_props.h"
 #include "format/frm_title.h"
 #include "format/label_commit.h"
@@ -90,6 +91,94 @@ TEST(TextWindow, AsDefaultShowsWhatASizeOfNothingBecame) {
     window.cmdDefault_Click(run.program);
     EXPECT_TRUE(window.optFontSize[0].Value);
     EXPECT_EQ(window.txtSample.Text, "Sampling Text with Times New Roman: 10");
+}
+
+TEST(TextWindow, ItsControlsReadAsTheyAlwaysDid) {
+    Designed run;
+    const frmTextProps& window = run.TextProps();
+    EXPECT_EQ(window.Caption, "Common Text Properties");
+    EXPECT_EQ(window.lblFont.Caption, "Choose Font Below");
+    EXPECT_EQ(window.chkItalic.Caption, "Italic");
+    EXPECT_EQ(window.cmdColors.Caption, "More Colors");
+    EXPECT_EQ(window.cmdOK.Caption, "Apply Changes");
+    EXPECT_EQ(window.cmdCancel.Caption, "Cancel");
+    EXPECT_EQ(window.cmdDefault.Caption, "Set these Font Properties as Default");
+    const std::array<const char*, 5> sizes{"Font Size = 10", "Font Size = 9", "Font Size = 8",
+                                           "Font Size = 7", "Font Size = 6"};
+    for (std::size_t size = 0; size < sizes.size(); ++size) {
+        EXPECT_EQ(window.optFontSize[size].Caption, sizes[size]);
+    }
+}
+
+TEST(TextWindow, EscapePutsBackAllFourAndWhatWasMadeTheDefaultStays) {
+    Designed run;
+    run.program.run.DefaultFontColor = 0x123456;
+    frmTextProps& window = run.TextProps();
+    EXPECT_EQ(window.lblFontColor.Caption, "Current Font Color = ") << "none of the eight";
+    window.lstFont_Click(run.program, 0);
+    window.optFontSize_Click(run.program, 1);
+    window.cmdDefault_Click(run.program);
+    window.lstFont_Click(run.program, 1);
+    window.optFontSize_Click(run.program, 4);
+    window.cmdColor_Click(run.program, 0);
+    window.chkItalic_Click(run.program);
+    window.Form_Cancel(run.program);
+    const RunState& font = run.program.run;
+    EXPECT_EQ(font.DefaultFontName, "Arial");
+    EXPECT_EQ(font.DefaultFontSize, 9);
+    EXPECT_EQ(font.DefaultFontColor, 0x123456U);
+    EXPECT_FALSE(font.DefaultFontItalic);
+    EXPECT_EQ(run.Area(PageId::frmP4, 3).FontName, "Arial");
+    EXPECT_EQ(run.Area(PageId::frmP4, 3).ForeColor, 0x123456U);
+    EXPECT_EQ(run.program.settings.SavedFontColor, 0x123456U);
+}
+
+TEST(TextWindow, TheCommandWithoutAWindowKeepsAllFourOfTheFontInForce) {
+    Designed run;
+    run.program.run.DefaultFontName = "Arial";
+    run.program.run.DefaultFontSize = 7;
+    run.program.run.DefaultFontColor = 255;
+    run.program.run.DefaultFontItalic = true;
+    person::Choose(run.program, CommandId::mnuOptSetDefaultFonts);
+    const std::string settings = run.folder.Read("UserPreferences.txt");
+    for (const char* line :
+         {"Font Name:Arial\r\n", "Font Size:7\r\n", "Font Color:255\r\n", "Font Italic:True\r\n"}) {
+        EXPECT_NE(settings.find(line), std::string::npos) << line;
+    }
+    static_cast<void>(modReset::StartNewFile(run.program));
+    EXPECT_EQ(run.Area(PageId::frmP2, 0).FontSize, 7) << "new proposals start with it";
+    EXPECT_TRUE(run.Area(PageId::frmP2, 0).FontItalic);
+}
+
+TEST(ColourWindow, StartsWithTheColourOfItsOpenerAndReadsAsItAlwaysDid) {
+    Designed run;
+    run.program.run.DefaultFontColor = 0x0C80FF;
+    run.TextProps().cmdColors_Click(run.program);
+    auto& window = dynamic_cast<frmRGB&>(*modWindows::Find(run.program, "frmRGB"));
+    EXPECT_EQ(window.Caption, "More Colors");
+    EXPECT_EQ(window.Red.Value, 255);
+    EXPECT_EQ(window.Grn.Value, 128);
+    EXPECT_EQ(window.Blu.Value, 12);
+    EXPECT_EQ(window.lblR[0].Caption + window.lblR[1].Caption, "255FF");
+    EXPECT_EQ(window.lblG[0].Caption + window.lblG[1].Caption, "12880");
+    EXPECT_EQ(window.lblB[0].Caption + window.lblB[1].Caption, "120C");
+    EXPECT_EQ(window.lblRGB.BackColor, 0x0C80FFU);
+    EXPECT_EQ(window.txtHexValue.Text, "&H0C80FF&");
+    EXPECT_EQ(window.txtIntValue.Text, "819455");
+    EXPECT_EQ(window.txtHttpValue.Text, "#FF800C");
+    EXPECT_EQ(window.lblRed.Caption + window.lblGrn.Caption + window.lblBlu.Caption, "REDGRNBLU");
+    EXPECT_EQ(window.lblRGB.Caption, "RGB");
+    EXPECT_EQ(window.lblHexValue.Caption, "HEX COLOR CODE =");
+    EXPECT_EQ(window.lblIntValue.Caption, " INTEGER VALUE =");
+    EXPECT_EQ(window.lblHttpValue.Caption, " HTTP VALUE =");
+    EXPECT_EQ(window.cmdNormInc.Caption, "Norm Inc");
+    EXPECT_EQ(window.cmdSmInc.Caption, "Small Inc");
+    EXPECT_EQ(window.cmdOK.Caption, "Apply");
+    EXPECT_EQ(window.cmdCancel.Caption, "Cancel");
+    window.Red_Change(run.program, 0);
+    EXPECT_EQ(window.lblR[1].Caption, "00");
+    window.Form_Cancel(run.program);
+    EXPECT_EQ(run.program.run.DefaultFontColor, 0x0C80FFU);
 }
 
 TEST(LabelWindow, ShowsEveryChoiceInItsControlsAndOnTheLabel) {

@@ -201,7 +201,7 @@ void TellDocument(const Teller& to, const DocumentState& document) {
     to.Tell("IgnoreProperties", document.IgnoreProperties);
     to.Tell("PropertiesIgnored", document.PropertiesIgnored);
     to.Tell("SavedFile", document.SavedFile.Sum);
-    to.Tell("UnnamedBackup", document.UnnamedBackup);
+    to.Tell("OwnBackup", document.OwnBackup);
     to.Tell("SavedStateStale", document.SavedStateStale);
     for (const PageId page : kEditedPages) {
         for (std::size_t at = 0; at < document.CurrentTextBuf[page].size(); ++at) {
