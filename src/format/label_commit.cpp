@@ -31,7 +31,8 @@ void RecordEverywhere(Program& program, PageId page, int index, const LabelLook&
     saved.Changed = true;
 }
 
-/// The group's fields that the window has changed; the others stay the label's own.
+} // namespace
+
 LabelLook WithGroupFields(const LabelLook& own, const LabelLook& edit, const GroupChanges& changed) {
     LabelLook look = own;
     if (changed.FontName) {
@@ -54,8 +55,6 @@ LabelLook WithGroupFields(const LabelLook& own, const LabelLook& edit, const Gro
     }
     return look;
 }
-
-} // namespace
 
 void ApplyToLabels(Program& program, bool GroupChanges::*changed, const LookChange& change) {
     DesignerRecords& designer = program.designer;

@@ -12,6 +12,10 @@ namespace modDesigner {
 /// One field of a look that a group can share.
 using LookChange = std::function<void(LabelLook&)>;
 
+/// The group's fields that the window has changed; the others stay the label's own.
+[[nodiscard]] LabelLook WithGroupFields(const LabelLook& own, const LabelLook& edit,
+                                        const GroupChanges& changed);
+
 /// The current label, or every selected label of its page but the currency signs, takes the field from
 /// `LabelEdit`; for a group `changed` is noted.
 void ApplyToLabels(Program& program, bool GroupChanges::*changed, const LookChange& change);

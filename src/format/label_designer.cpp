@@ -25,18 +25,19 @@ DragState& DragOf(Program& program, PageId page) {
     return program.designer.Drags[page];
 }
 
-/// The whole of `LabelEdit` goes to the tables of proposal and format, and to the saved state.
+/// The label's whole look goes to the tables of proposal and format, and to the saved state.
 void StoreMovedLabel(Program& program, PageId page, int index) {
     FormatRecords& format = program.format;
+    const LabelLook look = LookOf(LabelAt(program, page, index));
     for (LabelChangeTable* table : {&format.PropLabelChanges, &format.FormatLabelChanges}) {
         LabelChangeRecord& record = RecordOf(*table, page, index);
-        PutLook(record, program.designer.LabelEdit);
+        PutLook(record, look);
         record.Changed = true;
         record.Saved = false;
         record.FromFormat = false;
     }
     LabelChangeRecord& saved = RecordOf(format.LabelSavedState, page, index);
-    PutLook(saved, program.designer.LabelEdit);
+    PutLook(saved, look);
     saved.Changed = true;
 }
 
@@ -123,7 +124,12 @@ void lbl_MouseDown(Program& program, PageId page, int index, int button, float x
     program.main.ActivePage = page;
     designer.LabelPage = page;
     designer.CurrentLabel = index;
+    const LabelLook inWindow = designer.LabelEdit;
     SaveLabelState(program);
+    if (designer.LabelPropsOpen && MultipleLabelsSelected(program)) {
+        // A press on any label takes nothing of what was chosen for the group.
+        designer.LabelEdit = WithGroupFields(designer.LabelEdit, inWindow, designer.Changed);
+    }
     DragState& drag = DragOf(program, page);
     drag.Moved = false;
     if (button != kRightButton) {
@@ -181,10 +187,11 @@ void lbl_DblClick(Program& program, PageId page, int index) {
     PageLabel& label = LabelAt(program, page, index);
     if (IsSelected(label)) {
         Deselect(label);
-        return;
+    } else {
+        PutLook(RecordOf(program.format.LabelSavedState, page, index), LookOf(label));
+        Select(label);
     }
-    PutLook(RecordOf(program.format.LabelSavedState, page, index), LookOf(label));
-    Select(label);
+    ShowLabelInWindow(program);
 }
 
 void LoadSelectedLabels(Program& program) {
@@ -210,10 +217,12 @@ void LoadSelectedLabels(Program& program) {
 
 void mnuEditLabelSelectAll_Click(Program& program) {
     LoadSelectedLabels(program);
-    if (!program.designer.LabelPropsOpen) {
-        program.designer.ColorOwner = "Label";
-        modWindows::Show(program, std::make_unique<frmLabelProps>());
+    if (program.designer.LabelPropsOpen) {
+        ShowLabelInWindow(program);
+        return;
     }
+    program.designer.ColorOwner = "Label";
+    modWindows::Show(program, std::make_unique<frmLabelProps>());
 }
 
 void mnuEditLabelDeselectAll_Click(Program& program) {

@@ -106,6 +106,27 @@ TEST(AssignmentLines, ATextThatHoldsTheWordForBoldIsLost) {
     EXPECT_FALSE(CannotBeKept(Value::Text, "a .Text=b"));
 }
 
+TEST(AssignmentLines, ACaptionThatHoldsTheWordForTheFontIsCutThere) {
+    LabelLook look = Day();
+    look.Caption = "a .FontName=b";
+    WorkingFields working(WorkingFields::BadValue::IsFault);
+    const std::string line = LabelLine(0, 9, look);
+    const auto read = working.TakeLabel(Read(line).Values, {});
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->Caption, "a");
+    EXPECT_EQ(read->FontName, "b");
+    EXPECT_TRUE(CannotBeKept(Value::Caption, look.Caption));
+}
+
+TEST(AssignmentLines, AQuantityEndsBeforeItsPrice) {
+    const std::string line = RowLine(1, 0, true, "2 a b", "3 .QtyValue=4");
+    WorkingFields working(WorkingFields::BadValue::IsFault);
+    const auto row = working.TakeRow(Read(line).Values, false);
+    ASSERT_TRUE(row);
+    EXPECT_EQ(row->Quantity, "2 a b");
+    EXPECT_EQ(row->Price, "3 .QtyValue=4");
+}
+
 TEST(AssignmentLines, ValuesBeyondAPageDoNotConvert) {
     EXPECT_EQ(ToPlace("1000000"), 1000000.0F);
     EXPECT_FALSE(ToPlace("1000001"));

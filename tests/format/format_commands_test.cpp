@@ -409,6 +409,44 @@ TEST(FormatSave, ALogoWithoutAFontWritesAllLinesAndThenReports) {
     EXPECT_FALSE(run.program.format.FormatOpen);
 }
 
+TEST(FormatSave, AFontWithoutASizeEndsInTheReportWithAndWithoutALogo) {
+    for (const char* logo : {"", "/srv/logo.png"}) {
+        Formats run;
+        run.program.run.DefaultFontSize = 0;
+        run.program.format.LogoPath = logo;
+        run.Drag(9);
+        run.Questions().ExpectInput("Saving File As...", "Barn");
+        run.Questions().Expect("An error occurred in SaveFileFormat.");
+        modFormat::mnuFileFormatSave_Click(run.program);
+        const std::string file = run.folder.Read("Proposals/Barn.fmt");
+        EXPECT_EQ(file.find("frmP1.lbl(9).Left="), 0U) << "all lines are there";
+        EXPECT_EQ(file.find("UDP"), std::string::npos);
+        EXPECT_FALSE(run.program.format.FormatOpen);
+    }
+}
+
+TEST(FormatSave, WithNeitherFontNorLogoIsWrittenWithoutAWord) {
+    Formats run;
+    run.program.run.DefaultFontName = "";
+    run.program.run.DefaultFontSize = 0;
+    run.Drag(9);
+    run.Questions().ExpectInput("Saving File As...", "Barn");
+    modFormat::mnuFileFormatSave_Click(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Barn.fmt").find("frmP1.lbl(9).Left="), 0U);
+    EXPECT_TRUE(run.program.format.FormatOpen);
+}
+
+TEST(FormatChanges, AFormatWithALogoHasSomethingToSaveAtOnceAndNothingToAskAbout) {
+    Formats run;
+    run.folder.Write("Proposals/logo.png", "x");
+    const std::string picture = run.folder / "Proposals/logo.png";
+    run.surroundings.pictures.Known[picture] = {1500, 900};
+    run.folder.Write("Proposals/Logo.fmt", "frmP1.pic.Picture=" + picture + " .Left=360 .Top=540\r\n");
+    run.Open("Logo.fmt");
+    EXPECT_TRUE(modFormat::FormatHasChanges(run.program));
+    EXPECT_FALSE(modFormat::FormatIsUnsaved(run.program));
+}
+
 TEST(FormatSave, CaptionsThatHoldTheNameOfAFieldAreTold) {
     Formats run;
     run.Drag(9);

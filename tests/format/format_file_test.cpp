@@ -139,6 +139,18 @@ TEST(FormatFile, LabelsOfTheFinalPageReachBothCopiesButForTheTitlesWords) {
     EXPECT_EQ(run.Label(PageId::frmP6_1, 64).Caption, "Proposal for (Client's Name) - Client's Copy");
 }
 
+TEST(FormatFile, ALineForTheClientsCopyReachesNeitherCopy) {
+    Laid run;
+    const PageLabel before = run.Label(PageId::frmP6, 49);
+    run.Lay(
+        {"frmP6_1.lbl(49).Left=800 .Top=13000 .Caption=Sign here .FontName=Arial .FontBold=True .FontSize=11 "
+         ".ForeColor=255 .FontItalic=False .FontUnderline=True"});
+    for (const PageId page : {PageId::frmP6, PageId::frmP6_1}) {
+        EXPECT_EQ(run.Label(page, 49).Caption, before.Caption);
+        EXPECT_EQ(run.Label(page, 49).Left, before.Left);
+    }
+}
+
 TEST(FormatFile, ASignThatIsNoWordBecomesTheSymbolInForceAndStaysHidden) {
     Laid run;
     run.program.settings.CurrencySymbol = "\x80";
