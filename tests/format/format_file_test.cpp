@@ -577,10 +577,11 @@ TEST(FormatFile, EveryLineFillsItsTables) {
     for (const bool overwrite : {false, true}) {
         Laid run;
         run.program.format.OverwriteFormatText = overwrite;
+        constexpr const char* kDay =
+            "frmP1.lbl(9).Left=1200 .Top=4140 .Caption=Day .FontName=Arial .FontBold=True .FontSize=12 "
+            ".ForeColor=255 .FontItalic=False .FontUnderline=True";
         run.Lay({"frmP2.txt(3).Text=Tent", "frmP2.txt(4).FontBold=True", "frmP2.txt(37).TaxExempt=True",
-                 "frmP2.txq(5).QtyBox=True .QtyValue=2 .AmtValue=3.00",
-                 "frmP1.lbl(9).Left=1200 .Top=4140 .Caption=Day .FontName=Arial .FontBold=True .FontSize=12 "
-                 ".ForeColor=255 .FontItalic=False .FontUnderline=True"});
+                 "frmP2.txq(5).QtyBox=True .QtyValue=2 .AmtValue=3.00", kDay});
         const FormatRecords& format = run.program.format;
         const auto& areas = format.FormatTextChanges[PageId::frmP2];
         EXPECT_EQ(areas[3].Text, "Tent");

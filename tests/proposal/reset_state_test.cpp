@@ -72,9 +72,9 @@ void SpoilFields(Page& page) {
             field.ToolTipText = modTotals::kNoNumberTip;
         }
     }
-    for (std::size_t index = 0; index < page.imgNoTax.size(); ++index) {
-        page.imgNoTax[index].Visible = true;
-        page.imgNoTax[index].Tag.clear();
+    for (PageImage& mark : page.imgNoTax) {
+        mark.Visible = true;
+        mark.Tag.clear();
     }
     page.Visible = true;
 }

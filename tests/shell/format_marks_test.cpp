@@ -46,6 +46,7 @@ struct UnderAnExemptFormat : RunningProgram {
     }
     [[nodiscard]] std::vector<std::string> Figures() {
         std::vector<std::string> figures;
+        figures.reserve(6);
         for (int index = 0; index < 6; ++index) {
             figures.push_back(TextOf(PageId::frmP6, index));
         }

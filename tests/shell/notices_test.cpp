@@ -197,7 +197,7 @@ TEST(Notice, OfTheSameKeyIsGivenAgain) {
         typist.Type("e");
         strip.Follow(run.program, start);
         EXPECT_NE(strip.Text(), "") << start;
-        for (int second = 1; second <= 5; ++second) {
+        for (std::int64_t second = 1; second <= 5; ++second) {
             strip.Activity(start + second * 1000); // the mouse
         }
         EXPECT_EQ(strip.Text(), "");

@@ -567,6 +567,7 @@ TEST(RightMoney, StandsAlikeOnOurCopyAndTheClients) {
     Typist typist(run.program);
     const auto figures = [&](PageId page) {
         std::vector<std::string> shown;
+        shown.reserve(6);
         for (int index = 0; index < 6; ++index) {
             shown.push_back(run.TextOf(page, index));
         }
