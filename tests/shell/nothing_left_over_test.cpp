@@ -170,6 +170,11 @@ constexpr std::string_view kHouse =
     ".FontItalic=False .FontUnderline=False\r\n"
     "UDP.FontName=Arial .FontSize=9 .FontColor=16711680 .FontItalic=True\r\n";
 
+/// Each is worth many of the small ones that the number asked for is meant for.
+unsigned Sequences() {
+    return SequencesAsked(600, 10000) / 50;
+}
+
 enum class Pages { BuiltIn, OfAFormat };
 
 struct Laid : RunningProgram {
@@ -198,7 +203,7 @@ TEST_P(NothingLeftOver, ANewProposalAfterAnythingIsANewProposal) {
     Laid run(GetParam());
     const WholeState fresh = StateOf(run.program);
     ASSERT_EQ(run.program.format.FormatOpen, GetParam() == Pages::OfAFormat);
-    const unsigned sequences = SequencesAsked(12, 200);
+    const unsigned sequences = Sequences();
     for (std::uint32_t seed = 0; seed < sequences; ++seed) {
         Hands hands(run, seed);
         hands.Play(12);
@@ -212,7 +217,7 @@ TEST_P(NothingLeftOver, AProposalOpenedAfterAnythingIsWhatItWasWhenOpenedFirst) 
     ASSERT_EQ(run.Open(), modFile::OpenResult::Opened);
     const WholeState fresh = StateOf(run.program);
     ASSERT_NE(run.program.totals.SubTotal, 0.0F);
-    const unsigned sequences = SequencesAsked(12, 200);
+    const unsigned sequences = Sequences();
     for (std::uint32_t seed = 0; seed < sequences; ++seed) {
         Hands hands(run, 1000 + seed);
         hands.Play(12);
