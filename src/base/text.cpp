@@ -92,6 +92,20 @@ std::string Lines(std::initializer_list<std::string_view> lines) {
     return result;
 }
 
+std::string FirstTen(std::string_view heading, const std::vector<std::string>& entries) {
+    constexpr std::size_t kNamed = 10;
+    std::string list(heading);
+    for (std::size_t at = 0; at < std::min(entries.size(), kNamed); ++at) {
+        list += kCrLf;
+        list += entries[at];
+    }
+    if (entries.size() > kNamed) {
+        list += kCrLf;
+        list += "and " + std::to_string(entries.size() - kNamed) + " more";
+    }
+    return list;
+}
+
 std::vector<std::string> SplitLines(std::string_view value) {
     std::vector<std::string> lines;
     std::size_t start = 0;

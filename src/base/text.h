@@ -30,6 +30,8 @@ inline constexpr std::string_view kCrLf = "\r\n";
 
 /// Joins lines with CR LF between them.
 [[nodiscard]] std::string Lines(std::initializer_list<std::string_view> lines);
+/// Under the heading a line each for the first ten of the entries, and how many more there are.
+[[nodiscard]] std::string FirstTen(std::string_view heading, const std::vector<std::string>& entries);
 /// Takes a text apart at CR LF, LF or CR. A line end at the very end opens no further line.
 [[nodiscard]] std::vector<std::string> SplitLines(std::string_view value);
 

@@ -166,20 +166,6 @@ std::string StrayedMessage(const std::vector<Strayed>& strayed) {
     return message;
 }
 
-std::string UncountedMessage(const std::vector<std::string>& uncounted) {
-    constexpr std::size_t kTold = 10;
-    std::string message = "These are no numbers and count as nothing:";
-    for (std::size_t at = 0; at < std::min(uncounted.size(), kTold); ++at) {
-        message += text::kCrLf;
-        message += uncounted[at];
-    }
-    if (uncounted.size() > kTold) {
-        message += text::kCrLf;
-        message += "and " + std::to_string(uncounted.size() - kTold) + " more";
-    }
-    return message;
-}
-
 } // namespace
 
 std::vector<std::string> UncountedTexts(const Program& program) {
@@ -224,7 +210,8 @@ bool MayShowFigures(Program& program) {
     if (uncounted.empty() && strayed.empty()) {
         return true;
     }
-    std::string message = uncounted.empty() ? std::string() : UncountedMessage(uncounted);
+    std::string message =
+        uncounted.empty() ? "" : text::FirstTen("These are no numbers and count as nothing:", uncounted);
     if (!strayed.empty()) {
         message += uncounted.empty() ? "" : text::Lines({"", "", ""});
         message += StrayedMessage(strayed);

@@ -130,20 +130,12 @@ std::vector<std::string> TextsLostOnPaper(const Program& program, const std::vec
 }
 
 bool MayPrint(Program& program, const std::vector<PageId>& pages) {
-    constexpr std::size_t kNamed = 10;
     const std::vector<std::string> places = TextsLostOnPaper(program, pages);
     if (places.empty()) {
         return true;
     }
-    std::string message = "These texts are longer than their place and cannot be read as a whole on paper:";
-    for (std::size_t at = 0; at < std::min(places.size(), kNamed); ++at) {
-        message += text::kCrLf;
-        message += places[at];
-    }
-    if (places.size() > kNamed) {
-        message += text::kCrLf;
-        message += "and " + std::to_string(places.size() - kNamed) + " more";
-    }
+    const std::string message = text::FirstTen(
+        "These texts are longer than their place and cannot be read as a whole on paper:", places);
     return program.platform.questions.MsgBox(message, Buttons::YesNo, "",
                                              {.Default = Answer::No, .Words = {"Print Anyway", "Cancel"}}) ==
            Answer::Yes;

@@ -29,20 +29,12 @@ std::vector<std::string> LongTexts(const Program& program) {
 }
 
 bool MayCutLongTexts(const Program& program) {
-    constexpr std::size_t kNamed = 10;
     const std::vector<std::string> places = LongTexts(program);
     if (places.empty()) {
         return true;
     }
-    std::string message = "These texts are longer than their place in the file and will be cut:";
-    for (std::size_t at = 0; at < std::min(places.size(), kNamed); ++at) {
-        message += text::kCrLf;
-        message += places[at];
-    }
-    if (places.size() > kNamed) {
-        message += text::kCrLf;
-        message += "and " + std::to_string(places.size() - kNamed) + " more";
-    }
+    const std::string message =
+        text::FirstTen("These texts are longer than their place in the file and will be cut:", places);
     return program.platform.questions.MsgBox(message, Buttons::YesNo, "",
                                              {.Default = Answer::No, .Words = {"Save Anyway", "Cancel"}}) ==
            Answer::Yes;

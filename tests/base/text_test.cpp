@@ -87,6 +87,16 @@ TEST(Text, SplitsAtEveryKindOfLineEnd) {
     EXPECT_EQ(text::Lines({"a", "", "b"}), "a\r\n\r\nb");
 }
 
+TEST(Text, NamesTenEntriesAndCountsTheOthers) {
+    std::vector<std::string> entries(10, "a");
+    entries.back() = "tenth";
+    const std::string ten = "Gone:\r\na\r\na\r\na\r\na\r\na\r\na\r\na\r\na\r\na\r\ntenth";
+    EXPECT_EQ(text::FirstTen("Gone:", entries), ten);
+    entries.emplace_back("eleventh");
+    EXPECT_EQ(text::FirstTen("Gone:", entries), ten + "\r\nand 1 more");
+    EXPECT_EQ(text::FirstTen("Gone:", {"one"}), "Gone:\r\none");
+}
+
 TEST(Paths, SplitAtBothSeparators) {
     EXPECT_EQ(paths::Folder("a\\b/c.hef"), "a\\b/");
     EXPECT_EQ(paths::Name("a/b\\c.hef"), "c.hef");
