@@ -15,13 +15,6 @@ namespace modLabelKeys {
 
 namespace {
 
-constexpr int kSpace = 32;
-constexpr int kMenuKey = 93;
-constexpr int kEscape = 27;
-constexpr int kShiftDown = 1;
-constexpr int kLeftArrow = 37;
-constexpr int kRightArrow = 39;
-
 /// What Tab goes over: the labels that show, empty ones too, and the logo last.
 std::vector<int> Stops(const Program& program) {
     const Page& page = program.pages[modDesigner::DesignPage(program)];
@@ -131,12 +124,12 @@ void PageChanged(Program& program) {
 
 Menu KeyDown(Program& program, int keyCode, int shift) {
     DesignerRecords& designer = program.designer;
-    if (keyCode == kEscape || program.pages[program.main.PageInFront].InkShown) {
+    if (keyCode == keys::kEscape || program.pages[program.main.PageInFront].InkShown) {
         Leave(program); // what a preview shows is not to be moved unseen
         return Menu::None;
     }
     if (keyCode == keys::kTab) {
-        Frame(program, (shift & kShiftDown) != 0 ? -1 : 1);
+        Frame(program, (shift & keys::kShiftState) != 0 ? -1 : 1);
         return Menu::None;
     }
     if (!designer.Framed) {
@@ -144,10 +137,10 @@ Menu KeyDown(Program& program, int keyCode, int shift) {
     }
     const bool logo = *designer.Framed == kLogoInFrame;
     switch (keyCode) {
-    case kLeftArrow:
+    case keys::kLeft:
         Press(program, modDesigner::kLeftButton, -1, 0);
         break;
-    case kRightArrow:
+    case keys::kRight:
         Press(program, modDesigner::kLeftButton, 1, 0);
         break;
     case keys::kUp:
@@ -156,7 +149,7 @@ Menu KeyDown(Program& program, int keyCode, int shift) {
     case keys::kDown:
         Press(program, modDesigner::kLeftButton, 0, 1);
         break;
-    case kSpace:
+    case keys::kBlank:
         DoubleClick(program);
         break;
     case keys::kEnter:
@@ -165,7 +158,7 @@ Menu KeyDown(Program& program, int keyCode, int shift) {
             modDesigner::mnuEditLabelProps_Click(program);
         }
         break;
-    case kMenuKey:
+    case keys::kMenu:
         Press(program, modDesigner::kRightButton);
         return logo ? Menu::Logo : Menu::Label;
     default:

@@ -154,6 +154,27 @@ TEST(DesignerOnScreen, TheLabelModeNeedsNoMouse) {
     run.ExpectWindowFollows();
 }
 
+TEST(DesignerOnScreen, TheMenuKeyOpensTheMenuOfTheFramedLabelAndReturnItsWindow) {
+    Designer run;
+    run.Choose(CommandId::mnuEditLabelMode);
+    PageView& page = run.window->PageOf(PageId::frmP1);
+    for (int label = 0; label < 9; ++label) {
+        QTest::keyClick(&page, Qt::Key_Tab);
+    }
+    const float left = run.Label(9).Left;
+    QMenu* menu = run.window->MenuTree().Menu(CommandId::mnuEditLabel);
+    QTest::keyClick(&page, Qt::Key_Menu);
+    ASSERT_TRUE(menu->isVisible());
+    const auto* frame = page.findChild<QWidget*>(QStringLiteral("LabelFrame"));
+    EXPECT_EQ(menu->pos(), page.mapToGlobal(frame->geometry().bottomLeft()));
+    QTest::keyClick(menu, Qt::Key_Escape);
+    EXPECT_FALSE(menu->isVisible());
+    EXPECT_EQ(run.program.designer.Framed, 9);
+    EXPECT_EQ(run.Label(9).Left, left);
+    QTest::keyClick(&page, Qt::Key_Return);
+    EXPECT_TRUE(run.Find<QDialog>("frmLabelProps")->isVisible());
+}
+
 TEST(DesignerOnScreen, ThousandsOfFamiliesOpenAtOnceAndAreFoundByTyping) {
     std::vector<std::string> families;
     families.reserve(2001);
