@@ -414,7 +414,9 @@ void LogoDblClick(Program& program) {
 
 modLabelKeys::Menu LabelKeyDown(Program& program, int keyCode, int shift) {
     BeginTelling(program);
-    return modLabelKeys::KeyDown(program, keyCode, shift);
+    const modLabelKeys::Menu menu = modLabelKeys::KeyDown(program, keyCode, shift);
+    modScroll::BringFrameIntoView(program);
+    return menu;
 }
 
 void NoTaxMarkClick(Program& program, PageId page, int index) {

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <string_view>
 
 namespace modScroll {
@@ -112,8 +113,19 @@ bool CanScrollTo(const Program& program, const FieldRef& field) {
     return field.Page == main.PageInFront && !page.InkShown && main.ClientHeight >= 2 * height;
 }
 
-float RoomBeside(const Program& program, const TextArea& area) {
-    return std::min(RowPitch(program), (program.main.ClientHeight - area.Height) / 2);
+float RoomBeside(const Program& program, float height) {
+    return std::min(RowPitch(program), (program.main.ClientHeight - height) / 2);
+}
+
+void BringIntoView(Program& program, float top, float height) {
+    const MainWindow& main = program.main;
+    const float beside = RoomBeside(program, height);
+    const auto shown = static_cast<float>(main.VScroll1.Value);
+    if (top < shown) {
+        SetScroll(program, static_cast<int>(top - beside));
+    } else if (top + height > shown + main.ClientHeight) {
+        SetScroll(program, static_cast<int>(top + height + beside - main.ClientHeight));
+    }
 }
 
 } // namespace
@@ -177,18 +189,25 @@ void VScroll1_Change(Program& program) {
 }
 
 void BringIntoView(Program& program, const FieldRef& field) {
-    const MainWindow& main = program.main;
-    const TextArea& area = modFields::Area(program, field);
-    if (!CanScrollTo(program, field)) {
+    if (CanScrollTo(program, field)) {
+        const TextArea& area = modFields::Area(program, field);
+        BringIntoView(program, area.Top, area.Height);
+    }
+}
+
+void BringFrameIntoView(Program& program) {
+    const std::optional<int> framed = program.designer.Framed;
+    const Page& page = program.pages[program.main.PageInFront];
+    if (!program.designer.LabelMode || !framed) {
         return;
     }
-    const float beside = RoomBeside(program, area);
-    const auto shown = static_cast<float>(main.VScroll1.Value);
-    if (area.Top < shown) {
-        SetScroll(program, static_cast<int>(area.Top - beside));
-    } else if (area.Top + area.Height > shown + main.ClientHeight) {
-        SetScroll(program, static_cast<int>(area.Top + area.Height + beside - main.ClientHeight));
+    if (*framed == kLogoInFrame) {
+        BringIntoView(program, page.pic.Top, page.pic.Size.Height);
+        return;
     }
+    const PageLabel& label = page.lbl[static_cast<std::size_t>(*framed)];
+    const TextFont font{label.FontName, label.FontSize, label.FontBold, label.FontItalic};
+    BringIntoView(program, label.Top, program.platform.measure.Height(font));
 }
 
 void BringToEdge(Program& program, const FieldRef& field) {
@@ -197,7 +216,7 @@ void BringToEdge(Program& program, const FieldRef& field) {
     }
     const MainWindow& main = program.main;
     const TextArea& area = modFields::Area(program, field);
-    const float beside = RoomBeside(program, area);
+    const float beside = RoomBeside(program, area.Height);
     const int atFoot = static_cast<int>(area.Top + area.Height + beside - main.ClientHeight);
     SetScroll(program, atFoot >= main.VScroll1.Min ? atFoot : static_cast<int>(area.Top - beside));
 }

@@ -24,6 +24,9 @@ void VScroll1_Change(Program& program);
 /// of another page and a page that is only ink leave the position alone.
 void BringIntoView(Program& program, const FieldRef& field);
 
+/// The same for the label or logo that the label mode has in its frame.
+void BringFrameIntoView(Program& program);
+
 /// Scrolls the page in front until the field stands about a row from the lower edge of what shows, or, near
 /// the page's head, from the upper one: a window above it needs most of the screen.
 void BringToEdge(Program& program, const FieldRef& field);

@@ -20,6 +20,8 @@
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
 #include "shell/closing.h"
+#include "shell/input.h"
+#include "shell/page_switch.h"
 #include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
@@ -366,6 +368,27 @@ TEST(LabelKeys, DoWhatTheMouseDoes) {
     modLabelKeys::KeyDown(keys.program, 27, 0);
     EXPECT_FALSE(keys.program.designer.LabelMode);
     EXPECT_TRUE(keys.program.main.Focus);
+}
+
+TEST(LabelKeys, ThePageScrollsToTheFrame) {
+    Designing run;
+    constexpr float kWindow = 9750; // as high as on a small screen
+    run.program.main.ClientHeight = kWindow;
+    modScroll::UpdatePageButtons(run.program, 0);
+    person::Choose(run.program, CommandId::mnuEditLabelMode);
+    const auto& labels = run.program.pages[PageId::frmP1].lbl;
+    bool scrolled = false;
+    do {
+        static_cast<void>(modInput::LabelKeyDown(run.program, keys::kTab, 0));
+        const int framed = run.program.designer.Framed.value_or(0);
+        const auto shown = static_cast<float>(run.program.main.VScroll1.Value);
+        const float top = labels[static_cast<std::size_t>(framed)].Top;
+        EXPECT_GE(top, shown) << framed;
+        EXPECT_LT(top, shown + kWindow) << framed;
+        scrolled = scrolled || shown > 0;
+    } while (run.program.designer.Framed.value_or(0) != 0);
+    EXPECT_TRUE(scrolled) << "the page is higher than the window";
+    EXPECT_LT(run.program.main.VScroll1.Value, labels[0].Top) << "round, and back at its first label";
 }
 
 TEST(LabelKeys, TheLogoComesLastOnTheFirstPage) {
