@@ -138,9 +138,6 @@ void LayLines(Program& program) {
 void ParseFormatFile(Program& program) {
     {
         const ScopedFlag silent(program.guards.Loading);
-        for (const PageId page : kLinePages) {
-            modPages::EnsureRowFields(program, page);
-        }
         assignment::WorkingFields working(assignment::WorkingFields::BadValue::LeavesWorkingValue);
         for (const std::string& line : program.format.FormatLines) {
             const assignment::Reading reading = assignment::Read(line);

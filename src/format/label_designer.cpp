@@ -188,8 +188,7 @@ void lbl_DblClick(Program& program, PageId page, int index) {
     if (IsSelected(label)) {
         Deselect(label);
     } else {
-        PutLook(RecordOf(program.format.LabelSavedState, page, index), LookOf(label));
-        Select(label);
+        Select(label); // the press has noted its look
     }
     ShowLabelInWindow(program);
 }
