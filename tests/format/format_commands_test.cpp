@@ -679,6 +679,44 @@ TEST(ALogoThatWasChosen, ShowsWhereLogosWereHiddenAndGoesOnShowingOnceItIsKept) 
     EXPECT_EQ(run.OnShow(), run.Theirs());
 }
 
+TEST(ALogoMadeTheDefault, StandsWhereItStoodInTheNextProposal) {
+    Logos run;
+    run.ChooseTheirs();
+    run.program.pages[PageId::frmP1].pic.Left = 900;
+    run.program.pages[PageId::frmP1].pic.Top = 1080;
+    modLogo::mnuEditLogoSave_Click(run.program);
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.OnShow(), run.Theirs());
+    EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Left, 900);
+    EXPECT_EQ(run.program.pages[PageId::frmP1].pic.Top, 1080);
+}
+
+TEST(ALogoMadeTheDefault, ShowsFromNowOnIfItShowsAtAll) {
+    for (const bool shows : {true, false}) {
+        Logos run;
+        run.program.settings.LogoVisible = false;
+        modProposal::mnuFileNew_Click(run.program);
+        ASSERT_EQ(run.OnShow(), "");
+        if (shows) {
+            run.ChooseTheirs();
+        }
+        modLogo::mnuEditLogoSave_Click(run.program);
+        EXPECT_EQ(run.program.settings.LogoVisible, shows);
+    }
+}
+
+TEST(ALogoMadeTheDefault, KeepsTheNameByWhichTheSettingsKnowIt) {
+    Logos run;
+    run.folder.Write("bare.png", "x");
+    run.surroundings.pictures.Known[run.folder / "bare.png"] = {1500, 900};
+    run.program.settings.LogoFile = "bare.png";
+    modProposal::mnuFileNew_Click(run.program);
+    ASSERT_EQ(run.OnShow(), run.folder / "bare.png");
+    modLogo::mnuEditLogoSave_Click(run.program);
+    EXPECT_EQ(run.program.settings.LogoFile, "bare.png");
+    EXPECT_TRUE(run.HasSetting("Logo File:bare.png"));
+}
+
 TEST(TheLogosBorder, IsSaidToBeKeptByNoFile) {
     Logos run;
     run.Open();

@@ -260,6 +260,33 @@ TEST(FormatSaving, TheTablesAreMadeFromWhatStandsOnThePages) {
     }
 }
 
+TEST(FormatSaving, ValuesThatItsLinesCannotHoldAreToldTheFirstFiveByName) {
+    for (const bool logo : {false, true}) {
+        Saving run;
+        run.Open();
+        run.Area(PageId::frmP1, 8).Text = "a .FontBold=b";
+        Typist typist(run.program);
+        typist.Click(PageId::frmP2, 4);
+        typist.Press(keys::kF8);
+        run.program.pages[PageId::frmP2].txtQty[4].Text = "1 .AmtValue=2";
+        run.program.pages[PageId::frmP2].txtAmt[4].Text = "3\n4";
+        run.Label(PageId::frmP1, 9).FontName = "St. Foo";
+        run.program.run.DefaultFontName = "a .FontSize=b";
+        std::string told = "The text \"a .FontBold=b\" cannot be kept in a format.\r\n"
+                           "The text \"1 .AmtValue=2\" cannot be kept in a format.\r\n"
+                           "The text \"3\n4\" cannot be kept in a format.\r\n"
+                           "The font name \"St. Foo\" cannot be kept in a format.\r\n"
+                           "The font name \"a .FontSize=b\" cannot be kept in a format.";
+        if (logo) {
+            run.program.format.LogoPath = "/srv/a .Left=b.png";
+            told += "\r\nand 1 more.";
+        }
+        run.Questions().Expect(kShallTheTexts, Answer::No);
+        run.Questions().ExpectBox({told, Buttons::Ok, ""}, Answer::Ok);
+        run.Save();
+    }
+}
+
 TEST(FormatNew, ChangesOfTheFormatThatAreKeptStopIt) {
     Saving run;
     run.Open();

@@ -208,31 +208,35 @@ TEST(LabelWindow, CancelAfterAllWereSelectedAndLetGoChangesNothing) {
     }
 }
 
-/// What was chosen for one group is nothing to the next.
 TEST(LabelWindow, ALaterGroupTakesNothingOfAnEarlierOne) {
-    for (const bool letGo : {false, true}) {
-        Hands run;
-        run.DoubleClick(9);
-        run.DoubleClick(10);
-        frmLabelProps* window = &run.Props();
-        window->cmdSize_Click(run.program, 8);
-        if (letGo) {
-            person::Choose(run.program, CommandId::mnuEditLabelDeselectAll);
-        } else {
-            window->cmdOK_Click(run.program);
-            modWindows::Sweep(run.program);
-        }
-        const float size = run.Label(PageId::frmP1, 11).FontSize;
-        ASSERT_NE(size, 24);
-        run.Label(PageId::frmP1, 12).FontSize = 18;
-        run.DoubleClick(11);
-        run.DoubleClick(12);
-        window = letGo ? window : &run.Props();
-        window->cmdOK_Click(run.program);
-        EXPECT_EQ(run.Label(PageId::frmP1, 11).FontSize, size) << letGo;
-        EXPECT_EQ(run.Prop(11).FontSize, size) << letGo;
-        EXPECT_EQ(run.Prop(12).FontSize, 18) << letGo;
-    }
+    Hands run;
+    run.DoubleClick(9);
+    run.DoubleClick(10);
+    run.Props().cmdSize_Click(run.program, 8);
+    CloseLabelWindow(run.program);
+    modWindows::Sweep(run.program);
+    const float size = run.Label(PageId::frmP1, 11).FontSize;
+    run.Label(PageId::frmP1, 12).FontSize = 18;
+    run.DoubleClick(11);
+    run.DoubleClick(12);
+    run.Props().cmdOK_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 11).FontSize, size);
+    EXPECT_EQ(run.Prop(11).FontSize, size);
+    EXPECT_EQ(run.Prop(12).FontSize, 18);
+}
+
+TEST(LabelWindow, AllLabelsSelectedAfterAGroupWasLetGoTakeNothingOfIt) {
+    Hands run;
+    run.DoubleClick(9);
+    run.DoubleClick(10);
+    frmLabelProps& window = run.Props();
+    window.cmdSize_Click(run.program, 8);
+    person::Choose(run.program, CommandId::mnuEditLabelDeselectAll);
+    const float size = run.Label(PageId::frmP1, 11).FontSize;
+    ASSERT_NE(size, 24);
+    person::Choose(run.program, CommandId::mnuEditLabelSelectAll);
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 11).FontSize, size);
 }
 
 TEST(LabelWindow, ALabelPressedAfterTheGroupIsNoneHasItsOwnLook) {
