@@ -350,24 +350,28 @@ TEST(DesignWindows, EveryButtonThatEndsOneClosesIt) {
     text.cmdOK_Click(run.program);
     EXPECT_TRUE(text.Closing);
     modWindows::Sweep(run.program);
-    for (const int way : {0, 1, 2}) {
-        frmSnap& snap = run.Open<frmSnap>(CommandId::mnuToolsSnap, "frmSnap");
-        way == 0   ? snap.cmdSnap_Click(run.program, 0)
-        : way == 1 ? snap.cmdCancel_Click(run.program)
-                   : snap.Form_Cancel(run.program);
-        EXPECT_TRUE(snap.Closing) << way;
+    const auto snapCloses = [&](const auto& end) {
+        frmSnap& window = run.Open<frmSnap>(CommandId::mnuToolsSnap, "frmSnap");
+        end(window);
+        const bool closing = window.Closing;
         modWindows::Sweep(run.program);
-    }
+        return closing;
+    };
+    EXPECT_TRUE(snapCloses([&](frmSnap& window) { window.cmdSnap_Click(run.program, 0); }));
+    EXPECT_TRUE(snapCloses([&](frmSnap& window) { window.cmdCancel_Click(run.program); }));
+    EXPECT_TRUE(snapCloses([&](frmSnap& window) { window.Form_Cancel(run.program); }));
     frmTextProps& opener = run.TextProps();
-    for (const int way : {0, 1, 2}) {
+    const auto coloursClose = [&](const auto& end) {
         opener.cmdColors_Click(run.program);
-        auto& colours = dynamic_cast<frmRGB&>(*modWindows::Find(run.program, "frmRGB"));
-        way == 0   ? colours.cmdOK_Click(run.program)
-        : way == 1 ? colours.cmdCancel_Click(run.program)
-                   : colours.Form_Cancel(run.program);
-        EXPECT_TRUE(colours.Closing) << way;
+        auto& window = dynamic_cast<frmRGB&>(*modWindows::Find(run.program, "frmRGB"));
+        end(window);
+        const bool closing = window.Closing;
         modWindows::Sweep(run.program);
-    }
+        return closing;
+    };
+    EXPECT_TRUE(coloursClose([&](frmRGB& window) { window.cmdOK_Click(run.program); }));
+    EXPECT_TRUE(coloursClose([&](frmRGB& window) { window.cmdCancel_Click(run.program); }));
+    EXPECT_TRUE(coloursClose([&](frmRGB& window) { window.Form_Cancel(run.program); }));
 }
 
 TEST(ColourWindow, OfTheAreasLeavesTheLabelsAlone) {
