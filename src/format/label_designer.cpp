@@ -137,7 +137,7 @@ void lbl_MouseDown(Program& program, PageId page, int index, int button, float x
         drag.GrabX = x;
         drag.GrabY = y;
     }
-    if (designer.LabelPropsOpen && another) {
+    if (another) {
         ShowLabelInWindow(program);
     }
 }

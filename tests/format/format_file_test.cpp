@@ -699,6 +699,22 @@ TEST(FormatFile, AnAccentedLetterIsAWordAndASignOfArithmeticIsNone) {
     EXPECT_EQ(run.Label(PageId::frmP1, 23).Caption, "$");
 }
 
+TEST(FormatFile, ARowOfAPageWhoseRowsAreNotBuiltYetGetsItsColumns) {
+    Laid run;
+    Page& page = run.program.pages[PageId::frmP2];
+    page.RowFieldsMade = false;
+    for (auto* boxes : {&page.txtQty, &page.txtAmt}) {
+        boxes->resize(1);
+    }
+    for (auto* labels : {&page.lblAt, &page.lblEach}) {
+        labels->resize(1);
+    }
+    run.Lay({"frmP2.txq(32).QtyBox=True .QtyValue=2 .AmtValue=3.00"});
+    ASSERT_TRUE(modPages::ColumnsOn(run.program, PageId::frmP2, 32));
+    EXPECT_EQ(run.program.pages[PageId::frmP2].txtQty[32].Text, "2");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 65), "6.00");
+}
+
 TEST(FormatFile, ALogoThatIsTooLargeIsScaledAndTold) {
     Laid run;
     const std::string picture = run.folder / "logo.png";

@@ -160,6 +160,20 @@ TEST(LabelWindow, OkTakesTheSelectionOfOneLabelBackAndRemembersItsLook) {
     EXPECT_EQ(run.program.designer.LabelEditPrevious.Caption, "Day");
 }
 
+TEST(LabelWindow, OkGivesASignTheColourThatIsKeptOfIt) {
+    Hands run;
+    run.Click(21);
+    frmLabelProps& window = run.Props();
+    window.cmdColor_Click(run.program, 0);
+    frmTextProps& font = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+    font.cmdColor_Click(run.program, 5);
+    font.cmdOK_Click(run.program);
+    ASSERT_EQ(run.Label(PageId::frmP1, 21).ForeColor, 0xFF0000U) << "a sign has the areas' font";
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Prop(21).ForeColor, 0x0000FFU);
+    EXPECT_EQ(run.Label(PageId::frmP1, 21).ForeColor, 0x0000FFU);
+}
+
 TEST(LabelWindow, EachTickFollowsItsClick) {
     Hands run;
     run.Click(9);
