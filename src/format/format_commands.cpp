@@ -29,10 +29,7 @@ void ClearFormat(Program& program) {
     program.settings.LoadDefaultFormat = false;
     program.format.FormatName.clear();
     program.format.FormatOpen = false;
-    program.format.FormatTextChanges = {};
-    program.format.FormatLabelChanges = {};
-    program.format.FormatLines.clear();
-    program.format.LogoPath.clear();
+    program.format.FormatTextChanges = {}; // what it protected goes with the other texts
     if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         program.format = before;
         program.settings.LoadDefaultFormat = loadDefault;

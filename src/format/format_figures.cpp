@@ -7,7 +7,6 @@
 #include "money/totals.h"
 #include "pages/page_geometry.h"
 #include "pages/row_fields.h"
-#include "pages/titles.h"
 #include "program/program.h"
 #include "proposal/file_names.h"
 
@@ -59,8 +58,7 @@ void TakeClientName(Program& program) {
         return;
     }
     modNames::NameAfterClient(program, name);
-    program.document.HasClient = true;
-    modTitles::UpdateFooters(program);
+    program.document.HasClient = true; // the reset lays the title as soon as the format is on the pages
 }
 
 } // namespace

@@ -23,17 +23,13 @@ namespace {
 using assignment::Fields;
 using assignment::Kind;
 
-TextChangeRecord& AreaRecord(Program& program, int page, int index) {
-    return program.format.FormatTextChanges[PageAt(page)][static_cast<std::size_t>(index)];
-}
-
 void TakeArea(Program& program, const assignment::AreaAssignment& line) {
     TextArea& area = program.pages[PageAt(line.Page)].txt[static_cast<std::size_t>(line.Index)];
-    TextChangeRecord& record = AreaRecord(program, line.Page, line.Index);
+    TextChangeRecord& record =
+        program.format.FormatTextChanges[PageAt(line.Page)][static_cast<std::size_t>(line.Index)];
     AreaInFormat& kept = program.format.InFile[PageAt(line.Page)][static_cast<std::size_t>(line.Index)];
     const bool marks = line.TaxExempt && geometry::IsAmount(PageAt(line.Page), line.Index);
     if (line.Bold && (line.SetsWeight || line.Text || marks)) {
-        area.FontBold = true;
         record.FontBold = true;
         kept.FontBold = true;
     }
@@ -55,14 +51,6 @@ void TakeArea(Program& program, const assignment::AreaAssignment& line) {
     }
 }
 
-void TakeRow(Program& program, const assignment::RowAssignment& row) {
-    modLineEffects::LayRow(program, row);
-    TextChangeRecord& record = AreaRecord(program, row.Page, row.Index);
-    record.QtyBox = row.Columns;
-    record.QtyValue = row.Quantity;
-    record.AmtValue = row.Price;
-}
-
 void TakeLabel(Program& program, const Fields& fields, const LabelLook& line) {
     const PageId page = PageAt(fields.Page);
     auto& builtIn = program.format.BuiltIn[page][static_cast<std::size_t>(fields.Index)];
@@ -74,9 +62,7 @@ void TakeLabel(Program& program, const Fields& fields, const LabelLook& line) {
     modDesigner::PutLook(record, look);
     record.Changed = true;
     record.FromFormat = true;
-    LabelChangeRecord& saved = modDesigner::RecordOf(program.format.LabelSavedState, page, fields.Index);
-    modDesigner::PutLook(saved, look);
-    saved.Changed = false;
+    modDesigner::PutLook(modDesigner::RecordOf(program.format.LabelSavedState, page, fields.Index), look);
 }
 
 void TakeLine(Program& program, assignment::WorkingFields& working, const Fields& fields) {
@@ -89,7 +75,7 @@ void TakeLine(Program& program, assignment::WorkingFields& working, const Fields
     case Kind::txq: {
         const bool now = modPages::ColumnsOn(program, PageAt(fields.Page), fields.Index);
         if (const auto row = working.TakeRow(fields, now)) {
-            TakeRow(program, *row);
+            modLineEffects::LayRow(program, *row);
         }
         break;
     }
@@ -114,7 +100,7 @@ void TakeLine(Program& program, assignment::WorkingFields& working, const Fields
 }
 
 /// The proposal's table takes the bold too: a change of font lays it from there.
-void LayBoldAgain(Program& program) {
+void LayBold(Program& program) {
     for (const PageId page : kEditedPages) {
         auto& areas = program.pages[page].txt;
         for (std::size_t index = 0; index < areas.size(); ++index) {
@@ -142,8 +128,7 @@ void Refuse(Program& program, const std::exception& error) {
 void LayLines(Program& program) {
     program.document.WindowTitle = "Quillbrook - Format File = " + program.format.FormatName;
     ParseFormatFile(program);
-    modDesigner::SaveBaseLabels(program);
-    LayBoldAgain(program);
+    LayBold(program);
     modLogo::LayPendingLogo(program);
     TakeFormatFigures(program);
 }
@@ -153,9 +138,6 @@ void LayLines(Program& program) {
 void ParseFormatFile(Program& program) {
     {
         const ScopedFlag silent(program.guards.Loading);
-        for (const PageId page : kLinePages) {
-            modPages::EnsureRowFields(program, page);
-        }
         assignment::WorkingFields working(assignment::WorkingFields::BadValue::LeavesWorkingValue);
         for (const std::string& line : program.format.FormatLines) {
             const assignment::Reading reading = assignment::Read(line);
@@ -172,12 +154,6 @@ void ParseFormatFile(Program& program) {
 
 void OpenFormatFile(Program& program) {
     FormatRecords& format = program.format;
-    format.FormatLines.clear();
-    format.FormatTextChanges = {};
-    format.FormatLabelChanges = {};
-    format.InFile = {};
-    format.BuiltIn = {};
-    format.Touched = false;
     std::string bytes;
     try {
         bytes = files::ReadAll(paths::Join(format.FormatFolder, format.FormatName));

@@ -63,9 +63,10 @@ void TakeLabels(const Program& program, Texts texts, LabelChangeTable& table) {
 void AddAreas(const FormatTables& tables, std::vector<std::string>& lines) {
     // For the reader a bold stays in force: what follows one and is not bold has to say so.
     bool inForce = false;
-    for (int page = 0; page < kLinePageCount; ++page) {
-        for (int index = 0; index <= geometry::LastText(PageAt(page)); ++index) {
-            const TextChangeRecord& record = tables.Areas[PageAt(page)][static_cast<std::size_t>(index)];
+    for (const PageId id : kLinePages) {
+        const int page = IndexOf(id);
+        for (int index = 0; index <= geometry::LastText(id); ++index) {
+            const TextChangeRecord& record = tables.Areas[id][static_cast<std::size_t>(index)];
             if (record.FontBold) {
                 lines.push_back(assignment::BoldLine(page, index, true));
                 inForce = true;
@@ -84,11 +85,12 @@ void AddAreas(const FormatTables& tables, std::vector<std::string>& lines) {
 }
 
 void AddRows(const FormatTables& tables, std::vector<std::string>& lines) {
-    for (int page = 0; page < kLinePageCount; ++page) {
-        for (int row = geometry::FirstRow(PageAt(page)); row <= geometry::LastRow(PageAt(page)); ++row) {
-            const TextChangeRecord& record = tables.Areas[PageAt(page)][static_cast<std::size_t>(row)];
+    for (const PageId page : kLinePages) {
+        for (int row = geometry::FirstRow(page); row <= geometry::LastRow(page); ++row) {
+            const TextChangeRecord& record = tables.Areas[page][static_cast<std::size_t>(row)];
             if (record.QtyBox) {
-                lines.push_back(assignment::RowLine(page, row, true, record.QtyValue, record.AmtValue));
+                lines.push_back(
+                    assignment::RowLine(IndexOf(page), row, true, record.QtyValue, record.AmtValue));
             }
         }
     }

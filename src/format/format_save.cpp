@@ -207,10 +207,9 @@ FormatSave SaveSteps(Program& program, const Name& name) {
     if (!texts) {
         return FormatSave::NotSaved;
     }
-    std::vector<std::string> linesBefore = std::exchange(format.FormatLines, {});
+    std::vector<std::string> linesBefore = format.FormatLines;
     const AfterLast after = AssignFormatPropChanges(program, *texts);
     if (after == AfterLast::NotMade) {
-        format.FormatLines = std::move(linesBefore);
         return FormatSave::NotSaved;
     }
     modUnkept::TellUnkeptFormat(program);

@@ -3,7 +3,6 @@
 #include "format/label_looks.h"
 #include "format/label_selection.h"
 #include "pages/page_geometry.h"
-#include "pages/titles.h"
 #include "program/program.h"
 
 namespace modDesigner {
@@ -93,7 +92,6 @@ void CommitLabelProps(Program& program, int index) {
     label.ForeColor = RecordOf(program.format.LabelSavedState, page, index).ForeColor;
     if (page == PageId::frmP6) {
         CopyToClientsPage(program, index);
-        modTitles::UpdateFooters(program);
     }
 }
 
@@ -113,7 +111,6 @@ void CommitSelectedLabels(Program& program) {
         const LabelLook look = WithGroupFields(LookOf(label), edit, changed);
         PutLook(label, look);
         RecordEverywhere(program, page, index, look);
-        designer.LabelEdit = look;
         designer.LabelEditPrevious = look;
         Deselect(label);
     }
@@ -121,7 +118,6 @@ void CommitSelectedLabels(Program& program) {
         for (int index = 0; index <= geometry::LastLabel(page); ++index) {
             CopyToClientsPage(program, index);
         }
-        modTitles::UpdateFooters(program);
     }
     designer.Changed = {};
     // A window that stays, or opens again, goes on with the label pressed last and not with the group's last.

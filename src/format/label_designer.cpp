@@ -137,7 +137,7 @@ void lbl_MouseDown(Program& program, PageId page, int index, int button, float x
         drag.GrabX = x;
         drag.GrabY = y;
     }
-    if (designer.LabelPropsOpen && another) {
+    if (another) {
         ShowLabelInWindow(program);
     }
 }
@@ -188,8 +188,7 @@ void lbl_DblClick(Program& program, PageId page, int index) {
     if (IsSelected(label)) {
         Deselect(label);
     } else {
-        PutLook(RecordOf(program.format.LabelSavedState, page, index), LookOf(label));
-        Select(label);
+        Select(label); // the press has noted its look
     }
     ShowLabelInWindow(program);
 }

@@ -72,7 +72,6 @@ void AddLabels(const Program& program, std::vector<std::string>& lines) {
     }
     if (line->SetsWeight) {
         const auto index = static_cast<std::size_t>(line->Index);
-        program.pages[PageAt(line->Page)].txt[index].FontBold = line->Bold;
         program.format.PropTextChanges[PageAt(line->Page)][index].FontBold = line->Bold;
     }
     return true;
@@ -209,7 +208,6 @@ void AssignPropChanges(Program& program) {
 }
 
 void ParsePropertyFile(Program& program) {
-    program.format.PropertyLinesRead.reset();
     const ScopedFlag silent(program.guards.Loading);
     Guarded(program, "ParsePropertyFile", [&] { TakeLines(program); });
     modPages::ApplyPageFonts(program);

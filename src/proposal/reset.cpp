@@ -150,6 +150,7 @@ void TakeFormat(Program& program, bool loadDefault) {
     FormatRecords& format = program.format;
     format.FormatTextChanges = {};
     format.FormatLabelChanges = {};
+    format.FormatLines.clear();
     format.InFile = {};
     format.BuiltIn = {};
     format.LogoPath.clear();

@@ -44,6 +44,20 @@ TEST(AssignmentLines, SayWhatTheyAssignToTheLetter) {
               "UDP.FontName=Arial .FontSize=10 .FontColor=255 .FontItalic=True");
 }
 
+TEST(AssignmentLines, AnEndOfALineWithinAValueBecomesABlank) {
+    EXPECT_EQ(TextLine(1, 12, "a\nb"), "frmP2.txt(12).Text=a b");
+    EXPECT_EQ(TextLine(1, 12, "a\rb"), "frmP2.txt(12).Text=a b");
+    EXPECT_EQ(TextLine(1, 12, "a\r\nb"), "frmP2.txt(12).Text=a  b");
+}
+
+TEST(AssignmentLines, ALogoWithBlanksAroundItOrTheNameOfItsPlaceCannotBeKept) {
+    EXPECT_FALSE(CannotBeKept(Value::Picture, "/srv/my logo.png"));
+    EXPECT_TRUE(CannotBeKept(Value::Picture, " /srv/logo.png"));
+    EXPECT_TRUE(CannotBeKept(Value::Picture, "/srv/logo.png "));
+    EXPECT_TRUE(CannotBeKept(Value::Picture, "/srv/a .Left=b.png"));
+    EXPECT_TRUE(CannotBeKept(Value::Picture, "/srv/a .Top=b.png"));
+}
+
 TEST(AssignmentLines, ALabelComesBackAsItWas) {
     const std::string line = LabelLine(0, 9, Day()); // what is read looks into it
     const Reading reading = Read(line);

@@ -561,6 +561,182 @@ TEST(PropertyLines, ARowWithColumnsAndNothingInThemChangesNoProposal) {
     EXPECT_FALSE(modProposal::SomethingChanged(run.program));
 }
 
+TEST(PropertyLines, ALogoLineIsPassedOver) {
+    Laid run;
+    run.program.format.PropertyLines = {"frmP1.pic.Picture=/srv/logo.png .Left=1 .Top=2",
+                                        "frmP1.txt(11).FontBold=True"};
+    modProperties::ParsePropertyFile(run.program);
+    EXPECT_FALSE(run.program.format.PropertyLinesRead);
+    EXPECT_TRUE(run.Area(PageId::frmP1, 11).FontBold);
+    EXPECT_EQ(run.program.format.LogoPath, "");
+}
+
+TEST(PropertyLines, AFileReadWholeAfterOneThatWasNotIsNotKeptAsUnread) {
+    Laid run;
+    run.folder.Write("Proposals/Jane Roe.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+    run.folder.Write("Proposals/Jane Roe.hpf", "frmP1.lbl(9).Left=far\r\n");
+    run.surroundings.questions.Expect("The layout of this proposal was read only up to line 0.");
+    run.Open("Jane Roe.hef");
+    EXPECT_EQ(run.program.format.PropertyLinesRead, 0);
+    run.folder.Write("Proposals/Jane Roe.hpf", "frmP1.txt(11).FontBold=True\r\n");
+    run.Open("Jane Roe.hef");
+    EXPECT_FALSE(run.program.format.PropertyLinesRead);
+}
+
+TEST(PropertyLines, AreTheBaseAndTheSavedStateOfTheLabels) {
+    Laid run;
+    run.program.format.PropertyLines = {
+        "frmP1.lbl(9).Left=100 .Top=200 .Caption=Day .FontName=Arial .FontBold=True .FontSize=12 "
+        ".ForeColor=255 .FontItalic=False .FontUnderline=True"};
+    modProperties::ParsePropertyFile(run.program);
+    EXPECT_EQ(run.program.pages[PageId::frmP1].LabelBaseState[9].Caption, "Day");
+    const LabelLook look{100, 200, "Day", "Arial", 12, true, 255, false, true};
+    EXPECT_EQ(static_cast<const LabelLook&>(run.program.format.LabelSavedState[PageId::frmP1][9]), look);
+}
+
+TEST(PropertyLines, TheirFontSettlesSignsAndWhichTextsAreTooLong) {
+    Laid run;
+    run.surroundings.measure.UnitSize = 10;
+    // 90 characters of 100 twips in ten points are wider than the 8640 of a row, in six points they are not.
+    run.Area(PageId::frmP2, 3).Text = std::string(90, 'x');
+    run.Area(PageId::frmP2, 3).BackColor = colors::kOverLimit;
+    run.program.format.PropertyLines = {
+        "frmP1.lbl(21).Left=9800 .Top=10260 .Caption=$ .FontName=Arial .FontBold=True .FontSize=30 "
+        ".ForeColor=255 .FontItalic=False .FontUnderline=False"};
+    modProperties::ParsePropertyFile(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 21).FontSize, 10) << "a sign has the areas' font";
+    EXPECT_EQ(run.Label(PageId::frmP1, 21).ForeColor, 0U);
+    EXPECT_EQ(run.Label(PageId::frmP1, 21).Left, 9800);
+    run.program.format.PropertyLines = {"UDP.FontName=Arial .FontSize=6 .FontColor=0 .FontItalic=False"};
+    modProperties::ParsePropertyFile(run.program);
+    EXPECT_EQ(run.Area(PageId::frmP2, 3).FontSize, 6);
+    EXPECT_EQ(run.Area(PageId::frmP2, 3).BackColor, colors::kResting);
+}
+
+TEST(PropertyLines, WithoutATitleOfItsOwnEveryPageTakesTheClients) {
+    const std::string look = " .FontName=Arial .FontBold=True .FontSize=9 .ForeColor=0 .FontItalic=False "
+                             ".FontUnderline=False";
+    for (const bool empty : {false, true}) {
+        Laid run;
+        run.program.document.ClientCaption = "Proposal for Jane Roe";
+        run.program.format.PropertyLines = {"frmP3.lbl(36).Left=1000 .Top=15030 .Caption=Proposal for Ann" +
+                                            look};
+        if (empty) {
+            run.program.format.PropertyLines.push_back("frmP1.lbl(33).Left=1000 .Top=15030 .Caption=" + look);
+        }
+        modProperties::ParsePropertyFile(run.program);
+        EXPECT_EQ(run.program.document.ClientCaption, "Proposal for Jane Roe");
+        EXPECT_EQ(run.Label(PageId::frmP3, 36).Caption, "Proposal for Jane Roe");
+        EXPECT_EQ(run.Label(PageId::frmP3, 36).Left, 1000);
+        EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Jane Roe");
+    }
+}
+
+TEST(PropertyLines, AHeadingWithoutItsPageIsNoneForTheOtherPages) {
+    Laid run;
+    const std::string heading = run.program.document.PageHeading;
+    ASSERT_NE(heading, "");
+    run.program.format.PropertyLines = {
+        "frmP2.lbl(0).Left=3000 .Top=540 .Caption=Something else .FontName=Arial .FontBold=False "
+        ".FontSize=15 .ForeColor=0 .FontItalic=False .FontUnderline=False"};
+    modProperties::ParsePropertyFile(run.program);
+    EXPECT_EQ(run.program.document.PageHeading, heading);
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Something else");
+}
+
+TEST(PropertyLines, ATitleReadFromThemIsOnNoPageALineOfTheFileThatHadNone) {
+    Laid run;
+    run.program.format.PropertyLines = {
+        "frmP1.lbl(33).Left=5000 .Top=15030 .Caption=The Roe Wedding .FontName=Arial .FontBold=True "
+        ".FontSize=9 .ForeColor=0 .FontItalic=False .FontUnderline=False"};
+    modProperties::ParsePropertyFile(run.program);
+    const LabelChangeTable& table = run.program.format.PropLabelChanges;
+    EXPECT_EQ(table[PageId::frmP3][36].Caption, "The Roe Wedding");
+    EXPECT_TRUE(table[PageId::frmP1][33].Changed);
+    EXPECT_FALSE(table[PageId::frmP3][36].Changed);
+}
+
+TEST(FormatFile, AMarkThatSaysNeitherTrueNorFalseExemptsNothing) {
+    Laid run;
+    run.Lay({"frmP2.txt(33).TaxExempt=maybe", "frmP2.txt(34).TaxExempt=True"});
+    EXPECT_EQ(run.program.pages[PageId::frmP2].imgNoTax[33].Tag, kHide);
+    EXPECT_EQ(run.program.pages[PageId::frmP2].imgNoTax[34].Tag, "");
+}
+
+TEST(FormatFile, SignsAreTheLabelsBesideTheAmounts) {
+    Laid run;
+    for (const PageId page : kLinePages) {
+        std::vector<int> signs;
+        for (int index = 0; index <= geometry::LastText(page); ++index) {
+            if (geometry::IsAmount(page, index)) {
+                signs.push_back(geometry::CurrencyLabelIndex(page, index));
+            }
+        }
+        for (int label = 0; label <= geometry::LastLabel(page); ++label) {
+            EXPECT_EQ(modDesigner::IsSignLabel(page, label),
+                      std::find(signs.begin(), signs.end(), label) != signs.end())
+                << IndexOf(page) << " " << label;
+        }
+    }
+    for (const PageId page : {PageId::frmP6, PageId::frmP6_1}) {
+        for (int label = 0; label <= geometry::LastLabel(PageId::frmP6); ++label) {
+            EXPECT_EQ(modDesigner::IsSignLabel(page, label),
+                      run.Label(page, label).Caption == run.program.settings.CurrencySymbol)
+                << label;
+        }
+    }
+}
+
+TEST(FormatFile, AnAccentedLetterIsAWordAndASignOfArithmeticIsNone) {
+    Laid run;
+    const std::string look = " .FontName=Arial .FontBold=False .FontSize=9 .ForeColor=0 .FontItalic=False "
+                             ".FontUnderline=False";
+    run.Lay({"frmP1.lbl(21).Left=9800 .Top=10260 .Caption=\xC9" + look,
+             "frmP1.lbl(22).Left=9800 .Top=10620 .Caption=\xD7" + look,
+             "frmP1.lbl(23).Left=9800 .Top=10980 .Caption=\xF7" + look});
+    EXPECT_EQ(run.Label(PageId::frmP1, 21).Caption, "\xC9");
+    EXPECT_EQ(run.Label(PageId::frmP1, 22).Caption, "$");
+    EXPECT_EQ(run.Label(PageId::frmP1, 23).Caption, "$");
+}
+
+TEST(FormatFile, ARowOfAPageWhoseRowsAreNotBuiltYetGetsItsColumns) {
+    Laid run;
+    Page& page = run.program.pages[PageId::frmP2];
+    page.RowFieldsMade = false;
+    for (auto* boxes : {&page.txtQty, &page.txtAmt}) {
+        boxes->resize(1);
+    }
+    for (auto* labels : {&page.lblAt, &page.lblEach}) {
+        labels->resize(1);
+    }
+    run.Lay({"frmP2.txq(32).QtyBox=True .QtyValue=2 .AmtValue=3.00"});
+    ASSERT_TRUE(modPages::ColumnsOn(run.program, PageId::frmP2, 32));
+    EXPECT_EQ(run.program.pages[PageId::frmP2].txtQty[32].Text, "2");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 65), "6.00");
+}
+
+TEST(FormatFile, ALogoThatIsTooLargeIsScaledAndTold) {
+    Laid run;
+    const std::string picture = run.folder / "logo.png";
+    run.folder.Write("logo.png", "x");
+    run.surroundings.pictures.Known[picture] = {21600, 1440};
+    run.program.settings.LogoVisible = true;
+    run.Lay({"frmP1.pic.Picture=logo.png .Left=360 .Top=540"});
+    EXPECT_EQ(run.program.main.Notice.substr(0, 48), "The picture is 15.0 by 1.0 inches large. It is s");
+}
+
+TEST(FormatFile, ALostLogoLeavesNoOtherOnShow) {
+    Laid run;
+    const std::string picture = run.folder / "ours.png";
+    run.folder.Write("ours.png", "x");
+    run.surroundings.pictures.Known[picture] = {1500, 900};
+    run.program.settings.LogoVisible = true;
+    run.program.settings.LogoFile = picture;
+    run.surroundings.questions.Expect("The logo gone.png could not be shown; the format goes without it.");
+    run.Lay({"frmP1.pic.Picture=gone.png .Left=1 .Top=2"});
+    EXPECT_FALSE(run.program.pages[PageId::frmP1].pic.Visible);
+}
+
 TEST(FormatFile, ALogoThatAnEarlierReadingLeftPendingIsNotTheNextFormats) {
     Laid run;
     const std::string picture = run.folder / "theirs.png";

@@ -1,5 +1,6 @@
 #include "format/frm_label_props.h"
 #include "format/frm_rgb.h"
+#include "format/frm_snap.h"
 #include "format/frm_text_props.h"
 #include "format/frm_title.h"
 #include "format/label_commit.h"
@@ -10,6 +11,7 @@
 #include "proposal/reset.h"
 #include "support/person.h"
 #include "support/running_program.h"
+#include "support/typist.h"
 
 #include <gtest/gtest.h>
 
@@ -274,6 +276,112 @@ TEST(TitleWindow, OpensWithBothBoxesMarkedAndClearsOneByOne) {
     EXPECT_EQ(window.FocusNext, "txtTitle");
     EXPECT_TRUE(window.TitleChanged);
     EXPECT_EQ(window.txtSubTitle.Text, sub);
+}
+
+TEST(TitleWindow, OpensWithTheHeadingAndBothItsEndsCloseIt) {
+    Designed run;
+    frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    EXPECT_EQ(window.txtTitle.Text, run.program.document.PageHeading);
+    EXPECT_NE(window.txtTitle.Text, "");
+    window.cmdOK_Click(run.program);
+    EXPECT_TRUE(window.Closing);
+    modWindows::Sweep(run.program);
+    frmTitle& again = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    again.Form_Cancel(run.program);
+    EXPECT_TRUE(again.Closing);
+}
+
+TEST(TitleWindow, ATitleThatSomebodyGaveStaysAndOneThatWasClearedFollowsTheClient) {
+    Designed run;
+    Typist typist(run.program);
+    const auto give = [&](std::string_view words) {
+        frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+        window.txtSubTitle_Change(words);
+        window.cmdOK_Click(run.program);
+        modWindows::Sweep(run.program);
+    };
+    const std::string& title = run.Label(PageId::frmP1, 33).Caption;
+    give("The Day");
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Ann");
+    EXPECT_EQ(title, "The Day");
+    give("");
+    EXPECT_EQ(title, "Proposal for Ann");
+    typist.Click(PageId::frmP1, 2);
+    typist.PutCursor(3);
+    typist.Type("a");
+    EXPECT_EQ(title, "Proposal for Anna");
+    give("The Day");
+    give("Proposal for Anna");
+    typist.Click(PageId::frmP1, 2);
+    typist.PutCursor(4);
+    typist.Type("x");
+    EXPECT_EQ(title, "Proposal for Annax") << "the words that come by themselves are nobody's";
+}
+
+TEST(TitleWindow, AHeadingMadeTheDefaultIsThatOfTheNextProposal) {
+    Designed run;
+    frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    window.txtTitle_Change("Ours - ");
+    window.cmdDefault_Click(run.program);
+    window.Form_Cancel(run.program);
+    modWindows::Sweep(run.program);
+    static_cast<void>(modReset::StartNewFile(run.program));
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Ours - Page 2");
+}
+
+TEST(TitleWindow, AHeadingMadeTheDefaultGoesWithAProposalThatHadOneOfItsOwn) {
+    Designed run;
+    frmTitle& own = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    own.txtTitle_Change("Ann's Day - ");
+    own.cmdOK_Click(run.program);
+    modWindows::Sweep(run.program);
+    frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    window.txtTitle_Change("Ours - ");
+    window.cmdDefault_Click(run.program);
+    const LabelChangeTable& rides = run.program.format.PropLabelChanges;
+    EXPECT_EQ(rides[PageId::frmP2][0].Caption, "Ours - Page 2");
+    EXPECT_EQ(rides[PageId::frmP5][0].Caption, "Ours - Page 5");
+}
+
+TEST(DesignWindows, EveryButtonThatEndsOneClosesIt) {
+    Designed run;
+    frmTextProps& text = run.TextProps();
+    text.cmdOK_Click(run.program);
+    EXPECT_TRUE(text.Closing);
+    modWindows::Sweep(run.program);
+    const auto snapCloses = [&](const auto& end) {
+        frmSnap& window = run.Open<frmSnap>(CommandId::mnuToolsSnap, "frmSnap");
+        end(window);
+        const bool closing = window.Closing;
+        modWindows::Sweep(run.program);
+        return closing;
+    };
+    EXPECT_TRUE(snapCloses([&](frmSnap& window) { window.cmdSnap_Click(run.program, 0); }));
+    EXPECT_TRUE(snapCloses([&](frmSnap& window) { window.cmdCancel_Click(run.program); }));
+    EXPECT_TRUE(snapCloses([&](frmSnap& window) { window.Form_Cancel(run.program); }));
+    frmTextProps& opener = run.TextProps();
+    const auto coloursClose = [&](const auto& end) {
+        opener.cmdColors_Click(run.program);
+        auto& window = dynamic_cast<frmRGB&>(*modWindows::Find(run.program, "frmRGB"));
+        end(window);
+        const bool closing = window.Closing;
+        modWindows::Sweep(run.program);
+        return closing;
+    };
+    EXPECT_TRUE(coloursClose([&](frmRGB& window) { window.cmdOK_Click(run.program); }));
+    EXPECT_TRUE(coloursClose([&](frmRGB& window) { window.cmdCancel_Click(run.program); }));
+    EXPECT_TRUE(coloursClose([&](frmRGB& window) { window.Form_Cancel(run.program); }));
+}
+
+TEST(ColourWindow, OfTheAreasLeavesTheLabelsAlone) {
+    Designed run;
+    run.Click(9);
+    LabelChangeRecord& record = run.program.format.FormatLabelChanges[PageId::frmP1][9];
+    record.Saved = true;
+    run.TextProps().cmdColors_Click(run.program);
+    dynamic_cast<frmRGB&>(*modWindows::Find(run.program, "frmRGB")).cmdOK_Click(run.program);
+    EXPECT_TRUE(record.Saved) << "nothing to be saved again";
 }
 
 TEST(LabelDrag, ALabelThatWasLetGoStaysWhereItIs) {

@@ -99,6 +99,193 @@ TEST(LabelDrag, APressNotesTheLookOfASelectedLabelToo) {
     EXPECT_EQ(run.program.format.LabelSavedState[PageId::frmP1][9].FontSize, 20);
 }
 
+TEST(LabelDrag, OnlyAStepIsAMove) {
+    Hands run;
+    const PageLabel before = run.Label(PageId::frmP1, 9);
+    run.Press(9);
+    EXPECT_FALSE(lbl_MouseMove(run.program, PageId::frmP1, 9, 10 + 179, 10 - 179));
+    EXPECT_EQ(run.Label(PageId::frmP1, 9), before);
+    EXPECT_TRUE(lbl_MouseMove(run.program, PageId::frmP1, 9, 10, 10 + 180));
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Top, before.Top + 180);
+    run.Press(49, PageId::frmP6_1);
+    EXPECT_FALSE(lbl_MouseMove(run.program, PageId::frmP6_1, 49, 910, 910));
+    run.program.format.SnapTwips = -180;
+    run.Press(10);
+    EXPECT_FALSE(lbl_MouseMove(run.program, PageId::frmP1, 10, 910, 910)) << "no step is one";
+    EXPECT_EQ(run.Label(PageId::frmP1, 10).Left, 10080);
+}
+
+TEST(LabelDrag, MakesItsPageTheActiveOne) {
+    Hands run;
+    run.Press(34, PageId::frmP3);
+    EXPECT_EQ(run.program.main.ActivePage, PageId::frmP3);
+    EXPECT_EQ(run.program.main.CurrentPage, 2);
+}
+
+TEST(LabelWindow, OkKeepsThePlaceToWhichTheLabelWasDraggedMeanwhile) {
+    Hands run;
+    run.Click(9);
+    frmLabelProps& window = run.Props();
+    run.Drag(9, 180, 180);
+    window.cmdOK_Click(run.program);
+    for (const LabelChangeRecord* record :
+         {&run.Prop(9), &run.program.format.FormatLabelChanges[PageId::frmP1][9]}) {
+        EXPECT_EQ(record->Left, 1080 + 180);
+        EXPECT_EQ(record->Top, 4140 + 180);
+    }
+}
+
+TEST(LabelWindow, CancelKeepsThePlaceAndTakesTheSelectionBack) {
+    Hands run;
+    run.DoubleClick(9);
+    frmLabelProps& window = run.Props();
+    window.txtCaption_Change(run.program, "Day");
+    EXPECT_EQ(window.txtCaption.Text, "Day");
+    run.Label(PageId::frmP1, 9).Left = 5000;
+    run.Label(PageId::frmP1, 9).Top = 6000;
+    window.Form_Cancel(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Event Date");
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Left, 5000);
+    EXPECT_EQ(run.Label(PageId::frmP1, 9).Top, 6000);
+    EXPECT_FALSE(IsSelected(run.Label(PageId::frmP1, 9)));
+}
+
+TEST(LabelWindow, OkTakesTheSelectionOfOneLabelBackAndRemembersItsLook) {
+    Hands run;
+    run.DoubleClick(9);
+    frmLabelProps& window = run.Props();
+    window.txtCaption_Change(run.program, "Day");
+    window.cmdOK_Click(run.program);
+    EXPECT_FALSE(IsSelected(run.Label(PageId::frmP1, 9)));
+    EXPECT_EQ(run.program.designer.LabelEditPrevious.Caption, "Day");
+}
+
+TEST(LabelWindow, OkGivesASignTheColourThatIsKeptOfIt) {
+    Hands run;
+    run.Click(21);
+    frmLabelProps& window = run.Props();
+    window.cmdColor_Click(run.program, 0);
+    frmTextProps& font = run.Open<frmTextProps>(CommandId::mnuEditAllTextFonts, "frmTextProps");
+    font.cmdColor_Click(run.program, 5);
+    font.cmdOK_Click(run.program);
+    ASSERT_EQ(run.Label(PageId::frmP1, 21).ForeColor, 0xFF0000U) << "a sign has the areas' font";
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Prop(21).ForeColor, 0x0000FFU);
+    EXPECT_EQ(run.Label(PageId::frmP1, 21).ForeColor, 0x0000FFU);
+}
+
+TEST(LabelWindow, EachTickFollowsItsClick) {
+    Hands run;
+    run.Click(9);
+    frmLabelProps& window = run.Props();
+    const bool bold = window.chkBold.Value;
+    const bool italic = window.chkItalic.Value;
+    const bool underline = window.chkUnderline.Value;
+    window.chkBold_Click(run.program);
+    EXPECT_EQ(window.chkBold.Value, !bold);
+    window.chkItalic_Click(run.program);
+    EXPECT_EQ(window.chkItalic.Value, !italic);
+    window.chkUnderline_Click(run.program);
+    EXPECT_EQ(window.chkUnderline.Value, !underline);
+}
+
+TEST(LabelWindow, SelectAllLeavesTheFieldsInWhichTheLabelsDiffer) {
+    Hands run;
+    PageLabel& last = run.Label(PageId::frmP1, 9);
+    last.FontName = "Times New Roman";
+    last.FontSize = 11;
+    last.FontBold = last.FontItalic = last.FontUnderline = false;
+    run.Click(9);
+    PageLabel& pattern = run.Label(PageId::frmP1, 0);
+    pattern.FontName = "Arial";
+    pattern.FontSize = 20;
+    pattern.FontBold = pattern.FontItalic = pattern.FontUnderline = true;
+    person::Choose(run.program, CommandId::mnuEditLabelSelectAll);
+    const LabelLook& edit = run.program.designer.LabelEdit;
+    EXPECT_EQ(edit.FontName, "Times New Roman");
+    EXPECT_EQ(edit.FontSize, 11);
+    EXPECT_FALSE(edit.FontBold);
+    EXPECT_FALSE(edit.FontItalic);
+    EXPECT_FALSE(edit.FontUnderline);
+}
+
+TEST(LabelWindow, CancelAfterAllWereSelectedAndLetGoChangesNothing) {
+    Hands run;
+    const std::vector<PageLabel> before = run.program.pages[PageId::frmP1].lbl;
+    person::Choose(run.program, CommandId::mnuEditLabelSelectAll);
+    person::Choose(run.program, CommandId::mnuEditLabelDeselectAll);
+    dynamic_cast<frmLabelProps&>(*modWindows::Find(run.program, "frmLabelProps"))
+        .cmdCancel_Click(run.program);
+    const std::vector<PageLabel>& labels = run.program.pages[PageId::frmP1].lbl;
+    for (std::size_t index = 0; index < labels.size(); ++index) {
+        EXPECT_EQ(labels[index], before[index]) << index;
+    }
+}
+
+TEST(LabelWindow, ALaterGroupTakesNothingOfAnEarlierOne) {
+    Hands run;
+    run.DoubleClick(9);
+    run.DoubleClick(10);
+    run.Props().cmdSize_Click(run.program, 8);
+    CloseLabelWindow(run.program);
+    modWindows::Sweep(run.program);
+    const float size = run.Label(PageId::frmP1, 11).FontSize;
+    run.Label(PageId::frmP1, 12).FontSize = 18;
+    run.DoubleClick(11);
+    run.DoubleClick(12);
+    run.Props().cmdOK_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 11).FontSize, size);
+    EXPECT_EQ(run.Prop(11).FontSize, size);
+    EXPECT_EQ(run.Prop(12).FontSize, 18);
+}
+
+TEST(LabelWindow, AllLabelsSelectedAfterAGroupWasLetGoTakeNothingOfIt) {
+    Hands run;
+    run.DoubleClick(9);
+    run.DoubleClick(10);
+    frmLabelProps& window = run.Props();
+    window.cmdSize_Click(run.program, 8);
+    person::Choose(run.program, CommandId::mnuEditLabelDeselectAll);
+    const float size = run.Label(PageId::frmP1, 11).FontSize;
+    ASSERT_NE(size, 24);
+    person::Choose(run.program, CommandId::mnuEditLabelSelectAll);
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 11).FontSize, size);
+}
+
+TEST(LabelWindow, ALabelPressedAfterTheGroupIsNoneHasItsOwnLook) {
+    Hands run;
+    run.DoubleClick(9);
+    run.DoubleClick(10);
+    frmLabelProps& window = run.Props();
+    window.cmdSize_Click(run.program, 8);
+    run.DoubleClick(10);
+    const float size = run.Label(PageId::frmP1, 11).FontSize;
+    run.Click(11);
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Prop(11).FontSize, size);
+    EXPECT_EQ(run.Label(PageId::frmP1, 11).FontSize, size);
+}
+
+TEST(LabelWindow, AGroupOfTheFinalPageChangesOnTheClientsCopyToo) {
+    Hands run;
+    const std::string ours = run.Label(PageId::frmP6, 64).Caption;
+    const std::string theirs = run.Label(PageId::frmP6_1, 64).Caption;
+    ASSERT_NE(ours, theirs);
+    run.DoubleClick(49, PageId::frmP6);
+    run.DoubleClick(64, PageId::frmP6);
+    frmLabelProps& window = run.Props();
+    window.cmdColor_Click(run.program, 0);
+    window.cmdOK_Click(run.program);
+    for (const PageId page : {PageId::frmP6, PageId::frmP6_1}) {
+        EXPECT_EQ(run.Label(page, 49).ForeColor, 255U);
+        EXPECT_EQ(run.Label(page, 64).ForeColor, 255U);
+    }
+    EXPECT_EQ(run.Label(PageId::frmP6, 64).Caption, ours);
+    EXPECT_EQ(run.Label(PageId::frmP6_1, 64).Caption, theirs) << "each copy says whose it is";
+    EXPECT_EQ(run.program.designer.LabelEditPrevious.Caption, ours);
+}
+
 TEST(LabelSelection, CountsOnEveryPageAndChangesOnOne) {
     Hands run;
     run.DoubleClick(34, PageId::frmP3);
@@ -230,6 +417,15 @@ TEST(Grid, AStepThatIsNoneDrawsNothing) {
     }
 }
 
+TEST(Grid, DrawnAgainStandsOnce) {
+    Hands run;
+    run.program.format.SnapTwips = 4000;
+    DrawGrid(run.program, PageId::frmP2);
+    const auto points = run.program.pages[PageId::frmP2].GridPoints;
+    DrawGrid(run.program, PageId::frmP2);
+    EXPECT_EQ(run.program.pages[PageId::frmP2].GridPoints, points);
+}
+
 TEST(LogoDrag, AMereClickCounts) {
     Hands run;
     const PagePicture before = run.program.pages[PageId::frmP1].pic;
@@ -252,6 +448,22 @@ TEST(Logo, TheCommandShowsAndHidesItAndTheSettingsFollow) {
         EXPECT_EQ(run.Main()[CommandId::mnuEditLogoVisible].Checked, shown);
         const std::string line = std::string("Logo Visible:") + (shown ? "True" : "False") + "\r\n";
         EXPECT_NE(run.folder.Read("UserPreferences.txt").find(line), std::string::npos) << line;
+    }
+}
+
+TEST(Logo, TheCommandTellsThatThereIsNoneOnlyWhereThereIsNone) {
+    const std::string none = "There is no logo to show; choose one with Select Different Logo.";
+    for (const bool hasLogo : {false, true}) {
+        Hands run;
+        if (hasLogo) {
+            run.program.pages[PageId::frmP1].pic.Picture = {PictureRef::Source::File, "/srv/logo.png"};
+        }
+        for (const bool shown : {true, false}) {
+            run.program.main.Notice.clear();
+            person::Choose(run.program, CommandId::mnuEditLogoVisible);
+            ASSERT_EQ(run.program.settings.LogoVisible, shown);
+            EXPECT_EQ(run.program.main.Notice == none, shown && !hasLogo) << run.program.main.Notice;
+        }
     }
 }
 
