@@ -500,4 +500,15 @@ TEST(MoveByKey, TakesTheHeavyPrintAlongWhileTheKeyIsStillHeld) {
     person::KeyUp(run.program, keys::kDown, 0, 0, 0);
 }
 
+TEST(Move, ByTheMenuBringsTheMenuUpToDate) {
+    BlockRun run;
+    run.PutRow(kSecond, 3, "2", "Row", "5");
+    Typist(run.program).Click(kSecond, 4);
+    run.Band(kSecond, 3, 3);
+    ASSERT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Add Columns");
+    run.Choose(CommandId::mnuEditTextMoveDown);
+    EXPECT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Remove Columns")
+        << "they have come to the line of the cursor";
+}
+
 } // namespace
