@@ -115,7 +115,7 @@ void frmCalc::txtR_GotFocus() {
 void frmCalc::txtR_KeyPress(Program& program, int keyAscii) {
     const int taken = txtE_KeyPress(program, keyAscii);
     ResultHasKeyboard = false;
-    if (taken >= keys::kBlank) {
+    if (taken != 0 && taken != keys::kBackspace) {
         const char character = static_cast<char>(taken);
         Append(program, std::string_view(&character, 1), By::Key);
     }

@@ -62,8 +62,6 @@ void ConvertOnDoubleClick(Program& program, int index) {
     if (!value || *value == area.Text) {
         return;
     }
-    // A stale key must not move the converted text on into another row.
-    program.editing.LastKeyChar.clear();
     modFields::SetText(program, field, *value);
     modFields::SetCursor(area, static_cast<int>(area.Text.size()));
 }

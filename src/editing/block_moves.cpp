@@ -32,9 +32,13 @@ constexpr Way kUp{-1, "Cannot move contents up any higher.",
 constexpr Way kDown{1, "Cannot move contents down. Out of space.",
                     "Cannot move contents down. Text exists in destination.", modNavigate::Direction::Down};
 
+bool LeadsDown(const Way& way) {
+    return way.Scroll == modNavigate::Direction::Down;
+}
+
 /// The area into which a run would move.
 int Ahead(const BlockState& block, std::size_t run, const Way& way) {
-    return (way.Step > 0 ? block.RunEnd[run] : block.RunStart[run]) + way.Step;
+    return (LeadsDown(way) ? block.RunEnd[run] : block.RunStart[run]) + way.Step;
 }
 
 int LengthOf(const BlockState& block, std::size_t run) {
@@ -44,7 +48,7 @@ int LengthOf(const BlockState& block, std::size_t run) {
 std::string Refusal(const Program& program, const Way& way) {
     const PageId page = program.main.ActivePage;
     const BlockState& block = program.editing.Block;
-    const bool leftAtEdge = way.Step > 0 ? block.AtBottom : block.AtTop;
+    const bool leftAtEdge = LeadsDown(way) ? block.AtBottom : block.AtTop;
     const bool rightAtEdge = block.HasRightRun && !geometry::IsAmount(page, Ahead(block, 1, way));
     if (leftAtEdge || rightAtEdge) {
         return std::string(way.OutOfSpace);
@@ -65,7 +69,7 @@ void MoveRun(Program& program, std::size_t run, const Way& way) {
     const PageId page = program.main.ActivePage;
     BlockState& block = program.editing.Block;
     const int ahead = Ahead(block, run, way);
-    const int behind = way.Step > 0 ? block.RunStart[run] : block.RunEnd[run];
+    const int behind = LeadsDown(way) ? block.RunStart[run] : block.RunEnd[run];
     for (int index = ahead; index != behind; index -= way.Step) {
         PlaceContents(program, page, index, ReadContents(program, page, index - way.Step));
     }

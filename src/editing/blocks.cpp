@@ -31,17 +31,11 @@ void WriteArea(Program& program, PageId page, int index, const AreaContents& con
     RunChange(program, page, index);
 }
 
-void CountPage(Program& program, PageId page) {
-    modTotals::CalculateMyTotals(program, page);
-    modTotals::UpdateRunningTotals(program);
-}
-
 /// Empties the selected areas of the active page into the undo memory.
 void ClearSelectedAreas(Program& program) {
     const PageId page = program.main.ActivePage;
     BlockState& block = program.editing.Block;
     const ScopedFlag refiring(program.editing.RefireMode);
-    modText::ForgetKey(program);
     block.UndoMemory.clear();
     block.UndoPage = page;
     for (int index = 0; index <= geometry::LastText(page); ++index) {
@@ -52,7 +46,7 @@ void ClearSelectedAreas(Program& program) {
     }
     program.editing.UndoAvailable = true;
     ClearSelectionColors(program);
-    CountPage(program, page);
+    modTotals::UpdateRunningTotals(program);
 }
 
 void EndMode(Program& program) {
@@ -150,7 +144,7 @@ void WriteMemory(Program& program, const PasteTarget& target) {
     for (const AreaContents& contents : block.MemoryRight) {
         WriteArea(program, target.Page, index++, contents);
     }
-    CountPage(program, target.Page);
+    modTotals::UpdateRunningTotals(program);
 }
 
 /// What stands now where a delete has emptied, and would be gone with the undo.
@@ -250,7 +244,7 @@ void UndoDeleteBlock(Program& program) {
             WriteArea(program, block.UndoPage, cleared.Index, cleared.Contents);
         }
     }
-    CountPage(program, block.UndoPage);
+    modTotals::UpdateRunningTotals(program);
     block.UndoMemory.clear();
     program.editing.UndoAvailable = false;
     modTextMenu::UpdateTextMenu(program);

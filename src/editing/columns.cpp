@@ -114,16 +114,14 @@ void BoxChange(Program& program, const FieldRef& field) {
 }
 
 /// The rows next to one, by arrow; the same box where the row has columns, else its description.
-void MoveToRow(Program& program, const FieldRef& field, int row) {
-    const TextArea& box = modFields::Area(program, field);
-    const float top = box.Top;
-    const bool down = row > field.Index;
+void MoveToRow(Program& program, const FieldRef& field, modNavigate::Direction direction) {
+    const float top = modFields::Area(program, field).Top;
+    const int row = field.Index + (direction == modNavigate::Direction::Down ? 1 : -1);
     const FieldRef target = modPages::ColumnsOn(program, field.Page, row)
                                 ? FieldRef{field.Page, field.Kind, row}
                                 : Description(field.Page, row);
     modNavigate::Arrive(program, target);
-    modNavigate::ScrollTest(program, field.Page, top,
-                            down ? modNavigate::Direction::Down : modNavigate::Direction::Up);
+    modNavigate::ScrollTest(program, field.Page, top, direction);
 }
 
 /// The boxes of a selected row are selected with it, and those that go are not.
@@ -153,7 +151,6 @@ void ToggleColumns(Program& program) {
     if (!geometry::IsDescription(page, row) || closed) {
         return;
     }
-    modPages::EnsureRowFields(program, page);
     const bool on = !modPages::ColumnsOn(program, page, row);
     if (on) {
         modPages::PlaceColumns(program, page, row, modPages::Columns::On);
@@ -213,13 +210,13 @@ Taken Box_KeyDown(Program& program, const FieldRef& field, int keyCode, int shif
     }
     if (keyCode == keys::kUp) {
         if (field.Index != 0) {
-            MoveToRow(program, field, field.Index - 1);
+            MoveToRow(program, field, modNavigate::Direction::Up);
         }
         return Taken::Yes;
     }
     if (keyCode == keys::kDown) {
         if (field.Index != last) {
-            MoveToRow(program, field, field.Index + 1);
+            MoveToRow(program, field, modNavigate::Direction::Down);
         }
         return Taken::Yes;
     }

@@ -18,20 +18,21 @@ int SplitPosition(const Program& program) {
     const std::string& line = editing.CurrentText;
     int passed = 0;   // the blank before the one last measured
     int measured = 0; // the blank up to which the text was last measured and found to fit
-    while (true) {
+    const auto fits = [&] {
         const std::string_view left = std::string_view(line).substr(0, static_cast<std::size_t>(measured));
         // Lines on every page are split by the first page's font.
-        if (modPages::MeasureTextWidth(program, PageId::frmP1, left) >= editing.CurrentWidth) {
-            return passed;
-        }
+        return modPages::MeasureTextWidth(program, PageId::frmP1, left) < editing.CurrentWidth;
+    };
+    while (fits()) {
         const std::size_t next = line.find(' ', static_cast<std::size_t>(measured));
         if (next == std::string::npos) {
-            // Out of blanks before out of width: the blank before the last one, a word more than needed.
-            return passed;
+            break; // out of blanks before out of width: the blank before the last one, a word more than
+                   // needed
         }
         passed = measured;
         measured = static_cast<int>(next) + 1;
     }
+    return passed;
 }
 
 } // namespace

@@ -78,14 +78,12 @@ void LeaveAmount(Program& program, PageId page, int index) {
 }
 
 void NoteEmptied(Program& program, PageId page, int index) {
-    const FieldRef field{page, FieldKind::txt, index};
-    auto& emptied = program.editing.EmptiedAmount;
     if (!text::Trim(AreaOf(program, page, index).Text).empty()) {
-        if (emptied == field) {
-            emptied.reset();
-        }
-    } else if (program.main.Focus == field) {
-        emptied = field;
+        return;
+    }
+    const FieldRef field{page, FieldKind::txt, index};
+    if (program.main.Focus == field) {
+        program.editing.EmptiedAmount = field;
     } else {
         DropMarkOfEmpty(program, page, index);
     }

@@ -407,9 +407,8 @@ void TotalsAfterReading(Program& program) {
         }
     }
     ComputeRunning(totals);
-    if (totals.TaxableTotal < 0) {
-        totals.TaxableTotal = 0; // only here: a file's negative taxable amount earns no tax back
-    }
+    // Only here: a file's negative taxable amount earns no tax back.
+    totals.TaxableTotal = std::max(totals.TaxableTotal, 0.0F);
     auto& current = program.document.CurrentTextBuf[PageId::frmP6];
     const std::string stored(text::Trim(current[kDeposit]));
     const std::optional<float> deposit = stored.empty() ? std::optional(0.0F) : Numeric(program, stored);

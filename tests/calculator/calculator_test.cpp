@@ -364,4 +364,68 @@ TEST(Calculator, TheResultThatTakesTheKeyboardLeavesNoOperandsBehind) {
     EXPECT_EQ(run.Calc().RightOperand, "");
 }
 
+TEST(Calculator, ARightOperandThatIsNoNumberIsAFailureToo) {
+    CalcRun run;
+    for (const char* line : {"4+1.2.3=", "4*1.2.3=", "4-1.2.3="}) {
+        run.Calc().cmdClear_MouseDown(2);
+        run.Type(line);
+        run.ExpectShows(line, line, "");
+        run.ExpectRefused();
+    }
+}
+
+TEST(Calculator, AKeyOnTheResultBringsTheKeyboardBackToTheLine) {
+    CalcRun run;
+    for (const char key : {'q', '\b'}) {
+        run.Type("6*7=");
+        ASSERT_TRUE(run.Calc().ResultHasKeyboard);
+        run.Calc().txtR_KeyPress(run.program, key);
+        EXPECT_FALSE(run.Calc().ResultHasKeyboard);
+        EXPECT_EQ(run.Calc().txtE.Text, "") << "a key that is no part of an equation writes nothing";
+        EXPECT_EQ(run.Calc().txtR.Text, "42");
+    }
+    run.Type("6*7=");
+    run.Type("5");
+    EXPECT_FALSE(run.Calc().ResultHasKeyboard);
+    EXPECT_EQ(run.Calc().txtE.Text, "5");
+}
+
+TEST(Calculator, TheAnswerGoesBehindWhatStandsAndIntoAFreshLine) {
+    CalcRun run;
+    run.Type("3+4=");
+    run.Type("5*");
+    run.Calc().cmdAns_Click(run.program);
+    EXPECT_EQ(run.Calc().txtE.Text, "5*7");
+    run.Type("/0=");
+    run.Calc().txtR_GotFocus();
+    run.Calc().cmdAns_Click(run.program);
+    EXPECT_EQ(run.Calc().txtE.Text, "7") << "from the result on, a line that failed is done with";
+}
+
+TEST(Calculator, CursorsStandWhereTheNextKeyBelongs) {
+    CalcRun run;
+    run.Type("12*3");
+    run.Calc().txtE.SelStart = 1;
+    run.Calc().txtE.SelLength = 2;
+    run.Calc().cmdDec_Click(run.program);
+    EXPECT_EQ(run.Calc().txtE.SelStart, 5);
+    EXPECT_EQ(run.Calc().txtE.SelLength, 0);
+    run.Calc().txtR.SelStart = 3;
+    run.Type("5=");
+    EXPECT_EQ(run.Calc().txtE.SelStart, 0);
+    EXPECT_EQ(run.Calc().txtR.SelStart, 0) << "12 times 3.5 is 42, selected whole";
+    EXPECT_EQ(run.Calc().txtR.SelLength, 2);
+}
+
+TEST(Calculator, ACopiedResultLeavesNothingOfAnEarlierCopyBeside) {
+    CalcRun run;
+    run.surroundings.clipboard.Html = "<table></table>";
+    run.surroundings.clipboard.Unicode = "text of an editor";
+    run.Type("6*7=");
+    run.Calc().cmdCopy_Click(run.program);
+    EXPECT_EQ(run.surroundings.clipboard.Text, "42");
+    EXPECT_EQ(run.surroundings.clipboard.Html, "");
+    EXPECT_EQ(run.surroundings.clipboard.Unicode, "");
+}
+
 } // namespace

@@ -483,4 +483,32 @@ TEST(MoveByKey, ScrollsWhenTheBlockComesNearTheFootOrTheTop) {
     EXPECT_EQ(run.BlueAreas(kSecond), Indices{14});
 }
 
+TEST(MoveByKey, TakesTheHeavyPrintAlongWhileTheKeyIsStillHeld) {
+    BlockRun run;
+    run.Put(kSecond, 3, "Row");
+    Typist typist(run.program);
+    typist.Click(kSecond, 3);
+    run.Choose(CommandId::mnuEditTextBold);
+    run.Band(kSecond, 3, 3);
+    typist.Hold(keys::kDown);
+    EXPECT_TRUE(run.Area(kSecond, 4).FontBold);
+    for (const TextChangeTable* table :
+         {&run.program.format.PropTextChanges, &run.program.format.FormatTextChanges}) {
+        EXPECT_FALSE((*table)[kSecond][3].FontBold);
+        EXPECT_TRUE((*table)[kSecond][4].FontBold);
+    }
+    person::KeyUp(run.program, keys::kDown, 0, 0, 0);
+}
+
+TEST(Move, ByTheMenuBringsTheMenuUpToDate) {
+    BlockRun run;
+    run.PutRow(kSecond, 3, "2", "Row", "5");
+    Typist(run.program).Click(kSecond, 4);
+    run.Band(kSecond, 3, 3);
+    ASSERT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Add Columns");
+    run.Choose(CommandId::mnuEditTextMoveDown);
+    EXPECT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Remove Columns")
+        << "they have come to the line of the cursor";
+}
+
 } // namespace

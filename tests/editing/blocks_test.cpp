@@ -631,4 +631,89 @@ TEST(Columns, MayBeToggledBesideAHeldCopyButNotOnASelection) {
                                       "Amt.");
 }
 
+TEST(Columns, OfASelectedRowComeAndGoInTheColourOfTheSelection) {
+    BlockRun run;
+    Typist(run.program).Click(kSecond, 3);
+    run.Band(kSecond, 3, 3);
+    run.Choose(CommandId::mnuEditTextCopy);
+    run.program.editing.CurrentArea = 3;
+    modColumns::ToggleColumns(run.program);
+    const Page& page = run.program.pages[kSecond];
+    EXPECT_EQ(page.txtQty[3].BackColor, colors::kBlockSelected);
+    EXPECT_EQ(page.txtAmt[3].BackColor, colors::kBlockSelected);
+    EXPECT_EQ(run.Stored(kSecond, 3), "\xA5"
+                                      "Qty.\xA5\xA7"
+                                      "Amt.");
+    modColumns::ToggleColumns(run.program);
+    EXPECT_EQ(page.txtQty[3].BackColor, colors::kRestingRowField);
+    EXPECT_EQ(page.txtAmt[3].BackColor, colors::kRestingRowField);
+    EXPECT_EQ(run.Stored(kSecond, 3), "");
+    EXPECT_TRUE(run.Blue(kSecond, 3));
+}
+
+TEST(Copy, TakesWhatStandsInTheSelectionNow) {
+    for (const CommandId command : {CommandId::mnuEditTextCopy, CommandId::mnuEditTextCut}) {
+        BlockRun run;
+        run.Put(kSecond, 3, "Chairs");
+        run.Band(kSecond, 3, 3);
+        run.Area(kSecond, 3).Text = "Tables"; // put right by a command while it is selected
+        run.Choose(command);
+        PasteAt(run, kSecond, 8);
+        EXPECT_EQ(run.TextOf(kSecond, 8), "Tables");
+    }
+}
+
+TEST(Delete, EmptiesTheLastLineOfAPageToo) {
+    BlockRun run;
+    run.Put(kSecond, 32, "Row");
+    run.Put(kSecond, 65, "5.00");
+    run.Band(kSecond, 32, 32, Amounts::With);
+    run.Choose(CommandId::mnuEditTextDelete);
+    EXPECT_EQ(run.TextOf(kSecond, 32), "");
+    EXPECT_EQ(run.TextOf(kSecond, 65), "");
+    run.Choose(CommandId::mnuEditTextUndo);
+    EXPECT_EQ(run.TextOf(kSecond, 65), "5.00");
+    EXPECT_TRUE(run.Block().UndoMemory.empty()) << "what has been put back is held no longer";
+}
+
+TEST(Undo, OfATextThatIsTooLongPushesNothing) {
+    BlockRun run;
+    const std::string words = std::string(60, 'x') + " " + std::string(26, 'y') + " "; // 8800 twips
+    run.Put(kSecond, 3, words);
+    run.Band(kSecond, 3, 3);
+    run.Choose(CommandId::mnuEditTextDelete);
+    run.program.editing.LastKeyChar = " ";
+    for (const int cursor : {20, 87}) { // in the text, and at its last blank
+        run.program.editing.CursorPos = cursor;
+        modBlocks::UndoDeleteBlock(run.program);
+        EXPECT_EQ(run.TextOf(kSecond, 3), words);
+        EXPECT_EQ(run.TextOf(kSecond, 4), "");
+        run.Band(kSecond, 3, 3);
+        run.Choose(CommandId::mnuEditTextDelete);
+    }
+}
+
+TEST(Paste, OverTheFirstLineNamesIt) {
+    BlockRun run;
+    run.Put(kSecond, 0, "There");
+    run.Put(kSecond, 3, "Row");
+    run.Band(kSecond, 3, 3);
+    run.Choose(CommandId::mnuEditTextCopy);
+    run.surroundings.questions.ExpectBox({kAskOver, Buttons::YesNo, kAskTitle}, Answer::Yes);
+    PasteAt(run, kSecond, 0);
+    EXPECT_EQ(run.surroundings.questions.Manners.back().Lost,
+              "The texts of Page 2, line 1 will be replaced.");
+    EXPECT_EQ(run.TextOf(kSecond, 0), "Row");
+}
+
+TEST(Paste, BringsTheMenuUpToDate) {
+    BlockRun run;
+    run.PutRow(kSecond, 3, "2", "Chairs", "5");
+    run.Band(kSecond, 3, 3);
+    run.Choose(CommandId::mnuEditTextCopy);
+    PasteAt(run, kSecond, 8);
+    EXPECT_EQ(run.program.main[CommandId::mnuEditTextColumns].Caption, "Remove Columns")
+        << "columns have come to the line of the cursor";
+}
+
 } // namespace

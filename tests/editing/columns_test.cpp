@@ -391,4 +391,90 @@ TEST(RightPress, OpensNothingOnTheFinalPageAndInTheBoxes) {
     EXPECT_EQ(run.program.main.Focus, Quantity(0));
 }
 
+// ---- the boxes and the keyboard ---------------------------------------------------------------------------
+
+TEST(Boxes, BringTheirPlaceholdersEveryTimeTheyCome) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(kSecond, 2);
+    typist.Press(keys::kF8);
+    typist.Press(keys::kF8);
+    EXPECT_EQ(run.program.pages[kSecond].txtQty[2].Text, "");
+    EXPECT_EQ(run.program.pages[kSecond].txtAmt[2].Text, "");
+    typist.Press(keys::kF8);
+    EXPECT_EQ(run.program.pages[kSecond].txtQty[2].Text, "Qty.");
+    EXPECT_EQ(run.program.pages[kSecond].txtAmt[2].Text, "Amt.");
+}
+
+TEST(Boxes, KeepTheirPlaceholderBeforeEnterAndLoseItToABlank) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(kSecond, 2);
+    typist.Press(keys::kF8);
+    int enter = keys::kEnter;
+    modColumns::Box_KeyPress(run.program, Quantity(2), enter);
+    EXPECT_EQ(run.program.pages[kSecond].txtQty[2].Text, "Qty.");
+    int blank = keys::kBlank;
+    modColumns::Box_KeyPress(run.program, Quantity(2), blank);
+    EXPECT_EQ(run.program.pages[kSecond].txtQty[2].Text, "");
+}
+
+TEST(Boxes, MakeTheirPageTheOneThatIsEdited) {
+    RunningProgram run;
+    modPages::PlaceColumns(run.program, kSecond, 2, modPages::Columns::On);
+    run.program.main.ActivePage = PageId::frmP4;
+    run.program.main.CurrentPage = 3;
+    modColumns::Box_GotFocus(run.program, Quantity(2));
+    EXPECT_EQ(run.program.main.ActivePage, kSecond);
+    EXPECT_EQ(run.program.main.CurrentPage, 1);
+}
+
+TEST(Boxes, StandRedWhenTheyAreEnteredWithWhatIsNoNumber) {
+    RunningProgram run;
+    modPages::PlaceColumns(run.program, kSecond, 2, modPages::Columns::On);
+    TextArea& box = run.program.pages[kSecond].txtQty[2];
+    box.Text = "1,5";
+    modFields::GiveFocus(run.program, Quantity(2));
+    EXPECT_EQ(box.BackColor, colors::kOverLimit);
+    box.Text = "15";
+    modFields::DropFocus(run.program);
+    modFields::GiveFocus(run.program, Quantity(2));
+    EXPECT_EQ(box.BackColor, colors::kFocused);
+}
+
+TEST(Boxes, OfPricesStayAsTheyAreWhileAFileIsRead) {
+    RunningProgram run;
+    modPages::PlaceColumns(run.program, kSecond, 2, modPages::Columns::On);
+    run.program.guards.Loading = true;
+    modColumns::Box_GotFocus(run.program, {kSecond, FieldKind::txtAmt, 2});
+    EXPECT_EQ(run.program.pages[kSecond].txtAmt[2].BackColor, colors::kRestingRowField);
+    modColumns::Box_GotFocus(run.program, Quantity(2));
+    EXPECT_EQ(run.program.pages[kSecond].txtQty[2].BackColor, colors::kFocused);
+}
+
+TEST(Boxes, LeaveTheKeysToTheSelectionAndTheReader) {
+    RunningProgram run;
+    modPages::PlaceColumns(run.program, kSecond, 2, modPages::Columns::On);
+    modFields::GiveFocus(run.program, Quantity(2));
+    for (bool* silent : {&run.program.editing.BlockMode, &run.program.guards.Loading}) {
+        *silent = true;
+        EXPECT_EQ(modColumns::Box_KeyDown(run.program, Quantity(2), keys::kEnter, 0), Taken::No);
+        EXPECT_EQ(run.program.main.Focus, Quantity(2));
+        *silent = false;
+    }
+    EXPECT_EQ(modColumns::Box_KeyDown(run.program, Quantity(2), keys::kEnter, 0), Taken::Yes);
+}
+
+TEST(ColumnsKey, InABoxTakesTheColumnsOfItsOwnRow) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(kSecond, 2);
+    typist.Press(keys::kF8);
+    typist.Click(kSecond, 5);
+    typist.Click(Quantity(2));
+    typist.Press(keys::kF8);
+    EXPECT_FALSE(modPages::ColumnsOn(run.program, kSecond, 2));
+    EXPECT_FALSE(modPages::ColumnsOn(run.program, kSecond, 5));
+}
+
 } // namespace

@@ -1,3 +1,4 @@
+#include "editing/final_page.h"
 #include "editing/typing.h"
 #include "pages/fields.h"
 #include "program/keys.h"
@@ -214,6 +215,28 @@ TEST(Refire, MovesNoLineOnWhateverKeyCameLast) {
     EXPECT_EQ(run.TextOf(PageId::frmP2, 6), "");
     EXPECT_EQ(run.Area(PageId::frmP2, 5).BackColor, colors::kOverLimit);
     EXPECT_EQ(run.program.editing.CursorPos, 89);
+}
+
+TEST(FinalPage, AKeyThatIsLetGoTellsWhereTheCursorStands) {
+    RunningProgram run;
+    run.Area(kFinal, 4).Text = "1,000.00";
+    run.Area(kFinal, 4).SelStart = 5;
+    modFinalPage::txt_KeyUp(run.program, 4);
+    EXPECT_EQ(run.program.editing.CursorPos, 5);
+    EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 5");
+}
+
+TEST(FinalPage, EnterInTheDepositCountsAlsoWhenItIsWrittenAlready) {
+    RunningProgram run;
+    TypeAmount(run, "100");
+    Typist typist(run.program);
+    typist.Click(kFinal, 4);
+    typist.PutCursor(0, static_cast<int>(run.TextOf(kFinal, 4).size()));
+    typist.Type("12.00");
+    ASSERT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
+    typist.Press(keys::kEnter);
+    EXPECT_EQ(run.TextOf(kFinal, 4), "12.00");
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
 }
 
 } // namespace

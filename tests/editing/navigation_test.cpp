@@ -1,3 +1,4 @@
+#include "editing/navigation.h"
 #include "pages/fields.h"
 #include "pages/row_fields.h"
 #include "program/keys.h"
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 // Every way through the grid, row by row, on every page.
 
@@ -229,6 +231,43 @@ TEST(ScrollTest, IsMadeForTheBoxesToo) {
     typist.Click({PageId::frmP2, FieldKind::txtQty, 19});
     typist.Press(keys::kDown);
     EXPECT_GT(run.program.main.VScroll1.Value, 0);
+}
+
+TEST(ScrollTest, IsMadeOnTheWayBackToo) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 1);
+    typist.Press(keys::kPageDown);
+    const int down = run.program.main.VScroll1.Value;
+    std::vector<int> asked;
+    run.program.hooks.PageKey = [&](Program&, int key) { asked.push_back(key); };
+    ASSERT_GT(down, 0);
+    typist.Press(keys::kTab, keys::kShiftState); // to the amount of the row above, 1800
+    EXPECT_EQ(run.program.main.Focus, Text(PageId::frmP2, 33));
+    EXPECT_EQ(asked, std::vector<int>{keys::kPageUp});
+}
+
+TEST(ScrollTest, IsMadeAtTheFirstAreaOfALinePageAndNotOfTheClientPage) {
+    for (const PageId page : {PageId::frmP1, PageId::frmP2}) {
+        RunningProgram run;
+        Typist(run.program).Click(page, 0);
+        run.program.pages[page].Top = -7000;
+        std::vector<int> asked;
+        run.program.hooks.PageKey = [&](Program&, int key) { asked.push_back(key); };
+        modNavigate::Move(run.program, page, 0, modNavigate::Step::Up);
+        EXPECT_EQ(asked, page == PageId::frmP1 ? std::vector<int>{} : std::vector<int>{keys::kPageUp});
+    }
+}
+
+TEST(ScrollTest, IsNotMadeWhereNothingIsBefore) {
+    RunningProgram run;
+    Typist(run.program).Click(PageId::frmP1, 0);
+    run.program.pages[PageId::frmP1].Top = -7000;
+    int asked = 0;
+    run.program.hooks.PageKey = [&](Program&, int) { ++asked; };
+    modNavigate::MoveBack(run.program, Text(PageId::frmP1, 0));
+    EXPECT_EQ(asked, 0);
+    EXPECT_EQ(run.program.main.Focus, Text(PageId::frmP1, 0));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "editing/row_texts.h"
+#include "editing/standing_completion.h"
 #include "pages/fields.h"
 #include "pages/row_fields.h"
 #include "support/person.h"
@@ -296,6 +297,90 @@ TEST(Limits, AnAmountTooWideOnceFormattedIsLeftRed) {
     typist.Click(kSecond, 0);
     EXPECT_EQ(run.TextOf(kSecond, 33), "123,456,789.00");
     EXPECT_EQ(run.Area(kSecond, 33).BackColor, colors::kOverLimit);
+}
+
+TEST(PushAtTheEnd, KnowsNothingOfAnEarlierOneInside) {
+    RunningProgram run;
+    Typist typist(run.program);
+    Put(run, kSecond, 0, "ab cd " + std::string(79, 'x') + "y"); // 86 characters
+    typist.Click(kSecond, 0);
+    typist.PutCursor(2);
+    typist.Type(" "); // inside: the cursor stays in its line, a step on
+    ASSERT_EQ(run.program.main.Focus, Area(kSecond, 0));
+    ASSERT_NE(run.TextOf(kSecond, 1), "");
+    Put(run, kSecond, 10, "ab cd " + std::string(80, 'x'));
+    typist.Click(kSecond, 10);
+    typist.Type(" ");
+    EXPECT_EQ(run.program.main.Focus, Area(kSecond, 11)) << "it has gone on with its word";
+    EXPECT_EQ(run.Area(kSecond, 10).SelStart, 0);
+}
+
+TEST(Push, EndsItsWalkAtABlankThatReachesTheEdgeToTheTwip) {
+    RunningProgram run;
+    run.surroundings.measure.Advance.fill(90); // 96 characters are 8640 twips
+    Put(run, kSecond, 0, "aaa " + std::string(91, 'b') + " cc");
+    Typist typist(run.program);
+    typist.Click(kSecond, 0);
+    typist.Type(" ");
+    EXPECT_EQ(run.TextOf(kSecond, 0), "aaa");
+    EXPECT_EQ(run.TextOf(kSecond, 1), std::string(91, 'b') + " cc ");
+}
+
+/// A text with blanks that is too long, as a completion in a row whose last key was a blank.
+struct LongCompletion : RunningProgram {
+    const std::string Line = "one two " + std::string(90, 'x');
+    LongCompletion() {
+        typist.Click(kSecond, 0);
+        typist.Type("one ");
+        program.editing.ACActive[kSecond] = true;
+        program.editing.CursorPos = 4;
+        modFields::TypeText(program, {kSecond, FieldKind::txt, 0}, Line, 4,
+                            static_cast<int>(Line.size()) - 4);
+    }
+    void ExpectWhole() {
+        EXPECT_EQ(TextOf(kSecond, 0), Line);
+        EXPECT_EQ(TextOf(kSecond, 1), "");
+    }
+    Typist typist{program};
+};
+
+TEST(Push, TakesNothingOutOfACompletionThatIsLeftStanding) {
+    LongCompletion run;
+    run.typist.Click(kSecond, 9);
+    run.ExpectWhole();
+}
+
+TEST(Push, TakesNothingOutOfACompletionThatACommandTakes) {
+    LongCompletion run;
+    modText::TakeCompletion(run.program);
+    run.ExpectWhole();
+    EXPECT_EQ(run.program.editing.CursorPos, static_cast<int>(run.Line.size()));
+    EXPECT_EQ(run.Area(kSecond, 0).SelStart, static_cast<int>(run.Line.size())) << "behind what it has taken";
+    EXPECT_EQ(run.Area(kSecond, 0).SelLength, 0);
+}
+
+TEST(Completion, ThatIsTakenLeavesACursorThatHasMovedIntoIt) {
+    LongCompletion run;
+    run.typist.PutCursor(2);
+    modText::TakeCompletion(run.program);
+    EXPECT_EQ(run.Area(kSecond, 0).SelStart, 2);
+}
+
+TEST(Completion, OfOnePageLeavesTheAreaOfAnotherAlone) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP3, 4);
+    typist.Type("chairs");
+    typist.PutCursor(0, 3);
+    run.program.editing.ACActive[kSecond] = true;
+    modText::TakeCompletion(run.program);
+    EXPECT_EQ(run.Area(PageId::frmP3, 4).SelStart, 0);
+    EXPECT_EQ(run.Area(PageId::frmP3, 4).SelLength, 3);
+    EXPECT_FALSE(run.program.editing.ACActive[kSecond]);
+    modFields::DropFocus(run.program);
+    run.program.editing.ACActive[kSecond] = true;
+    modText::TakeCompletion(run.program);
+    EXPECT_FALSE(run.program.editing.ACActive[kSecond]) << "with the keyboard nowhere, too";
 }
 
 } // namespace

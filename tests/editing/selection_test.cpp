@@ -450,4 +450,61 @@ TEST(Band, TheRightButtonLetGoMeanwhileDoesNotEndIt) {
     EXPECT_FALSE(run.BlueAreas(kSecond).empty());
 }
 
+TEST(Runs, OfASelectionThatIsGoneAreForgotten) {
+    BlockRun run;
+    run.Band(kSecond, 0, 32, BlockRun::Amounts::With);
+    ASSERT_TRUE(run.Block().AtTop && run.Block().AtBottom && run.Block().HasRightRun);
+    modBlocks::ClearSelectionColors(run.program);
+    EXPECT_EQ(modBlocks::ReadOrRefuseSelection(run.program), modBlocks::Selection::None);
+    EXPECT_EQ(run.Block().RunStart, (std::array{-1, -1}));
+    EXPECT_EQ(run.Block().RunEnd, (std::array{-1, -1}));
+    EXPECT_FALSE(run.Block().HasRightRun);
+    EXPECT_FALSE(run.Block().AtTop);
+    EXPECT_FALSE(run.Block().AtBottom);
+}
+
+TEST(Runs, MayBeTheLastLineAlone) {
+    BlockRun run;
+    run.Band(kSecond, 32, 32, BlockRun::Amounts::With);
+    EXPECT_EQ(modBlocks::ReadOrRefuseSelection(run.program), modBlocks::Selection::Runs);
+    EXPECT_EQ(run.Block().RunStart, (std::array{32, 65}));
+    EXPECT_EQ(run.Block().RunEnd, (std::array{32, 65}));
+}
+
+TEST(Band, BeginsWithTheSixtiethTwipInEitherDirection) {
+    for (const auto& [right, down] : {std::pair(60.0F, 0.0F), std::pair(0.0F, 60.0F)}) {
+        BlockRun run;
+        run.Front(kSecond);
+        modBlocks::Form_MouseDown(run.program, 1, 1000, 2000);
+        modBlocks::Form_MouseMove(run.program, kSecond, 1, 1000 + right - 1, 2000 + down - 1);
+        EXPECT_FALSE(run.program.pages[kSecond].shpSelect.Visible) << "a hand is never quite still";
+        modBlocks::Form_MouseMove(run.program, kSecond, 1, 1000 + right, 2000 + down);
+        EXPECT_TRUE(run.program.pages[kSecond].shpSelect.Visible);
+    }
+}
+
+TEST(SelectionByKey, GrowsFromTheTopOfABandWhateverWasSelectedByKeyBefore) {
+    BlockRun run;
+    Typist typist(run.program);
+    typist.Click(kSecond, 5);
+    typist.Press(keys::kUp, keys::kShiftState); // from the sixth line up
+    run.Band(kSecond, 2, 5);
+    typist.Press(keys::kDown, keys::kShiftState);
+    EXPECT_EQ(run.Block().RunStart[0], 2);
+    EXPECT_EQ(run.Block().RunEnd[0], 6);
+}
+
+TEST(SelectionByKey, TakesWhatACompletionShowsForWhatTheAreaHolds) {
+    BlockRun run;
+    Typist typist(run.program);
+    typist.Click(kSecond, 0);
+    typist.Type("flow");
+    run.program.editing.ACActive[kSecond] = true;
+    modFields::TypeText(run.program, BlockRun::Text(kSecond, 0), "flowers", 4, 3);
+    EXPECT_EQ(modBlocks::ExtendByKey(run.program, BlockRun::Text(kSecond, 0), modBlocks::Toward::Down),
+              Taken::Yes);
+    EXPECT_EQ(run.Stored(kSecond, 0), "flowers");
+    EXPECT_FALSE(run.program.editing.ACActive[kSecond]);
+}
+
 } // namespace

@@ -737,6 +737,43 @@ TEST(Refire, RunsEveryHandlerWithTheRealText) {
     EXPECT_EQ(run.program.document.FileName, "") << "the detour makes no file name";
 }
 
+TEST(Refire, ReachesTheLastBoxesAndTheLastAmount) {
+    RunningProgram run;
+    modPages::PlaceColumns(run.program, kSecond, 32, modPages::Columns::On);
+    run.program.pages[kSecond].txtQty[32].Text = "2";
+    run.program.pages[kSecond].txtAmt[32].Text = "5";
+    run.Area(PageId::frmP3, 65).Text = "25";
+    modText::RefireTextChanges(run.program, kSecond);
+    modText::RefireTextChanges(run.program, PageId::frmP3);
+    EXPECT_EQ(run.TextOf(kSecond, 65), "10.00") << "two at five each";
+    EXPECT_EQ(run.program.totals.PageSum[PageId::frmP3], 25.0F);
+}
+
+TEST(Refire, LeavesNoBlankOfAPersonThatALaterTextCouldFlowOnBy) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(kSecond, 0);
+    typist.Type("abc ");
+    modText::RefireTextChanges(run.program, kSecond);
+    const std::string line = "one two " + std::string(90, 'x'); // 9800 of 8640 twips
+    modFields::SetText(run.program, {kSecond, FieldKind::txt, 5}, line);
+    EXPECT_EQ(run.TextOf(kSecond, 5), line) << "nobody has typed it";
+    EXPECT_EQ(run.TextOf(kSecond, 6), "");
+}
+
+TEST(LettingGo, OfAKeyTellsWhereTheCursorStandsAndTheWidthOfItsOwnArea) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(kSecond, 0);
+    typist.Type("abc");
+    run.Area(kSecond, 0).SelStart = 2;
+    run.program.editing.CurrentWidth = 6270; // of a row below, into which a line has flowed
+    modText::txt_KeyUp(run.program, kSecond, 0, keys::kLeft, 0);
+    EXPECT_EQ(run.program.editing.CursorPos, 2);
+    EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 2");
+    EXPECT_EQ(run.program.editing.CurrentWidth, 8640);
+}
+
 TEST(Entering, AnAreaFindsNoWordUnderWayAndNoMoveIsDisturbed) {
     RunningProgram run;
     EditingState& editing = run.program.editing;
@@ -755,6 +792,42 @@ TEST(Entering, AnAreaFindsNoWordUnderWayAndNoMoveIsDisturbed) {
     EXPECT_EQ(run.program.main.ActivePage, PageId::frmP2);
     EXPECT_EQ(run.program.main.CurrentPage, 1);
     EXPECT_EQ(editing.CurrentWidth, run.Area(PageId::frmP2, 5).Width);
+    EXPECT_EQ(editing.CurrentLimit, "120");
+}
+
+TEST(PressingAKey, TellsWhereTheCursorStandsBeforeItActs) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(kSecond, 0);
+    typist.Type("abcd");
+    run.Area(kSecond, 0).SelStart = 2;
+    EXPECT_EQ(modText::txt_KeyDown(run.program, kSecond, 0, 'E', 0), Taken::No);
+    EXPECT_EQ(run.program.editing.CursorPos, 2);
+    EXPECT_EQ(run.program.main.lblCurPos.Caption, "Cursor Location = 2");
+    EXPECT_EQ(run.program.main.lblTextPos.Caption, "Printer Text Position = 200.");
+}
+
+TEST(Paste, IntoAnAmountGoesToItsEndWhenTheCursorStandsBeyondIt) {
+    RunningProgram run;
+    Typist(run.program).Click(kSecond, 33);
+    run.Area(kSecond, 33).Text = "12";
+    run.Area(kSecond, 33).SelStart = 7; // a longer text stood here
+    run.surroundings.clipboard.Text = "34";
+    EXPECT_EQ(modText::txt_KeyDown(run.program, kSecond, 33, keys::kV, keys::kCtrlState), Taken::Yes);
+    EXPECT_EQ(run.TextOf(kSecond, 33), "1234");
+    EXPECT_EQ(run.Area(kSecond, 33).SelStart, 4);
+}
+
+TEST(Paste, OfWhatIsNoNumberIsNamedByItsFirstThirtyCharactersAndItsFirstLine) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(kSecond, 33);
+    typist.PasteByKey(std::string(30, 'x'), run.surroundings.clipboard.Text);
+    EXPECT_EQ(run.program.main.Notice, "\"" + std::string(30, 'x') + "\" was not taken: it is no number.");
+    typist.PasteByKey(std::string(31, 'y'), run.surroundings.clipboard.Text);
+    EXPECT_EQ(run.program.main.Notice, "\"" + std::string(30, 'y') + "...\" was not taken: it is no number.");
+    typist.PasteByKey("chairs\r\n5", run.surroundings.clipboard.Text);
+    EXPECT_EQ(run.program.main.Notice, "\"chairs...\" was not taken: it is no number.");
 }
 
 } // namespace

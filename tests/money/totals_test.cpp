@@ -429,6 +429,96 @@ TEST(HiddenTotals, ADepositCanBeTypedWhileTheyAreHidden) {
     EXPECT_EQ(run.TextOf(PageId::frmP6_1, 4), "1,500.50");
 }
 
+TEST(HiddenTotals, ADepositThatIsTakenOutWhileTheyAreHiddenStaysOut) {
+    RunningProgram run;
+    modTotals::mnuOptHideTotals_Click(run.program);
+    Typist typist(run.program);
+    typist.Click(PageId::frmP6, 4);
+    typist.Type("5");
+    typist.Press(keys::kBackspace);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "") << "zeros there would be typed beside";
+    typist.Type("7");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "7");
+}
+
+TEST(HiddenTotals, BringTheDepositBackToTheClientsCopy) {
+    RunningProgram run;
+    Amount(run, PageId::frmP6, 4, "30");
+    modTotals::mnuOptHideTotals_Click(run.program);
+    run.Area(PageId::frmP6_1, 4).Text = "spoilt";
+    modTotals::UpdateRunningTotals(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP6_1, 4), run.TextOf(PageId::frmP6, 4));
+}
+
+TEST(FullRecalculation, TakesInWhatIsBeingTypedAndTheButtonEndsPlain) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 20);
+    typist.Type("100");
+    ASSERT_EQ(run.Main().cmdReCalc.BackColor, colors::kOverLimit);
+    modTotals::mnuToolsRecalculate_Click(run.program);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_EQ(run.Main().lblTotal.Caption, "Running Sub-Total = $ 100.00");
+}
+
+TEST(FullRecalculation, LeavesTheTotalUnderItsPatternOnAPageThatShowsAsPrinted) {
+    for (const PageId page : {PageId::frmP6, PageId::frmP6_1}) {
+        RunningProgram run;
+        Amount(run, PageId::frmP1, 20, "1234.5");
+        person::TurnTo(run.program, IndexOf(page));
+        person::Choose(run.program, CommandId::mnuFilePrintPreview);
+        modTotals::mnuToolsRecalculate_Click(run.program);
+        EXPECT_EQ(run.TextOf(page, 3), "1,336.35");
+        person::Choose(run.program, CommandId::mnuFileResume);
+        modTotals::mnuToolsRecalculate_Click(run.program);
+        // The tax is 101.84625; a single holds 1336.34625 as 1336.3463.
+        EXPECT_EQ(run.TextOf(page, 3), "1336.346");
+    }
+}
+
+TEST(RunningTotals, From131072OnStandAsTheSingleHoldsThem) {
+    RunningProgram run;
+    const auto put = [&](int row, const char* text) {
+        run.Area(PageId::frmP2, row).Text = text;
+        modTotals::StoreAmount(run.program, PageId::frmP2, row);
+    };
+    // Tax on 10.00 at 8.25 %: 0.825, shown as 0.83. The single next to 131,071.18 and 0.825 is 131,072.
+    put(33, "10");
+    put(34, "131061.18");
+    modTotals::SetTax(run.program, PageId::frmP2, 34, modTotals::Tax::Exempt);
+    EXPECT_EQ(Figures(run), (Texts{"131,071.18", "10.00", "0.83", "131,072.00", "", "131,072.00"}));
+    // Below it the total is the sum of what stands above it; the single alone would show 131,071.98.
+    put(34, "131061.16");
+    modTotals::SumAgain(run.program);
+    EXPECT_EQ(Figures(run), (Texts{"131,071.16", "10.00", "0.83", "131,071.99", "0.00", "131,071.99"}));
+}
+
+TEST(FiguresOfAFile, AreCountedAnewOnBothCopiesHoweverOftenTheyAreRead) {
+    RunningProgram run;
+    Amount(run, PageId::frmP1, 20, "1234.5");
+    Amount(run, PageId::frmP6, 4, "100");
+    const Texts figures{"1,234.50", "1,234.50", "101.85", "1,336.35", "100.00", "1,236.35"};
+    ASSERT_EQ(Figures(run), figures);
+    for (TextArea& area : run.program.pages[PageId::frmP6_1].txt) {
+        area.Text = "spoilt";
+    }
+    modTotals::TotalsAfterReading(run.program);
+    EXPECT_EQ(Figures(run), figures);
+    EXPECT_EQ(Figures(run, PageId::frmP6_1), figures);
+}
+
+TEST(FiguresOfAFile, CountAsAFullPassForTheMessage) {
+    RunningProgram run;
+    // 1000 taxed and 200 exempt, tax 82.50; nothing has been recalculated since.
+    run.program.totals.AmountTable[33][PageId::frmP2] = 1000;
+    run.program.totals.TaxableTable[33][PageId::frmP2] = 1000;
+    run.program.totals.AmountTable[65][PageId::frmP5] = 200;
+    modTotals::TotalsAfterReading(run.program);
+    EXPECT_EQ(modTotals::RecalculationMessage(run.program),
+              "All amounts have been recalculated.\r\nSubTotal = 1,200.00\r\nTaxable SubTotal = 1,000.00\r\n"
+              "Sales Tax = 82.50\r\nTotal = 1,282.50\r\nDeposit = .00\r\nBalance = 1,282.50");
+}
+
 TEST(FinalPage, WhileAFileIsReadItsAreasAreMirroredAndTakenForNothing) {
     RunningProgram run;
     run.program.guards.Loading = true;

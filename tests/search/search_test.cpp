@@ -323,4 +323,33 @@ TEST(Search, OneOfTheTwoRangesIsChosenAndTheBoxHoldsWhatWasTyped) {
     }
 }
 
+TEST(Hit, StandsOnItsPageBeforeItsAreaTakesTheKeyboard) {
+    SearchRun run;
+    run.Put(kSecond, 13, "round table");
+    bool pageStood = false;
+    run.surroundings.events.OnYield = [&] {
+        pageStood = pageStood ||
+                    (run.program.main.PageInFront == kSecond && run.program.main.Focus != Text(kSecond, 13));
+    };
+    run.program.main.BringUp = false;
+    run.Search("table");
+    EXPECT_TRUE(pageStood) << "the person sees the page come up";
+    EXPECT_EQ(run.program.main.Focus, Text(kSecond, 13));
+    EXPECT_TRUE(run.program.main.BringUp) << "before the window of the results";
+    EXPECT_EQ(run.program.editing.CursorPos, 6) << "where the phrase begins";
+}
+
+TEST(Hit, ScrollsOnlyWhenItsAreaBeginsBelowTheWindow) {
+    SearchRun run;
+    const float top = run.Area(kSecond, 20).Top;
+    for (const float beyond : {0.0F, 1.0F}) {
+        run.program.main.ClientHeight = top + run.program.pages[kSecond].Top - beyond;
+        int keys = 0;
+        run.program.hooks.PageKey = [&](Program&, int) { ++keys; };
+        run.Put(kSecond, 20, "table");
+        run.Search("table");
+        EXPECT_EQ(keys, beyond > 0 ? 1 : 0);
+    }
+}
+
 } // namespace

@@ -184,9 +184,13 @@ public:
 class FakeClipboard : public Clipboard {
 public:
     std::string Text;
-    void Clear() override { Text.clear(); }
     std::string Html;    ///< the table beside the text
     std::string Unicode; ///< text that was handed on in UTF-8
+    void Clear() override {
+        Text.clear();
+        Html.clear();
+        Unicode.clear();
+    }
     void SetText(std::string_view text) override { Text = text; }
     void SetTextAndTable(std::string_view text, std::string_view html) override {
         Text = text;
