@@ -28,14 +28,15 @@ TEST(Ansi, KnowsTheCodePageAndItsOpenBytes) {
     for (const int open : {0x81, 0x8D, 0x8F, 0x90, 0x9D}) {
         EXPECT_EQ(ansi::ToCodePoint(static_cast<char>(open)), static_cast<char32_t>(open));
     }
+    EXPECT_FALSE(ansi::FromCodePoint(0x80).has_value()) << "the euro has its byte";
     EXPECT_FALSE(ansi::FromCodePoint(U'\u0100').has_value());
     EXPECT_FALSE(ansi::FromCodePoint(U'\U0001F600').has_value());
     EXPECT_EQ(ansi::ToUtf8("\x80 \xE9"), "\xE2\x82\xAC \xC3\xA9");
 }
 
 TEST(Ansi, RefusesWhatIsNoUtf8) {
-    for (const char* bad :
-         {"\xC3", "\xE2\x82", "\xFF", "\xC0\x80", "\xED\xA0\x80", "\xF5\x80\x80\x80", "a\x80"}) {
+    for (const char* bad : {"\xC3", "\xE2\x82", "\xFF", "\xC0\x80", "\xE0\x81\x81", "\xED\xA0\x80",
+                            "\xF5\x80\x80\x80", "\xF2\x82\xAC", "a\x80"}) {
         EXPECT_FALSE(ansi::FromUtf8(bad).has_value());
     }
     EXPECT_EQ(ansi::FromUtf8(""), "");
