@@ -135,6 +135,9 @@ TEST(Files, AppendAndRenameAndCopy) {
     EXPECT_EQ(folder.Read("copy"), "onetwo");
     EXPECT_EQ(NumberOf([&] { files::Rename(folder / "copy", folder / "log"); }), files::kAlreadyExists);
     files::Rename(folder / "copy", folder / "moved");
+    folder.MakeFolder("folder");
+    EXPECT_EQ(NumberOf([&] { files::Rename(folder / "folder", folder / "folder/within"); }),
+              files::kDeviceError);
     EXPECT_TRUE(folder.Has("moved"));
     EXPECT_EQ(NumberOf([&] { files::WriteWhole(folder / "none/a", ""); }), files::kPathNotFound);
     EXPECT_NE(NumberOf([&] { files::WriteWhole(folder.Path() + "a/b?" + std::string(300, 'x'), ""); }), 0);

@@ -58,6 +58,8 @@ TEST(Text, CutsWithinItsBounds) {
     EXPECT_EQ(text::Right("abc", 9), "abc");
     EXPECT_EQ(text::Mid("abc", 2), "bc");
     EXPECT_EQ(text::Mid("abc", 2, 1), "b");
+    EXPECT_EQ(text::Mid("abc", 2, 0), "");
+    EXPECT_EQ(text::Mid("abc", 1), "abc");
     EXPECT_EQ(text::Mid("abc", 9), "");
 }
 
@@ -97,14 +99,26 @@ TEST(Paths, SplitAtBothSeparators) {
     EXPECT_EQ(paths::Join("/a/", "b"), "/a/b");
     EXPECT_EQ(paths::BaseOf("Jane Roe.hef"), "Jane Roe");
     EXPECT_EQ(paths::BaseOf("abc"), "");
+    EXPECT_EQ(paths::ExtensionOf("logo.jpg"), "jpg");
     EXPECT_TRUE(paths::SameFolder("/Home/Ann\\", "/home/ann"));
     EXPECT_FALSE(paths::SameFolder("/home/ann", "/home/anne"));
+}
+
+TEST(Paths, AreAbsoluteFromADriveOrASeparatorOn) {
+    for (const char* whole : {"/srv", "\\Data", "c:", "C:\\Data"}) {
+        EXPECT_TRUE(paths::IsAbsolute(whole)) << whole;
+    }
+    for (const char* part : {"", "Data", "Data/x", "1:\\", ":"}) {
+        EXPECT_FALSE(paths::IsAbsolute(part)) << part;
+    }
 }
 
 TEST(Paths, DriveLettersStandForFolders) {
     const paths::DriveRoots roots{"/home/ann/", {"/nowhere/one/", "/nowhere/two/"}};
     EXPECT_EQ(paths::ResolveDrive("c:\\", roots), "/home/ann/");
     EXPECT_EQ(paths::ResolveDrive("C:\\Data\\x.txt", roots), "/home/ann/Data/x.txt");
+    EXPECT_EQ(paths::ResolveDrive("c:", roots), "/home/ann/");
+    EXPECT_EQ(paths::ResolveDrive("c:Data", roots), "/home/ann/Data");
     EXPECT_EQ(paths::ResolveDrive("f:\\", roots), "/nowhere/two/f/");
     EXPECT_EQ(paths::ResolveDrive("/srv/share", roots), "/srv/share");
 }
