@@ -55,7 +55,8 @@ constexpr CaseTables MakeCaseTables() {
 
 constexpr CaseTables kCase = MakeCaseTables();
 
-/// Reads one character of UTF-8; 0xFFFFFFFF for bytes that are none.
+/// Reads one character of UTF-8; 0xFFFFFFFF for bytes that are none. No character of the code page has four
+/// bytes: such a one counts as none.
 char32_t NextCodePoint(std::string_view utf8, std::size_t& at) {
     constexpr char32_t kBad = 0xFFFFFFFF;
     const unsigned char lead = Byte(utf8[at]);
@@ -63,23 +64,22 @@ char32_t NextCodePoint(std::string_view utf8, std::size_t& at) {
         ++at;
         return lead;
     }
-    const int more = lead >= 0xF0 ? 3 : lead >= 0xE0 ? 2 : lead >= 0xC2 ? 1 : 0;
-    if (more == 0 || lead > 0xF4 || at + static_cast<std::size_t>(more) >= utf8.size()) {
+    const std::size_t more = lead >= 0xE0 ? 2 : lead >= 0xC2 ? 1 : 0;
+    if (more == 0 || lead >= 0xF0 || at + more >= utf8.size()) {
         return kBad;
     }
     char32_t value = lead & (0x3FU >> more);
-    for (int step = 1; step <= more; ++step) {
-        const unsigned char next = Byte(utf8[at + static_cast<std::size_t>(step)]);
+    for (std::size_t step = 1; step <= more; ++step) {
+        const unsigned char next = Byte(utf8[at + step]);
         if ((next & 0xC0U) != 0x80U) {
             return kBad;
         }
         value = (value << 6U) | (next & 0x3FU);
     }
-    constexpr std::array<char32_t, 4> kSmallest{0, 0x80, 0x800, 0x10000};
-    if (value < kSmallest[static_cast<std::size_t>(more)]) {
+    if (more == 2 && value < 0x800) {
         return kBad;
     }
-    at += static_cast<std::size_t>(more) + 1;
+    at += more + 1;
     return value;
 }
 

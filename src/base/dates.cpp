@@ -76,6 +76,7 @@ std::optional<std::vector<Token>> Tokens(std::string_view value) {
     return tokens;
 }
 
+/// 0 for a word that names none; no date has that month.
 int MonthOf(std::string_view word) {
     for (std::size_t index = 0; index < kMonths.size(); ++index) {
         const bool september = index == 8 && word == "SEPT";
@@ -107,27 +108,18 @@ public:
         if (tokens_.empty()) {
             return std::nullopt;
         }
-        dates::Calendar found;
-        const bool timeFirst = TakeTime(found);
-        bool date = false;
-        if (at_ < tokens_.size()) {
-            if (!TakeDate(found)) {
-                return std::nullopt;
-            }
-            date = true;
-        }
-        bool time = timeFirst;
-        if (!timeFirst) {
-            Skip(",");
-            time = TakeTime(found);
-        }
-        if (at_ != tokens_.size() || (!date && !time)) {
+        dates::Calendar found; // the day of a time alone
+        TakeTime(found);
+        const bool timeFirst = at_ > 0;
+        if (at_ < tokens_.size() && !TakeDate(found)) {
             return std::nullopt;
         }
-        if (!date) {
-            found.Year = 1899;
-            found.Month = 12;
-            found.Day = 30;
+        if (!timeFirst) {
+            Skip(",");
+            TakeTime(found);
+        }
+        if (at_ != tokens_.size()) {
+            return std::nullopt;
         }
         return dates::ToSerial(found);
     }
@@ -166,12 +158,13 @@ private:
         return half;
     }
 
-    bool TakeTime(dates::Calendar& found) {
+    /// Takes no token where no time stands.
+    void TakeTime(dates::Calendar& found) {
         const std::size_t start = at_;
         const bool clock = IsNumber() && Is(":", 1) && IsNumber(2);
         const bool bare = IsNumber() && IsWord(1) && (Is("AM", 1) || Is("PM", 1) || Is("A", 1) || Is("P", 1));
         if (!clock && !bare) {
-            return false;
+            return;
         }
         found.Hour = Ahead()->Value;
         ++at_;
@@ -187,14 +180,13 @@ private:
         if (found.Minute > 59 || found.Second > 59 || found.Hour > 23 ||
             (half != 0 && (found.Hour > 12 || found.Hour < 1))) {
             at_ = start;
-            return false;
+            return;
         }
         if (half == 2 && found.Hour < 12) {
             found.Hour += 12;
         } else if (half == 1 && found.Hour == 12) {
             found.Hour = 0;
         }
-        return true;
     }
 
     [[nodiscard]] static int FullYear(const Token& token) {
@@ -233,9 +225,6 @@ private:
 
     bool TakeNamed(dates::Calendar& found) {
         found.Month = MonthOf(Ahead()->Text);
-        if (found.Month == 0) {
-            return false;
-        }
         ++at_;
         Skip(".");
         Skip("-");
@@ -265,7 +254,7 @@ private:
         Skip(",");
         Skip("-");
         TakeYear(found);
-        return found.Month != 0;
+        return true;
     }
 
     bool TakeNumbers(dates::Calendar& found) {

@@ -52,8 +52,6 @@ int Descriptor::Open(const std::string& native, int flags) {
         return EISDIR;
     }
     length_ = static_cast<std::uintmax_t>(about.st_size);
-    constexpr unsigned kRights = 07777;
-    mode_ = static_cast<unsigned>(about.st_mode) & kRights;
     return 0;
 }
 

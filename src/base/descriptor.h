@@ -28,10 +28,8 @@ public:
     [[nodiscard]] int Close();
 
     [[nodiscard]] std::uintmax_t Length() const { return length_; } ///< as it was when opened
-    [[nodiscard]] unsigned Mode() const { return mode_; }
 
 private:
     int file_ = -1;
     std::uintmax_t length_ = 0;
-    unsigned mode_ = 0;
 };

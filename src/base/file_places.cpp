@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 namespace file_places {
 
@@ -66,13 +67,10 @@ std::optional<std::string> Locate(std::string_view path) {
     std::string native = wanted.front() == '/' ? "/" : "";
     std::size_t at = 0;
     // Mostly the folder stands as it is named, and only the last name may differ.
-    const std::string folder(paths::Folder(wanted));
-    if (folder.size() < wanted.size() && folder.size() > 1) {
-        const std::string nativeFolder = ansi::ToUtf8(folder);
-        if (IsThere(nativeFolder)) {
-            native = nativeFolder;
-            at = folder.size();
-        }
+    const std::string_view folder = paths::Folder(wanted);
+    if (std::string nativeFolder = ansi::ToUtf8(folder); IsThere(nativeFolder)) {
+        native = std::move(nativeFolder);
+        at = folder.size();
     }
     while (at < wanted.size()) {
         const std::size_t end = std::min(wanted.find('/', at), wanted.size());

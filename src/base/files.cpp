@@ -175,7 +175,7 @@ void RemoveLeftOvers(std::string_view folder) {
 
 void MakeFolder(std::string_view path) {
     std::string_view bare = path;
-    while (bare.size() > 1 && paths::IsSeparator(bare.back())) {
+    while (!bare.empty() && paths::IsSeparator(bare.back())) {
         bare.remove_suffix(1);
     }
     const std::string native = file_places::PlaceFor(bare);
@@ -221,7 +221,7 @@ bool Matches(std::string_view name, std::string_view patterns) {
 
 std::vector<std::string> List(std::string_view folder, std::string_view patterns) {
     const std::optional<std::string> native = file_places::Locate(folder);
-    if (!native || !IsFolder(folder)) {
+    if (!native) {
         FailWith(kPathNotFound, "Path not found", folder);
     }
     std::error_code failed;

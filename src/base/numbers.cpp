@@ -17,7 +17,7 @@ bool IsDigit(char character) {
 /// The digits before a point: a comma stands between groups of three and nowhere else.
 class Groups {
 public:
-    /// False when the character cannot stand here.
+    /// False when the character cannot stand here; no number is whole with it.
     [[nodiscard]] bool Take(char character) {
         if (character != ',') {
             ++digits_;
@@ -43,7 +43,6 @@ public:
     Recogniser(std::string_view text, std::string_view currency) : rest_(text), currency_(currency) {}
 
     std::optional<double> Value() {
-        SkipBlanks();
         Before();
         if (!Digits()) {
             return std::nullopt;
@@ -117,10 +116,8 @@ private:
 
     bool Digits() {
         Groups groups;
-        while (!rest_.empty() && (IsDigit(rest_.front()) || rest_.front() == ',')) {
-            if (!groups.Take(rest_.front())) {
-                return false;
-            }
+        while (!rest_.empty() && (IsDigit(rest_.front()) || rest_.front() == ',') &&
+               groups.Take(rest_.front())) {
             if (rest_.front() != ',') {
                 plain_ += rest_.front();
             }
@@ -131,14 +128,11 @@ private:
         }
         bool any = !plain_.empty();
         if (Take('.')) {
-            plain_ += plain_.empty() ? "0." : ".";
+            plain_ += '.';
             while (!rest_.empty() && IsDigit(rest_.front())) {
                 plain_ += rest_.front();
                 any = true;
                 rest_.remove_prefix(1);
-            }
-            if (plain_.back() == '.') {
-                plain_ += '0';
             }
         }
         if (any && !rest_.empty() && (rest_.front() == 'e' || rest_.front() == 'E')) {
@@ -283,7 +277,6 @@ Decimal RoundedTo(Decimal decimal, int places) {
     }
     if (decimal.Digits.find_first_not_of('0') == std::string::npos) {
         decimal.Digits.clear();
-        decimal.Exponent = 0;
         decimal.Negative = false;
     }
     return decimal;
@@ -459,16 +452,14 @@ bool IsNoNumber(std::string_view text, std::string_view currency) {
 
 double Val(std::string_view text) {
     std::string plain;
-    bool point = false;
     for (const char character : text) {
         if (character == ' ' || character == '\t') {
             continue;
         }
         const bool sign = (character == '-' || character == '+') && plain.empty();
-        if (!IsDigit(character) && !sign && !(character == '.' && !point)) {
+        if (!IsDigit(character) && !sign && character != '.') {
             break;
         }
-        point = point || character == '.';
         plain += character;
     }
     if (!plain.empty() && plain.front() == '+') {

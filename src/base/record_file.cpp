@@ -42,10 +42,8 @@ public:
         }
     }
     ~RecordFile() {
-        if (file_ >= 0) {
-            // What was written has been flushed: a close has nothing left to lose.
-            ::close(file_);
-        }
+        // What was written has been flushed: a close has nothing left to lose.
+        ::close(file_);
     }
     RecordFile(const RecordFile&) = delete;
     RecordFile& operator=(const RecordFile&) = delete;

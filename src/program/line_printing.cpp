@@ -16,8 +16,12 @@ class Paper {
 public:
     Paper(Printer& printer, const TextMeasure& measure, const Sheet& sheet)
         : printer_(printer), sheet_(sheet), advances_(measure, sheet.Font) {
-        SetFont();
-        printer_.CurrentX = sheet_.Left;
+        printer_.Font = sheet_.Font.Name;
+        printer_.FontSize = sheet_.Font.Size;
+        printer_.FontBold = sheet_.Font.Bold;
+        printer_.FontItalic = sheet_.Font.Italic;
+        printer_.FontUnderline = false;
+        printer_.ForeColor = colors::kBlack;
         printer_.CurrentY = sheet_.Top;
     }
 
@@ -34,26 +38,15 @@ public:
     }
 
 private:
-    void SetFont() {
-        printer_.Font = sheet_.Font.Name;
-        printer_.FontSize = sheet_.Font.Size;
-        printer_.FontBold = sheet_.Font.Bold;
-        printer_.FontItalic = sheet_.Font.Italic;
-        printer_.FontUnderline = false;
-        printer_.ForeColor = colors::kBlack;
-    }
-
     /// Draws on the present line, which stays the present one.
     void PutAt(float x, std::string_view text) {
         if (printer_.CurrentY + printer_.TextHeight() > printer_.ScaleHeight - sheet_.Bottom) {
             printer_.NewPage();
-            SetFont();
             printer_.CurrentY = sheet_.Top;
         }
         const float y = printer_.CurrentY;
         printer_.CurrentX = x;
         printer_.Print(text);
-        printer_.CurrentX = x;
         printer_.CurrentY = y;
     }
 

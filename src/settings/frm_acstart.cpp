@@ -50,7 +50,3 @@ void frmACStart::cmdOK_Click(Program& program) {
 void frmACStart::cmdCancel_Click(Program& program) {
     modWindows::Close(program, *this);
 }
-
-void frmACStart::Form_Cancel(Program& program) {
-    modWindows::Close(program, *this);
-}

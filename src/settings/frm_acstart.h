@@ -18,7 +18,6 @@ public:
     [[nodiscard]] std::string_view Name() const override { return "frmACStart"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modal; }
     void Form_Load(Program& program) override;
-    void Form_Cancel(Program& program) override;
 
     void optACStart_Click(Program& program, int index);
     /// Digits, backspace, tab and enter pass; 0 for anything else.

@@ -78,7 +78,3 @@ void frmPOffsets::mnuHelpPrinterOffsets_Click(Program& program) {
              "the up and down centering. Enter all values in inches. Negative values are permitted."}),
         Buttons::Ok, "");
 }
-
-void frmPOffsets::Form_Cancel(Program& program) {
-    modWindows::Close(program, *this);
-}

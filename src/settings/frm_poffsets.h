@@ -16,7 +16,6 @@ public:
     [[nodiscard]] std::string_view Name() const override { return "frmPOffsets"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modal; }
     void Form_Load(Program& program) override;
-    void Form_Cancel(Program& program) override;
 
     /// Digits, comma, minus, point and backspace pass; 0 for anything else, enter and tab included. For both
     /// boxes.

@@ -48,7 +48,3 @@ void frmPref::cmdSave_Click(Program& program) {
 void frmPref::cmdExit_Click(Program& program) {
     modWindows::Close(program, *this);
 }
-
-void frmPref::Form_Cancel(Program& program) {
-    modWindows::Close(program, *this);
-}

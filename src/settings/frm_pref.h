@@ -19,7 +19,6 @@ public:
     [[nodiscard]] std::string_view Name() const override { return "frmPref"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modal; }
     void Form_Load(Program& program) override;
-    void Form_Cancel(Program& program) override;
 
     /// Keeps the seven settings and says when they take effect. Stays open when the file cannot be written.
     void cmdSave_Click(Program& program);

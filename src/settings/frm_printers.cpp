@@ -39,10 +39,6 @@ void frmPrinters::cmdPrinter_Click(Program& program) {
     ListPrinters(program);
 }
 
-void frmPrinters::Form_Cancel(Program& program) {
-    modWindows::Close(program, *this);
-}
-
 namespace modPrinters {
 
 void mnuOptPrinter_Click(Program& program) {

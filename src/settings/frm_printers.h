@@ -12,7 +12,6 @@ public:
     [[nodiscard]] std::string_view Name() const override { return "frmPrinters"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modal; }
     void Form_Load(Program& program) override;
-    void Form_Cancel(Program& program) override;
 
     void cmbPrinters_Click(Program& program, int index);
     /// Makes the chosen printer current, keeps it in the settings and reads them again. A printer that has

@@ -14,7 +14,6 @@ void frmTax::Form_Load(Program& program) {
     Caption = "Sales Tax Rate";
     // The rate as it is, not as two decimals show it: a look and OK must not round it.
     txtTaxRate.Text = numbers::PlainNumber(program.totals.TaxRate);
-    txtTaxRate.SelStart = 0;
     txtTaxRate.SelLength = static_cast<int>(txtTaxRate.Text.size());
     inForce_ = txtTaxRate.Text;
     lblTaxRate.Caption = "The Current Tax Rate is " + numbers::FormatSingle(program.totals.TaxRate, "##.00") +
@@ -39,15 +38,10 @@ void frmTax::cmdOK_Click(Program& program) {
         return;
     }
     modTax::SaveTaxRate(program, numbers::Format(*rate, "##.00"));
-    program.run.SplashShown = false;
     modWindows::Close(program, *this);
 }
 
 void frmTax::cmdCancel_Click(Program& program) {
-    modWindows::Close(program, *this);
-}
-
-void frmTax::Form_Cancel(Program& program) {
     modWindows::Close(program, *this);
 }
 

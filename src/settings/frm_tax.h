@@ -16,7 +16,6 @@ public:
     [[nodiscard]] std::string_view Name() const override { return "frmTax"; }
     [[nodiscard]] Modality Mode() const override { return Modality::Modal; }
     void Form_Load(Program& program) override;
-    void Form_Cancel(Program& program) override;
 
     /// Digits, point, comma, backspace and tab pass; 0 for anything else.
     [[nodiscard]] static int txtTaxRate_KeyPress(int keyAscii);

@@ -36,7 +36,7 @@ void MakeAll(const std::string& folder) {
 /// the next start.
 void Fill(const Places& places) {
     std::string folder = places.UserData;
-    while (folder.size() > 1 && paths::IsSeparator(folder.back())) {
+    while (!folder.empty() && paths::IsSeparator(folder.back())) {
         folder.pop_back();
     }
     const std::string unfinished = folder + ".unfinished";

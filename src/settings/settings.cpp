@@ -360,16 +360,16 @@ void GetUserPreferences(Program& program) {
 
 bool SaveUserPreferences(Program& program) {
     bool written = false;
-    const bool done = Guarded(program, "RequestNetworkSharePath", [&] {
+    Guarded(program, "RequestNetworkSharePath", [&] {
         SettingsRecords& settings = program.settings;
         written =
             modRewrite::Rewrite(program, PathOf(program), BytesOf(settings.Lines), settings.SettingsFile,
                                 "This settings file") == modRewrite::Rewriting::Done;
     });
-    if (done && written) {
+    if (written) {
         TellSaved(program, "Settings", PathOf(program));
     }
-    return done && written;
+    return written;
 }
 
 bool Store(Program& program, std::initializer_list<Change> changes) {

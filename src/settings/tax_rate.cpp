@@ -31,8 +31,7 @@ void ReadTaxRate(Program& program) {
         if (!files::Exists(path)) {
             files::WriteWhole(path, "");
         }
-        std::string five = files::ReadUpTo(path, kTaxLength);
-        five.resize(kTaxLength, ' ');
+        const std::string five = files::ReadUpTo(path, kTaxLength);
         program.settings.TaxFile = files::LookAt(path);
         program.totals.TaxRate = numbers::ValSingle(five);
     });

@@ -8,6 +8,10 @@
 void frmSpelling::Form_Load(Program& program) {
     Caption = "Check Spelling";
     cmbLanguage.Items = program.platform.dictionaries.Languages();
+    ShowLanguage(program);
+}
+
+void frmSpelling::ShowLanguage(const Program& program) {
     const auto chosen =
         std::find(cmbLanguage.Items.begin(), cmbLanguage.Items.end(), program.spelling.Language);
     cmbLanguage.ListIndex = chosen == cmbLanguage.Items.end()

@@ -32,6 +32,8 @@ public:
     [[nodiscard]] Modality Mode() const override { return Modality::Modal; }
     void Form_Load(Program& program) override;
     void Form_Cancel(Program& program) override;
+    /// Selects the language in use.
+    void ShowLanguage(const Program& program);
 
     void lstSuggestions_Click(Program& program, int index);
     void cmbLanguage_Click(Program& program, int index);

@@ -9,6 +9,7 @@
 #include "spelling/spelling_walk.h"
 
 #include <algorithm>
+#include <utility>
 
 SpellingService::SpellingService(Program& program) : program_(program) {
     Guarded(program, "SpellCheckText", [&] { personal_.Read(program); });
@@ -50,7 +51,6 @@ void SpellingService::NextWord() {
     while (const auto next = FindFrom(from_)) {
         word_ = *next;
         if (const auto replacement = changeAll_.find(std::string(Word())); replacement != changeAll_.end()) {
-            Remember(Step::ByItself);
             Replace(replacement->second);
         } else if (!Knows(Word())) {
             ShowWord();
@@ -89,9 +89,7 @@ void SpellingService::ShowWord() {
 }
 
 void SpellingService::Remember(Step step) {
-    if (step != Step::ByItself) {
-        program_.spelling.TooLong.clear(); // the person has seen it beside this word
-    }
+    program_.spelling.TooLong.clear(); // the person has seen it beside this word
     decisions_.push_back({step, program_.spelling.Position, word_.Start, std::string(Word()), text_});
 }
 
@@ -125,7 +123,6 @@ void SpellingService::AddWord() {
     }
     TellSaved(program_, "Personal dictionary", PersonalDictionary::PathOf(program_));
     Remember(Step::Add);
-    from_ = word_.Start + word_.Length;
     NextWord();
 }
 
@@ -140,17 +137,15 @@ void SpellingService::Forget(const Decision& decision) {
 }
 
 void SpellingService::UndoLast() {
-    while (!decisions_.empty()) {
+    if (!decisions_.empty()) {
         const Decision last = decisions_.back();
         decisions_.pop_back();
         Forget(last);
+        // As it stood then: what was changed by itself since is back with it.
         text_ = last.TextBefore;
         from_ = last.At;
-        if (last.What != Step::ByItself) {
-            if (last.Area != program_.spelling.Position) {
-                modSpelling::GoBackTo(program_, last.Area);
-            }
-            break;
+        if (last.Area != program_.spelling.Position) {
+            modSpelling::GoBackTo(program_, last.Area);
         }
     }
     NextWord();
@@ -166,17 +161,17 @@ void SpellingService::UseLanguage(std::string_view language) {
                                            Buttons::Ok, "");
         // Back to the one that was in use a moment ago.
         static_cast<void>(program_.platform.dictionaries.Use(program_.spelling.Language));
+        if (auto* window = dynamic_cast<frmSpelling*>(modWindows::Find(program_, "frmSpelling"))) {
+            window->ShowLanguage(program_);
+        }
         return;
     }
     program_.spelling.Language = language;
-    from_ = word_.Start;
     NextWord();
 }
 
 void SpellingService::Finish(SpellingEnd end) {
-    const std::function<void(SpellingEnd)> done = std::move(done_);
-    done_ = nullptr;
-    if (done) {
+    if (const std::function<void(SpellingEnd)> done = std::exchange(done_, nullptr)) {
         done(end);
     }
 }

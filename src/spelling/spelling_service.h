@@ -39,7 +39,7 @@ public:
     void UseLanguage(std::string_view language) override;
 
 private:
-    enum class Step { Change, ChangeAll, Ignore, IgnoreAll, Add, ByItself };
+    enum class Step { Change, ChangeAll, Ignore, IgnoreAll, Add };
     struct Decision {
         Step What = Step::Change;
         std::size_t Area = 0; ///< position in the walk

@@ -112,7 +112,6 @@ void End(Program& program) {
     state.Service->FileClose(2);
     state.Service->AppClose();
     state.Service.reset();
-    state.Areas.clear();
     state.Changed.clear();
     if (!state.TooLong.empty()) {
         program.main.Notice = state.TooLong; // no further word came up to tell it beside
@@ -159,8 +158,6 @@ void mnuEditSpellCheck_Click(Program& program) {
     }
     state.Areas = AreasToCheck(program);
     state.Position = 0;
-    state.Changed.clear();
-    state.TooLong.clear();
     state.Cancelled = false;
     state.Service->AppShow();
     state.Service->FileNew();

@@ -38,7 +38,8 @@ INSTANTIATE_TEST_SUITE_P(
                     Known{"6:30:15 PM", 66615.0 / 86400}, Known{"6a", 0.25}, Known{"12 pm", 0.5},
                     Known{"6:00 PM 1/15/2008", 39462.75}, Known{"1/15/2008, 18:00", 39462.75},
                     Known{"12/31/2008", 39813}, Known{"31/12/2008", 39813}, Known{"December 31, 2008", 39813},
-                    Known{"150/3/4", -639110}, Known{"3/4/150", -639110}));
+                    Known{"13/5/2008", 39581}, Known{"13/12/2008", 39795}, Known{"150/3/4", -639110},
+                    Known{"3/4/150", -639110}, Known{"3/150", -639113}));
 
 class NoDate : public testing::TestWithParam<const char*> {};
 
@@ -51,7 +52,9 @@ INSTANTIATE_TEST_SUITE_P(Table, NoDate,
                                          "2/29/2007", "13/13/2008", "0/1/2008", "1/0/2008", "January",
                                          "32 January 2008", "25:00", "13 PM", "6:75 PM", "1/15/2008 x",
                                          "1/2/3/4", "12345", "-1/2/2008", "1//2008", "January 15, 20080",
-                                         "Smarch 5, 2008", "1.15.2008", "$5", "6:00 XM"));
+                                         "Smarch 5, 2008", "1.15.2008", "$5", "6:00 XM", "Smarch 1/15/2008",
+                                         "1/15/2008 25:00", "January 15,", "1/15/", ", 6:00 PM", "2008-01",
+                                         "2008-01-", "2008-01 15", "2008-01/15"));
 
 TEST(DateSerial, CountsFromTheThirtiethOfDecember1899) {
     EXPECT_EQ(dates::ToSerial({1899, 12, 30, 0, 0, 0}), 0.0);
@@ -81,6 +84,12 @@ TEST(GeneralDate, LeavesOutWhatIsNotThere) {
     EXPECT_EQ(dates::GeneralDate(0.5), "12:00:00 PM");
     EXPECT_EQ(dates::GeneralDate(0), "12:00:00 AM");
     EXPECT_EQ(dates::GeneralDate(39468 + 1.0 / 86400), "1/21/2008 12:00:01 AM");
+    EXPECT_EQ(dates::GeneralDate(39468 + 66615.0 / 86400), "1/21/2008 6:30:15 PM");
+}
+
+TEST(GeneralDate, AMomentBeforeMidnightIsTheNextDay) {
+    EXPECT_EQ(dates::GeneralDate(39468 + 86399.4 / 86400), "1/21/2008 11:59:59 PM");
+    EXPECT_EQ(dates::GeneralDate(39468 + 86399.6 / 86400), "1/22/2008");
 }
 
 } // namespace

@@ -10,13 +10,18 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
+#include <cstdlib>
+#include <ctime>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -36,6 +41,9 @@ TEST(Files, ReadNoMoreThanWasAskedFor) {
     folder.Write("a", "0123456789");
     EXPECT_EQ(files::ReadUpTo(folder / "a", 4), "0123");
     EXPECT_EQ(files::ReadUpTo(folder / "a", 100), "0123456789");
+    const files::Head head = files::ReadHead(folder / "a", 4);
+    EXPECT_EQ(head.Bytes, "0123");
+    EXPECT_EQ(head.Length, 10U) << "of the whole file";
     EXPECT_EQ(files::Length(folder / "a"), 10U);
     EXPECT_THROW(static_cast<void>(files::ReadAll(folder / "a", 9)), files::FileError);
     EXPECT_EQ(files::ReadAll(folder / "a", 10), "0123456789");
@@ -50,6 +58,7 @@ TEST(Files, WhatIsNoRegularFileIsRefusedAndNeverWaitedFor) {
     EXPECT_EQ(NumberOf([&] { static_cast<void>(files::ReadAll("/dev/zero")); }), files::kPathAccess);
     EXPECT_EQ(NumberOf([&] { static_cast<void>(files::ReadAll(folder / "none")); }), files::kNotFound);
     EXPECT_EQ(NumberOf([&] { files::WriteWhole(folder / "folder", "x"); }), files::kPathAccess);
+    EXPECT_EQ(NumberOf([&] { static_cast<void>(files::Length(folder / "folder")); }), files::kPathAccess);
     EXPECT_FALSE(files::Exists(folder / "folder"));
     EXPECT_TRUE(files::IsFolder(folder / "folder"));
 }
@@ -87,13 +96,14 @@ TEST(Files, NamesHoldEveryCharacterOfTheProgram) {
 
 TEST(Files, ListsByPatternsInOrderAndLeavesOutFolders) {
     const ScratchFolder folder;
-    for (const char* name : {"b.hef", "A.HEF", "c.txt", "logo.jpg", "x.bmp"}) {
+    for (const char* name : {"b.hef", "A.HEF", "C.hef", "c.txt", "logo.jpg", "x.bmp"}) {
         folder.Write(name, "");
     }
     folder.MakeFolder("d.hef");
-    EXPECT_EQ(files::List(folder.Path(), "*.hef"), (std::vector<std::string>{"A.HEF", "b.hef"}));
+    EXPECT_EQ(files::List(folder.Path(), "*.hef"), (std::vector<std::string>{"A.HEF", "b.hef", "C.hef"}));
     EXPECT_EQ(files::List(folder.Path(), "*.jpg;*.bmp"), (std::vector<std::string>{"logo.jpg", "x.bmp"}));
     EXPECT_EQ(NumberOf([&] { static_cast<void>(files::List(folder / "none", "*")); }), files::kPathNotFound);
+    EXPECT_EQ(NumberOf([&] { static_cast<void>(files::List(folder / "c.txt", "*")); }), files::kPathNotFound);
 }
 
 TEST(Files, AReadOnlyFileIsDeletedAfterItsAttributeWasCleared) {
@@ -125,6 +135,9 @@ TEST(Files, AppendAndRenameAndCopy) {
     EXPECT_EQ(folder.Read("copy"), "onetwo");
     EXPECT_EQ(NumberOf([&] { files::Rename(folder / "copy", folder / "log"); }), files::kAlreadyExists);
     files::Rename(folder / "copy", folder / "moved");
+    folder.MakeFolder("folder");
+    EXPECT_EQ(NumberOf([&] { files::Rename(folder / "folder", folder / "folder/within"); }),
+              files::kDeviceError);
     EXPECT_TRUE(folder.Has("moved"));
     EXPECT_EQ(NumberOf([&] { files::WriteWhole(folder / "none/a", ""); }), files::kPathNotFound);
     EXPECT_NE(NumberOf([&] { files::WriteWhole(folder.Path() + "a/b?" + std::string(300, 'x'), ""); }), 0);
@@ -163,6 +176,55 @@ TEST(Files, PredicatesNeverThrow) {
     EXPECT_FALSE(files::Exists(""));
     EXPECT_FALSE(files::ExistsExactly("/none/of/these"));
     EXPECT_FALSE(files::Exists("/tmp/" + std::string(5000, 'x')));
+}
+
+TEST(Files, ANameThatNoFileCanHaveIsRefusedAndNoneIsWrittenInItsPlace) {
+    const ScratchFolder folder;
+    EXPECT_EQ(NumberOf([&] { files::WriteWhole(folder.Path() + std::string("a\0b", 3), "x"); }),
+              files::kBadName);
+    EXPECT_FALSE(folder.Has("a"));
+    EXPECT_EQ(NumberOf([&] { files::WriteWhole(folder.Path(), "x"); }), files::kBadName);
+    EXPECT_EQ(NumberOf([&] { files::MakeFolder("/"); }), files::kBadName);
+}
+
+/// While it lives, the process has this time zone.
+class TimeZone {
+public:
+    explicit TimeZone(const char* zone) {
+        if (const char* before = std::getenv("TZ")) {
+            before_ = before;
+        }
+        ::setenv("TZ", zone, 1);
+        ::tzset();
+    }
+    ~TimeZone() {
+        if (before_) {
+            ::setenv("TZ", before_->c_str(), 1);
+        } else {
+            ::unsetenv("TZ");
+        }
+        ::tzset();
+    }
+    TimeZone(const TimeZone&) = delete;
+    TimeZone& operator=(const TimeZone&) = delete;
+
+private:
+    std::optional<std::string> before_;
+};
+
+TEST(Files, AreModifiedAtATimeOfTheWallsClock) {
+    const ScratchFolder folder;
+    folder.Write("a", "x");
+    constexpr std::time_t kMoment =
+        1200938400; // 6 in the evening of 21 January 2008, day 39468, at Greenwich
+    const std::array<timespec, 2> times{{{kMoment, 0}, {kMoment, 0}}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, (folder / "a").c_str(), times.data(), 0), 0);
+    {
+        const TimeZone greenwich("GMT0");
+        EXPECT_DOUBLE_EQ(files::ModifiedSerial(folder / "a"), 39468.75);
+    }
+    const TimeZone sixHoursWest("CST6");
+    EXPECT_DOUBLE_EQ(files::ModifiedSerial(folder / "a"), 39468.5);
 }
 
 TEST(Files, WhatCouldNotBeReadIsKeptBesideItAndEarlierOnesToo) {

@@ -46,7 +46,9 @@ INSTANTIATE_TEST_SUITE_P(
         Numeric{"-5-", false, 0}, Numeric{"(5", false, 0}, Numeric{"(-5)", false, 0},
         Numeric{"1e39", false, 0}, Numeric{"1e400", false, 0}, Numeric{"inf", false, 0},
         Numeric{"nan", false, 0}, Numeric{"0x10", false, 0}, Numeric{"1e", false, 0}, Numeric{",5", false, 0},
-        Numeric{"1.5,0", false, 0}, Numeric{"$$5", false, 0}));
+        Numeric{",123", false, 0}, Numeric{"-19.", true, -19}, Numeric{"-19.e2", true, -1900},
+        Numeric{"-.5", true, -0.5}, Numeric{"-.", false, 0}, Numeric{"-1,2345", false, 0},
+        Numeric{"-1,", false, 0}, Numeric{"1.5,0", false, 0}, Numeric{"$$5", false, 0}));
 
 TEST(NumericText, KnowsTheSymbolOfTheSettings) {
     EXPECT_TRUE(numbers::IsNumeric("\xA3 5", "\xA3"));
@@ -71,6 +73,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(Shown{1234.5, "##,##0.00", "1,234.50"}, Shown{0, "##,##0.00", "0.00"},
                     Shown{0.5, "##,##0.00", "0.50"}, Shown{-1234.5, "##,##0.00", "-1,234.50"},
                     Shown{1234567.891, "##,##0.00", "1,234,567.89"}, Shown{-0.001, "##,##0.00", "0.00"},
+                    Shown{-0.0004, "##,##0.00", "0.00"}, Shown{8.25, "0.00\"", "8.25\""},
                     Shown{0.5, "##,###.00", ".50"}, Shown{0, "##,###.00", ".00"},
                     Shown{1234, "##,###.00", "1,234.00"}, Shown{-0.5, "##,###.00", "-.50"},
                     Shown{1234.5, "#########.00", "1234.50"}, Shown{0, "#########.00", ".00"},
@@ -135,6 +138,7 @@ TEST(PlainDoubles, HaveFifteenDigitsAtMost) {
     EXPECT_EQ(numbers::PlainNumber(0.1 + 0.2), "0.3");
     EXPECT_EQ(numbers::PlainNumber(123456789012345.0), "123456789012345");
     EXPECT_EQ(numbers::PlainNumber(1e15), "1E+15");
+    EXPECT_EQ(numbers::PlainNumber(1.2e15), "1.2E+15");
     EXPECT_EQ(numbers::PlainNumber(1440.0), "1440");
 }
 
@@ -147,6 +151,14 @@ TEST(LeadingNumber, IsReadAsFarAsItGoes) {
     EXPECT_EQ(numbers::Val("."), 0);
     EXPECT_EQ(numbers::Val("abc"), 0);
     EXPECT_EQ(numbers::Val("1,000"), 1);
+    EXPECT_EQ(numbers::Val("+5 "), 5);
+}
+
+TEST(NumericText, ThatIsMissingNeedsNoMending) {
+    EXPECT_FALSE(numbers::IsNoNumber(""));
+    EXPECT_FALSE(numbers::IsNoNumber("  "));
+    EXPECT_FALSE(numbers::IsNoNumber(" 5"));
+    EXPECT_TRUE(numbers::IsNoNumber(" five"));
 }
 
 TEST(NumericText, OfAnyBytesNeverGivesWhatIsNotFinite) {

@@ -1,5 +1,7 @@
 #include "base/files.h"
+#include "base/folder_scan.h"
 #include "base/record_file.h"
+#include "base/safe_write.h"
 #include "support/failing_disk.h"
 #include "support/scratch_folder.h"
 
@@ -189,19 +191,170 @@ TEST(SafeWrite, WhatRunsThatAreNoMoreLeftGoesAndNothingElse) {
     const std::string alive = Temporary(ThisHost(), ::getppid());
     const std::string foreign = Temporary("another-machine", kNobody);
     const std::string forgotten = Temporary("a-third", kNobody);
-    for (const std::string& name : {ours, alive, foreign, forgotten, std::string("Jane.hef"),
-                                    std::string(".quillbrook.tmp"), std::string(".quillbrook.x.tmp")}) {
+    const std::string noNumber = ".quillbrook." + ThisHost() + ".x.0.tmp";
+    const std::string noHost = ".quillbrook.x.tmp";
+    for (const std::string& name :
+         {ours, alive, foreign, forgotten, noNumber, noHost, Temporary(ThisHost(), 0),
+          std::string("Jane.hef"), std::string(".quillbrook.tmp")}) {
         folder.Write(name, "x");
     }
-    fs::last_write_time(folder / forgotten, fs::file_time_type::clock::now() - std::chrono::hours(48));
+    const auto lastWritten = [&](const std::string& name, std::chrono::minutes ago) {
+        fs::last_write_time(folder / name, fs::file_time_type::clock::now() - ago);
+    };
+    constexpr std::chrono::minutes kDay = std::chrono::hours(24);
+    lastWritten(forgotten, kDay + std::chrono::minutes(10));
+    lastWritten(foreign, kDay - std::chrono::minutes(10));
+    lastWritten(noHost, kDay + kDay);
     files::RemoveLeftOvers(folder.Path());
     EXPECT_FALSE(folder.Has(ours));
     EXPECT_FALSE(folder.Has(forgotten));
     EXPECT_TRUE(folder.Has(alive));
     EXPECT_TRUE(folder.Has(foreign));
     EXPECT_TRUE(folder.Has("Jane.hef"));
-    EXPECT_EQ(EntriesOf(folder), 5U);
+    EXPECT_EQ(EntriesOf(folder), 7U);
     files::RemoveLeftOvers(folder / "none");
+}
+
+TEST(SafeWrite, AFileWrittenInPlaceGetsItsOwnersRightToWrite) {
+    const ScratchFolder folder;
+    folder.Write("a", "old");
+    ASSERT_EQ(::chmod((folder / "a").c_str(), 0440), 0);
+    const FailingDisk disk{{Call::Open, 1, EACCES}};
+    files::WriteWhole(folder / "a", "new");
+    EXPECT_EQ(folder.Read("a"), "new");
+    struct stat about {};
+    ASSERT_EQ(::stat((folder / "a").c_str(), &about), 0);
+    EXPECT_EQ(about.st_mode & 0777U, 0640U);
+}
+
+TEST(SafeWrite, WhatIsPutBackInPlaceStandsOnTheDiskBeforeTheFailureIsTold) {
+    const ScratchFolder folder;
+    folder.Write("a", "old");
+    const FailingDisk disk{{Call::Open, 1, EACCES}, {Call::Write, 1, EIO}};
+    EXPECT_FALSE(Written(folder / "a", "new"));
+    EXPECT_EQ(folder.Read("a"), "old");
+    EXPECT_EQ(disk.CallsOf(Call::Flush), 2) << "before the first old byte is touched, and behind the last";
+}
+
+TEST(SafeWrite, ASaveThatWentWellDeletesNothing) {
+    const ScratchFolder folder;
+    folder.Write("a", "old");
+    const FailingDisk disk{};
+    EXPECT_TRUE(Written(folder / "a", "new"));
+    EXPECT_EQ(disk.CallsOf(Call::Unlink), 0);
+}
+
+TEST(SafeWrite, APipeIsNeverReplaced) {
+    const ScratchFolder folder;
+    ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+    EXPECT_FALSE(Written(folder / "pipe", "text"));
+    EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
+}
+
+/// Makes "new" in a folder: how it went, and what stands there afterwards.
+enum class Ended { Made, NameTaken, Told };
+
+Ended Make(const ScratchFolder& folder) {
+    try {
+        return safe_write::MakeNew(folder / "new", "text", "new") == safe_write::Made::Yes ? Ended::Made
+                                                                                           : Ended::NameTaken;
+    } catch (const files::FileError&) {
+        return Ended::Told;
+    }
+}
+
+TEST(MakeNew, MakesAFileWhereNothingHasItsName) {
+    const ScratchFolder folder;
+    EXPECT_EQ(Make(folder), Ended::Made);
+    EXPECT_EQ(folder.Read("new"), "text");
+    EXPECT_EQ(EntriesOf(folder), 1U);
+    folder.Write("new", "there before");
+    EXPECT_EQ(Make(folder), Ended::NameTaken);
+    EXPECT_EQ(folder.Read("new"), "there before");
+    EXPECT_EQ(EntriesOf(folder), 1U);
+}
+
+TEST(MakeNew, WorksOnAFileSystemWhereAFileHasOneNameOnly) {
+    for (const int unknown : {EPERM, EOPNOTSUPP, ENOSYS}) {
+        const FailingDisk disk{{Call::Link, 1, unknown, FailingDisk::kForever}};
+        const ScratchFolder folder;
+        EXPECT_EQ(Make(folder), Ended::Made) << unknown;
+        EXPECT_EQ(folder.Read("new"), "text");
+        EXPECT_EQ(EntriesOf(folder), 1U);
+        folder.Write("new", "there before");
+        EXPECT_EQ(Make(folder), Ended::NameTaken) << unknown;
+        EXPECT_EQ(folder.Read("new"), "there before");
+        EXPECT_EQ(EntriesOf(folder), 1U);
+    }
+}
+
+TEST(MakeNew, WhateverCallFailsIsToldOfAndLeavesNothing) {
+    for (const Call call : {Call::Open, Call::Write, Call::Flush, Call::Close, Call::Link}) {
+        const ScratchFolder folder;
+        const FailingDisk disk{{call, 1, EIO}};
+        EXPECT_EQ(Make(folder), Ended::Told) << static_cast<int>(call);
+        EXPECT_EQ(EntriesOf(folder), 0U) << static_cast<int>(call);
+    }
+    const ScratchFolder folder;
+    const FailingDisk disk{{Call::Link, 1, EPERM}, {Call::Rename, 1, EIO}};
+    EXPECT_EQ(Make(folder), Ended::Told);
+    EXPECT_EQ(EntriesOf(folder), 0U);
+}
+
+/// Every way in which the program opens a file.
+void OpenInEveryWay(const ScratchFolder& folder) {
+    files::WriteWhole(folder / "a", "text");
+    files::WriteWhole(folder / "a", "other text");
+    EXPECT_EQ(files::ReadAll(folder / "a"), "other text");
+    files::Append(folder / "a", "!");
+    EXPECT_EQ(files::AppendRecord(folder / "records", "one"), 1U);
+    EXPECT_EQ(files::WriteOver(folder / "records", 0, "one", "two"), files::InPlace::Written);
+    EXPECT_EQ(files::ReadAt(folder / "records", 0, 3), "two");
+    files::ScanHeads(folder.Path(), "a", 5, [](files::FileHead&& head) {
+        EXPECT_EQ(head.Bytes, "other");
+        return true;
+    });
+    EXPECT_EQ(safe_write::MakeNew(folder / "made", "text", "made"), safe_write::Made::Yes);
+    files::MoveNew(folder / "made", folder / "moved");
+    EXPECT_EQ(folder.Read("moved"), "text");
+    EXPECT_EQ(folder.Read("a"), "other text!");
+}
+
+void ExpectEveryOpenedFileToBeClosedOnce() {
+    const ScratchFolder folder;
+    const FailingDisk disk{{Call::Move, 1, EINVAL, FailingDisk::kForever},
+                           {Call::Link, 1, EPERM, FailingDisk::kForever}};
+    OpenInEveryWay(folder);
+    const int opened = disk.CallsOf(Call::Open) + disk.CallsOf(Call::OpenIn);
+    EXPECT_GE(opened, 12);
+    EXPECT_EQ(disk.CallsOf(Call::Close), opened);
+}
+
+TEST(Files, OnceOpenedAreClosedOnce) {
+    ExpectEveryOpenedFileToBeClosedOnce();
+}
+
+/// While it lives, the system's first number for files is free, as when the program is started without an
+/// input.
+class NoInput {
+public:
+    NoInput() : kept_(::dup(STDIN_FILENO)) { ::close(STDIN_FILENO); }
+    ~NoInput() {
+        if (kept_ >= 0) {
+            ::dup2(kept_, STDIN_FILENO);
+            ::close(kept_);
+        }
+    }
+    NoInput(const NoInput&) = delete;
+    NoInput& operator=(const NoInput&) = delete;
+
+private:
+    int kept_;
+};
+
+TEST(Files, AreFilesToAProgramWithoutAnInputToo) {
+    const NoInput noInput;
+    ExpectEveryOpenedFileToBeClosedOnce();
 }
 
 } // namespace

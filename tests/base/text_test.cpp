@@ -28,14 +28,15 @@ TEST(Ansi, KnowsTheCodePageAndItsOpenBytes) {
     for (const int open : {0x81, 0x8D, 0x8F, 0x90, 0x9D}) {
         EXPECT_EQ(ansi::ToCodePoint(static_cast<char>(open)), static_cast<char32_t>(open));
     }
+    EXPECT_FALSE(ansi::FromCodePoint(0x80).has_value()) << "the euro has its byte";
     EXPECT_FALSE(ansi::FromCodePoint(U'\u0100').has_value());
     EXPECT_FALSE(ansi::FromCodePoint(U'\U0001F600').has_value());
     EXPECT_EQ(ansi::ToUtf8("\x80 \xE9"), "\xE2\x82\xAC \xC3\xA9");
 }
 
 TEST(Ansi, RefusesWhatIsNoUtf8) {
-    for (const char* bad :
-         {"\xC3", "\xE2\x82", "\xFF", "\xC0\x80", "\xED\xA0\x80", "\xF5\x80\x80\x80", "a\x80"}) {
+    for (const char* bad : {"\xC3", "\xE2\x82", "\xFF", "\xC0\x80", "\xE0\x81\x81", "\xED\xA0\x80",
+                            "\xF5\x80\x80\x80", "\xF2\x82\xAC", "a\x80"}) {
         EXPECT_FALSE(ansi::FromUtf8(bad).has_value());
     }
     EXPECT_EQ(ansi::FromUtf8(""), "");
@@ -57,6 +58,8 @@ TEST(Text, CutsWithinItsBounds) {
     EXPECT_EQ(text::Right("abc", 9), "abc");
     EXPECT_EQ(text::Mid("abc", 2), "bc");
     EXPECT_EQ(text::Mid("abc", 2, 1), "b");
+    EXPECT_EQ(text::Mid("abc", 2, 0), "");
+    EXPECT_EQ(text::Mid("abc", 1), "abc");
     EXPECT_EQ(text::Mid("abc", 9), "");
 }
 
@@ -106,14 +109,26 @@ TEST(Paths, SplitAtBothSeparators) {
     EXPECT_EQ(paths::Join("/a/", "b"), "/a/b");
     EXPECT_EQ(paths::BaseOf("Jane Roe.hef"), "Jane Roe");
     EXPECT_EQ(paths::BaseOf("abc"), "");
+    EXPECT_EQ(paths::ExtensionOf("logo.jpg"), "jpg");
     EXPECT_TRUE(paths::SameFolder("/Home/Ann\\", "/home/ann"));
     EXPECT_FALSE(paths::SameFolder("/home/ann", "/home/anne"));
+}
+
+TEST(Paths, AreAbsoluteFromADriveOrASeparatorOn) {
+    for (const char* whole : {"/srv", "\\Data", "c:", "C:\\Data"}) {
+        EXPECT_TRUE(paths::IsAbsolute(whole)) << whole;
+    }
+    for (const char* part : {"", "Data", "Data/x", "1:\\", ":"}) {
+        EXPECT_FALSE(paths::IsAbsolute(part)) << part;
+    }
 }
 
 TEST(Paths, DriveLettersStandForFolders) {
     const paths::DriveRoots roots{"/home/ann/", {"/nowhere/one/", "/nowhere/two/"}};
     EXPECT_EQ(paths::ResolveDrive("c:\\", roots), "/home/ann/");
     EXPECT_EQ(paths::ResolveDrive("C:\\Data\\x.txt", roots), "/home/ann/Data/x.txt");
+    EXPECT_EQ(paths::ResolveDrive("c:", roots), "/home/ann/");
+    EXPECT_EQ(paths::ResolveDrive("c:Data", roots), "/home/ann/Data");
     EXPECT_EQ(paths::ResolveDrive("f:\\", roots), "/nowhere/two/f/");
     EXPECT_EQ(paths::ResolveDrive("/srv/share", roots), "/srv/share");
 }

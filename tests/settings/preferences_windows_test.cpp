@@ -64,7 +64,7 @@ TEST(FrmPref, BoxesThatSayNotAreTheOppositeOfTheirSettings) {
 
 TEST(FrmPref, SavingReplacesSevenLinesAndNothingElse) {
     Settled run;
-    run.folder.Write("UserPreferences.txt", SettingsFile({{2, "Acme"}, {16, "True"}, {18, "True"}}));
+    run.folder.Write("UserPreferences.txt", SettingsFile({{2, "Acme"}, {16, "True"}}));
     modSettings::GetUserPreferences(run.program);
     run.program.run.ACStartLen = 4;
     frmPref& window = OpenPref(run.program);
@@ -85,8 +85,13 @@ TEST(FrmPref, SavingReplacesSevenLinesAndNothingElse) {
                                                                     {18, "True"},
                                                                     {20, "True"},
                                                                     {24, "True"}}));
-    EXPECT_FALSE(run.program.settings.ShowFUT);
-    EXPECT_EQ(run.program.settings.AutoStartPosition, 4);
+    const SettingsRecords& settings = run.program.settings;
+    EXPECT_FALSE(settings.ShowFUT);
+    EXPECT_TRUE(settings.ShowCalc);
+    EXPECT_TRUE(settings.MinimizeFUT);
+    EXPECT_EQ(settings.AutoStartPosition, 4);
+    EXPECT_TRUE(settings.AutoCompleteWord);
+    EXPECT_TRUE(settings.LoadFUT);
     // The run itself goes on as it was.
     EXPECT_EQ(run.program.run.ACStartLen, 4);
     EXPECT_FALSE(run.program.run.ACEnabled);
@@ -151,6 +156,7 @@ TEST(FrmACStart, SelectsThePositionOrShowsItAsText) {
         run.program.run.ACStartLen = position;
         const frmACStart& window = OpenStart(run.program);
         EXPECT_EQ(Chosen(window), position);
+        EXPECT_EQ(window.optACStart[static_cast<std::size_t>(position)].Caption, std::to_string(position));
         EXPECT_EQ(window.txtACStart.Text, "");
     }
     run.program.run.ACStartLen = 6;

@@ -3,10 +3,13 @@
 #include "settings/frm_printers.h"
 #include "settings/printer_offsets.h"
 #include "settings/settings.h"
+#include "support/failing_disk.h"
 #include "support/settled.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <filesystem>
 #include <string>
 
 namespace {
@@ -34,6 +37,7 @@ TEST(PrinterOffsets, AreInchesInTheFileAndTwipsInTheProgram) {
 TEST(PrinterOffsets, AMissingFileMeansNoneAndIsNotTold) {
     Offset run;
     run.program.printing.PrinterOffsetX = 5;
+    run.program.printing.PrinterOffsetY = 7;
     modOffsets::ReadPrinterOffsets(run.program);
     EXPECT_EQ(run.X(), 0.0F);
     EXPECT_EQ(run.Y(), 0.0F);
@@ -67,6 +71,51 @@ TEST(PrinterOffsets, FailuresAreToldUnderTheRoutinesNames) {
     run.folder.MakeFolder("Proposals/PrinterOffsets.txt");
     run.ExpectReport("SavePrinterOffsets");
     modOffsets::SavePrinterOffsets(run.program);
+}
+
+TEST(PrinterOffsets, OfATwipAreHalfAtTheLeastAndAMillionAtTheMost) {
+    EXPECT_EQ(modOffsets::TwipsOf("0.00034722222"), 0.5F); // of 1440 twips an inch
+    EXPECT_EQ(modOffsets::TwipsOf("-0.00034722222"), -0.5F);
+    EXPECT_EQ(modOffsets::TwipsOf("0.000347"), 0.0F);
+    EXPECT_EQ(modOffsets::TwipsOf("694.4444"), 1'000'000 - 0.064F);
+    EXPECT_EQ(modOffsets::TwipsOf("694.4445"), 0.0F);
+}
+
+TEST(PrinterOffsets, AnotherProgramsAreAskedAboutAndKeptByNo) {
+    const std::string question = "This printer offsets file was changed by another program";
+    const std::string others = "Printer X Offset:1Printer Y Offset:1";
+    Offset run;
+    run.Read("Printer X Offset:2Printer Y Offset:2");
+    modOffsets::SavePrinterOffsets(run.program); // nobody else wrote: nothing to ask, and nothing to keep
+    EXPECT_FALSE(run.folder.Has("Proposals/PrinterOffsets.txt.unread"));
+    run.folder.Write("Proposals/PrinterOffsets.txt", others);
+    run.surroundings.questions.Expect(question, Answer::No);
+    modOffsets::SavePrinterOffsets(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/PrinterOffsets.txt"), others);
+}
+
+TEST(PrinterOffsets, AFileThatHasComeSinceNoneWasReadIsAskedAbout) {
+    const std::string others = "Printer X Offset:1Printer Y Offset:1";
+    Offset run;
+    run.Read(others);
+    std::filesystem::remove(run.folder / "Proposals/PrinterOffsets.txt");
+    modOffsets::ReadPrinterOffsets(run.program);
+    run.folder.Write("Proposals/PrinterOffsets.txt", others);
+    run.surroundings.questions.Expect("This printer offsets file was changed by another program", Answer::No);
+    modOffsets::SavePrinterOffsets(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/PrinterOffsets.txt"), others);
+}
+
+TEST(PrinterOffsets, AFileThatCouldNotBeReadIsKept) {
+    Offset run;
+    {
+        const FailingDisk disk{{FailingDisk::Call::Read, 1, EIO, FailingDisk::kForever}};
+        run.ExpectReport("ReadPrinterOffsets");
+        run.Read("Printer X Offset:1Printer Y Offset:1");
+    }
+    modOffsets::SavePrinterOffsets(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/PrinterOffsets.txt"), "Printer X Offset:0Printer Y Offset:0");
+    EXPECT_EQ(run.folder.Read("Proposals/PrinterOffsets.txt.unread"), "Printer X Offset:1Printer Y Offset:1");
 }
 
 TEST(PrinterOffsets, AreReadWithTheSettings) {
@@ -198,6 +247,19 @@ TEST(FrmPrinters, TheChosenOneIsCurrentAndKept) {
     EXPECT_EQ(run.program.settings.DefaultPrinter, "Print to PDF");
     EXPECT_EQ(run.folder.Read("UserPreferences.txt"), SettingsFile({{2, "Acme"}, {21, "Print to PDF"}}));
     EXPECT_EQ(window.cmbPrinters.ListIndex, 1);
+}
+
+TEST(FrmPrinters, TheFirstOfTheListIsChosenAsAnyOther) {
+    Settled run;
+    run.folder.Write("UserPreferences.txt", SettingsFile({}));
+    run.surroundings.printers.CurrentDevice = "Print to PDF";
+    modSettings::GetUserPreferences(run.program);
+    frmPrinters& window = OpenPrinters(run.program);
+    window.cmbPrinters_Click(run.program, 0);
+    window.cmdPrinter_Click(run.program);
+    EXPECT_EQ(run.surroundings.printers.Current(), "Office Laser");
+    window.Form_Cancel(run.program);
+    EXPECT_TRUE(window.Closing);
 }
 
 TEST(FrmPrinters, APrinterThatHasGoneLeavesTheListAndTheSettings) {

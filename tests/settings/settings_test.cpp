@@ -1,3 +1,4 @@
+#include "base/seen.h"
 #include "settings/frm_tax.h"
 #include "settings/network_share.h"
 #include "settings/settings.h"
@@ -13,6 +14,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -207,6 +209,45 @@ TEST(Settings, FiguresOutOfAnyRangeCountAsZero) {
     EXPECT_EQ(run.program.settings.FUTPosition, FutPosition{});
     EXPECT_EQ(run.program.settings.SavedFontSize, 0.0F);
     EXPECT_EQ(run.program.settings.SavedFontColor, 0U);
+}
+
+TEST(Settings, AWholeNumberIsTakenUpToAThousandMillions) {
+    for (const auto& [written, taken] : {std::pair<std::string, int>{"1000000000", 1000000000},
+                                         {"-1000000000", -1000000000},
+                                         {"1000000001", 0}}) {
+        Settled run;
+        run.folder.Write("UserPreferences.txt", SettingsFile({{15, written}}));
+        modSettings::GetUserPreferences(run.program);
+        EXPECT_EQ(run.program.settings.AutoStartPosition, taken) << written;
+    }
+}
+
+TEST(Settings, ReadAgainBringTheTermsOfTheFolderInForce) {
+    Settled run;
+    run.folder.Write("UserPreferences.txt", SettingsFile({}));
+    int read = 0;
+    run.program.hooks.ReadFrequentlyUsedTerms = [&](Program& program) {
+        ++read;
+        EXPECT_EQ(program.folders.ProposalsFolder, run.folder / "Proposals/");
+    };
+    modSettings::GetUserPreferences(run.program);
+    modSettings::GetUserPreferences(run.program);
+    EXPECT_EQ(read, 2);
+}
+
+TEST(Settings, AFileThatHasComeSinceNoneCouldBeMadeIsAskedAbout) {
+    Settled run;
+    {
+        const FailingDisk disk{{FailingDisk::Call::Rename, 1, EIO, FailingDisk::kForever}};
+        run.ExpectReport("GetUserPreferences"); // there is none
+        run.ExpectReport("GetUserPreferences"); // and none can be made
+        modSettings::GetUserPreferences(run.program);
+    }
+    const std::string others = SettingsFile({{2, "Acme"}});
+    run.folder.Write("UserPreferences.txt", others);
+    run.surroundings.questions.Expect("This settings file was changed by another program", Answer::No);
+    EXPECT_FALSE(modSettings::Store(run.program, {{Key::CompanyName, "Other"}}));
+    EXPECT_EQ(run.folder.Read("UserPreferences.txt"), others);
 }
 
 TEST(Settings, BytesOfAllKindsAreTakenAsTheyAre) {
@@ -505,6 +546,26 @@ TEST(DrivePrompt, ALetterIsKeptAsADriveAndTheHomeFolderStandsForC) {
     EXPECT_EQ(run.program.folders.ProposalsFolder, run.folder / "Home/Proposals/");
     // Here the person has asked for it, whatever is open.
     EXPECT_EQ(run.program.document.FilePath, run.folder / "Home/Proposals/");
+}
+
+TEST(DrivePrompt, AProposalThatIsOpenComesToTheNewFolderWithoutAFile) {
+    Settled run;
+    run.folder.MakeFolder("Home/Proposals");
+    run.folder.Write("UserPreferences.txt", SettingsFile({}));
+    modSettings::GetUserPreferences(run.program);
+    DocumentState& document = run.program.document;
+    document.FileName = "Jane Roe.hef";
+    document.FileExists = true;
+    document.FromBackup = true;
+    document.SavedFile = files::SeenIn("as it was saved");
+    document.FolderOnShow = document.FilePath;
+    run.surroundings.questions.ExpectInput("Proposal Directory Setup", "c");
+    modShare::RequestNetworkSharePath(run.program);
+    EXPECT_EQ(document.FileName, "Jane Roe.hef");
+    EXPECT_FALSE(document.FileExists);
+    EXPECT_FALSE(document.FromBackup);
+    EXPECT_EQ(document.SavedFile, files::Seen{});
+    EXPECT_EQ(document.FolderOnShow, run.folder / "Home/Proposals/");
 }
 
 TEST(DrivePrompt, AMountedVolumeStandsForItsLetter) {

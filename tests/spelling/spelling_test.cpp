@@ -42,11 +42,10 @@ TEST(SpellingWalk, TakesEveryTextOfTwoCharactersInTheOrderOfThePages) {
     run.surroundings.questions.Expect("SpellCheck Complete");
     modSpelling::mnuEditSpellCheck_Click(run.program);
     EXPECT_EQ(run.Checked(), (std::vector<std::string>{"ab", "Chairs", "Last"}));
-    const std::vector<std::string>& verbs = run.surroundings.words.Word.Verbs;
-    EXPECT_EQ(std::vector<std::string>(verbs.begin(), verbs.begin() + 2),
-              (std::vector<std::string>{"AppShow", "FileNew"}));
-    EXPECT_EQ(std::vector<std::string>(verbs.end() - 2, verbs.end()),
-              (std::vector<std::string>{"FileClose 2", "AppClose"}));
+    EXPECT_EQ(run.surroundings.words.Word.Verbs,
+              (std::vector<std::string>{"AppShow", "FileNew", "Insert", "ToolsSpelling", "EditSelectAll",
+                                        "Insert", "ToolsSpelling", "EditSelectAll", "Insert", "ToolsSpelling",
+                                        "EditSelectAll", "FileClose 2", "AppClose"}));
     EXPECT_EQ(run.program.spelling.Service, nullptr);
 }
 
@@ -229,8 +228,10 @@ TEST(SpellingWindow, AWordThatWasWrittenIntoTheFileMeanwhileStays) {
     run.folder.Write("PersonalDictionary.txt", "mine\n");
     run.Window().cmdAdd_Click(run.program);
     EXPECT_EQ(run.folder.Read("PersonalDictionary.txt"), "mine\r\nzzyzx\r\n");
+    EXPECT_EQ(run.Window().lblWord.Caption, "Not in the dictionary: Tabels");
+    run.folder.Write("PersonalDictionary.txt", "mine\r\nours\r\nzzyzx\r\n");
     run.Window().cmdUndo_Click(run.program);
-    EXPECT_EQ(run.folder.Read("PersonalDictionary.txt"), "mine\r\n");
+    EXPECT_EQ(run.folder.Read("PersonalDictionary.txt"), "mine\r\nours\r\n");
     EXPECT_EQ(run.Window().lblWord.Caption, "Not in the dictionary: zzyzx");
 }
 
@@ -401,6 +402,7 @@ TEST(SpellingWindow, AnotherLanguageIsRememberedForTheRun) {
     EXPECT_EQ(run.Window().cmbLanguage.ListIndex, 1);
     run.Window().cmbLanguage_Click(run.program, 0);
     EXPECT_EQ(run.surroundings.dictionaries.InUse, "de_DE");
+    EXPECT_EQ(run.Window().cmbLanguage.ListIndex, 0);
     run.Window().cmdCancel_Click(run.program);
     modWindows::Sweep(run.program);
     run.Start();
@@ -419,6 +421,13 @@ TEST(SpellingWindow, TheLocalesLanguageComesFirstThenEnglish) {
     other.surroundings.dictionaries.Locale = "fr_FR";
     other.Start();
     EXPECT_EQ(other.surroundings.dictionaries.InUse, "en_US");
+    OwnCheck neither;
+    neither.ExpectEnd();
+    neither.surroundings.dictionaries.Locale = "fr_FR";
+    neither.surroundings.dictionaries.Installed = {"cs_CZ", "de_DE"};
+    neither.surroundings.dictionaries.Broken = "cs_CZ";
+    neither.Start();
+    EXPECT_EQ(neither.surroundings.dictionaries.InUse, "de_DE") << "the first that can be read";
 }
 
 TEST(SpellingWindow, WithoutADictionaryThereIsNoCheck) {
@@ -502,6 +511,167 @@ TEST(SpellingWindow, TheFirstSuggestionIsTheChosenOneWhereThereIsAny) {
     EXPECT_EQ(run.Window().lstSuggestions.ListIndex, 0);
     run.Window().cmdIgnore_Click(run.program);
     EXPECT_EQ(run.Window().lstSuggestions.ListIndex, -1);
+}
+
+TEST(SpellingWalk, SettlesWhatIsBeingTypedFirst) {
+    Spelled run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 36);
+    typist.Type("45");
+    run.surroundings.questions.Expect("SpellCheck Complete");
+    modSpelling::mnuEditSpellCheck_Click(run.program);
+    EXPECT_EQ(run.Checked(), std::vector<std::string>{"45.00"});
+}
+
+TEST(SpellingWindow, ATextThatWasJustTypedAndBecomesTooLongPushesNothing) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 4, "Lamps");
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 3);
+    typist.Type("more Chiars ");
+    run.Start();
+    run.Window().txtChangeTo.Text = std::string(90, 'x');
+    run.ExpectEnd();
+    run.Window().cmdChange_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "more " + std::string(90, 'x') + " ");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 4), "Lamps");
+}
+
+TEST(SpellingWindow, EscapeEndsTheCheckAsCancelDoes) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars and Tabels");
+    run.Start();
+    run.Window().cmdChange_Click(run.program);
+    run.Window().Form_Cancel(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chairs and Tabels");
+    run.ExpectClosed();
+}
+
+TEST(SpellingWindow, AWordOfThePersonsOwnIsKnownAsItIsWrittenAndASmallOneAlsoWithACapital) {
+    OwnCheck run;
+    run.folder.Write("PersonalDictionary.txt", "Quill\r\nzzyzx\r\n");
+    run.surroundings.dictionaries.Unknown = {{"Quill", {}}, {"quill", {}}, {"zzyzx", {}}, {"Zzyzx", {}}};
+    run.Fill(PageId::frmP2, 3, "Quill zzyzx Zzyzx quill");
+    run.Start();
+    EXPECT_EQ(run.Window().txtText.SelStart, 18) << "a name is no other word";
+    run.Window().cmdCancel_Click(run.program);
+}
+
+TEST(SpellingWindow, WhatAPersonPutsInAWordsPlaceIsNotAskedAbout) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars and Tabels");
+    run.Start();
+    run.Window().txtChangeTo.Text = "zzyzx";
+    run.Window().cmdChange_Click(run.program);
+    EXPECT_EQ(run.Window().lblWord.Caption, "Not in the dictionary: Tabels");
+    EXPECT_EQ(run.Window().txtText.SelStart, 10);
+    run.Window().cmdCancel_Click(run.program);
+}
+
+TEST(SpellingWindow, AnotherLanguageIsAskedAboutTheWordInQuestion) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "zzyzx and Chiars and Tabels");
+    run.Start();
+    run.Window().cmdIgnore_Click(run.program);
+    ASSERT_EQ(run.Window().lblWord.Caption, "Not in the dictionary: Chiars");
+    run.surroundings.dictionaries.Unknown = {{"zzyzx", {}}, {"Tabels", {}}};
+    run.Window().cmbLanguage_Click(run.program, 0);
+    EXPECT_EQ(run.Window().lblWord.Caption, "Not in the dictionary: Tabels");
+    run.Window().cmdCancel_Click(run.program);
+}
+
+TEST(SpellingWindow, ALanguageThatCannotBeReadIsToldAndTheOneInUseStays) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Start();
+    run.surroundings.dictionaries.Broken = "de_DE";
+    run.surroundings.dictionaries.InUse.clear();
+    run.surroundings.questions.ExpectBox({"The dictionary de_DE could not be read.", Buttons::Ok, ""},
+                                         Answer::Ok);
+    run.Window().cmbLanguage_Click(run.program, 0);
+    EXPECT_EQ(run.surroundings.dictionaries.InUse, "en_US");
+    EXPECT_EQ(run.Window().cmbLanguage.ListIndex, 1) << "the list shows the one in use";
+    EXPECT_EQ(run.Window().lblWord.Caption, "Not in the dictionary: Chiars");
+    run.Window().cmdCancel_Click(run.program);
+}
+
+TEST(SpellingWindow, AnUndoGoesBackNoFurtherThanItsOwnCheck) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Fill(PageId::frmP3, 0, "Chiars");
+    run.Start();
+    run.ExpectEnd();
+    run.Window().cmdChangeAll_Click(run.program);
+    run.ExpectClosed();
+    run.Fill(PageId::frmP1, 8, "Tabels");
+    run.Fill(PageId::frmP4, 0, "zzyzx");
+    run.Start();
+    run.Window().cmdChange_Click(run.program);
+    ASSERT_EQ(run.Window().lblArea.Caption, "Page 4, text area 1");
+    run.Window().cmdUndo_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "Tabels");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "Chairs");
+    EXPECT_EQ(run.TextOf(PageId::frmP3, 0), "Chairs");
+    run.Window().cmdCancel_Click(run.program);
+}
+
+TEST(SpellingWindow, ALengthIsToldOfInItsOwnCheckAlone) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars");
+    run.Start();
+    run.Window().txtChangeTo.Text = std::string(90, 'x');
+    run.ExpectEnd();
+    run.Window().cmdChange_Click(run.program);
+    run.ExpectClosed();
+    run.Fill(PageId::frmP3, 0, "Tabels");
+    run.Start();
+    EXPECT_EQ(run.Window().lblTooLong.Caption, "");
+    run.Window().cmdCancel_Click(run.program);
+}
+
+TEST(SpellingWindow, AnUndoBehindAChangeOfAllAsksOnceMoreAboutWhatWasDecidedLast) {
+    OwnCheck run;
+    run.Fill(PageId::frmP2, 3, "Chiars zzyzx Chiars");
+    run.Fill(PageId::frmP3, 0, "Chiars Tabels");
+    run.Start();
+    run.Window().cmdChangeAll_Click(run.program);
+    run.Window().cmdIgnore_Click(run.program); // and on, by itself, to the word of the next area
+    ASSERT_EQ(run.Window().txtText.Text, "Chairs Tabels");
+    run.Window().cmdUndo_Click(run.program);
+    EXPECT_EQ(run.Window().lblWord.Caption, "Not in the dictionary: zzyzx");
+    EXPECT_EQ(run.Window().txtText.Text, "Chairs zzyzx Chiars");
+    run.Window().cmdUndo_Click(run.program);
+    EXPECT_EQ(run.Window().lblWord.Caption, "Not in the dictionary: Chiars");
+    EXPECT_EQ(run.Window().txtText.Text, "Chiars zzyzx Chiars");
+    EXPECT_FALSE(run.Window().cmdUndo.Enabled);
+    run.Window().cmdCancel_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP3, 0), "Chiars Tabels");
+}
+
+TEST(SpellingWindow, UndoPutsARowOfColumnsBackThatWasEmptied) {
+    OwnCheck run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 3);
+    typist.Press(keys::kF8);
+    typist.Type("3");
+    typist.Press(keys::kEnter);
+    typist.Type("Chiars");
+    typist.Press(keys::kEnter);
+    typist.Type("19.99");
+    typist.Press(keys::kEnter);
+    run.Fill(PageId::frmP3, 0, "Tabels");
+    run.Start();
+    run.Window().txtChangeTo.Text = "";
+    run.Window().cmdChange_Click(run.program);
+    ASSERT_EQ(run.TextOf(PageId::frmP2, 3), "");
+    run.Window().cmdUndo_Click(run.program);
+    const Page& after = run.program.pages[PageId::frmP2];
+    EXPECT_EQ(after.txt[3].Text, "Chiars");
+    EXPECT_EQ(after.txtQty[3].Text, "3");
+    EXPECT_EQ(after.txtAmt[3].Text, "19.99");
+    EXPECT_EQ(after.txt[36].Text, "59.97");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "59.97");
+    run.Window().cmdCancel_Click(run.program);
 }
 
 } // namespace
