@@ -243,8 +243,10 @@ TEST(FromProposal, AsksOnceAboutWhatWasTypedAndACancelFillsNothing) {
     run.Put(2, "Jane Roe");
     run.Open();
     run.Type(0, "Ann Ash");
+    run.Window().Minimised = true;
     run.Questions().Expect("The current Record has been changed.", Answer::Cancel);
     modAddress::mnuOptCopyToBusinessAddressBook_Click(run.program);
+    EXPECT_FALSE(run.Window().Minimised) << "the window that is asked about comes to the front";
     EXPECT_EQ(run.Text(0), "Ann Ash");
     EXPECT_EQ(run.program.addresses.Book, AddressBook::Personal);
     run.Questions().Expect("The current Record has been changed.", Answer::No);

@@ -171,6 +171,9 @@ TEST(CompanyInfo, AndTheAddressBookExcludeEachOther) {
     run.Questions().ExpectBox({refusal, Buttons::Ok, ""}, Answer::Ok);
     modAddress::mnuOptCopyToBusinessAddressBook_Click(run.program);
     EXPECT_TRUE(run.program.addresses.CompanyInfoMode);
+    EXPECT_EQ(run.Window().Caption, "Company Information");
+    EXPECT_EQ(run.Text(0), "Acme Events");
+    EXPECT_EQ(run.Window().FrontCalls, 0);
     AddressRun book;
     book.Open();
     book.Questions().ExpectBox(
