@@ -39,7 +39,7 @@ void frmAddress::Form_Load(Program& program) {
     program.addresses = {};
     program.addresses.CompanyInfoMode = company;
     Caption = "Address Book";
-    modAddress::SetUpFields(program, *this);
+    modAddress::SetUpFields(*this);
     if (company) {
         modAddress::LoadCompanyInfo(program, *this);
     }

@@ -174,6 +174,9 @@ TEST(CompanyInfo, AndTheAddressBookExcludeEachOther) {
     EXPECT_EQ(run.Window().Caption, "Company Information");
     EXPECT_EQ(run.Text(0), "Acme Events");
     EXPECT_EQ(run.Window().FrontCalls, 0);
+    run.Window().Minimised = true;
+    modAddress::mnuEditCompInfo_Click(run.program);
+    EXPECT_FALSE(run.Window().Minimised) << "the window that is open comes to the front";
     AddressRun book;
     book.Open();
     book.Questions().ExpectBox(

@@ -1,4 +1,4 @@
-#include "addresses/address_book.h"
+#include "addresses/address_fields.h"
 #include "addresses/address_run.h"
 #include "support/failing_disk.h"
 
@@ -218,6 +218,29 @@ TEST(OtherBook, ChosenForAnImportThatIsGivenUpNamesItsBookAndHasNoRowChosen) {
     window.lstNames_Click(run.program, 0);
     EXPECT_EQ(window.lstNames.ListIndex, -1);
     EXPECT_EQ(run.Text(0), "Cal Cedar");
+}
+
+TEST(NameList, AWholeNameTypedLeadsToItsRow) {
+    AddressRun run;
+    frmAddress& window = run.OpenWith(AddressRun::Book({"Cher", "Cherry"}));
+    window.lstNames_Typed(run.program, "cher");
+    EXPECT_EQ(run.Text(0), "Cher");
+}
+
+TEST(NameList, HasEveryNameOfALongBook) {
+    AddressRun run;
+    constexpr std::size_t kBefore = 2048;
+    frmAddress& window =
+        run.OpenWith(std::string(kBefore * modAddress::kRecordLength, ' ') + AddressRun::Book({"Ann Ash"}));
+    EXPECT_EQ(run.program.addresses.AddressRecordCount, 2049);
+    window.lstNames_Typed(run.program, "ash");
+    EXPECT_EQ(run.Text(0), "Ann Ash");
+    EXPECT_EQ(run.program.addresses.CurrentAddressRecord, 2049);
+}
+
+TEST(AddressKeys, TheUpArrowLeadsToTheNameToo) {
+    AddressRun run;
+    EXPECT_EQ(modAddress::NextField(run.Open(), 1, modAddress::FieldKey::Up), 0);
 }
 
 } // namespace
