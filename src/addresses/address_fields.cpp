@@ -93,15 +93,11 @@ void FillFields(Program& program, AddressWindow& window, const AddressFields& te
 
 void txt_Change(Program& program, AddressWindow& window, int field) {
     AddressRecords& book = program.addresses;
-    if (book.FillingFields) {
+    if (book.FillingFields || book.ReadingRecord) {
         return;
     }
     const auto at = static_cast<std::size_t>(field);
     const std::string& now = window.txt[at].Text;
-    if (book.ReadingRecord) {
-        book.UnchangedText[at] = now;
-        return;
-    }
     book.AddressFieldChanged[at] = !SameText(now, book.UnchangedText[at]);
     if (!book.CompanyInfoMode && book.AddressFieldChanged[at] && book.AddressRecordNew) {
         // What was typed where no record stands must not be without a way to keep it.

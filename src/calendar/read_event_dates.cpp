@@ -150,7 +150,6 @@ std::vector<EventRow> Listed(const Gathered& found, View view, float today, Writ
 }
 
 void TakeUndated(CalendarRecords& calendar, const Gathered& found) {
-    calendar.UndatedNames.clear();
     for (std::size_t at = 0; at < found.Files.size(); ++at) {
         if (!found.Dated[at]) {
             calendar.UndatedNames.push_back(found.Files[at]);
@@ -160,9 +159,7 @@ void TakeUndated(CalendarRecords& calendar, const Gathered& found) {
     std::sort(
         calendar.UndatedNames.begin(), calendar.UndatedNames.end(),
         [](const std::string& one, const std::string& other) { return text::CompareNoCase(one, other) < 0; });
-    if (calendar.UndatedNames.size() > kNamesTold) {
-        calendar.UndatedNames.resize(kNamesTold);
-    }
+    calendar.UndatedNames.resize(std::min(calendar.UndatedNames.size(), kNamesTold));
 }
 
 void Take(Program& program, Gathered&& found) {

@@ -66,7 +66,6 @@ void DropText(Program& program, const FieldRef& field, std::string_view dragged)
     }
     // Nobody types: a line that becomes too long goes red and stays.
     program.editing.CursorPos = static_cast<int>(value.size());
-    program.editing.LastKeyChar.clear();
     modFields::SetText(program, field, value);
     if (geometry::IsDescription(field.Page, field.Index)) {
         PlaceAmount(program, field, term.Amount);

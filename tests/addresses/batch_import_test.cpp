@@ -492,6 +492,17 @@ TEST(BatchImport, NamesTheKindsOfListsAndBeginsWithASampleOfTheFirst) {
     EXPECT_EQ(window.FocusWanted, std::nullopt) << "the fields take no text while the list is chosen";
 }
 
+TEST(BatchImport, TheSampleIsMadeAnewFromTheCategoriesOnShow) {
+    ImportRun run("x");
+    frmAddress& window = run.Choose(kCommas);
+    for (std::size_t category = 2; category < window.lblFormat.size(); ++category) {
+        window.lblFormat[category].BackColor = colors::kResting;
+    }
+    window.cmdRefresh_Click(run.program);
+    EXPECT_EQ(window.txtSample.Text, "Name,Address 1\r\nName,Address 1");
+    EXPECT_EQ(run.program.addresses.Batch.BatchSelectedLast, 1);
+}
+
 TEST(BatchImport, AListOfNamesAloneHasItsSampleToo) {
     ImportRun run("Ann Ash");
     frmAddress& window = run.Choose(kCommas);

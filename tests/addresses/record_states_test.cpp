@@ -243,4 +243,51 @@ TEST(AddressKeys, TheUpArrowLeadsToTheNameToo) {
     EXPECT_EQ(modAddress::NextField(run.Open(), 1, modAddress::FieldKey::Up), 0);
 }
 
+TEST(UnsavedRecord, OfARunThatIsEndedIsKeptLineByLine) {
+    AddressRun run;
+    run.Open();
+    run.Type(0, "Ann Ash");
+    run.Type(10, "tulips");
+    run.Window().KeepUnsaved(run.program);
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Unsaved Address.txt"),
+              "Name (First Name First): Ann Ash\r\nAddress 1: \r\nAddress 2: \r\nCity, State Zip: \r\nHome "
+              "Phone: \r\nWork Phone: \r\nCell Phone: \r\nEvent Date: \r\nOther Contact: \r\nEmail: "
+              "\r\nNotes: tulips\r\n");
+}
+
+TEST(NameList, LettersLeadBackToTheTopRow) {
+    AddressRun run;
+    frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash", "Ben Birch"}));
+    window.lstNames_Click(run.program, 1);
+    window.lstNames_Typed(run.program, "a");
+    EXPECT_EQ(run.Text(0), "Ann Ash");
+}
+
+TEST(TypedText, TakesTheCursorAlongAndLeavesNothingSelected) {
+    AddressRun run;
+    frmAddress& window = run.Open();
+    AddressField& field = window.txt[1];
+    run.Type(1, "1 Elm St");
+    EXPECT_EQ(field.SelStart, 8);
+    field.SelLength = 3;
+    window.txt_Change(run.program, 1, "12 Elm St", 2);
+    EXPECT_EQ(field.SelStart, 2);
+    EXPECT_EQ(field.SelLength, 0);
+    window.txt_Change(run.program, 1, "12", 9);
+    EXPECT_EQ(field.SelStart, 2) << "no further than the text goes";
+}
+
+TEST(DoubleClick, PutsTheCursorBehindWhatItMadeAndLeavesAFieldThatTakesNoText) {
+    AddressRun run;
+    frmAddress& window = run.Open();
+    run.Type(4, "1234567890");
+    window.txt_DblClick(run.program, 4);
+    EXPECT_EQ(run.Text(4), "(123) 456-7890");
+    EXPECT_EQ(window.txt[4].SelStart, 14);
+    run.Type(5, "5550100");
+    window.txt[5].Enabled = false;
+    window.txt_DblClick(run.program, 5);
+    EXPECT_EQ(run.Text(5), "5550100");
+}
+
 } // namespace

@@ -114,6 +114,7 @@ TEST(UnreadableList, IsNeverWrittenAndIsThereAgainWhenItIsOpenedAgain) {
         modTerms::OpenList(run.program, "Default Terms.fut");
     }
     EXPECT_EQ(run.program.terms.TermCount(), 0);
+    EXPECT_EQ(run.program.terms.Bytes, "");
     const auto expect = [&] {
         run.surroundings.questions.ExpectBox({std::string(kLeftAsItIs), Buttons::Ok, ""}, Answer::Ok);
     };
@@ -140,6 +141,16 @@ TEST(UnreadableList, OfTheListOfListsIsNotDeleted) {
     run.surroundings.questions.ExpectBox({std::string(kLeftAsItIs), Buttons::Ok, ""}, Answer::Ok);
     EXPECT_FALSE(modTerms::DeleteList(run.program, "Default Terms.fut"));
     EXPECT_TRUE(run.folder.Has("Proposals/Default Terms.fut"));
+}
+
+TEST(ChangedList, OfWhichARemovalWouldLeaveNothingStays) {
+    TermsRun run(kBefore);
+    run.folder.Write("Proposals/Default Terms.fut", "Table");
+    run.surroundings.questions.Expect("changed by another program", Answer::No);
+    run.surroundings.questions.ExpectBox({"There are no Frequently Used Terms to save.", Buttons::Ok, ""},
+                                         Answer::Ok);
+    EXPECT_FALSE(modTerms::RemoveTerm(run.program, {"Table"}));
+    EXPECT_EQ(run.OnDisk(), "Table");
 }
 
 TEST(ChangedList, ThatCannotBeReadAgainIsLeftAsTheOtherProgramWroteIt) {
@@ -183,6 +194,7 @@ TEST(ChosenTerm, IsNoneWhenAnotherListComesIntoUse) {
     run.program.run.FUTFileName = "Wedding Terms.fut";
     modTerms::ListInUseChanged(run.program);
     EXPECT_EQ(run.List().lstFUT.ListIndex, -1) << "a line of the other list is not about to be removed";
+    EXPECT_EQ(run.List().Caption, "Wedding Terms");
 }
 
 } // namespace
