@@ -61,7 +61,6 @@ struct Gathered {
 
 bool Gather(const Program& program, Breather& breather, int rebuild, Gathered& found) {
     DayReader reader;
-    bool whole = true;
     const std::string folder = modFolders::DataFolder(program);
     if (!files::IsFolder(folder)) {
         return breather.GoOn(rebuild); // no folder, no proposal
@@ -77,11 +76,8 @@ bool Gather(const Program& program, Breather& breather, int rebuild, Gathered& f
         return true;
     };
     // Many other files may lie between the proposals.
-    files::ScanHeads(folder, kProposals, kDateBytes, take, [&] {
-        whole = breather.GoOn(rebuild);
-        return whole;
-    });
-    return whole && breather.GoOn(rebuild);
+    files::ScanHeads(folder, kProposals, kDateBytes, take, [&] { return breather.GoOn(rebuild); });
+    return breather.GoOn(rebuild);
 }
 
 /// How a day is written. Events of the same day are many; each day is written out once.
