@@ -79,13 +79,10 @@ void ShowNothing(Program& program, AddressWindow& window) {
 /// Somebody else has written the record meanwhile: what stands in the fields stays, as a new record.
 void KeepAsNew(Program& program, AddressWindow& window) {
     Tell(program, "This record was changed by another program.");
-    const auto changed = program.addresses.AddressFieldChanged;
     ReadAddressList(program, window);
     AddressRecords& book = program.addresses;
     ForgetRecord(program);
-    book.AddressFieldChanged = changed;
     book.AddressRecordNew = true;
-    CheckAddressField(program, window);
     window[Id::mnuFileDelete].Enabled = false;
     ShowNewTitle(program, window);
     book.AddressSaveCancelled = true;
@@ -115,7 +112,6 @@ Written WriteRecord(Program& program, const std::string& record) {
     AddressRecords& book = program.addresses;
     if (book.AddressRecordNew || book.AddressNameChanged || book.RecordAsRead.empty()) {
         book.CurrentAddressRecord = AddRecord(program, record);
-        book.AddressRecordCount = book.CurrentAddressRecord;
         return Written::Yes;
     }
     const std::optional<std::int32_t> number =
@@ -166,14 +162,9 @@ void RefillAfterDelete(Program& program, AddressWindow& window) {
     ReadAddressList(program, window);
     // An emptied book counts one record until the list is made the next time.
     book.AddressRecordCount = count;
-    FillFields(program, window, {});
     ForgetChanges(program, window);
     const int last = static_cast<int>(window.lstNames.Rows.size()) - 1;
-    if (last > lastRow && lastRow >= 0) {
-        SelectRow(program, window, lastRow);
-    } else if (lastRow > 0 && lastRow - 1 <= last) {
-        SelectRow(program, window, lastRow - 1);
-    }
+    SelectRow(program, window, last > lastRow ? lastRow : lastRow - 1);
     ShowAddressRecord(program, window);
     MarkCurrentRow(program, window);
 }
@@ -201,7 +192,7 @@ void ReadAddressList(Program& program, AddressWindow& window) {
     list.ListIndex = -1;
     book.NamesInFile.clear();
     book.AddressRecordCount = 0;
-    book.AddressRecordNew = false;
+    book.LastListIndex = -1;
     ClearSearch(program, window);
     Guarded(program, "ReadAddressList", [&] {
         book.NamesInFile = ReadNames(program);
@@ -222,9 +213,7 @@ void SelectRow(Program& program, AddressWindow& window, int row) {
 
 void MarkCurrentRow(Program& program, AddressWindow& window) {
     window.lstNames.ListIndex = RowOfRecord(window.lstNames.Rows, program.addresses.CurrentAddressRecord);
-    if (window.lstNames.ListIndex >= 0) {
-        program.addresses.LastListIndex = window.lstNames.ListIndex;
-    }
+    program.addresses.LastListIndex = window.lstNames.ListIndex;
 }
 
 void ActivateCurrentRecord(Program& program, AddressWindow& window) {
@@ -238,9 +227,7 @@ void ActivateCurrentRecord(Program& program, AddressWindow& window) {
     const auto row = static_cast<std::size_t>(list.ListIndex);
     const std::int32_t chosen = list.Rows[row].Record;
     if (MayReplaceFields(program, window) == Outcome::Stopped) {
-        // A save that found the record changed has made the list anew: then there is no row to go back to.
-        const bool stands = book.LastListIndex < static_cast<int>(list.Rows.size()) && !book.AddressRecordNew;
-        const int back = stands ? book.LastListIndex : -1;
+        const int back = book.AddressRecordNew ? -1 : book.LastListIndex; // a new record has no row
         if (list.ListIndex != back) {
             list.ListIndex = back;
             book.RestoringRow = true;
@@ -262,7 +249,6 @@ void ActivateCurrentRecord(Program& program, AddressWindow& window) {
     }
     book.CurrentAddressRecord = number;
     ShowAddressRecord(program, window);
-    book.AddressRecordNew = false;
 }
 
 void ShowAddressRecord(Program& program, AddressWindow& window) {

@@ -52,14 +52,12 @@ void ColourField(AddressField& field, std::string_view tip, bool changed) {
 
 } // namespace
 
-void SetUpFields(const Program& program, AddressWindow& window) {
+void SetUpFields(AddressWindow& window) {
     for (int index = 0; index < kAddressFieldCount; ++index) {
         AddressField& field = window.txt[static_cast<std::size_t>(index)];
         field.Tag = std::to_string(PlaceOf(index).Width);
-        field.ToolTipText = ConversionTip(index);
     }
     window.lblInfo[AddressWindow::kHeading].Caption = "Click to Open Record";
-    SetCaptions(program, window);
 }
 
 void SetCaptions(const Program& program, AddressWindow& window) {
@@ -95,15 +93,11 @@ void FillFields(Program& program, AddressWindow& window, const AddressFields& te
 
 void txt_Change(Program& program, AddressWindow& window, int field) {
     AddressRecords& book = program.addresses;
-    if (book.FillingFields) {
+    if (book.FillingFields || book.ReadingRecord) {
         return;
     }
     const auto at = static_cast<std::size_t>(field);
     const std::string& now = window.txt[at].Text;
-    if (book.ReadingRecord) {
-        book.UnchangedText[at] = now;
-        return;
-    }
     book.AddressFieldChanged[at] = !SameText(now, book.UnchangedText[at]);
     if (!book.CompanyInfoMode && book.AddressFieldChanged[at] && book.AddressRecordNew) {
         // What was typed where no record stands must not be without a way to keep it.

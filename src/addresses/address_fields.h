@@ -13,8 +13,9 @@ struct Program;
 /// The eleven fields: what typing marks, colours and tips.
 namespace modAddress {
 
-/// Limits into the tags, captions of the current book, no focus yet.
-void SetUpFields(const Program& program, AddressWindow& window);
+/// Limits into the tags, and the heading of the list.
+void SetUpFields(AddressWindow& window);
+/// Captions of the current book.
 void SetCaptions(const Program& program, AddressWindow& window);
 
 /// The fields' texts as they stand.

@@ -93,7 +93,6 @@ Merged Merge(Program& program, const AddressWindow& window, const std::vector<Ar
     if (PagesBusy(program)) {
         return Merged::No;
     }
-    modBlocks::FinishMove(program);
     modBlocks::DeSelectAllControls(program);
     if (AskToReplace(program, values) == Consent::Refused) {
         return Merged::No;
@@ -170,7 +169,6 @@ void CopyRecord(const Program& program, const AddressWindow& window, CopyWhat wh
         lines += index == 0 ? "" : text::kCrLf;
         lines += window.txt[index].Text;
     }
-    program.platform.clipboard.Clear();
     program.platform.clipboard.SetText(lines);
 }
 

@@ -39,12 +39,11 @@ std::string_view CaptionOf(AddressBook book, int field) {
 }
 
 AddressFields FieldsOf(std::string_view record) {
+    const std::string whole = ToWidth(record, kRecordLength);
     AddressFields fields;
     for (std::size_t index = 0; index < fields.size(); ++index) {
         const FieldPlace& place = kFields[index];
-        if (place.Offset < record.size()) {
-            fields[index] = text::Trim(record.substr(place.Offset, place.Width));
-        }
+        fields[index] = text::Trim(std::string_view(whole).substr(place.Offset, place.Width));
     }
     return fields;
 }

@@ -26,7 +26,7 @@ struct FieldPlace {
 [[nodiscard]] const FieldPlace& PlaceOf(int field);
 [[nodiscard]] std::string_view CaptionOf(AddressBook book, int field);
 
-/// The fields of a record of 520 bytes, without the blanks around them.
+/// The fields of a record, without the blanks around them; all empty where there is none.
 [[nodiscard]] AddressFields FieldsOf(std::string_view record);
 /// The name as it stands in the record, padding included.
 [[nodiscard]] std::string_view NameIn(std::string_view record);

@@ -78,7 +78,7 @@ std::vector<AddressRow> FillNameList(AddressBook book, std::string_view names) {
     // Sorting moves small keys, and mostly the first letters decide.
     std::vector<SortKey> keys;
     keys.reserve(count);
-    for (std::size_t index = 0; index < count; ++index) {
+    for (std::size_t index = 0; index < inFile.size(); ++index) {
         keys.push_back({Leading(text::Upper(std::string_view(inFile[index].Text).substr(0, 8))),
                         static_cast<std::uint32_t>(index)});
     }

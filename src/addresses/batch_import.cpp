@@ -231,8 +231,6 @@ Parsed ParseBatchData(Program& program) {
         return Parsed::No;
     }
     TakeRecords(batch, batch_text::FindRecords(batch.List, 0, Between(batch)));
-    // These layouts have no record that cannot be read; the look for one is kept.
-    batch.BadRecords.clear();
     return Parsed::Yes;
 }
 
@@ -413,9 +411,7 @@ void BeginBatch(Program& program, AddressWindow& window) {
     window.picImport = false;
     window.picBatchProcess = true;
     BatchRecords& batch = Batch(program);
-    batch.BatchPosition = 0;
     batch.BatchRunning = true;
-    batch.BatchStopped = false;
     window.lstNames.Enabled = false;
     window.lblBatch.Caption = "Reading the copied list";
     const Parsed parsed =
@@ -435,14 +431,12 @@ void CancelImport(Program& program, AddressWindow& window) {
 }
 
 void SaveBatchRecord(Program& program, AddressWindow& window) {
-    program.addresses.AddressRecordNew = true;
     if (SaveAddressRecord(program, window) == Outcome::Done) {
         GoOn(program, window);
     }
 }
 
 void SkipBatchRecord(Program& program, AddressWindow& window) {
-    ForgetChanges(program, window);
     GoOn(program, window);
 }
 

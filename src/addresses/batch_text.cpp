@@ -51,7 +51,7 @@ public:
 
 private:
     void LineEnd(std::size_t at) {
-        const bool run = at == next_ && at > 0 && ends_ > 0;
+        const bool run = at == next_ && ends_ > 0;
         ends_ = run ? ends_ + 1 : 1;
         const std::size_t behind = at + LineEndLength(list_, at);
         next_ = behind;

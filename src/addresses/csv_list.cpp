@@ -94,12 +94,10 @@ std::string CityLine(const std::string& city, const std::string& state, const st
 }
 
 std::string PersonName(const Columns& columns, const Row& row) {
-    const bool first = columns.CsvColumnPresent[FirstName];
-    const bool last = columns.CsvColumnPresent[LastName];
-    if (first && last) {
+    if (columns.CsvColumnPresent[FirstName] || columns.CsvColumnPresent[LastName]) {
         return std::string(text::Trim(row[FirstName] + " " + row[LastName]));
     }
-    return first ? row[FirstName] : last ? row[LastName] : row[Name];
+    return row[Name];
 }
 
 } // namespace

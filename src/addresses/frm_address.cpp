@@ -35,12 +35,9 @@ void OpenOther(Program& program, AddressWindow& window, AddressBook book) {
 } // namespace
 
 void frmAddress::Form_Load(Program& program) {
-    const bool company = program.addresses.CompanyInfoMode;
-    program.addresses = {};
-    program.addresses.CompanyInfoMode = company;
     Caption = "Address Book";
-    modAddress::SetUpFields(program, *this);
-    if (company) {
+    modAddress::SetUpFields(*this);
+    if (program.addresses.CompanyInfoMode) {
         modAddress::LoadCompanyInfo(program, *this);
     }
 }
@@ -50,9 +47,6 @@ void frmAddress::Form_Unload(Program& program) {
 }
 
 void frmAddress::Form_Cancel(Program& program) {
-    if (picImport) {
-        cmdCancel_Click(program);
-    }
     if (MayLeave(program, Leaving::Run) && !Closing) {
         modWindows::Close(program, *this);
     }

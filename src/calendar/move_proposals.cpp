@@ -47,8 +47,9 @@ public:
         constexpr std::size_t kTold = 10;
         if (++count_ <= kTold) {
             words_ += std::string(text::kCrLf) + std::string(name) + " - " + error.what();
+        } else {
+            ++rest_;
         }
-        rest_ = count_ > kTold ? count_ - kTold : 0;
     }
     /// One report for all of them.
     void Tell(const Program& program, std::string_view procedure) const {

@@ -61,7 +61,6 @@ struct Gathered {
 
 bool Gather(const Program& program, Breather& breather, int rebuild, Gathered& found) {
     DayReader reader;
-    bool whole = true;
     const std::string folder = modFolders::DataFolder(program);
     if (!files::IsFolder(folder)) {
         return breather.GoOn(rebuild); // no folder, no proposal
@@ -77,11 +76,8 @@ bool Gather(const Program& program, Breather& breather, int rebuild, Gathered& f
         return true;
     };
     // Many other files may lie between the proposals.
-    files::ScanHeads(folder, kProposals, kDateBytes, take, [&] {
-        whole = breather.GoOn(rebuild);
-        return whole;
-    });
-    return whole && breather.GoOn(rebuild);
+    files::ScanHeads(folder, kProposals, kDateBytes, take, [&] { return breather.GoOn(rebuild); });
+    return breather.GoOn(rebuild);
 }
 
 /// How a day is written. Events of the same day are many; each day is written out once.
@@ -150,7 +146,6 @@ std::vector<EventRow> Listed(const Gathered& found, View view, float today, Writ
 }
 
 void TakeUndated(CalendarRecords& calendar, const Gathered& found) {
-    calendar.UndatedNames.clear();
     for (std::size_t at = 0; at < found.Files.size(); ++at) {
         if (!found.Dated[at]) {
             calendar.UndatedNames.push_back(found.Files[at]);
@@ -160,9 +155,7 @@ void TakeUndated(CalendarRecords& calendar, const Gathered& found) {
     std::sort(
         calendar.UndatedNames.begin(), calendar.UndatedNames.end(),
         [](const std::string& one, const std::string& other) { return text::CompareNoCase(one, other) < 0; });
-    if (calendar.UndatedNames.size() > kNamesTold) {
-        calendar.UndatedNames.resize(kNamesTold);
-    }
+    calendar.UndatedNames.resize(std::min(calendar.UndatedNames.size(), kNamesTold));
 }
 
 void Take(Program& program, Gathered&& found) {

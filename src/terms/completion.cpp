@@ -93,18 +93,9 @@ void Complete(Program& program, const FieldRef& field) {
         return;
     }
     EnsureRead(program);
-    word.MatchedAmount.clear();
     if (const std::optional<std::size_t> line = FindMatch(program.terms, word.TypedWord)) {
         Show(program, field, *line);
     }
-}
-
-void Accept(Program& program, const FieldRef& field) {
-    WordOf(program, field.Page).TypedWord.clear();
-    modText::SettleCompletion(program, field.Page);
-    TextArea& area = modFields::Area(program, field);
-    modFields::SetCursor(area, static_cast<int>(area.Text.size()));
-    program.editing.CursorPos = area.SelStart;
 }
 
 enum class Price { Left, Placed };
@@ -154,7 +145,7 @@ void CompleteWord(Program& program, const FieldRef& field, int keyCode, int shif
         return;
     }
     if (Active(program, field.Page) && (keyCode == keys::kInsert || keyCode == keys::kRight)) {
-        Accept(program, field);
+        modText::SettleCompletion(program, field.Page);
     }
     FollowWord(program, field, keyCode, typedUpTo);
     if (typedUpTo && area.SelLength == 0 && area.SelStart == static_cast<int>(area.Text.size())) {
@@ -170,11 +161,9 @@ bool CompletionKey(Program& program, const FieldRef& field, int keyCode, int shi
     if (!price) {
         return false;
     }
-    Accept(program, field);
-    WordState& word = WordOf(program, field.Page);
+    modText::SettleCompletion(program, field.Page);
     if (*price == Price::Placed) {
-        PlaceAmount(program, field, word.MatchedAmount);
-        word.MatchedAmount.clear();
+        PlaceAmount(program, field, WordOf(program, field.Page).MatchedAmount);
     }
     return keyCode != keys::kBlank; // the blank is typed all the same
 }

@@ -40,18 +40,15 @@ void TypeAndLeave(Program& program, const FieldRef& field, std::string_view figu
     modFields::SetText(program, field, figure);
     if (field.Kind != FieldKind::txt) {
         modColumns::SettleBox(program, field);
-        modTotals::CalculateMyTotals(program, field.Page);
-        modTotals::UpdateRunningTotals(program);
     } else if (IsDeposit(field)) {
         modTotals::RewriteDeposit(program);
-        modTotals::UpdateRunningTotals(program);
     } else {
         if (const auto number = numbers::ToDouble(figure, program.settings.CurrencySymbol)) {
             modFields::SetText(program, field, numbers::Format(*number, "###,##0.00"));
         }
         modTotals::CalculateMyTotals(program, field.Page);
-        modTotals::UpdateRunningTotals(program);
     }
+    modTotals::UpdateRunningTotals(program);
 }
 
 void DropText(Program& program, const FieldRef& field, std::string_view dragged) {
@@ -66,7 +63,6 @@ void DropText(Program& program, const FieldRef& field, std::string_view dragged)
     }
     // Nobody types: a line that becomes too long goes red and stays.
     program.editing.CursorPos = static_cast<int>(value.size());
-    program.editing.LastKeyChar.clear();
     modFields::SetText(program, field, value);
     if (geometry::IsDescription(field.Page, field.Index)) {
         PlaceAmount(program, field, term.Amount);

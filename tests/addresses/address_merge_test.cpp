@@ -205,6 +205,29 @@ TEST(Merge, WaitsForTheEndOfThePreview) {
     EXPECT_EQ(run.Client(2), "");
 }
 
+TEST(Merge, WaitsForTheEndOfAPrint) {
+    MergeRun run;
+    run.Show(kAnn);
+    run.program.printing.CommandRunning = true;
+    run.Run(Id::mnuOptMergeExit);
+    EXPECT_EQ(run.Client(2), "");
+    EXPECT_TRUE(run.IsOpen());
+}
+
+TEST(Merge, ColoursTheLinesAsIfTheyHadBeenTypedThere) {
+    MergeRun run;
+    run.surroundings.measure.Advance.fill(1000);
+    run.Show(AddressRun::Record({"Ann", "1"}));
+    run.Put(2, std::string(40, 'w'));
+    run.Area(PageId::frmP1, 2).BackColor = colors::kOverLimit;
+    run.Area(PageId::frmP1, 3).BackColor = colors::kOverLimit;
+    run.program.main.Focus = FieldRef{PageId::frmP1, FieldKind::txt, 3};
+    run.Questions().Expect("Replace what stands on page 1?", Answer::Yes);
+    run.Run(Id::mnuOptMerge);
+    EXPECT_EQ(run.Area(PageId::frmP1, 2).BackColor, colors::kResting);
+    EXPECT_EQ(run.Area(PageId::frmP1, 3).BackColor, colors::kFocused) << "the cursor stands in it";
+}
+
 TEST(FromProposal, FillsANewRecordThatTheSaveAdds) {
     MergeRun run;
     run.WriteBook(AddressRun::kPersonal, AddressRun::Book({"Zoe Young"}));
@@ -243,8 +266,10 @@ TEST(FromProposal, AsksOnceAboutWhatWasTypedAndACancelFillsNothing) {
     run.Put(2, "Jane Roe");
     run.Open();
     run.Type(0, "Ann Ash");
+    run.Window().Minimised = true;
     run.Questions().Expect("The current Record has been changed.", Answer::Cancel);
     modAddress::mnuOptCopyToBusinessAddressBook_Click(run.program);
+    EXPECT_FALSE(run.Window().Minimised) << "the window that is asked about comes to the front";
     EXPECT_EQ(run.Text(0), "Ann Ash");
     EXPECT_EQ(run.program.addresses.Book, AddressBook::Personal);
     run.Questions().Expect("The current Record has been changed.", Answer::No);
@@ -311,6 +336,7 @@ TEST(AddressPrint, PrintsALineAFieldInStepsOf300) {
     expect(23, "tulips", 2700, 4020);
     EXPECT_EQ(lines[24].Text, "roses");
     EXPECT_FLOAT_EQ(lines[24].X, 2700);
+    EXPECT_FLOAT_EQ(lines[24].Y, 4020 + 20 * lines[23].FontSize) << "a line of text below the first";
     EXPECT_EQ(run.surroundings.printers.Ended, 1);
 }
 

@@ -47,6 +47,71 @@ TEST(AddressSearch, ABlankAnswerCancels) {
     run.Questions().ExpectBox({"Search cancelled.", Buttons::Ok, ""}, Answer::Ok);
     run.Run(Id::mnuEditFind);
     EXPECT_FALSE(run.Window().IsAvailable(run.program, Id::mnuEditFindAgain));
+    EXPECT_EQ(run.Text(0), "") << "no record is gone to";
+}
+
+TEST(AddressSearch, ABlankAnswerEndsTheOneThatWasUnderWay) {
+    AddressRun run;
+    frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash", "Ben Ash"}));
+    run.Questions().ExpectInput("Search", "ash");
+    run.Run(Id::mnuEditFind);
+    ASSERT_TRUE(window.IsAvailable(run.program, Id::mnuEditFindAgain));
+    run.Questions().ExpectInput("Search", "");
+    run.Questions().Expect("Search cancelled.");
+    run.Run(Id::mnuEditFind);
+    EXPECT_FALSE(window.IsAvailable(run.program, Id::mnuEditFindAgain));
+}
+
+TEST(AddressSearch, SelectsOneTextAlsoWhereTwoRecordsShareAField) {
+    AddressRun run;
+    frmAddress& window = run.OpenWith(AddressRun::Record({"Zoe Young", "1 Elm St"}) +
+                                      AddressRun::Record({"Elmer Fir", "1 Elm St"}));
+    run.Questions().ExpectInput("Search", "elm");
+    run.Run(Id::mnuEditFind);
+    EXPECT_EQ(window.txt[1].SelLength, 3);
+    run.Run(Id::mnuEditFindAgain);
+    EXPECT_EQ(run.Text(0), "Elmer Fir");
+    EXPECT_EQ(window.txt[0].SelLength, 3);
+    EXPECT_EQ(window.txt[1].SelLength, 0);
+}
+
+TEST(AddressSearch, WhatItSelectedIsSelectedNoLongerInAnotherRecord) {
+    AddressRun run;
+    frmAddress& window =
+        run.OpenWith(AddressRun::Record({"Ann Ash", "1 Elm St"}) + AddressRun::Book({"Ben Birch"}));
+    run.Questions().ExpectInput("Search", "elm");
+    run.Run(Id::mnuEditFind);
+    EXPECT_EQ(window.txt[1].SelStart, 2);
+    window.lstNames_Click(run.program, 1);
+    EXPECT_EQ(run.Text(0), "Ben Birch");
+    EXPECT_EQ(window.txt[1].SelStart, 0);
+    EXPECT_EQ(window.txt[1].SelLength, 0);
+}
+
+TEST(AddressSearch, FindsTheLastLettersOfARecordAndTheFirstOfTheNext) {
+    AddressRun run;
+    const std::string notes = std::string(196, 'n') + "left";
+    run.OpenWith(AddressRun::Record({"Ann Ash", "", "", "", "", "", "", "", "", "", notes}) +
+                 AddressRun::Book({"ftr"}));
+    run.Questions().ExpectInput("Search", "nleft");
+    run.Run(Id::mnuEditFind);
+    EXPECT_EQ(run.Text(0), "Ann Ash");
+    // Two f stand across the join of the records, and two more begin one letter further on.
+    run.WriteBook(AddressRun::kPersonal, AddressRun::Record({"Ann Ash", "", "", "", "", "", "", "", "", "",
+                                                             std::string(199, 'n') + "f"}) +
+                                             AddressRun::Book({"ffion"}));
+    run.Questions().ExpectInput("Search", "ff");
+    run.Run(Id::mnuEditFind);
+    EXPECT_EQ(run.Text(0), "ffion");
+}
+
+TEST(AddressSearch, DoesNotLookBehindTheLastWholeRecord) {
+    AddressRun run;
+    run.OpenWith(AddressRun::Book({"Ann Ash"}) + "Ben Birch" + std::string(200, ' '));
+    run.Questions().ExpectInput("Search", "birch");
+    run.Questions().Expect("No more occurrances.");
+    run.Run(Id::mnuEditFind);
+    EXPECT_EQ(run.Text(0), "");
 }
 
 TEST(AddressSearch, ATextAcrossTwoFieldsIsAHitThatNoFieldSelects) {

@@ -465,6 +465,109 @@ TEST(BatchImport, HelpOpensThePageOfTheImport) {
     EXPECT_TRUE(run.surroundings.shell.Opened.front().ends_with("Help/batch_address_processing.htm"));
 }
 
+TEST(BatchImport, HelpPutsTheWindowsThatFloatAboveItAway) {
+    ImportRun run("x");
+    Window* terms = modWindows::Find(run.program, "frmFUT");
+    ASSERT_NE(terms, nullptr);
+    terms->Minimised = false;
+    run.Choose(kLines).cmdHelp_Click(run.program);
+    EXPECT_TRUE(terms->Minimised);
+}
+
+TEST(BatchImport, NamesTheKindsOfListsAndBeginsWithASampleOfTheFirst) {
+    ImportRun run("x");
+    frmAddress& window = run.Open();
+    ASSERT_NE(window.FocusWanted, std::nullopt);
+    run.Questions().ExpectBox(kIntoPersonal, Answer::Yes);
+    run.Run(Id::mnuToolsImportBatch);
+    EXPECT_EQ(window.optList[0].Caption, "Fields Separated by Carriage Returns");
+    EXPECT_EQ(window.optList[1].Caption, "Fields Separated by Commas");
+    EXPECT_EQ(window.optList[2].Caption, "Fields Separated by Tabs");
+    EXPECT_EQ(window.optListTip[0],
+              "Fields separated by Carriage Returns, Records separated by Double Carriage Returns.");
+    EXPECT_EQ(window.optListTip[1], "Fields separated by Commas, Records separated by Carriage Returns.");
+    EXPECT_EQ(window.optListTip[3], "");
+    EXPECT_TRUE(window.optList[0].Value);
+    EXPECT_TRUE(window.txtSample.Text.starts_with("Name\r\nAddress 1\r\n"));
+    EXPECT_EQ(window.FocusWanted, std::nullopt) << "the fields take no text while the list is chosen";
+}
+
+TEST(BatchImport, TheSampleIsMadeAnewFromTheCategoriesOnShow) {
+    ImportRun run("x");
+    frmAddress& window = run.Choose(kCommas);
+    for (std::size_t category = 2; category < window.lblFormat.size(); ++category) {
+        window.lblFormat[category].BackColor = colors::kResting;
+    }
+    window.cmdRefresh_Click(run.program);
+    EXPECT_EQ(window.txtSample.Text, "Name,Address 1\r\nName,Address 1");
+    EXPECT_EQ(run.program.addresses.Batch.BatchSelectedLast, 1);
+}
+
+TEST(BatchImport, AListOfNamesAloneHasItsSampleToo) {
+    ImportRun run("Ann Ash");
+    frmAddress& window = run.Choose(kCommas);
+    for (int category = 1; category < 9; ++category) {
+        window.lblFormat_Click(run.program, category);
+    }
+    EXPECT_EQ(window.txtSample.Text, "Name\r\nName");
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Text(0), "Ann Ash");
+}
+
+TEST(BatchImport, EachRecordIsANewOneWithTheCursorInItsName) {
+    ImportRun run("Ann Ash\nBen Birch");
+    frmAddress& window = run.Begin(kCommas);
+    EXPECT_FALSE(run.program.addresses.Batch.BatchStopped);
+    run.Type(1, "1 Elm St");
+    window.FocusWanted = 1;
+    run.Save();
+    EXPECT_EQ(run.Text(0), "Ben Birch");
+    EXPECT_EQ(run.Text(1), "");
+    EXPECT_TRUE(run.program.addresses.AddressRecordNew);
+    EXPECT_EQ(run.program.addresses.RecordAsRead, "") << "that of the record saved before is not this one's";
+    EXPECT_EQ(window.lstNames.ListIndex, -1);
+    EXPECT_EQ(window.FocusWanted, 0);
+}
+
+TEST(BatchImport, WhatWasTypedIntoASkippedRecordIsNotAskedAbout) {
+    ImportRun run("Ann Ash\nBen Birch");
+    run.Begin(kCommas);
+    run.Type(1, "typed");
+    run.Skip();
+    EXPECT_EQ(run.Text(0), "Ben Birch");
+    EXPECT_EQ(run.Text(1), "");
+    EXPECT_FALSE(run.program.addresses.AddressRecordChanged);
+    run.Type(1, "typed");
+    run.ExpectFinish();
+    run.Skip();
+    run.ExpectIdle();
+    EXPECT_EQ(run.ReadBook(), "");
+}
+
+TEST(HeadingImport, TwentyBadRecordsAreListedAndNoMore) {
+    std::string list = "Name\n";
+    for (int row = 0; row < 20; ++row) {
+        list += "\"\n";
+    }
+    ImportRun run(list);
+    run.Choose(kHeading);
+    run.Questions().Expect("18, 19, 20\r\nand will be excluded", Answer::No);
+    run.Window().cmdOK_Click(run.program);
+}
+
+TEST(HeadingImport, WhileABadRecordIsToldTheFieldsHoldNoneOfTheOneBefore) {
+    ImportRun run("Name\nAnn\nBe\"n\nCal");
+    run.Choose(kHeading);
+    run.Questions().Expect("cound not be parsed...\r\n2\r\n", Answer::Yes);
+    run.Window().cmdOK_Click(run.program);
+    ASSERT_EQ(run.Text(0), "Ann");
+    std::string shown = "nothing was told";
+    run.Questions().Allow("Bad Record skipped over.", [&] { shown = run.Text(0); });
+    run.Skip();
+    EXPECT_EQ(shown, "");
+    EXPECT_EQ(run.Text(0), "Cal");
+}
+
 TEST(BatchImport, EscapeEndsTheImportAndThenTheWindow) {
     ImportRun run("Ann Ash");
     frmAddress& window = run.Choose(0);

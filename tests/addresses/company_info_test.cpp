@@ -3,8 +3,11 @@
 #include "addresses/address_fields.h"
 
 #include "proposal/property_file.h"
+#include "support/failing_disk.h"
 
 #include <gtest/gtest.h>
+
+#include <cerrno>
 
 namespace {
 
@@ -27,6 +30,78 @@ TEST(CompanyInfo, ShowsTheEightLinesOfTheSettings) {
         EXPECT_TRUE(hidden == 11U || !window.txt[hidden].Visible) << hidden;
     }
     EXPECT_EQ(modAddress::NextField(window, 6, modAddress::FieldKey::Enter), 9);
+    for (const std::size_t shown : {0U, 1U, 2U, 3U, 4U, 5U, 6U, 9U}) {
+        EXPECT_TRUE(window.lblInfo[shown].Visible) << shown;
+        EXPECT_TRUE(window.txt[shown].Visible) << shown;
+    }
+    EXPECT_EQ(window.FocusWanted, 0);
+}
+
+TEST(CompanyInfo, ALineTypedAndTakenBackIsNoChange) {
+    CompanyRun run;
+    run.Type(0, "x");
+    EXPECT_TRUE(run.program.addresses.AddressRecordChanged);
+    run.Type(0, "Acme Events");
+    EXPECT_FALSE(run.program.addresses.AddressRecordChanged);
+    run.Window().Form_Cancel(run.program);
+    EXPECT_FALSE(run.IsOpen());
+}
+
+TEST(CompanyInfo, LinesThatCannotBeSavedStayTypedAndTheBusinessKeepsItsOwn) {
+    CompanyRun run;
+    run.Type(0, "Birch & Sons");
+    {
+        const FailingDisk disk{{FailingDisk::Call::Write, 1, ENOSPC, FailingDisk::kForever}};
+        run.Questions().Expect("");
+        run.Window().cmdSave_Click(run.program);
+    }
+    EXPECT_TRUE(run.IsOpen());
+    EXPECT_EQ(run.Text(0), "Birch & Sons");
+    EXPECT_TRUE(run.program.addresses.AddressRecordChanged);
+    EXPECT_EQ(run.program.settings.CompanyName, "Acme Events");
+    EXPECT_EQ(run.Caption(PageId::frmP1, 0), "Acme Events");
+}
+
+TEST(CompanyInfo, SavedAtTheEndOfTheProgramIsNotAskedAboutAgainWhenTheEndIsPutOff) {
+    CompanyRun run;
+    run.Type(0, "Birch & Sons");
+    run.Questions().Expect("The current Record has been changed.", Answer::Yes);
+    EXPECT_TRUE(run.Window().MayLeave(run.program, Leaving::Run));
+    EXPECT_EQ(run.program.settings.CompanyName, "Birch & Sons");
+    EXPECT_TRUE(run.Window().MayLeave(run.program, Leaving::Run));
+}
+
+TEST(CompanyInfo, HasNoCommandsButTheSave) {
+    CompanyRun run;
+    const frmAddress& window = run.Window();
+    using address_menu::Id;
+    for (const Id id : {Id::mnuFileNew, Id::mnuFileOpenBusiness, Id::mnuFilePrint, Id::mnuEdit,
+                        Id::mnuEditFind, Id::mnuOptions, Id::mnuOptCopyAll, Id::mnuToolsImportBatch}) {
+        EXPECT_FALSE(window.IsAvailable(run.program, id)) << static_cast<int>(id);
+    }
+    EXPECT_TRUE(window.IsAvailable(run.program, Id::mnuFile));
+    EXPECT_TRUE(window.IsAvailable(run.program, Id::mnuFileSave));
+}
+
+TEST(CompanyInfo, ClosedMakesRoomForTheAddressBook) {
+    CompanyRun run;
+    run.Window().cmdExit_Click(run.program);
+    modWindows::Sweep(run.program);
+    EXPECT_EQ(run.Open().Caption, " Personal Address Book/Beginning New Record: 0 Records Exist");
+    EXPECT_TRUE(run.Window().lstNames.Visible);
+}
+
+TEST(CompanyInfo, UnsavedLinesOfARunThatIsEndedAreKeptWithTheirCaptions) {
+    CompanyRun run;
+    run.Window().KeepUnsaved(run.program);
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Unsaved Address.txt")) << "nothing was typed";
+    run.Type(0, "Birch & Sons");
+    run.Type(9, "birch@example.com");
+    run.Window().KeepUnsaved(run.program);
+    const std::string kept = run.folder.Read("Proposals/Backup/Unsaved Address.txt");
+    EXPECT_TRUE(kept.starts_with("Company Name: Birch & Sons\r\nAddress 1: ")) << kept;
+    EXPECT_TRUE(kept.ends_with("Email: birch@example.com\r\n")) << kept;
+    EXPECT_EQ(kept.find("Notes"), std::string::npos) << "only what is on show";
 }
 
 TEST(CompanyInfo, SavingWritesTheSettingsAndThePages) {
@@ -171,6 +246,12 @@ TEST(CompanyInfo, AndTheAddressBookExcludeEachOther) {
     run.Questions().ExpectBox({refusal, Buttons::Ok, ""}, Answer::Ok);
     modAddress::mnuOptCopyToBusinessAddressBook_Click(run.program);
     EXPECT_TRUE(run.program.addresses.CompanyInfoMode);
+    EXPECT_EQ(run.Window().Caption, "Company Information");
+    EXPECT_EQ(run.Text(0), "Acme Events");
+    EXPECT_EQ(run.Window().FrontCalls, 0);
+    run.Window().Minimised = true;
+    modAddress::mnuEditCompInfo_Click(run.program);
+    EXPECT_FALSE(run.Window().Minimised) << "the window that is open comes to the front";
     AddressRun book;
     book.Open();
     book.Questions().ExpectBox(

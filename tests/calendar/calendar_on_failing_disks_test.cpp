@@ -153,6 +153,7 @@ TEST(CalendarOnFailingDisks, AReadOnlyShareKeepsEveryProposalAndIsToldOnce) {
 TEST(CalendarOnFailingDisks, AFolderThatBreaksOffIsToldAndHalfOfItIsNotShownAsTheWhole) {
     for (int nth = 1; nth <= 4; ++nth) {
         Dated run;
+        run.folder.Write("Proposals/Words.hef", "in spring" + std::string(60, ' '));
         frmDates& window = run.Open();
         ASSERT_EQ(window.lstDates.Items.size(), 3U);
         run.surroundings.questions.Expect("An error occurred in ReadEventDates.");
@@ -161,11 +162,37 @@ TEST(CalendarOnFailingDisks, AFolderThatBreaksOffIsToldAndHalfOfItIsNotShownAsTh
             window.Choose(run.program, "mnuViewEventDates");
         }
         EXPECT_TRUE(window.lstDates.Items.empty());
+        EXPECT_EQ(window.lblUndated.Caption, "");
+        EXPECT_EQ(window.lblUndated.ToolTipText, "");
+        const CalendarRecords& calendar = run.program.calendar;
+        EXPECT_TRUE(calendar.EventFiles.empty());
+        EXPECT_TRUE(calendar.EventDateText.empty());
+        EXPECT_TRUE(calendar.EventSerial.empty());
         EXPECT_FALSE(run.program.main.Busy);
         EXPECT_TRUE(window.Entry("mnuFilePrint").Enabled);
         window.Choose(run.program, "mnuViewEventDates");
         EXPECT_EQ(window.lstDates.Items.size(), 3U);
     }
+}
+
+TEST(CalendarOnFailingDisks, ThatListNothingHaveTheirEmptyWindowShownAfterTheMessage) {
+    Dated run;
+    run.surroundings.questions.Expect("An error occurred in ReadEventDates.");
+    {
+        const FailingDisk disk{{Call::ListFolder, 1, EIO}};
+        modCalendar::mnuViewEventDates_Click(run.program);
+    }
+    ASSERT_NE(modWindows::Find(run.program, "frmDates"), nullptr);
+    EXPECT_TRUE(run.Window().lstDates.Items.empty());
+}
+
+TEST(CalendarOnFailingDisks, WhatLiesInABackupThatCannotBeListedMayBeRestored) {
+    Dated run;
+    run.folder.MakeFolder("Proposals/Backup");
+    EXPECT_FALSE(modCalendar::CanRestore(run.program));
+    const FailingDisk disk{{Call::OpenFolder, 1, EACCES, FailingDisk::kForever},
+                           {Call::ListFolder, 1, EACCES, FailingDisk::kForever}};
+    EXPECT_TRUE(modCalendar::CanRestore(run.program)) << "the command tells what is wrong with it";
 }
 
 TEST(CalendarOnFailingDisks, AFolderThatIsGoneIsToldAndItsReturnIsSeen) {

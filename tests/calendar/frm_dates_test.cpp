@@ -141,7 +141,9 @@ TEST(Calendar, AtTheStartOnlyAnEmptyFolderIsToldOf) {
     EXPECT_FALSE(run.program.calendar.EventListNew);
     run.surroundings.questions.Done();
     run.Proposal("One.hef", "1/1/2008");
+    run.program.calendar.EventListExpired = true;
     modCalendar::ReadEventDatesAtStart(run.program);
+    EXPECT_FALSE(run.program.calendar.EventListExpired);
 }
 
 TEST(Calendar, OneSelectedRowOpensAnyNumberIsDeleted) {
@@ -533,6 +535,124 @@ TEST(Calendar, AProposalThatCannotBeReadLeavesTheNewOneWithoutAFile) {
     window.Choose(run.program, "mnuFileOpen");
     EXPECT_FALSE(run.program.document.FileExists);
     EXPECT_EQ(run.program.document.FilePath, run.folder / "Elsewhere/");
+}
+
+TEST(Calendar, AProposalOpenedInPlaceOfANewOneComesFromTheDataFolder) {
+    Dated run;
+    run.Proposal("Ann.hef", "1/21/2008");
+    frmDates& window = run.Open();
+    ASSERT_FALSE(run.program.document.FileExists);
+    run.program.document.FilePath = run.folder / "Elsewhere/";
+    run.program.main.Focus.reset();
+    run.Select(window, {0});
+    run.surroundings.questions.Expect("The file Ann.hef is cut short");
+    window.Choose(run.program, "mnuFileOpen");
+    EXPECT_EQ(run.program.document.FileName, "Ann.hef");
+    EXPECT_EQ(run.program.document.FilePath, run.folder / "Proposals/");
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 0}));
+}
+
+TEST(Calendar, TheRowWithTheKeyboardIsTheCurrentOne) {
+    Dated run;
+    run.Proposal("A.hef", "1/21/2008");
+    run.Proposal("B.hef", "1/22/2008");
+    frmDates& window = run.Open();
+    window.lstDates_Click(run.program, {0, 1}, 1);
+    EXPECT_EQ(window.lstDates.ListIndex, 1);
+    window.lstDates_Click(run.program, {0}, 0);
+    EXPECT_EQ(window.lstDates.ListIndex, 0);
+}
+
+TEST(Calendar, AViewCommandOfTheMainWindowTakesTheLastNoticeAway) {
+    Dated run;
+    run.Proposal("A.hef", "1/21/2008");
+    run.Proposal("B.hef", "1/22/2008");
+    frmDates& window = run.Open();
+    run.Select(window, {0});
+    window.Choose(run.program, "mnuOptDelete");
+    ASSERT_EQ(window.lblNotice.Caption, "1 proposal moved to Backup");
+    modCalendar::mnuViewEventDates_Click(run.program);
+    EXPECT_EQ(window.lblNotice.Caption, "");
+}
+
+TEST(Calendar, ARebuildThatIsEndedBeforeTheWindowStandsBringsNone) {
+    Dated run;
+    run.Proposal("A.hef", "1/21/2008");
+    run.surroundings.events.OnYield = [&] { modCalendar::EndRebuild(run.program); };
+    modCalendar::mnuViewEventDates_Click(run.program);
+    EXPECT_EQ(modWindows::Find(run.program, "frmDates"), nullptr);
+    run.surroundings.events.OnYield = [&] { run.program.run.ProgramClosing = true; };
+    modCalendar::mnuViewEventDates_Click(run.program);
+    EXPECT_EQ(modWindows::Find(run.program, "frmDates"), nullptr);
+}
+
+TEST(Calendar, ANameInOtherLettersIsTakenWhicheverFileOfBackupHasIt) {
+    Dated run;
+    const Dated::Items names{"A.hef", "B.hef", "C.hef"};
+    for (const std::string& name : names) {
+        run.Proposal(name, "1/21/2008");
+    }
+    for (const std::string name : {"a.HEF.old", "b.HEF.old", "c.HEF.old"}) {
+        run.folder.Write("Proposals/Backup/" + name, "older");
+    }
+    frmDates& window = run.Open();
+    run.Select(window, {0, 1, 2});
+    run.surroundings.questions.Expect("C.hef - File already exists");
+    window.Choose(run.program, "mnuOptDelete");
+    EXPECT_EQ(window.lblNotice.Caption, "0 proposals moved to Backup");
+    EXPECT_EQ(run.surroundings.questions.Shown.back().Text.find("more."), std::string::npos)
+        << "all three are named";
+    for (const std::string& name : names) {
+        EXPECT_TRUE(run.folder.Has("Proposals/" + name)) << name;
+    }
+}
+
+TEST(Calendar, OfTwoMovedAwayWhoseNamesDifferInCaseAloneOneComesBack) {
+    Dated run;
+    run.folder.Write("Proposals/Backup/Ann.hef.old", "1/21/2008" + std::string(60, ' '));
+    run.folder.Write("Proposals/Backup/ANN.hef.old", "1/22/2008" + std::string(60, ' '));
+    run.Proposal("Other.hef", "1/23/2008");
+    frmDates& window = run.Open();
+    run.surroundings.questions.Expect("File already exists");
+    window.Choose(run.program, "mnuOptUndoDelete");
+    EXPECT_EQ(window.lblNotice.Caption, "1 proposal restored");
+    EXPECT_NE(run.folder.Has("Proposals/Ann.hef"), run.folder.Has("Proposals/ANN.hef"));
+    EXPECT_NE(run.folder.Has("Proposals/Backup/Ann.hef.old"), run.folder.Has("Proposals/Backup/ANN.hef.old"));
+}
+
+TEST(Calendar, AProposalOfAnotherFolderKeepsItsFileWhenOneOfItsNameIsMoved) {
+    Dated run;
+    SaveJaneRoe(run);
+    run.program.document.FilePath = run.folder / "Elsewhere/";
+    frmDates& window = run.Open();
+    run.Select(window, {0});
+    run.surroundings.questions.Expect("No Events Found");
+    window.Choose(run.program, "mnuOptDelete");
+    EXPECT_TRUE(run.folder.Has("Proposals/Backup/Jane Roe.hef.old"));
+    EXPECT_TRUE(run.program.document.FileExists);
+    EXPECT_FALSE(run.program.document.SavedStateStale);
+}
+
+TEST(Calendar, AFolderWithoutAnyFileIsToldOf) {
+    Dated run;
+    fs::remove_all(run.folder / "Proposals");
+    fs::create_directory(run.folder / "Proposals");
+    run.surroundings.questions.ExpectBox({"No Events Found", Buttons::Ok, ""}, Answer::Ok);
+    frmDates& window = run.Open();
+    EXPECT_FALSE(modCalendar::CanRestore(run.program)) << "there is no backup folder";
+    EXPECT_FALSE(window.Entry("mnuOptUndoDelete").Enabled);
+}
+
+TEST(Calendar, EventsRunNowAndThenAndNotAtEveryFile) {
+    Dated run;
+    constexpr int kFiles = 200;
+    for (int number = 0; number < kFiles; ++number) {
+        run.Proposal("U" + std::to_string(number) + ".hef", "1/21/2008");
+    }
+    const int before = run.surroundings.events.Yields;
+    run.Open();
+    EXPECT_GE(run.surroundings.events.Yields, before + 1);
+    EXPECT_LT(run.surroundings.events.Yields, before + kFiles / 2);
 }
 
 TEST(Calendar, AnOpenedProposalComesWithItsLayoutAndItsFile) {

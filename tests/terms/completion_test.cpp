@@ -393,12 +393,50 @@ TEST(Completion, ArrivingAtAWordCompletesNothingAndAWordBegunElsewhereIsOver) {
     run.hand.Type("xx cha");
     run.program.run.ACEnabled = true;
     run.hand.Click(kPage, 1);
-    run.hand.Type("a ");
+    run.hand.Type("ab ");
     run.hand.Click(kPage, 0);
     run.hand.Type("i");
     EXPECT_EQ(run.Text(), "xx chai") << "a word begins at a typed blank or at the line's start";
     run.hand.Type(" cha");
     EXPECT_EQ(run.Text(), "xx chai chair covers");
+}
+
+TEST(Completion, AWordAtTheBeginningOfALineIsCompletedWhereverTheLastOneBegan) {
+    Typing run("Chair Covers");
+    run.hand.Type("ten tents");
+    run.hand.Click(kPage, 1);
+    run.hand.Type("cha");
+    EXPECT_EQ(run.Text(1), "chair covers");
+}
+
+TEST(Completion, IsTakenByInsertWhateverIsHeldWithIt) {
+    for (const int held : {0, keys::kCtrlState, keys::kAltState}) {
+        Typing run("Chair Covers[3.5]");
+        run.hand.Type("cha");
+        run.hand.Press(keys::kInsert, held);
+        run.ExpectTaken("chair covers");
+        EXPECT_EQ(run.Text(33), "") << held;
+    }
+}
+
+TEST(Completion, AKeyLetGoTwiceCompletesOnce) {
+    Typing run("Chair Covers");
+    run.hand.Type("cha");
+    run.hand.Press(keys::kDelete);
+    ASSERT_EQ(run.Text(), "cha");
+    person::KeyUp(run.program, 'A', 0, 3, 0);
+    EXPECT_EQ(run.Text(), "cha");
+}
+
+TEST(Completion, WhereNoneStandsItsKeysAreTheLinesOwn) {
+    Typing run("Chair Covers[3.5]");
+    const FieldRef field{kPage, FieldKind::txt, 0};
+    run.hand.Type("xyz");
+    EXPECT_FALSE(modTerms::CompletionKey(run.program, field, keys::kEnter, 0));
+    run.program.editing.ACActive[kPage] = true;
+    run.program.run.ACEnabled = false;
+    EXPECT_FALSE(modTerms::CompletionKey(run.program, field, keys::kEnter, 0));
+    EXPECT_EQ(run.Text(33), "");
 }
 
 TEST(Completion, PastesDropsAndInputMethodsCompleteNothing) {

@@ -85,6 +85,7 @@ TEST(Drop, FieldsOfFiguresTakeNumbersAloneInPlaceOfWhatStands) {
     EXPECT_EQ(run.program.totals.SubTotal, 37.5F);
     EXPECT_EQ(run.program.main.Focus, Text(kPage, 33));
     EXPECT_EQ(run.Area(kPage, 33).SelStart, 5);
+    EXPECT_EQ(run.program.editing.CursorPos, 5);
 }
 
 TEST(Drop, QuantityAndUnitPriceTakeNumbersAndMakeTheProduct) {
@@ -101,6 +102,9 @@ TEST(Drop, QuantityAndUnitPriceTakeNumbersAndMakeTheProduct) {
     EXPECT_EQ(run.Of(quantity), "4");
     EXPECT_EQ(run.TextOf(kPage, 35), "10.00");
     EXPECT_EQ(run.program.totals.SubTotal, 10.0F);
+    EXPECT_EQ(run.program.totals.AmountTable[35][kPage], 10.0F);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace) << "nothing is left to be summed";
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "10.00");
     EXPECT_FALSE(run.Drop({kPage, FieldKind::txtQty, 3}, "4")) << "a hidden box is no place";
 }
 
@@ -111,6 +115,8 @@ TEST(Drop, TheDepositTakesANumberAndTheOtherFiguresOfItsPageNothing) {
     EXPECT_TRUE(run.Drop(Text(PageId::frmP6, 4), "250"));
     EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "250.00");
     EXPECT_EQ(run.program.totals.Deposit, 250.0F);
+    EXPECT_EQ(run.Main().cmdReCalc.BackColor, colors::kButtonFace);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 5), "832.50") << "1000 and 8.25 % of tax";
     EXPECT_FALSE(run.Drop(Text(PageId::frmP6, 4), "Table"));
     for (const int index : {0, 1, 2, 3, 5}) {
         EXPECT_FALSE(modTerms::TakesDrop(run.program, Text(PageId::frmP6, index), "5")) << index;
@@ -154,6 +160,25 @@ TEST(Drop, ALineThatBecomesTooLongGoesRedAndStays) {
     run.Drop(Text(kPage, 6), std::string(1U << 20U, 'x'));
     EXPECT_EQ(run.TextOf(kPage, 6).size(), 4096U);
     EXPECT_EQ(run.program.main.Notice, "The text was too long for one line; its end was not taken.");
+    run.program.main.Notice.clear();
+    run.Drop(Text(kPage, 8), std::string(4096, 'x'));
+    EXPECT_EQ(run.TextOf(kPage, 8).size(), 4096U);
+    EXPECT_EQ(run.program.main.Notice, "") << "all of it was taken";
+}
+
+TEST(Drop, DoesNotMoveTheLineOnWhereverTheCursorStoodLast) {
+    DropRun run;
+    Typist hand(run.program);
+    run.surroundings.measure.Advance.fill(10);
+    hand.Click(kPage, 6);
+    hand.Type(std::string(120, 'x'));
+    ASSERT_EQ(run.program.editing.CursorPos, 120);
+    run.surroundings.measure.Advance.fill(100);
+    // Typed, a blank at the end of a line that is too long would move its last word on.
+    const std::string line = std::string(60, 'a') + " " + std::string(59, 'b') + " ";
+    run.Drop(Text(kPage, 4), line);
+    EXPECT_EQ(run.TextOf(kPage, 4), line);
+    EXPECT_EQ(run.TextOf(kPage, 5), "");
 }
 
 TEST(Drop, EnterOnATermPutsItWhereTheCursorWasLast) {
@@ -171,6 +196,9 @@ TEST(Drop, EnterOnATermPutsItWhereTheCursorWasLast) {
     EXPECT_EQ(run.TextOf(kPage, 33), "");
     EXPECT_EQ(run.program.main.Notice, "This area does not take it.");
     EXPECT_FALSE(run.program.main.BringUp);
+    hand.Click(kPage, 8);
+    run.List().lstFUT_Enter(run.program);
+    EXPECT_EQ(run.program.main.Notice, "") << "this one does";
 }
 
 TEST(Drop, ADragCarriesTheChosenLine) {

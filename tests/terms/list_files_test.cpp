@@ -75,6 +75,7 @@ TEST(Lists, F6OpensTheNextOneAndWraps) {
     typist.Press(keys::kF6);
     EXPECT_EQ(run.List().Caption, "Wedding Terms");
     EXPECT_EQ(run.InMemory(), "Arch|");
+    EXPECT_EQ(run.program.main.Notice, "The frequent terms list is now \"Wedding Terms\".");
     typist.Press(keys::kF6);
     EXPECT_EQ(run.List().Caption, "Catering");
     run.List().Form_Cancel(run.program);
@@ -90,10 +91,71 @@ TEST(Lists, F6OpensTheNextOneAndWraps) {
     EXPECT_EQ(run.program.run.FUTFileName, "Wedding Terms.fut") << "not a key of the final page";
 }
 
+TEST(Lists, F6ChoosesNoTermAndShowsTheTerms) {
+    TermsRun run("Chair");
+    WriteLists(run);
+    run.folder.Write("Proposals/Wedding Terms.fut", "Arch\r\nVows");
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 3);
+    run.List().lstFUT_Select(run.program, 0);
+    run.List().mnuFileShowAll_Click(run.program);
+    typist.Press(keys::kF6);
+    EXPECT_EQ(run.InMemory(), "Arch|Vows|");
+    EXPECT_EQ(run.List().lstFUT.ListIndex, -1);
+    EXPECT_TRUE(run.List().lstFUT.Visible);
+    EXPECT_FALSE(run.List().lstMoreFUT.Visible);
+}
+
+TEST(Lists, F5BringsTheWindowUp) {
+    TermsRun run("Chair");
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 3);
+    run.List().Minimised = true;
+    const int before = run.List().FrontCalls;
+    typist.Press(keys::kF5);
+    EXPECT_FALSE(run.List().Minimised);
+    EXPECT_EQ(run.List().FrontCalls, before + 1);
+}
+
+TEST(Lists, AnOpenedOneGivesTheKeyboardToTheLineThatWasTypedInLast) {
+    TermsRun run("Chair");
+    WriteLists(run);
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 3);
+    run.List().mnuFileShowAll_Click(run.program);
+    run.List().lstMoreFUT_Move(0);
+    run.program.main.Focus.reset();
+    run.List().lstMoreFUT_Click(run.program);
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP2, FieldKind::txt, 3}));
+}
+
+TEST(Lists, OpenedAgainWhileNobodyNeedsThemAreReadAtTheNextChange) {
+    TermsRun run("Chair");
+    run.List().Form_Cancel(run.program);
+    run.program.run.ACEnabled = false;
+    modTerms::OpenList(run.program, "Default Terms.fut");
+    EXPECT_EQ(run.InMemory(), "");
+    EXPECT_TRUE(modTerms::AddTerm(run.program, "Table"));
+    EXPECT_EQ(run.OnDisk(), "Chair\r\nTable");
+}
+
+TEST(Lists, TwoWhoseNamesDifferInCaseAloneAreTwo) {
+    TermsRun run("Chair");
+    run.folder.Write("Proposals/Barn.fut", "Hay");
+    run.folder.Write("Proposals/BARN.fut", "Straw");
+    modTerms::OpenList(run.program, "Barn.fut");
+    EXPECT_EQ(run.InMemory(), "Hay|");
+    EXPECT_EQ(run.program.run.FUTFileName, "Barn.fut");
+    modTerms::OpenList(run.program, "BARN.fut");
+    EXPECT_EQ(run.InMemory(), "Straw|");
+    EXPECT_EQ(run.program.run.FUTFileName, "BARN.fut");
+}
+
 TEST(Lists, ANameInAnotherCaseIsTheOneOnDisk) {
     TermsRun run("Chair");
     WriteLists(run);
     modTerms::OpenList(run.program, "CATERING.fut");
+    EXPECT_EQ(run.program.terms.Path, modTerms::PathInUse(run.program));
     EXPECT_TRUE(modTerms::AddTerm(run.program, "Fish"));
     EXPECT_EQ(run.program.run.FUTFileName, "Catering.fut");
     EXPECT_EQ(run.OnDisk("Catering.fut"), "Soup\r\nBread\r\nFish");
@@ -253,6 +315,13 @@ TEST(TermsWindow, KeepsItsPlaceInTheSettings) {
               std::string::npos);
     run.surroundings.questions.Expect("Left=150:Top=1234.5:Width=3300:Height=4800");
     window.Form_DblClick(run.program);
+    window.Form_Cancel(run.program);
+    modWindows::Sweep(run.program);
+    person::Choose(run.program, CommandId::mnuOptFUT);
+    EXPECT_EQ(run.List().Left, 150);
+    EXPECT_EQ(run.List().Top, 1234.5F);
+    EXPECT_EQ(run.List().Width, 3300);
+    EXPECT_EQ(run.List().Height, 4800);
 }
 
 TEST(TermsWindow, SwitchesCompletionAndShowsTheOtherCaption) {
@@ -385,6 +454,42 @@ TEST(TermsWindow, ShowsAtOnceWhatAnAreaAddsAndTakesAway) {
     modTerms::mnuEditTextDeleteFUT_Click(run.program);
     EXPECT_EQ(run.InMemory(), "Chair|");
     EXPECT_EQ(run.List().lstFUT.ListIndex, 0) << "the row that was chosen has gone";
+}
+
+TEST(TermsWindow, AChosenRowThatIsGoneAfterAChangeGivesWayToTheLast) {
+    const std::string_view before = "Arch\r\nTable\r\nChair";
+    TermsRun removed(before);
+    removed.List().lstFUT_Select(removed.program, 2);
+    removed.List().cmdOpt_Click(removed.program, 3);
+    EXPECT_EQ(removed.InMemory(), "Arch|Table|");
+    EXPECT_EQ(removed.List().lstFUT.ListIndex, 1);
+    TermsRun cased(before);
+    cased.List().lstFUT_Select(cased.program, 2);
+    cased.folder.Write("Proposals/Default Terms.fut", "Theirs");
+    cased.surroundings.questions.Expect("Change all 3 terms", Answer::Yes);
+    cased.surroundings.questions.Expect("changed by another program", Answer::No);
+    cased.List().cmdCase_Click(cased.program, 2);
+    EXPECT_EQ(cased.InMemory(), "THEIRS|");
+    EXPECT_EQ(cased.List().lstFUT.ListIndex, 0);
+    TermsRun added(before);
+    Typist typist(added.program);
+    typist.Click(PageId::frmP2, 3);
+    typist.Type("bench");
+    typist.PutCursor(0, 5);
+    added.List().lstFUT_Select(added.program, 2);
+    added.folder.Write("Proposals/Default Terms.fut", "Theirs");
+    added.surroundings.questions.Expect("changed by another program", Answer::No);
+    modTerms::AddTermFromArea(added.program);
+    EXPECT_EQ(added.InMemory(), "Theirs|bench|");
+    EXPECT_EQ(added.List().lstFUT.ListIndex, 1);
+}
+
+TEST(TermsWindow, ARowBehindTheLastIsNone) {
+    TermsRun run("Arch\r\nTable");
+    run.List().lstFUT_Select(run.program, 1);
+    EXPECT_EQ(run.List().lstFUT.ListIndex, 1);
+    run.List().lstFUT_Select(run.program, 2);
+    EXPECT_EQ(run.List().lstFUT.ListIndex, -1);
 }
 
 TEST(NewList, TheTermsAreShownAgainOnlyWhenThereIsANewOne) {

@@ -1,3 +1,4 @@
+#include "support/answered_by.h"
 #include "support/failing_disk.h"
 #include "terms/frm_add_fut.h"
 #include "terms/frm_edit_fut.h"
@@ -12,6 +13,9 @@
 #include <cerrno>
 #include <filesystem>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 // The open list on a disk that fails, and beside another program that writes it too.
 
@@ -114,6 +118,7 @@ TEST(UnreadableList, IsNeverWrittenAndIsThereAgainWhenItIsOpenedAgain) {
         modTerms::OpenList(run.program, "Default Terms.fut");
     }
     EXPECT_EQ(run.program.terms.TermCount(), 0);
+    EXPECT_EQ(run.program.terms.Bytes, "");
     const auto expect = [&] {
         run.surroundings.questions.ExpectBox({std::string(kLeftAsItIs), Buttons::Ok, ""}, Answer::Ok);
     };
@@ -140,6 +145,50 @@ TEST(UnreadableList, OfTheListOfListsIsNotDeleted) {
     run.surroundings.questions.ExpectBox({std::string(kLeftAsItIs), Buttons::Ok, ""}, Answer::Ok);
     EXPECT_FALSE(modTerms::DeleteList(run.program, "Default Terms.fut"));
     EXPECT_TRUE(run.folder.Has("Proposals/Default Terms.fut"));
+}
+
+/// A person who agrees to every question, while a folder takes the place of the file that is asked about.
+class FolderMeanwhile : public Questions {
+public:
+    explicit FolderMeanwhile(std::string path) : path_(std::move(path)) {}
+    std::string InputBox(std::string_view, std::string_view, std::string_view) override { return {}; }
+    std::vector<std::string> Shown;
+
+protected:
+    Answer Ask(std::string_view text, Buttons buttons, std::string_view, const Manner&) override {
+        Shown.emplace_back(text);
+        std::filesystem::remove(path_);
+        std::filesystem::create_directory(path_);
+        return buttons == Buttons::YesNo ? Answer::Yes : Answer::Ok;
+    }
+
+private:
+    std::string path_;
+};
+
+TEST(DeletedList, ThatCannotBeDeletedIsNoneAndTheListInUseStays) {
+    TermsRun run(kBefore);
+    run.folder.Write("Proposals/Barn.fut", "Hay");
+    FolderMeanwhile questions(run.folder / "Proposals/Barn.fut");
+    Platform surroundings = AnsweredBy(questions, run.surroundings);
+    Program program{surroundings};
+    program.folders = run.program.folders;
+    program.run.FUTFileName = "Default Terms.fut";
+    EXPECT_FALSE(modTerms::DeleteList(program, "Barn.fut"));
+    ASSERT_EQ(questions.Shown.size(), 2U);
+    EXPECT_EQ(questions.Shown[0], "Delete the list Barn with 1 terms?");
+    EXPECT_NE(questions.Shown[1].find("mnuFileDelete"), std::string::npos);
+    EXPECT_EQ(program.run.FUTFileName, "Default Terms.fut");
+}
+
+TEST(ChangedList, OfWhichARemovalWouldLeaveNothingStays) {
+    TermsRun run(kBefore);
+    run.folder.Write("Proposals/Default Terms.fut", "Table");
+    run.surroundings.questions.Expect("changed by another program", Answer::No);
+    run.surroundings.questions.ExpectBox({"There are no Frequently Used Terms to save.", Buttons::Ok, ""},
+                                         Answer::Ok);
+    EXPECT_FALSE(modTerms::RemoveTerm(run.program, {"Table"}));
+    EXPECT_EQ(run.OnDisk(), "Table");
 }
 
 TEST(ChangedList, ThatCannotBeReadAgainIsLeftAsTheOtherProgramWroteIt) {
@@ -183,6 +232,7 @@ TEST(ChosenTerm, IsNoneWhenAnotherListComesIntoUse) {
     run.program.run.FUTFileName = "Wedding Terms.fut";
     modTerms::ListInUseChanged(run.program);
     EXPECT_EQ(run.List().lstFUT.ListIndex, -1) << "a line of the other list is not about to be removed";
+    EXPECT_EQ(run.List().Caption, "Wedding Terms");
 }
 
 } // namespace

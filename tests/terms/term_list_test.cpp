@@ -222,6 +222,43 @@ TEST(TermCases, RewriteEveryTermWhenThePersonAgrees) {
     EXPECT_EQ(run.InMemory(), "ARCH, WOOD [50]|ROUND TABLE|");
 }
 
+TEST(TermCases, OfAnEmptyListAreTold) {
+    TermsRun run("");
+    run.surroundings.questions.ExpectBox({"There are no Frequently Used Terms to save.", Buttons::Ok, ""},
+                                         Answer::Ok);
+    run.List().cmdCase_Click(run.program, 0);
+    EXPECT_EQ(run.OnDisk(), "");
+}
+
+TEST(AddTermWindow, ItsCloseBoxClosesIt) {
+    TermsRun run("Arch");
+    run.List().cmdOpt_Click(run.program, 1);
+    Window* window = modWindows::TopModal(run.program);
+    ASSERT_NE(window, nullptr);
+    window->Form_Cancel(run.program);
+    EXPECT_TRUE(window->Closing);
+}
+
+TEST(EditTermWindow, BeginsWithTheWholeTermSelectedAndClosesWithoutAChange) {
+    TermsRun run("Arch\r\nTable");
+    run.List().lstFUT_Select(run.program, 1);
+    for (const bool byButton : {false, true}) {
+        run.List().cmdOpt_Click(run.program, 2);
+        auto* window = dynamic_cast<frmEditFUT*>(modWindows::TopModal(run.program));
+        ASSERT_NE(window, nullptr);
+        EXPECT_EQ(window->txtEditFUT.SelLength, 5);
+        window->txtEditFUT.Text = "Tables";
+        if (byButton) {
+            window->cmdExit_Click(run.program);
+        } else {
+            window->Form_Cancel(run.program);
+        }
+        EXPECT_TRUE(window->Closing);
+        modWindows::Sweep(run.program);
+    }
+    EXPECT_EQ(run.OnDisk(), "Arch\r\nTable");
+}
+
 TEST(AddTermWindow, AddsSeveralAndKeepsWhatWasRefused) {
     TermsRun run("Arch");
     run.List().cmdOpt_Click(run.program, 1);
@@ -297,9 +334,29 @@ TEST(AreaTerms, RemovingComparesWithTheWholeLine) {
     run.typist.PutCursor(0, 4);
     run.Choose(CommandId::mnuEditTextDeleteFUT);
     EXPECT_EQ(run.OnDisk(), "Arch [50]\r\nTable\r\nChair");
+    EXPECT_EQ(run.program.main.Notice, "") << "nothing was written";
     run.typist.PutCursor(4, 7);
     run.Choose(CommandId::mnuEditTextDeleteFUT);
     EXPECT_EQ(run.OnDisk(), "Arch [50]\r\nChair");
+}
+
+TEST(AreaTerms, RemovingTakesTheLineOutOfTheListThatIsInUseNow) {
+    AreaRun run("Arch");
+    run.folder.Write("Proposals/Barn.fut", "Hay\r\nTable");
+    run.program.run.FUTFileName = "Barn.fut";
+    run.typist.Type("Table");
+    run.typist.PutCursor(0, 5);
+    run.Choose(CommandId::mnuEditTextDeleteFUT);
+    EXPECT_EQ(run.OnDisk("Barn.fut"), "Hay");
+    EXPECT_EQ(run.OnDisk(), "Arch");
+}
+
+TEST(AreaTerms, BlanksAreNoTermThatCouldBeRemoved) {
+    AreaRun run("Arch\r\n\r\nTable");
+    run.typist.Type("Arch  Table");
+    run.typist.PutCursor(4, 2);
+    run.Choose(CommandId::mnuEditTextDeleteFUT);
+    EXPECT_EQ(run.OnDisk(), "Arch\r\n\r\nTable");
 }
 
 TEST(AreaTerms, EditingASelectionThatIsNoLineChangesNothing) {

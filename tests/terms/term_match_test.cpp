@@ -51,6 +51,12 @@ TEST(TermMatch, TheFirstLineThatBeginsWithTheLettersWins) {
     EXPECT_EQ(FirstMatch(lines, BuildIndex(lines), "tables"), std::nullopt);
 }
 
+TEST(TermMatch, AWholeTermIsFoundToo) {
+    const Lines lines{"Archway", "Arch"};
+    EXPECT_EQ(FirstMatchByWalk(lines, "archway"), 0U);
+    EXPECT_EQ(FirstMatch(lines, BuildIndex(lines), "archway"), 0U);
+}
+
 TEST(TermMatch, PricesAndEmptyTermsMatchNothing) {
     const Lines lines{"[5]", "", "Arch [50]"};
     for (const std::string_view word : {"", "[5", "Arch [", "arch [50]"}) {
