@@ -64,7 +64,6 @@ void frmFile::Form_Load(Program& program) {
     lblHelp.Caption =
         "Double-Click on the Drive or Folder category to find the file you wish to " + std::string(what);
     lblPointOpen.Caption = document.DeleteMode ? "Delete" : "Open";
-    document.IgnoreProperties = false;
     filePathBefore_ = document.FilePath;
     Drive1.Items = {"/", paths::WithSeparator(program.folders.Drives.Home)};
     for (const std::string& place : program.folders.Drives.MountPlaces) {

@@ -213,10 +213,6 @@ ResetResult StartNewFile(Program& program) {
             program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
         }
         modTitles::UpdateFooters(program);
-        if (program.document.CompanyBlockPending) {
-            program.document.CompanyBlockPending = false;
-            modPages::SizeRemittanceBox(program);
-        }
         if (program.hooks.DeSelectAllControls) {
             program.hooks.DeSelectAllControls(program);
         }

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <set>
 
@@ -114,6 +115,36 @@ TEST(DrawPage, TakesTheFieldsInTheOrderOfTheirArraysAndTheLogoLast) {
     EXPECT_EQ(calls[10].X, 1440);
     EXPECT_EQ(calls[10].Y, 720);
     EXPECT_EQ(calls[10].Size, bare.program.pages[PageId::frmP1].pic.Size) << "as large as on the page";
+}
+
+/// The rule is 15 twips wide; its middle runs half of that within the picture.
+TEST(DrawPage, ALogoWithABorderHasItWithinItsFourSides) {
+    BarePages bare;
+    Page& page = bare.program.pages[PageId::frmP1];
+    page.txt.clear();
+    page.HasLogo = true;
+    page.pic.Picture = {PictureRef::Source::File, "logo.bmp"};
+    page.pic.Left = 1440;
+    page.pic.Top = 720;
+    page.pic.Size = {3000, 1500};
+    page.pic.BorderStyle = 1;
+    bare.Paper().ScaleLeft = 100;
+    bare.Paper().ScaleTop = 10;
+    const auto& calls = bare.Draw(PageId::frmP1);
+    ASSERT_EQ(calls.size(), 5U);
+    EXPECT_EQ(calls[0].Op, What::PaintPicture);
+    EXPECT_EQ(calls[0].X, 1540);
+    EXPECT_EQ(calls[0].Y, 730);
+    // Each by its ends, from the left and from above.
+    std::set<std::array<float, 4>> sides;
+    for (std::size_t side = 1; side < calls.size(); ++side) {
+        EXPECT_EQ(calls[side].Op, What::Line);
+        sides.insert({calls[side].X, calls[side].Y, calls[side].X2, calls[side].Y2});
+    }
+    EXPECT_EQ(sides, (std::set<std::array<float, 4>>{{1547.5F, 737.5F, 4532.5F, 737.5F},
+                                                     {4532.5F, 737.5F, 4532.5F, 2222.5F},
+                                                     {1547.5F, 2222.5F, 4532.5F, 2222.5F},
+                                                     {1547.5F, 737.5F, 1547.5F, 2222.5F}}));
 }
 
 TEST(DrawPage, GoesByTheTagAndNotByVisibility) {

@@ -247,6 +247,19 @@ TEST(TextExport, WithoutAClientTheNameIsAskedForAndNothingIsWritten) {
     EXPECT_FALSE(files::Exists(run.folder / "Proposals/.txt"));
 }
 
+TEST(TextExport, UnderANameThatNoFileCanHaveNothingIsWrittenAndTheNameIsAskedFor) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Tom / Lee");
+    person::TurnTo(run.program, 2);
+    run.surroundings.questions.Expect("Action Cancelled. File Name cannot include any of ");
+    modExport::mnuFileSaveAsText_Click(run.program);
+    EXPECT_EQ(run.program.main.PageInFront, PageId::frmP1);
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 2}));
+    EXPECT_FALSE(run.folder.Has("Error.log")) << "no write was tried";
+}
+
 TEST(TextExport, ATextThatIsThereIsReplacedOnlyAfterAYes) {
     JustNamed run;
     run.folder.Write("Proposals/Jane Roe.txt", "mine");
@@ -520,6 +533,16 @@ TEST(DocumentExport, WithoutAProgramForDocumentsTheMessageNamesThePath) {
                                       "SpellCheck.\r\n\r\nThe document was written to "
                                       "/home/user/Documents/Jane Roe.odt");
     modExport::mnuFileSaveToWord_Click(run.program);
+}
+
+TEST(DocumentExport, WhereNoDocumentCanBeMadeAtAllItIsSaid) {
+    JustNamed run;
+    run.surroundings.words.Installed = false;
+    run.surroundings.questions.ExpectBox(
+        {"Cannot find Microsoft Word which is necessary to perform SpellCheck.", Buttons::Ok, ""},
+        Answer::Ok);
+    modExport::mnuFileSaveToWord_Click(run.program);
+    EXPECT_TRUE(run.surroundings.words.Word.Verbs.empty());
 }
 
 TEST(DocumentExport, ADocumentThatCannotBeWrittenIsReported) {

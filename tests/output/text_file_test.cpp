@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
@@ -46,6 +47,20 @@ TEST(TextFile, ShowsInAWindowOfItsOwnAndLeavesTheProposalAlone) {
     EXPECT_EQ(run.surroundings.clipboard.Unicode, "one\ntwo");
     window->cmdCopy_Click(run.program, "two");
     EXPECT_EQ(run.surroundings.clipboard.Unicode, "two");
+}
+
+TEST(TextFile, ItsWindowClosesByItsButtonAndByEscape) {
+    RunningProgram run;
+    const auto open = [&]() -> frmTextFile& {
+        return dynamic_cast<frmTextFile&>(
+            modWindows::Show(run.program, std::make_unique<frmTextFile>("Notes.txt", "one")));
+    };
+    open().cmdClose_Click(run.program);
+    modWindows::Sweep(run.program);
+    EXPECT_EQ(modWindows::Find(run.program, "frmTextFile"), nullptr);
+    open().Form_Cancel(run.program);
+    modWindows::Sweep(run.program);
+    EXPECT_EQ(modWindows::Find(run.program, "frmTextFile"), nullptr);
 }
 
 TEST(TextFile, AFileThatIsGoneIsReported) {

@@ -1,10 +1,12 @@
 #include "base/colors.h"
 #include "base/seen.h"
+#include "program/keys.h"
 #include "program/windows.h"
 #include "proposal/backup.h"
 #include "proposal/file_names.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
+#include "proposal/property_file.h"
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
 #include "support/failing_disk.h"
@@ -308,6 +310,25 @@ private:
     std::string& nameThen_;
 };
 
+/// A window with work about the proposal that its person does not want to leave.
+class StayingWindow : public Window {
+public:
+    [[nodiscard]] std::string_view Name() const override { return "frmStaying"; }
+    [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }
+    [[nodiscard]] bool BelongsToProposal() const override { return true; }
+    [[nodiscard]] bool MayLeave(Program&, Leaving) override { return false; }
+};
+
+TEST(AskingToSave, IsNotEvenDoneWhileAWindowBesideTheProposalMustStay) {
+    Living run;
+    run.Touch();
+    modWindows::Show(run.program, std::make_unique<StayingWindow>());
+    EXPECT_FALSE(modProposal::MayGoOn(run.program));
+    EXPECT_TRUE(run.surroundings.questions.Shown.empty());
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "x");
+}
+
 TEST(Reset, WindowsAboutTheProposalCloseBeforeItsNameGoes) {
     Living run;
     std::string nameThen = "not closed";
@@ -461,6 +482,24 @@ TEST(FileNames, EightCharactersAreRefusedWithOneMessage) {
     EXPECT_FALSE(modNames::IllegalFileName(run.program, ""));
 }
 
+TEST(FileNames, OfTwoHundredAndThirtyBytesOnTheDiskAreTheLongest) {
+    const Living run;
+    EXPECT_TRUE(modNames::CanBeAFile(std::string(226, 'x') + ".hef"));
+    EXPECT_FALSE(modNames::CanBeAFile(std::string(227, 'x') + ".hef"));
+    // An e with an acute accent takes two there.
+    EXPECT_TRUE(modNames::CanBeAFile(std::string(113, '\xE9') + ".hef"));
+    EXPECT_FALSE(modNames::CanBeAFile(std::string(114, '\xE9') + ".hef"));
+}
+
+TEST(FileNames, AnEmptiedClientLeavesTheTextItsName) {
+    Living run;
+    run.TypeClient("J");
+    EXPECT_EQ(run.program.document.TextFileName, "J.txt");
+    Typist(run.program).Press(keys::kBackspace);
+    EXPECT_EQ(run.program.document.FileName, ".hef");
+    EXPECT_EQ(run.program.document.TextFileName, "J.txt");
+}
+
 TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesNothing) {
     Living run;
     run.folder.Write("Proposals/Jane Roe.hef", "older");
@@ -474,6 +513,19 @@ TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesNothing) {
     EXPECT_TRUE(box.Text.ends_with("\r\n\r\nwith this one?"));
     EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), "older");
     EXPECT_FALSE(run.program.document.Cancelled);
+}
+
+TEST(SaveAs, PropertiesThatCannotBeWrittenStayUnsaved) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    run.folder.MakeFolder("Proposals/Second.hpf");
+    run.surroundings.questions.ExpectInput("Saving File As...", "Second");
+    run.surroundings.questions.Expect("File was saved as Second.hef");
+    run.surroundings.questions.Expect("An error occurred in SavePropertyFile.");
+    modProposal::mnuFileSaveAs_Click(run.program);
+    EXPECT_TRUE(modFile::PropertiesChanged(run.program));
+    run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::Cancel);
+    EXPECT_FALSE(modProposal::MayGoOn(run.program)) << "they are asked about when the proposal is left";
 }
 
 TEST(Delete, AsksAndLeavesEverythingOnNo) {

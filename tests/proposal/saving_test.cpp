@@ -75,6 +75,17 @@ TEST(Saving, TheTotalsAreWrittenUnderTheirPatterns) {
     EXPECT_EQ(Slot(bytes, 20410 + 60, 20), "1,353.13            ");
 }
 
+TEST(Saving, SumsAnewWhereNobodyElseTakesTheFigures) {
+    RunningProgram run;
+    run.program.hooks.TakeFreshFigures = nullptr;
+    Put(run, PageId::frmP1, 20, "100");
+    run.program.totals.AmountTable[20][PageId::frmP1] = 100;
+    run.program.totals.TaxableTable[20][PageId::frmP1] = 100;
+    SaveAnn(run);
+    // 100 at 8.25 %.
+    EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 20410 + 60, 20), "108.25              ");
+}
+
 TEST(Saving, AnEmptyFolderMeansTheProposals) {
     RunningProgram run;
     run.program.document.FilePath.clear();
