@@ -181,21 +181,32 @@ TEST(DrawPage, PrintsAreasInTheDefaultColourAndLabelsInTheirOwn) {
     page.lbl[0].Caption = "label";
     page.lbl[0].ForeColor = 0x0000FF;
     page.lbl[0].FontBold = true;
+    page.lbl[0].FontName = "Courier New";
+    page.lbl[0].FontItalic = false;
     page.lbl[0].FontUnderline = true;
     page.txtQty = {BarePages::At(0, 0, "quantity")};
+    page.txtQty[0].FontBold = true;
+    page.txtAmt = {BarePages::At(0, 0, "price")};
+    page.lblEach.resize(1);
+    page.lblEach[0].FontItalic = true;
     const auto& calls = bare.Draw(PageId::frmP2);
-    ASSERT_EQ(calls.size(), 3U);
+    ASSERT_EQ(calls.size(), 5U);
     EXPECT_EQ(calls[0].ForeColor, 0x123456U);
     EXPECT_EQ(calls[0].Font, "Arial");
     EXPECT_EQ(calls[0].FontSize, 12);
     EXPECT_TRUE(calls[0].Italic);
     EXPECT_FALSE(calls[0].Bold);
     EXPECT_EQ(calls[1].ForeColor, 0x0000FFU);
+    EXPECT_EQ(calls[1].Font, "Courier New");
     EXPECT_EQ(calls[1].FontSize, 9.75F);
     EXPECT_TRUE(calls[1].Bold);
+    EXPECT_FALSE(calls[1].Italic) << "the area's italics end with the area";
     EXPECT_TRUE(calls[1].Underline);
     EXPECT_FALSE(calls[2].Underline) << "the label's underline ends with the label";
     EXPECT_EQ(calls[2].ForeColor, 0x123456U);
+    EXPECT_TRUE(calls[2].Bold);
+    EXPECT_FALSE(calls[3].Bold) << "nor is the price bold after its quantity";
+    EXPECT_TRUE(calls[4].Italic);
 }
 
 /// Each of twelve characters measures 100, so a right-aligned text begins 1200 left of its field's right
@@ -309,12 +320,17 @@ TEST(PrintTheForm, MakesOneDocumentOfAPageAndPutsThePrintersFontBack) {
     page.lbl.resize(1);
     page.lbl[0].Caption = "label";
     page.lbl[0].FontBold = page.lbl[0].FontItalic = page.lbl[0].FontUnderline = true;
+    page.lbl[0].FontName = "Arial";
+    bare.Paper().Font = "Courier New";
+    bare.Paper().FontSize = 7;
     modPrint::PrintTheForm(bare.program, PageId::frmP2);
     ASSERT_EQ(bare.Paper().Documents.size(), 1U);
     const auto& calls = bare.Paper().Documents[0];
     ASSERT_EQ(calls.size(), 2U);
     EXPECT_EQ(calls[0].Op, What::Print);
     EXPECT_EQ(calls[1].Op, What::EndDoc);
+    EXPECT_EQ(calls[1].Font, "Courier New") << "the label's font ends with the page";
+    EXPECT_EQ(calls[1].FontSize, 7);
     EXPECT_EQ(bare.surroundings.events.Yields, 1);
     EXPECT_EQ(bare.Paper().Font, "Arial");
     EXPECT_EQ(bare.Paper().FontSize, 11);

@@ -180,6 +180,20 @@ TEST(TextExport, EveryPageInUseBringsItsRows) {
     }
 }
 
+TEST(TextExport, APageWithNothingButAQuantityIsInUse) {
+    JustNamed run;
+    run.Fill(PageId::frmP2, 0, "Lights");
+    const std::string without = run.Exported();
+    person::TurnTo(run.program, 3);
+    run.typist.Click(PageId::frmP4, 0);
+    run.typist.Press(keys::kF8);
+    run.typist.Type("3");
+    const std::string with = run.Exported();
+    // Both pages more of 33 lines each.
+    EXPECT_EQ(std::count(with.begin(), with.end(), '\n') - std::count(without.begin(), without.end(), '\n'),
+              66);
+}
+
 TEST(TextExport, ABoldRowIsAMainCategoryWithARuleOfHalfLength) {
     JustNamed run;
     run.Fill(PageId::frmP1, 10, "Ceremony");
@@ -511,6 +525,13 @@ TEST(DocumentExport, APersonsNameThatNoFileCanHaveIsMendedForTheDocument) {
     run.program.document.BaseName = "";
     modExport::mnuFileSaveToWord_Click(run.program);
     EXPECT_EQ(run.surroundings.words.Word.Name, "Proposal");
+}
+
+TEST(DocumentExport, ALongNameIsCutAndEndsInNoBlank) {
+    JustNamed run;
+    run.program.document.BaseName = std::string(199, 'x') + " and others";
+    modExport::mnuFileSaveToWord_Click(run.program);
+    EXPECT_EQ(run.surroundings.words.Word.Name, std::string(199, 'x'));
 }
 
 TEST(DocumentExport, HandsTheLinesToANewDocumentAndTellsItsPath) {

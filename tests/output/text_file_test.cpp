@@ -29,6 +29,14 @@ TEST(TextFile, TellsUtf8FromTheProgramsOwnCharacters) {
     EXPECT_EQ(modExport::DecodeTextFile("ab\xE2\x82"), "ab\xC3\xA2\xE2\x80\x9A") << "nor is one cut short";
 }
 
+TEST(TextFile, TakesTheFirstSequenceOfEveryLengthAndNoLongerFormOfIt) {
+    EXPECT_EQ(modExport::DecodeTextFile("\xC2\xA9 2008"), "\xC2\xA9 2008");
+    EXPECT_EQ(modExport::DecodeTextFile("\xF0\x90\x80\x80"), "\xF0\x90\x80\x80");
+    EXPECT_EQ(modExport::DecodeTextFile("\xF1\x80\x80\x80"), "\xF1\x80\x80\x80");
+    EXPECT_EQ(modExport::DecodeTextFile("\xF0\x8F\x80\x80"), "\xC3\xB0\xC2\x8F\xE2\x82\xAC\xE2\x82\xAC")
+        << "too long for what it says: four characters of the program's own";
+}
+
 TEST(TextFile, TakesEveryKindOfLineEnd) {
     EXPECT_EQ(modExport::DecodeTextFile("a\r\nb\rc\nd\r"), "a\nb\nc\nd\n");
 }
@@ -110,6 +118,10 @@ TEST(TextFile, WhatThePageCannotHaveIsToldBeforeItPrints) {
     frmTextFile window("Notes.txt", "\xE4\xB8\xAD");
     window.cmdPrint_Click(run.program);
     EXPECT_TRUE(run.surroundings.printers.Paper.Documents.empty());
+    run.surroundings.questions.Expect("2 characters of this text cannot be printed", Answer::Ok);
+    EXPECT_EQ(Printed(run, "a\xE4\xB8\xAD"
+                           "b\xE2\x82\xAC\xE4\xB8\xAD"),
+              std::vector<std::string>{"a?b\x80?"});
 }
 
 TEST(TextPrint, SetsItsOwnFontWhateverThePrinterWasLeftWith) {
