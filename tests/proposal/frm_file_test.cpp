@@ -7,6 +7,7 @@
 #include "proposal/lifecycle.h"
 #include "proposal/property_file.h"
 #include "proposal/proposal_save.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -171,12 +172,59 @@ TEST(Chooser, AListOfTermsThatIsChosenStaysInUseWhateverIsOpenedNext) {
     run.Select(window, "Mine.fut");
     window.cmdOpenOK_Click(run.program);
     modWindows::Sweep(run.program);
+    EXPECT_EQ(modWindows::Find(run.program, "frmFile"), nullptr);
     EXPECT_EQ(run.program.run.FUTFileName, "Mine.fut");
     EXPECT_EQ(read, 1);
     frmFile& opening = run.Show();
     run.Select(opening, "Ann.hef");
     opening.cmdOpenOK_Click(run.program);
     EXPECT_EQ(run.program.run.FUTFileName, "Mine.fut");
+}
+
+struct ChoosingAFormat : Choosing {
+    /// Opens a format of those lines from the chooser.
+    void OpenFormat(const std::string& name, const std::string& lines) {
+        folder.Write("Proposals/" + name, lines);
+        program.document.FileFilter = "*.fmt";
+        auto& window = dynamic_cast<frmFile&>(modWindows::Show(program, std::make_unique<frmFile>()));
+        Select(window, name);
+        window.cmdOpenOK_Click(program);
+    }
+};
+
+TEST(Chooser, AFormatTakesTheWordsOfTheOneBeforeAway) {
+    ChoosingAFormat run;
+    run.program.format.OverwriteFormatText = false; // a format's texts are protected
+    run.OpenFormat("Fixed.fmt", "frmP2.txt(3).Text=Chair covers\r\n");
+    modWindows::Sweep(run.program);
+    ASSERT_EQ(run.TextOf(PageId::frmP2, 3), "Chair covers");
+    person::TurnTo(run.program, 1);
+    run.OpenFormat("Other.fmt", "frmP2.txt(4).Text=Lights\r\n");
+    EXPECT_EQ(modWindows::Find(run.program, "frmFile"), nullptr);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 4), "Lights");
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 0}));
+}
+
+TEST(Chooser, AFormatThatIsRefusedLeavesTheDefaultOneSwitchedOn) {
+    ChoosingAFormat run;
+    run.program.settings.LoadDefaultFormat = true;
+    run.program.format.EditingFormat = true;
+    run.surroundings.questions.Expect("Proceeding with this action will end the editing session", Answer::No);
+    run.surroundings.questions.Expect("Resume Editing.");
+    run.OpenFormat("Mine.fmt", "");
+    EXPECT_TRUE(run.program.settings.LoadDefaultFormat);
+    EXPECT_FALSE(run.program.format.FormatOpen);
+    EXPECT_NE(modWindows::Find(run.program, "frmFile"), nullptr);
+}
+
+TEST(Chooser, AnOpenedProposalHasTheKeyboardInItsFirstField) {
+    Choosing run;
+    frmFile& window = run.Show();
+    run.Select(window, "Jane Roe.hef");
+    person::TurnTo(run.program, 2);
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 0}));
 }
 
 TEST(Chooser, ALogoLargerThanItsMostIsToldWithItsSize) {
@@ -198,6 +246,7 @@ TEST(Chooser, ALogoLargerThanItsMostIsToldWithItsSize) {
         }
         window.cmdOpenOK_Click(run.program);
         modWindows::Sweep(run.program);
+        EXPECT_EQ(modWindows::Find(run.program, "frmFile"), nullptr);
         EXPECT_EQ(run.program.main.Notice, modLogo::kNotInTheProposal);
         EXPECT_EQ(run.program.format.LogoPath, run.folder / ("Proposals/" + std::string(name)));
     }

@@ -135,6 +135,15 @@ TEST(AskingToSave, AChangedPropertyAsksToo) {
     EXPECT_TRUE(modProposal::MayGoOn(run.program));
 }
 
+TEST(AskingToSave, WhatWasTypedIntoTheLabelWindowCounts) {
+    Living run;
+    run.program.hooks.CloseLabelWindow = [](Program& program) {
+        program.format.LabelSavedState[PageId::frmP1][9].Changed = true;
+    };
+    run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::Cancel);
+    EXPECT_FALSE(modProposal::MayGoOn(run.program));
+}
+
 TEST(AskingToSave, NewWithCancelChangesNothing) {
     Living run;
     run.SaveAs("Jane Roe");
@@ -382,9 +391,52 @@ TEST(SaveAs, AsksForANameAndSavesUnderIt) {
     EXPECT_EQ(run.program.document.TextFileName, "Second.txt");
     EXPECT_EQ(run.Main().Caption, "Quillbrook - File Name = Second.hef");
     EXPECT_FALSE(run.program.document.SaveAsActive);
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
     // A proposal without properties of its own keeps the font it was written in.
     EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"),
               "UDP.FontName=Times New Roman .FontSize=10 .FontColor=0 .FontItalic=False\r\n");
+}
+
+TEST(SaveAs, BringsTheFiguresUpToDateBeforeItAsks) {
+    Living run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 20);
+    typist.Type("100");
+    typist.Click(PageId::frmP1, 2);
+    run.Area(PageId::frmP6, 0).Text = "stale";
+    run.surroundings.questions.ExpectInput("Saving File As...", "");
+    run.surroundings.questions.Expect("No name entered.");
+    modProposal::SaveEventFileAs(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "100.00");
+}
+
+TEST(SaveAs, TheLayoutThatGoesAlongHasTheNewTitle) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    std::vector<std::string> titles;
+    run.program.hooks.AssignPropChanges = [&](Program&) {
+        titles.push_back(run.Label(PageId::frmP1, 33).Caption);
+    };
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
+    run.surroundings.questions.ExpectInput("Saving File As...", "Second");
+    run.surroundings.questions.Expect("File was saved as Second.hef");
+    modProposal::SaveEventFileAs(run.program);
+    EXPECT_EQ(titles, (std::vector<std::string>{"Proposal for Second", "Proposal for Second"}));
+}
+
+TEST(SaveAs, OfAProposalWithoutANameThatCannotBeWrittenLeavesItWithoutOne) {
+    Living run;
+    run.Touch();
+    run.folder.MakeFolder("Proposals/Second.hef");
+    run.surroundings.questions.ExpectInput("Saving File As...", "Second");
+    run.surroundings.questions.Expect("An error occurred in SaveEventFile.");
+    modProposal::mnuFileSaveAs_Click(run.program);
+    const DocumentState& document = run.program.document;
+    EXPECT_EQ(document.BaseName, "");
+    EXPECT_EQ(document.FileName, "");
+    EXPECT_EQ(document.FootnoteFile, "");
+    EXPECT_EQ(document.DepositFile, "");
+    EXPECT_FALSE(document.FileExists);
 }
 
 TEST(SaveAs, WithoutANameNothingIsSaved) {
@@ -551,6 +603,7 @@ TEST(Delete, TakesTheFilesOfItsNameAndStartsAnew) {
     }
     EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.old"));
     EXPECT_TRUE(run.folder.Has("Proposals/Jane Roes.hpf"));
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 0}));
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "");
     EXPECT_FALSE(run.program.document.FileExists);
 }
@@ -761,11 +814,26 @@ TEST(Backup, RestoringBringsTheLayoutAlongAndFollowsItsFile) {
     run.folder.Write("Proposals/Backup/Jane Roe.hpf", "frmP1.txt(10).FontBold=True\r\n");
     run.OpenBackup("Jane Roe.hef");
     run.program.document.FolderOnShow = "elsewhere";
+    run.folder.Write("Proposals/Backup/Jane Roe.hpf", "frmP1.txt(12).FontBold=True\r\n"); // a newer one
     modProposal::mnuFileRestoreFromBackup_Click(run.program);
-    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hpf"), "frmP1.txt(10).FontBold=True\r\n");
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hpf"), "frmP1.txt(12).FontBold=True\r\n");
     EXPECT_EQ(run.program.format.PropertyPath, run.Data() + "Jane Roe.hpf");
-    EXPECT_EQ(run.program.format.PropertySeen, files::SeenIn("frmP1.txt(10).FontBold=True\r\n"));
+    EXPECT_EQ(run.program.format.PropertySeen, files::SeenIn("frmP1.txt(12).FontBold=True\r\n"));
     EXPECT_EQ(run.program.document.FolderOnShow, run.Data());
+    EXPECT_FALSE(run.program.document.HasNotes);
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Jane Roe");
+}
+
+TEST(Backup, RestoringLooksForTheFootnotesOfTheMomentAndLaysTheTitle) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    modFile::BackupThisFile(run.program);
+    run.folder.Write("Proposals/Jane Roe.hxt", "notes");
+    run.OpenBackup("Jane Roe.hef");
+    EXPECT_TRUE(run.program.document.HasNotes);
+    std::filesystem::remove(run.folder / "Proposals/Jane Roe.hxt");
+    run.Label(PageId::frmP1, 33).Caption = "spoilt";
+    modProposal::mnuFileRestoreFromBackup_Click(run.program);
     EXPECT_FALSE(run.program.document.HasNotes);
     EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Jane Roe");
 }

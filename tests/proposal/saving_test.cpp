@@ -208,6 +208,17 @@ TEST(Saving, ATextLongerThanItsSlotIsCutInTheFileAlone) {
     EXPECT_EQ(run.TextOf(PageId::frmP1, 4), street);
 }
 
+TEST(Saving, TenTextsThatAreTooLongAreAllNamed) {
+    RunningProgram run;
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
+    for (int row = 0; row < 10; ++row) {
+        modFields::SetText(run.program, {PageId::frmP2, FieldKind::txt, row}, std::string(121, 'x'));
+    }
+    run.surroundings.questions.Expect("These texts are longer than their place in the file", Answer::No);
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::NotSaved);
+    EXPECT_TRUE(run.surroundings.questions.Shown.back().Text.ends_with("\r\nPage 2, Text Area 10"));
+}
+
 TEST(Saving, TheSlotsFollowTheTagsAsTheyAreNow) {
     RunningProgram run;
     run.Area(PageId::frmP1, 2).Tag = "Name.050";
@@ -307,6 +318,40 @@ TEST(PropertyFile, ThatCouldNotBeWrittenStillCountsAsChanged) {
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
     EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "frmP1.txt(10).FontBold=True\r\n");
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+}
+
+TEST(PropertyFile, ThatWasWrittenAndChangedByAnotherProgramIsAskedAbout) {
+    RunningProgram run;
+    run.program.hooks.AssignPropChanges = [](Program& program) {
+        program.format.PropertyLines = {"frmP1.txt(10).FontBold=True"};
+    };
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
+    SaveAnn(run);
+    ASSERT_EQ(run.folder.Read("Proposals/Ann.hpf"), "frmP1.txt(10).FontBold=True\r\n");
+    run.folder.Write("Proposals/Ann.hpf", "another program's\r\n");
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
+    run.surroundings.questions.Expect("The layout of this proposal was changed by another program",
+                                      Answer::No);
+    EXPECT_EQ(modFile::SavePropertyFile(run.program), SaveResult::NotSaved);
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "another program's\r\n");
+}
+
+TEST(PropertyFile, ThatCannotBeWrittenIsNotSaved) {
+    RunningProgram run;
+    SaveAnn(run);
+    run.folder.MakeFolder("Proposals/Ann.hpf");
+    run.surroundings.questions.Expect("An error occurred in SavePropertyFile.");
+    EXPECT_EQ(modFile::SavePropertyFile(run.program), SaveResult::NotSaved);
+}
+
+TEST(PropertyFile, ThatIsToBeLeftAloneCountsAsSaved) {
+    RunningProgram run;
+    SaveAnn(run);
+    run.folder.Write("Proposals/Ann.hpf", "the person's own\r\n");
+    run.program.document.PropertiesIgnored = true;
+    EXPECT_EQ(modFile::SavePropertyFile(run.program), SaveResult::Saved);
+    EXPECT_EQ(run.program.main.Notice, "Ann.hpf was left as it is: the proposal was opened without it.");
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "the person's own\r\n");
 }
 
 TEST(PropertyFile, OfAProposalFromTheBackupsIsReadBesideItAndWrittenAmongTheProposals) {
