@@ -63,7 +63,6 @@ void ResetPages(Program& program) {
     }
     modLabelMode::End(program); // the keyboard goes to the new proposal's fields
     program.main.Focus.reset();
-    program.main.CurrentPage = 0;
     program.editing.ACActive = {};
     if (Window* results = modWindows::Find(program, "frmSR")) {
         modWindows::Close(program, *results); // its hits are those of the proposal that goes
@@ -181,7 +180,6 @@ void ResetSteps(Program& program) {
                              static_cast<bool>(program.hooks.OpenFormatFile);
     ClearNames(program);
     modTitles::SetPageHeading(program, "Event Proposal");
-    modTitles::UpdateEventNameLabels(program);
     program.document.WindowTitle = "Quillbrook";
     ResetPages(program);
     ResetFont(program);

@@ -227,6 +227,18 @@ TEST(Chooser, AnOpenedProposalHasTheKeyboardInItsFirstField) {
     EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 0}));
 }
 
+TEST(Chooser, ATextThatIsChosenIsHandedOnByItsPathAndTheWindowCloses) {
+    Choosing run;
+    std::string read;
+    run.program.hooks.ReadTextFile = [&](Program&, const std::string& path) { read = path; };
+    modProposal::mnuFileOpenTextFile_Click(run.program);
+    auto& window = dynamic_cast<frmFile&>(*modWindows::Find(run.program, "frmFile"));
+    run.Select(window, "notes.txt");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_EQ(read, run.folder / "Proposals/notes.txt");
+    EXPECT_EQ(modWindows::Find(run.program, "frmFile"), nullptr);
+}
+
 TEST(Chooser, ALogoLargerThanItsMostIsToldWithItsSize) {
     Choosing run;
     run.folder.Write("Proposals/large.png", "x");

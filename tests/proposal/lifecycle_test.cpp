@@ -347,6 +347,33 @@ TEST(Reset, WindowsAboutTheProposalCloseBeforeItsNameGoes) {
     EXPECT_EQ(nameThen, "Jane Roe.hef");
 }
 
+TEST(Reset, WhatIsInHandIsSettledWhileTheProposalStillStands) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    run.Touch();
+    std::vector<std::string> names;
+    std::vector<std::string> texts;
+    run.program.hooks.CloseLabelWindow = [&](Program& program) {
+        names.push_back(program.document.FileName);
+    };
+    run.program.hooks.DeSelectAllControls = [&](Program&) { texts.push_back(run.TextOf(PageId::frmP1, 10)); };
+    static_cast<void>(modReset::StartNewFile(run.program));
+    ASSERT_FALSE(names.empty());
+    EXPECT_EQ(names.front(), "Jane Roe.hef") << "what is typed of a label is that proposal's";
+    ASSERT_FALSE(texts.empty());
+    EXPECT_EQ(texts.front(), "x") << "a selection ends before its text goes";
+}
+
+TEST(Reset, AFormatFindsTheTitleInTheMiddleOfThePage) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    float left = 0;
+    run.program.hooks.OpenFormatFile = [&](Program&) { left = run.Label(PageId::frmP1, 33).Left; };
+    run.program.format.FormatOpen = true;
+    static_cast<void>(modReset::StartNewFile(run.program));
+    EXPECT_EQ(left, 6120 - 1400) << "28 characters of 100 twips";
+}
+
 const ScriptedQuestions::Box kFormatQuestion{
     "Proceeding with this action will end the editing session of your file format. Continue?", Buttons::YesNo,
     "Ending Format Editing"};
@@ -836,6 +863,26 @@ TEST(Backup, RestoringLooksForTheFootnotesOfTheMomentAndLaysTheTitle) {
     modProposal::mnuFileRestoreFromBackup_Click(run.program);
     EXPECT_FALSE(run.program.document.HasNotes);
     EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Jane Roe");
+}
+
+TEST(Backup, SavingOneAmongTheProposalsMovesItThereAndANoLeavesItWhereItIs) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    modFile::BackupThisFile(run.program);
+    run.OpenBackup("Jane Roe.hef");
+    run.surroundings.questions.Expect("A file with this name (Jane Roe.hef)", Answer::No);
+    run.surroundings.questions.Expect("File not saved.");
+    modProposal::mnuFileSaveEvent_Click(run.program);
+    EXPECT_TRUE(run.program.document.FileExists);
+    EXPECT_TRUE(run.program.document.FromBackup);
+    EXPECT_EQ(run.program.document.FilePath, run.folder / "Proposals/Backup/");
+    EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + (run.folder / "Proposals/Backup/"));
+    run.surroundings.questions.Expect("A file with this name (Jane Roe.hef)", Answer::Yes);
+    run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
+    modProposal::mnuFileSaveEvent_Click(run.program);
+    EXPECT_EQ(run.program.document.FilePath, run.Data());
+    EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + run.Data());
+    EXPECT_FALSE(run.program.document.FromBackup);
 }
 
 TEST(New, FromALaterPageBeginsInTheFirstFieldOfTheFirst) {

@@ -86,6 +86,15 @@ TEST(Saving, SumsAnewWhereNobodyElseTakesTheFigures) {
     EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 20410 + 60, 20), "108.25              ");
 }
 
+TEST(Saving, TheTextOfAProposalIsNamedAsItsFile) {
+    RunningProgram run;
+    run.program.document.TextFileName = "another.txt";
+    run.program.document.FileName = "Ann.hef";
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_EQ(run.program.document.TextFileName, "Ann.txt");
+}
+
 TEST(Saving, AnEmptyFolderMeansTheProposals) {
     RunningProgram run;
     run.program.document.FilePath.clear();
@@ -334,6 +343,17 @@ TEST(PropertyFile, ThatWasWrittenAndChangedByAnotherProgramIsAskedAbout) {
                                       Answer::No);
     EXPECT_EQ(modFile::SavePropertyFile(run.program), SaveResult::NotSaved);
     EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "another program's\r\n");
+}
+
+TEST(PropertyFile, OfAProposalThatCouldNotBeWrittenStillCountsAsChanged) {
+    RunningProgram run;
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
+    run.folder.MakeFolder("Proposals/Ann.hef");
+    run.surroundings.questions.Expect("An error occurred in SaveEventFile.");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::NotSaved);
+    EXPECT_TRUE(run.folder.Has("Proposals/Ann.hpf"));
+    EXPECT_TRUE(modFile::PropertiesChanged(run.program));
 }
 
 TEST(PropertyFile, ThatCannotBeWrittenIsNotSaved) {

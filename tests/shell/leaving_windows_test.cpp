@@ -171,6 +171,21 @@ TEST(Rescue, OfMoreThanTenTheOthersAreCounted) {
     }
 }
 
+TEST(Rescue, AListThatBreaksOffInAnEntryTellsOfTheWholeOnes) {
+    RunningProgram run;
+    run.folder.Write("kept one.txt", "1");
+    run.folder.Write("kept two.txt", "2");
+    run.folder.Write("kept three.txt", "3");
+    const auto entry = [&](const char* name) { return run.folder / name + "\r\n\r\n"; };
+    run.folder.Write("Rescued.txt",
+                     entry("kept one.txt") + entry("kept two.txt") + (run.folder / "kept three.txt"));
+    NextRun next(run);
+    next.surroundings.questions.Expect("They were kept as:");
+    next.Start();
+    EXPECT_TRUE(next.surroundings.questions.Shown.back().Text.ends_with(
+        "kept as:\r\n" + (run.folder / "kept one.txt") + "\r\n" + (run.folder / "kept two.txt")));
+}
+
 TEST(Rescue, ATextThatCannotBeKeptIsToldInTheLog) {
     RunningProgram run;
     std::filesystem::remove_all(run.folder / "Proposals/Backup");
@@ -186,6 +201,7 @@ TEST(Rescue, ARunThatGoesOnAndEndsWellLeavesNothingToBeTold) {
     modClosing::KeepUnsaved(run.program); // the desktop's session was to end, and did not
     modClosing::MDIForm_Unload(run.program);
     EXPECT_FALSE(run.folder.Has("Proposals/Backup/Jane Roe.hxt"));
+    EXPECT_FALSE(run.folder.Has("Rescued.txt"));
     NextRun next(run);
     next.Start();
 }
