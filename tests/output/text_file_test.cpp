@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 
 namespace {
@@ -102,14 +103,22 @@ TEST(TextFile, PrintsWrappedAtBlanks) {
 TEST(TextFile, ALongTextTakesMorePages) {
     RunningProgram run; // 72 lines of 200 twips between the margins
     std::string text;
-    for (int line = 0; line < 73; ++line) {
+    for (int line = 0; line < 72; ++line) {
         text += "line\n";
     }
+    const auto isNewPage = [](const DrawCall& call) { return call.Op == DrawCall::What::NewPage; };
     Printed(run, text);
+    const auto& whole = run.surroundings.printers.Paper.Documents.back();
+    EXPECT_TRUE(std::none_of(whole.begin(), whole.end(), isNewPage));
+    Printed(run, text + "last");
     const auto& calls = run.surroundings.printers.Paper.Documents.back();
-    EXPECT_EQ(std::count_if(calls.begin(), calls.end(),
-                            [](const DrawCall& call) { return call.Op == DrawCall::What::NewPage; }),
-              1);
+    EXPECT_EQ(std::count_if(calls.begin(), calls.end(), isNewPage), 1);
+    const auto last =
+        std::find_if(calls.begin(), calls.end(), [](const DrawCall& call) { return call.Text == "last"; });
+    ASSERT_NE(last, calls.end());
+    EXPECT_TRUE(isNewPage(*std::prev(last)));
+    EXPECT_EQ(last->X, 720);
+    EXPECT_EQ(last->Y, 720) << "at the top of the next page";
 }
 
 TEST(TextFile, WhatThePageCannotHaveIsToldBeforeItPrints) {
@@ -164,6 +173,18 @@ TEST(TextPrint, EveryLineStandsAtItsOwnPlaceWhereverThePrinterWasLeft) {
         }
     }
     EXPECT_EQ(top, 720 + 3 * 200);
+}
+
+TEST(TextPrint, IsOneCommandThatBearsTheTextsName) {
+    RunningProgram run;
+    modPrint::PrintText(run.program, "Notes.txt", "one");
+    const RecordingPrinters& printers = run.surroundings.printers;
+    ASSERT_EQ(printers.Commands.size(), 1U);
+    EXPECT_EQ(printers.Commands[0].SuggestedFile, run.folder / "Proposals/Notes.txt.pdf");
+    EXPECT_EQ(printers.Named, (std::vector<std::pair<std::string, int>>{{"Notes.txt", 0}}));
+    EXPECT_EQ(printers.Ended, 1);
+    modPrint::PrintText(run.program, "Notes.txt", "one");
+    EXPECT_EQ(printers.Ended, 2) << "the next one goes through";
 }
 
 TEST(TextPrint, WithoutAPrinterItIsSaid) {
