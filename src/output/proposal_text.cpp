@@ -98,7 +98,7 @@ private:
 /// The client page's labels, each with the area of the same place in the list.
 constexpr std::array kClientLabels{9, 10, 12, 13, 14, 15, 16, 17};
 constexpr std::array kPlaceLabels{19, 20};
-constexpr int kPlaceTitle = 18, kFirstPlaceArea = 8;
+constexpr int kPlaceTitle = 18;
 
 void ClientRow(Lines& lines, int label, int area) {
     lines.Add(LineKind::Row,
@@ -114,7 +114,6 @@ void GeneralInformation(Lines& lines) {
     lines.Rule();
     lines.Empty();
     lines.Block(lines.Caption(PageId::frmP1, kPlaceTitle));
-    area = kFirstPlaceArea;
     for (const int label : kPlaceLabels) {
         ClientRow(lines, label, area++);
     }
@@ -273,7 +272,7 @@ std::string PlainText(const std::vector<DocumentLine>& lines) {
 
 std::vector<std::string> Cells(std::string_view line) {
     std::vector<std::string> cells;
-    while (true) {
+    for (;;) {
         const std::size_t tab = line.find('\t');
         cells.emplace_back(line.substr(0, tab));
         if (tab == std::string_view::npos) {

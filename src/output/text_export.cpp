@@ -4,7 +4,6 @@
 #include "base/guard.h"
 #include "base/paths.h"
 #include "base/text.h"
-#include "editing/columns.h"
 #include "editing/fresh_figures.h"
 #include "money/shown_figures.h"
 #include "money/totals.h"
@@ -90,7 +89,6 @@ private:
 /// Whether the text may go out with the figures as they are.
 bool TakeFigures(Program& program) {
     modFigures::TakeFresh(program);
-    modColumns::CollectLines(program);
     modPageCount::CountPagesInUse(program);
     if (!program.totals.TotalsHidden && modTotals::TotalsDiffer(program)) {
         program.totals.TotalsStale = true;
@@ -141,9 +139,7 @@ void CopyToClipboard(Program& program) {
     const std::vector<DocumentLine> lines = ProposalLines(program);
     const std::string plain = PlainText(lines);
     const ScratchFile scratch(program, plain);
-    program.platform.clipboard.Clear();
     program.platform.clipboard.SetTextAndTable(plain, HtmlTable(lines));
-    program.exporting.ExportToClipboard = false;
     program.platform.questions.MsgBox("Proposal copied to memory.", Buttons::Ok, "");
 }
 
@@ -203,9 +199,6 @@ void SaveFileAsText(Program& program) {
         static_cast<void>(DropScratchFile(program));
         if (!TakeFigures(program)) {
             return;
-        }
-        if (state.ExportToClipboard || state.ExportToWord) {
-            state.ExportFileName = kScratchFile;
         }
         if (state.ExportToClipboard) {
             CopyToClipboard(program);

@@ -140,7 +140,6 @@ void CompanyInfoChanged(Program& program, const SettingsRecords& before) {
     FollowInProperties(program, PageId::frmP1, clientBefore);
     FollowInProperties(program, PageId::frmP6, finalBefore);
     SizeRemittanceBox(program);
-    program.document.CompanyBlockPending = true;
     modTitles::SetPageHeading(program, "Contract Proposal");
     if (program.format.FormatOpen && RewordFormat(program, before, now)) {
         program.format.Touched = true;

@@ -38,7 +38,6 @@ struct DocumentState {
     std::string BackupTrouble; ///< why the last backup bears no name, or was not written; told once
     std::string OwnBackup;     ///< the name of the backup that a proposal which is not stored has; else empty
     bool SavedStateStale = false; ///< a format was saved since; counts as a changed property
-    bool CompanyBlockPending = false;
 
     /// Whether the name stands for a proposal: an erased client leaves ".hef", which is none.
     [[nodiscard]] bool HasName() const { return !FileName.empty() && FileName != ".hef"; }

@@ -82,7 +82,6 @@ void SaveAsSteps(Program& program) {
     }
     modSideFile::FollowSaveAs(program, before);
     document.HasNotes = files::FileIsThere(modSideFile::FolderOf(program, document), document.FootnoteFile);
-    modTitles::UpdateEventNameLabels(program);
 }
 
 } // namespace
@@ -159,7 +158,6 @@ void mnuFileNew_Click(Program& program) {
         Page& page = program.pages[PageId::frmP1];
         page.lbl[9].Caption = "Event Date";
         page.lbl[10].Caption = "Event Time";
-        page.lbl[10].Left = 10080;
         if (!program.run.TermsPinned) {
             program.run.FUTFileName = "Default Terms.fut";
             if (program.hooks.ReadFrequentlyUsedTerms) {

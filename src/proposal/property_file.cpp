@@ -49,7 +49,7 @@ std::string BytesOfLines(const std::vector<std::string>& lines) {
 
 SaveResult SavePropertyFile(Program& program) {
     bool written = false;
-    const bool done = Guarded(program, "SavePropertyFile", [&] {
+    Guarded(program, "SavePropertyFile", [&] {
         const std::string path = paths::Join(PropertyFolder(program), PropertyName(program));
         if (program.document.PropertiesIgnored && files::ExistsExactly(path)) {
             program.main.Notice =
@@ -70,7 +70,7 @@ SaveResult SavePropertyFile(Program& program) {
             ClearMarks(program);
         }
     });
-    return done && written ? SaveResult::Saved : SaveResult::NotSaved;
+    return written ? SaveResult::Saved : SaveResult::NotSaved;
 }
 
 void TakeProperties(Program& program, const std::string& path) {

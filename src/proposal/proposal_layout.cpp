@@ -21,7 +21,7 @@ constexpr std::array<LegacyLength, 3> kLegacy{{{17880, {10, 120}}, {17770, {20, 
 /// Makes a slot of NULs alone blank; what is filled up with blanks beyond the end of the file is no part of
 /// it.
 void BlankNuls(std::vector<char>& bytes, std::size_t at, std::size_t width, std::size_t end) {
-    if (at >= end || bytes[at] != '\0') {
+    if (at >= end) {
         return;
     }
     const auto first = bytes.begin() + static_cast<std::ptrdiff_t>(at);
@@ -63,7 +63,6 @@ std::string Encode(const Fields& fields, const Widths& widths) {
     std::string bytes;
     bytes.reserve(kFileLength);
     std::size_t position = 0;
-    std::size_t end = 0;
     for (const PageId page : kEditedPages) {
         for (std::size_t index = 0; index < fields[page].size(); ++index) {
             const auto width = static_cast<std::size_t>(std::max(widths[page][index], 0));
@@ -78,11 +77,9 @@ std::string Encode(const Fields& fields, const Widths& widths) {
             std::copy_n(field.Text.begin(), length, buffer.begin() + static_cast<std::ptrdiff_t>(used));
             bytes.resize(std::max(bytes.size(), position + kBuffer), ' ');
             std::copy(buffer.begin(), buffer.end(), bytes.begin() + static_cast<std::ptrdiff_t>(position));
-            end = std::max(end, position + kBuffer);
             position += width;
         }
     }
-    bytes.resize(end);
     return bytes;
 }
 

@@ -116,7 +116,6 @@ void TakeAmount(Program& program, PageId page, int index) {
     const std::string bare(text::Trim(current));
     if (bare.empty()) {
         // A mark beside nothing: an empty amount.
-        current.clear();
         program.document.SavedTextBuf[page][at].clear();
         area.Text.clear();
         return;
@@ -151,7 +150,6 @@ void TakeFields(Program& program, const proposal::Decoded& decoded) {
     for (std::size_t index = 0; index < decoded.Slots[PageId::frmP6].size(); ++index) {
         const std::string_view value = text::Trim(decoded.Slots[PageId::frmP6][index]);
         program.document.CurrentTextBuf[PageId::frmP6][index] = value;
-        program.document.SavedTextBuf[PageId::frmP6][index] = value;
     }
 }
 

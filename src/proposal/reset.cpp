@@ -63,7 +63,6 @@ void ResetPages(Program& program) {
     }
     modLabelMode::End(program); // the keyboard goes to the new proposal's fields
     program.main.Focus.reset();
-    program.main.CurrentPage = 0;
     program.editing.ACActive = {};
     if (Window* results = modWindows::Find(program, "frmSR")) {
         modWindows::Close(program, *results); // its hits are those of the proposal that goes
@@ -182,7 +181,6 @@ void ResetSteps(Program& program) {
                              static_cast<bool>(program.hooks.OpenFormatFile);
     ClearNames(program);
     modTitles::SetPageHeading(program, "Event Proposal");
-    modTitles::UpdateEventNameLabels(program);
     program.document.WindowTitle = "Quillbrook";
     ResetPages(program);
     ResetFont(program);
@@ -214,10 +212,6 @@ ResetResult StartNewFile(Program& program) {
             program.hooks.UpdatePageButtons(program, IndexOf(PageId::frmP1));
         }
         modTitles::UpdateFooters(program);
-        if (program.document.CompanyBlockPending) {
-            program.document.CompanyBlockPending = false;
-            modPages::SizeRemittanceBox(program);
-        }
         if (program.hooks.DeSelectAllControls) {
             program.hooks.DeSelectAllControls(program);
         }

@@ -29,16 +29,14 @@ std::string LineOf(const files::Seen& seen) {
 }
 
 files::Seen SeenOf(const std::vector<std::string>& lines, std::size_t at) {
-    files::Seen seen;
     if (at < lines.size()) {
         std::istringstream line(lines[at]);
+        files::Seen seen{files::Seen::What::Bytes, 0, 0};
         if (line >> seen.Length >> seen.Sum) {
-            seen.Was = files::Seen::What::Bytes;
-        } else {
-            seen = {};
+            return seen;
         }
     }
-    return seen;
+    return {};
 }
 
 std::optional<UnsavedWork> Parse(std::string_view bytes) {

@@ -120,7 +120,6 @@ TEST(CompanyInfo, SavingWritesTheSettingsAndThePages) {
     EXPECT_EQ(run.Caption(PageId::frmP6, 57), "Birch & Sons");
     EXPECT_EQ(run.Caption(PageId::frmP6_1, 58), "9 Mill Rd");
     EXPECT_EQ(run.Caption(PageId::frmP6, 51), "Representative for Birch & Sons");
-    EXPECT_TRUE(run.program.document.CompanyBlockPending);
     EXPECT_EQ(run.program.document.PageHeading, "Birch & Sons - Contract Proposal - ");
 }
 

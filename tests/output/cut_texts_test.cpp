@@ -50,6 +50,29 @@ TEST(TextsLostOnPaper, AreThoseThatRunIntoTheirNeighbours) {
     EXPECT_EQ(run.Lost({PageId::frmP2}), Texts{"Page 2, Line 1, amount"});
 }
 
+TEST(TextsLostOnPaper, AreThoseThatRunIntoTheSignsOfTheirRow) {
+    Printing run;
+    modPages::PlaceColumns(run.program, PageId::frmP2, 0, modPages::Columns::On);
+    Page& page = run.program.pages[PageId::frmP2];
+    page.txtQty[0].Text = "3";
+    // A price begins at 8,145, its "ea." stands at 9,165.
+    page.txtAmt[0].Text = "1234567.90";
+    EXPECT_EQ(run.Lost({PageId::frmP2}), Texts{});
+    page.txtAmt[0].Text = "12345678.90";
+    EXPECT_EQ(run.Lost({PageId::frmP2}), Texts{"Page 2, Line 1, unit price"});
+}
+
+TEST(TextsLostOnPaper, AreNoneThatFillTheirPlaceOrTheSheetToTheLastTwip) {
+    Printing run;
+    run.surroundings.measure.Advance.fill(90);
+    run.Put(PageId::frmP2, 0, std::string(126, 'x')); // 900 and 11,340 are the sheet's 12,240
+    EXPECT_EQ(run.Lost({PageId::frmP2}), Texts{});
+    // A line of 8,640 fills its place; the amount beside it grows over it.
+    run.Put(PageId::frmP2, 0, std::string(96, 'x'));
+    run.Put(PageId::frmP2, 33, "12,345,678,901,234.99");
+    EXPECT_EQ(run.Lost({PageId::frmP2}), Texts{"Page 2, Line 1, amount"});
+}
+
 TEST(TextsLostOnPaper, GoByTheFontInWhichTheyArePrinted) {
     Printing run;
     run.surroundings.measure.BoldFactor = 1.5F;
@@ -66,6 +89,16 @@ TEST(TextsLostOnPaper, OfTheCopyAreThoseOfTheFinalPage) {
     }
     EXPECT_EQ(run.Lost({PageId::frmP6_1, PageId::frmP6}), Texts{"Page 6, Deposit Received"});
     EXPECT_EQ(run.Lost({PageId::frmP6_1}), Texts{"Page 6 Copy, Deposit Received"});
+}
+
+TEST(TextsLostOnPaper, AreAllNamedWhenTheyAreTen) {
+    Printing run;
+    for (int row = 0; row < 10; ++row) {
+        run.Put(PageId::frmP2, row, std::string(120, 'x'));
+    }
+    run.surroundings.questions.Expect("cannot be read as a whole on paper", Answer::No);
+    modPrint::mnuFilePrintAll_Click(run.program);
+    EXPECT_TRUE(run.surroundings.questions.Shown.back().Text.ends_with("\r\nPage 2, Line 10, description"));
 }
 
 TEST(TextsLostOnPaper, AreNamedBeforePrintingAndNothingIsPrintedUnlessThePersonSaysSo) {

@@ -129,7 +129,7 @@ TEST(PageNumbers, HeadingsAreKeptWithTheProposalAsTheyLook) {
     heading.FontName = "Arial";
     heading.FontSize = 8;
     heading.FontBold = true;
-    heading.FontItalic = false;
+    heading.FontItalic = true;
     heading.FontUnderline = true;
     heading.ForeColor = 0x0000FF;
     modPageCount::SetPageNumbers(run.program);
@@ -141,7 +141,7 @@ TEST(PageNumbers, HeadingsAreKeptWithTheProposalAsTheyLook) {
     EXPECT_EQ(kept.FontName, "Arial");
     EXPECT_EQ(kept.FontSize, 8);
     EXPECT_TRUE(kept.FontBold);
-    EXPECT_FALSE(kept.FontItalic);
+    EXPECT_TRUE(kept.FontItalic);
     EXPECT_TRUE(kept.FontUnderline);
     EXPECT_EQ(kept.ForeColor, 0x0000FFU);
     for (const std::size_t page : {1U, 2U, 3U, 4U, 5U}) {

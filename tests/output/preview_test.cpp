@@ -1,5 +1,6 @@
 #include "output/preview.h"
 
+#include "pages/fields.h"
 #include "pages/row_fields.h"
 #include "program/program.h"
 #include "support/person.h"
@@ -100,6 +101,29 @@ TEST(Preview, OfTheClientsCopyShowsThatPagesPaper) {
     EXPECT_EQ(run.program.main.cmdPreview.Caption, "Print Preview");
 }
 
+TEST(Preview, NumbersThePagesThatAreInUseNow) {
+    RunningProgram run;
+    modFields::SetText(run.program, {PageId::frmP3, FieldKind::txt, 0}, "Tent");
+    modPreview::TogglePreview(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP1, 31).Caption, "Page 1 of 4");
+    EXPECT_EQ(run.Label(PageId::frmP6, 63).Caption, "Page 4 of 4");
+}
+
+TEST(Preview, ResumingShowsTheBoxesOfThePageAgain) {
+    RunningProgram run;
+    for (const PageId id : {PageId::frmP1, PageId::frmP6, PageId::frmP6_1}) {
+        Page& page = run.program.pages[id];
+        ASSERT_FALSE(page.lne.empty());
+        for (PageLine& line : page.lne) {
+            line.Visible = false;
+        }
+        modPreview::ResumeEditing(run.program, id);
+        for (const PageLine& line : page.lne) {
+            EXPECT_TRUE(line.Visible);
+        }
+    }
+}
+
 TEST(Preview, StaysWhenTheWindowChangesItsSize) {
     RunningProgram run;
     modPreview::TogglePreview(run.program);
@@ -187,14 +211,8 @@ TEST(Preview, ResumingShowsEveryKindOfControlThatIsNotTaggedHide) {
         control.Tag = ++odd % 2 == 0 ? "" : std::string(kHide);
         control.Visible = odd % 2 != 0;
     });
-    for (PageLine& line : page.lne) {
-        line.Visible = false;
-    }
     modPreview::ResumeEditing(run.program, PageId::frmP2);
     each([&](const auto& control) { EXPECT_EQ(control.Visible, control.Tag != kHide); });
-    for (const PageLine& line : page.lne) {
-        EXPECT_TRUE(line.Visible);
-    }
 }
 
 } // namespace

@@ -1,9 +1,12 @@
 #include "output/print.h"
 
 #include "output/frm_dialog.h"
+#include "program/keys.h"
 #include "program/program.h"
 #include "program/windows.h"
+#include "support/person.h"
 #include "support/running_program.h"
+#include "support/typist.h"
 
 #include <gtest/gtest.h>
 
@@ -54,6 +57,17 @@ TEST(PrintAll, GoesFromTheLastPageToTheFirst) {
         EXPECT_EQ(run.surroundings.printers.Commands.size(), 1U) << "one command";
         EXPECT_EQ(run.surroundings.printers.Ended, 1);
     }
+}
+
+TEST(PrintAll, TakesAPageAlongOnWhichAFirstQuantityIsBeingTyped) {
+    Proposal run(2);
+    Typist typist(run.program);
+    person::TurnTo(run.program, 2);
+    typist.Click(PageId::frmP3, 0);
+    typist.Press(keys::kF8);
+    typist.Type("3");
+    modPrint::mnuFilePrintAll_Click(run.program);
+    EXPECT_EQ(run.surroundings.printers.Named, NamesOf({"frmP6_1", "frmP6", "frmP3", "frmP2", "frmP1"}));
 }
 
 TEST(PrintAll, TellsWhichPageItPrints) {

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <set>
 
@@ -116,6 +117,36 @@ TEST(DrawPage, TakesTheFieldsInTheOrderOfTheirArraysAndTheLogoLast) {
     EXPECT_EQ(calls[10].Size, bare.program.pages[PageId::frmP1].pic.Size) << "as large as on the page";
 }
 
+/// The rule is 15 twips wide; its middle runs half of that within the picture.
+TEST(DrawPage, ALogoWithABorderHasItWithinItsFourSides) {
+    BarePages bare;
+    Page& page = bare.program.pages[PageId::frmP1];
+    page.txt.clear();
+    page.HasLogo = true;
+    page.pic.Picture = {PictureRef::Source::File, "logo.bmp"};
+    page.pic.Left = 1440;
+    page.pic.Top = 720;
+    page.pic.Size = {3000, 1500};
+    page.pic.BorderStyle = 1;
+    bare.Paper().ScaleLeft = 100;
+    bare.Paper().ScaleTop = 10;
+    const auto& calls = bare.Draw(PageId::frmP1);
+    ASSERT_EQ(calls.size(), 5U);
+    EXPECT_EQ(calls[0].Op, What::PaintPicture);
+    EXPECT_EQ(calls[0].X, 1540);
+    EXPECT_EQ(calls[0].Y, 730);
+    // Each by its ends, from the left and from above.
+    std::set<std::array<float, 4>> sides;
+    for (std::size_t side = 1; side < calls.size(); ++side) {
+        EXPECT_EQ(calls[side].Op, What::Line);
+        sides.insert({calls[side].X, calls[side].Y, calls[side].X2, calls[side].Y2});
+    }
+    EXPECT_EQ(sides, (std::set<std::array<float, 4>>{{1547.5F, 737.5F, 4532.5F, 737.5F},
+                                                     {4532.5F, 737.5F, 4532.5F, 2222.5F},
+                                                     {1547.5F, 2222.5F, 4532.5F, 2222.5F},
+                                                     {1547.5F, 737.5F, 1547.5F, 2222.5F}}));
+}
+
 TEST(DrawPage, GoesByTheTagAndNotByVisibility) {
     BarePages bare;
     Page& page = bare.program.pages[PageId::frmP2];
@@ -150,21 +181,32 @@ TEST(DrawPage, PrintsAreasInTheDefaultColourAndLabelsInTheirOwn) {
     page.lbl[0].Caption = "label";
     page.lbl[0].ForeColor = 0x0000FF;
     page.lbl[0].FontBold = true;
+    page.lbl[0].FontName = "Courier New";
+    page.lbl[0].FontItalic = false;
     page.lbl[0].FontUnderline = true;
     page.txtQty = {BarePages::At(0, 0, "quantity")};
+    page.txtQty[0].FontBold = true;
+    page.txtAmt = {BarePages::At(0, 0, "price")};
+    page.lblEach.resize(1);
+    page.lblEach[0].FontItalic = true;
     const auto& calls = bare.Draw(PageId::frmP2);
-    ASSERT_EQ(calls.size(), 3U);
+    ASSERT_EQ(calls.size(), 5U);
     EXPECT_EQ(calls[0].ForeColor, 0x123456U);
     EXPECT_EQ(calls[0].Font, "Arial");
     EXPECT_EQ(calls[0].FontSize, 12);
     EXPECT_TRUE(calls[0].Italic);
     EXPECT_FALSE(calls[0].Bold);
     EXPECT_EQ(calls[1].ForeColor, 0x0000FFU);
+    EXPECT_EQ(calls[1].Font, "Courier New");
     EXPECT_EQ(calls[1].FontSize, 9.75F);
     EXPECT_TRUE(calls[1].Bold);
+    EXPECT_FALSE(calls[1].Italic) << "the area's italics end with the area";
     EXPECT_TRUE(calls[1].Underline);
     EXPECT_FALSE(calls[2].Underline) << "the label's underline ends with the label";
     EXPECT_EQ(calls[2].ForeColor, 0x123456U);
+    EXPECT_TRUE(calls[2].Bold);
+    EXPECT_FALSE(calls[3].Bold) << "nor is the price bold after its quantity";
+    EXPECT_TRUE(calls[4].Italic);
 }
 
 /// Each of twelve characters measures 100, so a right-aligned text begins 1200 left of its field's right
@@ -278,12 +320,17 @@ TEST(PrintTheForm, MakesOneDocumentOfAPageAndPutsThePrintersFontBack) {
     page.lbl.resize(1);
     page.lbl[0].Caption = "label";
     page.lbl[0].FontBold = page.lbl[0].FontItalic = page.lbl[0].FontUnderline = true;
+    page.lbl[0].FontName = "Arial";
+    bare.Paper().Font = "Courier New";
+    bare.Paper().FontSize = 7;
     modPrint::PrintTheForm(bare.program, PageId::frmP2);
     ASSERT_EQ(bare.Paper().Documents.size(), 1U);
     const auto& calls = bare.Paper().Documents[0];
     ASSERT_EQ(calls.size(), 2U);
     EXPECT_EQ(calls[0].Op, What::Print);
     EXPECT_EQ(calls[1].Op, What::EndDoc);
+    EXPECT_EQ(calls[1].Font, "Courier New") << "the label's font ends with the page";
+    EXPECT_EQ(calls[1].FontSize, 7);
     EXPECT_EQ(bare.surroundings.events.Yields, 1);
     EXPECT_EQ(bare.Paper().Font, "Arial");
     EXPECT_EQ(bare.Paper().FontSize, 11);

@@ -180,6 +180,20 @@ TEST(TextExport, EveryPageInUseBringsItsRows) {
     }
 }
 
+TEST(TextExport, APageWithNothingButAQuantityIsInUse) {
+    JustNamed run;
+    run.Fill(PageId::frmP2, 0, "Lights");
+    const std::string without = run.Exported();
+    person::TurnTo(run.program, 3);
+    run.typist.Click(PageId::frmP4, 0);
+    run.typist.Press(keys::kF8);
+    run.typist.Type("3");
+    const std::string with = run.Exported();
+    // Both pages more of 33 lines each.
+    EXPECT_EQ(std::count(with.begin(), with.end(), '\n') - std::count(without.begin(), without.end(), '\n'),
+              66);
+}
+
 TEST(TextExport, ABoldRowIsAMainCategoryWithARuleOfHalfLength) {
     JustNamed run;
     run.Fill(PageId::frmP1, 10, "Ceremony");
@@ -245,6 +259,19 @@ TEST(TextExport, WithoutAClientTheNameIsAskedForAndNothingIsWritten) {
     modExport::mnuFileSaveAsText_Click(run.program);
     EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 2}));
     EXPECT_FALSE(files::Exists(run.folder / "Proposals/.txt"));
+}
+
+TEST(TextExport, UnderANameThatNoFileCanHaveNothingIsWrittenAndTheNameIsAskedFor) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Tom / Lee");
+    person::TurnTo(run.program, 2);
+    run.surroundings.questions.Expect("Action Cancelled. File Name cannot include any of ");
+    modExport::mnuFileSaveAsText_Click(run.program);
+    EXPECT_EQ(run.program.main.PageInFront, PageId::frmP1);
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 2}));
+    EXPECT_FALSE(run.folder.Has("Error.log")) << "no write was tried";
 }
 
 TEST(TextExport, ATextThatIsThereIsReplacedOnlyAfterAYes) {
@@ -500,6 +527,13 @@ TEST(DocumentExport, APersonsNameThatNoFileCanHaveIsMendedForTheDocument) {
     EXPECT_EQ(run.surroundings.words.Word.Name, "Proposal");
 }
 
+TEST(DocumentExport, ALongNameIsCutAndEndsInNoBlank) {
+    JustNamed run;
+    run.program.document.BaseName = std::string(199, 'x') + " and others";
+    modExport::mnuFileSaveToWord_Click(run.program);
+    EXPECT_EQ(run.surroundings.words.Word.Name, std::string(199, 'x'));
+}
+
 TEST(DocumentExport, HandsTheLinesToANewDocumentAndTellsItsPath) {
     JustNamed run;
     modExport::mnuFileSaveToWord_Click(run.program);
@@ -520,6 +554,16 @@ TEST(DocumentExport, WithoutAProgramForDocumentsTheMessageNamesThePath) {
                                       "SpellCheck.\r\n\r\nThe document was written to "
                                       "/home/user/Documents/Jane Roe.odt");
     modExport::mnuFileSaveToWord_Click(run.program);
+}
+
+TEST(DocumentExport, WhereNoDocumentCanBeMadeAtAllItIsSaid) {
+    JustNamed run;
+    run.surroundings.words.Installed = false;
+    run.surroundings.questions.ExpectBox(
+        {"Cannot find Microsoft Word which is necessary to perform SpellCheck.", Buttons::Ok, ""},
+        Answer::Ok);
+    modExport::mnuFileSaveToWord_Click(run.program);
+    EXPECT_TRUE(run.surroundings.words.Word.Verbs.empty());
 }
 
 TEST(DocumentExport, ADocumentThatCannotBeWrittenIsReported) {

@@ -8,6 +8,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iterator>
+#include <memory>
 
 namespace {
 
@@ -28,6 +30,14 @@ TEST(TextFile, TellsUtf8FromTheProgramsOwnCharacters) {
     EXPECT_EQ(modExport::DecodeTextFile("ab\xE2\x82"), "ab\xC3\xA2\xE2\x80\x9A") << "nor is one cut short";
 }
 
+TEST(TextFile, TakesTheFirstSequenceOfEveryLengthAndNoLongerFormOfIt) {
+    EXPECT_EQ(modExport::DecodeTextFile("\xC2\xA9 2008"), "\xC2\xA9 2008");
+    EXPECT_EQ(modExport::DecodeTextFile("\xF0\x90\x80\x80"), "\xF0\x90\x80\x80");
+    EXPECT_EQ(modExport::DecodeTextFile("\xF1\x80\x80\x80"), "\xF1\x80\x80\x80");
+    EXPECT_EQ(modExport::DecodeTextFile("\xF0\x8F\x80\x80"), "\xC3\xB0\xC2\x8F\xE2\x82\xAC\xE2\x82\xAC")
+        << "too long for what it says: four characters of the program's own";
+}
+
 TEST(TextFile, TakesEveryKindOfLineEnd) {
     EXPECT_EQ(modExport::DecodeTextFile("a\r\nb\rc\nd\r"), "a\nb\nc\nd\n");
 }
@@ -46,6 +56,20 @@ TEST(TextFile, ShowsInAWindowOfItsOwnAndLeavesTheProposalAlone) {
     EXPECT_EQ(run.surroundings.clipboard.Unicode, "one\ntwo");
     window->cmdCopy_Click(run.program, "two");
     EXPECT_EQ(run.surroundings.clipboard.Unicode, "two");
+}
+
+TEST(TextFile, ItsWindowClosesByItsButtonAndByEscape) {
+    RunningProgram run;
+    const auto open = [&]() -> frmTextFile& {
+        return dynamic_cast<frmTextFile&>(
+            modWindows::Show(run.program, std::make_unique<frmTextFile>("Notes.txt", "one")));
+    };
+    open().cmdClose_Click(run.program);
+    modWindows::Sweep(run.program);
+    EXPECT_EQ(modWindows::Find(run.program, "frmTextFile"), nullptr);
+    open().Form_Cancel(run.program);
+    modWindows::Sweep(run.program);
+    EXPECT_EQ(modWindows::Find(run.program, "frmTextFile"), nullptr);
 }
 
 TEST(TextFile, AFileThatIsGoneIsReported) {
@@ -79,14 +103,22 @@ TEST(TextFile, PrintsWrappedAtBlanks) {
 TEST(TextFile, ALongTextTakesMorePages) {
     RunningProgram run; // 72 lines of 200 twips between the margins
     std::string text;
-    for (int line = 0; line < 73; ++line) {
+    for (int line = 0; line < 72; ++line) {
         text += "line\n";
     }
+    const auto isNewPage = [](const DrawCall& call) { return call.Op == DrawCall::What::NewPage; };
     Printed(run, text);
+    const auto& whole = run.surroundings.printers.Paper.Documents.back();
+    EXPECT_TRUE(std::none_of(whole.begin(), whole.end(), isNewPage));
+    Printed(run, text + "last");
     const auto& calls = run.surroundings.printers.Paper.Documents.back();
-    EXPECT_EQ(std::count_if(calls.begin(), calls.end(),
-                            [](const DrawCall& call) { return call.Op == DrawCall::What::NewPage; }),
-              1);
+    EXPECT_EQ(std::count_if(calls.begin(), calls.end(), isNewPage), 1);
+    const auto last =
+        std::find_if(calls.begin(), calls.end(), [](const DrawCall& call) { return call.Text == "last"; });
+    ASSERT_NE(last, calls.end());
+    EXPECT_TRUE(isNewPage(*std::prev(last)));
+    EXPECT_EQ(last->X, 720);
+    EXPECT_EQ(last->Y, 720) << "at the top of the next page";
 }
 
 TEST(TextFile, WhatThePageCannotHaveIsToldBeforeItPrints) {
@@ -95,6 +127,10 @@ TEST(TextFile, WhatThePageCannotHaveIsToldBeforeItPrints) {
     frmTextFile window("Notes.txt", "\xE4\xB8\xAD");
     window.cmdPrint_Click(run.program);
     EXPECT_TRUE(run.surroundings.printers.Paper.Documents.empty());
+    run.surroundings.questions.Expect("2 characters of this text cannot be printed", Answer::Ok);
+    EXPECT_EQ(Printed(run, "a\xE4\xB8\xAD"
+                           "b\xE2\x82\xAC\xE4\xB8\xAD"),
+              std::vector<std::string>{"a?b\x80?"});
 }
 
 TEST(TextPrint, SetsItsOwnFontWhateverThePrinterWasLeftWith) {
@@ -137,6 +173,18 @@ TEST(TextPrint, EveryLineStandsAtItsOwnPlaceWhereverThePrinterWasLeft) {
         }
     }
     EXPECT_EQ(top, 720 + 3 * 200);
+}
+
+TEST(TextPrint, IsOneCommandThatBearsTheTextsName) {
+    RunningProgram run;
+    modPrint::PrintText(run.program, "Notes.txt", "one");
+    const RecordingPrinters& printers = run.surroundings.printers;
+    ASSERT_EQ(printers.Commands.size(), 1U);
+    EXPECT_EQ(printers.Commands[0].SuggestedFile, run.folder / "Proposals/Notes.txt.pdf");
+    EXPECT_EQ(printers.Named, (std::vector<std::pair<std::string, int>>{{"Notes.txt", 0}}));
+    EXPECT_EQ(printers.Ended, 1);
+    modPrint::PrintText(run.program, "Notes.txt", "one");
+    EXPECT_EQ(printers.Ended, 2) << "the next one goes through";
 }
 
 TEST(TextPrint, WithoutAPrinterItIsSaid) {

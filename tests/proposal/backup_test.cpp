@@ -186,6 +186,20 @@ TEST(Backup, WithoutANameIsKeptLoggedOnceAndToldInTheStripOnce) {
     EXPECT_EQ(run.Main().Caption, "Quillbrook");
 }
 
+TEST(Backup, WithoutANameIsToldAgainWhenTheNameHasGoneAgain) {
+    Working run;
+    run.Fill(PageId::frmP1, 10, kTwentyKeys);
+    run.Fill(PageId::frmP1, 2, "Ann");
+    modFile::BackupThisFile(run.program);
+    ASSERT_TRUE(run.folder.Has("Proposals/Backup/Ann.hef"));
+    EXPECT_EQ(run.program.document.BackupTrouble, "") << "all is well";
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "");
+    run.program.main.Notice.clear();
+    modFile::BackupThisFile(run.program);
+    EXPECT_EQ(run.program.main.Notice,
+              "The proposal has no client's name yet. Its backup is called (no client's name).hef");
+}
+
 TEST(Backup, OfANewProposalThatNobodyHasTypedInIsNotKept) {
     Working run;
     modFile::BackupThisFile(run.program);

@@ -1,10 +1,13 @@
 #include "base/dates.h"
 #include "base/files.h"
+#include "pages/logo.h"
 #include "program/windows.h"
 #include "proposal/backup.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
+#include "proposal/property_file.h"
 #include "proposal/proposal_save.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -75,6 +78,7 @@ TEST(Chooser, TakesUpAProposalThatWasKeptWithoutAClientsName) {
     Typist typist(run.program);
     typist.Click(PageId::frmP1, 10);
     typist.Type("twelve sandwiches");
+    run.folder.Write("Proposals/(no client's name).hxt", "notes");
     modFile::BackupThisFile(run.program);
     run.surroundings.questions.Expect("Some text has been changed.", Answer::No);
     frmFile& window = run.Show();
@@ -86,7 +90,12 @@ TEST(Chooser, TakesUpAProposalThatWasKeptWithoutAClientsName) {
     EXPECT_EQ(document.FileName, "");
     EXPECT_FALSE(document.FileExists);
     EXPECT_FALSE(document.FromBackup);
+    EXPECT_EQ(document.SavedFile, files::Seen{}) << "it has no file of its own";
     EXPECT_EQ(document.FilePath, run.Data());
+    EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + run.Data());
+    EXPECT_EQ(run.Main().Caption, "Quillbrook");
+    EXPECT_EQ(run.Main().imgFootNotes.Picture, 0) << "another's footnotes lie under that name";
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
     EXPECT_TRUE(modProposal::SomethingChanged(run.program));
     typist.Click(PageId::frmP1, 2);
     typist.Type("Zed");
@@ -110,6 +119,149 @@ TEST(Chooser, NamesOneThatNoFileCouldNameAfterItsClient) {
     window.cmdOpenOK_Click(run.program);
     EXPECT_EQ(run.program.document.FileName, "Tom / Lee.hef");
     EXPECT_EQ(run.program.document.ClientCaption, "Proposal for Tom / Lee");
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Tom / Lee");
+}
+
+TEST(Chooser, TheLayoutKeptWithAProposalWithoutANameIsUnsavedToo) {
+    Choosing run;
+    run.folder.Write("Proposals/Backup/(no client's name).hef", ReadTestData("jane_roe/Jane Roe.hef"));
+    run.folder.Write("Proposals/Backup/(no client's name).hpf", "frmP1.txt(10).FontBold=True\r\n");
+    frmFile& window = run.Show();
+    run.Enter(window, "Backup");
+    run.Select(window, "(no client's name).hef");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_TRUE(run.Area(PageId::frmP1, 10).FontBold);
+    EXPECT_TRUE(modFile::PropertiesChanged(run.program));
+}
+
+TEST(Chooser, ADriveIsEveryVolumeThatIsMounted) {
+    Choosing run;
+    run.folder.MakeFolder("mnt/Stick");
+    run.folder.MakeFolder("mnt/Disk");
+    run.folder.Write("mnt/Stick/Far.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+    run.program.folders.Drives.MountPlaces = {run.folder / "mnt"};
+    frmFile& window = run.Show();
+    EXPECT_EQ(window.Drive1.Items,
+              (std::vector<std::string>{"/", run.folder / "Home/", run.folder / "mnt/Disk/",
+                                        run.folder / "mnt/Stick/"}));
+    EXPECT_EQ(window.Drive1.ListIndex, 0) << "the proposals lie on none of them";
+    window.Drive1_Change(run.program, 3);
+    EXPECT_EQ(window.Folder, run.folder / "mnt/Stick/");
+    EXPECT_EQ(window.Drive1.ListIndex, 3);
+    EXPECT_EQ(window.FileList1.Items, std::vector<std::string>{"Far.hef"});
+}
+
+TEST(Chooser, AFileOfTheSameNameInAnotherFolderIsNotChosen) {
+    Choosing run;
+    run.folder.Write("Proposals/2008/Ann.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+    frmFile& window = run.Show();
+    run.Select(window, "Ann.hef");
+    run.Enter(window, "2008");
+    EXPECT_EQ(window.FileList1.Items, std::vector<std::string>{"Ann.hef"});
+    EXPECT_FALSE(window.picFileOpen);
+    EXPECT_EQ(window.FileList1.ListIndex, -1);
+}
+
+TEST(Chooser, AListOfTermsThatIsChosenStaysInUseWhateverIsOpenedNext) {
+    Choosing run;
+    run.folder.Write("Proposals/Mine.fut", "Chair covers\r\n");
+    int read = 0;
+    run.program.hooks.ReadFrequentlyUsedTerms = [&](Program&) { ++read; };
+    run.program.document.FileFilter = "*.fut";
+    auto& window = dynamic_cast<frmFile&>(modWindows::Show(run.program, std::make_unique<frmFile>()));
+    run.Select(window, "Mine.fut");
+    window.cmdOpenOK_Click(run.program);
+    modWindows::Sweep(run.program);
+    EXPECT_EQ(modWindows::Find(run.program, "frmFile"), nullptr);
+    EXPECT_EQ(run.program.run.FUTFileName, "Mine.fut");
+    EXPECT_EQ(read, 1);
+    frmFile& opening = run.Show();
+    run.Select(opening, "Ann.hef");
+    opening.cmdOpenOK_Click(run.program);
+    EXPECT_EQ(run.program.run.FUTFileName, "Mine.fut");
+}
+
+struct ChoosingAFormat : Choosing {
+    /// Opens a format of those lines from the chooser.
+    void OpenFormat(const std::string& name, const std::string& lines) {
+        folder.Write("Proposals/" + name, lines);
+        program.document.FileFilter = "*.fmt";
+        auto& window = dynamic_cast<frmFile&>(modWindows::Show(program, std::make_unique<frmFile>()));
+        Select(window, name);
+        window.cmdOpenOK_Click(program);
+    }
+};
+
+TEST(Chooser, AFormatTakesTheWordsOfTheOneBeforeAway) {
+    ChoosingAFormat run;
+    run.program.format.OverwriteFormatText = false; // a format's texts are protected
+    run.OpenFormat("Fixed.fmt", "frmP2.txt(3).Text=Chair covers\r\n");
+    modWindows::Sweep(run.program);
+    ASSERT_EQ(run.TextOf(PageId::frmP2, 3), "Chair covers");
+    person::TurnTo(run.program, 1);
+    run.OpenFormat("Other.fmt", "frmP2.txt(4).Text=Lights\r\n");
+    EXPECT_EQ(modWindows::Find(run.program, "frmFile"), nullptr);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), "");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 4), "Lights");
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 0}));
+}
+
+TEST(Chooser, AFormatThatIsRefusedLeavesTheDefaultOneSwitchedOn) {
+    ChoosingAFormat run;
+    run.program.settings.LoadDefaultFormat = true;
+    run.program.format.EditingFormat = true;
+    run.surroundings.questions.Expect("Proceeding with this action will end the editing session", Answer::No);
+    run.surroundings.questions.Expect("Resume Editing.");
+    run.OpenFormat("Mine.fmt", "");
+    EXPECT_TRUE(run.program.settings.LoadDefaultFormat);
+    EXPECT_FALSE(run.program.format.FormatOpen);
+    EXPECT_NE(modWindows::Find(run.program, "frmFile"), nullptr);
+}
+
+TEST(Chooser, AnOpenedProposalHasTheKeyboardInItsFirstField) {
+    Choosing run;
+    frmFile& window = run.Show();
+    run.Select(window, "Jane Roe.hef");
+    person::TurnTo(run.program, 2);
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 0}));
+}
+
+TEST(Chooser, ATextThatIsChosenIsHandedOnByItsPathAndTheWindowCloses) {
+    Choosing run;
+    std::string read;
+    run.program.hooks.ReadTextFile = [&](Program&, const std::string& path) { read = path; };
+    modProposal::mnuFileOpenTextFile_Click(run.program);
+    auto& window = dynamic_cast<frmFile&>(*modWindows::Find(run.program, "frmFile"));
+    run.Select(window, "notes.txt");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_EQ(read, run.folder / "Proposals/notes.txt");
+    EXPECT_EQ(modWindows::Find(run.program, "frmFile"), nullptr);
+}
+
+TEST(Chooser, ALogoLargerThanItsMostIsToldWithItsSize) {
+    Choosing run;
+    run.folder.Write("Proposals/large.png", "x");
+    run.folder.Write("Proposals/small.png", "x");
+    run.surroundings.pictures.Known[run.folder / "Proposals/large.png"] = {21600, 4320};
+    run.surroundings.pictures.Known[run.folder / "Proposals/small.png"] = {10800, 4320};
+    for (const char* name : {"large.png", "small.png"}) {
+        run.program.document.FileFilter = kPictureFiles;
+        auto& window = dynamic_cast<frmFile&>(modWindows::Show(run.program, std::make_unique<frmFile>()));
+        run.Select(window, name);
+        if (name == std::string("large.png")) {
+            run.surroundings.questions.ExpectBox(
+                {"The picture is 15.0 by 3.0 inches large. It is shown and printed scaled down to 7.5 by 3.0 "
+                 "inches at most.",
+                 Buttons::Ok, ""},
+                Answer::Ok);
+        }
+        window.cmdOpenOK_Click(run.program);
+        modWindows::Sweep(run.program);
+        EXPECT_EQ(modWindows::Find(run.program, "frmFile"), nullptr);
+        EXPECT_EQ(run.program.main.Notice, modLogo::kNotInTheProposal);
+        EXPECT_EQ(run.program.format.LogoPath, run.folder / ("Proposals/" + std::string(name)));
+    }
 }
 
 TEST(Chooser, HidesThePropertiesBoxWhileAFormatIsEdited) {
@@ -498,6 +650,8 @@ TEST(ChooserFilter, LeavesOutNamesWithoutItsCharactersInAnyCase) {
     window.txtFilter_Change(run.program, "B");
     EXPECT_EQ(window.FileList1.Items, Sorting::Names{"bob.hef"});
     EXPECT_EQ(window.FileSizes, Sorting::Names{"1 byte"});
+    EXPECT_EQ(window.FileDates,
+              Sorting::Names{dates::GeneralDate(files::ModifiedSerial(run.Data() + "bob.hef"))});
     window.txtFilter_Change(run.program, "zz");
     EXPECT_TRUE(window.FileList1.Items.empty());
     window.txtFilter_Change(run.program, "");

@@ -1,10 +1,12 @@
 #include "base/colors.h"
 #include "base/seen.h"
+#include "program/keys.h"
 #include "program/windows.h"
 #include "proposal/backup.h"
 #include "proposal/file_names.h"
 #include "proposal/frm_file.h"
 #include "proposal/lifecycle.h"
+#include "proposal/property_file.h"
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
 #include "support/failing_disk.h"
@@ -131,6 +133,15 @@ TEST(AskingToSave, AChangedPropertyAsksToo) {
     run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
     run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::No);
     EXPECT_TRUE(modProposal::MayGoOn(run.program));
+}
+
+TEST(AskingToSave, WhatWasTypedIntoTheLabelWindowCounts) {
+    Living run;
+    run.program.hooks.CloseLabelWindow = [](Program& program) {
+        program.format.LabelSavedState[PageId::frmP1][9].Changed = true;
+    };
+    run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::Cancel);
+    EXPECT_FALSE(modProposal::MayGoOn(run.program));
 }
 
 TEST(AskingToSave, NewWithCancelChangesNothing) {
@@ -308,6 +319,25 @@ private:
     std::string& nameThen_;
 };
 
+/// A window with work about the proposal that its person does not want to leave.
+class StayingWindow : public Window {
+public:
+    [[nodiscard]] std::string_view Name() const override { return "frmStaying"; }
+    [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }
+    [[nodiscard]] bool BelongsToProposal() const override { return true; }
+    [[nodiscard]] bool MayLeave(Program&, Leaving) override { return false; }
+};
+
+TEST(AskingToSave, IsNotEvenDoneWhileAWindowBesideTheProposalMustStay) {
+    Living run;
+    run.Touch();
+    modWindows::Show(run.program, std::make_unique<StayingWindow>());
+    EXPECT_FALSE(modProposal::MayGoOn(run.program));
+    EXPECT_TRUE(run.surroundings.questions.Shown.empty());
+    modProposal::mnuFileNew_Click(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP1, 10), "x");
+}
+
 TEST(Reset, WindowsAboutTheProposalCloseBeforeItsNameGoes) {
     Living run;
     std::string nameThen = "not closed";
@@ -315,6 +345,33 @@ TEST(Reset, WindowsAboutTheProposalCloseBeforeItsNameGoes) {
     modWindows::Show(run.program, std::make_unique<BesideWindow>(nameThen));
     static_cast<void>(modReset::StartNewFile(run.program));
     EXPECT_EQ(nameThen, "Jane Roe.hef");
+}
+
+TEST(Reset, WhatIsInHandIsSettledWhileTheProposalStillStands) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    run.Touch();
+    std::vector<std::string> names;
+    std::vector<std::string> texts;
+    run.program.hooks.CloseLabelWindow = [&](Program& program) {
+        names.push_back(program.document.FileName);
+    };
+    run.program.hooks.DeSelectAllControls = [&](Program&) { texts.push_back(run.TextOf(PageId::frmP1, 10)); };
+    static_cast<void>(modReset::StartNewFile(run.program));
+    ASSERT_FALSE(names.empty());
+    EXPECT_EQ(names.front(), "Jane Roe.hef") << "what is typed of a label is that proposal's";
+    ASSERT_FALSE(texts.empty());
+    EXPECT_EQ(texts.front(), "x") << "a selection ends before its text goes";
+}
+
+TEST(Reset, AFormatFindsTheTitleInTheMiddleOfThePage) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    float left = 0;
+    run.program.hooks.OpenFormatFile = [&](Program&) { left = run.Label(PageId::frmP1, 33).Left; };
+    run.program.format.FormatOpen = true;
+    static_cast<void>(modReset::StartNewFile(run.program));
+    EXPECT_EQ(left, 6120 - 1400) << "28 characters of 100 twips";
 }
 
 const ScriptedQuestions::Box kFormatQuestion{
@@ -361,9 +418,52 @@ TEST(SaveAs, AsksForANameAndSavesUnderIt) {
     EXPECT_EQ(run.program.document.TextFileName, "Second.txt");
     EXPECT_EQ(run.Main().Caption, "Quillbrook - File Name = Second.hef");
     EXPECT_FALSE(run.program.document.SaveAsActive);
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
     // A proposal without properties of its own keeps the font it was written in.
     EXPECT_EQ(run.folder.Read("Proposals/Second.hpf"),
               "UDP.FontName=Times New Roman .FontSize=10 .FontColor=0 .FontItalic=False\r\n");
+}
+
+TEST(SaveAs, BringsTheFiguresUpToDateBeforeItAsks) {
+    Living run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 20);
+    typist.Type("100");
+    typist.Click(PageId::frmP1, 2);
+    run.Area(PageId::frmP6, 0).Text = "stale";
+    run.surroundings.questions.ExpectInput("Saving File As...", "");
+    run.surroundings.questions.Expect("No name entered.");
+    modProposal::SaveEventFileAs(run.program);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "100.00");
+}
+
+TEST(SaveAs, TheLayoutThatGoesAlongHasTheNewTitle) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    std::vector<std::string> titles;
+    run.program.hooks.AssignPropChanges = [&](Program&) {
+        titles.push_back(run.Label(PageId::frmP1, 33).Caption);
+    };
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
+    run.surroundings.questions.ExpectInput("Saving File As...", "Second");
+    run.surroundings.questions.Expect("File was saved as Second.hef");
+    modProposal::SaveEventFileAs(run.program);
+    EXPECT_EQ(titles, (std::vector<std::string>{"Proposal for Second", "Proposal for Second"}));
+}
+
+TEST(SaveAs, OfAProposalWithoutANameThatCannotBeWrittenLeavesItWithoutOne) {
+    Living run;
+    run.Touch();
+    run.folder.MakeFolder("Proposals/Second.hef");
+    run.surroundings.questions.ExpectInput("Saving File As...", "Second");
+    run.surroundings.questions.Expect("An error occurred in SaveEventFile.");
+    modProposal::mnuFileSaveAs_Click(run.program);
+    const DocumentState& document = run.program.document;
+    EXPECT_EQ(document.BaseName, "");
+    EXPECT_EQ(document.FileName, "");
+    EXPECT_EQ(document.FootnoteFile, "");
+    EXPECT_EQ(document.DepositFile, "");
+    EXPECT_FALSE(document.FileExists);
 }
 
 TEST(SaveAs, WithoutANameNothingIsSaved) {
@@ -461,6 +561,24 @@ TEST(FileNames, EightCharactersAreRefusedWithOneMessage) {
     EXPECT_FALSE(modNames::IllegalFileName(run.program, ""));
 }
 
+TEST(FileNames, OfTwoHundredAndThirtyBytesOnTheDiskAreTheLongest) {
+    const Living run;
+    EXPECT_TRUE(modNames::CanBeAFile(std::string(226, 'x') + ".hef"));
+    EXPECT_FALSE(modNames::CanBeAFile(std::string(227, 'x') + ".hef"));
+    // An e with an acute accent takes two there.
+    EXPECT_TRUE(modNames::CanBeAFile(std::string(113, '\xE9') + ".hef"));
+    EXPECT_FALSE(modNames::CanBeAFile(std::string(114, '\xE9') + ".hef"));
+}
+
+TEST(FileNames, AnEmptiedClientLeavesTheTextItsName) {
+    Living run;
+    run.TypeClient("J");
+    EXPECT_EQ(run.program.document.TextFileName, "J.txt");
+    Typist(run.program).Press(keys::kBackspace);
+    EXPECT_EQ(run.program.document.FileName, ".hef");
+    EXPECT_EQ(run.program.document.TextFileName, "J.txt");
+}
+
 TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesNothing) {
     Living run;
     run.folder.Write("Proposals/Jane Roe.hef", "older");
@@ -474,6 +592,19 @@ TEST(FileNames, TheDuplicateQuestionTellsTheFilesTimeAndYesDeletesNothing) {
     EXPECT_TRUE(box.Text.ends_with("\r\n\r\nwith this one?"));
     EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hef"), "older");
     EXPECT_FALSE(run.program.document.Cancelled);
+}
+
+TEST(SaveAs, PropertiesThatCannotBeWrittenStayUnsaved) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    run.folder.MakeFolder("Proposals/Second.hpf");
+    run.surroundings.questions.ExpectInput("Saving File As...", "Second");
+    run.surroundings.questions.Expect("File was saved as Second.hef");
+    run.surroundings.questions.Expect("An error occurred in SavePropertyFile.");
+    modProposal::mnuFileSaveAs_Click(run.program);
+    EXPECT_TRUE(modFile::PropertiesChanged(run.program));
+    run.surroundings.questions.ExpectBox(kSaveQuestion, Answer::Cancel);
+    EXPECT_FALSE(modProposal::MayGoOn(run.program)) << "they are asked about when the proposal is left";
 }
 
 TEST(Delete, AsksAndLeavesEverythingOnNo) {
@@ -499,6 +630,7 @@ TEST(Delete, TakesTheFilesOfItsNameAndStartsAnew) {
     }
     EXPECT_TRUE(run.folder.Has("Proposals/Jane Roe.old"));
     EXPECT_TRUE(run.folder.Has("Proposals/Jane Roes.hpf"));
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 0}));
     EXPECT_EQ(run.TextOf(PageId::frmP1, 2), "");
     EXPECT_FALSE(run.program.document.FileExists);
 }
@@ -709,13 +841,48 @@ TEST(Backup, RestoringBringsTheLayoutAlongAndFollowsItsFile) {
     run.folder.Write("Proposals/Backup/Jane Roe.hpf", "frmP1.txt(10).FontBold=True\r\n");
     run.OpenBackup("Jane Roe.hef");
     run.program.document.FolderOnShow = "elsewhere";
+    run.folder.Write("Proposals/Backup/Jane Roe.hpf", "frmP1.txt(12).FontBold=True\r\n"); // a newer one
     modProposal::mnuFileRestoreFromBackup_Click(run.program);
-    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hpf"), "frmP1.txt(10).FontBold=True\r\n");
+    EXPECT_EQ(run.folder.Read("Proposals/Jane Roe.hpf"), "frmP1.txt(12).FontBold=True\r\n");
     EXPECT_EQ(run.program.format.PropertyPath, run.Data() + "Jane Roe.hpf");
-    EXPECT_EQ(run.program.format.PropertySeen, files::SeenIn("frmP1.txt(10).FontBold=True\r\n"));
+    EXPECT_EQ(run.program.format.PropertySeen, files::SeenIn("frmP1.txt(12).FontBold=True\r\n"));
     EXPECT_EQ(run.program.document.FolderOnShow, run.Data());
     EXPECT_FALSE(run.program.document.HasNotes);
     EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Jane Roe");
+}
+
+TEST(Backup, RestoringLooksForTheFootnotesOfTheMomentAndLaysTheTitle) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    modFile::BackupThisFile(run.program);
+    run.folder.Write("Proposals/Jane Roe.hxt", "notes");
+    run.OpenBackup("Jane Roe.hef");
+    EXPECT_TRUE(run.program.document.HasNotes);
+    std::filesystem::remove(run.folder / "Proposals/Jane Roe.hxt");
+    run.Label(PageId::frmP1, 33).Caption = "spoilt";
+    modProposal::mnuFileRestoreFromBackup_Click(run.program);
+    EXPECT_FALSE(run.program.document.HasNotes);
+    EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, "Proposal for Jane Roe");
+}
+
+TEST(Backup, SavingOneAmongTheProposalsMovesItThereAndANoLeavesItWhereItIs) {
+    Living run;
+    run.SaveAs("Jane Roe");
+    modFile::BackupThisFile(run.program);
+    run.OpenBackup("Jane Roe.hef");
+    run.surroundings.questions.Expect("A file with this name (Jane Roe.hef)", Answer::No);
+    run.surroundings.questions.Expect("File not saved.");
+    modProposal::mnuFileSaveEvent_Click(run.program);
+    EXPECT_TRUE(run.program.document.FileExists);
+    EXPECT_TRUE(run.program.document.FromBackup);
+    EXPECT_EQ(run.program.document.FilePath, run.folder / "Proposals/Backup/");
+    EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + (run.folder / "Proposals/Backup/"));
+    run.surroundings.questions.Expect("A file with this name (Jane Roe.hef)", Answer::Yes);
+    run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
+    modProposal::mnuFileSaveEvent_Click(run.program);
+    EXPECT_EQ(run.program.document.FilePath, run.Data());
+    EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + run.Data());
+    EXPECT_FALSE(run.program.document.FromBackup);
 }
 
 TEST(New, FromALaterPageBeginsInTheFirstFieldOfTheFirst) {

@@ -331,6 +331,81 @@ TEST(OpeningAProposal, OfAWholeOrAnOlderLengthSaysNothing) {
     }
 }
 
+TEST(OpeningAProposal, ReadsAsFarAsTheFieldsGo) {
+    RunningProgram run;
+    run.Area(PageId::frmP1, 2).Tag = "Name.960"; // 900 more than it has
+    run.folder.Write("Proposals/A.hef", FileWith({{20490 + 900, "30.00"}}, 20630 + 900));
+    ASSERT_EQ(modFile::OpenEventFile(run.program, "A.hef"), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 4), "30.00");
+}
+
+TEST(OpeningAProposal, OfMoreThanItsFieldsHoldIsKnownByAllOfIt) {
+    RunningProgram run;
+    const std::string bytes = FileWith({{50, "Ann"}, {20650, "more"}}, 20700);
+    ASSERT_EQ(Open(run, bytes), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.program.document.SavedFile, files::SeenIn(bytes));
+    run.surroundings.questions.Expect("File was saved as A.hef"); // nobody has changed it meanwhile
+    EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::Saved);
+}
+
+TEST(OpeningAProposal, RowsWithoutColumnsHaveThePlaceholdersOfTheirPage) {
+    RunningProgram run;
+    ASSERT_EQ(Open(run, FileWith({{530, "\xA5"
+                                        "3\xA5"
+                                        "Arch\xA7"
+                                        "7"},
+                                  {1930, "\xA5"
+                                         "4\xA5"
+                                         "Chairs\xA7"
+                                         "8"}})),
+              modFile::OpenResult::Opened);
+    EXPECT_EQ(run.program.pages[PageId::frmP1].txtQty[10].Text, "3");
+    EXPECT_EQ(run.program.pages[PageId::frmP2].txtAmt[0].Text, "8");
+    run.folder.Write("Proposals/B.hef", FileWith({{530, "Arch"}, {1930, "Chairs"}}));
+    ASSERT_EQ(modFile::OpenEventFile(run.program, "B.hef"), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.program.pages[PageId::frmP1].txtQty[10].Text, "");
+    EXPECT_EQ(run.program.pages[PageId::frmP1].txtAmt[10].Text, "");
+    EXPECT_EQ(run.program.pages[PageId::frmP2].txtQty[0].Text, "Qty.");
+    EXPECT_EQ(run.program.pages[PageId::frmP2].txtAmt[0].Text, "Amt.");
+}
+
+TEST(OpeningAProposal, CountsNothingOfWhatStoodBefore) {
+    RunningProgram run;
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 20}, "100");
+    run.folder.Write("Proposals/A.hef", FileWith({{1750, "7"}}));
+    ASSERT_EQ(modFile::OpenEventFile(run.program, "A.hef"), modFile::OpenResult::Opened);
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "7.00");
+    EXPECT_EQ(run.TextOf(PageId::frmP6, 1), "7.00");
+}
+
+TEST(OpeningAProposal, BringsTheTermsOfItsKind) {
+    RunningProgram run;
+    std::vector<std::string> read;
+    run.program.hooks.ReadFrequentlyUsedTerms = [&](Program& program) {
+        read.push_back(program.run.FUTFileName);
+    };
+    ASSERT_EQ(Open(run, FileWith({{20628, "1"}})), modFile::OpenResult::Opened);
+    EXPECT_EQ(read, std::vector<std::string>{"Wedding Terms.fut"});
+}
+
+TEST(OpeningAProposal, OfTheSampleHidesTheLogoBeforeItsPageShows) {
+    RunningProgram run;
+    const std::string picture = run.folder / "logo.png";
+    run.folder.Write("logo.png", "x");
+    run.surroundings.pictures.Known[picture] = {1500, 900};
+    run.program.settings.LogoFile = picture;
+    run.program.settings.LogoVisible = true;
+    static_cast<void>(modReset::StartNewFile(run.program));
+    ASSERT_EQ(run.program.pages[PageId::frmP1].pic.Tag, "");
+    std::string tag = "no page was shown";
+    run.program.hooks.UpdatePageButtons = [&](Program& program, int) {
+        tag = program.pages[PageId::frmP1].pic.Tag;
+    };
+    run.folder.Write("Proposals/John Doe.hef", FileWith({}));
+    ASSERT_EQ(modFile::OpenEventFile(run.program, "John Doe.hef"), modFile::OpenResult::Opened);
+    EXPECT_EQ(tag, "Hide");
+}
+
 TEST(OpeningAProposal, AGigabyteOfNulsCostsOnlyWhatTheLayoutNeeds) {
     RunningProgram run;
     run.folder.Write("Proposals/Big.hef", "");
@@ -343,9 +418,11 @@ TEST(SavingAProposal, WithoutAClientAsksForTheName) {
     for (const char* name : {"", ".hef"}) {
         RunningProgram run;
         run.program.document.FileName = name;
+        person::TurnTo(run.program, 2);
         run.surroundings.questions.Expect(
             "Please enter the client's name in the appropriate area and save again.");
         EXPECT_EQ(modFile::SaveEventFile(run.program), modFile::SaveResult::NotSaved);
+        EXPECT_EQ(run.program.main.PageInFront, PageId::frmP1);
         EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 2}));
     }
 }

@@ -55,6 +55,7 @@ void SpoilTables(FormatRecords& format) {
         (*table)[PageId::frmP2][3].Caption = "spoilt";
     }
     format.InFile[PageId::frmP2][3].FontBold = true;
+    format.BuiltIn[PageId::frmP2][3].emplace();
     format.PropertyLines = {"spoilt"};
     format.LogoChanged = true;
     format.LogoPending = true;
@@ -101,6 +102,9 @@ struct Spoilt : RunningProgram {
         program.run.DefaultFontItalic = !program.run.DefaultFontItalic;
         program.editing.ACActive[PageId::frmP2] = true;
         program.editing.UndoAvailable = true;
+        program.editing.Block.UndoMemory.emplace_back();
+        program.designer.LabelMode = true;
+        program.main[CommandId::mnuEditLabelMode].Checked = true;
         EXPECT_EQ(modReset::StartNewFile(program), modReset::ResetResult::Done);
     }
 };
@@ -166,12 +170,16 @@ TEST(AfterAReset, NoTableHoldsAChange) {
         EXPECT_FALSE((*table)[PageId::frmP2][3].Changed);
     }
     EXPECT_FALSE(format.InFile[PageId::frmP2][3].FontBold);
+    EXPECT_FALSE(format.BuiltIn[PageId::frmP2][3].has_value());
     EXPECT_TRUE(format.PropertyLines.empty());
     EXPECT_FALSE(format.LogoChanged);
     EXPECT_FALSE(format.LogoPending);
     EXPECT_FALSE(format.Touched);
     EXPECT_FALSE(run.program.editing.ACActive[PageId::frmP2]);
     EXPECT_FALSE(run.program.editing.UndoAvailable);
+    EXPECT_TRUE(run.program.editing.Block.UndoMemory.empty());
+    EXPECT_FALSE(run.program.designer.LabelMode) << "the keyboard goes to the fields";
+    EXPECT_FALSE(run.program.main[CommandId::mnuEditLabelMode].Checked);
 }
 
 TEST(AfterAReset, EveryFieldIsEmptyAndAtRestInTheSettingsFont) {

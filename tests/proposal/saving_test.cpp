@@ -75,6 +75,26 @@ TEST(Saving, TheTotalsAreWrittenUnderTheirPatterns) {
     EXPECT_EQ(Slot(bytes, 20410 + 60, 20), "1,353.13            ");
 }
 
+TEST(Saving, SumsAnewWhereNobodyElseTakesTheFigures) {
+    RunningProgram run;
+    run.program.hooks.TakeFreshFigures = nullptr;
+    Put(run, PageId::frmP1, 20, "100");
+    run.program.totals.AmountTable[20][PageId::frmP1] = 100;
+    run.program.totals.TaxableTable[20][PageId::frmP1] = 100;
+    SaveAnn(run);
+    // 100 at 8.25 %.
+    EXPECT_EQ(Slot(run.folder.Read("Proposals/Ann.hef"), 20410 + 60, 20), "108.25              ");
+}
+
+TEST(Saving, TheTextOfAProposalIsNamedAsItsFile) {
+    RunningProgram run;
+    run.program.document.TextFileName = "another.txt";
+    run.program.document.FileName = "Ann.hef";
+    run.surroundings.questions.Expect("File was saved as Ann.hef");
+    ASSERT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
+    EXPECT_EQ(run.program.document.TextFileName, "Ann.txt");
+}
+
 TEST(Saving, AnEmptyFolderMeansTheProposals) {
     RunningProgram run;
     run.program.document.FilePath.clear();
@@ -197,6 +217,17 @@ TEST(Saving, ATextLongerThanItsSlotIsCutInTheFileAlone) {
     EXPECT_EQ(run.TextOf(PageId::frmP1, 4), street);
 }
 
+TEST(Saving, TenTextsThatAreTooLongAreAllNamed) {
+    RunningProgram run;
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
+    for (int row = 0; row < 10; ++row) {
+        modFields::SetText(run.program, {PageId::frmP2, FieldKind::txt, row}, std::string(121, 'x'));
+    }
+    run.surroundings.questions.Expect("These texts are longer than their place in the file", Answer::No);
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::NotSaved);
+    EXPECT_TRUE(run.surroundings.questions.Shown.back().Text.ends_with("\r\nPage 2, Text Area 10"));
+}
+
 TEST(Saving, TheSlotsFollowTheTagsAsTheyAreNow) {
     RunningProgram run;
     run.Area(PageId::frmP1, 2).Tag = "Name.050";
@@ -296,6 +327,51 @@ TEST(PropertyFile, ThatCouldNotBeWrittenStillCountsAsChanged) {
     EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::Saved);
     EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "frmP1.txt(10).FontBold=True\r\n");
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+}
+
+TEST(PropertyFile, ThatWasWrittenAndChangedByAnotherProgramIsAskedAbout) {
+    RunningProgram run;
+    run.program.hooks.AssignPropChanges = [](Program& program) {
+        program.format.PropertyLines = {"frmP1.txt(10).FontBold=True"};
+    };
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
+    SaveAnn(run);
+    ASSERT_EQ(run.folder.Read("Proposals/Ann.hpf"), "frmP1.txt(10).FontBold=True\r\n");
+    run.folder.Write("Proposals/Ann.hpf", "another program's\r\n");
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
+    run.surroundings.questions.Expect("The layout of this proposal was changed by another program",
+                                      Answer::No);
+    EXPECT_EQ(modFile::SavePropertyFile(run.program), SaveResult::NotSaved);
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "another program's\r\n");
+}
+
+TEST(PropertyFile, OfAProposalThatCouldNotBeWrittenStillCountsAsChanged) {
+    RunningProgram run;
+    modFields::SetText(run.program, {PageId::frmP1, FieldKind::txt, 2}, "Ann");
+    run.program.format.PropTextChanges[PageId::frmP1][10].Dirty = true;
+    run.folder.MakeFolder("Proposals/Ann.hef");
+    run.surroundings.questions.Expect("An error occurred in SaveEventFile.");
+    EXPECT_EQ(modFile::SaveEventFile(run.program), SaveResult::NotSaved);
+    EXPECT_TRUE(run.folder.Has("Proposals/Ann.hpf"));
+    EXPECT_TRUE(modFile::PropertiesChanged(run.program));
+}
+
+TEST(PropertyFile, ThatCannotBeWrittenIsNotSaved) {
+    RunningProgram run;
+    SaveAnn(run);
+    run.folder.MakeFolder("Proposals/Ann.hpf");
+    run.surroundings.questions.Expect("An error occurred in SavePropertyFile.");
+    EXPECT_EQ(modFile::SavePropertyFile(run.program), SaveResult::NotSaved);
+}
+
+TEST(PropertyFile, ThatIsToBeLeftAloneCountsAsSaved) {
+    RunningProgram run;
+    SaveAnn(run);
+    run.folder.Write("Proposals/Ann.hpf", "the person's own\r\n");
+    run.program.document.PropertiesIgnored = true;
+    EXPECT_EQ(modFile::SavePropertyFile(run.program), SaveResult::Saved);
+    EXPECT_EQ(run.program.main.Notice, "Ann.hpf was left as it is: the proposal was opened without it.");
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hpf"), "the person's own\r\n");
 }
 
 TEST(PropertyFile, OfAProposalFromTheBackupsIsReadBesideItAndWrittenAmongTheProposals) {

@@ -4,12 +4,15 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace {
 
 struct Beside : RunningProgram {
     Beside() {
         program.document.BaseName = "Ann";
         program.document.FileName = "Ann.hef";
+        program.document.FootnoteFile = "Ann.hxt";
         program.document.FilePath = folder / "Proposals/";
         program.document.FileExists = true;
     }
@@ -26,6 +29,26 @@ TEST(SideFiles, OneThatCouldNotBeReadIsNotWritten) {
     EXPECT_TRUE(known.There);
     EXPECT_TRUE(known.Locked);
     EXPECT_FALSE(run.Write(known));
+}
+
+TEST(SideFiles, ThatLieUnderTheNameOfAProposalWithoutAFileAreAnothers) {
+    Beside run;
+    run.program.document.FileExists = false;
+    run.folder.Write("Proposals/Ann.hxt", "another Ann's");
+    const modSideFile::Known known = modSideFile::Read(run.program, "Ann.hxt", "OpenFootnoteFile");
+    EXPECT_FALSE(known.There);
+    EXPECT_EQ(known.Bytes, "");
+}
+
+TEST(SideFiles, OfAReplacedProposalThatCannotBeMovedAwayStillLieThere) {
+    Beside run;
+    run.folder.Write("Proposals/Ann.hxt", "the old Ann's");
+    std::filesystem::remove_all(run.folder / "Proposals/Backup");
+    run.folder.Write("Proposals/Backup", "no folder can be made here");
+    run.surroundings.questions.Expect("An error occurred in SaveEventFile.");
+    modSideFile::LeaveOthersBehind(run.program, modSideFile::OwnLayout::None);
+    EXPECT_EQ(run.folder.Read("Proposals/Ann.hxt"), "the old Ann's");
+    EXPECT_EQ(run.Main().imgFootNotes.Picture, 1) << "they would be shown";
 }
 
 TEST(SideFiles, OfAProposalWithoutANameAreNotWritten) {

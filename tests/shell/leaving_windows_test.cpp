@@ -14,6 +14,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <string>
+
 namespace {
 
 /// A saved proposal of Jane Roe with footnotes and deposits open.
@@ -152,12 +155,53 @@ TEST(Rescue, WhatBelongsToNoProposalIsToldWithItsPath) {
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Unnamed.contract.txt"), "wording");
 }
 
+TEST(Rescue, OfMoreThanTenTheOthersAreCounted) {
+    for (const std::size_t count : {std::size_t{10}, std::size_t{12}}) {
+        RunningProgram run;
+        for (std::size_t text = 1; text <= count; ++text) {
+            modRescue::Keep(run.program, "Address " + std::to_string(text) + ".txt", "Name: Ann");
+        }
+        NextRun next(run);
+        next.surroundings.questions.Expect("They were kept as:");
+        next.Start();
+        const std::string& words = next.surroundings.questions.Shown.back().Text;
+        const std::string last = "Proposals/Backup/Address 10.txt";
+        EXPECT_TRUE(words.ends_with(count == 10 ? last : last + "\r\nand 2 more.")) << words;
+        EXPECT_EQ(words.find("Address 11.txt"), std::string::npos);
+    }
+}
+
+TEST(Rescue, AListThatBreaksOffInAnEntryTellsOfTheWholeOnes) {
+    RunningProgram run;
+    run.folder.Write("kept one.txt", "1");
+    run.folder.Write("kept two.txt", "2");
+    run.folder.Write("kept three.txt", "3");
+    const auto entry = [&](const char* name) { return run.folder / name + "\r\n\r\n"; };
+    run.folder.Write("Rescued.txt",
+                     entry("kept one.txt") + entry("kept two.txt") + (run.folder / "kept three.txt"));
+    NextRun next(run);
+    next.surroundings.questions.Expect("They were kept as:");
+    next.Start();
+    EXPECT_TRUE(next.surroundings.questions.Shown.back().Text.ends_with(
+        "kept as:\r\n" + (run.folder / "kept one.txt") + "\r\n" + (run.folder / "kept two.txt")));
+}
+
+TEST(Rescue, ATextThatCannotBeKeptIsToldInTheLog) {
+    RunningProgram run;
+    std::filesystem::remove_all(run.folder / "Proposals/Backup");
+    run.folder.Write("Proposals/Backup", "no folder can be made here");
+    modRescue::Keep(run.program, "Unsaved Address.txt", "Name: Ann");
+    EXPECT_NE(run.folder.Read("Error.log").find("Proposals/Backup"), std::string::npos);
+    EXPECT_TRUE(run.surroundings.questions.Shown.empty()) << "nobody is there to read it";
+}
+
 TEST(Rescue, ARunThatGoesOnAndEndsWellLeavesNothingToBeTold) {
     Leaving run;
     run.Change();
     modClosing::KeepUnsaved(run.program); // the desktop's session was to end, and did not
     modClosing::MDIForm_Unload(run.program);
     EXPECT_FALSE(run.folder.Has("Proposals/Backup/Jane Roe.hxt"));
+    EXPECT_FALSE(run.folder.Has("Rescued.txt"));
     NextRun next(run);
     next.Start();
 }

@@ -4,6 +4,7 @@
 #include "pages/fields.h"
 #include "proposal/backup.h"
 #include "proposal/lifecycle.h"
+#include "proposal/proposal_bytes.h"
 #include "proposal/proposal_save.h"
 #include "proposal/reset.h"
 #include "proposal/run_marker.h"
@@ -100,8 +101,83 @@ TEST(Recovery, ChangesOfASavedProposalComeBackAsUnsavedOnes) {
     EXPECT_TRUE(modProposal::SomethingChanged(runs.program));
     EXPECT_EQ(document.SavedTextBuf[PageId::frmP1][10], "");
     EXPECT_TRUE(runs.program.main.Loaded);
+    EXPECT_EQ(runs.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 0}));
     runs.again.questions.Expect("File was saved as Ann.hef");
     EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::Saved);
+    modClosing::MDIForm_Unload(runs.program);
+    EXPECT_FALSE(runs.Has("Running.txt")) << "everything is settled";
+}
+
+TEST(Recovery, OfAFileThatWasCutShortMeanwhileKeepsItWhenItIsReplaced) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Fill(3, "12 Elm Street");
+    runs.Save("Ann.hef");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    const std::string cut = runs.first->folder.Read("Proposals/Ann.hef").substr(0, 200);
+    runs.first->folder.Write("Proposals/Ann.hef", cut);
+    runs.again.questions.Expect("The proposal Ann has changes from ", Answer::Yes);
+    runs.again.questions.Expect("The file Ann.hef is cut short");
+    runs.Start(runs.program, runs.again);
+    EXPECT_EQ(runs.Text(10), "twelve sandwiches and a cake");
+    runs.again.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::Saved);
+    EXPECT_EQ(runs.first->folder.Read("Proposals/Ann.hef.unread"), cut);
+}
+
+TEST(Recovery, ANewProposalHasNotTheFootnotesThatLieUnderItsName) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    modFile::BackupThisFile(runs.first->program);
+    runs.first->folder.Write("Proposals/Ann.hxt", "another Ann's");
+    runs.StartAgain("The proposal Ann has changes from ", Answer::Yes);
+    EXPECT_FALSE(runs.program.document.HasNotes);
+}
+
+TEST(Recovery, TheLayoutThatStandsIsReplacedWithoutAQuestion) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Save("Ann.hef");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    runs.first->folder.Write("Proposals/Ann.hpf", "frmP1.txt(11).FontBold=True\r\n");
+    runs.first->folder.Write("Proposals/Backup/Ann.hpf", "frmP1.txt(12).FontBold=True\r\n");
+    runs.StartAgain("The proposal Ann has changes from ", Answer::Yes);
+    runs.again.questions.Expect("File was saved as Ann.hef");
+    EXPECT_EQ(modFile::SaveEventFile(runs.program), modFile::SaveResult::Saved);
+    const std::string layout = runs.first->folder.Read("Proposals/Ann.hpf");
+    EXPECT_NE(layout.find("frmP1.txt(12).FontBold=True"), std::string::npos) << layout;
+    EXPECT_EQ(layout.find("frmP1.txt(11)"), std::string::npos) << layout;
+}
+
+TEST(Recovery, ABackupThatIsThereIsOfferedThoughTheProposalsFolderIsAway) {
+    Runs runs;
+    runs.first->folder.MakeFolder("Shared");
+    runs.first->program.document.FilePath = runs.first->folder / "Shared/";
+    runs.Fill(2, "Ann");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    fs::remove(runs.first->folder / "Shared");
+    runs.StartAgain("The proposal Ann has changes from ", Answer::Yes);
+    EXPECT_EQ(runs.Text(10), "twelve sandwiches and a cake");
+    EXPECT_FALSE(runs.program.document.FileExists);
+}
+
+TEST(Recovery, ASaveTellsItsMarkerWhatItWritesBeforeItWrites) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    // The save comes as far as its write, where the run ends.
+    runs.first->folder.MakeFolder("Proposals/Ann.hef");
+    runs.first->surroundings.questions.Expect("An error occurred in SaveEventFile.");
+    EXPECT_EQ(modFile::SaveEventFile(runs.first->program), modFile::SaveResult::NotSaved);
+    fs::remove(runs.first->folder / "Proposals/Ann.hef");
+    runs.first->folder.Write("Proposals/Ann.hef", modFile::ProposalBytes(runs.first->program));
+    runs.first->folder.Write("Proposals/Backup/Ann.hef", "older");
+    runs.StartAgain("", Answer::No);
+    EXPECT_TRUE(runs.again.questions.Shown.empty()) << "it was saved after the backup";
 }
 
 TEST(Recovery, AnotherProgramsChangeMeanwhileIsAskedAboutBeforeItIsOverwritten) {
@@ -169,7 +245,13 @@ TEST(Recovery, AShareThatIsAwayAtTheStartHasItAskedLater) {
     const std::string backup = runs.first->folder / "Proposals/Backup/Ann (Shared).hef";
     fs::rename(backup, away + "/kept");
     runs.StartAgain("", Answer::No);
+    // This run has work of its own, which it ends without.
+    Typist typist(runs.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Bob");
+    modFile::BackupThisFile(runs.program);
     modClosing::MDIForm_Unload(runs.program);
+    modRecovery::TellOfBackup(runs.program, "Bob.hef"); // it has ended
     fs::rename(away + "/kept", backup);
     fs::rename(away, share / "Shared");
     RecordingPlatform third;
@@ -253,7 +335,8 @@ TEST(Recovery, AFirstSaveInTheVeryMomentOfTheEndIsNotMentionedAsUnnamed) {
     // The same once more, but the marker stays as it stood when the bytes were written.
     runs.first->folder.Write("Proposals/Backup/(no client's name).hef", "older");
     Program& program = runs.first->program;
-    program.recovery.Told = UnsavedWork{program.document.FilePath, "", "(no client's name).hef", {}, {}};
+    program.recovery.Told =
+        UnsavedWork{runs.first->folder / "before the share moved/", "", "(no client's name).hef", {}, {}};
     modRecovery::TellOfSave(program, bytes);
     runs.StartAgain("", Answer::No);
     EXPECT_TRUE(runs.again.questions.Shown.empty());
@@ -310,6 +393,8 @@ TEST(Recovery, ABackupThatEqualsItsProposalIsNotMentioned) {
     modFile::BackupThisFile(runs.first->program);
     runs.StartAgain("", Answer::No);
     EXPECT_TRUE(runs.again.questions.Shown.empty());
+    modClosing::MDIForm_Unload(runs.program);
+    EXPECT_FALSE(runs.Has("Running.txt"));
 }
 
 TEST(Recovery, NothingIsSaidAfterASaveACleanEndOrANewProposal) {
@@ -363,6 +448,15 @@ TEST(Recovery, AMarkerOfGarbageAndABackupThatHasGoneCostNothing) {
         EXPECT_TRUE(runs.again.questions.Shown.empty());
         EXPECT_TRUE(runs.program.main.Loaded);
     }
+}
+
+TEST(Recovery, AMarkerThatNamesNoBackupOffersNone) {
+    Runs runs;
+    runs.first->folder.Write("Proposals/Backup/.hef", "a file without a name");
+    runs.first->folder.Write("Running.txt",
+                             runs.first->folder / "Proposals/" + "\r\nAnn.hef\r\n.hef\r\n-\r\n-\r\n");
+    runs.StartAgain("", Answer::No);
+    EXPECT_TRUE(runs.again.questions.Shown.empty());
 }
 
 TEST(Recovery, ABackupThatCannotBeReadIsToldAndStays) {
