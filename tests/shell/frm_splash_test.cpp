@@ -8,6 +8,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <set>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -233,6 +236,46 @@ TEST(Splash, WhereNoLockCanBeMadeThePersonIsToldAndWorks) {
     run.Begin();
     PassSplash(run.program);
     EXPECT_TRUE(run.program.main.Loaded);
+}
+
+TEST(Splash, IsOnShowWithItsNameBeforeAnythingIsRead) {
+    Splash run;
+    int before = 0;
+    run.surroundings.events.OnYield = [&] {
+        if (!run.program.settings.PrefsRead) {
+            ++before;
+            EXPECT_EQ(run.Texts("HARROWDENE WORKS").size(), 2U);
+        }
+    };
+    run.Begin();
+    EXPECT_EQ(before, 1);
+}
+
+TEST(Splash, ShowsHowToLeaveItBeforeItWaitsForThePerson) {
+    Splash run;
+    bool shown = false;
+    run.surroundings.events.OnYield = [&] {
+        shown = !run.Texts("Click anywhere to exit this screen.").empty();
+    };
+    run.Begin();
+    EXPECT_TRUE(shown);
+}
+
+TEST(Splash, FontsThatCouldNotBeListedUnderItAreListedByTheLoad) {
+    Splash run;
+    int asked = 0;
+    run.surroundings.screen.OnFonts = [&] {
+        ++asked; // for the first time when the font that the program needs is looked for
+        if (asked == 2) {
+            throw std::runtime_error("the font server is away");
+        }
+    };
+    run.surroundings.questions.Expect("An error occurred in LoadTheFonts.");
+    run.Begin();
+    EXPECT_FALSE(run.program.run.FontsLoaded);
+    PassSplash(run.program);
+    EXPECT_TRUE(run.program.run.FontsLoaded);
+    EXPECT_EQ(run.program.run.FontList, (std::vector<std::string>{"Arial", "Times New Roman"}));
 }
 
 } // namespace

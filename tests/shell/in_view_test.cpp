@@ -163,4 +163,16 @@ TEST(Gate, PreviewAndRecalculateByButtonWaitForThePagesUnderWayAsByMenu) {
     frmMain(run.program).cmdReCalc_Click();
 }
 
+TEST(InView, APageButtonScrollsToTheDepositInAWindowThatEndsAboveIt) {
+    LowWindow run;
+    run.program.main.ClientHeight = 1500;
+    person::ResizeWindow(run.program);
+    person::ClickPageButton(run.program, 5);
+    const TextArea& deposit = run.Area(PageId::frmP6, 4);
+    ASSERT_GT(deposit.Top, 1500);
+    const auto from = static_cast<float>(run.program.main.VScroll1.Value);
+    EXPECT_GE(deposit.Top, from);
+    EXPECT_LE(deposit.Top + deposit.Height, from + 1500);
+}
+
 } // namespace

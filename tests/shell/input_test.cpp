@@ -356,4 +356,34 @@ TEST(Input, TheCaretsLabelFollowsTheKeyboardFromBoxToBoxWhileTheKeyIsDown) {
     EXPECT_EQ(told, "Cursor Location = 0");
 }
 
+TEST(Mouse, AClickOnAFieldEndsTheLabelModeAndEntersThatFieldAlone) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    person::Choose(run.program, CommandId::mnuEditLabelMode);
+    ASSERT_TRUE(run.program.designer.LabelMode);
+    std::vector<FieldRef> entered;
+    run.program.hooks.GotFocus = [&, wired = run.program.hooks.GotFocus](Program& program,
+                                                                         const FieldRef& field) {
+        entered.push_back(field);
+        wired(program, field);
+    };
+    const FieldRef place{PageId::frmP1, FieldKind::txt, 8};
+    person::FieldMouseDown(run.program, place, 1, 0, 0);
+    EXPECT_FALSE(run.program.designer.LabelMode);
+    EXPECT_FALSE(run.program.designer.Framed);
+    EXPECT_FALSE(run.Main()[CommandId::mnuEditLabelMode].Checked);
+    EXPECT_EQ(run.program.main.Focus, place);
+    EXPECT_EQ(entered, std::vector<FieldRef>{place});
+}
+
+TEST(Notice, AKeyInTheLabelModeEndsWhatWasToldOfTheLastOne) {
+    RunningProgram run;
+    person::Choose(run.program, CommandId::mnuEditLabelMode);
+    run.program.main.Notice = "Kept only by a format or by Save this Logo as Default.";
+    static_cast<void>(modInput::LabelKeyDown(run.program, keys::kTab, 0));
+    EXPECT_EQ(run.program.main.Notice, "");
+    EXPECT_EQ(run.program.designer.Framed, 1);
+}
+
 } // namespace

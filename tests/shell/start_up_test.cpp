@@ -366,4 +366,12 @@ TEST(Exit, AChangedPropertyAsksToo) {
     EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program));
 }
 
+TEST(Exit, OnceThePersonHasLeftNothingAsksAgain) {
+    Closing run;
+    run.Touch();
+    run.surroundings.questions.ExpectBox(kExitQuestion, Answer::No);
+    modClosing::mnuFileExit_Click(run.program);
+    EXPECT_TRUE(modClosing::MDIForm_QueryUnload(run.program)) << "the window closes as its run has ended";
+}
+
 } // namespace
