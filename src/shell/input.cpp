@@ -89,7 +89,6 @@ void NoteTyped(Program& program, const FieldRef& field, int cursor) {
     if (!typed.Character) {
         return;
     }
-    typed.Character = false;
     if (typed.Field != field) {
         typed.Codes.reset();
         typed.Field = field;
@@ -219,7 +218,6 @@ void Edited(Program& program, const FieldRef& field, std::string_view text, int 
 
 void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view text, int selStart,
                       int selLength) {
-    program.editing.Typed.Character = false;
     if (IsText(field)) {
         program.editing.CursorPos = modFields::Area(program, field).SelStart;
         program.editing.LastKeyChar.clear();

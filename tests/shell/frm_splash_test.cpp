@@ -278,4 +278,19 @@ TEST(Splash, FontsThatCouldNotBeListedUnderItAreListedByTheLoad) {
     EXPECT_EQ(run.program.run.FontList, (std::vector<std::string>{"Arial", "Times New Roman"}));
 }
 
+TEST(Splash, SettingsThatCouldNotBeReadUnderItAreReadByTheLoad) {
+    Splash run;
+    const std::string settings = run.folder.Read("UserPreferences.txt");
+    std::filesystem::remove(run.folder / "UserPreferences.txt");
+    run.folder.MakeFolder("UserPreferences.txt");
+    run.surroundings.questions.Expect("An error occurred in GetUserPreferences.");
+    run.Begin();
+    EXPECT_FALSE(run.program.settings.PrefsRead);
+    std::filesystem::remove(run.folder / "UserPreferences.txt");
+    run.folder.Write("UserPreferences.txt", settings);
+    PassSplash(run.program);
+    EXPECT_TRUE(run.program.settings.PrefsRead);
+    EXPECT_EQ(run.program.settings.CompanyName, "Acme Events");
+}
+
 } // namespace

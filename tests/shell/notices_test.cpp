@@ -215,4 +215,21 @@ TEST(SavedNotice, IsNotGivenForASaveThatFailed) {
     EXPECT_EQ(run.program.main.Notice.find("saved"), std::string::npos);
 }
 
+TEST(Notice, TellsNothingOfAKeyWhereNoKeyIsTaken) {
+    RunningProgram run;
+    Typist typist(run.program);
+    const FieldRef amount{PageId::frmP2, FieldKind::txt, 36};
+    typist.Click(amount);
+    typist.Press(keys::kDown, keys::kShiftState);
+    ASSERT_TRUE(run.program.editing.BlockMode);
+    ASSERT_EQ(run.program.main.Focus, amount);
+    typist.Type("x");
+    EXPECT_EQ(run.program.main.Notice, "") << "the amounts are selected";
+    const FieldRef total{PageId::frmP6, FieldKind::txt, 0};
+    typist.Click(total);
+    ASSERT_TRUE(run.Area(PageId::frmP6, 0).Locked);
+    typist.Type("x");
+    EXPECT_EQ(run.program.main.Notice, "") << "the total is worked out";
+}
+
 } // namespace
