@@ -322,13 +322,12 @@ void FieldMouseDown(Program& program, const FieldRef& field, int button, int sel
         return;
     }
     modBlocks::FinishMove(program);
-    PutCursor(program, field, selStart, selLength);
     if (program.designer.LabelMode) {
         program.designer.FocusBefore = field;
         modLabelKeys::Leave(program);
     }
     modFields::GiveFocus(program, field);
-    PutCursor(program, field, selStart, selLength);
+    PutCursor(program, field, selStart, selLength); // leaving another field may have written into this one
     if (IsText(field)) {
         modText::txt_MouseDown(program, field.Page, field.Index, button);
     }

@@ -3,6 +3,7 @@
 #include "pages/page_geometry.h"
 #include "program/program.h"
 #include "shell/frm_main.h"
+#include "shell/input.h"
 #include "shell/page_switch.h"
 #include "support/person.h"
 #include "support/running_program.h"
@@ -173,6 +174,20 @@ TEST(InView, APageButtonScrollsToTheDepositInAWindowThatEndsAboveIt) {
     const auto from = static_cast<float>(run.program.main.VScroll1.Value);
     EXPECT_GE(deposit.Top, from);
     EXPECT_LE(deposit.Top + deposit.Height, from + 1500);
+}
+
+TEST(InView, ATextThatIsDroppedAndAFieldThatIsEnteredShowWhereTheyAre) {
+    LowWindow run;
+    const FieldRef name{PageId::frmP1, FieldKind::txt, 2};
+    const FieldRef line{PageId::frmP1, FieldKind::txt, 19};
+    run.typist.Click(name);
+    run.ScrollTo(9000);
+    run.typist.Insert("Ann");
+    EXPECT_TRUE(run.Shows(name));
+    ASSERT_FALSE(run.Shows(line));
+    modInput::FieldEntered(run.program, line);
+    EXPECT_EQ(run.program.main.Focus, line);
+    EXPECT_TRUE(run.Shows(line));
 }
 
 } // namespace

@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <string_view>
 
 namespace {
 
@@ -230,6 +231,22 @@ TEST(Notice, TellsNothingOfAKeyWhereNoKeyIsTaken) {
     ASSERT_TRUE(run.Area(PageId::frmP6, 0).Locked);
     typist.Type("x");
     EXPECT_EQ(run.program.main.Notice, "") << "the total is worked out";
+}
+
+TEST(Notice, OfATextFromOutsideTellsWhatWasNotTakenAndNothingOfAWholeOne) {
+    RunningProgram run;
+    const FieldRef amount{PageId::frmP1, FieldKind::txt, 20};
+    const FieldRef name{PageId::frmP1, FieldKind::txt, 2};
+    const auto told = [&](const FieldRef& field, std::string_view text, int refused) {
+        run.program.main.Notice.clear();
+        person::Insert(run.program, field, text, refused, person::By::Mouse);
+        return run.program.main.Notice;
+    };
+    EXPECT_EQ(told(name, "Ann", 0), "");
+    EXPECT_EQ(told(amount, "12.50", 0), "");
+    EXPECT_EQ(told(amount, "  ", 0), "") << "blanks say nothing";
+    EXPECT_EQ(told(amount, "ten", 0), "\"ten\" was not taken: it is no number.");
+    EXPECT_EQ(told(amount, "ten", 2), "2 characters were not taken: they cannot be kept in a proposal.");
 }
 
 } // namespace
