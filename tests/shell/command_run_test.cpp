@@ -423,4 +423,15 @@ TEST(Administrator, ConvertingIsNotedOnceTheLogonAllowsIt) {
     EXPECT_TRUE(run.program.main.ConversionAsked);
 }
 
+TEST(Toggles, HideTotalsIsCheckedAsLongAsTheyAreHidden) {
+    RunningProgram run;
+    EXPECT_FALSE(run.Main()[CommandId::mnuOptHideTotals].Checked);
+    Choose(run, CommandId::mnuOptHideTotals);
+    EXPECT_TRUE(run.Main()[CommandId::mnuOptHideTotals].Checked);
+    EXPECT_FALSE(run.Main().cmdReCalc.Visible);
+    Choose(run, CommandId::mnuOptHideTotals);
+    EXPECT_FALSE(run.Main()[CommandId::mnuOptHideTotals].Checked);
+    EXPECT_TRUE(run.Main().cmdReCalc.Visible);
+}
+
 } // namespace

@@ -373,6 +373,7 @@ TEST(Mouse, AClickOnAFieldEndsTheLabelModeAndEntersThatFieldAlone) {
     person::FieldMouseDown(run.program, place, 1, 0, 0);
     EXPECT_FALSE(run.program.designer.LabelMode);
     EXPECT_FALSE(run.program.designer.Framed);
+    EXPECT_FALSE(run.program.designer.FocusBefore);
     EXPECT_FALSE(run.Main()[CommandId::mnuEditLabelMode].Checked);
     EXPECT_EQ(run.program.main.Focus, place);
     EXPECT_EQ(entered, std::vector<FieldRef>{place});
