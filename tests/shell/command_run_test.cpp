@@ -434,4 +434,18 @@ TEST(Toggles, HideTotalsIsCheckedAsLongAsTheyAreHidden) {
     EXPECT_TRUE(run.Main().cmdReCalc.Visible);
 }
 
+TEST(CurrencySymbol, WithItTheSettingsAreReadAndInForceAgain) {
+    RunningProgram run(RunningProgram::Begin::NotStarted);
+    run.Setting("Default Printer:", "Print to PDF");
+    run.Start();
+    RecordingPrinters& printers = run.surroundings.printers;
+    ASSERT_EQ(printers.CurrentDevice, "Print to PDF");
+    printers.CurrentDevice = "Office Laser"; // the system's own has changed meanwhile
+    run.surroundings.questions.ExpectInput("Changing Currency Designator", "EUR");
+    ExpectTold(run, "Changes will be applied in the next \"New\" or \"Open\" session.");
+    Choose(run, CommandId::mnuOptCurrencySymbol);
+    EXPECT_EQ(printers.CurrentDevice, "Print to PDF");
+    EXPECT_EQ(run.program.settings.CurrencySymbol, "EUR");
+}
+
 } // namespace

@@ -84,6 +84,9 @@ TEST(Splash, NameAndLineStandInWhiteOverTheirShadow) {
         // Every character is 100 twips wide here.
         const float width = 100.0F * static_cast<float>(words.size());
         EXPECT_EQ(found[1].X, (7800 - width) / 2);
+        for (const SplashText& text : found) {
+            EXPECT_EQ(text.Bold, words == "HARROWDENE WORKS");
+        }
     }
     EXPECT_LT(run.Texts("HARROWDENE WORKS")[1].Y, run.Texts("Tools for Trade and Craft")[1].Y);
     EXPECT_EQ(run.Window()->Picture.FontName, "Arial");
@@ -148,6 +151,8 @@ TEST(Splash, FourWordsCloseInOnTheCentreOverAHundredLoops) {
     Splash run;
     std::vector<float> spans;
     std::vector<Color> blues;
+    float middleX = 0;
+    float middleY = 0;
     run.surroundings.events.OnYield = [&] {
         const std::vector<SplashText> corners = run.Texts("HRWD");
         if (corners.empty()) {
@@ -158,6 +163,11 @@ TEST(Splash, FourWordsCloseInOnTheCentreOverAHundredLoops) {
             corners.begin(), corners.end(),
             [](const SplashText& one, const SplashText& other) { return one.X < other.X; });
         spans.push_back(most->X - least->X);
+        middleX = (most->X + least->X) / 2;
+        const auto [highest, lowest] = std::minmax_element(
+            corners.begin(), corners.end(),
+            [](const SplashText& one, const SplashText& other) { return one.Y < other.Y; });
+        middleY = (highest->Y + lowest->Y) / 2;
         blues.push_back(run.Window()->Picture.BackColor >> 16U);
     };
     run.Begin();
@@ -165,6 +175,9 @@ TEST(Splash, FourWordsCloseInOnTheCentreOverAHundredLoops) {
     EXPECT_EQ(spans.front(), 7800 - 2 * 300 - 400);
     EXPECT_TRUE(std::is_sorted(spans.rbegin(), spans.rend()));
     EXPECT_LT(spans.back(), 100);
+    // 400 twips wide and 300 high, each word stands round the middle of 7800 by 4560.
+    EXPECT_NEAR(middleX, (7800 - 400) / 2, 1);
+    EXPECT_NEAR(middleY, (4560 - 300) / 2, 1);
     EXPECT_TRUE(std::is_sorted(blues.begin(), blues.end()));
     std::set<Color> steps(blues.begin(), blues.end());
     for (const Color blue : steps) {
@@ -291,6 +304,17 @@ TEST(Splash, SettingsThatCouldNotBeReadUnderItAreReadByTheLoad) {
     PassSplash(run.program);
     EXPECT_TRUE(run.program.settings.PrefsRead);
     EXPECT_EQ(run.program.settings.CompanyName, "Acme Events");
+}
+
+TEST(Splash, AFontOfTheSettingsThatIsNotInstalledHasGivenWayWhenItWaits) {
+    Splash run;
+    run.Setting("Font Name:", "Nowhere Script");
+    run.Begin();
+    EXPECT_EQ(run.program.run.DefaultFontName, "Times New Roman");
+    Splash other;
+    other.Setting("Font Name:", "Arial");
+    other.Begin();
+    EXPECT_EQ(other.program.run.DefaultFontName, "Arial");
 }
 
 } // namespace

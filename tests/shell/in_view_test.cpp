@@ -190,4 +190,38 @@ TEST(InView, ATextThatIsDroppedAndAFieldThatIsEnteredShowWhereTheyAre) {
     EXPECT_TRUE(run.Shows(line));
 }
 
+TEST(InView, AFieldThatTouchesAnEdgeOfTheWindowShows) {
+    LowWindow run;
+    const FieldRef line{PageId::frmP1, FieldKind::txt, 10}; // from 10260 to 10515
+    for (const int scrolled : {10260, 10515 - 5000}) {
+        run.ScrollTo(scrolled);
+        modScroll::BringIntoView(run.program, line);
+        EXPECT_EQ(run.program.main.VScroll1.Value, scrolled);
+    }
+    run.ScrollTo(10261);
+    modScroll::BringIntoView(run.program, line);
+    EXPECT_EQ(run.program.main.VScroll1.Value, 10260 - 360) << "a row above it shows, too";
+    run.ScrollTo(10514 - 5000);
+    modScroll::BringIntoView(run.program, line);
+    EXPECT_EQ(run.program.main.VScroll1.Value, 10515 - 5000 + 360) << "and a row below";
+}
+
+TEST(InView, AWindowTwiceAsHighAsAFieldShowsItInTheMiddleAndALowerOneDoesNotFollow) {
+    LowWindow run;
+    const FieldRef line{PageId::frmP1, FieldKind::txt, 15}; // from 12060 to 12315
+    run.program.main.ClientHeight = 509;
+    person::ResizeWindow(run.program);
+    modScroll::BringIntoView(run.program, line);
+    EXPECT_EQ(run.program.main.VScroll1.Value, 0);
+    run.program.main.ClientHeight = 511;
+    person::ResizeWindow(run.program);
+    modScroll::BringIntoView(run.program, line);
+    EXPECT_EQ(run.program.main.VScroll1.Value, 12315 + 128 - 511) << "128 above it and 128 below";
+    run.ScrollTo(0);
+    run.program.main.ClientHeight = 510;
+    person::ResizeWindow(run.program);
+    modScroll::BringIntoView(run.program, line);
+    EXPECT_EQ(run.program.main.VScroll1.Value, 11932) << "12315 + 127.5 - 510";
+}
+
 } // namespace

@@ -249,4 +249,17 @@ TEST(Notice, OfATextFromOutsideTellsWhatWasNotTakenAndNothingOfAWholeOne) {
     EXPECT_EQ(told(amount, "ten", 2), "2 characters were not taken: they cannot be kept in a proposal.");
 }
 
+TEST(Notice, ItsReadingTimeBeginsWhenItIsShown) {
+    RunningProgram run;
+    NoticeStrip strip;
+    run.program.main.Notice = "One character was not taken.";
+    strip.Follow(run.program, 100'000);
+    for (const std::int64_t now : {100'900, 101'800, 102'700, 103'600, 104'500, 104'999}) {
+        strip.Activity(now);
+        EXPECT_NE(strip.Text(), "") << now;
+    }
+    strip.Activity(105'000);
+    EXPECT_EQ(strip.Text(), "");
+}
+
 } // namespace

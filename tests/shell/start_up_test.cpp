@@ -208,6 +208,8 @@ TEST(StartUp, AFontThatIsNotThereGivesWayForTheRunOnly) {
     ASSERT_EQ(run.Main(), modStart::StartResult::Running);
     EXPECT_TRUE(run.program.run.DefaultFontFound);
     EXPECT_EQ(run.Area(PageId::frmP1, 10).FontName, "Arial");
+    EXPECT_EQ(run.program.pages[PageId::frmP3].txtQty[5].FontName, "Arial");
+    EXPECT_EQ(run.program.pages[PageId::frmP3].lblAt[5].FontName, "Arial");
     EXPECT_EQ(run.program.run.FontList, (std::vector<std::string>{"Arial", "Times New Roman"}));
 }
 

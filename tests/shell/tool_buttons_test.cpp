@@ -197,4 +197,14 @@ TEST(PageButtons, BehindTheLastOneThereIsNoPageToGoTo) {
     }
 }
 
+TEST(ToolButtons, WithoutABorderNoneIsRaisedOrSunken) {
+    Strip run;
+    modToolButtons::HoverToolButton(run.program, run.Main().imgNew);
+    modToolButtons::ClearButtonBorders(run.program);
+    ExpectFrame(run.Main(), 0, false);
+    modToolButtons::PressToolButton(run.program, run.Main().imgNew);
+    modToolButtons::ClearButtonBorders(run.program);
+    ExpectFrame(run.Main(), 1, false);
+}
+
 } // namespace
