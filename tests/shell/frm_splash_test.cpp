@@ -286,7 +286,14 @@ TEST(Splash, FontsThatCouldNotBeListedToTheEndUnderItAreListedByTheLoad) {
     run.surroundings.questions.Expect("An error occurred in LoadTheFonts.");
     run.Begin();
     EXPECT_FALSE(run.program.run.FontsLoaded);
+    int meanwhile = 0;
+    run.surroundings.events.OnYield = [&] {
+        ++meanwhile;
+        EXPECT_EQ(run.program.pages[PageId::frmP6_1].lbl.size(), 65U)
+            << "what is painted now is a whole page";
+    };
     PassSplash(run.program);
+    EXPECT_GT(meanwhile, 0);
     EXPECT_TRUE(run.program.run.FontsLoaded);
     EXPECT_EQ(run.program.run.FontList, (std::vector<std::string>{"Arial", "Times New Roman"}));
 }
