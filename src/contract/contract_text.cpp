@@ -37,15 +37,14 @@ int ContractText::FilledCount() const {
 std::vector<ContractText::Paragraph> ContractText::Wrapped(std::string_view span) const {
     std::vector<Paragraph> paragraphs;
     std::size_t at = 0;
-    while (true) {
-        const std::size_t end = std::min(span.find(text::kCrLf, at), span.size());
+    std::size_t end = 0;
+    do {
+        end = std::min(span.find(text::kCrLf, at), span.size());
         const std::string_view words = span.substr(at, end - at);
         paragraphs.push_back({words.size(), modWrap::WrapParagraph(words, advances_, width_)});
-        if (end == span.size()) {
-            return paragraphs;
-        }
         at = end + text::kCrLf.size();
-    }
+    } while (end != span.size());
+    return paragraphs;
 }
 
 void ContractText::Rewrap() {
@@ -95,7 +94,7 @@ void ContractText::Replace(std::size_t at, std::size_t removed, std::string_view
     at = std::min(at, text_.size());
     std::size_t end = at + std::min(removed, text_.size() - at);
     // A line end is one thing: what begins or ends within it takes all of it, or leaves it.
-    end += removed > 0 && splitsLineEnd(end) ? 1 : 0;
+    end += splitsLineEnd(end) ? 1 : 0;
     at -= splitsLineEnd(at) ? 1 : 0;
     end = removed > 0 ? end : at;
     std::string incoming = modContract::Incoming(inserted);

@@ -36,8 +36,6 @@ frmEditor::frmEditor() : numbered_(kNoEdge) {
 }
 
 void frmEditor::Form_Load(Program& program) {
-    ContractLines.clear();
-    ContractLineCount = 0;
     LoadMyControls(program);
     LoadCharacterEditor(program);
 }
@@ -217,7 +215,6 @@ void frmEditor::mnuEditCopy_Click(Program& program) {
     if (RefusedWhileCounting(program)) {
         return;
     }
-    program.platform.clipboard.Clear();
     program.platform.clipboard.SetText(txtCharCount.Text());
 }
 

@@ -104,7 +104,6 @@ bool frmNotes::SaveFootnoteFile(Program& program) {
         return false;
     }
     FootnoteSavedText = FootnoteText;
-    program.document.FootnoteFile = FootnoteFile(program);
     program.document.HasNotes = true; // also for a text of nothing: there is a file now
     return true;
 }

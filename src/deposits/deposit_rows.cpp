@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdlib>
 #include <limits>
 
 namespace modDeposits {
@@ -142,8 +143,8 @@ bool IsWholeHundredths(std::string_view typed) {
 }
 
 std::string Shown(Hundredths amount) {
-    // Below zero the remainders are, too; the smallest value is never reached.
-    const Hundredths size = amount < 0 ? -amount : amount;
+    // Below zero the remainders are, too; the smallest value, whose size is none, is never reached.
+    const Hundredths size = std::abs(amount);
     std::string digits = std::to_string(size / 100);
     for (std::size_t at = digits.size(); at > 3; at -= 3) {
         digits.insert(at - 3, ",");
@@ -170,7 +171,7 @@ Sum AddUp(const std::vector<std::string>& rows) {
 
 float ToSingle(Hundredths amount) {
     // By way of the decimal text: an integer and a division would round twice.
-    const Hundredths size = amount < 0 ? -amount : amount;
+    const Hundredths size = std::abs(amount);
     const std::string cents = std::to_string(size % 100);
     const std::string text =
         (amount < 0 ? "-" : "") + std::to_string(size / 100) + "." + (cents.size() < 2 ? "0" : "") + cents;

@@ -56,7 +56,6 @@ frmDeposits::frmDeposits() {
 void frmDeposits::Form_Load(Program& program) {
     txtDate_Change(program, dates::FormatDate(program.platform.clock.Now(), kDatePattern));
     txtDate.SelectAll();
-    touched_ = false;
     if (program.document.HasName()) {
         txtName.Text = program.document.FileName.substr(0, program.document.FileName.size() - 4);
         txtName.SelectAll();
@@ -98,7 +97,6 @@ void frmDeposits::Load(const Program& program) {
         txtName.Text = list.Name;
         txtName.SelectAll();
     }
-    lst.Clear();
     for (std::string& row : list.Rows) {
         lst.Add(std::move(row));
     }
@@ -113,13 +111,14 @@ void frmDeposits::Load(const Program& program) {
 }
 
 void frmDeposits::TellUnreadable(const Program& program, int count) {
-    if (count == 1) {
-        Tell(program,
-             "The amount of 1 deposit in the list cannot be read. It stays in the list and counts as 0.00.");
-    } else if (count > 1) {
-        Tell(program, "The amounts of " + std::to_string(count) +
-                          " deposits in the list cannot be read. They stay in the list and count as 0.00.");
+    if (count == 0) {
+        return;
     }
+    Tell(program, count == 1
+                      ? "The amount of 1 deposit in the list cannot be read. It stays in the list and counts "
+                        "as 0.00."
+                      : "The amounts of " + std::to_string(count) +
+                            " deposits in the list cannot be read. They stay in the list and count as 0.00.");
 }
 
 void frmDeposits::Recompute(const Program& program) {
@@ -421,7 +420,6 @@ bool frmDeposits::MayLeave(Program& program, Leaving) {
 
 void frmDeposits::Form_Cancel(Program& program) {
     if (MayLeave(program, Leaving::Proposal)) {
-        DepositChanged = false;
         modWindows::Close(program, *this);
     }
 }
@@ -449,7 +447,7 @@ void frmDeposits::mnuFilePrint_Click(Program& program) {
     lines.insert(lines.end(), lst.Items.begin(), lst.Items.end());
     lines.emplace_back();
     lines.push_back("Total Deposit:\t\t" + Signed(program, modDeposits::Shown(total_)));
-    modLines::Printed printed = modLines::Printed::NoPrinter;
+    modLines::Printed printed = modLines::Printed::Done;
     try {
         printed = modLines::PrintLines(program, {"Deposits Received", program.document.BaseName}, lines, {});
     } catch (const std::exception&) {

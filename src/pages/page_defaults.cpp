@@ -120,14 +120,14 @@ void ClientPageDefaults(Program& program, Page& page) {
     for (const tables::FixedLabel& fixed : tables::ClientPageLabels()) {
         Put(page, fixed.Index, fixed.Left, fixed.Top, fixed.Caption);
     }
-    for (int index = 21; index <= 30; ++index) {
-        Put(page, index, 9900, 10260.0F + 360.0F * static_cast<float>(index - 21),
-            program.settings.CurrencySymbol);
-    }
     Put(page, geometry::PageNumberLabel(page.Id), 900, kFooterTop, FooterNumber(0));
     Put(page, geometry::ContinuedLabel(page.Id), 0, kFooterTop, "Continued on Page 2");
     AlignContinued(program, page);
     Put(page, geometry::TitleLabel(page.Id), 4860, kFooterTop, kTitleDefault);
+    for (int index = 21; index <= 30; ++index) {
+        Put(page, index, 9900, 10260.0F + 360.0F * static_cast<float>(index - 21),
+            program.settings.CurrencySymbol);
+    }
 }
 
 void LinePageDefaults(const Program& program, Page& page) {

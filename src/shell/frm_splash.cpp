@@ -69,7 +69,6 @@ void frmSplash::GatherFourCorners(Program& program) {
         modSettings::GetUserPreferences(program);
         Animate(program);
         modFonts::LoadTheFonts(program, &Picture);
-        modFonts::SettleDefaultFont(program);
         splash::PrintCentred(Picture, program.platform.measure, "Click anywhere to exit this screen.",
                              kMessageTop);
         program.platform.events.LetEventsRun();

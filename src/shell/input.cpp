@@ -89,7 +89,6 @@ void NoteTyped(Program& program, const FieldRef& field, int cursor) {
     if (!typed.Character) {
         return;
     }
-    typed.Character = false;
     if (typed.Field != field) {
         typed.Codes.reset();
         typed.Field = field;
@@ -219,7 +218,6 @@ void Edited(Program& program, const FieldRef& field, std::string_view text, int 
 
 void EditedWithoutKey(Program& program, const FieldRef& field, std::string_view text, int selStart,
                       int selLength) {
-    program.editing.Typed.Character = false;
     if (IsText(field)) {
         program.editing.CursorPos = modFields::Area(program, field).SelStart;
         program.editing.LastKeyChar.clear();
@@ -324,13 +322,12 @@ void FieldMouseDown(Program& program, const FieldRef& field, int button, int sel
         return;
     }
     modBlocks::FinishMove(program);
-    PutCursor(program, field, selStart, selLength);
     if (program.designer.LabelMode) {
         program.designer.FocusBefore = field;
         modLabelKeys::Leave(program);
     }
     modFields::GiveFocus(program, field);
-    PutCursor(program, field, selStart, selLength);
+    PutCursor(program, field, selStart, selLength); // leaving another field may have written into this one
     if (IsText(field)) {
         modText::txt_MouseDown(program, field.Page, field.Index, button);
     }

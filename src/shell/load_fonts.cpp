@@ -15,6 +15,9 @@ void LoadTheFonts(Program& program, SplashPicture* splash) {
             run.FontList.push_back(font);
             run.DefaultFontFound = run.DefaultFontFound || font == program.settings.SavedFontName;
         }
+        if (!run.DefaultFontFound) {
+            run.DefaultFontName = "Times New Roman";
+        }
         if (!run.FontsLoaded && splash != nullptr) {
             constexpr float kLine = 3360;
             splash::PaintBackground(*splash, program.platform.measure);
@@ -23,12 +26,6 @@ void LoadTheFonts(Program& program, SplashPicture* splash) {
         }
         run.FontsLoaded = true;
     });
-}
-
-void SettleDefaultFont(Program& program) {
-    if (!program.run.DefaultFontFound) {
-        program.run.DefaultFontName = "Times New Roman";
-    }
 }
 
 } // namespace modFonts

@@ -6,10 +6,8 @@ struct SplashPicture;
 namespace modFonts {
 
 /// Reads the screen's fonts into FontList, letting events run between them. The first time it is told on the
-/// splash, if there is one. Reports as "LoadTheFonts".
+/// splash, if there is one. A font of the settings that is not among them gives way to the one the pages are
+/// designed in. Reports as "LoadTheFonts".
 void LoadTheFonts(Program& program, SplashPicture* splash = nullptr);
-
-/// A font of the settings that is not installed gives way to the one the pages are designed in.
-void SettleDefaultFont(Program& program);
 
 } // namespace modFonts

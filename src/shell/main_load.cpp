@@ -6,7 +6,6 @@
 #include "pages/fields.h"
 #include "pages/label_records.h"
 #include "pages/page_defaults.h"
-#include "pages/page_fonts.h"
 #include "pages/row_fields.h"
 #include "pages/titles.h"
 #include "program/data_folders.h"
@@ -61,7 +60,6 @@ void LoadSteps(Program& program) {
     if (!program.run.FontsLoaded) {
         modFonts::LoadTheFonts(program);
     }
-    modFonts::SettleDefaultFont(program);
     modTax::GetTaxRate(program);
     program.document.FileFilter = "*.hef";
     program.document.DocumentKind = "Event";
@@ -75,7 +73,6 @@ void LoadSteps(Program& program) {
         for (const PageId page : kAllPages) {
             modPages::SetUpPage(program, page);
         }
-        modPages::ApplyPageFonts(program);
         static_cast<void>(modReset::StartNewFile(program)); // no format is open that could refuse it
         modPages::SnapshotLabels(program);
         if (!program.run.TermsPinned) {
@@ -95,7 +92,6 @@ void LoadSteps(Program& program) {
     for (const PageId page : {PageId::frmP2, PageId::frmP3, PageId::frmP4, PageId::frmP5, PageId::frmP1}) {
         modPages::EnsureRowFields(program, page);
     }
-    modPages::ApplyPageFonts(program);
     modFields::GiveFocus(program, {PageId::frmP1, FieldKind::txt, 0});
     modCalendar::ReadEventDatesAtStart(program);
 }

@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "shell/command_table.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace commands {
@@ -58,13 +59,11 @@ std::string TopMenuCaption(CommandId menu) {
         const std::string plain = Plain(caption);
         char letter = MnemonicOf(caption);
         if (letter == '\0' || taken.find(letter) != std::string::npos) {
-            letter = '\0';
-            for (const char candidate : text::Lower(plain)) {
-                if (ansi::IsLetter(candidate) && taken.find(candidate) == std::string::npos) {
-                    letter = candidate;
-                    break;
-                }
-            }
+            const std::string letters = text::Lower(plain);
+            const auto free = std::find_if(letters.begin(), letters.end(), [&](char candidate) {
+                return ansi::IsLetter(candidate) && taken.find(candidate) == std::string::npos;
+            });
+            letter = free == letters.end() ? '\0' : *free;
         }
         if (letter != '\0') {
             taken += letter;

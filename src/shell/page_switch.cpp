@@ -62,12 +62,10 @@ float RowPitch(const Program& program) {
     return areas[first + 1].Top - areas[first].Top;
 }
 
-/// The strip is made wide enough for any screen first, then as wide as the window, and repaints before the
-/// page below it moves. A size that comes meanwhile is fitted within, without another round of events.
+/// The strip is made as wide as the window, and repaints before the page below it moves. A size that comes
+/// meanwhile is fitted within, without another round of events.
 void WidenInformation(Program& program) {
-    constexpr float kFirst = 1024;
     MainWindow& main = program.main;
-    main.picInfoWidth = kFirst;
     main.picInfoWidth = main.Width;
     if (!main.Resizing) {
         const ScopedFlag resizing(main.Resizing);
@@ -236,7 +234,7 @@ void PageKey(Program& program, int keyCode) {
     constexpr int kBottom = kPageHeight + 30;
     // A whole window up, half a window down.
     if (keyCode == keys::kPageUp) {
-        SetScroll(program, position <= window ? 0 : position - window);
+        SetScroll(program, position - window);
     } else if (keyCode == keys::kPageDown) {
         SetScroll(program, 2 * window + position >= kBottom ? kBottom - window : position + window / 2);
     }

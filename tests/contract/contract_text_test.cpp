@@ -57,7 +57,6 @@ std::vector<std::string> LinesOf(const ContractText& text) {
 
 using Lines = std::vector<std::string>;
 
-/// Ten characters of 100 twips to the line.
 /// Every byte that is marked goes, and with one half of a line end the other; what comes in stands there.
 std::string PlainReplace(const std::string& text, std::size_t at, std::size_t removed, std::string_view in) {
     const auto lineEnd = [&](std::size_t place) { return text.compare(place, 2, "\r\n") == 0; };
@@ -77,6 +76,7 @@ std::string PlainReplace(const std::string& text, std::size_t at, std::size_t re
     return result.insert(into, in);
 }
 
+/// Ten characters of 100 twips to the line.
 struct Short {
     FixedMeasure measure;
     ContractText text{1000};
@@ -259,6 +259,22 @@ TEST(ContractHistory, AnEditBehindTheEndStandsAtTheEnd) {
     Short text("ab");
     text.text.Replace(9, 1, "x", ContractText::Kind::Whole);
     EXPECT_EQ(text.text.Text(), "abx");
+    EXPECT_EQ(text.text.Undo(), 2);
+    EXPECT_EQ(text.text.Text(), "ab");
+}
+
+TEST(ContractWrap, LinesOfBlanksAloneAreNotFilled) {
+    EXPECT_EQ(Short("").text.FilledCount(), 0);
+    EXPECT_EQ(Short("\r\n  \r\n").text.FilledCount(), 0);
+    EXPECT_EQ(Short("\r\na\r\n").text.FilledCount(), 2);
+}
+
+TEST(ContractHistory, ABackspaceAfterTypingIsAStepOfItsOwn) {
+    Short text("ab");
+    text.text.Replace(2, 0, "c", ContractText::Kind::Typing);
+    text.text.Replace(2, 1, "", ContractText::Kind::Typing);
+    EXPECT_EQ(text.text.Undo(), 3);
+    EXPECT_EQ(text.text.Text(), "abc");
     EXPECT_EQ(text.text.Undo(), 2);
     EXPECT_EQ(text.text.Text(), "ab");
 }

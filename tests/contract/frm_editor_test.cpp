@@ -98,6 +98,7 @@ TEST(Contract, ThirtyFourLinesGoIntoTheLabelsAndTheShorterTextClearsTheRest) {
         EXPECT_EQ(run.Label(page, 46).Caption, "Line 34");
         EXPECT_EQ(run.Label(page, 47).Caption, "");
     }
+    EXPECT_FALSE(window.EditorDirty) << "nothing is left that only the window has";
 }
 
 TEST(Contract, ThirtyFiveLinesAreRefusedAndTheWindowStays) {
@@ -468,6 +469,117 @@ TEST(Contract, TheCommandBringsTheOpenWindowToTheFront) {
     const int before = window.FrontCalls;
     EXPECT_EQ(&run.Open(), &window);
     EXPECT_EQ(window.FrontCalls, before + 1);
+}
+
+TEST(Contract, WhatIsKeptOfALabelHasItsColourSlantAndLine) {
+    Contracted run;
+    run.Fill(2);
+    frmEditor& window = run.Open();
+    for (int index = 13; index <= 47; ++index) {
+        PageLabel& label = run.Label(PageId::frmP6, index);
+        label.ForeColor = static_cast<Color>(index);
+        label.FontUnderline = true;
+    }
+    if (!window.chkItalic.Value) {
+        window.chkItalic_Click(run.program);
+    }
+    window.Choose(run.program, "mnuFileExportAndExit");
+    const FormatRecords& format = run.program.format;
+    for (std::size_t index = 13; index <= 47; ++index) {
+        for (const auto* table :
+             {&format.PropLabelChanges, &format.FormatLabelChanges, &format.LabelSavedState}) {
+            const LabelChangeRecord& kept = (*table)[PageId::frmP6][index];
+            EXPECT_EQ(kept.ForeColor, static_cast<Color>(index));
+            EXPECT_TRUE(kept.FontUnderline) << index;
+            EXPECT_TRUE(kept.FontItalic) << index;
+        }
+    }
+}
+
+TEST(Contract, AFontThatIsNotInstalledIsNamedAllTheSame) {
+    Contracted run;
+    run.Label(PageId::frmP6, 13).FontName = "Garamond";
+    const frmEditor& window = run.Open();
+    EXPECT_EQ(window.cmbFont.ListIndex, -1);
+    EXPECT_EQ(window.cmbFont.Placeholder, "Garamond");
+}
+
+TEST(Contract, TheNumberedLinesStandInTheFontOfTheText) {
+    Contracted run;
+    frmEditor& window = run.Open();
+    window.cmbFontSize_Click(run.program, 2);
+    window.cmdLines_Click(run.program);
+    EXPECT_EQ(window.Shown().Font(), window.txtCharCount.Font());
+    EXPECT_EQ(window.Shown().Font().Size, 8);
+}
+
+TEST(Contract, AnImportIsWrappedAsItWillPrintAndTellsWhereTheCaretIs) {
+    Contracted run;
+    frmEditor& window = run.Open();
+    window.Moved(3, 0);
+    // 111 characters go into a line.
+    run.surroundings.clipboard.Text = std::string(100, 'a') + " " + std::string(20, 'b');
+    window.cmdImport_Click(run.program);
+    EXPECT_EQ(window.ContractLineCount, 2);
+    EXPECT_EQ(window.txtCharCount.Text(), run.surroundings.clipboard.Text);
+    EXPECT_EQ(window.lblCharCount.Caption, "Current Position = 0. Text contains 121 characters.");
+}
+
+TEST(Contract, WhatASearchHasToldGoesWithTheNextEditOrSearch) {
+    Contracted run;
+    frmEditor& window = run.Open();
+    run.Replace(window, "Half now.");
+    window.Find("refund", frmEditor::Way::Forward);
+    ASSERT_NE(window.lblNotice.Caption, "");
+    window.Find("", frmEditor::Way::Forward);
+    EXPECT_EQ(window.lblNotice.Caption, "");
+    window.Find("refund", frmEditor::Way::Forward);
+    ASSERT_NE(window.lblNotice.Caption, "");
+    window.Edited(9, 0, "!", 10, ContractText::Kind::Typing);
+    EXPECT_EQ(window.lblNotice.Caption, "");
+}
+
+TEST(Contract, AnEditAtTheVeryBeginningIsUndoneAndRedoneAsAnyOther) {
+    Contracted run;
+    frmEditor& window = run.Open();
+    run.Replace(window, "Half now.");
+    window.Edited(0, 0, "x", 1, ContractText::Kind::Whole);
+    window.Edited(0, 1, "", 0, ContractText::Kind::Whole);
+    window.Undo();
+    window.Undo();
+    EXPECT_EQ(window.txtCharCount.Text(), "Half now.");
+    EXPECT_EQ(window.SelStart, 0) << "in front of what was typed";
+    window.Redo();
+    EXPECT_EQ(window.SelStart, 1);
+    const int before = window.Revision;
+    window.EditorDirty = false;
+    window.Redo();
+    EXPECT_EQ(window.txtCharCount.Text(), "Half now.");
+    EXPECT_EQ(window.SelStart, 0);
+    EXPECT_EQ(window.Revision, before + 1) << "the window shows it";
+    EXPECT_TRUE(window.EditorDirty);
+}
+
+TEST(Contract, ASearchBackFindsThePlaceJustBeforeTheCaret) {
+    Contracted run;
+    frmEditor& window = run.Open();
+    run.Replace(window, "xxx");
+    window.Moved(2, 0);
+    for (const int place : {1, 0, 2}) {
+        window.Find("x", frmEditor::Way::Back);
+        EXPECT_EQ(window.SelStart, place);
+    }
+}
+
+TEST(Contract, UndoAndRedoAreInItsMenu) {
+    Contracted run;
+    frmEditor& window = run.Open();
+    const std::string before = window.txtCharCount.Text();
+    run.Replace(window, "Half now.");
+    window.Choose(run.program, "mnuEditUndo");
+    EXPECT_EQ(window.txtCharCount.Text(), before);
+    window.Choose(run.program, "mnuEditRedo");
+    EXPECT_EQ(window.txtCharCount.Text(), "Half now.");
 }
 
 } // namespace

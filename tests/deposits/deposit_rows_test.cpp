@@ -21,6 +21,8 @@ TEST(DepositRows, AFigureIsReadExactly) {
     EXPECT_EQ(ReadFigure("0.0049"), 0);
     EXPECT_EQ(ReadFigure("-12.34"), -1234);
     EXPECT_EQ(ReadFigure("(12.34)"), -1234);
+    EXPECT_FALSE(ReadFigure("(12.34")) << "a bracket that is never closed";
+    EXPECT_FALSE(ReadFigure("12.34)"));
     EXPECT_EQ(ReadFigure("999,999,999,999.99"), 99999999999999);
     EXPECT_EQ(ReadFigure("000000000000000001"), 100);
 }
@@ -153,6 +155,15 @@ TEST(Figures, HaveCommasBetweenGroupsOfThreeAlone) {
     for (const char* none : {"1,25,000", "1,2500", "1250,000", ",250", "1,250,00", "1,2,500"}) {
         EXPECT_EQ(modDeposits::ReadFigure(none), std::nullopt) << none;
     }
+}
+
+TEST(DepositRows, ATotalBeyondWhatCanBeAddedStaysAtTheEndOfIt) {
+    // 2^63 - 1 hundredths are the most; 92,234 of these rows would be more.
+    const std::size_t rows = 92'235;
+    EXPECT_EQ(Shown(AddUp(std::vector<std::string>(rows, "\t999999999999.99")).Total),
+              "92,233,720,368,547,758.07");
+    EXPECT_EQ(Shown(AddUp(std::vector<std::string>(rows, "\t-999999999999.99")).Total),
+              "-92,233,720,368,547,758.07");
 }
 
 } // namespace

@@ -474,6 +474,10 @@ TEST(Deposits, AFileThatCannotBeReadLocksTheWindow) {
     frmDeposits& window = run.Open();
     EXPECT_TRUE(window.Locked);
     EXPECT_FALSE(window.Entry("mnuFileSave").Enabled);
+    EXPECT_FALSE(window.cmdSave.Enabled);
+    for (const EntryBox* box : {&window.txtName, &window.txtDate, &window.txtAmount}) {
+        EXPECT_FALSE(box->Enabled);
+    }
     run.Add(window, "1/1/2008", "5");
     window.Choose(run.program, "mnuFileSave");
     EXPECT_FALSE(window.SaveDepositInfo(run.program));
@@ -636,6 +640,8 @@ TEST(Deposits, AfterARowHasGoneNoneIsMarked) {
     window.Choose(run.program, "mnuEditDelete");
     EXPECT_EQ(window.lst.SelCount(), 0);
     EXPECT_EQ(window.lst.Selected, std::vector<bool>(2, false));
+    EXPECT_EQ(window.lst.ListIndex, -1);
+    EXPECT_TRUE(window.DepositChanged) << "closing asks";
     run.Boxes().ExpectBox({"Nothing selected to remove.", Buttons::Ok, ""}, Answer::Ok);
     window.Choose(run.program, "mnuEditDelete");
     EXPECT_EQ(window.lst.Items, (Deposited::Items{"a\t\t$ 100.00", "c\t\t$ 250.00"}));
@@ -666,6 +672,71 @@ TEST(Deposits, AnotherNameReachesAFileThatHasNoRows) {
     run.Boxes().TakeAll(Answer::No); // the proposal's deposit stays
     window.Choose(run.program, "mnuFileSave");
     EXPECT_EQ(run.File(), "J. Roe");
+}
+
+TEST(Deposits, TheSameAmountOfAnotherDayIsAnotherDeposit) {
+    Deposited run;
+    frmDeposits& window = run.Open();
+    run.Add(window, "1/1/2008", "75");
+    window.txtDate_Change(run.program, "1/2/2008");
+    window.cmdSave_Click(run.program);
+    EXPECT_EQ(window.lst.Items, (Deposited::Items{"1/1/2008\t\t$ 75.00", "1/2/2008\t\t$ 75.00"}));
+}
+
+TEST(Deposits, ADateThatIsOnlyWrittenAnewIsNoOtherDeposit) {
+    Deposited run;
+    frmDeposits& window = run.Open();
+    window.MoveFocus(run.program, "txtDate");
+    run.Add(window, "1/1/2008", "75");
+    window.MoveFocus(run.program, "txtAmount");
+    EXPECT_EQ(window.txtDate.Text, "Jan 01, 2008");
+    window.cmdSave_Click(run.program);
+    EXPECT_EQ(window.lst.Items, (Deposited::Items{"1/1/2008\t\t$ 75.00"}));
+}
+
+TEST(Deposits, ATakenRowWhoseDateIsOnlyWrittenAnewIsNotAskedAbout) {
+    Deposited run;
+    run.File("Jane Roe\r\n1/5/2008\t\t$ 500.00");
+    frmDeposits& window = run.Open();
+    window.lst_Click({0}, 0);
+    run.Boxes().Expect("has been placed");
+    window.Choose(run.program, "mnuEditItem");
+    window.MoveFocus(run.program, "txtAmount");
+    EXPECT_EQ(window.txtDate.Text, "Jan 05, 2008");
+    window.Choose(run.program, "mnuFileExit");
+    EXPECT_TRUE(window.Closing);
+}
+
+TEST(Deposits, ARowThatWasAddedSavedAndRemovedDoesNotComeBack) {
+    Deposited run;
+    frmDeposits& window = run.Open();
+    run.Add(window, "1/1/2008", "500");
+    window.Choose(run.program, "mnuFileSave");
+    ASSERT_EQ(run.File(), "Jane Roe\r\n1/1/2008\t\t$ 500.00");
+    window.lst_Click({0}, 0);
+    window.Choose(run.program, "mnuEditDelete");
+    run.Boxes().Expect("There are no Deposits to save.");
+    window.Choose(run.program, "mnuFileSave");
+    EXPECT_EQ(run.File(), "Jane Roe");
+    EXPECT_EQ(run.Deposit(), "0");
+}
+
+TEST(Deposits, AListThatIsAsItsFileIsNotKeptWhenTheRunIsEndedFromOutside) {
+    Deposited run;
+    run.File("Jane Roe\r\n1/1/2008\t\t$ 500.00");
+    run.Open();
+    modWindows::KeepUnsaved(run.program);
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Jane Roe.dep"));
+}
+
+TEST(Deposits, OneUnreadableRowIsToldOfAsOne) {
+    Deposited run;
+    run.File("Jane Roe\r\nJan 1, 2008\t\t$ 500.00\r\nlost");
+    run.Boxes().ExpectBox(
+        {"The amount of 1 deposit in the list cannot be read. It stays in the list and counts as 0.00.",
+         Buttons::Ok, ""},
+        Answer::Ok);
+    EXPECT_EQ(run.Open().lst.Items.size(), 2U);
 }
 
 } // namespace

@@ -10,6 +10,7 @@ namespace {
 void Spoil(PageLabel& label) {
     label.Visible = true;
     label.Tag = "spoilt";
+    label.ToolTipText = "Left = 1, Top = 1";
     label.FontName = "Courier New";
     label.FontSize = 30;
     label.FontBold = !label.FontBold;
@@ -76,6 +77,7 @@ TEST(PageDefaults, BringBackEveryFieldOfEveryPage) {
         EXPECT_EQ(again.lblAt, designed.lblAt) << again.Name;
         EXPECT_EQ(again.lblEach, designed.lblEach) << again.Name;
         EXPECT_EQ(again.LabelBaseState, designed.LabelBaseState) << again.Name;
+        EXPECT_EQ(again.LabelBaseState.empty(), page == PageId::frmP6_1) << again.Name << ": nobody edits it";
     }
 }
 
@@ -186,6 +188,8 @@ TEST(PageDefaults, PutEveryLabelOfTheFinalPagesInItsPlace) {
         }
         ExpectAt(page, 63, 900, 15030);
         ExpectAt(page, 64, 5310, 15030);
+        EXPECT_EQ(page.lbl[64].Caption, id == PageId::frmP6 ? "Proposal for (Client's Name) - Our Copy"
+                                                            : "Proposal for (Client's Name) - Client's Copy");
         for (int index = 13; index <= 64; ++index) {
             EXPECT_EQ(page.lbl[static_cast<std::size_t>(index)].FontBold, index >= 63)
                 << page.Name << " label " << index;
@@ -200,6 +204,47 @@ TEST(PageDefaults, PutEveryLabelOfTheClientPagesFootInItsPlace) {
     ExpectAt(page, 31, 900, 15030);
     ExpectAt(page, 32, 11340 - 1900, 15030);
     ExpectAt(page, 33, 4860, 15030);
+}
+
+TEST(PageDefaults, BringTheBoxRoundTheRemittanceAddressToItsSize) {
+    RunningProgram run;
+    run.program.settings.CompanyAddress2 = "Suite 7";
+    for (const PageId page : {PageId::frmP6, PageId::frmP6_1}) {
+        modPages::ApplyPageDefaults(run.program, page);
+        EXPECT_EQ(run.program.pages[page].lne[14].Y1, 14760);
+    }
+}
+
+TEST(PageDefaults, APageThatIsSetUpAgainHoldsNothingOfTheOldOne) {
+    RunningProgram run;
+    for (const PageId id : kAllPages) {
+        Page& page = run.program.pages[id];
+        Spoil(page);
+        page.InkShown = true;
+        page.shpSelect.Visible = true;
+        for (TextArea& area : page.txt) {
+            area.Text = "spoilt";
+        }
+        for (PageImage& image : page.imgNoTax) {
+            image.Tag.clear();
+        }
+        modPages::SetUpPage(run.program, id);
+        EXPECT_FALSE(page.InkShown) << page.Name;
+        EXPECT_FALSE(page.shpSelect.Visible) << page.Name;
+        for (const TextArea& area : page.txt) {
+            EXPECT_EQ(area.Text, "") << page.Name;
+        }
+        for (const PageImage& image : page.imgNoTax) {
+            EXPECT_EQ(image.Tag, kHide) << page.Name;
+        }
+        for (const auto* labels : {&page.lblAt, &page.lblEach}) {
+            ASSERT_EQ(labels->size(), IsLinePage(id) ? 1U : 0U) << page.Name << ": until a row needs more";
+            for (const PageLabel& label : *labels) {
+                EXPECT_EQ(label.BackColor, colors::kRestingRowField) << page.Name;
+                EXPECT_EQ(label.BackStyle, 1) << page.Name;
+            }
+        }
+    }
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "shell/closing.h"
 #include "shell/command_run.h"
 #include "shell/command_table.h"
+#include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
 
@@ -373,6 +374,78 @@ TEST(Commands, WaitWhilePagesAreBeingPrinted) {
     run.program.printing.CommandRunning = false;
     run.Area(PageId::frmP1, 8).Text.clear();
     EXPECT_TRUE(modClosing::MDIForm_QueryUnload(run.program));
+}
+
+TEST(Commands, OneThatIsNotBuiltMayNotRun) {
+    RunningProgram run;
+    EXPECT_FALSE(commands::MayRun(run.program, CommandId::mnuAdminTestCode));
+    EXPECT_TRUE(commands::MayRun(run.program, CommandId::mnuHelpAbout));
+}
+
+TEST(Commands, WhatWasToldOfTheLastOneIsOverWithTheNext) {
+    RunningProgram run;
+    Choose(run, CommandId::mnuAdminTestCode);
+    ASSERT_NE(run.program.main.Notice, "");
+    Choose(run, CommandId::mnuOptUnderline);
+    EXPECT_EQ(run.program.main.Notice, "");
+}
+
+TEST(Commands, OneThatTheLastCommandMadePossibleRunsAtOnce) {
+    RunningProgram run;
+    TypeJaneRoe(run);
+    run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
+    Choose(run, CommandId::mnuFileSaveEvent);
+    run.surroundings.questions.Expect("Are you sure you want to delete this file?", Answer::Yes);
+    Choose(run, CommandId::mnuFileDelete);
+    EXPECT_FALSE(run.folder.Has("Proposals/Jane Roe.hef"));
+}
+
+TEST(Commands, OneChosenWhileAnAreasMenuIsUpFindsTheAreaInUseAgain) {
+    RunningProgram run;
+    const FieldRef line{PageId::frmP2, FieldKind::txt, 3};
+    Typist typist(run.program);
+    typist.Click(line);
+    constexpr int kRightButton = 2;
+    person::FieldMouseDown(run.program, line, kRightButton, 0, 0);
+    ASSERT_FALSE(run.program.main.Focus);
+    Choose(run, CommandId::mnuOptUnderline);
+    EXPECT_EQ(run.program.main.Focus, line);
+}
+
+TEST(Administrator, ConvertingIsNotedOnceTheLogonAllowsIt) {
+    RunningProgram run;
+    run.program.main[CommandId::mnuAdminConvert].Visible = true;
+    Choose(run, CommandId::mnuAdminConvert);
+    EXPECT_FALSE(run.program.main.ConversionAsked);
+    run.surroundings.questions.ExpectInput("Password Required", "");
+    Choose(run, CommandId::mnuAdminLogon);
+    Choose(run, CommandId::mnuAdminConvert);
+    EXPECT_TRUE(run.program.main.ConversionAsked);
+}
+
+TEST(Toggles, HideTotalsIsCheckedAsLongAsTheyAreHidden) {
+    RunningProgram run;
+    EXPECT_FALSE(run.Main()[CommandId::mnuOptHideTotals].Checked);
+    Choose(run, CommandId::mnuOptHideTotals);
+    EXPECT_TRUE(run.Main()[CommandId::mnuOptHideTotals].Checked);
+    EXPECT_FALSE(run.Main().cmdReCalc.Visible);
+    Choose(run, CommandId::mnuOptHideTotals);
+    EXPECT_FALSE(run.Main()[CommandId::mnuOptHideTotals].Checked);
+    EXPECT_TRUE(run.Main().cmdReCalc.Visible);
+}
+
+TEST(CurrencySymbol, WithItTheSettingsAreReadAndInForceAgain) {
+    RunningProgram run(RunningProgram::Begin::NotStarted);
+    run.Setting("Default Printer:", "Print to PDF");
+    run.Start();
+    RecordingPrinters& printers = run.surroundings.printers;
+    ASSERT_EQ(printers.CurrentDevice, "Print to PDF");
+    printers.CurrentDevice = "Office Laser"; // the system's own has changed meanwhile
+    run.surroundings.questions.ExpectInput("Changing Currency Designator", "EUR");
+    ExpectTold(run, "Changes will be applied in the next \"New\" or \"Open\" session.");
+    Choose(run, CommandId::mnuOptCurrencySymbol);
+    EXPECT_EQ(printers.CurrentDevice, "Print to PDF");
+    EXPECT_EQ(run.program.settings.CurrencySymbol, "EUR");
 }
 
 } // namespace

@@ -8,6 +8,9 @@
 #include <algorithm>
 #include <filesystem>
 #include <set>
+#include <stdexcept>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -81,6 +84,9 @@ TEST(Splash, NameAndLineStandInWhiteOverTheirShadow) {
         // Every character is 100 twips wide here.
         const float width = 100.0F * static_cast<float>(words.size());
         EXPECT_EQ(found[1].X, (7800 - width) / 2);
+        for (const SplashText& text : found) {
+            EXPECT_EQ(text.Bold, words == "HARROWDENE WORKS");
+        }
     }
     EXPECT_LT(run.Texts("HARROWDENE WORKS")[1].Y, run.Texts("Tools for Trade and Craft")[1].Y);
     EXPECT_EQ(run.Window()->Picture.FontName, "Arial");
@@ -145,6 +151,8 @@ TEST(Splash, FourWordsCloseInOnTheCentreOverAHundredLoops) {
     Splash run;
     std::vector<float> spans;
     std::vector<Color> blues;
+    float middleX = 0;
+    float middleY = 0;
     run.surroundings.events.OnYield = [&] {
         const std::vector<SplashText> corners = run.Texts("HRWD");
         if (corners.empty()) {
@@ -155,6 +163,11 @@ TEST(Splash, FourWordsCloseInOnTheCentreOverAHundredLoops) {
             corners.begin(), corners.end(),
             [](const SplashText& one, const SplashText& other) { return one.X < other.X; });
         spans.push_back(most->X - least->X);
+        middleX = (most->X + least->X) / 2;
+        const auto [highest, lowest] = std::minmax_element(
+            corners.begin(), corners.end(),
+            [](const SplashText& one, const SplashText& other) { return one.Y < other.Y; });
+        middleY = (highest->Y + lowest->Y) / 2;
         blues.push_back(run.Window()->Picture.BackColor >> 16U);
     };
     run.Begin();
@@ -162,6 +175,9 @@ TEST(Splash, FourWordsCloseInOnTheCentreOverAHundredLoops) {
     EXPECT_EQ(spans.front(), 7800 - 2 * 300 - 400);
     EXPECT_TRUE(std::is_sorted(spans.rbegin(), spans.rend()));
     EXPECT_LT(spans.back(), 100);
+    // 400 twips wide and 300 high, each word stands round the middle of 7800 by 4560.
+    EXPECT_NEAR(middleX, (7800 - 400) / 2, 1);
+    EXPECT_NEAR(middleY, (4560 - 300) / 2, 1);
     EXPECT_TRUE(std::is_sorted(blues.begin(), blues.end()));
     std::set<Color> steps(blues.begin(), blues.end());
     for (const Color blue : steps) {
@@ -233,6 +249,79 @@ TEST(Splash, WhereNoLockCanBeMadeThePersonIsToldAndWorks) {
     run.Begin();
     PassSplash(run.program);
     EXPECT_TRUE(run.program.main.Loaded);
+}
+
+TEST(Splash, IsOnShowWithItsNameBeforeAnythingIsRead) {
+    Splash run;
+    int before = 0;
+    run.surroundings.events.OnYield = [&] {
+        if (!run.program.settings.PrefsRead) {
+            ++before;
+            EXPECT_EQ(run.Texts("HARROWDENE WORKS").size(), 2U);
+        }
+    };
+    run.Begin();
+    EXPECT_EQ(before, 1);
+}
+
+TEST(Splash, ShowsHowToLeaveItBeforeItWaitsForThePerson) {
+    Splash run;
+    bool shown = false;
+    run.surroundings.events.OnYield = [&] {
+        shown = !run.Texts("Click anywhere to exit this screen.").empty();
+    };
+    run.Begin();
+    EXPECT_TRUE(shown);
+}
+
+TEST(Splash, FontsThatCouldNotBeListedToTheEndUnderItAreListedByTheLoad) {
+    Splash run;
+    bool failed = false;
+    run.surroundings.events.OnYield = [&] {
+        if (run.program.run.FontList.size() == 1 && !failed) {
+            failed = true;
+            throw std::runtime_error("the display is away");
+        }
+    };
+    run.surroundings.questions.Expect("An error occurred in LoadTheFonts.");
+    run.Begin();
+    EXPECT_FALSE(run.program.run.FontsLoaded);
+    int meanwhile = 0;
+    run.surroundings.events.OnYield = [&] {
+        ++meanwhile;
+        EXPECT_EQ(run.program.pages[PageId::frmP6_1].lbl.size(), 65U)
+            << "what is painted now is a whole page";
+    };
+    PassSplash(run.program);
+    EXPECT_GT(meanwhile, 0);
+    EXPECT_TRUE(run.program.run.FontsLoaded);
+    EXPECT_EQ(run.program.run.FontList, (std::vector<std::string>{"Arial", "Times New Roman"}));
+}
+
+TEST(Splash, SettingsThatCouldNotBeReadUnderItAreReadByTheLoad) {
+    Splash run;
+    const std::string settings = run.folder.Read("UserPreferences.txt");
+    std::filesystem::remove(run.folder / "UserPreferences.txt");
+    run.folder.MakeFolder("UserPreferences.txt");
+    run.surroundings.questions.Expect("An error occurred in GetUserPreferences.");
+    run.Begin();
+    EXPECT_FALSE(run.program.settings.PrefsRead);
+    std::filesystem::remove(run.folder / "UserPreferences.txt");
+    run.folder.Write("UserPreferences.txt", settings);
+    PassSplash(run.program);
+    EXPECT_TRUE(run.program.settings.PrefsRead);
+    EXPECT_EQ(run.program.settings.CompanyName, "Acme Events");
+}
+
+TEST(Splash, AFontOfTheSettingsThatIsNotInstalledHasGivenWayWhenItWaits) {
+    Splash run;
+    run.Setting("Font Name:", "Nowhere Script");
+    run.Begin();
+    EXPECT_EQ(run.program.run.DefaultFontName, "Times New Roman");
+    Splash other;
+    other.Setting("Font Name:", "Arial");
+    other.Begin();
+    EXPECT_EQ(other.program.run.DefaultFontName, "Arial");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "pages/page_geometry.h"
 #include "program/program.h"
 #include "shell/frm_main.h"
+#include "shell/input.h"
 #include "shell/page_switch.h"
 #include "support/person.h"
 #include "support/running_program.h"
@@ -161,6 +162,66 @@ TEST(Gate, PreviewAndRecalculateByButtonWaitForThePagesUnderWayAsByMenu) {
     EXPECT_FALSE(run.program.pages[PageId::frmP1].InkShown);
     run.surroundings.questions.Expect("");
     frmMain(run.program).cmdReCalc_Click();
+}
+
+TEST(InView, APageButtonScrollsToTheDepositInAWindowThatEndsAboveIt) {
+    LowWindow run;
+    run.program.main.ClientHeight = 1500;
+    person::ResizeWindow(run.program);
+    person::ClickPageButton(run.program, 5);
+    const TextArea& deposit = run.Area(PageId::frmP6, 4);
+    ASSERT_GT(deposit.Top, 1500);
+    const auto from = static_cast<float>(run.program.main.VScroll1.Value);
+    EXPECT_GE(deposit.Top, from);
+    EXPECT_LE(deposit.Top + deposit.Height, from + 1500);
+}
+
+TEST(InView, ATextThatIsDroppedAndAFieldThatIsEnteredShowWhereTheyAre) {
+    LowWindow run;
+    const FieldRef name{PageId::frmP1, FieldKind::txt, 2};
+    const FieldRef line{PageId::frmP1, FieldKind::txt, 19};
+    run.typist.Click(name);
+    run.ScrollTo(9000);
+    run.typist.Insert("Ann");
+    EXPECT_TRUE(run.Shows(name));
+    ASSERT_FALSE(run.Shows(line));
+    modInput::FieldEntered(run.program, line);
+    EXPECT_EQ(run.program.main.Focus, line);
+    EXPECT_TRUE(run.Shows(line));
+}
+
+TEST(InView, AFieldThatTouchesAnEdgeOfTheWindowShows) {
+    LowWindow run;
+    const FieldRef line{PageId::frmP1, FieldKind::txt, 10}; // from 10260 to 10515
+    for (const int scrolled : {10260, 10515 - 5000}) {
+        run.ScrollTo(scrolled);
+        modScroll::BringIntoView(run.program, line);
+        EXPECT_EQ(run.program.main.VScroll1.Value, scrolled);
+    }
+    run.ScrollTo(10261);
+    modScroll::BringIntoView(run.program, line);
+    EXPECT_EQ(run.program.main.VScroll1.Value, 10260 - 360) << "a row above it shows, too";
+    run.ScrollTo(10514 - 5000);
+    modScroll::BringIntoView(run.program, line);
+    EXPECT_EQ(run.program.main.VScroll1.Value, 10515 - 5000 + 360) << "and a row below";
+}
+
+TEST(InView, AWindowTwiceAsHighAsAFieldShowsItInTheMiddleAndALowerOneDoesNotFollow) {
+    LowWindow run;
+    const FieldRef line{PageId::frmP1, FieldKind::txt, 15}; // from 12060 to 12315
+    run.program.main.ClientHeight = 509;
+    person::ResizeWindow(run.program);
+    modScroll::BringIntoView(run.program, line);
+    EXPECT_EQ(run.program.main.VScroll1.Value, 0);
+    run.program.main.ClientHeight = 511;
+    person::ResizeWindow(run.program);
+    modScroll::BringIntoView(run.program, line);
+    EXPECT_EQ(run.program.main.VScroll1.Value, 12315 + 128 - 511) << "128 above it and 128 below";
+    run.ScrollTo(0);
+    run.program.main.ClientHeight = 510;
+    person::ResizeWindow(run.program);
+    modScroll::BringIntoView(run.program, line);
+    EXPECT_EQ(run.program.main.VScroll1.Value, 11932) << "12315 + 127.5 - 510";
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -354,6 +355,92 @@ TEST(Input, TheCaretsLabelFollowsTheKeyboardFromBoxToBoxWhileTheKeyIsDown) {
     ASSERT_EQ(told, "Cursor Location = 2");
     modInput::FieldEntered(run.program, {PageId::frmP2, FieldKind::txtQty, 3});
     EXPECT_EQ(told, "Cursor Location = 0");
+}
+
+TEST(Mouse, AClickOnAFieldEndsTheLabelModeAndEntersThatFieldAlone) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP1, 2);
+    person::Choose(run.program, CommandId::mnuEditLabelMode);
+    ASSERT_TRUE(run.program.designer.LabelMode);
+    std::vector<FieldRef> entered;
+    run.program.hooks.GotFocus = [&, wired = run.program.hooks.GotFocus](Program& program,
+                                                                         const FieldRef& field) {
+        entered.push_back(field);
+        wired(program, field);
+    };
+    const FieldRef place{PageId::frmP1, FieldKind::txt, 8};
+    person::FieldMouseDown(run.program, place, 1, 0, 0);
+    EXPECT_FALSE(run.program.designer.LabelMode);
+    EXPECT_FALSE(run.program.designer.Framed);
+    EXPECT_FALSE(run.program.designer.FocusBefore);
+    EXPECT_FALSE(run.Main()[CommandId::mnuEditLabelMode].Checked);
+    EXPECT_EQ(run.program.main.Focus, place);
+    EXPECT_EQ(entered, std::vector<FieldRef>{place});
+}
+
+TEST(Notice, AKeyInTheLabelModeEndsWhatWasToldOfTheLastOne) {
+    RunningProgram run;
+    person::Choose(run.program, CommandId::mnuEditLabelMode);
+    run.program.main.Notice = "Kept only by a format or by Save this Logo as Default.";
+    static_cast<void>(modInput::LabelKeyDown(run.program, keys::kTab, 0));
+    EXPECT_EQ(run.program.main.Notice, "");
+    EXPECT_EQ(run.program.designer.Framed, 1);
+}
+
+TEST(Mouse, ABandTakesTheRowsFromWhereItWasBegun) {
+    RunningProgram run;
+    constexpr PageId kPage = PageId::frmP2;
+    person::TurnTo(run.program, 1);
+    modInput::PageMouseDown(run.program, 1, 800, run.Area(kPage, 5).Top - 20);
+    modInput::PageMouseMove(run.program, kPage, 1, 9600, run.Area(kPage, 7).Top + 275);
+    modInput::PageMouseUp(run.program, kPage, 1, 9600, run.Area(kPage, 7).Top + 275);
+    for (int row = 0; row <= 9; ++row) {
+        EXPECT_EQ(run.Area(kPage, row).BackColor == colors::kBlockSelected, row >= 5 && row <= 7) << row;
+    }
+}
+
+TEST(Mouse, AClickFromThePriceIntoTheAmountThatItMakesPutsTheCursorWhereItWasPressed) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 3);
+    typist.Press(keys::kF8);
+    typist.Type("3");
+    typist.Click({PageId::frmP2, FieldKind::txtAmt, 3});
+    typist.Type("2");
+    const FieldRef amount{PageId::frmP2, FieldKind::txt, 36};
+    person::FieldMouseDown(run.program, amount, 1, 2, 0);
+    ASSERT_EQ(run.TextOf(PageId::frmP2, 36), "6.00");
+    EXPECT_EQ(run.Area(PageId::frmP2, 36).SelStart, 2);
+}
+
+TEST(Mouse, TheAreasMenuOpensForAPressThatHasTakenTheFocusAndForNothingElse) {
+    RunningProgram run;
+    Typist typist(run.program);
+    const FieldRef line{PageId::frmP2, FieldKind::txt, 3};
+    typist.Click(line);
+    EXPECT_FALSE(person::TextMenuOpens(run.program));
+    constexpr int kRightButton = 2;
+    person::FieldMouseDown(run.program, line, kRightButton, 0, 0);
+    EXPECT_TRUE(person::TextMenuOpens(run.program));
+    person::TextMenuClosed(run.program);
+    EXPECT_FALSE(person::TextMenuOpens(run.program)) << "the area has the keyboard again";
+    RunningProgram other;
+    person::ClickPageButton(other.program, 6);
+    ASSERT_FALSE(other.program.main.Focus);
+    EXPECT_FALSE(person::TextMenuOpens(other.program)) << "nothing was pressed";
+}
+
+TEST(Mouse, ATextOfTheMostThatALineTakesComesInWhole) {
+    RunningProgram run;
+    Typist typist(run.program);
+    const FieldRef name{PageId::frmP1, FieldKind::txt, 2};
+    typist.Click(name);
+    const std::string most(4096, 'a');
+    EXPECT_EQ(modInput::Accept(run.program, name, most, 0), most);
+    EXPECT_EQ(run.program.main.Notice, "");
+    EXPECT_EQ(modInput::Accept(run.program, name, most + "b", 0), most);
+    EXPECT_EQ(run.program.main.Notice, "The text was too long for one line; its end was not taken.");
 }
 
 } // namespace

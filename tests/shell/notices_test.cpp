@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <string_view>
 
 namespace {
 
@@ -213,6 +214,52 @@ TEST(SavedNotice, IsNotGivenForASaveThatFailed) {
     run.surroundings.questions.Expect("An error occurred in SaveEventFile.");
     person::Choose(run.program, CommandId::mnuFileSaveEvent);
     EXPECT_EQ(run.program.main.Notice.find("saved"), std::string::npos);
+}
+
+TEST(Notice, TellsNothingOfAKeyWhereNoKeyIsTaken) {
+    RunningProgram run;
+    Typist typist(run.program);
+    const FieldRef amount{PageId::frmP2, FieldKind::txt, 36};
+    typist.Click(amount);
+    typist.Press(keys::kDown, keys::kShiftState);
+    ASSERT_TRUE(run.program.editing.BlockMode);
+    ASSERT_EQ(run.program.main.Focus, amount);
+    typist.Type("x");
+    EXPECT_EQ(run.program.main.Notice, "") << "the amounts are selected";
+    const FieldRef total{PageId::frmP6, FieldKind::txt, 0};
+    typist.Click(total);
+    ASSERT_TRUE(run.Area(PageId::frmP6, 0).Locked);
+    typist.Type("x");
+    EXPECT_EQ(run.program.main.Notice, "") << "the total is worked out";
+}
+
+TEST(Notice, OfATextFromOutsideTellsWhatWasNotTakenAndNothingOfAWholeOne) {
+    RunningProgram run;
+    const FieldRef amount{PageId::frmP1, FieldKind::txt, 20};
+    const FieldRef name{PageId::frmP1, FieldKind::txt, 2};
+    const auto told = [&](const FieldRef& field, std::string_view text, int refused) {
+        run.program.main.Notice.clear();
+        person::Insert(run.program, field, text, refused, person::By::Mouse);
+        return run.program.main.Notice;
+    };
+    EXPECT_EQ(told(name, "Ann", 0), "");
+    EXPECT_EQ(told(amount, "12.50", 0), "");
+    EXPECT_EQ(told(amount, "  ", 0), "") << "blanks say nothing";
+    EXPECT_EQ(told(amount, "ten", 0), "\"ten\" was not taken: it is no number.");
+    EXPECT_EQ(told(amount, "ten", 2), "2 characters were not taken: they cannot be kept in a proposal.");
+}
+
+TEST(Notice, ItsReadingTimeBeginsWhenItIsShown) {
+    RunningProgram run;
+    NoticeStrip strip;
+    run.program.main.Notice = "One character was not taken.";
+    strip.Follow(run.program, 100'000);
+    for (const std::int64_t now : {100'900, 101'800, 102'700, 103'600, 104'500, 104'999}) {
+        strip.Activity(now);
+        EXPECT_NE(strip.Text(), "") << now;
+    }
+    strip.Activity(105'000);
+    EXPECT_EQ(strip.Text(), "");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "program/program.h"
 #include "program/windows.h"
 #include "shell/frm_main.h"
+#include "support/person.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
@@ -117,10 +118,12 @@ struct Scrolling : RunningProgram {
 };
 
 TEST(ScrollBar, OfAWindowWithoutHeightStillSteps) {
-    const Scrolling run(0);
+    Scrolling run(0);
     const ScrollBarRecord& bar = run.program.main.VScroll1;
     EXPECT_EQ(bar.LargeChange, 1);
     EXPECT_EQ(bar.SmallChange, 1);
+    run.After(0, 34); // Page Down
+    EXPECT_EQ(bar.LargeChange, 1);
 }
 
 TEST(ScrollBar, FitsThePageToTheWindow) {
@@ -169,11 +172,13 @@ TEST(Resize, FitsTheFirstPageWhicheverIsInFront) {
     Scrolling run(7000);
     modScroll::SetScroll(run.program, 2000);
     run.program.pages[PageId::frmP1].Width = 1;
+    run.program.pages[PageId::frmP1].Height = 1;
     run.program.pages[PageId::frmP2].Width = 2;
     run.program.main.ClientHeight = 7920;
     modScroll::MDIForm_Resize(run.program);
     EXPECT_EQ(run.program.main.WindowHeightRatio, 0.5F);
     EXPECT_EQ(run.program.pages[PageId::frmP1].Width, 12240);
+    EXPECT_EQ(run.program.pages[PageId::frmP1].Height, 15840);
     EXPECT_EQ(run.program.pages[PageId::frmP2].Width, 2);
     EXPECT_EQ(run.program.pages[PageId::frmP2].Top, -2000) << "the person stays where he was";
     EXPECT_EQ(run.program.main.VScroll1.Max, 7950);
@@ -244,6 +249,29 @@ TEST(Resize, FloatingWindowsGoWithTheMainWindowOnWideScreens) {
     run.surroundings.screen.Pixels = 1023;
     resize(WindowState::Minimised);
     EXPECT_FALSE(terms.Minimised);
+    run.surroundings.screen.Pixels = 1024;
+    resize(WindowState::Minimised);
+    EXPECT_TRUE(terms.Minimised);
+}
+
+TEST(Resize, AHigherWindowAtThePagesFootShowsItsFoot) {
+    Scrolling run(7000);
+    modScroll::SetScroll(run.program, 8870);
+    ASSERT_EQ(run.program.pages[PageId::frmP2].Top, -8870);
+    run.program.main.ClientHeight = 12000;
+    modScroll::MDIForm_Resize(run.program);
+    EXPECT_EQ(run.program.main.VScroll1.Value, 3870) << "15840 - 12000 + 30";
+    EXPECT_EQ(run.program.pages[PageId::frmP2].Top, -3870);
+}
+
+TEST(PageSwitch, InTheLabelModeTheFrameGoesToTheNewPagesFirstLabelAndTheCopyEndsIt) {
+    RunningProgram run;
+    person::Choose(run.program, CommandId::mnuEditLabelMode);
+    run.program.designer.Framed = 9;
+    modScroll::UpdatePageButtons(run.program, 1);
+    EXPECT_EQ(run.program.designer.Framed, 0);
+    modScroll::UpdatePageButtons(run.program, 6);
+    EXPECT_FALSE(run.program.designer.LabelMode);
 }
 
 } // namespace

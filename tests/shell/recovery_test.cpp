@@ -1,7 +1,11 @@
 #include "base/dates.h"
 #include "base/files.h"
 #include "base/seen.h"
+#include "format/frm_label_props.h"
+#include "format/label_designer.h"
 #include "pages/fields.h"
+#include "program/keys.h"
+#include "program/windows.h"
 #include "proposal/backup.h"
 #include "proposal/lifecycle.h"
 #include "proposal/proposal_bytes.h"
@@ -571,6 +575,36 @@ TEST(Recovery, ARunThatHasTakenItsMarkerAwayTellsOfNothingAnyMore) {
     modRecovery::TellOfSave(runs.first->program, "bytes");
     runs.StartAgain("", Answer::No);
     EXPECT_TRUE(runs.again.questions.Shown.empty());
+}
+
+TEST(Recovery, AChangeThatWasTakenBackBeforeAnEndFromOutsideIsNotMentioned) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Save("Ann.hef");
+    runs.Fill(10, "ab");
+    modFile::BackupThisFile(runs.first->program);
+    Typist typist(runs.first->program);
+    typist.Press(keys::kBackspace);
+    typist.Press(keys::kBackspace);
+    ASSERT_FALSE(modProposal::SomethingChanged(runs.first->program));
+    modClosing::Interrupted(runs.first->program);
+    runs.StartAgain("", Answer::No);
+    EXPECT_TRUE(runs.again.questions.Shown.empty());
+}
+
+TEST(Recovery, WordsTypedOnToALabelComeBackAfterAnEndFromOutside) {
+    Runs runs;
+    Program& program = runs.first->program;
+    runs.Fill(2, "Ann");
+    runs.Save("Ann.hef");
+    modDesigner::lbl_MouseDown(program, PageId::frmP1, 9, modDesigner::kLeftButton, 0, 0);
+    modDesigner::lbl_MouseUp(program, PageId::frmP1, 9);
+    person::Choose(program, CommandId::mnuEditLabelProps);
+    auto& window = dynamic_cast<frmLabelProps&>(*modWindows::Find(program, "frmLabelProps"));
+    window.txtCaption_Change(program, "Day of the feast");
+    modClosing::Interrupted(program);
+    runs.StartAgain("The proposal Ann has changes from ", Answer::Yes);
+    EXPECT_EQ(runs.program.pages[PageId::frmP1].lbl[9].Caption, "Day of the feast");
 }
 
 } // namespace

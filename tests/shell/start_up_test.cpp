@@ -208,6 +208,8 @@ TEST(StartUp, AFontThatIsNotThereGivesWayForTheRunOnly) {
     ASSERT_EQ(run.Main(), modStart::StartResult::Running);
     EXPECT_TRUE(run.program.run.DefaultFontFound);
     EXPECT_EQ(run.Area(PageId::frmP1, 10).FontName, "Arial");
+    EXPECT_EQ(run.program.pages[PageId::frmP3].txtQty[5].FontName, "Arial");
+    EXPECT_EQ(run.program.pages[PageId::frmP3].lblAt[5].FontName, "Arial");
     EXPECT_EQ(run.program.run.FontList, (std::vector<std::string>{"Arial", "Times New Roman"}));
 }
 
@@ -364,6 +366,14 @@ TEST(Exit, AChangedPropertyAsksToo) {
     run.program.format.LabelSavedState[PageId::frmP1][3].Changed = true;
     run.surroundings.questions.ExpectBox(kExitQuestion, Answer::Cancel);
     EXPECT_FALSE(modClosing::MDIForm_QueryUnload(run.program));
+}
+
+TEST(Exit, OnceThePersonHasLeftNothingAsksAgain) {
+    Closing run;
+    run.Touch();
+    run.surroundings.questions.ExpectBox(kExitQuestion, Answer::No);
+    modClosing::mnuFileExit_Click(run.program);
+    EXPECT_TRUE(modClosing::MDIForm_QueryUnload(run.program)) << "the window closes as its run has ended";
 }
 
 } // namespace

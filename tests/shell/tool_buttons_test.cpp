@@ -156,4 +156,55 @@ TEST(ToolButtons, AfterAPressThatWasLeftTheNextOneIsRaisedAlone) {
     ExpectFrame(run.Main(), 1, false);
 }
 
+TEST(ToolButtons, ThoseThatStartSomethingLookPressedMeanwhile) {
+    const auto looksPressed = [](void (frmMain::*click)(), ImageButton MainWindow::*button) {
+        RunningProgram run;
+        ImageButton& image = run.program.main.*button;
+        image.Left = 2000;
+        (frmMain(run.program).*click)();
+        return modToolButtons::FrameOf(run.program, image) == modToolButtons::ButtonFrame::Sunken;
+    };
+    EXPECT_TRUE(looksPressed(&frmMain::imgOpen_MouseDown, &MainWindow::imgOpen));
+    EXPECT_TRUE(looksPressed(&frmMain::imgFootNotes_MouseDown, &MainWindow::imgFootNotes));
+    EXPECT_TRUE(looksPressed(&frmMain::imgPrint_Click, &MainWindow::imgPrint));
+}
+
+TEST(ToolButtons, FootnotesOpensThoseOfTheProposal) {
+    RunningProgram run;
+    TypeJaneRoe(run);
+    run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
+    frmMain(run.program).imgSave_Click();
+    frmMain(run.program).imgFootNotes_MouseDown();
+    EXPECT_NE(modWindows::Find(run.program, "frmNotes"), nullptr);
+}
+
+TEST(PageButtons, TheClientsCopyTakesTheKeyboardFromTheAreas) {
+    RunningProgram run;
+    ASSERT_TRUE(run.program.main.Focus);
+    frmMain(run.program).imgPage_Click(6);
+    EXPECT_FALSE(run.program.main.Focus);
+}
+
+TEST(PageButtons, BehindTheLastOneThereIsNoPageToGoTo) {
+    RunningProgram run;
+    frmMain(run.program).imgPage_Click(1);
+    const FieldRef first{PageId::frmP2, FieldKind::txt, 0};
+    ASSERT_EQ(run.program.main.Focus, first);
+    for (const int index : {-1, 7}) {
+        frmMain(run.program).imgPage_Click(index);
+        EXPECT_EQ(run.program.main.PageInFront, PageId::frmP2) << index;
+        EXPECT_EQ(run.program.main.Focus, first) << index;
+    }
+}
+
+TEST(ToolButtons, WithoutABorderNoneIsRaisedOrSunken) {
+    Strip run;
+    modToolButtons::HoverToolButton(run.program, run.Main().imgNew);
+    modToolButtons::ClearButtonBorders(run.program);
+    ExpectFrame(run.Main(), 0, false);
+    modToolButtons::PressToolButton(run.program, run.Main().imgNew);
+    modToolButtons::ClearButtonBorders(run.program);
+    ExpectFrame(run.Main(), 1, false);
+}
+
 } // namespace

@@ -669,4 +669,31 @@ TEST(Completion, AfterAChangeOfListTheWordsOfTheOldOneAreForgotten) {
     EXPECT_EQ(run.Text(2), "app");
 }
 
+TEST(Completion, AKeyThatWasLetGoElsewhereAndIsPressedAgainForACommandShowsNothing) {
+    Typing run("Chair Covers");
+    const FieldRef line{kPage, FieldKind::txt, 0};
+    run.hand.Type("ch");
+    static_cast<void>(person::KeyDown(run.program, 'A', 0, 2, 0));
+    EXPECT_EQ(person::KeyPress(run.program, 'a'), 'a');
+    person::Edited(run.program, line, "cha", 3, 0);
+    static_cast<void>(person::KeyDown(run.program, 'A', keys::kCtrlState, 3, 0));
+    person::KeyUp(run.program, 'A', 0, 3, 0); // the control key was let go first
+    EXPECT_EQ(run.Text(), "cha");
+    EXPECT_FALSE(run.Active());
+}
+
+TEST(Completion, APasteByKeyShowsNothingAfterACharacterThatFoundNoRoomEither) {
+    Typing run("Chair Covers");
+    const FieldRef line{kPage, FieldKind::txt, 0};
+    run.hand.Type("ch");
+    static_cast<void>(person::KeyDown(run.program, 'X', 0, 2, 0));
+    EXPECT_EQ(person::KeyPress(run.program, 'x'), 'x');
+    person::KeyUp(run.program, 'X', 0, 2, 0);
+    static_cast<void>(person::KeyDown(run.program, keys::kV, keys::kCtrlState, 2, 0));
+    person::Edited(run.program, line, "cha", 3, 0);
+    person::KeyUp(run.program, keys::kV, 0, 3, 0); // the control key was let go first
+    EXPECT_EQ(run.Text(), "cha");
+    EXPECT_FALSE(run.Active());
+}
+
 } // namespace
