@@ -648,30 +648,4 @@ TEST(SpellingWindow, AnUndoBehindAChangeOfAllAsksOnceMoreAboutWhatWasDecidedLast
     EXPECT_EQ(run.TextOf(PageId::frmP3, 0), "Chiars Tabels");
 }
 
-TEST(SpellingWindow, UndoPutsARowOfColumnsBackThatWasEmptied) {
-    OwnCheck run;
-    Typist typist(run.program);
-    typist.Click(PageId::frmP2, 3);
-    typist.Press(keys::kF8);
-    typist.Type("3");
-    typist.Press(keys::kEnter);
-    typist.Type("Chiars");
-    typist.Press(keys::kEnter);
-    typist.Type("19.99");
-    typist.Press(keys::kEnter);
-    run.Fill(PageId::frmP3, 0, "Tabels");
-    run.Start();
-    run.Window().txtChangeTo.Text = "";
-    run.Window().cmdChange_Click(run.program);
-    ASSERT_EQ(run.TextOf(PageId::frmP2, 3), "");
-    run.Window().cmdUndo_Click(run.program);
-    const Page& after = run.program.pages[PageId::frmP2];
-    EXPECT_EQ(after.txt[3].Text, "Chiars");
-    EXPECT_EQ(after.txtQty[3].Text, "3");
-    EXPECT_EQ(after.txtAmt[3].Text, "19.99");
-    EXPECT_EQ(after.txt[36].Text, "59.97");
-    EXPECT_EQ(run.TextOf(PageId::frmP6, 0), "59.97");
-    run.Window().cmdCancel_Click(run.program);
-}
-
 } // namespace
