@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <ctime>
 #include <filesystem>
 #include <optional>
@@ -16,6 +17,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -136,9 +138,8 @@ void Delete(std::string_view path) {
     if (!fs::is_symlink(status)) {
         ClearAttributes(path);
     }
-    fs::remove(native, failed);
-    if (failed) {
-        ::Fail(failed, path);
+    if (::unlink(native.c_str()) != 0) {
+        Fail(errno, path);
     }
 }
 
@@ -150,10 +151,10 @@ void Rename(std::string_view from, std::string_view to) {
     if (file_places::Locate(to)) {
         FailWith(kAlreadyExists, "File already exists", to);
     }
-    std::error_code failed;
-    fs::rename(file_places::MustLocate(from), file_places::PlaceFor(to), failed);
-    if (failed) {
-        ::Fail(failed, from);
+    const std::string native = file_places::MustLocate(from);
+    const std::string place = file_places::PlaceFor(to);
+    if (::rename(native.c_str(), place.c_str()) != 0) {
+        Fail(errno, from);
     }
 }
 

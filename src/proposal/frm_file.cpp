@@ -120,17 +120,19 @@ void frmFile::GoTo(Program& program, std::string_view folder) {
 }
 
 void frmFile::LookAtFiles(const Program& program, const std::string& folder) {
-    std::vector<Found> found;
-    for (std::string& name : files::List(folder, program.document.FileFilter)) {
-        Found file{std::move(name)};
+    const auto look = [&](const std::string& name) -> Found {
         try {
-            const std::string path = paths::Join(folder, file.Name);
-            file.Size = files::Length(path);
-            file.Modified = files::ModifiedSerial(path);
+            const std::string path = paths::Join(folder, name);
+            return {name, files::ModifiedSerial(path), files::Length(path)};
         } catch (const files::FileError&) {
-            file.Modified = 0; // gone meanwhile, or closed to us: choosing it tells
+            return {name}; // gone meanwhile, or closed to us: choosing it tells
         }
-        found.push_back(std::move(file));
+    };
+    const std::vector<std::string> names = files::List(folder, program.document.FileFilter);
+    std::vector<Found> found;
+    found.reserve(names.size());
+    for (const std::string& name : names) {
+        found.push_back(look(name));
     }
     found_ = std::move(found);
 }

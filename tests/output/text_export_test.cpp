@@ -308,6 +308,15 @@ TEST(TextExport, AScratchFileThatCannotBeWrittenStopsNothing) {
     EXPECT_NE(run.program.main.Notice.find("TempClipboardInfo.txt could not be written"), std::string::npos);
 }
 
+TEST(TextExport, AScratchFileThatCannotBeDeletedIsTold) {
+    JustNamed run;
+    const FailingDisk disk{{FailingDisk::Call::Unlink, 1, EACCES, FailingDisk::kForever}};
+    EXPECT_TRUE(run.Exported().starts_with("Acme Events - Proposal for Jane Roe\r\n"));
+    EXPECT_EQ(run.program.main.Notice, "The scratch file " +
+                                           (run.folder / "Proposals/TempClipboardInfo.txt") +
+                                           " could not be deleted.");
+}
+
 TEST(TextExport, AnExportTakesTheAmountThatIsBeingTyped) {
     JustNamed run;
     run.Fill(PageId::frmP1, 20, "75.5");

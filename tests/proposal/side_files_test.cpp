@@ -1,9 +1,11 @@
 #include "proposal/side_files.h"
 
+#include "support/failing_disk.h"
 #include "support/running_program.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
 
 namespace {
@@ -20,6 +22,16 @@ struct Beside : RunningProgram {
         return modSideFile::Write(program, known, "Ann.hxt", "new", "Overwrite?", "SaveFootnoteFile");
     }
 };
+
+TEST(SideFiles, GoAsideToABackupFolderOnAnotherVolumeToo) {
+    Beside run;
+    run.folder.Write("Proposals/Ann.hxt", "notes");
+    const FailingDisk disk{{FailingDisk::Call::Rename, 1, EXDEV}}; // then it is copied
+    modSideFile::MoveAside(run.program, run.folder / "Proposals/Ann.hxt", "Ann.hxt");
+    EXPECT_EQ(disk.Failed(), 1);
+    EXPECT_EQ(run.folder.Read("Proposals/Backup/Ann.hxt.old"), "notes");
+    EXPECT_FALSE(run.folder.Has("Proposals/Ann.hxt"));
+}
 
 TEST(SideFiles, OneThatCouldNotBeReadIsNotWritten) {
     Beside run;
