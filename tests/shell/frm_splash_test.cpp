@@ -176,8 +176,8 @@ TEST(Splash, FourWordsCloseInOnTheCentreOverAHundredLoops) {
     EXPECT_TRUE(std::is_sorted(spans.rbegin(), spans.rend()));
     EXPECT_LT(spans.back(), 100);
     // 400 twips wide and 300 high, each word stands round the middle of 7800 by 4560.
-    EXPECT_NEAR(middleX, (7800 - 400) / 2, 1);
-    EXPECT_NEAR(middleY, (4560 - 300) / 2, 1);
+    EXPECT_NEAR(middleX, (7800.0F - 400) / 2, 1);
+    EXPECT_NEAR(middleY, (4560.0F - 300) / 2, 1);
     EXPECT_TRUE(std::is_sorted(blues.begin(), blues.end()));
     std::set<Color> steps(blues.begin(), blues.end());
     for (const Color blue : steps) {
