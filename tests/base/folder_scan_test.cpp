@@ -43,8 +43,10 @@ std::vector<files::FileHead> HeadsIn(const std::string& folder, std::string_view
 }
 
 std::vector<std::string> NamesIn(const std::string& folder, std::string_view ending) {
+    const std::vector<files::FileHead> heads = HeadsIn(folder, ending, 0);
     std::vector<std::string> names;
-    for (const files::FileHead& head : HeadsIn(folder, ending, 0)) {
+    names.reserve(heads.size());
+    for (const files::FileHead& head : heads) {
         names.push_back(head.Name);
     }
     return names;

@@ -47,6 +47,7 @@ TEST(Text, TrimsBlanksOnly) {
     EXPECT_EQ(text::Trim("\ta\t"), "\ta\t");
     EXPECT_EQ(text::LTrim("  a "), "a ");
     EXPECT_EQ(text::RTrim("  a "), "  a");
+    EXPECT_EQ(text::RTrim("  a" + std::string(19, ' ')), "  a");
     EXPECT_EQ(text::Trim("   "), "");
 }
 
