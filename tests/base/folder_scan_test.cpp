@@ -10,8 +10,10 @@
 #include <cerrno>
 #include <filesystem>
 #include <functional>
+#include <ostream>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <sys/stat.h>
