@@ -3,6 +3,7 @@
 #include "program/program.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -19,17 +20,26 @@ void NoticeStrip::Follow(const Program& program, std::int64_t now) {
     }
     told_ = told;
     round_ = program.main.NoticeRound;
-    if (!told.empty()) {
-        text_ = told;
-        onShow_ = 0;
-        last_ = now;
+    if (told.empty()) {
+        return;
     }
+    if (!shown_.Text.empty()) {
+        displaced_.push_back(std::move(shown_));
+    }
+    std::erase_if(displaced_, [&](const Notice& notice) { return notice.Text == told; });
+    shown_ = {told, 0};
+    last_ = now;
 }
 
 void NoticeStrip::Activity(std::int64_t now) {
-    onShow_ += std::clamp(now - last_, std::int64_t{0}, kLongestPause);
+    shown_.OnShow += std::clamp(now - last_, std::int64_t{0}, kLongestPause);
     last_ = now;
-    if (onShow_ >= kLongEnough) {
-        text_.clear();
+    if (shown_.OnShow < kLongEnough) {
+        return;
+    }
+    shown_ = {};
+    if (!displaced_.empty()) {
+        shown_ = std::move(displaced_.back());
+        displaced_.pop_back();
     }
 }

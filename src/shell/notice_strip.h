@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 struct Program;
 
@@ -9,17 +10,23 @@ struct Program;
 /// seconds in which the person did something: who types on has not read it yet, who is away still has to.
 class NoticeStrip {
 public:
-    /// Takes up what the program has told since; a new notice takes the place of the one before. `now` counts
-    /// milliseconds from any moment.
+    /// Takes up what the program has told since. A new notice takes the place of the one before, which comes
+    /// back for the rest of its time. `now` counts milliseconds from any moment.
     void Follow(const Program& program, std::int64_t now);
     /// The person has pressed a key, or moved or pressed the mouse.
     void Activity(std::int64_t now);
-    [[nodiscard]] const std::string& Text() const { return text_; }
+    /// What stands there; empty when nothing is left to read.
+    [[nodiscard]] const std::string& Text() const { return shown_.Text; }
 
 private:
+    struct Notice {
+        std::string Text;
+        std::int64_t OnShow = 0; ///< of its five seconds
+    };
+
     std::string told_; ///< by the program when it was last looked at
     int round_ = 0;    ///< the round of that
-    std::string text_;
-    std::int64_t onShow_ = 0;
+    Notice shown_;
+    std::vector<Notice> displaced_; ///< each text once, the latest last
     std::int64_t last_ = 0;
 };

@@ -14,7 +14,9 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -113,7 +115,7 @@ TEST(Notice, WaitsForAPersonWhoIsAway) {
     EXPECT_EQ(strip.Text(), "");
 }
 
-TEST(Notice, AnotherOneTakesItsPlaceAndHasItsOwnTime) {
+TEST(Notice, AnotherOneTakesItsPlaceAndGivesItBackForTheRestOfItsTime) {
     RunningProgram run;
     NoticeStrip strip;
     run.program.main.Notice = "first";
@@ -128,7 +130,35 @@ TEST(Notice, AnotherOneTakesItsPlaceAndHasItsOwnTime) {
     }
     EXPECT_EQ(strip.Text(), "second");
     strip.Activity(9000);
+    EXPECT_EQ(strip.Text(), "first") << "which was on show for 1.8 seconds only";
+    for (int at = 10'000; at <= 12'000; at += 1000) {
+        strip.Activity(at);
+        EXPECT_EQ(strip.Text(), "first");
+    }
+    strip.Activity(12'199);
+    EXPECT_EQ(strip.Text(), "first");
+    strip.Activity(12'200);
     EXPECT_EQ(strip.Text(), "");
+}
+
+TEST(Notice, TheSameWordsStandThereOnce) {
+    RunningProgram run;
+    NoticeStrip strip;
+    int at = 0;
+    for (const char* told : {"first", "second", "first", "third", "first"}) {
+        BeginTelling(run.program);
+        run.program.main.Notice = told;
+        strip.Follow(run.program, at);
+    }
+    std::vector<std::string> read;
+    while (!strip.Text().empty()) {
+        read.push_back(strip.Text());
+        for (int key = 1; key <= 5; ++key) {
+            at += 1000;
+            strip.Activity(at);
+        }
+    }
+    EXPECT_EQ(read, (std::vector<std::string>{"first", "third", "second"})) << "the latest first";
 }
 
 TEST(Notice, TheSameWordsAfterAKeyAreToldAgain) {
