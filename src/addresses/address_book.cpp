@@ -162,6 +162,7 @@ void RefillAfterDelete(Program& program, AddressWindow& window) {
     ReadAddressList(program, window);
     // An emptied book counts one record until the list is made the next time.
     book.AddressRecordCount = count;
+    FillFields(program, window, {});
     ForgetChanges(program, window);
     const int last = static_cast<int>(window.lstNames.Rows.size()) - 1;
     SelectRow(program, window, last > lastRow ? lastRow : lastRow - 1);

@@ -52,12 +52,14 @@ void ColourField(AddressField& field, std::string_view tip, bool changed) {
 
 } // namespace
 
-void SetUpFields(AddressWindow& window) {
+void SetUpFields(const Program& program, AddressWindow& window) {
     for (int index = 0; index < kAddressFieldCount; ++index) {
         AddressField& field = window.txt[static_cast<std::size_t>(index)];
         field.Tag = std::to_string(PlaceOf(index).Width);
+        field.ToolTipText = ConversionTip(index);
     }
     window.lblInfo[AddressWindow::kHeading].Caption = "Click to Open Record";
+    SetCaptions(program, window);
 }
 
 void SetCaptions(const Program& program, AddressWindow& window) {

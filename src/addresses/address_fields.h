@@ -13,9 +13,8 @@ struct Program;
 /// The eleven fields: what typing marks, colours and tips.
 namespace modAddress {
 
-/// Limits into the tags, and the heading of the list.
-void SetUpFields(AddressWindow& window);
-/// Captions of the current book.
+/// Limits into the tags, captions of the current book, no focus yet.
+void SetUpFields(const Program& program, AddressWindow& window);
 void SetCaptions(const Program& program, AddressWindow& window);
 
 /// The fields' texts as they stand.

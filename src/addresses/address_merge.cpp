@@ -93,6 +93,7 @@ Merged Merge(Program& program, const AddressWindow& window, const std::vector<Ar
     if (PagesBusy(program)) {
         return Merged::No;
     }
+    modBlocks::FinishMove(program);
     modBlocks::DeSelectAllControls(program);
     if (AskToReplace(program, values) == Consent::Refused) {
         return Merged::No;

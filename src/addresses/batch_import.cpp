@@ -431,12 +431,14 @@ void CancelImport(Program& program, AddressWindow& window) {
 }
 
 void SaveBatchRecord(Program& program, AddressWindow& window) {
+    program.addresses.AddressRecordNew = true;
     if (SaveAddressRecord(program, window) == Outcome::Done) {
         GoOn(program, window);
     }
 }
 
 void SkipBatchRecord(Program& program, AddressWindow& window) {
+    ForgetChanges(program, window);
     GoOn(program, window);
 }
 

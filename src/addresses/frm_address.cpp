@@ -35,9 +35,12 @@ void OpenOther(Program& program, AddressWindow& window, AddressBook book) {
 } // namespace
 
 void frmAddress::Form_Load(Program& program) {
+    const bool company = program.addresses.CompanyInfoMode;
+    program.addresses = {};
+    program.addresses.CompanyInfoMode = company;
     Caption = "Address Book";
-    modAddress::SetUpFields(*this);
-    if (program.addresses.CompanyInfoMode) {
+    modAddress::SetUpFields(program, *this);
+    if (company) {
         modAddress::LoadCompanyInfo(program, *this);
     }
 }

@@ -10,7 +10,7 @@ public:
     [[nodiscard]] Modality Mode() const override { return Modality::Modeless; }
     void Form_Load(Program& program) override;
     void Form_Unload(Program& program) override;
-    /// Asks about what was typed before it closes; while a list is chosen, leaves that first.
+    /// Asks about what was typed before it closes; a list that is being chosen is given up.
     void Form_Cancel(Program& program) override;
 
     /// Leaves the choice of a list; a run goes on; otherwise closes as the close box does.

@@ -56,6 +56,7 @@ frmDeposits::frmDeposits() {
 void frmDeposits::Form_Load(Program& program) {
     txtDate_Change(program, dates::FormatDate(program.platform.clock.Now(), kDatePattern));
     txtDate.SelectAll();
+    touched_ = false;
     if (program.document.HasName()) {
         txtName.Text = program.document.FileName.substr(0, program.document.FileName.size() - 4);
         txtName.SelectAll();
@@ -97,6 +98,7 @@ void frmDeposits::Load(const Program& program) {
         txtName.Text = list.Name;
         txtName.SelectAll();
     }
+    lst.Clear();
     for (std::string& row : list.Rows) {
         lst.Add(std::move(row));
     }
@@ -447,11 +449,11 @@ void frmDeposits::mnuFilePrint_Click(Program& program) {
     lines.insert(lines.end(), lst.Items.begin(), lst.Items.end());
     lines.emplace_back();
     lines.push_back("Total Deposit:\t\t" + Signed(program, modDeposits::Shown(total_)));
-    modLines::Printed printed = modLines::Printed::Done;
+    modLines::Printed printed = modLines::Printed::NoPrinter;
     try {
         printed = modLines::PrintLines(program, {"Deposits Received", program.document.BaseName}, lines, {});
     } catch (const std::exception&) {
-        printed = modLines::Printed::NoPrinter; // a printer that fails is none
+        // A printer that fails is none.
     }
     if (printed == modLines::Printed::NoPrinter) {
         Tell(program, "Could not find Printer.");

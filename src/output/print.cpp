@@ -107,6 +107,7 @@ void mnuFilePrintAll_Click(Program& program) {
         program.printing.PrintCancelled = false;
         return;
     }
+    modFigures::TakeFresh(program); // what is being typed may be the first text of its page
     modPageCount::CountPagesInUse(program);
     std::vector<PageId> pages{PageId::frmP6_1, PageId::frmP6};
     for (int page = program.document.PagesInUse - 1; page >= 1; --page) {

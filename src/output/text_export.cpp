@@ -4,6 +4,7 @@
 #include "base/guard.h"
 #include "base/paths.h"
 #include "base/text.h"
+#include "editing/columns.h"
 #include "editing/fresh_figures.h"
 #include "money/shown_figures.h"
 #include "money/totals.h"
@@ -89,6 +90,7 @@ private:
 /// Whether the text may go out with the figures as they are.
 bool TakeFigures(Program& program) {
     modFigures::TakeFresh(program);
+    modColumns::CollectLines(program);
     modPageCount::CountPagesInUse(program);
     if (!program.totals.TotalsHidden && modTotals::TotalsDiffer(program)) {
         program.totals.TotalsStale = true;

@@ -18,7 +18,7 @@ public:
     [[nodiscard]] virtual float TwipsPerPixel() const = 0;
 };
 
-/// Clipboard text in the program's own characters.
+/// Clipboard text in the program's own characters. What is set takes the place of all that was there.
 class Clipboard {
 public:
     virtual ~Clipboard() = default;

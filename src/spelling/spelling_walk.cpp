@@ -112,7 +112,6 @@ void End(Program& program) {
     state.Service->FileClose(2);
     state.Service->AppClose();
     state.Service.reset();
-    state.Changed.clear();
     if (!state.TooLong.empty()) {
         program.main.Notice = state.TooLong; // no further word came up to tell it beside
         state.TooLong.clear();
@@ -158,6 +157,7 @@ void mnuEditSpellCheck_Click(Program& program) {
     }
     state.Areas = AreasToCheck(program);
     state.Position = 0;
+    state.Changed.clear();
     state.Cancelled = false;
     state.Service->AppShow();
     state.Service->FileNew();

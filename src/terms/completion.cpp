@@ -93,6 +93,7 @@ void Complete(Program& program, const FieldRef& field) {
         return;
     }
     EnsureRead(program);
+    word.MatchedAmount.clear();
     if (const std::optional<std::size_t> line = FindMatch(program.terms, word.TypedWord)) {
         Show(program, field, *line);
     }
@@ -163,7 +164,9 @@ bool CompletionKey(Program& program, const FieldRef& field, int keyCode, int shi
     }
     modText::SettleCompletion(program, field.Page);
     if (*price == Price::Placed) {
-        PlaceAmount(program, field, WordOf(program, field.Page).MatchedAmount);
+        WordState& word = WordOf(program, field.Page);
+        PlaceAmount(program, field, word.MatchedAmount);
+        word.MatchedAmount.clear();
     }
     return keyCode != keys::kBlank; // the blank is typed all the same
 }

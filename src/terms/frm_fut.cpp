@@ -168,6 +168,7 @@ void frmFUT::mnuFileNewFUT_Click(Program& program) {
     const std::string before = program.run.FUTFileName;
     modTerms::CreateNewFUTFile(program);
     if (program.run.FUTFileName != before) {
+        lstFUT.ListIndex = -1;
         ShowTerms();
     }
     FollowList(program);

@@ -40,6 +40,7 @@ void TypeAndLeave(Program& program, const FieldRef& field, std::string_view figu
     modFields::SetText(program, field, figure);
     if (field.Kind != FieldKind::txt) {
         modColumns::SettleBox(program, field);
+        modTotals::CalculateMyTotals(program, field.Page);
     } else if (IsDeposit(field)) {
         modTotals::RewriteDeposit(program);
     } else {
@@ -63,6 +64,7 @@ void DropText(Program& program, const FieldRef& field, std::string_view dragged)
     }
     // Nobody types: a line that becomes too long goes red and stays.
     program.editing.CursorPos = static_cast<int>(value.size());
+    program.editing.LastKeyChar.clear();
     modFields::SetText(program, field, value);
     if (geometry::IsDescription(field.Page, field.Index)) {
         PlaceAmount(program, field, term.Amount);

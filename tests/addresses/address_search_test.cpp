@@ -160,4 +160,18 @@ TEST(AddressSearch, ReadsTheBookAgainWhenAnotherProgramHasWrittenIt) {
     EXPECT_EQ(run.Text(0), "Cal Ash");
 }
 
+TEST(AddressSearch, WhatItSelectedIsGoneWithADeletedRecordAlsoWhereTheNextHasTheSameText) {
+    AddressRun run;
+    frmAddress& window = run.OpenWith(AddressRun::Record({"Ann Ash", "1 Elm St"}) +
+                                      AddressRun::Record({"Ben Birch", "1 Elm St"}));
+    run.Questions().ExpectInput("Search", "elm");
+    run.Run(Id::mnuEditFind);
+    ASSERT_EQ(window.txt[1].SelLength, 3);
+    run.Questions().Expect("Delete this record?\r\nAnn Ash", Answer::Yes);
+    run.Run(Id::mnuFileDelete);
+    EXPECT_EQ(run.Text(0), "Ben Birch");
+    EXPECT_EQ(run.Text(1), "1 Elm St");
+    EXPECT_EQ(window.txt[1].SelLength, 0) << "the next key would replace a part of it";
+}
+
 } // namespace

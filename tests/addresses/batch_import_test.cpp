@@ -581,4 +581,32 @@ TEST(BatchImport, EscapeEndsTheImportAndThenTheWindow) {
     EXPECT_FALSE(run.IsOpen());
 }
 
+TEST(BatchImport, AddsWhatIsSavedAlsoWhenItWasSavedAtAnEndOfTheProgramThatWasPutOff) {
+    ImportRun run("Ann Ash\nBen Birch");
+    run.Begin(kCommas);
+    run.Type(1, "1 Elm St");
+    run.Questions().Expect("The current Record has been changed.", Answer::Yes);
+    EXPECT_TRUE(run.Window().MayLeave(run.program, Leaving::Run));
+    run.Type(1, "2 Oak St");
+    run.Save();
+    EXPECT_EQ(run.ReadBook(),
+              AddressRun::Record({"Ann Ash", "1 Elm St"}) + AddressRun::Record({"Ann Ash", "2 Oak St"}))
+        << "an import writes over no record of the book";
+    EXPECT_EQ(run.Text(0), "Ben Birch");
+}
+
+TEST(BatchImport, WhatWasTypedIntoTheLastRecordIsGivenUpBeforeItsEndIsTold) {
+    ImportRun run("Ann Ash");
+    run.Begin(kCommas);
+    run.Type(1, "typed");
+    bool told = false;
+    run.Questions().Allow("Batch Process Finished.", [&] {
+        told = true;
+        run.Window().KeepUnsaved(run.program);
+    });
+    run.Skip();
+    EXPECT_TRUE(told);
+    EXPECT_FALSE(run.folder.Has("Proposals/Backup/Unsaved Address.txt"));
+}
+
 } // namespace

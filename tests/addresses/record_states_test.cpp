@@ -1,5 +1,6 @@
 #include "addresses/address_fields.h"
 #include "addresses/address_run.h"
+#include "base/text.h"
 #include "support/failing_disk.h"
 
 #include <gtest/gtest.h>
@@ -288,6 +289,39 @@ TEST(DoubleClick, PutsTheCursorBehindWhatItMadeAndLeavesAFieldThatTakesNoText) {
     window.txt[5].Enabled = false;
     window.txt_DblClick(run.program, 5);
     EXPECT_EQ(run.Text(5), "5550100");
+}
+
+TEST(AddressWindow, NamesItsFieldsBehindTheMessageOfABookThatCannotBeMade) {
+    AddressRun run;
+    std::string caption;
+    std::string tip;
+    const std::string book = run.program.folders.ProposalsFolder + std::string(AddressRun::kPersonal);
+    const std::string message =
+        text::Lines({"1/21/2008 6:00:00 PM", "An error occurred in OpenPersonalBook.", "Error Number: 70",
+                     "Error Description: Permission denied: " + book, "", ""});
+    run.Questions().Allow(message, [&] {
+        caption = run.Window().lblInfo[0].Caption;
+        tip = run.Window().txt[0].ToolTipText;
+    });
+    const FailingDisk disk{{FailingDisk::Call::Open, 1, EACCES}};
+    run.Open();
+    EXPECT_EQ(caption, "Name (First Name First)");
+    EXPECT_EQ(tip, "Double-click to change format: i.e., john doe becomes John Doe");
+}
+
+TEST(AddressWindow, WhatStillArrivesAtTheClosedOneIsNotTheNextOnes) {
+    AddressRun run;
+    frmAddress& closed = run.OpenWith(AddressRun::Book({"Ann Ash"}));
+    closed.cmdExit_Click(run.program);
+    closed.txt_GotFocus(run.program, 5);
+    closed.txt_KeyUp(run.program, 5, 3);
+    modWindows::Sweep(run.program);
+    frmAddress& window = run.Open();
+    window.lstNames_Click(run.program, 0);
+    window.FocusWanted.reset();
+    run.Questions().Expect("Delete this record?", Answer::No);
+    run.Run(Id::mnuFileDelete);
+    EXPECT_EQ(window.FocusWanted, 0) << "nothing has been typed in this window yet";
 }
 
 } // namespace

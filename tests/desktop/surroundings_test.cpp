@@ -5,7 +5,10 @@
 #include "support/scratch_folder.h"
 
 #include <QByteArray>
+#include <QClipboard>
 #include <QDir>
+#include <QGuiApplication>
+#include <QMimeData>
 
 #include <gtest/gtest.h>
 
@@ -89,6 +92,22 @@ TEST(Folders, AHomeWhoseNameCannotBeKeptIsNotTakenForTheRoot) {
     Program program(surroundings.platform);
     EXPECT_THROW(desktop::SetFolders(program), std::exception);
     EXPECT_EQ(program.folders.InstallFolder, "");
+}
+
+TEST(Clipboard, HoldsNothingOfWhatWasCopiedBefore) {
+    const QClipboard& shared = *QGuiApplication::clipboard();
+    QtClipboard clipboard;
+    clipboard.SetTextAndTable("one", "<table></table>");
+    ASSERT_TRUE(shared.mimeData()->hasHtml());
+    clipboard.SetText("two");
+    EXPECT_EQ(clipboard.GetText(), "two");
+    EXPECT_FALSE(shared.mimeData()->hasHtml()) << "a program that takes tables gets the text, too";
+    clipboard.SetTextAndTable("three", "<table></table>");
+    clipboard.SetUnicodeText("four");
+    EXPECT_EQ(clipboard.GetText(), "four");
+    EXPECT_FALSE(shared.mimeData()->hasHtml());
+    clipboard.SetTextAndTable("five", "<table></table>");
+    EXPECT_EQ(clipboard.GetText(), "five");
 }
 
 } // namespace

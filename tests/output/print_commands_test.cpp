@@ -7,6 +7,7 @@
 #include "support/person.h"
 #include "support/running_program.h"
 #include "support/typist.h"
+#include "terms/term_list.h"
 
 #include <gtest/gtest.h>
 
@@ -282,6 +283,22 @@ TEST(PrintingWindow, IsModelessAndItsCloseBoxCancels) {
     EXPECT_TRUE(window.Closing);
     EXPECT_TRUE(run.program.printing.PrintCancelled);
     EXPECT_TRUE(run.surroundings.printers.Paper.Documents.empty()) << "there was nothing to send";
+}
+
+TEST(PrintAll, LeavesAPageOutWhoseOnlyTextWasACompletionThatIsTakenOutAgain) {
+    Proposal run(2);
+    run.folder.Write("Proposals/Default Terms.fut", "Chair Covers");
+    run.program.run.ACEnabled = true;
+    run.program.run.ACStartLen = 2;
+    modTerms::ReadFrequentlyUsedTerms(run.program);
+    Typist typist(run.program);
+    person::TurnTo(run.program, 2);
+    typist.Click(PageId::frmP3, 0);
+    typist.Type("cha");
+    ASSERT_EQ(run.TextOf(PageId::frmP3, 0), "chair covers");
+    person::Edited(run.program, {PageId::frmP3, FieldKind::txt, 0}, "", 0, 0);
+    modPrint::mnuFilePrintAll_Click(run.program);
+    EXPECT_EQ(run.surroundings.printers.Named, NamesOf({"frmP6_1", "frmP6", "frmP1"}));
 }
 
 } // namespace

@@ -696,4 +696,14 @@ TEST(Completion, APasteByKeyShowsNothingAfterACharacterThatFoundNoRoomEither) {
     EXPECT_FALSE(run.Active());
 }
 
+TEST(Completion, OvertypedByAWordThatNoTermBeginsWithHasNoPriceLeftToPlace) {
+    Typing run("Chair Covers[3.5]");
+    run.hand.Type("cha");
+    ASSERT_TRUE(run.Active());
+    run.hand.Type("x");
+    ASSERT_EQ(run.Text(), "chax");
+    static_cast<void>(modTerms::CompletionKey(run.program, {kPage, FieldKind::txt, 0}, keys::kEnter, 0));
+    EXPECT_EQ(run.Text(33), "");
+}
+
 } // namespace
