@@ -148,10 +148,9 @@ TEST(FirstEntering, OfAPageMakesTheBoxesOfItsRows) {
 }
 
 TEST(ColumnsOfARow, FindTheBoxesMadeAlsoOnAPageThatNobodyHasEntered) {
-    RunningProgram run(RunningProgram::Begin::NotStarted);
-    for (const PageId page : kAllPages) {
-        modPages::BuildPage(run.program, page);
-    }
+    RunningProgram run;
+    modPages::BuildPage(run.program, kSecond);
+    modPages::BuildPage(run.program, PageId::frmP3);
     modBlocks::PlaceContents(run.program, kSecond, 5, {});
     EXPECT_EQ(run.program.pages[kSecond].txtQty.size(), 33U);
     run.program.main.CurrentPage = IndexOf(PageId::frmP3);
