@@ -583,6 +583,17 @@ TEST(PropertyLines, AFileReadWholeAfterOneThatWasNotIsNotKeptAsUnread) {
     EXPECT_FALSE(run.program.format.PropertyLinesRead);
 }
 
+TEST(PropertyLines, ReadToTheEndLeaveNoCountOfThoseBeforeAFault) {
+    Laid run;
+    run.program.format.PropertyLines = {"frmP1.txt(11).FontBold=True", "frmP1.lbl(9).Left=far"};
+    run.surroundings.questions.Expect("The layout of this proposal was read only up to line 1.");
+    modProperties::ParsePropertyFile(run.program);
+    EXPECT_EQ(run.program.format.PropertyLinesRead, 1);
+    run.program.format.PropertyLines.pop_back();
+    modProperties::ParsePropertyFile(run.program);
+    EXPECT_FALSE(run.program.format.PropertyLinesRead);
+}
+
 TEST(PropertyLines, AreTheBaseAndTheSavedStateOfTheLabels) {
     Laid run;
     run.program.format.PropertyLines = {
