@@ -46,6 +46,7 @@ void KeepFocusInRow(Program& program, PageId page, int row) {
 }
 
 void PlaceRow(Program& program, PageId page, int row, const AreaContents& contents) {
+    modPages::EnsureRowFields(program, page);
     if (contents.Columns || modPages::ColumnsOn(program, page, row)) {
         modPages::PlaceColumns(program, page, row,
                                contents.Columns ? modPages::Columns::On : modPages::Columns::Off);

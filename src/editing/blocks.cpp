@@ -31,6 +31,11 @@ void WriteArea(Program& program, PageId page, int index, const AreaContents& con
     RunChange(program, page, index);
 }
 
+void CountPage(Program& program, PageId page) {
+    modTotals::CalculateMyTotals(program, page);
+    modTotals::UpdateRunningTotals(program);
+}
+
 /// Empties the selected areas of the active page into the undo memory.
 void ClearSelectedAreas(Program& program) {
     const PageId page = program.main.ActivePage;
@@ -46,7 +51,7 @@ void ClearSelectedAreas(Program& program) {
     }
     program.editing.UndoAvailable = true;
     ClearSelectionColors(program);
-    modTotals::UpdateRunningTotals(program);
+    CountPage(program, page);
 }
 
 void EndMode(Program& program) {
@@ -144,7 +149,7 @@ void WriteMemory(Program& program, const PasteTarget& target) {
     for (const AreaContents& contents : block.MemoryRight) {
         WriteArea(program, target.Page, index++, contents);
     }
-    modTotals::UpdateRunningTotals(program);
+    CountPage(program, target.Page);
 }
 
 /// What stands now where a delete has emptied, and would be gone with the undo.
@@ -244,7 +249,7 @@ void UndoDeleteBlock(Program& program) {
             WriteArea(program, block.UndoPage, cleared.Index, cleared.Contents);
         }
     }
-    modTotals::UpdateRunningTotals(program);
+    CountPage(program, block.UndoPage);
     block.UndoMemory.clear();
     program.editing.UndoAvailable = false;
     modTextMenu::UpdateTextMenu(program);

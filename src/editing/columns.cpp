@@ -151,6 +151,7 @@ void ToggleColumns(Program& program) {
     if (!geometry::IsDescription(page, row) || closed) {
         return;
     }
+    modPages::EnsureRowFields(program, page);
     const bool on = !modPages::ColumnsOn(program, page, row);
     if (on) {
         modPages::PlaceColumns(program, page, row, modPages::Columns::On);

@@ -186,6 +186,7 @@ Taken ExtendByKey(Program& program, const FieldRef& field, Toward toward) {
     BlockState& block = program.editing.Block;
     int last = row;
     if (!program.editing.BlockMode) {
+        FinishMove(program);
         modText::SettleCompletion(program, field.Page);
         modFigures::SettleFocused(program);
         block.KeyAnchor = row;

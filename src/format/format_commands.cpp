@@ -30,6 +30,9 @@ void ClearFormat(Program& program) {
     program.format.FormatName.clear();
     program.format.FormatOpen = false;
     program.format.FormatTextChanges = {}; // what it protected goes with the other texts
+    program.format.FormatLabelChanges = {};
+    program.format.FormatLines.clear();
+    program.format.LogoPath.clear();
     if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         program.format = before;
         program.settings.LoadDefaultFormat = loadDefault;

@@ -208,6 +208,7 @@ void AssignPropChanges(Program& program) {
 }
 
 void ParsePropertyFile(Program& program) {
+    program.format.PropertyLinesRead.reset();
     const ScopedFlag silent(program.guards.Loading);
     Guarded(program, "ParsePropertyFile", [&] { TakeLines(program); });
     modPages::ApplyPageFonts(program);

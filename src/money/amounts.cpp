@@ -78,12 +78,14 @@ void LeaveAmount(Program& program, PageId page, int index) {
 }
 
 void NoteEmptied(Program& program, PageId page, int index) {
-    if (!text::Trim(AreaOf(program, page, index).Text).empty()) {
-        return;
-    }
     const FieldRef field{page, FieldKind::txt, index};
-    if (program.main.Focus == field) {
-        program.editing.EmptiedAmount = field;
+    auto& emptied = program.editing.EmptiedAmount;
+    if (!text::Trim(AreaOf(program, page, index).Text).empty()) {
+        if (emptied == field) {
+            emptied.reset();
+        }
+    } else if (program.main.Focus == field) {
+        emptied = field;
     } else {
         DropMarkOfEmpty(program, page, index);
     }

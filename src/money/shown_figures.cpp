@@ -6,7 +6,6 @@
 #include "pages/row_fields.h"
 #include "program/program.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>

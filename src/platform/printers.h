@@ -10,6 +10,7 @@
 /// ScaleLeft and ScaleTop 0.
 class Printer : public DrawingSurface {
 public:
+    /// Font and colour stay as they are.
     virtual void NewPage() = 0;
     /// Finishes the document and sends it. With nothing drawn it does nothing.
     virtual void EndDoc() = 0;

@@ -204,6 +204,7 @@ void TakeUpUnnamed(Program& program, const std::string& name) {
         }
     }
     document.SavedStateStale = !program.format.PropertyLines.empty();
+    program.format.PropertyPath.clear();
     constexpr std::size_t kClientName = 2;
     const std::string client = document.CurrentTextBuf[PageId::frmP1][kClientName];
     if (!text::Trim(client).empty()) {

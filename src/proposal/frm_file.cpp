@@ -64,6 +64,7 @@ void frmFile::Form_Load(Program& program) {
     lblHelp.Caption =
         "Double-Click on the Drive or Folder category to find the file you wish to " + std::string(what);
     lblPointOpen.Caption = document.DeleteMode ? "Delete" : "Open";
+    document.IgnoreProperties = false;
     filePathBefore_ = document.FilePath;
     Drive1.Items = {"/", paths::WithSeparator(program.folders.Drives.Home)};
     for (const std::string& place : program.folders.Drives.MountPlaces) {
@@ -279,6 +280,7 @@ void frmFile::OpenFormat(Program& program) {
     const FormatRecords before = format;
     const bool loadDefault = program.settings.LoadDefaultFormat;
     format.FormatTextChanges = {};
+    format.FormatLabelChanges = {};
     format.FormatLines.clear();
     format.FormatFolder = Folder;
     format.FormatName = selected_;
@@ -318,6 +320,7 @@ void frmFile::OpenLogo(Program& program) {
 
 void frmFile::OpenProposal(Program& program) {
     DocumentState& document = program.document;
+    document.FilePath = Folder;
     const std::string name = selected_;
     // Read first: a file that has gone meanwhile must not cost the proposal that stands.
     const std::optional<modFile::RawProposal> raw = modFile::LoadProposal(program, name);

@@ -76,9 +76,11 @@ SavedState ShowSaved(Program& program, const UnsavedWork& work) {
 void ShowBackup(Program& program, const UnsavedWork& work, const modFile::RawProposal& backup) {
     DocumentState& document = program.document;
     const SavedState saved = ShowSaved(program, work);
+    document.FileExists = saved.Exists;
     if (modReset::StartNewFile(program) == modReset::ResetResult::Refused) {
         return;
     }
+    document.FilePath = work.Folder;
     modFile::ShowProposal(program, work.FileName, backup);
     const bool named = modNames::CanBeAFile(work.FileName);
     if (paths::BaseOf(work.FileName).empty()) {

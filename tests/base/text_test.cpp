@@ -36,7 +36,7 @@ TEST(Ansi, KnowsTheCodePageAndItsOpenBytes) {
 
 TEST(Ansi, RefusesWhatIsNoUtf8) {
     for (const char* bad : {"\xC3", "\xE2\x82", "\xFF", "\xC0\x80", "\xE0\x81\x81", "\xED\xA0\x80",
-                            "\xF5\x80\x80\x80", "\xF2\x82\xAC", "a\x80"}) {
+                            "\xF0\x9F\x98\x80", "\xF5\x80\x80\x80", "\xF2\x82\xAC", "a\x80"}) {
         EXPECT_FALSE(ansi::FromUtf8(bad).has_value());
     }
     EXPECT_EQ(ansi::FromUtf8(""), "");

@@ -87,6 +87,24 @@ TEST(EmptiedAmount, LosesItsMarkAlsoWhenAnotherRowIsFilledBeforeItIsLeft) {
     EXPECT_FALSE(run.Marked(kSecond, 33));
 }
 
+TEST(EmptiedAmount, ThatWasTypedAgainKeepsAMarkThatAnUndoBringsBackBesideNothing) {
+    AmountRun run;
+    run.MakeExempt(kSecond, 33); // it waits for an amount
+    run.typist.Click(kSecond, 0);
+    run.typist.Press(keys::kDown, keys::kShiftState);
+    person::Choose(run.program, CommandId::mnuEditTextDelete);
+    ASSERT_FALSE(run.Marked(kSecond, 33));
+    run.Fill(kSecond, 33, "7");
+    run.typist.Press(keys::kBackspace);
+    run.typist.Type("8");
+    run.surroundings.questions.Expect("Text is present where the deleted text goes back.", Answer::Yes);
+    person::Choose(run.program, CommandId::mnuEditTextUndo);
+    ASSERT_EQ(run.TextOf(kSecond, 33), "");
+    ASSERT_TRUE(run.Marked(kSecond, 33));
+    run.typist.Click(kSecond, 1);
+    EXPECT_TRUE(run.Marked(kSecond, 33)) << "nobody has emptied it";
+}
+
 TEST(FreshFigures, CountTheLastAmountOfEveryPage) {
     RunningProgram run;
     run.Area(PageId::frmP1, 29).Text = "1";

@@ -1,3 +1,4 @@
+#include "editing/area_contents.h"
 #include "editing/columns.h"
 #include "editing/leaving.h"
 #include "editing/text_commands.h"
@@ -144,6 +145,19 @@ TEST(FirstEntering, OfAPageMakesTheBoxesOfItsRows) {
     modText::txt_GotFocus(run.program, kSecond, 0);
     EXPECT_TRUE(run.program.pages[kSecond].RowFieldsMade);
     EXPECT_EQ(run.program.pages[kSecond].txtQty.size(), 33U);
+}
+
+TEST(ColumnsOfARow, FindTheBoxesMadeAlsoOnAPageThatNobodyHasEntered) {
+    RunningProgram run;
+    modPages::BuildPage(run.program, kSecond);
+    modPages::BuildPage(run.program, PageId::frmP3);
+    modBlocks::PlaceContents(run.program, kSecond, 5, {});
+    EXPECT_EQ(run.program.pages[kSecond].txtQty.size(), 33U);
+    run.program.main.CurrentPage = IndexOf(PageId::frmP3);
+    run.program.editing.CurrentArea = 32;
+    modColumns::ToggleColumns(run.program);
+    EXPECT_EQ(run.program.pages[PageId::frmP3].txtQty.size(), 33U);
+    EXPECT_TRUE(modPages::ColumnsOn(run.program, PageId::frmP3, 32));
 }
 
 } // namespace

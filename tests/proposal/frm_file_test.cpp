@@ -437,6 +437,29 @@ TEST(Chooser, AProposalOpenedElsewhereIsSavedThere) {
     EXPECT_EQ(run.Main().lblDir.Caption, "Current Folder = " + run.folder.Path() + "Proposals/2008/");
 }
 
+TEST(Chooser, OpensFromTheFolderThatItShowsWhateverAnotherOneHasOpenedMeanwhile) {
+    Choosing run;
+    run.folder.Write("Proposals/2008/Far.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+    frmFile& window = run.Show();
+    run.Enter(window, "2008");
+    auto& other = dynamic_cast<frmFile&>(modWindows::Show(run.program, std::make_unique<frmFile>()));
+    run.Select(other, "Jane Roe.hef");
+    other.cmdOpenOK_Click(run.program);
+    ASSERT_EQ(run.program.document.FilePath, run.Data());
+    run.Select(window, "Far.hef");
+    window.cmdOpenOK_Click(run.program);
+    EXPECT_EQ(run.program.document.FileName, "Far.hef");
+    EXPECT_EQ(run.program.document.FilePath, run.folder / "Proposals/2008/");
+}
+
+TEST(Chooser, BeginsWithTheLayoutsReadWhateverAnotherOneWasTold) {
+    Choosing run;
+    run.Show().chkProp_Click(run.program);
+    const Window& other = modWindows::Show(run.program, std::make_unique<frmFile>());
+    EXPECT_FALSE(dynamic_cast<const frmFile&>(other).chkProp.Value);
+    EXPECT_FALSE(run.program.document.IgnoreProperties);
+}
+
 TEST(Chooser, AFolderThatVanishedIsToldAndTheListStays) {
     Choosing run;
     frmFile& window = run.Show();
