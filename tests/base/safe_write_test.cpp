@@ -193,8 +193,9 @@ TEST(SafeWrite, WhatRunsThatAreNoMoreLeftGoesAndNothingElse) {
     const std::string forgotten = Temporary("a-third", kNobody);
     const std::string noNumber = ".quillbrook." + ThisHost() + ".x.0.tmp";
     const std::string noHost = ".quillbrook.x.tmp";
+    const std::string somebodysCopy = ours + "~";
     for (const std::string& name :
-         {ours, alive, foreign, forgotten, noNumber, noHost, Temporary(ThisHost(), 0),
+         {ours, alive, foreign, forgotten, noNumber, noHost, somebodysCopy, Temporary(ThisHost(), 0),
           std::string("Jane.hef"), std::string(".quillbrook.tmp")}) {
         folder.Write(name, "x");
     }
@@ -211,7 +212,8 @@ TEST(SafeWrite, WhatRunsThatAreNoMoreLeftGoesAndNothingElse) {
     EXPECT_TRUE(folder.Has(alive));
     EXPECT_TRUE(folder.Has(foreign));
     EXPECT_TRUE(folder.Has("Jane.hef"));
-    EXPECT_EQ(EntriesOf(folder), 7U);
+    EXPECT_TRUE(folder.Has(somebodysCopy));
+    EXPECT_EQ(EntriesOf(folder), 8U);
     files::RemoveLeftOvers(folder / "none");
 }
 
