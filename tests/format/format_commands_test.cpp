@@ -119,6 +119,7 @@ TEST(FormatNew, BeginsWithoutTheDefaultFormatToo) {
     run.program.settings.LoadDefaultFormat = true;
     modProposal::mnuFileNew_Click(run.program);
     ASSERT_TRUE(run.program.format.FormatOpen);
+    run.Questions().ExpectBox(kClearQuestion, Answer::Yes);
     modFormat::mnuFileFormatNew_Click(run.program);
     run.ExpectNoFormat();
 }
