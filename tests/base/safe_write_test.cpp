@@ -194,9 +194,10 @@ TEST(SafeWrite, WhatRunsThatAreNoMoreLeftGoesAndNothingElse) {
     const std::string noNumber = ".quillbrook." + ThisHost() + ".x.0.tmp";
     const std::string noHost = ".quillbrook.x.tmp";
     const std::string somebodysCopy = ours + "~";
+    const std::string oursToo = Temporary(ThisHost(), kNobody + 1);
     for (const std::string& name :
          {ours, alive, foreign, forgotten, noNumber, noHost, somebodysCopy, Temporary(ThisHost(), 0),
-          std::string("Jane.hef"), std::string(".quillbrook.tmp")}) {
+          std::string("Jane.hef"), std::string(".quillbrook.tmp"), oursToo}) {
         folder.Write(name, "x");
     }
     const auto lastWritten = [&](const std::string& name, std::chrono::minutes ago) {
@@ -208,6 +209,7 @@ TEST(SafeWrite, WhatRunsThatAreNoMoreLeftGoesAndNothingElse) {
     lastWritten(noHost, kDay + kDay);
     files::RemoveLeftOvers(folder.Path());
     EXPECT_FALSE(folder.Has(ours));
+    EXPECT_FALSE(folder.Has(oursToo));
     EXPECT_FALSE(folder.Has(forgotten));
     EXPECT_TRUE(folder.Has(alive));
     EXPECT_TRUE(folder.Has(foreign));
@@ -235,6 +237,14 @@ TEST(SafeWrite, WhatIsPutBackInPlaceStandsOnTheDiskBeforeTheFailureIsTold) {
     const FailingDisk disk{{Call::Open, 1, EACCES}, {Call::Write, 1, EIO}};
     EXPECT_FALSE(Written(folder / "a", "new"));
     EXPECT_EQ(folder.Read("a"), "old");
+    EXPECT_EQ(disk.CallsOf(Call::Flush), 2) << "before the first old byte is touched, and behind the last";
+}
+
+TEST(SafeWrite, WhatIsWrittenInPlaceStandsOnTheDiskBeforeItCountsAsSaved) {
+    const ScratchFolder folder;
+    folder.Write("a", "old");
+    const FailingDisk disk{{Call::Open, 1, EACCES}};
+    EXPECT_TRUE(Written(folder / "a", "newer"));
     EXPECT_EQ(disk.CallsOf(Call::Flush), 2) << "before the first old byte is touched, and behind the last";
 }
 
