@@ -285,6 +285,16 @@ TEST(Band, AClickOnThePageChangesNothing) {
     EXPECT_TRUE(run.program.editing.BlockMode);
 }
 
+TEST(Band, AClickOnThePageTakesNoEarlierBandsAreasAgain) {
+    BlockRun run;
+    run.Band(kSecond, 3, 5);
+    modBlocks::DeSelectAllControls(run.program);
+    modBlocks::Form_MouseDown(run.program, 1, 300, 300);
+    modBlocks::Form_MouseUp(run.program, kSecond, 1, 300, 300);
+    EXPECT_EQ(run.BlueAreas(kSecond), Indices{});
+    EXPECT_FALSE(run.program.editing.BlockMode);
+}
+
 TEST(Band, TakesWhatACompletionShowsForWhatTheAreaHolds) {
     BlockRun run;
     Typist(run.program).Click(kSecond, 2);

@@ -334,13 +334,16 @@ TEST(PropertyLines, SayThatAnAreaWhichItsFormatMakesBoldIsNot) {
 TEST(PropertyLines, SayWhichRowsHaveColumnsAndWhichAreasAreBold) {
     Laid run;
     Typist typist(run.program);
-    typist.Click(PageId::frmP2, 4);
-    typist.Press(keys::kF8);
+    for (const int row : {4, 32}) { // 32 is the last
+        typist.Click(PageId::frmP2, row);
+        typist.Press(keys::kF8);
+    }
     run.program.format.PropTextChanges[PageId::frmP2][65].FontBold = true; // the last of its page
     const auto lines = modProperties::PropertyLinesNow(run.program);
-    const std::vector<std::string> areas(lines.begin(), lines.begin() + 2);
-    EXPECT_EQ(areas, (std::vector<std::string>{"frmP2.txt(65).FontBold=True", "frmP2.txq(4).QtyBox=True"}));
-    for (std::size_t line = 2; line < lines.size(); ++line) {
+    const std::vector<std::string> areas(lines.begin(), lines.begin() + 3);
+    EXPECT_EQ(areas, (std::vector<std::string>{"frmP2.txt(65).FontBold=True", "frmP2.txq(4).QtyBox=True",
+                                               "frmP2.txq(32).QtyBox=True"}));
+    for (std::size_t line = 3; line < lines.size(); ++line) {
         EXPECT_EQ(lines[line].find(".tx"), std::string::npos) << lines[line];
     }
 }

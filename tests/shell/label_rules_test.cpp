@@ -504,6 +504,15 @@ TEST(Titles, ChangeByTheirButtonsAlone) {
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
 }
 
+TEST(Titles, AHeadingThatTheSettingsHoldNeedsNoSaveOfTheProposal) {
+    Hands run;
+    frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    window.txtTitle_Change("Ours - ");
+    window.cmdDefault_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Ours - Page 2");
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+}
+
 TEST(FinalPage, HasNoTextLinesInAnyFile) {
     Hands run;
     for (TextChangeTable* table :
