@@ -285,14 +285,14 @@ TEST(Band, AClickOnThePageChangesNothing) {
     EXPECT_TRUE(run.program.editing.BlockMode);
 }
 
-TEST(Band, AClickOnThePageTakesNoEarlierBandsAreasAgain) {
+TEST(Band, LetGoOnAPageThatHasNoneLeavesWhatIsSelected) {
     BlockRun run;
-    run.Band(kSecond, 3, 5);
-    modBlocks::DeSelectAllControls(run.program);
-    modBlocks::Form_MouseDown(run.program, 1, 300, 300);
-    modBlocks::Form_MouseUp(run.program, kSecond, 1, 300, 300);
-    EXPECT_EQ(run.BlueAreas(kSecond), Indices{});
-    EXPECT_FALSE(run.program.editing.BlockMode);
+    run.Band(kSecond, 0, 1);
+    modBlocks::Form_MouseDown(run.program, 1, 800, 2500);
+    modBlocks::Form_MouseMove(run.program, kSecond, 1, 9600, 4000);
+    modBlocks::Form_MouseUp(run.program, PageId::frmP3, 1, 9600, 4000); // the page was turned meanwhile
+    EXPECT_EQ(run.BlueAreas(kSecond), (Indices{0, 1}));
+    EXPECT_TRUE(run.program.editing.BlockMode);
 }
 
 TEST(Band, TakesWhatACompletionShowsForWhatTheAreaHolds) {
