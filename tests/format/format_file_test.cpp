@@ -10,6 +10,7 @@
 #include "pages/company_block.h"
 #include "pages/page_geometry.h"
 #include "pages/row_fields.h"
+#include "program/keys.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
 #include "proposal/property_file.h"
