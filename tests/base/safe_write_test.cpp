@@ -248,6 +248,13 @@ TEST(SafeWrite, WhatIsWrittenInPlaceStandsOnTheDiskBeforeItCountsAsSaved) {
     EXPECT_EQ(disk.CallsOf(Call::Flush), 2) << "before the first old byte is touched, and behind the last";
 }
 
+TEST(SafeWrite, ADiskThatTakesEveryNameForATakenOneIsAskedAHundredTimesAndNotForEver) {
+    const ScratchFolder folder;
+    const FailingDisk disk{{Call::Open, 1, EEXIST, FailingDisk::kForever}};
+    EXPECT_FALSE(Written(folder / "a", "new"));
+    EXPECT_EQ(disk.CallsOf(Call::Open), 100);
+}
+
 TEST(SafeWrite, ASaveThatWentWellDeletesNothing) {
     const ScratchFolder folder;
     folder.Write("a", "old");
