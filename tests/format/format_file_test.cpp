@@ -341,6 +341,7 @@ TEST(PropertyLines, SayWhichRowsHaveColumnsAndWhichAreasAreBold) {
     }
     run.program.format.PropTextChanges[PageId::frmP2][65].FontBold = true; // the last of its page
     const auto lines = modProperties::PropertyLinesNow(run.program);
+    ASSERT_GE(lines.size(), 3U);
     const std::vector<std::string> areas(lines.begin(), lines.begin() + 3);
     EXPECT_EQ(areas, (std::vector<std::string>{"frmP2.txt(65).FontBold=True", "frmP2.txq(4).QtyBox=True",
                                                "frmP2.txq(32).QtyBox=True"}));
