@@ -39,7 +39,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Known{"6:00 PM 1/15/2008", 39462.75}, Known{"1/15/2008, 18:00", 39462.75},
                     Known{"12/31/2008", 39813}, Known{"31/12/2008", 39813}, Known{"December 31, 2008", 39813},
                     Known{"13/5/2008", 39581}, Known{"13/12/2008", 39795}, Known{"150/3/4", -639110},
-                    Known{"3/4/150", -639110}, Known{"3/150", -639113}));
+                    Known{"3/4/150", -639110}, Known{"3/150", -639113}, Known{"March 150", -639113}));
 
 class NoDate : public testing::TestWithParam<const char*> {};
 

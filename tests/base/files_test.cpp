@@ -118,6 +118,7 @@ TEST(Files, AReadOnlyFileIsDeletedAfterItsAttributeWasCleared) {
     EXPECT_FALSE(folder.Has("a"));
     folder.MakeFolder("b");
     EXPECT_EQ(NumberOf([&] { files::Delete(folder / "b"); }), files::kPathAccess);
+    EXPECT_EQ(NumberOf([&] { files::ClearAttributes(folder / "c"); }), files::kNotFound);
 }
 
 TEST(Files, AFullDiskIsToldOf) {

@@ -193,9 +193,11 @@ TEST(SafeWrite, WhatRunsThatAreNoMoreLeftGoesAndNothingElse) {
     const std::string forgotten = Temporary("a-third", kNobody);
     const std::string noNumber = ".quillbrook." + ThisHost() + ".x.0.tmp";
     const std::string noHost = ".quillbrook.x.tmp";
+    const std::string somebodysCopy = ours + "~";
+    const std::string oursToo = Temporary(ThisHost(), kNobody + 1);
     for (const std::string& name :
-         {ours, alive, foreign, forgotten, noNumber, noHost, Temporary(ThisHost(), 0),
-          std::string("Jane.hef"), std::string(".quillbrook.tmp")}) {
+         {ours, alive, foreign, forgotten, noNumber, noHost, somebodysCopy, Temporary(ThisHost(), 0),
+          std::string("Jane.hef"), std::string(".quillbrook.tmp"), oursToo}) {
         folder.Write(name, "x");
     }
     const auto lastWritten = [&](const std::string& name, std::chrono::minutes ago) {
@@ -207,11 +209,13 @@ TEST(SafeWrite, WhatRunsThatAreNoMoreLeftGoesAndNothingElse) {
     lastWritten(noHost, kDay + kDay);
     files::RemoveLeftOvers(folder.Path());
     EXPECT_FALSE(folder.Has(ours));
+    EXPECT_FALSE(folder.Has(oursToo));
     EXPECT_FALSE(folder.Has(forgotten));
     EXPECT_TRUE(folder.Has(alive));
     EXPECT_TRUE(folder.Has(foreign));
     EXPECT_TRUE(folder.Has("Jane.hef"));
-    EXPECT_EQ(EntriesOf(folder), 7U);
+    EXPECT_TRUE(folder.Has(somebodysCopy));
+    EXPECT_EQ(EntriesOf(folder), 8U);
     files::RemoveLeftOvers(folder / "none");
 }
 
@@ -234,6 +238,21 @@ TEST(SafeWrite, WhatIsPutBackInPlaceStandsOnTheDiskBeforeTheFailureIsTold) {
     EXPECT_FALSE(Written(folder / "a", "new"));
     EXPECT_EQ(folder.Read("a"), "old");
     EXPECT_EQ(disk.CallsOf(Call::Flush), 2) << "before the first old byte is touched, and behind the last";
+}
+
+TEST(SafeWrite, WhatIsWrittenInPlaceStandsOnTheDiskBeforeItCountsAsSaved) {
+    const ScratchFolder folder;
+    folder.Write("a", "old");
+    const FailingDisk disk{{Call::Open, 1, EACCES}};
+    EXPECT_TRUE(Written(folder / "a", "newer"));
+    EXPECT_EQ(disk.CallsOf(Call::Flush), 2) << "before the first old byte is touched, and behind the last";
+}
+
+TEST(SafeWrite, ADiskThatTakesEveryNameForATakenOneIsAskedAHundredTimesAndNotForEver) {
+    const ScratchFolder folder;
+    const FailingDisk disk{{Call::Open, 1, EEXIST, FailingDisk::kForever}};
+    EXPECT_FALSE(Written(folder / "a", "new"));
+    EXPECT_EQ(disk.CallsOf(Call::Open), 100);
 }
 
 TEST(SafeWrite, ASaveThatWentWellDeletesNothing) {

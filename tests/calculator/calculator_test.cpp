@@ -284,6 +284,15 @@ TEST(Calculator, TheMemoryHoldsOneResult) {
     EXPECT_EQ(calc.Memory, "");
 }
 
+TEST(Calculator, RecallingAnEmptyMemoryLeavesTheResultTheKeyboard) {
+    CalcRun run;
+    run.Type("6*7=");
+    run.Calc().cmdMem_Click(run.program, 2);
+    run.ExpectShows("", "6*7=42", "42");
+    EXPECT_TRUE(run.Calc().ResultHasKeyboard);
+    EXPECT_TRUE(run.Calc().NewEquation) << "the next figure begins a line";
+}
+
 TEST(Calculator, TheAnswerIsNotAppendedToAFinishedLine) {
     CalcRun run;
     run.Type("5/0=");

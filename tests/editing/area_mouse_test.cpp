@@ -68,6 +68,16 @@ TEST(RightPress, PaintsWhatIsTooLongBlackOnRedWhateverColourTheFontHas) {
     EXPECT_EQ(run.Area(kFirst, 13).ForeColor, kDarkBlue);
 }
 
+TEST(Release, LeavesTheCursorWhereTheMouseHasPutIt) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(kSecond, 4);
+    typist.Type("Arch");
+    modFields::SetCursor(run.Area(kSecond, 4), 2);
+    modText::txt_MouseUp(run.program, kSecond, 4);
+    EXPECT_EQ(run.program.editing.CursorPos, 2);
+}
+
 TEST(ClosedMenu, GivesTheKeyboardBackOnlyWhenItWasTheAreasMenu) {
     RunningProgram run;
     Typist typist(run.program);

@@ -233,6 +233,22 @@ TEST(ScrollTest, IsMadeForTheBoxesToo) {
     EXPECT_GT(run.program.main.VScroll1.Value, 0);
 }
 
+TEST(ScrollTest, OfABoxAsksForAPageAsThatOfADescription) {
+    RunningProgram run;
+    for (const int row : {18, 19, 20}) {
+        modPages::PlaceColumns(run.program, PageId::frmP2, row, modPages::Columns::On);
+    }
+    Typist typist(run.program);
+    typist.Click({PageId::frmP2, FieldKind::txtQty, 18});
+    std::vector<int> asked;
+    run.program.hooks.PageKey = [&](Program&, int key) { asked.push_back(key); };
+    typist.Press(keys::kDown);
+    EXPECT_EQ(asked, std::vector<int>{}) << "8790 is above the window's foot at 9000";
+    typist.Press(keys::kDown);
+    EXPECT_EQ(asked, std::vector<int>{keys::kPageDown});
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP2, FieldKind::txtQty, 20}));
+}
+
 TEST(ScrollTest, IsMadeOnTheWayBackToo) {
     RunningProgram run;
     Typist typist(run.program);

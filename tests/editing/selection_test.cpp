@@ -29,6 +29,13 @@ TEST(Band, OfOneAreaIsNotMany) {
     EXPECT_FALSE(run.Block().ManySelected);
 }
 
+TEST(Band, OfTwoAreasIsMany) {
+    BlockRun run;
+    run.Band(kSecond, 3, 4);
+    EXPECT_EQ(run.Block().SelectedCount, 2);
+    EXPECT_TRUE(run.Block().ManySelected);
+}
+
 struct Corner {
     float X1, Y1, X2, Y2;
 };
@@ -278,6 +285,16 @@ TEST(Band, AClickOnThePageChangesNothing) {
     EXPECT_TRUE(run.program.editing.BlockMode);
 }
 
+TEST(Band, LetGoOnAPageThatHasNoneLeavesWhatIsSelected) {
+    BlockRun run;
+    run.Band(kSecond, 0, 1);
+    modBlocks::Form_MouseDown(run.program, 1, 800, 2500);
+    modBlocks::Form_MouseMove(run.program, kSecond, 1, 9600, 4000);
+    modBlocks::Form_MouseUp(run.program, PageId::frmP3, 1, 9600, 4000); // the page was turned meanwhile
+    EXPECT_EQ(run.BlueAreas(kSecond), (Indices{0, 1}));
+    EXPECT_TRUE(run.program.editing.BlockMode);
+}
+
 TEST(Band, TakesWhatACompletionShowsForWhatTheAreaHolds) {
     BlockRun run;
     Typist(run.program).Click(kSecond, 2);
@@ -435,6 +452,17 @@ TEST(RightClick, RepaintsWhatIsOverItsLimitOutsideTheModeOnly) {
     modText::txt_MouseDown(run.program, kSecond, 8, 2);
     EXPECT_EQ(run.Area(kFirst, 12).BackColor, colors::kResting);
     EXPECT_TRUE(run.Blue(kSecond, 0));
+}
+
+TEST(RightClick, ABoxThatItsNumberFillsIsOverItsLimit) {
+    BlockRun run;
+    run.PutRow(kSecond, 4, "123", "Row", "2");
+    TextArea& quantity = run.program.pages[kSecond].txtQty[4];
+    for (const float room : {301.0F, 300.0F}) { // three figures of 100 twips
+        quantity.Width = room;
+        modText::txt_MouseDown(run.program, kSecond, 8, 2);
+        EXPECT_EQ(quantity.BackColor, room > 300 ? colors::kRestingRowField : colors::kOverLimit);
+    }
 }
 
 TEST(Band, TheRightButtonLetGoMeanwhileDoesNotEndIt) {

@@ -113,6 +113,17 @@ TEST(FormatNew, UnsavedTextAsksAndAnythingButYesStops) {
     EXPECT_EQ(run.TextOf(PageId::frmP1, 8), "");
 }
 
+TEST(FormatNew, BeginsWithoutTheDefaultFormatToo) {
+    Formats run;
+    run.program.settings.DefaultFormatPath = run.folder / "Proposals/House.fmt";
+    run.program.settings.LoadDefaultFormat = true;
+    modProposal::mnuFileNew_Click(run.program);
+    ASSERT_TRUE(run.program.format.FormatOpen);
+    run.Questions().ExpectBox(kClearQuestion, Answer::Yes);
+    modFormat::mnuFileFormatNew_Click(run.program);
+    run.ExpectNoFormat();
+}
+
 TEST(FormatNew, WithNothingToLoseAsksNothing) {
     Formats run;
     modFormat::mnuFileFormatNew_Click(run.program);

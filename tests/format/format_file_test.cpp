@@ -10,6 +10,7 @@
 #include "pages/company_block.h"
 #include "pages/page_geometry.h"
 #include "pages/row_fields.h"
+#include "program/keys.h"
 #include "program/windows.h"
 #include "proposal/lifecycle.h"
 #include "proposal/property_file.h"
@@ -331,6 +332,49 @@ TEST(PropertyLines, SayThatAnAreaWhichItsFormatMakesBoldIsNot) {
     EXPECT_FALSE(run.Area(PageId::frmP1, 10).FontBold);
 }
 
+TEST(PropertyLines, SayWhichRowsHaveColumnsAndWhichAreasAreBold) {
+    Laid run;
+    Typist typist(run.program);
+    for (const int row : {4, 32}) { // 32 is the last
+        typist.Click(PageId::frmP2, row);
+        typist.Press(keys::kF8);
+    }
+    run.program.format.PropTextChanges[PageId::frmP2][65].FontBold = true; // the last of its page
+    const auto lines = modProperties::PropertyLinesNow(run.program);
+    ASSERT_GE(lines.size(), 3U);
+    const std::vector<std::string> areas(lines.begin(), lines.begin() + 3);
+    EXPECT_EQ(areas, (std::vector<std::string>{"frmP2.txt(65).FontBold=True", "frmP2.txq(4).QtyBox=True",
+                                               "frmP2.txq(32).QtyBox=True"}));
+    for (std::size_t line = 3; line < lines.size(); ++line) {
+        EXPECT_EQ(lines[line].find(".tx"), std::string::npos) << lines[line];
+    }
+}
+
+TEST(PropertyLines, SpeakOfNoFontWithoutAName) {
+    Laid run;
+    EXPECT_TRUE(modProperties::PropertyLinesNow(run.program).back().starts_with("UDP."));
+    run.program.run.DefaultFontName.clear();
+    for (const std::string& line : modProperties::PropertyLinesNow(run.program)) {
+        EXPECT_FALSE(line.starts_with("UDP.")) << line;
+    }
+}
+
+TEST(PropertyLines, ValuesThatTheyCannotHoldAreToldByASaveAndNotByABackup) {
+    Laid run;
+    run.program.format.PropLabelChanges[PageId::frmP1][9].Changed = true;
+    run.Label(PageId::frmP1, 9).Caption = "a .FontSize=b";
+    run.program.run.DefaultFontName = "a .FontColor=b";
+    run.program.document.BackingUp = true;
+    modProperties::AssignPropChanges(run.program);
+    run.program.document.BackingUp = false;
+    run.surroundings.questions.ExpectBox({"The caption \"a .FontSize=b\" cannot be kept in a format.\r\n"
+                                          "The font name \"a .FontColor=b\" cannot be kept in a format.",
+                                          Buttons::Ok, ""},
+                                         Answer::Ok);
+    modProperties::AssignPropChanges(run.program);
+    run.surroundings.questions.Done();
+}
+
 TEST(PropertyLines, BringTitleAndHeadingBack) {
     Laid run;
     run.program.format.PropertyLines = {
@@ -596,6 +640,7 @@ TEST(PropertyLines, ReadToTheEndLeaveNoCountOfThoseBeforeAFault) {
 
 TEST(PropertyLines, AreTheBaseAndTheSavedStateOfTheLabels) {
     Laid run;
+    run.program.format.LabelSavedState[PageId::frmP1][9].Changed = true;
     run.program.format.PropertyLines = {
         "frmP1.lbl(9).Left=100 .Top=200 .Caption=Day .FontName=Arial .FontBold=True .FontSize=12 "
         ".ForeColor=255 .FontItalic=False .FontUnderline=True"};
@@ -603,6 +648,7 @@ TEST(PropertyLines, AreTheBaseAndTheSavedStateOfTheLabels) {
     EXPECT_EQ(run.program.pages[PageId::frmP1].LabelBaseState[9].Caption, "Day");
     const LabelLook look{100, 200, "Day", "Arial", 12, true, 255, false, true};
     EXPECT_EQ(static_cast<const LabelLook&>(run.program.format.LabelSavedState[PageId::frmP1][9]), look);
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program)) << "what was just read needs no save";
 }
 
 TEST(PropertyLines, TheirFontSettlesSignsAndWhichTextsAreTooLong) {

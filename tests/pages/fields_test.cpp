@@ -37,4 +37,26 @@ TEST(Focus, OfABoxThatHasGoneIsDroppedWithoutLeavingIt) {
     EXPECT_EQ(left, 0);
 }
 
+TEST(Fields, ATextThatIsPutInLeavesTheCursorBeforeItAndNothingMarked) {
+    RunningProgram run;
+    TextArea& area = run.Area(kName.Page, kName.Index);
+    area.Text = "Wedding";
+    modFields::SetCursor(area, 3, 2);
+    modFields::SetText(run.program, kName, "Anniversary");
+    EXPECT_EQ(area.SelStart, 0);
+    EXPECT_EQ(area.SelLength, 0);
+}
+
+TEST(Fields, TypingWhatStandsThereMovesTheCursorAndChangesNothing) {
+    RunningProgram run;
+    run.Area(kName.Page, kName.Index).Text = "Wedding";
+    int changes = 0;
+    run.program.hooks.Change = [&](Program&, const FieldRef&) { ++changes; };
+    modFields::TypeText(run.program, kName, "Wedding", 7, 0);
+    EXPECT_EQ(changes, 0);
+    EXPECT_EQ(run.Area(kName.Page, kName.Index).SelStart, 7);
+    modFields::TypeText(run.program, kName, "Weddings", 8, 0);
+    EXPECT_EQ(changes, 1);
+}
+
 } // namespace

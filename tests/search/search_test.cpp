@@ -64,6 +64,8 @@ TEST(Phrase, StandsInAContextOfFortyCharactersFromTheLastBlank) {
 TEST(HitKey, NamesPageAndAreaAndNothingElseIsOne) {
     EXPECT_EQ(modSearch::HitKey(kSecond, 13), "frmP2:13");
     EXPECT_EQ(modSearch::FieldOfKey("frmP2:13"), Text(kSecond, 13));
+    EXPECT_EQ(modSearch::FieldOfKey("frmP2:0"), Text(kSecond, 0));
+    EXPECT_EQ(modSearch::FieldOfKey("frmP2:65"), Text(kSecond, 65)) << "the last of its page";
     for (const char* bad : {"", "frmP2", "frmP7:1", "frmP2:", "frmP2:x", "frmP2:66", "frmP6:6", "frmP2:-1",
                             "frmP2:99999999999", "frmP6_1:1"}) {
         EXPECT_EQ(modSearch::FieldOfKey(bad), std::nullopt) << bad;

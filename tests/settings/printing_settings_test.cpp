@@ -78,6 +78,7 @@ TEST(PrinterOffsets, OfATwipAreHalfAtTheLeastAndAMillionAtTheMost) {
     EXPECT_EQ(modOffsets::TwipsOf("-0.00034722222"), -0.5F);
     EXPECT_EQ(modOffsets::TwipsOf("0.000347"), 0.0F);
     EXPECT_EQ(modOffsets::TwipsOf("694.4444"), 1'000'000 - 0.064F);
+    EXPECT_EQ(modOffsets::TwipsOf("694.44446"), 1'000'000.0F); // the nearest there is to a 1440th
     EXPECT_EQ(modOffsets::TwipsOf("694.4445"), 0.0F);
 }
 

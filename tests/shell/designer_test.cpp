@@ -311,6 +311,20 @@ TEST(LabelWindow, AnotherLabelPressedMakesTheFirstOnesWordsLast) {
     EXPECT_EQ(run.Label(PageId::frmP1, 9).Caption, "Day");
 }
 
+TEST(LabelWindow, TheSameLabelOfAnotherPageIsAnotherOne) {
+    Designing run;
+    run.Click(34, PageId::frmP2);
+    frmLabelProps& window = run.Props();
+    window.txtCaption_Change(run.program, "Sheet Two");
+    const std::string other = run.Label(PageId::frmP3, 34).Caption;
+    run.Click(34, PageId::frmP3);
+    EXPECT_EQ(window.txtCaption.Text, other);
+    window.cmdCancel_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP2, 34).Caption, "Sheet Two");
+    EXPECT_EQ(run.Prop(34, PageId::frmP2).Caption, "Sheet Two");
+    EXPECT_EQ(run.Label(PageId::frmP3, 34).Caption, other);
+}
+
 TEST(LabelWindow, WordsOfATitleAreChangedElsewhere) {
     Designing run;
     run.Click(33);

@@ -139,6 +139,9 @@ TEST(LabelKeys, TheLogoMovesByOneStepAndTellsItsPlace) {
     run.Press(keys::kDown);
     EXPECT_EQ(logo.Left, 720);
     EXPECT_EQ(logo.Top, 720);
+    run.Press(keys::kRight);
+    run.Press(keys::kLeft);
+    EXPECT_EQ(logo.Left, 720);
     run.Press(keys::kBlank);
     EXPECT_EQ(logo.ToolTipText, " Left = 720, Top = 720");
     EXPECT_EQ(run.Press(kMenuKey), modLabelKeys::Menu::Logo);

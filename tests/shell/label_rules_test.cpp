@@ -345,6 +345,21 @@ TEST(LabelWindow, AColourOfAGroupStaysOnTheLabelThatWasPressedLast) {
     EXPECT_NE(run.Label(PageId::frmP2, 33).ForeColor, 128U);
 }
 
+TEST(LabelWindow, AColourOfAGroupPassesByASignThatWasPressedLast) {
+    Hands run;
+    run.DoubleClick(0, PageId::frmP2);
+    run.DoubleClick(33, PageId::frmP2); // a currency sign, which keeps its own
+    const Color own = run.Label(PageId::frmP2, 33).ForeColor;
+    frmLabelProps& window = run.Props();
+    frmRGB& colours = run.Colours(window);
+    colours.Red_Change(run.program, 128);
+    colours.cmdOK_Click(run.program);
+    modWindows::Sweep(run.program);
+    window.cmdOK_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).ForeColor, 128U);
+    EXPECT_EQ(run.Label(PageId::frmP2, 33).ForeColor, own);
+}
+
 TEST(LabelWindow, AGroupKeepsItsChangeWhenAnotherLabelIsPressed) {
     for (const bool joins : {false, true}) {
         Hands run;
@@ -501,6 +516,15 @@ TEST(Titles, ChangeByTheirButtonsAlone) {
     window.Form_Cancel(run.program);
     EXPECT_EQ(run.program.document.PageHeading, heading);
     EXPECT_EQ(run.Label(PageId::frmP1, 33).Caption, title);
+    EXPECT_FALSE(modFile::PropertiesChanged(run.program));
+}
+
+TEST(Titles, AHeadingThatTheSettingsHoldNeedsNoSaveOfTheProposal) {
+    Hands run;
+    frmTitle& window = run.Open<frmTitle>(CommandId::mnuEditTitles, "frmTitle");
+    window.txtTitle_Change("Ours - ");
+    window.cmdDefault_Click(run.program);
+    EXPECT_EQ(run.Label(PageId::frmP2, 0).Caption, "Ours - Page 2");
     EXPECT_FALSE(modFile::PropertiesChanged(run.program));
 }
 
