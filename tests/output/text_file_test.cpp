@@ -38,8 +38,22 @@ TEST(TextFile, TakesTheFirstSequenceOfEveryLengthAndNoLongerFormOfIt) {
         << "too long for what it says: four characters of the program's own";
 }
 
+TEST(TextFile, TakesTheLastCharacterThatThereIsAndNoneBeyondIt) {
+    EXPECT_EQ(modExport::DecodeTextFile("\xF4\x8F\xBF\xBF"), "\xF4\x8F\xBF\xBF");
+    EXPECT_EQ(modExport::DecodeTextFile("\xF4\x90\x80\x80"), "\xC3\xB4\xC2\x90\xE2\x82\xAC\xE2\x82\xAC");
+}
+
+TEST(TextFile, LooksAtTheCharacterRightBehindALongOneToo) {
+    const std::string face = "\xF0\x9F\x98\x80";
+    const std::string facesFourCharacters = "\xC3\xB0\xC5\xB8\xCB\x9C\xE2\x82\xAC";
+    EXPECT_EQ(modExport::DecodeTextFile(face + "a"), face + "a");
+    EXPECT_EQ(modExport::DecodeTextFile(face + "\xE9"), facesFourCharacters + "\xC3\xA9")
+        << "the accented letter alone says that the file is the program's own";
+}
+
 TEST(TextFile, TakesEveryKindOfLineEnd) {
     EXPECT_EQ(modExport::DecodeTextFile("a\r\nb\rc\nd\r"), "a\nb\nc\nd\n");
+    EXPECT_EQ(modExport::DecodeTextFile("a\r\n"), "a\n") << "one line, not two";
 }
 
 TEST(TextFile, ShowsInAWindowOfItsOwnAndLeavesTheProposalAlone) {

@@ -112,6 +112,17 @@ TEST(Recovery, ChangesOfASavedProposalComeBackAsUnsavedOnes) {
     EXPECT_FALSE(runs.Has("Running.txt")) << "everything is settled";
 }
 
+TEST(Recovery, AClientOfOneLetterHasItsChangesBackToo) {
+    Runs runs;
+    runs.Fill(2, "A");
+    runs.Save("A.hef");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    runs.StartAgain("The program did not close properly. The proposal A has changes from ", Answer::Yes);
+    EXPECT_EQ(runs.Text(2), "A");
+    EXPECT_EQ(runs.Text(10), "twelve sandwiches and a cake");
+}
+
 TEST(Recovery, OfAFileThatWasCutShortMeanwhileKeepsItWhenItIsReplaced) {
     Runs runs;
     runs.Fill(2, "Ann");
