@@ -49,6 +49,7 @@ TEST(TextFile, LooksAtTheCharacterRightBehindALongOneToo) {
     EXPECT_EQ(modExport::DecodeTextFile(face + "a"), face + "a");
     EXPECT_EQ(modExport::DecodeTextFile(face + "\xE9"), facesFourCharacters + "\xC3\xA9")
         << "the accented letter alone says that the file is the program's own";
+    EXPECT_EQ(modExport::DecodeTextFile("\xE2\x82\xAC\xE9"), "\xC3\xA2\xE2\x80\x9A\xC2\xAC\xC3\xA9");
 }
 
 TEST(TextFile, TakesEveryKindOfLineEnd) {
@@ -112,6 +113,12 @@ TEST(TextFile, PrintsWrappedAtBlanks) {
     EXPECT_EQ(Printed(run, word + " " + word + "\nend"), (std::vector<std::string>{word + " ", word, "end"}));
     EXPECT_EQ(Printed(run, std::string(109, 'y')), (std::vector<std::string>{std::string(108, 'y'), "y"}));
     EXPECT_EQ(Printed(run, "a\n\nb"), (std::vector<std::string>{"a", "", "b"}));
+}
+
+TEST(TextFile, CharactersWiderThanThePaperPrintOneALine) {
+    RunningProgram run;
+    run.surroundings.measure.Advance['W'] = 12000; // between the margins are 10800
+    EXPECT_EQ(Printed(run, "WWa"), (std::vector<std::string>{"W", "W", "a"}));
 }
 
 TEST(TextFile, ALongTextTakesMorePages) {
