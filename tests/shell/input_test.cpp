@@ -86,6 +86,20 @@ TEST(Keys, ABlockThatAHeldArrowMovesOnAndOnIsStoredOnceWhereItIsLetGo) {
     EXPECT_EQ(stored[7], "Chairs");
 }
 
+TEST(Input, ABlankOfAnInputMethodBehindALineThatIsTooLongMovesItsLastWordDown) {
+    RunningProgram run;
+    Typist typist(run.program);
+    const FieldRef line{PageId::frmP2, FieldKind::txt, 3}; // 86 characters fit
+    const std::string words =
+        "champagne champagne champagne champagne champagne champagne champagne champagne";
+    typist.Click(line);
+    typist.Insert(words + " canapees");
+    modInput::CursorMoved(run.program, line, 88, 0);
+    typist.Commit(" ");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), words);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 4), "canapees ");
+}
+
 TEST(Keys, UpAndDownMoveTheFocusOtherwise) {
     RunningProgram run;
     Typist typist(run.program);

@@ -179,6 +179,13 @@ TEST(PageKeys, GoDownHalfAWindowAndUpAWholeOne) {
     EXPECT_EQ(run.program.main.VScroll1.LargeChange, 7000);
 }
 
+TEST(PageKeys, GoByTheWindowsHeightAsItIsNow) {
+    Scrolling run(7000);
+    run.program.main.ClientHeight = 5000; // nothing has been fitted to it yet
+    EXPECT_EQ(run.After(0, keys::kPageDown), 2500);
+    EXPECT_EQ(run.program.main.VScroll1.LargeChange, 5000);
+}
+
 TEST(PageKeys, OthersLeaveThePositionAlone) {
     Scrolling run(7000);
     for (const int key : {13, 38, 40, 112}) {
