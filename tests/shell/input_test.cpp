@@ -259,6 +259,13 @@ TEST(Input, TheCaretsLabelFollowsWhicheverHandMovesIt) {
     typist.Click(place);
     typist.Type("Ab Cd");
     EXPECT_EQ(told, at(5));
+    const FieldRef deposit{PageId::frmP6, FieldKind::txt, 4};
+    typist.Click(deposit);
+    typist.Type("125");
+    person::KeyUp(run.program, keys::kLeft, 0, 1, 0);
+    EXPECT_EQ(told, at(1));
+    EXPECT_EQ(run.program.editing.CursorPos, 1);
+    typist.Click(place);
     person::FieldDblClick(run.program, place, 4);
     EXPECT_EQ(run.Area(PageId::frmP1, 8).SelLength, 2) << "the word is marked";
     EXPECT_EQ(told, at(3));

@@ -390,6 +390,21 @@ TEST(Recovery, AnEndFromOutsideOverTheQuestionHasItAskedAgain) {
     EXPECT_EQ(program.pages[PageId::frmP1].txt[10].Text, "twelve sandwiches and a cake");
 }
 
+TEST(Recovery, ARunThatIsKilledOverTheQuestionHasItAskedAgain) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    std::string marker; // all that such a run leaves
+    runs.Start(runs.program, runs.again, [&] { marker = runs.first->folder.Read("Running.txt"); });
+    runs.first->folder.Write("Running.txt", marker);
+    RecordingPlatform third;
+    Program program(third.platform);
+    third.questions.Expect("The proposal Ann has changes from ", Answer::Yes);
+    runs.Start(program, third);
+    EXPECT_EQ(program.pages[PageId::frmP1].txt[10].Text, "twelve sandwiches and a cake");
+}
+
 TEST(Recovery, AskedAgainWhenTheRunThatBroughtThemBackIsKilledToo) {
     Runs runs;
     runs.Fill(2, "Ann");
