@@ -460,6 +460,21 @@ TEST(AddressBook, ARowThatOpensNothingEmptiesTheFieldsAndTakesTheCommandsAway) {
     EXPECT_TRUE(window.IsAvailable(run.program, Id::mnuOptMerge));
 }
 
+TEST(AddressBook, ANewRecordCanBeSavedAfterARowThatOpenedNothing) {
+    AddressRun run;
+    frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash", "Ben Birch"}));
+    run.WriteBook(AddressRun::kPersonal, AddressRun::Book({"Ann Ash"}));
+    window.lstNames_Click(run.program, 1);
+    ASSERT_FALSE(window.cmdSave.Enabled);
+    run.Run(Id::mnuFileNew);
+    EXPECT_TRUE(window.cmdSave.Enabled);
+    for (const Id id : {Id::mnuFileSave, Id::mnuFilePrint, Id::mnuOptMergeCeremony, Id::mnuOptCopyAll,
+                        Id::mnuOptCopyNameAddress}) {
+        EXPECT_TRUE(window.IsAvailable(run.program, id)) << static_cast<int>(id);
+    }
+    EXPECT_FALSE(window.IsAvailable(run.program, Id::mnuFileDelete)) << "there is nothing to delete yet";
+}
+
 TEST(AddressBook, ChoosingAnotherRowAsksAboutWhatWasTyped) {
     AddressRun run;
     frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash", "Ben Birch"}));
@@ -478,6 +493,18 @@ TEST(AddressBook, ChoosingAnotherRowAsksAboutWhatWasTyped) {
     window.lstNames_Click(run.program, 1);
     EXPECT_EQ(run.Text(0), "Ben Birch");
     EXPECT_EQ(run.ReadBook(), AddressRun::Book({"Ann Ash", "Ben Birch"}));
+}
+
+TEST(AddressBook, ANoLetsTheOtherRowComeAlsoAfterASaveThatWasRefused) {
+    AddressRun run;
+    frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash"}));
+    run.Type(1, "no name yet");
+    run.Questions().Expect("Cannot save record... no name given.");
+    window.cmdSave_Click(run.program);
+    run.Questions().ExpectBox(kAskToSave, Answer::No);
+    window.lstNames_Click(run.program, 0);
+    EXPECT_EQ(run.Text(0), "Ann Ash");
+    EXPECT_EQ(run.Text(1), "");
 }
 
 TEST(AddressBook, AYesSavesAndThenOpensTheRowThatWasChosen) {

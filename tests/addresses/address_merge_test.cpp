@@ -399,6 +399,9 @@ TEST(DoubleClick, FormatsADateWithoutABlankBehindTheComma) {
     run.Type(7, "6:00 PM");
     window.txt_DblClick(run.program, 7);
     EXPECT_EQ(run.Text(7), "6:00 PM");
+    run.Type(7, "12/31/1899"); // the first day of the count
+    window.txt_DblClick(run.program, 7);
+    EXPECT_EQ(run.Text(7), "Dec 31,1899");
 }
 
 TEST(DoubleClick, LeavesContactMailAndNotes) {

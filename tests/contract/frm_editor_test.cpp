@@ -143,6 +143,7 @@ TEST(Contract, ExportRecordsAllLabelsForTheProposalAndForAFormat) {
     Contracted run;
     run.Fill(35);
     run.Label(PageId::frmP6, 13).FontBold = true;
+    run.program.format.FormatLabelChanges[PageId::frmP6][20].Saved = true; // by a save of the format before
     frmEditor& window = run.Open();
     window.cmbFontSize_Click(run.program, 2);
     run.Replace(window, "Only line");

@@ -73,6 +73,16 @@ TEST(TextsLostOnPaper, AreNoneThatFillTheirPlaceOrTheSheetToTheLastTwip) {
     EXPECT_EQ(run.Lost({PageId::frmP2}), Texts{"Page 2, Line 1, amount"});
 }
 
+TEST(TextsLostOnPaper, AreNoneThatBeginAtTheSheetsVeryEdge) {
+    Printing run;
+    TextArea& line = run.Area(PageId::frmP2, 0);
+    run.Put(PageId::frmP2, 0, std::string(90, 'x')); // longer than its place, with nothing beside it
+    line.Left = 0;
+    EXPECT_EQ(run.Lost({PageId::frmP2}), Texts{});
+    line.Left = -1;
+    EXPECT_EQ(run.Lost({PageId::frmP2}), Texts{"Page 2, Line 1, description"});
+}
+
 TEST(TextsLostOnPaper, GoByTheFontInWhichTheyArePrinted) {
     Printing run;
     run.surroundings.measure.BoldFactor = 1.5F;

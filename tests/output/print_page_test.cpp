@@ -147,6 +147,24 @@ TEST(DrawPage, ALogoWithABorderHasItWithinItsFourSides) {
                                                      {1547.5F, 737.5F, 1547.5F, 2222.5F}}));
 }
 
+TEST(DrawPage, ALogoThatIsHiddenOrHasNoPictureIsNotDrawnAndNeitherIsOneOfAPageWithoutLogo) {
+    const auto pictures = [](void (*change)(Page&)) {
+        BarePages bare;
+        Page& page = bare.program.pages[PageId::frmP1];
+        page.HasLogo = true;
+        page.pic.Picture = {PictureRef::Source::File, "logo.bmp"};
+        page.pic.Size = {1000, 500};
+        change(page);
+        const std::vector<DrawCall>& calls = bare.Draw(PageId::frmP1);
+        return std::count_if(calls.begin(), calls.end(),
+                             [](const DrawCall& call) { return call.Op == What::PaintPicture; });
+    };
+    EXPECT_EQ(pictures([](Page&) {}), 1);
+    EXPECT_EQ(pictures([](Page& page) { page.pic.Tag = kHide; }), 0);
+    EXPECT_EQ(pictures([](Page& page) { page.pic.Picture = {}; }), 0);
+    EXPECT_EQ(pictures([](Page& page) { page.HasLogo = false; }), 0);
+}
+
 TEST(DrawPage, GoesByTheTagAndNotByVisibility) {
     BarePages bare;
     Page& page = bare.program.pages[PageId::frmP2];

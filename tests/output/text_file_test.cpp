@@ -38,8 +38,23 @@ TEST(TextFile, TakesTheFirstSequenceOfEveryLengthAndNoLongerFormOfIt) {
         << "too long for what it says: four characters of the program's own";
 }
 
+TEST(TextFile, TakesTheLastCharacterThatThereIsAndNoneBeyondIt) {
+    EXPECT_EQ(modExport::DecodeTextFile("\xF4\x8F\xBF\xBF"), "\xF4\x8F\xBF\xBF");
+    EXPECT_EQ(modExport::DecodeTextFile("\xF4\x90\x80\x80"), "\xC3\xB4\xC2\x90\xE2\x82\xAC\xE2\x82\xAC");
+}
+
+TEST(TextFile, LooksAtTheCharacterRightBehindALongOneToo) {
+    const std::string face = "\xF0\x9F\x98\x80";
+    const std::string facesFourCharacters = "\xC3\xB0\xC5\xB8\xCB\x9C\xE2\x82\xAC";
+    EXPECT_EQ(modExport::DecodeTextFile(face + "a"), face + "a");
+    EXPECT_EQ(modExport::DecodeTextFile(face + "\xE9"), facesFourCharacters + "\xC3\xA9")
+        << "the accented letter alone says that the file is the program's own";
+    EXPECT_EQ(modExport::DecodeTextFile("\xE2\x82\xAC\xE9"), "\xC3\xA2\xE2\x80\x9A\xC2\xAC\xC3\xA9");
+}
+
 TEST(TextFile, TakesEveryKindOfLineEnd) {
     EXPECT_EQ(modExport::DecodeTextFile("a\r\nb\rc\nd\r"), "a\nb\nc\nd\n");
+    EXPECT_EQ(modExport::DecodeTextFile("a\r\n"), "a\n") << "one line, not two";
 }
 
 TEST(TextFile, ShowsInAWindowOfItsOwnAndLeavesTheProposalAlone) {
@@ -98,6 +113,12 @@ TEST(TextFile, PrintsWrappedAtBlanks) {
     EXPECT_EQ(Printed(run, word + " " + word + "\nend"), (std::vector<std::string>{word + " ", word, "end"}));
     EXPECT_EQ(Printed(run, std::string(109, 'y')), (std::vector<std::string>{std::string(108, 'y'), "y"}));
     EXPECT_EQ(Printed(run, "a\n\nb"), (std::vector<std::string>{"a", "", "b"}));
+}
+
+TEST(TextFile, CharactersWiderThanThePaperPrintOneALine) {
+    RunningProgram run;
+    run.surroundings.measure.Advance['W'] = 12000; // between the margins are 10800
+    EXPECT_EQ(Printed(run, "WWa"), (std::vector<std::string>{"W", "W", "a"}));
 }
 
 TEST(TextFile, ALongTextTakesMorePages) {

@@ -526,6 +526,18 @@ TEST(SaveAs, WithAChangedClientAsksTwice) {
     EXPECT_FALSE(run.program.document.FileExists);
 }
 
+TEST(SaveAs, OfANewProposalWithoutAClientAsksOnce) {
+    Living run;
+    run.folder.Write("Proposals/Jane Roe.hef", "older");
+    run.Touch();
+    run.surroundings.questions.ExpectInput("Saving File As...", "Jane Roe");
+    run.surroundings.questions.ExpectBox(kOverwrite, Answer::Yes);
+    run.surroundings.questions.Expect("File was saved as Jane Roe.hef");
+    modProposal::SaveEventFileAs(run.program);
+    EXPECT_NE(run.folder.Read("Proposals/Jane Roe.hef"), "older");
+    EXPECT_TRUE(run.program.document.FileExists);
+}
+
 TEST(SaveAs, FootnotesAndDepositsGoWithTheProposal) {
     Living run;
     run.SaveAs("Jane Roe");

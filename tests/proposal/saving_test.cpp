@@ -95,6 +95,14 @@ TEST(Saving, TheTextOfAProposalIsNamedAsItsFile) {
     EXPECT_EQ(run.program.document.TextFileName, "Ann.txt");
 }
 
+TEST(Saving, EndsTheEditingOfAFormatSoThatTheNextProposalAsksNothingOfIt) {
+    RunningProgram run;
+    run.program.format.EditingFormat = true;
+    SaveAnn(run);
+    EXPECT_FALSE(run.program.format.EditingFormat);
+    EXPECT_EQ(modReset::StartNewFile(run.program), modReset::ResetResult::Done);
+}
+
 TEST(Saving, AnEmptyFolderMeansTheProposals) {
     RunningProgram run;
     run.program.document.FilePath.clear();

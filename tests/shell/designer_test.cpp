@@ -421,6 +421,23 @@ TEST(LabelKeys, TheLogoComesLastOnTheFirstPage) {
     EXPECT_EQ(run.program.main.Notice, "Kept only by a format or by Save this Logo as Default.");
 }
 
+TEST(LabelKeys, ThePageScrollsToALogoBelowTheWindow) {
+    Designing run;
+    run.program.main.ClientHeight = 5000;
+    modScroll::UpdatePageButtons(run.program, 0);
+    PagePicture& logo = run.program.pages[PageId::frmP1].pic;
+    logo.Picture = {PictureRef::Source::File, "/srv/logo.png"};
+    logo.Visible = true;
+    logo.Top = 12000;
+    logo.Size = {2000, 1000};
+    person::Choose(run.program, CommandId::mnuEditLabelMode);
+    static_cast<void>(modInput::LabelKeyDown(run.program, keys::kTab, keys::kShiftState));
+    ASSERT_EQ(run.program.designer.Framed, kLogoInFrame);
+    const int shown = run.program.main.VScroll1.Value;
+    EXPECT_LE(shown, 12000);
+    EXPECT_GE(shown + 5000, 13000);
+}
+
 TEST(Snap, QuickButtonsAndTypedValues) {
     Designing run;
     frmSnap& window = run.Open<frmSnap>(CommandId::mnuToolsSnap, "frmSnap");

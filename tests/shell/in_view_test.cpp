@@ -78,6 +78,17 @@ TEST(InView, AFieldGoesToTheLowerEdgeAndNearThePagesHeadToTheUpper) {
     EXPECT_EQ(run.program.main.VScroll1.Value, 4000);
 }
 
+TEST(InView, AFieldWhoseLowerEdgeIsTheWindowsAtThePagesHeadLeavesThePageThere) {
+    RunningProgram run;
+    const FieldRef field{PageId::frmP1, FieldKind::txt, 19};
+    const TextArea& area = modFields::Area(run.program, field);
+    const float pitch = run.Area(PageId::frmP1, 11).Top - run.Area(PageId::frmP1, 10).Top;
+    run.program.main.ClientHeight = area.Top + area.Height + pitch;
+    person::ResizeWindow(run.program);
+    modScroll::BringToEdge(run.program, field);
+    EXPECT_EQ(run.program.main.VScroll1.Value, 0);
+}
+
 TEST(InView, AKeyThatOnlyHoldsOrScrollsLeavesThePageAlone) {
     LowWindow run;
     run.typist.Click(PageId::frmP1, 2);

@@ -68,6 +68,38 @@ TEST(Keys, UpAndDownMoveTheBlockWhileAreasAreSelected) {
     EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP2, FieldKind::txt, 5}));
 }
 
+TEST(Keys, ABlockThatAHeldArrowMovesOnAndOnIsStoredOnceWhereItIsLetGo) {
+    RunningProgram run;
+    Typist typist(run.program);
+    typist.Click(PageId::frmP2, 5);
+    typist.Type("Chairs");
+    typist.Press(keys::kDown, keys::kShiftState);
+    const auto& stored = run.program.document.CurrentTextBuf[PageId::frmP2];
+    typist.Hold(keys::kDown);
+    typist.Hold(keys::kDown);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 7), "Chairs");
+    EXPECT_EQ(stored[5], "Chairs");
+    EXPECT_EQ(stored[6], "") << "it only passes by there";
+    person::KeyUp(run.program, keys::kDown, 0, 0, 0);
+    EXPECT_EQ(stored[5], "");
+    EXPECT_EQ(stored[6], "");
+    EXPECT_EQ(stored[7], "Chairs");
+}
+
+TEST(Input, ABlankOfAnInputMethodBehindALineThatIsTooLongMovesItsLastWordDown) {
+    RunningProgram run;
+    Typist typist(run.program);
+    const FieldRef line{PageId::frmP2, FieldKind::txt, 3}; // 86 characters fit
+    const std::string words =
+        "champagne champagne champagne champagne champagne champagne champagne champagne";
+    typist.Click(line);
+    typist.Insert(words + " canapees");
+    modInput::CursorMoved(run.program, line, 88, 0);
+    typist.Commit(" ");
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 3), words);
+    EXPECT_EQ(run.TextOf(PageId::frmP2, 4), "canapees ");
+}
+
 TEST(Keys, UpAndDownMoveTheFocusOtherwise) {
     RunningProgram run;
     Typist typist(run.program);
@@ -214,6 +246,7 @@ TEST(Input, TheCaretsLabelFollowsWhicheverHandMovesIt) {
     EXPECT_EQ(told, at(2));
     person::FieldMouseUp(run.program, field, 5, 0);
     EXPECT_EQ(told, at(5));
+    EXPECT_EQ(run.program.editing.CursorPos, 5) << "typing goes on from there";
     modInput::CursorMoved(run.program, field, 1, 2);
     EXPECT_EQ(told, at(1));
     person::KeyUp(run.program, keys::kLeft, 0, 4, 0);
@@ -226,6 +259,13 @@ TEST(Input, TheCaretsLabelFollowsWhicheverHandMovesIt) {
     typist.Click(place);
     typist.Type("Ab Cd");
     EXPECT_EQ(told, at(5));
+    const FieldRef deposit{PageId::frmP6, FieldKind::txt, 4};
+    typist.Click(deposit);
+    typist.Type("125");
+    person::KeyUp(run.program, keys::kLeft, 0, 1, 0);
+    EXPECT_EQ(told, at(1));
+    EXPECT_EQ(run.program.editing.CursorPos, 1);
+    typist.Click(place);
     person::FieldDblClick(run.program, place, 4);
     EXPECT_EQ(run.Area(PageId::frmP1, 8).SelLength, 2) << "the word is marked";
     EXPECT_EQ(told, at(3));

@@ -155,6 +155,25 @@ TEST(Rescue, WhatBelongsToNoProposalIsToldWithItsPath) {
     EXPECT_EQ(run.folder.Read("Proposals/Backup/Unnamed.contract.txt"), "wording");
 }
 
+TEST(Rescue, WhatNoProposalReadsBackIsToldWithoutAnOfferToPutItThere) {
+    const auto told = [](const RunningProgram& run, std::string_view path) {
+        NextRun next(run);
+        next.surroundings.questions.Expect(std::string(path));
+        next.Start();
+        const ScriptedQuestions::Box& box = next.surroundings.questions.Shown.back();
+        EXPECT_EQ(box.With, Buttons::Ok) << path;
+    };
+    Leaving saved;
+    modRescue::KeepOfProposal(saved.program, ".contract.txt", "wording", modRescue::Back::Told);
+    told(saved, "Backup/Jane Roe.contract.txt");
+    RunningProgram unsaved;
+    Typist typist(unsaved.program);
+    typist.Click(PageId::frmP1, 2);
+    typist.Type("Jane Roe");
+    modRescue::KeepOfProposal(unsaved.program, ".hxt", "remember", modRescue::Back::Offered);
+    told(unsaved, "Backup/Jane Roe.hxt");
+}
+
 TEST(Rescue, OfMoreThanTenTheOthersAreCounted) {
     for (const std::size_t count : {std::size_t{10}, std::size_t{12}}) {
         RunningProgram run;

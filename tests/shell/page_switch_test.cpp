@@ -1,8 +1,10 @@
 #include "shell/page_switch.h"
 
+#include "program/keys.h"
 #include "program/program.h"
 #include "program/windows.h"
 #include "shell/frm_main.h"
+#include "shell/input.h"
 #include "support/person.h"
 #include "support/running_program.h"
 
@@ -35,6 +37,22 @@ TEST(PageSwitch, SetsWhatTheWindowKnowsOfThePage) {
             EXPECT_EQ(main.imgPage[static_cast<std::size_t>(button)].Picture, button == row.Index ? 1 : 0);
         }
     }
+}
+
+TEST(PageSwitch, AClickOnAPagesButtonPutsTheKeyboardIntoItsFirstAreaAndOnTheFinalPageIntoTheDeposit) {
+    RunningProgram run;
+    for (const Row& row : kRows) {
+        frmMain(run.program).imgPage_Click(row.Index);
+        if (row.Index == 6) {
+            EXPECT_FALSE(run.program.main.Focus) << "nothing is typed on the copy";
+        } else {
+            EXPECT_EQ(run.program.main.Focus,
+                      (FieldRef{PageAt(row.Index), FieldKind::txt, row.Index == 5 ? 4 : 0}))
+                << row.Name;
+        }
+    }
+    frmMain(run.program).imgPage_Click(0);
+    EXPECT_EQ(run.program.main.Focus, (FieldRef{PageId::frmP1, FieldKind::txt, 0}));
 }
 
 TEST(PageSwitch, ToTheClientsCopyLeavesThePageThatCommandsActOn) {
@@ -161,6 +179,13 @@ TEST(PageKeys, GoDownHalfAWindowAndUpAWholeOne) {
     EXPECT_EQ(run.program.main.VScroll1.LargeChange, 7000);
 }
 
+TEST(PageKeys, GoByTheWindowsHeightAsItIsNow) {
+    Scrolling run(7000);
+    run.program.main.ClientHeight = 5000; // nothing has been fitted to it yet
+    EXPECT_EQ(run.After(0, keys::kPageDown), 2500);
+    EXPECT_EQ(run.program.main.VScroll1.LargeChange, 5000);
+}
+
 TEST(PageKeys, OthersLeaveThePositionAlone) {
     Scrolling run(7000);
     for (const int key : {13, 38, 40, 112}) {
@@ -272,6 +297,22 @@ TEST(PageSwitch, InTheLabelModeTheFrameGoesToTheNewPagesFirstLabelAndTheCopyEnds
     EXPECT_EQ(run.program.designer.Framed, 0);
     modScroll::UpdatePageButtons(run.program, 6);
     EXPECT_FALSE(run.program.designer.LabelMode);
+}
+
+TEST(PageSwitch, APageWithNothingToFrameStaysWhereItIsWhenTabIsPressedInTheLabelMode) {
+    RunningProgram run;
+    run.program.main.ClientHeight = 5000;
+    person::ResizeWindow(run.program);
+    person::Choose(run.program, CommandId::mnuEditLabelMode);
+    Page& page = run.program.pages[PageId::frmP1];
+    for (PageLabel& label : page.lbl) {
+        label.Tag = kHide;
+    }
+    page.pic.Visible = false;
+    modScroll::SetScroll(run.program, 9000);
+    static_cast<void>(modInput::LabelKeyDown(run.program, keys::kTab, 0));
+    EXPECT_FALSE(run.program.designer.Framed);
+    EXPECT_EQ(run.program.main.VScroll1.Value, 9000);
 }
 
 } // namespace

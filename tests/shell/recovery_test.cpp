@@ -112,6 +112,17 @@ TEST(Recovery, ChangesOfASavedProposalComeBackAsUnsavedOnes) {
     EXPECT_FALSE(runs.Has("Running.txt")) << "everything is settled";
 }
 
+TEST(Recovery, AClientOfOneLetterHasItsChangesBackToo) {
+    Runs runs;
+    runs.Fill(2, "A");
+    runs.Save("A.hef");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    runs.StartAgain("The program did not close properly. The proposal A has changes from ", Answer::Yes);
+    EXPECT_EQ(runs.Text(2), "A");
+    EXPECT_EQ(runs.Text(10), "twelve sandwiches and a cake");
+}
+
 TEST(Recovery, OfAFileThatWasCutShortMeanwhileKeepsItWhenItIsReplaced) {
     Runs runs;
     runs.Fill(2, "Ann");
@@ -372,6 +383,21 @@ TEST(Recovery, AnEndFromOutsideOverTheQuestionHasItAskedAgain) {
         modClosing::Interrupted(runs.program);
     });
     ASSERT_TRUE(asked);
+    RecordingPlatform third;
+    Program program(third.platform);
+    third.questions.Expect("The proposal Ann has changes from ", Answer::Yes);
+    runs.Start(program, third);
+    EXPECT_EQ(program.pages[PageId::frmP1].txt[10].Text, "twelve sandwiches and a cake");
+}
+
+TEST(Recovery, ARunThatIsKilledOverTheQuestionHasItAskedAgain) {
+    Runs runs;
+    runs.Fill(2, "Ann");
+    runs.Fill(10, "twelve sandwiches and a cake");
+    modFile::BackupThisFile(runs.first->program);
+    std::string marker; // all that such a run leaves
+    runs.Start(runs.program, runs.again, [&] { marker = runs.first->folder.Read("Running.txt"); });
+    runs.first->folder.Write("Running.txt", marker);
     RecordingPlatform third;
     Program program(third.platform);
     third.questions.Expect("The proposal Ann has changes from ", Answer::Yes);

@@ -55,6 +55,8 @@ TEST(Completion, BeginsWhenTheWordIsLongerThanTheStartLength) {
     EXPECT_EQ(run.Selected(), "ir covers ");
     EXPECT_TRUE(run.Active());
     EXPECT_EQ(run.Stored(), "cha") << "it is not stored before it is taken";
+    EXPECT_EQ(run.program.editing.Words[kPage].MatchedTerm, "Chair Covers ");
+    EXPECT_EQ(run.program.editing.Words[kPage].MatchedAmount, "3.50");
 }
 
 TEST(Completion, WithAStartLengthOfNoneTheFirstLetterDoes) {
