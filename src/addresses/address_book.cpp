@@ -193,6 +193,7 @@ void ReadAddressList(Program& program, AddressWindow& window) {
     list.ListIndex = -1;
     book.NamesInFile.clear();
     book.AddressRecordCount = 0;
+    book.AddressRecordNew = false;
     book.LastListIndex = -1;
     ClearSearch(program, window);
     Guarded(program, "ReadAddressList", [&] {

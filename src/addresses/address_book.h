@@ -18,7 +18,8 @@ enum class Outcome { Done, Stopped };
 /// Asks about unsaved changes, makes the book's file when there is none, and lists its names. Reports as
 /// "OpenPersonalBook" and "OpenBusinessBook".
 [[nodiscard]] Outcome OpenBook(Program& program, AddressWindow& window, AddressBook book);
-/// The number of records and the list, from the file. Ends a search. Reports as "ReadAddressList".
+/// The number of records and the list, from the file. No record is a new one; ends a search. Reports as
+/// "ReadAddressList".
 void ReadAddressList(Program& program, AddressWindow& window);
 
 /// Selects a row, which activates it.

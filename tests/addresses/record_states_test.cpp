@@ -1,3 +1,4 @@
+#include "addresses/address_book.h"
 #include "addresses/address_fields.h"
 #include "addresses/address_run.h"
 #include "base/text.h"
@@ -108,6 +109,15 @@ TEST(DeletedRecord, LeavesTheOneThatTookItsPlaceWhenOthersHaveGoneToo) {
     EXPECT_EQ(run.Text(0), "Ann Ash");
     EXPECT_EQ(window.lstNames.ListIndex, 0);
     EXPECT_EQ(window.Caption, " Personal Address Book/Ann Ash/Record 1 of 2 Displayed");
+}
+
+TEST(BookReadAnew, HasNoNewRecord) {
+    AddressRun run;
+    frmAddress& window = run.OpenWith(AddressRun::Book({"Ann Ash"}));
+    run.Run(Id::mnuFileNew);
+    ASSERT_TRUE(run.program.addresses.AddressRecordNew);
+    modAddress::ReadAddressList(run.program, window);
+    EXPECT_FALSE(run.program.addresses.AddressRecordNew);
 }
 
 TEST(BookThatCannotBeRead, ShowsNoneOfTheNamesOfTheOther) {
