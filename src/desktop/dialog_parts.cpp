@@ -1,11 +1,11 @@
 #include "desktop/dialog_parts.h"
 
 #include "desktop/convert.h"
+#include "desktop/person_text.h"
 
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
-#include <QToolTip>
 #include <QVBoxLayout>
 
 namespace dialog {
@@ -64,8 +64,7 @@ QValidator::State ModelValidator::validate(QString& input, int& position) const 
         }
     }
     if (!left.isEmpty()) {
-        QToolTip::showText(edit_->mapToGlobal(QPoint(0, edit_->height())),
-                           tr("\u201C%1\u201D was not taken: it has no place here.").arg(left), edit_);
+        person_text::TellNoPlace(left, *edit_);
         input = kept;
         position = cursor;
     }

@@ -13,11 +13,17 @@ EntryEdit::EntryEdit(QWidget* parent, const char* name, const QString& spoken) :
 
 void EntryEdit::Report(const QString& now) {
     QString kept;
+    QString left;
     for (const QChar character : person_text::Keepable(now, *this)) {
         const auto byte = convert::ToByte(character);
         if (byte && (TextFilter == nullptr || TextFilter(static_cast<unsigned char>(*byte)) != 0)) {
             kept += character;
+        } else {
+            left += character;
         }
+    }
+    if (!left.isEmpty()) {
+        person_text::TellNoPlace(left, *this);
     }
     if (kept != now) {
         const int cursor = cursorPosition();
@@ -40,6 +46,7 @@ void EntryEdit::keyPressEvent(QKeyEvent* event) {
     if (KeyFilter != nullptr && typed.size() == 1 && typed.front().isPrint() && modifiers == Qt::NoModifier) {
         const auto byte = convert::ToByte(typed.front());
         if (!byte || KeyFilter(static_cast<unsigned char>(*byte)) == 0) {
+            person_text::TellNoPlace(typed, *this);
             return;
         }
     }

@@ -347,7 +347,11 @@ void FrmMainView::Follow() {
     for (QShortcut* key : endPreview_) {
         key->setEnabled(modPreview::PreviewStands(program_));
     }
+    const bool covered = windows_->ModalOpen();
     windows_->Follow();
+    if (covered && !windows_->ModalOpen() && program_.main.Loaded) {
+        FollowKeyboard(); // a chooser that has gone may have changed the page beneath it
+    }
     if (program_.main.BringUp) {
         program_.main.BringUp = false;
         TakeKeyboard();
@@ -449,13 +453,19 @@ void FrmMainView::FollowPages() {
     if (page.InkShown && view.isAncestorOf(focusWidget())) {
         desk_->setFocus(); // a field that has gone under the ink would hand it to the nearest button
     }
-    if (!windows_->ModalOpen() && !windows_->KeyboardWithin()) {
-        view.FollowFocus();
-        const QWidget* keyboard = focusWidget();
-        if ((!program_.main.Focus || program_.main.Focus->Page != front) &&
-            (keyboard == nullptr || !keyboard->isVisible())) {
-            desk_->setFocus(); // page keys still scroll
-        }
+    FollowKeyboard();
+}
+
+void FrmMainView::FollowKeyboard() {
+    if (windows_->ModalOpen() || windows_->KeyboardWithin()) {
+        return;
+    }
+    const PageId front = program_.main.PageInFront;
+    PageOf(front).FollowFocus();
+    const QWidget* keyboard = focusWidget();
+    if ((!program_.main.Focus || program_.main.Focus->Page != front) &&
+        (keyboard == nullptr || !keyboard->isVisible())) {
+        desk_->setFocus(); // page keys still scroll
     }
 }
 

@@ -64,6 +64,8 @@ private:
     void ResizeSoon();
     void ResizeModel();
     void FollowPages();
+    /// The keyboard goes where the model has it, unless a window has it.
+    void FollowKeyboard();
     /// A window beside the page hands the keyboard back.
     void TakeKeyboard();
     /// Where the paper stands on the desk.

@@ -46,4 +46,9 @@ QString Keepable(const QString& text, QWidget& beside) {
     return kept;
 }
 
+void TellNoPlace(const QString& left, QWidget& widget) {
+    QToolTip::showText(widget.mapToGlobal(QPoint(0, widget.height())),
+                       QObject::tr("\u201C%1\u201D was not taken: it has no place here.").arg(left), &widget);
+}
+
 } // namespace person_text

@@ -18,4 +18,7 @@ namespace person_text {
 /// widget when something was left out.
 [[nodiscard]] QString Keepable(const QString& text, QWidget& beside);
 
+/// Tells below the widget that it does not take these characters.
+void TellNoPlace(const QString& left, QWidget& widget);
+
 } // namespace person_text

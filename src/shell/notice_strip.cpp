@@ -3,6 +3,8 @@
 #include "program/program.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
 #include <utility>
 
 namespace {
@@ -10,6 +12,17 @@ namespace {
 constexpr std::int64_t kLongEnough = 5000;
 /// A longer pause between two keys is no reading time: the person looked elsewhere.
 constexpr std::int64_t kLongestPause = 1000;
+
+/// What a later notice of the same matter makes old: a key or text refused, a thing saved.
+bool SameMatter(std::string_view one, std::string_view other) {
+    if (one == other) {
+        return true;
+    }
+    constexpr std::array<std::string_view, 2> kMatters{" not taken", " saved: "};
+    return std::any_of(kMatters.begin(), kMatters.end(), [&](std::string_view matter) {
+        return one.find(matter) != std::string_view::npos && other.find(matter) != std::string_view::npos;
+    });
+}
 
 } // namespace
 
@@ -26,7 +39,7 @@ void NoticeStrip::Follow(const Program& program, std::int64_t now) {
     if (!shown_.Text.empty()) {
         displaced_.push_back(std::move(shown_));
     }
-    std::erase_if(displaced_, [&](const Notice& notice) { return notice.Text == told; });
+    std::erase_if(displaced_, [&](const Notice& notice) { return SameMatter(notice.Text, told); });
     shown_ = {told, 0};
     last_ = now;
 }

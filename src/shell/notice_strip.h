@@ -11,7 +11,8 @@ struct Program;
 class NoticeStrip {
 public:
     /// Takes up what the program has told since. A new notice takes the place of the one before, which comes
-    /// back for the rest of its time. `now` counts milliseconds from any moment.
+    /// back for the rest of its time, unless both tell of keys or texts not taken, or of something saved.
+    /// `now` counts milliseconds from any moment.
     void Follow(const Program& program, std::int64_t now);
     /// The person has pressed a key, or moved or pressed the mouse.
     void Activity(std::int64_t now);
@@ -27,6 +28,6 @@ private:
     std::string told_; ///< by the program when it was last looked at
     int round_ = 0;    ///< the round of that
     Notice shown_;
-    std::vector<Notice> displaced_; ///< each text once, the latest last
+    std::vector<Notice> displaced_; ///< of each matter one, the latest last
     std::int64_t last_ = 0;
 };

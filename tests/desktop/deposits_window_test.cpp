@@ -3,10 +3,13 @@
 #include "desktop/row_table.h"
 #include "desktop/window_run.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
+#include <QToolTip>
 
 namespace {
 
@@ -42,6 +45,24 @@ TEST(DepositsWindow, TakesADepositByKeysAloneAndTheTotalsFollowInTheWindowBehind
     EXPECT_EQ(run.program.pages[PageId::frmP6].txt[4].Text, "1500.5");
     run.Press(Qt::Key_Escape);
     EXPECT_FALSE(run.Stands("frmDeposits"));
+}
+
+TEST(DepositsWindow, ASignThatTheAmountDoesNotTakeIsTold) {
+    DepositsRun run;
+    auto* amount = run.Part<EntryEdit>("txtAmount");
+    amount->setFocus();
+    QToolTip::hideText();
+    run.Type(QStringLiteral("-50.25"));
+    EXPECT_EQ(amount->text(), QStringLiteral("50.25"));
+    EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("\u201C-\u201D was not taken")));
+    amount->clear();
+    QToolTip::hideText();
+    QApplication::clipboard()->setText(QStringLiteral("(50.25)"));
+    amount->paste();
+    EXPECT_EQ(amount->text(), QStringLiteral("50.25"));
+    EXPECT_TRUE(QToolTip::text().contains(QStringLiteral("\u201C()\u201D was not taken")));
+    run.recording.questions.Expect("Add it?", Answer::No);
+    run.Press(Qt::Key_Escape);
 }
 
 TEST(DepositsWindow, ABoxAtFaultTurnsRedAndHasTheKeyboard) {

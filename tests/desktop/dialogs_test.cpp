@@ -298,6 +298,23 @@ TEST(ChooserWindow, TheFirstDownChoosesTheFirstFileAndReturnOpensIt) {
     EXPECT_EQ(run.window->windowTitle(), QStringLiteral("Quillbrook - File Name = Bob.hef"));
 }
 
+TEST(ChooserWindow, HandsTheKeyboardToTheFieldOfAnotherPageThanTheOneItWasOpenedOn) {
+    for (const int page : {1, 5}) {
+        DesktopRun run;
+        run.folder.Write("Proposals/Ann.hef", ReadTestData("jane_roe/Jane Roe.hef"));
+        run.ChoosePage(page);
+        run.Press(Qt::Key_O, Qt::ControlModifier);
+        auto* files = run.window->findChild<FileTable*>(QStringLiteral("FileList1"));
+        ASSERT_NE(files, nullptr);
+        QTest::keyClick(files, Qt::Key_Down);
+        QTest::keyClick(files, Qt::Key_Return);
+        ASSERT_EQ(run.program.document.FileName, "Ann.hef");
+        const FieldRef date{PageId::frmP1, FieldKind::txt, 0};
+        EXPECT_EQ(run.program.main.Focus, date);
+        EXPECT_EQ(run.window->focusWidget(), &run.Field(date)) << page;
+    }
+}
+
 TEST(ChooserWindow, AClickShowsThePanelAndReturnToListTakesItBack) {
     ChooserRun run;
     const QRect second = run.files->visualItemRect(run.files->topLevelItem(1));

@@ -161,6 +161,33 @@ TEST(Notice, TheSameWordsStandThereOnce) {
     EXPECT_EQ(read, (std::vector<std::string>{"first", "third", "second"})) << "the latest first";
 }
 
+TEST(Notice, ARefusalOrASaveMakesTheOneBeforeOld) {
+    RunningProgram run;
+    NoticeStrip strip;
+    const std::string noBackup = "No backup was written.";
+    const std::string lastRefusal =
+        "\"h\" was not taken: quantity and unit price take digits, comma and point.";
+    const std::string lastSave = "Deposit list saved: /home/ann/Jane Roe.dep";
+    int at = 0;
+    for (const std::string& told :
+         {noBackup, std::string("Proposal saved: /home/ann/Jane Roe.hef"),
+          std::string("\"Z\" was not taken: quantity and unit price take digits, comma and point."),
+          lastRefusal, lastSave}) {
+        BeginTelling(run.program);
+        run.program.main.Notice = told;
+        strip.Follow(run.program, at);
+    }
+    std::vector<std::string> read;
+    while (!strip.Text().empty()) {
+        read.push_back(strip.Text());
+        for (int key = 1; key <= 5; ++key) {
+            at += 1000;
+            strip.Activity(at);
+        }
+    }
+    EXPECT_EQ(read, (std::vector<std::string>{lastSave, lastRefusal, noBackup}));
+}
+
 TEST(Notice, TheSameWordsAfterAKeyAreToldAgain) {
     RunningProgram run;
     NoticeStrip strip;
