@@ -252,7 +252,8 @@ TEST(FormatSaving, TheTablesAreMadeFromWhatStandsOnThePages) {
     run.program.pages[PageId::frmP5].txtAmt[32].Text = "1.50";
     for (const modFormat::Texts texts : {modFormat::Texts::LayoutAndTexts, modFormat::Texts::LayoutOnly}) {
         const bool values = texts == modFormat::Texts::LayoutAndTexts;
-        const auto& areas = modFormat::TablesNow(run.program, texts).Areas[PageId::frmP5];
+        const modFormat::FormatTables tables = modFormat::TablesNow(run.program, texts);
+        const auto& areas = tables.Areas[PageId::frmP5];
         EXPECT_TRUE(areas[65].FontBold);
         EXPECT_TRUE(areas[32].QtyBox);
         EXPECT_EQ(areas[32].QtyValue, values ? "3" : "");
