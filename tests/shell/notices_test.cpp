@@ -141,51 +141,41 @@ TEST(Notice, AnotherOneTakesItsPlaceAndGivesItBackForTheRestOfItsTime) {
     EXPECT_EQ(strip.Text(), "");
 }
 
-TEST(Notice, TheSameWordsStandThereOnce) {
+/// What a person reads one after the other when all this is told in one moment.
+std::vector<std::string> ReadWhenTold(const std::vector<std::string>& notices) {
     RunningProgram run;
     NoticeStrip strip;
-    int at = 0;
-    for (const char* told : {"first", "second", "first", "third", "first"}) {
+    for (const std::string& told : notices) {
         BeginTelling(run.program);
         run.program.main.Notice = told;
-        strip.Follow(run.program, at);
+        strip.Follow(run.program, 0);
     }
     std::vector<std::string> read;
-    while (!strip.Text().empty()) {
+    for (int at = 0; !strip.Text().empty();) {
         read.push_back(strip.Text());
         for (int key = 1; key <= 5; ++key) {
             at += 1000;
             strip.Activity(at);
         }
     }
-    EXPECT_EQ(read, (std::vector<std::string>{"first", "third", "second"})) << "the latest first";
+    return read;
+}
+
+TEST(Notice, TheSameWordsStandThereOnce) {
+    EXPECT_EQ(ReadWhenTold({"first", "second", "first", "third", "first"}),
+              (std::vector<std::string>{"first", "third", "second"}))
+        << "the latest first";
 }
 
 TEST(Notice, ARefusalOrASaveMakesTheOneBeforeOld) {
-    RunningProgram run;
-    NoticeStrip strip;
     const std::string noBackup = "No backup was written.";
+    const std::string refusal = "\"Z\" was not taken: quantity and unit price take digits, comma and point.";
     const std::string lastRefusal =
         "\"h\" was not taken: quantity and unit price take digits, comma and point.";
+    const std::string save = "Proposal saved: /home/ann/Jane Roe.hef";
     const std::string lastSave = "Deposit list saved: /home/ann/Jane Roe.dep";
-    int at = 0;
-    for (const std::string& told :
-         {noBackup, std::string("Proposal saved: /home/ann/Jane Roe.hef"),
-          std::string("\"Z\" was not taken: quantity and unit price take digits, comma and point."),
-          lastRefusal, lastSave}) {
-        BeginTelling(run.program);
-        run.program.main.Notice = told;
-        strip.Follow(run.program, at);
-    }
-    std::vector<std::string> read;
-    while (!strip.Text().empty()) {
-        read.push_back(strip.Text());
-        for (int key = 1; key <= 5; ++key) {
-            at += 1000;
-            strip.Activity(at);
-        }
-    }
-    EXPECT_EQ(read, (std::vector<std::string>{lastSave, lastRefusal, noBackup}));
+    EXPECT_EQ(ReadWhenTold({noBackup, save, refusal, lastRefusal, lastSave}),
+              (std::vector<std::string>{lastSave, lastRefusal, noBackup}));
 }
 
 TEST(Notice, TheSameWordsAfterAKeyAreToldAgain) {
